@@ -1,0 +1,58 @@
+// The journal: everything that crosses the seam between host and modules and that a user would
+// notice, in the order in which it happened. Entries are kept in memory, where play scripts look for
+// what they expect, and are written as JSON lines (UTF-8) when a file is given. Any thread may call.
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdio>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+namespace devhost {
+
+using Json = nlohmann::ordered_json;
+
+// UTF-8 of wide text (UTF-16 on Windows, one code unit or code point per wchar_t elsewhere), and
+// back. Lone surrogates become U+FFFD.
+std::string Utf8(const wchar_t* text);
+std::string Utf8(const std::wstring& text);
+std::wstring Wide(const std::string& utf8);
+
+struct JournalEntry {
+  int number;        // from 1
+  int milliseconds;  // since the journal was made
+  std::string event; // "sent", "printed", "prompt", "command", "lisp", "var", "messagebox", "dialog",
+                     // "shell", "help", "document", "module", "statustext"
+  Json fields;       // an object; what each event holds stands in docs/play-scripts.md
+};
+
+class Journal {
+ public:
+  // Writes to this stream from now on, one line an entry, flushed; null stops writing. Not owned.
+  void WriteTo(std::FILE* stream);
+
+  void Record(const char* event, Json fields);
+
+  int Count() const;  // number of the latest entry, 0 when there is none
+  std::vector<JournalEntry> Since(int number) const;  // entries with a number above this one
+
+  // Waits until an entry above `number` fulfils the test, or the time is over.
+  bool WaitFor(int number, std::chrono::milliseconds limit,
+               const std::function<bool(const JournalEntry&)>& test) const;
+
+ private:
+  mutable std::mutex m_mutex;
+  mutable std::condition_variable m_changed;
+  std::vector<JournalEntry> m_entries;
+  std::FILE* m_stream = nullptr;
+  std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+};
+
+Journal& TheJournal();
+
+}  // namespace devhost

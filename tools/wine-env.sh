@@ -1,0 +1,41 @@
+# Sourced by the scripts that run Windows programs: one Wine prefix and one virtual display per build
+# folder, made on first use. Call `qvx_wine_start BUILD_DIR`, then `qvx_wine PROGRAM ARGS`; what was
+# started here is ended by `qvx_wine_stop`, and nothing else is.
+
+qvx_wine() { LC_ALL=zh_CN.UTF-8 wine "$@"; }
+
+# A display of our own unless the caller has one: Xvfb picks a free number itself.
+qvx_display_start() {
+  QVX_XVFB_PID=""
+  [ -n "${DISPLAY:-}" ] && [ "${QVX_OWN_DISPLAY:-0}" != 1 ] && return 0
+  local fifo; fifo=$(mktemp -u); mkfifo "$fifo"
+  Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
+  QVX_XVFB_PID=$!
+  local number; read -r number <"$fifo"; rm -f "$fifo"
+  export DISPLAY=":$number"
+}
+
+qvx_wine_start() {
+  export WINEPREFIX; WINEPREFIX="$(realpath -m "$1")/wine"
+  export WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}" WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+  mkdir -p "$1"
+  qvx_display_start
+  (
+    flock 9
+    if [ ! -f "$WINEPREFIX/.ready" ]; then
+      qvx_wine wineboot -i >/dev/null 2>&1
+      # Every program of the prefix runs in one virtual desktop, which gives its windows frames.
+      qvx_wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d QVX /f >/dev/null 2>&1
+      qvx_wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v QVX /d 1280x900 /f >/dev/null 2>&1
+      # Without this a failed program waits for somebody to press a button.
+      qvx_wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
+      touch "$WINEPREFIX/.ready"
+    fi
+  ) 9>"$1/.wine-lock"
+}
+
+qvx_wine_stop() {
+  [ -n "${WINEPREFIX:-}" ] && wineserver -k >/dev/null 2>&1
+  [ -n "${QVX_XVFB_PID:-}" ] && kill "$QVX_XVFB_PID" 2>/dev/null
+  return 0
+}
