@@ -1,0 +1,33 @@
+# Sourced by run and test: installs what the builds need and this machine lacks, then configures.
+# All talk goes to standard error, so that a caller's standard output stays its own.
+
+qvx_install_missing() {
+  local packages=(g++ cmake ninja-build libgtest-dev wine wine64 g++-mingw-w64-x86-64-posix xvfb
+                  xdotool x11-utils fonts-wqy-microhei fonts-wine imagemagick nlohmann-json3-dev
+                  libcli11-dev python3 ccache)
+  local missing=() p
+  for p in "${packages[@]}"; do
+    [ "$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null)" = "install ok installed" ] || missing+=("$p")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local sudo=""; [ "$(id -u)" = 0 ] || sudo=sudo
+  echo "installing: ${missing[*]}" >&2
+  { $sudo apt-get update && $sudo env DEBIAN_FRONTEND=noninteractive \
+      apt-get install -y --no-install-recommends "${missing[@]}"; } >&2
+}
+
+# qvx_build PRESET [TARGET...]: configures once and builds; quiet unless something is wrong.
+qvx_build() {
+  local preset=$1; shift
+  local log="build/$preset.log"
+  mkdir -p build
+  if [ ! -f "build/$preset/build.ninja" ]; then
+    echo "configuring $preset" >&2
+    CCACHE_NOHASHDIR=1 cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$log" 2>&1 ||
+      { cat "$log" >&2; return 1; }
+  fi
+  echo "building $preset" >&2
+  CCACHE_NOHASHDIR=1 ninja -C "build/$preset" "$@" >"$log" 2>&1 || { tail -n 60 "$log" >&2; return 1; }
+  # A warning does not stop anybody's work, but it is not let in either: see test.
+  if grep -q 'warning:' "$log"; then grep 'warning:' "$log" >>"build/$preset.warnings"; fi
+}

@@ -1,0 +1,97 @@
+# What ./test is made of: running test programs, plays and checks, and counting what they found.
+passed=0
+failed=0
+failures=()
+fail() { failed=$((failed + 1)); failures+=("$1"); echo "FAILED: $1"; }
+pass() { passed=$((passed + 1)); }
+
+# One test program: its own count is taken from its closing lines; a program that dies without them,
+# or takes longer than five minutes, counts as one failure that names it.
+run_program() {
+  local build=$1 program=$2 name log rc=0
+  name=$(basename "$program"); log="build/$build/$name.log"
+  if [ "$build" = windows ]; then
+    LC_ALL=zh_CN.UTF-8 timeout 300 wine "$program" --gtest_color=no >"$log" 2>&1 || rc=$?
+  else
+    timeout 300 "$program" --gtest_color=no >"$log" 2>&1 || rc=$?
+  fi
+  tr -d '\r' <"$log" >"$log.unix" && mv "$log.unix" "$log"
+  local ok bad
+  ok=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) test.*/\1/p' "$log" | tail -n 1)
+  bad=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) test.*listed below.*/\1/p' "$log" | tail -n 1)
+  passed=$((passed + ${ok:-0}))
+  if [ -n "$bad" ]; then
+    failed=$((failed + bad))
+    failures+=("$build $name: $(sed -n 's/^\[  FAILED  \] \([^ ]*\).*/\1/p' "$log" | sort -u | tr '\n' ' ')")
+    grep -B 12 '^\[  FAILED  \]' "$log" | head -n 120
+  elif [ "$rc" -ne 0 ] || [ -z "$ok" ]; then
+    fail "$build $name ended with $rc after: $(grep '^\[ RUN' "$log" | tail -n 1)"
+    tail -n 30 "$log"
+  fi
+  printf '%-8s %-28s %5s passed %4s failed\n' "$build" "$name" "${ok:-0}" "${bad:-0}"
+}
+
+run_programs() {
+  local build=$1 only=$2 program
+  for program in build/"$build"/bin/test_*; do
+    case $program in *.log|*.dll) continue ;; esac
+    [ -f "$program" ] && [ -x "$program" ] || continue
+    case $(basename "$program") in *"$only"*) run_program "$build" "$program" ;; esac
+  done
+}
+
+# A play: `# args: ...` in its head gives further arguments, `# product: NAME` lays
+# tests/plays/products/NAME over a copy of the product, `# without: FILE...` takes files out of that
+# copy, `# exit: N` the expected exit code (0), `# output: TEXT` what its output must contain.
+run_play() {
+  local script=$1 name rc=0 want args overlay without output
+  name=$(basename "$script" .script)
+  head_value() { sed -n "s/^# $1: *//p" "$script" | head -n 1; }
+  want=$(head_value exit); args=$(head_value args); overlay=$(head_value product)
+  without=$(head_value without); output=$(head_value output)
+  local work="build/plays/$name"
+  rm -rf "$work"; mkdir -p "$work/product"
+  cp -r build/windows/bin/product/. "$work/product/"
+  [ -z "$overlay" ] || cp -r "tests/plays/products/$overlay/." "$work/product/"
+  local f; for f in $without; do rm -f "$work/product/"$f; done
+  cp product/*.dxf "$work/"
+  cp "$script" "$work/play.script"
+  # Every play starts as on a machine where nothing was ever set.
+  LC_ALL=zh_CN.UTF-8 wine reg delete 'HKCU\Software\Quivera' /f >/dev/null 2>&1
+  LC_ALL=zh_CN.UTF-8 wine reg delete 'HKLM\Software\Quivera' /f >/dev/null 2>&1
+  LC_ALL=zh_CN.UTF-8 wine reg delete 'HKCU\Software\DevHost' /f >/dev/null 2>&1
+  # shellcheck disable=SC2086
+  (cd "$work" && LC_ALL=zh_CN.UTF-8 timeout 180 wine ../../windows/bin/devhost.exe --product product \
+     --play play.script --journal journal.jsonl $args) >"$work/output.txt" 2>&1 || rc=$?
+  if [ "$rc" -eq "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
+    pass; printf 'play     %-28s ok\n' "$name"
+  else
+    fail "play $name ended with $rc"; tail -n 15 "$work/output.txt"
+    tail -n 5 "$work/journal.jsonl" 2>/dev/null
+  fi
+}
+
+run_plays() {
+  local script
+  for script in tests/plays/*.script; do
+    case $(basename "$script") in *"$1"*) run_play "$script" ;; esac
+  done
+}
+
+# Each executable in tools/checks/ looks at the tree as it stands and says what is wrong.
+run_checks() {
+  local check out
+  for check in tools/checks/*; do
+    [ -x "$check" ] || continue
+    if out=$("$check" 2>&1); then pass; printf 'check    %-28s ok\n' "$(basename "$check")"
+    else fail "check $(basename "$check")"; printf '%s\n' "$out" | head -n 40; fi
+  done
+  if compgen -G 'build/*.warnings' >/dev/null; then fail "compiler warnings"; cat build/*.warnings | head -n 20; else pass; fi
+}
+
+report() {
+  local f
+  for f in "${failures[@]:-}"; do [ -n "$f" ] && echo "  failed: $f"; done
+  echo "$passed passed, $failed failed"
+  [ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
+}
