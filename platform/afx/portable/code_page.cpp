@@ -1,0 +1,143 @@
+// Between narrow text in a code page and wide text of UTF-16 units: the system's own conversion on
+// Windows, iconv elsewhere. CString and whoever reads 8-bit files come here.
+#include "afxstr.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+
+#ifdef _WIN32
+
+std::wstring AnsiToWide(const char* text, std::size_t bytes, unsigned page) {
+  const int size = static_cast<int>(bytes);
+  const int units = size ? MultiByteToWideChar(page, 0, text, size, nullptr, 0) : 0;
+  std::wstring wide(static_cast<std::size_t>(units), L'\0');
+  if (units) MultiByteToWideChar(page, 0, text, size, wide.data(), units);
+  return wide;
+}
+
+std::string WideToAnsi(const wchar_t* text, std::size_t units, unsigned page) {
+  const int size = static_cast<int>(units);
+  const int bytes =
+      size ? WideCharToMultiByte(page, 0, text, size, nullptr, 0, nullptr, nullptr) : 0;
+  std::string narrow(static_cast<std::size_t>(bytes), '\0');
+  if (bytes) WideCharToMultiByte(page, 0, text, size, narrow.data(), bytes, nullptr, nullptr);
+  return narrow;
+}
+
+#else
+
+#include <iconv.h>
+
+namespace {
+
+constexpr char kUtf16[] = "UTF-16LE";
+constexpr wchar_t kReplacement = 0xFFFD;
+// The page of the field has the euro sign at this byte; the conversion tables here leave it out.
+constexpr unsigned kChinesePage = 936;
+constexpr char kEuroByte = '\x80';
+constexpr wchar_t kEuro = 0x20AC;
+
+std::string PageName(unsigned page) {
+  if (page == 65001) return "UTF-8";
+  if (page == 28591) return "ISO-8859-1";
+  return "CP" + std::to_string(page ? page : AFX_ANSI_PAGE);
+}
+
+// One conversion descriptor, closed with its owner.
+class Converter {
+ public:
+  Converter(const std::string& to, const std::string& from)
+      : m_handle(iconv_open(to.c_str(), from.c_str())) {}
+  ~Converter() {
+    if (IsOpen()) iconv_close(m_handle);
+  }
+  Converter(const Converter&) = delete;
+  Converter& operator=(const Converter&) = delete;
+  bool IsOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
+
+  // Converts what it can and moves the input on; false when it stopped at something invalid.
+  bool Run(const char*& in, std::size_t& left, std::string* out) {
+    std::array<char, 4096> chunk;
+    for (;;) {
+      char* source = const_cast<char*>(in);
+      char* target = chunk.data();
+      std::size_t room = chunk.size();
+      const std::size_t result = iconv(m_handle, &source, &left, &target, &room);
+      const int why = errno;
+      out->append(chunk.data(), chunk.size() - room);
+      in = source;
+      if (result != static_cast<std::size_t>(-1)) return true;
+      if (why != E2BIG) return false;
+    }
+  }
+
+ private:
+  iconv_t m_handle;
+};
+
+void AppendUnit(std::string* utf16, wchar_t unit) {
+  utf16->push_back(static_cast<char>(unit & 0xFF));
+  utf16->push_back(static_cast<char>(unit >> 8 & 0xFF));
+}
+
+std::wstring UnitsOf(const std::string& utf16) {
+  std::wstring wide;
+  wide.reserve(utf16.size() / 2);
+  for (std::size_t i = 0; i + 1 < utf16.size(); i += 2)
+    wide.push_back(static_cast<wchar_t>(static_cast<std::uint8_t>(utf16[i]) |
+                                        static_cast<std::uint8_t>(utf16[i + 1]) << 8));
+  return wide;
+}
+
+bool IsAscii(char character) { return static_cast<unsigned char>(character) < 0x80; }
+
+}  // namespace
+
+std::wstring AnsiToWide(const char* text, std::size_t bytes, unsigned page) {
+  if (std::all_of(text, text + bytes, IsAscii)) return std::wstring(text, text + bytes);
+  Converter converter(kUtf16, PageName(page));
+  std::string utf16;
+  const bool chinese = page == kChinesePage || page == 0;
+  while (bytes) {
+    if (converter.IsOpen() && converter.Run(text, bytes, &utf16)) break;
+    AppendUnit(&utf16, chinese && *text == kEuroByte ? kEuro : kReplacement);
+    ++text;
+    --bytes;
+  }
+  return UnitsOf(utf16);
+}
+
+std::string WideToAnsi(const wchar_t* text, std::size_t units, unsigned page) {
+  std::string utf16;
+  utf16.reserve(units * 2);
+  for (std::size_t i = 0; i < units; ++i) AppendUnit(&utf16, text[i]);
+  Converter converter(PageName(page), kUtf16);
+  const char* in = utf16.data();
+  std::size_t left = utf16.size();
+  std::string narrow;
+  const bool chinese = page == kChinesePage || page == 0;
+  while (left) {
+    if (converter.IsOpen() && converter.Run(in, left, &narrow)) break;
+    const auto low = static_cast<std::uint8_t>(in[0]);
+    const auto high = static_cast<std::uint8_t>(in[1]);
+    narrow.push_back(chinese && (high << 8 | low) == kEuro ? kEuroByte : '?');
+    // Both halves of a pair are one character that the page lacks.
+    const bool pair = (high & 0xFC) == 0xD8 && left >= 4 && (in[3] & '\xFC') == '\xDC';
+    const std::size_t step = pair ? 4 : 2;
+    in += step;
+    left -= step;
+  }
+  return narrow;
+}
+
+#endif
+
+std::wstring AnsiToWide(std::string_view text, unsigned page) {
+  return AnsiToWide(text.data(), text.size(), page);
+}
+
+std::string WideToAnsi(std::wstring_view text, unsigned page) {
+  return WideToAnsi(text.data(), text.size(), page);
+}

@@ -1,0 +1,21 @@
+// What CFile asks of the operating system: a handful of calls with one error convention. Used by
+// file.cpp; file_windows.cpp and file_unix.cpp implement it.
+#pragma once
+
+#include "afx.h"
+
+namespace afx_file {
+
+// Every call gives the system's error number, 0 for success.
+LONG OpenFile(const CString& path, UINT openFlags, CFile::Handle* handle);
+LONG CloseFile(CFile::Handle handle);
+LONG ReadFile(CFile::Handle handle, void* buffer, UINT count, UINT* taken);
+LONG WriteFile(CFile::Handle handle, const void* buffer, UINT count);
+LONG SeekFile(CFile::Handle handle, LONGLONG offset, UINT from, ULONGLONG* position);
+LONG FileLength(CFile::Handle handle, ULONGLONG* length);
+LONG SetFileLength(CFile::Handle handle, ULONGLONG length);
+LONG FlushFile(CFile::Handle handle);
+LONG RenameFile(const CString& from, const CString& to);
+LONG RemoveFile(const CString& path);
+
+}  // namespace afx_file
