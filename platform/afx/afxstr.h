@@ -38,9 +38,7 @@ inline constexpr unsigned AFX_ANSI_PAGE = 936;
 
 // Bytes that are no character of the page become U+FFFD; characters that the page lacks become '?'.
 // Wide text is one UTF-16 unit per wchar_t on every build.
-std::wstring AnsiToWide(const char* text, std::size_t bytes, unsigned page = AFX_ANSI_PAGE);
 std::wstring AnsiToWide(std::string_view text, unsigned page = AFX_ANSI_PAGE);
-std::string WideToAnsi(const wchar_t* text, std::size_t units, unsigned page = AFX_ANSI_PAGE);
 std::string WideToAnsi(std::wstring_view text, unsigned page = AFX_ANSI_PAGE);
 
 template <class Char>

@@ -9,16 +9,18 @@
 
 #ifdef _WIN32
 
-std::wstring AnsiToWide(const char* text, std::size_t bytes, unsigned page) {
-  const int size = static_cast<int>(bytes);
+std::wstring AnsiToWide(std::string_view narrow, unsigned page) {
+  const char* text = narrow.data();
+  const int size = static_cast<int>(narrow.size());
   const int units = size ? MultiByteToWideChar(page, 0, text, size, nullptr, 0) : 0;
   std::wstring wide(static_cast<std::size_t>(units), L'\0');
   if (units) MultiByteToWideChar(page, 0, text, size, wide.data(), units);
   return wide;
 }
 
-std::string WideToAnsi(const wchar_t* text, std::size_t units, unsigned page) {
-  const int size = static_cast<int>(units);
+std::string WideToAnsi(std::wstring_view wide, unsigned page) {
+  const wchar_t* text = wide.data();
+  const int size = static_cast<int>(wide.size());
   const int bytes =
       size ? WideCharToMultiByte(page, 0, text, size, nullptr, 0, nullptr, nullptr) : 0;
   std::string narrow(static_cast<std::size_t>(bytes), '\0');
@@ -95,8 +97,11 @@ bool IsAscii(char character) { return static_cast<unsigned char>(character) < 0x
 
 }  // namespace
 
-std::wstring AnsiToWide(const char* text, std::size_t bytes, unsigned page) {
-  if (std::all_of(text, text + bytes, IsAscii)) return std::wstring(text, text + bytes);
+std::wstring AnsiToWide(std::string_view narrow, unsigned page) {
+  if (std::all_of(narrow.begin(), narrow.end(), IsAscii))
+    return std::wstring(narrow.begin(), narrow.end());
+  const char* text = narrow.data();
+  std::size_t bytes = narrow.size();
   Converter converter(kUtf16, PageName(page));
   std::string utf16;
   const bool chinese = page == kChinesePage || page == 0;
@@ -109,10 +114,10 @@ std::wstring AnsiToWide(const char* text, std::size_t bytes, unsigned page) {
   return UnitsOf(utf16);
 }
 
-std::string WideToAnsi(const wchar_t* text, std::size_t units, unsigned page) {
+std::string WideToAnsi(std::wstring_view wide, unsigned page) {
   std::string utf16;
-  utf16.reserve(units * 2);
-  for (std::size_t i = 0; i < units; ++i) AppendUnit(&utf16, text[i]);
+  utf16.reserve(wide.size() * 2);
+  for (const wchar_t unit : wide) AppendUnit(&utf16, unit);
   Converter converter(PageName(page), kUtf16);
   const char* in = utf16.data();
   std::size_t left = utf16.size();
@@ -133,11 +138,3 @@ std::string WideToAnsi(const wchar_t* text, std::size_t units, unsigned page) {
 }
 
 #endif
-
-std::wstring AnsiToWide(std::string_view text, unsigned page) {
-  return AnsiToWide(text.data(), text.size(), page);
-}
-
-std::string WideToAnsi(std::wstring_view text, unsigned page) {
-  return WideToAnsi(text.data(), text.size(), page);
-}

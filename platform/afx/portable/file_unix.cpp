@@ -18,7 +18,7 @@ LONG Result(bool done) { return done ? 0 : errno; }
 int Descriptor(CFile::Handle handle) { return static_cast<int>(handle); }
 
 std::string PathOf(const CString& path) {
-  return WideToAnsi(path.GetString(), static_cast<std::size_t>(path.GetLength()), kUtf8Page);
+  return WideToAnsi({path.GetString(), static_cast<std::size_t>(path.GetLength())}, kUtf8Page);
 }
 
 }  // namespace

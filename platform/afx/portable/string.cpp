@@ -13,8 +13,8 @@ std::size_t LengthOf(const Char* text) {
   return text ? std::char_traits<Char>::length(text) : 0;
 }
 
-std::wstring Other(const char* text, std::size_t length) { return AnsiToWide(text, length); }
-std::string Other(const wchar_t* text, std::size_t length) { return WideToAnsi(text, length); }
+std::wstring Other(const char* text, std::size_t length) { return AnsiToWide({text, length}); }
+std::string Other(const wchar_t* text, std::size_t length) { return WideToAnsi({text, length}); }
 
 std::size_t Size(int count) {
   if (count < 0) AfxThrowInvalidArgException();

@@ -1,0 +1,53 @@
+// Narrow text of the field's code page to wide text and back.
+#include <gtest/gtest.h>
+
+#include "afx.h"
+
+namespace {
+
+constexpr unsigned kChinese = 936;
+
+TEST(CodePage, TwoByteCharactersComeAndGo) {
+  const std::wstring wide = L"墙体 wall 柱子·—";
+  EXPECT_EQ(AnsiToWide(WideToAnsi(wide, kChinese), kChinese), wide);
+  EXPECT_EQ(WideToAnsi(L"墙", kChinese), "\xC7\xBD");
+}
+
+TEST(CodePage, TheEuroSignIsOneByte) {
+  EXPECT_EQ(AnsiToWide("\x80", kChinese), L"\x20AC");
+  EXPECT_EQ(WideToAnsi(L"\x20AC", kChinese), "\x80");
+}
+
+TEST(CodePage, WhatThePageLacksBecomesAQuestionMark) {
+  EXPECT_EQ(WideToAnsi(L"a\x0E01z", kChinese), "a?z");
+}
+
+TEST(CodePage, EmptyTextStaysEmpty) {
+  EXPECT_EQ(AnsiToWide(""), L"");
+  EXPECT_EQ(WideToAnsi(L""), "");
+}
+
+TEST(CodePage, LongTextIsConvertedWhole) {
+  std::wstring wide;
+  for (int i = 0; i < 5000; ++i) wide += L"墙a";
+  EXPECT_EQ(AnsiToWide(WideToAnsi(wide, kChinese), kChinese), wide);
+}
+
+TEST(CodePage, Utf8IsAPageToo) {
+  EXPECT_EQ(AnsiToWide("\xE5\xA2\x99", 65001), L"墙");
+  EXPECT_EQ(WideToAnsi(L"墙", 65001), "\xE5\xA2\x99");
+}
+
+#ifndef _WIN32
+// Windows marks broken text in its own ways; elsewhere the mark is fixed.
+TEST(CodePage, ABrokenByteBecomesTheReplacementCharacter) {
+  EXPECT_EQ(AnsiToWide("a\xFFz", kChinese), L"a\xFFFDz");
+  EXPECT_EQ(AnsiToWide("a\xC7", kChinese), L"a\xFFFD");
+}
+
+TEST(CodePage, AnUnknownPageBreaksEveryByte) {
+  EXPECT_EQ(AnsiToWide("\xC7\xBD", 4), L"\xFFFD\xFFFD");
+}
+#endif
+
+}  // namespace
