@@ -1,0 +1,73 @@
+// The settings that the kernel shares with the modules of the family, and the functions around
+// them. Each is plain exported data; settings.h has the table with type, default and meaning of
+// each. They are read from the registry when the kernel is loaded and written back by
+// SaveGlobalToReg.
+#pragma once
+
+#include "afx.h"
+#include "kernel/kernel_export.h"
+#include "wintypes.h"
+
+class CWnd;
+class AcDbDatabase;
+
+extern QVX_KERNEL int g_bDisableHook;
+extern QVX_KERNEL int g_nCustomFlag;
+extern QVX_KERNEL int g_bHideCaption;
+extern QVX_KERNEL int g_bAutoOpenRecent;
+extern QVX_KERNEL CString g_sRecentFiles;
+extern QVX_KERNEL wchar_t g_szFileNameToOpen[260];
+extern QVX_KERNEL wchar_t g_szInitCmdStr[512];
+extern QVX_KERNEL int g_bDwgTabBar;
+extern QVX_KERNEL int g_bZoomKey;
+extern QVX_KERNEL int g_bShiftToggle;
+extern QVX_KERNEL int g_nSpeedMenu;
+extern QVX_KERNEL int g_nRBtnMenuTime;
+extern QVX_KERNEL int g_bDblClkEditObj;
+extern QVX_KERNEL int g_bEnableSelectPreview;
+extern QVX_KERNEL int g_bDefaultOpenFirst;
+extern QVX_KERNEL int g_bLimitHeight;
+extern QVX_KERNEL int g_bScrollBar;
+extern QVX_KERNEL int g_iMenuRowHeight;
+extern QVX_KERNEL COLORREF g_menuColors[4];
+extern QVX_KERNEL int g_bShowMenuTip;
+extern QVX_KERNEL int g_iMenuType;
+extern QVX_KERNEL int g_nRunMode;
+extern QVX_KERNEL HINSTANCE g_hQvxDll;
+extern QVX_KERNEL int g_iInPlaceFontHeight;
+extern QVX_KERNEL COLORREF g_colorInPlaceGround;
+extern QVX_KERNEL COLORREF g_colorInPlaceText;
+extern QVX_KERNEL int g_bMakeGroup;
+extern QVX_KERNEL int g_bDynamicCoord;
+extern QVX_KERNEL int g_nDimAdjust;
+extern QVX_KERNEL int g_nProductId;
+extern QVX_KERNEL double g_nVersion;
+extern QVX_KERNEL double g_dHostVersion;
+extern QVX_KERNEL CWnd* g_pContextMenu;
+
+// The geometry library's share of the same.
+struct QVX_KERNEL QvxGeLib {
+  static int g_bDynInput;
+  static int g_iMaxDynDimNum;
+  static AcDbDatabase* g_pCurrentDb;
+  static wchar_t g_sAppPath[260];
+};
+
+// The product's key path below either root. It names the host release and the product, so that
+// settings of one never reach another. Valid for the life of the kernel.
+QVX_KERNEL const wchar_t* GetRegLocation();
+
+QVX_KERNEL int GetCustomFlag();
+
+// Writes every kept setting under GetRegLocation() + "\Settings"; a refused write is ignored.
+QVX_KERNEL void SaveGlobalToReg();
+
+// Makes the kernel's view of the current drawing true again: called after a drawing was loaded and
+// after a menu was.
+QVX_KERNEL void DocStatus();
+
+// Settings by name, for tools that drive the program. Numbers are decimal or 0x hexadecimal; one
+// element of an array is written name[i]. 0 for an unknown name or a value of the wrong form.
+extern "C" QVX_KERNEL int QvxSetSetting(const wchar_t* name, const wchar_t* value);
+// Fills `out` (`units` wide characters, always terminated); 0 for an unknown name.
+extern "C" QVX_KERNEL int QvxGetSetting(const wchar_t* name, wchar_t* out, int units);

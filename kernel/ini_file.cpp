@@ -1,0 +1,76 @@
+#include "kernel/ini_file.h"
+
+namespace {
+
+// Bytes of a double-byte character's second half can equal any of '[', ']' and '=' but never a
+// blank, tab or control: the cuts below are therefore made in wide text wherever such a sign is
+// looked for.
+std::string_view Trim(std::string_view text) {
+  const char* const kBlanks = " \t\r\n";
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+TWCString WideOf(std::string_view bytes) {
+  return TUString(bytes.data(), static_cast<int>(bytes.size()));
+}
+
+TWCString TrimWide(const wchar_t* text, int count) {
+  while (count > 0 && (text[0] == L' ' || text[0] == L'\t')) ++text, --count;
+  while (count > 0 && (text[count - 1] == L' ' || text[count - 1] == L'\t')) --count;
+  TWCString trimmed;
+  trimmed.Assign(text, count);
+  return trimmed;
+}
+
+// The name between the brackets, or false for a line that opens no section.
+bool SectionName(const TWCString& line, TWCString& name) {
+  if (line.c_str()[0] != L'[') return false;
+  int close = 1;
+  while (close < line.Length() && line.c_str()[close] != L']') ++close;
+  if (close == line.Length()) return false;
+  name = TrimWide(line.c_str() + 1, close - 1);
+  return true;
+}
+
+}  // namespace
+
+bool IniSection::Read(std::string_view bytes, const wchar_t* section) {
+  bool inside = false, found = false;
+  while (!bytes.empty()) {
+    const auto end = bytes.find('\n');
+    const std::string_view line = Trim(bytes.substr(0, end));
+    bytes = end == std::string_view::npos ? std::string_view{} : bytes.substr(end + 1);
+    if (line.empty() || line[0] == ';') continue;
+    TWCString name;
+    if (line[0] == '[' && SectionName(WideOf(line), name)) {
+      inside = name.EqualsNoCase(section);
+      found = found || inside;
+    } else if (inside) {
+      AddLine(line);
+    }
+  }
+  return found;
+}
+
+void IniSection::AddLine(std::string_view line) {
+  const TWCString text = WideOf(line);
+  int equals = 0;
+  while (equals < text.Length() && text.c_str()[equals] != L'=') ++equals;
+  if (equals == text.Length()) return;
+  TWCString value = TrimWide(text.c_str() + equals + 1, text.Length() - equals - 1);
+  const int last = value.Length() - 1;
+  if (last > 0 && value.c_str()[0] == L'"' && value.c_str()[last] == L'"') {
+    TWCString inner;
+    inner.Assign(value.c_str() + 1, last - 1);
+    value = std::move(inner);
+  }
+  m_values.emplace_back(TrimWide(text.c_str(), equals), std::move(value));
+}
+
+const wchar_t* IniSection::Value(const wchar_t* key) const {
+  for (const auto& [name, value] : m_values)
+    if (name.EqualsNoCase(key)) return value.c_str();
+  return nullptr;
+}

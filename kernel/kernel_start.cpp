@@ -1,0 +1,42 @@
+#include "kernel/kernel_start.h"
+
+#include <cstdlib>
+#include <cwchar>
+
+#include "acdocman.h"
+#include "aced.h"
+#include "adslib.h"
+#include "kernel/globals.h"
+#include "kernel/settings.h"
+#include "kernel/tsplitpath.h"
+
+namespace {
+
+double HostRelease() {
+  resbuf value{};
+  if (acedGetVar(L"ACADVER", &value) != RTNORM || value.restype != RTSTR) return 0;
+  const double release = ReleaseOfVersionText(value.resval.rstring);
+  std::free(value.resval.rstring);
+  return release;
+}
+
+void SetAppPath(const wchar_t* modulePath) {
+  TSplitpathOperator parts(modulePath);
+  TWCString folder(parts.Drive());
+  folder += parts.Folder();
+  if (folder.Length() < 260) std::wcscpy(QvxGeLib::g_sAppPath, folder);
+}
+
+}  // namespace
+
+void StartKernel(const wchar_t* modulePath) {
+  g_dHostVersion = HostRelease();
+  LoadSettings();
+  SetAppPath(modulePath);
+}
+
+void DocStatus() {
+  AcApDocManager* documents = acDocManagerPtr();
+  AcApDocument* current = documents ? documents->curDocument() : nullptr;
+  QvxGeLib::g_pCurrentDb = current ? current->database() : nullptr;
+}

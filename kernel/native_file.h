@@ -1,0 +1,19 @@
+// Opening a file by a wide path on either build: the path goes to the system as it is on Windows
+// and as UTF-8 elsewhere.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "kernel/kernel_export.h"
+
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using FileOwner = std::unique_ptr<std::FILE, FileCloser>;
+
+QVX_KERNEL FileOwner OpenWideFile(const wchar_t* path, const wchar_t* mode);
+
+// The whole content; false when the file can't be opened or read.
+QVX_KERNEL bool ReadWholeFile(const wchar_t* path, std::string& bytes);

@@ -1,0 +1,47 @@
+#include "kernel/tadsprintf.h"
+
+#include <cstdarg>
+#include <cwchar>
+#include <vector>
+
+#include "adslib.h"
+#include "kernel/twcstring.h"
+
+TADSPrintf adsout;
+
+TADSPrintf& TADSPrintf::operator<<(const wchar_t* text) {
+  if (text && *text) acutPrintf(L"%ls", text);
+  return *this;
+}
+
+TADSPrintf& TADSPrintf::operator<<(const char* narrow) { return *this << TUString(narrow).c_str(); }
+
+TADSPrintf& TADSPrintf::operator<<(wchar_t unit) {
+  const wchar_t text[] = {unit, 0};
+  return *this << text;
+}
+
+TADSPrintf& TADSPrintf::operator<<(int value) {
+  acutPrintf(L"%d", value);
+  return *this;
+}
+
+TADSPrintf& TADSPrintf::operator<<(double value) {
+  acutPrintf(L"%g", value);
+  return *this;
+}
+
+// Formatted here and handed over as plain text, so that length and conversions do not depend on
+// what the host's own printing allows.
+TADSPrintf& TADSPrintf::operator()(const wchar_t* format, ...) {
+  std::vector<wchar_t> text(512);
+  for (;;) {
+    std::va_list arguments;
+    va_start(arguments, format);
+    const int length = std::vswprintf(text.data(), text.size(), format, arguments);
+    va_end(arguments);
+    if (length >= 0 && static_cast<std::size_t>(length) < text.size()) return *this << text.data();
+    if (text.size() > 1u << 20) return *this;  // a format that never succeeds
+    text.resize(text.size() * 2);
+  }
+}

@@ -1,0 +1,32 @@
+// The host's way into the kernel module. It is loaded by the modules that need it, before anything
+// else they do, and unloaded by them last.
+#include <windows.h>
+
+#include "kernel/globals.h"
+#include "kernel/kernel_start.h"
+#include "rxdlinkr.h"
+#include "rxregsvc.h"
+
+namespace {
+void StartFromOwnFile() {
+  HMODULE self = nullptr;
+  wchar_t path[260] = L"";
+  GetModuleHandleExW(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCWSTR>(&StartFromOwnFile), &self);
+  GetModuleFileNameW(self, path, 260);
+  StartKernel(path);
+}
+}  // namespace
+
+extern "C" __declspec(dllexport) AcRx::AppRetCode
+    acrxEntryPoint(AcRx::AppMsgCode message, void* packet) {
+  if (message == AcRx::kInitAppMsg) {
+    acrxUnlockApplication(packet);
+    acrxRegisterAppMDIAware(packet);
+    StartFromOwnFile();
+  }
+  return AcRx::kRetOK;
+}
+
+extern "C" __declspec(dllexport) int acrxGetApiVersion(void) { return ACRX_API_VERSION; }

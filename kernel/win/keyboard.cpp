@@ -1,0 +1,5 @@
+#include <windows.h>
+
+#include "kernel/qvxexport.h"
+
+bool QvxExport::IsKeyPressed(int virtualKey) { return (GetKeyState(virtualKey) & 0x8000) != 0; }
