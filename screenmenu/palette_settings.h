@@ -1,0 +1,59 @@
+// What the palette keeps in the user's settings, under GetRegLocation() + "\Settings", folder
+// ScreenMenu, and the fixed numbers of its window. Reading leaves the caller's defaults standing
+// where a value is missing. Called by CScreenMenu and by the root group.
+#pragma once
+
+#include "wintypes.h"
+
+namespace qvx {
+
+constexpr int kPaletteLeastWidth = 74;
+constexpr int kPaletteLeastHeight = 200;
+constexpr int kPaletteFirstHeight = 80;
+
+struct PaletteSettings {
+  int alignment = 1;  // 1 docks left, 0 right
+  int sizeX = 76;
+  int limitHeight = 0;
+  int defaultOpenFirst = 0;
+  int scrollBar = 0;
+};
+
+// In this order: Alignment, SizeX, LimitHeight, DefaultOpenFirst, ScrollBar.
+void LoadPaletteSettings(PaletteSettings& settings);
+
+// SizeY is written and never read back: a palette that was dragged lower comes up at full height.
+void SavePaletteSize(int width, int height);
+
+struct PaletteState {
+  int visible;
+  int alignment;
+  SIZE size;
+  int limitHeight;
+  int defaultOpenFirst;
+  int scrollBar;
+};
+void SavePaletteState(const PaletteState& state);
+
+int LoadActiveSubMenu();  // -1 when nothing is remembered
+void SaveActiveSubMenu(int openIndex);
+
+// 1 when the palette is nearer to the frame's left side, or as near to it as to the right.
+int AlignmentOf(const RECT& palette, const RECT& frameClient);
+
+// Styles and dock bar of a side, as numbers of the window library.
+struct DockChoice {
+  unsigned barStyle;  // without WS_CHILD and WS_VISIBLE
+  int dockBar;
+};
+DockChoice DockFor(int alignment);
+
+struct ToolId {
+  unsigned data1;
+  unsigned short data2, data3;
+  unsigned char data4[8];
+};
+// The host keeps its layout by this. `product` must lie within 1 to 11: it is the caller's to hold.
+const ToolId& ToolIdOf(int product);
+
+}  // namespace qvx

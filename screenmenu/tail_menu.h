@@ -1,0 +1,34 @@
+// The pop-up of a right click on the palette: help for a line, jumps to the root's groups, and the
+// door to customising. Built as lines of the menu model; showing it is the pop-ups' business. Also
+// what a chosen line of it means.
+#pragma once
+
+#include <memory>
+
+#include "menu/menu_model.h"
+#include "screenmenu/screen_menu_bar.h"
+
+namespace qvx {
+
+inline constexpr wchar_t kHelpLabel[] = L"实时助手";
+
+struct TailMenuParts {
+  bool withHelp;
+  bool limitHeight;           // then there are no jumps
+  const TMenuBar* rootBar;    // may be null
+  const TMenuSystem* system;  // for the icons; may be null
+  const wchar_t* customize;   // the customising command's full name
+};
+std::unique_ptr<TMenuBar> BuildTailMenu(const TailMenuParts& parts);
+
+struct TailChoice {
+  enum class Kind { kNothing, kHelp, kToggle } kind;
+  int index;  // of the root's row, for kToggle
+};
+// `text` is the chosen command without its leading "*".
+TailChoice DecideTail(const wchar_t* text, const TScreenMenuBar& bar);
+
+// Where a header's pop-up begins: on the side of the button that is farther from the frame's edge.
+int HeaderPopupX(const RECT& button, const RECT& frame);
+
+}  // namespace qvx
