@@ -1,0 +1,29 @@
+// The play driver: reads a script and plays it on a thread of its own, with real mouse and keys, while
+// the main thread runs as always. Windows only; the program's entry calls it.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "devhost/play/ui_port.h"
+
+namespace devhost {
+
+class PlayDriver {
+ public:
+  PlayDriver();
+  ~PlayDriver();  // waits for the thread; the port must still live
+
+  // Reads the script. False when it can't be read: what is wrong is printed on the error stream as
+  // file:line:column, and the program is to end with exit code 2.
+  bool Load(const std::wstring& path);
+
+  // Starts playing. At the end, or at the first failure, the driver calls port.Quit with 0 or 1.
+  void Start(UiPort& port);
+
+ private:
+  struct Running;
+  std::unique_ptr<Running> m_running;
+};
+
+}  // namespace devhost

@@ -1,0 +1,115 @@
+// Rows by their labels, and the point to press. A row that can't be pressed is told apart by why:
+// it isn't there, it is folded away, or it is scrolled out.
+#include "devhost/play/state_path.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace devhost {
+namespace {
+
+constexpr int kDeepestRow = 32;  // no menu nests so far; a state that does is damaged
+
+std::optional<RECT> RectOf(const Json& object) {
+  if (!object.is_object() || !object.contains("rect")) return {};
+  const Json& rect = object["rect"];
+  if (!rect.is_array() || rect.size() != 4) return {};
+  std::array<LONG, 4> edge;
+  for (std::size_t i = 0; i < 4; ++i) {
+    if (!rect[i].is_number_integer()) return {};
+    const auto value = rect[i].get<std::int64_t>();
+    edge[i] = static_cast<LONG>(std::clamp<std::int64_t>(value, -100000, 100000));
+  }
+  return RECT{edge[0], edge[1], edge[2], edge[3]};
+}
+
+RECT Common(const RECT& a, const RECT& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
+}
+
+bool IsEmpty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
+
+bool IsFalse(const Json& row, const char* member) {
+  return row.contains(member) && row[member].is_boolean() && !row[member].get<bool>();
+}
+
+// Finds the row whose label begins the path and goes on into its rows. Every label is tried,
+// because a label that holds a "/" may begin like another one.
+class RowSearch {
+ public:
+  const Json* Find(const Json& rows, const std::string& path, int depth = 0) {
+    if (!rows.is_array() || depth > kDeepestRow) return nullptr;
+    for (const Json& row : rows) {
+      if (!row.is_object() || !row.contains("label") || !row["label"].is_string()) continue;
+      const auto& label = row["label"].get_ref<const std::string&>();
+      if (const Json* found = FindBelow(row, label, path, depth)) return found;
+    }
+    return nullptr;
+  }
+  const std::string& Deepest() const { return m_deepest; }
+
+ private:
+  const Json* FindBelow(const Json& row, const std::string& label, const std::string& path,
+                        int depth) {
+    if (path == label) return &row;
+    if (label.empty() || path.compare(0, label.size() + 1, label + "/") != 0) return nullptr;
+    if (m_deepest.size() < label.size()) m_deepest = label;
+    return row.contains("rows") ? Find(row["rows"], path.substr(label.size() + 1), depth + 1)
+                                : nullptr;
+  }
+  std::string m_deepest;  // the longest label that was found on the way
+};
+
+std::string LabelsOf(const Json& rows) {
+  std::string labels;
+  if (!rows.is_array()) return labels;
+  for (const Json& row : rows)
+    if (row.is_object() && row.contains("label") && row["label"].is_string())
+      labels += (labels.empty() ? "" : ", ") + QuotedForScript(row["label"].get<std::string>());
+  return labels;
+}
+
+RowPlace NoRow(const Json& rows, const std::string& path, const RowSearch& search) {
+  std::string text = "there is no row " + QuotedForScript(path);
+  if (!search.Deepest().empty())
+    text += "; row " + QuotedForScript(search.Deepest()) + " is there, or is it folded?";
+  else
+    text += "; there are " + (LabelsOf(rows).empty() ? "no rows" : LabelsOf(rows));
+  return {{}, text};
+}
+
+RowPlace PlaceIn(const Json& rows, const std::string& path, const std::optional<RECT>& window) {
+  RowSearch search;
+  const Json* row = search.Find(rows, path);
+  if (!row) return NoRow(rows, path, search);
+  const std::string name = "row " + QuotedForScript(path);
+  if (IsFalse(*row, "visible")) return {{}, name + " is not visible"};
+  const std::optional<RECT> rect = RectOf(*row);
+  if (!rect || IsEmpty(*rect)) return {{}, name + " has no place on the screen"};
+  const RECT seen = window ? Common(*rect, *window) : *rect;
+  if (IsEmpty(seen)) return {{}, name + " is scrolled out of the window"};
+  return {{(seen.left + seen.right) / 2, (seen.top + seen.bottom) / 2}, ""};
+}
+
+}  // namespace
+
+RowPlace PlaceOfScreenMenuRow(const Json& state, const std::string& path) {
+  if (!state.is_object() || !state.contains("screenmenu") || !state["screenmenu"].is_object())
+    return {{}, "there is no screen menu"};
+  const Json& menu = state["screenmenu"];
+  if (IsFalse(menu, "exists")) return {{}, "there is no screen menu"};
+  if (IsFalse(menu, "visible")) return {{}, "the screen menu is hidden"};
+  return PlaceIn(menu.contains("rows") ? menu["rows"] : Json::array(), path, RectOf(menu));
+}
+
+RowPlace PlaceOfPopupRow(const Json& state, const std::string& path) {
+  if (!state.is_object() || !state.contains("popup") || !state["popup"].is_object())
+    return {{}, "pop-ups are not built into the shell state"};
+  const Json& popup = state["popup"];
+  if (IsFalse(popup, "open")) return {{}, "no pop-up is open"};
+  return PlaceIn(popup.contains("rows") ? popup["rows"] : Json::array(), path, {});
+}
+
+}  // namespace devhost
