@@ -1,0 +1,29 @@
+// What groups and rows ask of the palette that carries them: where commands go, who answers LISP
+// calls, which arrow to show. CScreenMenu implements it; a group knows no more of its palette, so a
+// test can put a tree into any window.
+#pragma once
+
+#include "afxwin.h"
+#include "menu/menu_model.h"
+#include "screenmenu/lisp_caller.h"
+
+class CMenuGroup;
+
+class GroupOwner {
+ public:
+  virtual ~GroupOwner() = default;
+
+  virtual qvx::LispCaller& Lisp() = 0;
+  virtual const TMenuSystem* MenuSystem() = 0;  // null with no context window
+  // Kept for the palette's life; null when the bitmap did not load.
+  virtual HBITMAP Arrow(int depth, bool open) = 0;
+
+  virtual void ArmCommand(const TWCString& command) = 0;  // replaces what waits, restarts the wait
+  virtual bool IsHostBusy() = 0;
+  virtual void ReportBusy() = 0;        // the message box of a switch that has to give way
+  virtual void SwitchWasFlipped() = 0;  // status panes and every other row follow
+
+  virtual void ShowHeaderMenu(TMenuBar& bar, const CRect& button, CPoint at) = 0;
+  virtual void ShowLineMenu(TMenuItem& line, CPoint at) = 0;
+  virtual void RestoreStatusBar() = 0;
+};

@@ -1,0 +1,57 @@
+// See host_lisp.h.
+#include "screenmenu/host_lisp.h"
+
+#include <cstdlib>
+
+#include "acdocman.h"
+#include "adslib.h"
+#include "dbapserv.h"
+
+namespace qvx {
+namespace {
+
+LispAnswer::Kind KindOf(int restype) {
+  if (restype == RTSHORT) return LispAnswer::Kind::kNumber;
+  return restype == RTT ? LispAnswer::Kind::kTrue : LispAnswer::Kind::kOther;
+}
+
+}  // namespace
+
+LispAnswer HostLisp::Call(const wchar_t* function) {
+  LispAnswer answer;
+  resbuf* call = acutBuildList(RTSTR, function, 0);
+  if (!call) return answer;
+  resbuf* result = nullptr;
+  answer.called = acedInvoke(call, &result) == RTNORM;
+  acutRelRb(call);
+  if (!result) return answer;
+  answer.kind = KindOf(result->restype);
+  if (answer.kind == LispAnswer::Kind::kNumber) answer.number = result->resval.rint;
+  acutRelRb(result);
+  return answer;
+}
+
+HostActivity AskHostActivity() {
+  HostActivity host;
+  resbuf value{};
+  if (acedGetVar(L"CMDACTIVE", &value) == RTNORM && value.restype == RTSHORT)
+    host.active = value.resval.rint;
+  value = {};
+  if (acedGetVar(L"CMDNAMES", &value) == RTNORM && value.restype == RTSTR && value.resval.rstring) {
+    host.names = value.resval.rstring;
+    std::free(value.resval.rstring);
+  }
+  return host;
+}
+
+bool HasWorkingDatabase() {
+  AcDbHostApplicationServices* services = acdbHostApplicationServices();
+  return services && services->workingDatabase();
+}
+
+void SendToHost(const wchar_t* text) {
+  AcApDocument* document = acDocManager ? acDocManager->curDocument() : nullptr;
+  if (document) acDocManager->sendStringToExecute(document, text, true, false, true);
+}
+
+}  // namespace qvx

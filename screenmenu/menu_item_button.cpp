@@ -1,0 +1,118 @@
+// CSMenuItem as a window: creation, images, tip, right click. Its painting stands in
+// menu_item_paint.cpp.
+#include "screenmenu/menu_item_button.h"
+
+#include "kernel/globals.h"
+#include "screenmenu/menu_colors.h"
+#include "screenmenu/module_handle.h"
+
+namespace {
+
+constexpr BYTE kImageSize = 16;
+
+// WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | BS_OWNERDRAW
+constexpr DWORD kRowStyle = 0x5001400B;
+
+HBITMAP LoadMenuBitmap(HINSTANCE module, const wchar_t* name) {
+  return static_cast<HBITMAP>(::LoadImageW(module, name, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS));
+}
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CSMenuItem, CButtonST)
+
+BEGIN_MESSAGE_MAP(CSMenuItem, CButtonST)
+ON_WM_CONTEXTMENU()
+ON_WM_CAPTURECHANGED()
+ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+CSMenuItem::CSMenuItem(TMenuItem* line, int ctrlId, int depth, GroupOwner* owner)
+    : m_pMenuItem(line), m_nCtrlId(ctrlId), m_nDepth(depth), m_pOwner(owner) {}
+
+CSMenuItem::~CSMenuItem() = default;
+
+bool CSMenuItem::CreateRow(const qvx::RowPlan& plan, const CRect& place, CWnd* group) {
+  m_nRowHeight = plan.height;
+  ShowImage(plan);  // before there is a window, so that nothing has to be repainted
+  if (!Create(plan.caption, kRowStyle, place, group, static_cast<UINT>(m_nCtrlId))) return false;
+  EnableWindow(plan.enabled);
+  return true;
+}
+
+void CSMenuItem::ShowImage(const qvx::RowPlan& plan) {
+  switch (plan.image) {
+    case qvx::RowImage::kArrow:
+      ShowArrow(false);
+      break;
+    case qvx::RowImage::kCheckMark:
+      ShowCheckMark();
+      break;
+    case qvx::RowImage::kFromLibrary:
+      ShowIcon(plan.bitmap);
+      break;
+    case qvx::RowImage::kNone:
+      break;
+  }
+}
+
+void CSMenuItem::ShowArrow(bool open) {
+  ShareBitmap(m_pOwner->Arrow(m_nDepth, open), kImageSize, kImageSize);
+}
+
+void CSMenuItem::ShowCheckMark() {
+  SetBitmaps(LoadMenuBitmap(qvx::ThisModule(), MAKEINTRESOURCEW(qvx::kCheckMarkBitmap)), nullptr,
+             kImageSize, kImageSize);
+}
+
+void CSMenuItem::ShowIcon(const wchar_t* bitmap) {
+  SetBitmaps(*bitmap ? LoadMenuBitmap(g_hQvxDll, bitmap) : nullptr, nullptr, kImageSize,
+             kImageSize);
+}
+
+void CSMenuItem::ShowState() {
+  SetWindowTextW(m_pMenuItem->m_strLabel);
+  const qvx::RowSources sources{nullptr, m_pOwner->MenuSystem(), g_hQvxDll != nullptr, 0};
+  const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, sources);
+  if (bitmap) ShowIcon(bitmap);
+}
+
+void CSMenuItem::ReleaseMouse() {
+  if (::GetCapture() == m_hWnd) ::ReleaseCapture();
+}
+
+// The tip's text is set at the first time the pointer comes and never changes again, also on a
+// switch line that shows another state since.
+void CSMenuItem::OnMouseEnter() {
+  const wchar_t* help =
+      m_pMenuItem ? qvx::HelpOfLine(*m_pMenuItem, m_pOwner->MenuSystem(), g_hQvxDll != nullptr)
+                  : nullptr;
+  if (help && g_bShowMenuTip) {
+    SetTooltipText(help);
+    ActivateTooltip(TRUE);
+  } else if (help) {
+    ActivateTooltip(FALSE);
+  }
+  CButtonST::OnMouseEnter();
+}
+
+void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
+  if (!m_pOwner->MenuSystem() || !m_pMenuItem) return;
+  ReleaseMouse();
+  m_pOwner->RestoreStatusBar();
+  ClearHover();
+  if (!m_pMenuItem->m_pSubMenu) {
+    m_pOwner->ShowLineMenu(*m_pMenuItem, point);
+    return;
+  }
+  CRect button;
+  GetWindowRect(&button);
+  m_pOwner->ShowHeaderMenu(*m_pMenuItem->m_pSubMenu, button, point);
+}
+
+void CSMenuItem::OnCaptureChanged(CWnd* next) {
+  CButtonST::OnCaptureChanged(next);
+  if (!IsMouseOn()) m_pOwner->RestoreStatusBar();
+}
+
+void CSMenuItem::OnTimer(UINT_PTR timer) { CButtonST::OnTimer(timer); }

@@ -1,0 +1,140 @@
+// CScreenMenu: taking a menu, fitting the tree, wheel, closing and what is kept when the window
+// goes.
+#include "screenmenu/screen_menu.h"
+
+#include "adslib.h"
+#include "kernel/globals.h"
+#include "rxmfcapi.h"
+#include "screenmenu/palette_settings.h"
+#include "screenmenu/screen_menu_host.h"
+
+namespace {
+
+constexpr UINT kRootGroupId = 5000;
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CScreenMenu, CAdUiPaletteSet)
+
+BEGIN_MESSAGE_MAP(CScreenMenu, CAdUiPaletteSet)
+ON_WM_WINDOWPOSCHANGED()
+ON_WM_TIMER()
+ON_WM_DESTROY()
+ON_WM_CONTEXTMENU()
+ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+CScreenMenu::CScreenMenu() = default;
+
+CScreenMenu::~CScreenMenu() {
+  m_pTailMenu.reset();
+  m_pRootGroup.reset();
+  if (::IsWindow(m_hDockBar)) RestoreDockBar();
+}
+
+// A second menu on the same palette keeps the rows of the first, since nothing rebuilds a tree in
+// place; the lines that they show have to stay.
+void CScreenMenu::TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title) {
+  if (m_pRootGroup && m_rootItem.m_pSubMenu)
+    m_pastBars.emplace_back(m_rootItem.m_pSubMenu);
+  else
+    TMenuBar::Delete(m_rootItem.m_pSubMenu);
+  m_rootItem.m_strLabel = title;
+  m_rootItem.m_pSubMenu = bar.release();
+  m_bar.BackTo(&m_rootItem);
+  EnsureRootGroup();
+}
+
+void AttachScreenBar(TMenuSystem& system) {
+  std::unique_ptr<TMenuBar> bar = qvx::DetachScreenBar(system);
+  if (bar && g_pScreenMenu) g_pScreenMenu->TakeScreenBar(std::move(bar), qvx::RootTitle(system));
+}
+
+// The tree is built hidden and shown once, whole.
+void CScreenMenu::EnsureRootGroup() {
+  CRect used;
+  GetUsedRect(used);
+  if (m_pRootGroup) return;
+  const CRect place(qvx::FirstRootGroup(used, IsFloating() != FALSE));
+  m_pRootGroup.reset(new CMenuGroup(&m_bar, place, this, kRootGroupId, g_bLimitHeight == 1, this));
+  if (m_pRootGroup->GetSafeHwnd()) m_pRootGroup->ShowWindow(SW_SHOW);
+}
+
+int CScreenMenu::StepBack() {
+  TMenuItem* line = m_bar.StackTop();
+  if (!line) return 0;
+  m_bar.BackTo(line);
+  EnsureRootGroup();
+  return 1;
+}
+
+const TMenuSystem* CScreenMenu::MenuSystem() {
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  return host ? host->MenuSystem() : nullptr;
+}
+
+void CScreenMenu::OnWindowPosChanged(WINDOWPOS* position) {
+  CAdUiPaletteSet::OnWindowPosChanged(position);
+  if (m_pRootGroup && m_pRootGroup->GetSafeHwnd()) FitGroup();
+}
+
+void CScreenMenu::FitGroup() {
+  CRect used, window;
+  GetUsedRect(used);
+  GetWindowRect(&window);
+  ScreenToClient(&window);
+  const CRect fit(qvx::FitRootGroup(used, IsFloating() != FALSE, window.bottom));
+  m_pRootGroup->MoveWindow(&fit, TRUE);
+}
+
+// With the root's height limited only its open group scrolls. The message is taken in every case.
+BOOL CScreenMenu::OnMouseWheel(UINT flags, short delta, CPoint point) {
+  CMenuGroup* target = m_pRootGroup.get();
+  if (target && target->LimitHeight()) target = target->OpenChild();
+  if (target && target->HasScrollBar()) target->WheelGroup(flags, delta, point);
+  return TRUE;
+}
+
+// F4 steps back as long as something was entered, and passes on to the host otherwise.
+BOOL CScreenMenu::PreTranslateMessage(MSG* message) {
+  if (message->message == WM_KEYDOWN && message->wParam == VK_F4) return StepBack();
+  return CAdUiPaletteSet::PreTranslateMessage(message);
+}
+
+void CScreenMenu::GetFloatingMinSize(long* width, long* height) {
+  *width = qvx::kPaletteLeastWidth;
+  *height = qvx::kPaletteLeastHeight;
+}
+
+void CScreenMenu::CloseSilently() {
+  m_bCloseHint = 0;
+  OnClosing();
+}
+
+// A close by the program passes in silence and arms the hint; a close by the user says how to get
+// the palette back.
+bool CScreenMenu::OnClosing() {
+  if (m_bCloseHint) {
+    acutPrintf(L"热键<Ctrl +>显示屏幕菜单\n");
+    acedPostCommandPrompt();
+  }
+  m_bCloseHint = 1;
+  return CAdUiPaletteSet::OnClosing();
+}
+
+void CScreenMenu::OnDestroy() {
+  CRect window, frameClient;
+  GetWindowRect(&window);
+  const CSize size = window.Size();
+  if (CWnd* frame = acedGetAcadFrame()) {
+    frame->GetClientRect(&frameClient);
+    frame->ScreenToClient(&window);
+  }
+  qvx::SavePaletteState({IsScreenMenuVisible(), qvx::AlignmentOf(window, frameClient), size,
+                         g_bLimitHeight, g_bDefaultOpenFirst, g_bScrollBar});
+  if (m_pRootGroup) {
+    qvx::SaveActiveSubMenu(m_pRootGroup->OpenIndex());
+    m_pRootGroup->DestroyWindow();
+  }
+  CAdUiPaletteSet::OnDestroy();
+}

@@ -1,0 +1,15 @@
+// Tells the module about drawings that open, close and change: the palette greys when the last
+// drawing goes, and the per-drawing panes follow the active one. One instance, from load to unload.
+#pragma once
+
+#include "acdocman.h"
+
+class TScreenMenuReactor : public AcApDocManagerReactor {
+ public:
+  void documentCreated(AcApDocument* document) override;
+  void documentToBeDestroyed(AcApDocument* document) override;
+  void documentActivated(AcApDocument* document) override;
+};
+
+// True makes the reactor and registers it, false takes it out again and deletes it.
+void InitScreenMenuReactor(bool add);
