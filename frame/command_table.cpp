@@ -1,0 +1,50 @@
+#include "frame/command_table.h"
+
+#include "accmd.h"
+#include "frame/host_registry.h"
+#include "frame/live_menu_commands.h"
+#include "frame/shell.h"
+#include "frame/unbuilt_rooms.h"
+#include "screenmenu/screen_menu.h"
+
+namespace {
+
+constexpr const wchar_t* kGroup = L"QVX_INITSTART";
+
+void LoadMenu() {
+  if (Shell* shell = TheShell()) shell->BringUpMenu();
+}
+
+struct CommandRow {
+  const wchar_t* name;
+  void (*handler)();
+  int flags;
+};
+const CommandRow kCommands[] = {
+    {L"TShowBar", unbuilt::ShowBar, ACRX_CMD_MODAL},
+    {L"QmnLoad", ReloadMenu, ACRX_CMD_MODAL},
+    {L"QmnLoad1", ReloadMenuBySearch, ACRX_CMD_MODAL},
+    {L"TSetRunMode", ToggleRunMode, ACRX_CMD_MODAL},
+    {L"TSetAviMode", ToggleAviMode, ACRX_CMD_MODAL},
+    {L"TFloatMenuBar", DockFloatingScreenMenu, ACRX_CMD_MODAL},
+    {L"TLoadMenu", LoadMenu, ACRX_CMD_MODAL},
+    {L"TInPlaceEdit", unbuilt::InPlaceEdit, ACRX_CMD_USEPICKSET},
+    {L"TTextEditInBlock", unbuilt::TextEditInBlock, ACRX_CMD_TRANSPARENT},
+    {L"TCurTips", unbuilt::CurrentTips, ACRX_CMD_TRANSPARENT},
+    {L"TAbout", unbuilt::About, ACRX_CMD_TRANSPARENT},
+    {L"TReportBug", unbuilt::ReportBug, ACRX_CMD_TRANSPARENT},
+    {L"THelp", unbuilt::Help, ACRX_CMD_TRANSPARENT},
+    {L"TReScreenMenu", RefreshScreenMenu, ACRX_CMD_TRANSPARENT},
+};
+
+}  // namespace
+
+void RegisterCommands() {
+  for (const CommandRow& row : kCommands)
+    if (AcEdCommandStack* stack = HostCommands())
+      stack->addCommand(kGroup, row.name, row.name, row.flags, row.handler, nullptr, -1);
+}
+
+void RemoveCommands() {
+  if (AcEdCommandStack* stack = HostCommands()) stack->removeGroup(kGroup);
+}

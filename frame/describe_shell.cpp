@@ -1,0 +1,45 @@
+// The module's diagnostic export: what its live windows show, as JSON. Sections whose room is not
+// built are null, and the steps that wait for a room are listed with how often they were asked for.
+#include <string>
+
+#include "frame/shell.h"
+#include "frame/unbuilt_rooms.h"
+#include "screenmenu/describe_screen_menu.h"
+#include "screenmenu/shell_json.h"
+
+namespace {
+
+std::string RecentSection() {
+  std::string json = "[";
+  Shell* shell = TheShell();
+  TMenuSystem* system = shell ? shell->MenuSystem() : nullptr;
+  for (int i = 0; system && i < system->m_recent.Length(); ++i) {
+    if (i) json += ",";
+    json += qvx::JsonString(system->m_recent.At(i)->m_strCommand.c_str());
+  }
+  return json + "]";
+}
+
+std::string UnbuiltSection() {
+  std::string json = "[";
+  int count = 0;
+  const UnbuiltStep* steps = UnbuiltSteps(&count);
+  for (int i = 0; i < count; ++i) {
+    if (i) json += ",";
+    json += std::string("{\"name\":\"") + steps[i].name + "\",\"room\":\"" + steps[i].room +
+            "\",\"calls\":" + std::to_string(steps[i].calls) + "}";
+  }
+  return json + "]";
+}
+
+}  // namespace
+
+// UTF-8, valid until the next call; main thread only.
+extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
+  static std::string json;
+  json =
+      "{\"screenmenu\":" + DescribeScreenMenu() +
+      ",\"popup\":null,\"tabs\":null,\"panes\":null,\"editor\":null,\"recent\":" + RecentSection() +
+      ",\"unbuilt\":" + UnbuiltSection() + "}";
+  return json.c_str();
+}

@@ -1,0 +1,18 @@
+// Where the tutorial, the questions and the clips lie: plain text work over the program folder and
+// the folder that the product was set up from.
+#pragma once
+
+#include "kernel/twcstring.h"
+
+// The folder above `folder` ("C:\QVX\Sys\" gives "C:\QVX\"); the text itself when there is none.
+TWCString ParentFolder(const wchar_t* folder);
+
+// The first of `parent + tail` and `setup + "\" + tail` that `find` knows; false when neither is
+// there. `lastTried` gets the second one, which is what a message shows.
+struct DocumentSearch {
+  TWCString parent;  // ends in a backslash
+  TWCString setup;
+  int (*find)(const wchar_t* name, wchar_t* out);  // as QvxExport::FindFile
+};
+bool FindDocument(const DocumentSearch& search, const wchar_t* tail, TWCString& found,
+                  TWCString& lastTried);

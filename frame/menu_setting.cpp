@@ -1,0 +1,38 @@
+#include "frame/menu_setting.h"
+
+#include <cstdlib>
+
+#include "aced.h"
+#include "adslib.h"
+#include "kernel/globals.h"
+#include "kernel/tregproperty.h"
+
+namespace {
+
+// The profile's name is the folder; "Settings" when the host has none to tell.
+TWCString ProfileFolder() {
+  TWCString folder;
+  resbuf value{};
+  if (acedGetVar(L"CPROFILE", &value) == RTNORM && value.restype == RTSTR && value.resval.rstring) {
+    folder = value.resval.rstring;
+    std::free(value.resval.rstring);
+  }
+  if (folder.IsEmpty()) folder = L"Settings";
+  return folder;
+}
+
+}  // namespace
+
+bool LoadMenuSetting(TWCString& value) {
+  const TRegProperty key(GetRegLocation(), ProfileFolder());
+  CString text;
+  if (!key.GetValue(L"Menu", text)) return false;
+  value = text.GetString();
+  return true;
+}
+
+void SaveMenuSetting(const wchar_t* base) {
+  TRegProperty key(GetRegLocation(), ProfileFolder());
+  key.SetTopRootKey(HKEY_CURRENT_USER);
+  key.SetValue(L"Menu", base);
+}

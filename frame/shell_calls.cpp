@@ -1,0 +1,79 @@
+// What rooms below ask of the module while it runs, and the bring-up of the menu.
+#include "aced.h"
+#include "frame/host_window.h"
+#include "frame/lisp_path.h"
+#include "frame/recent_commands.h"
+#include "frame/shell.h"
+#include "frame/unbuilt_rooms.h"
+#include "kernel/globals.h"
+#include "kernel/qvxexport.h"
+#include "kernel/tadsprintf.h"
+#include "kernel/tregproperty.h"
+#include "screenmenu/screen_menu.h"
+
+namespace {
+
+class LiveBringUp : public BringUpSteps {
+ public:
+  explicit LiveBringUp(Shell& shell) : m_shell(shell) {}
+
+  bool FindMenu(TWCString& base) override {
+    wchar_t path[MenuLoading::kPathUnits];
+    if (!m_shell.Menus().Loading().FindMenuBase(path)) return false;
+    base = path;
+    return true;
+  }
+  bool FindFile(const wchar_t* name, TWCString& path) override {
+    wchar_t found[QvxExport::kPathUnits];
+    if (!QvxExport::FindFile(name, found)) return false;
+    path = found;
+    return true;
+  }
+  int ScreenMenuSetting(const wchar_t* name, int value) override {
+    TWCString path(GetRegLocation());
+    path += L"\\Settings";
+    TRegProperty key(path, L"ScreenMenu");
+    key.SetTopRootKey(HKEY_CURRENT_USER);
+    key.GetValue(name, value);
+    return value;
+  }
+  void CreateScreenMenu(bool show) override { InitScreenMenu(true, show); }
+  void LoadMenuFile(const wchar_t* path) override { m_shell.Menus().Loading().CompileMenu(path); }
+  void PublishLispPath() override { ::PublishLispPath(); }
+  void RefreshDocStatus() override { DocStatus(); }
+  void RestoreRecentCommands() override {
+    if (TMenuSystem* system = m_shell.MenuSystem()) LoadRecentCommands(system->m_recent);
+  }
+  bool ScreenMenuHasWindow() override { return g_pScreenMenu && ::IsWindow(g_pScreenMenu->m_hWnd); }
+  bool IsLimitedProduct() override { return g_nProductId == 17 && g_nVersion > 6.9; }
+  void Print(const wchar_t* text) override {
+    adsout << text;
+    acedPostCommandPrompt();
+  }
+  void StopReadinessTimer() override {
+    if (CContextMenuWnd* window = TheContextWindow()) window->StopReadinessTimer();
+  }
+  void SendToHost(const wchar_t* text) override { ::SendToHost(text); }
+
+ private:
+  Shell& m_shell;
+};
+
+}  // namespace
+
+void Shell::BringUpMenu() {
+  LiveBringUp steps(*this);
+  m_bringUp.Run(steps);
+}
+
+void Shell::OnMenuReadiness() {
+  LiveBringUp steps(*this);
+  m_bringUp.StepReadiness(steps);
+}
+
+void Shell::ShowMenuAt(TMenuBar&, POINT, UINT) { unbuilt::ShowMenuAt(); }
+void Shell::UpdateStatusBar() { unbuilt::UpdateStatusBar(); }
+void Shell::WriteDrawingScale() { unbuilt::WriteDrawingScale(); }
+void Shell::RefreshDrawingPanes() { unbuilt::RefreshDrawingPanes(); }
+void Shell::RefreshScaleText() { unbuilt::RefreshScaleText(); }
+void Shell::ResetPreviewCounters() { unbuilt::ResetPreviewCounters(); }

@@ -1,0 +1,51 @@
+// The one place for steps of the module whose room is not built yet. Each function does nothing,
+// says nothing and is noted in the list below; a function leaves this file when its room has it.
+// The list is part of what QvxDescribeShell tells ("unbuilt"), so nobody has to guess.
+#pragma once
+
+#include "frame/load_sequence.h"
+
+struct UnbuiltStep {
+  const char* name;  // as a user or a sibling module knows it
+  const char* room;  // the folder that will hold it
+  int calls;         // since the module was loaded
+};
+
+const UnbuiltStep* UnbuiltSteps(int* count);
+
+namespace unbuilt {
+
+// Load and unload sequence.
+void ShowTipsAtStart();
+void InitMessageFilter(bool add);
+void CreateDocTabBar();
+void InitDocTabBar();
+void DestroyDocTabBar();
+void InitPane(StatusPane pane, bool add);
+void InitScalePane(bool add);
+
+// Per drawing and on saving.
+void StartTabCaptionTimer();
+void WriteDrawingScale();
+void RefreshDrawingPanes();
+void RefreshScaleText();
+void ResetPreviewCounters();
+void UpdateStatusBar();
+
+// Pop-ups.
+void ShowMenuAt();
+
+// Commands and LISP functions.
+void ShowBar();
+void InPlaceEdit();
+void TextEditInBlock();
+void CurrentTips();
+void About();
+void ReportBug();
+void Help();
+void DragViewport();
+
+// Exports.
+void HideTabBar();
+
+}  // namespace unbuilt

@@ -1,0 +1,66 @@
+#include "frame/host_release.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+std::vector<std::wstring> Names(double release) {
+  const wchar_t* names[2];
+  const int count = FirstStartValueNames(release, names);
+  return {names, names + count};
+}
+using List = std::vector<std::wstring>;
+}  // namespace
+
+TEST(FirstStartValues, EachReleaseHasItsOwn) {
+  const struct {
+    double release;
+    const wchar_t* name;
+  } rows[] = {
+      {15.0, L"InitStart15"},   {15.9, L"InitStart15"},   {15.95, L"InitStart16"},
+      {16.0, L"InitStart16"},   {16.1, L"InitStart16.1"}, {16.2, L"InitStart16.2"},
+      {16.9, L"InitStart16.2"}, {17.0, L"InitStart17"},   {17.1, L"InitStart17.1"},
+      {17.2, L"InitStart17.2"}, {18.0, L"InitStart18"},   {18.1, L"InitStart18.1"},
+      {18.2, L"InitStart18.2"}, {19.0, L"InitStart19"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Names(row.release), List{row.name}) << row.release;
+}
+
+TEST(FirstStartValues, AboveNineteenTwoAreReadAndTheOlderOneLast) {
+  EXPECT_EQ(Names(19.1), (List{L"InitStart19.1", L"InitStart19"}));
+  EXPECT_EQ(Names(24.0), (List{L"InitStart19.1", L"InitStart19"}));
+}
+
+TEST(FrameTitle, TakesTheHostsNameFromAheadOfTheHyphen) {
+  EXPECT_STREQ(FrameTitle(L"奇维建筑", L"AutoCAD 2021 - [Drawing1.dwg]", 24.0),
+               L"奇维建筑 For AutoCAD 2021");
+}
+
+TEST(FrameTitle, TheFirstHyphenCountsAndOneUnitAheadOfItIsDropped) {
+  EXPECT_STREQ(FrameTitle(L"Q", L"Draw-It - x", 24.0), L"Q For Dra");
+}
+
+TEST(FrameTitle, AHyphenAtTheStartLeavesNoHostName) {
+  EXPECT_STREQ(FrameTitle(L"Q", L"- x", 24.0), L"Q For ");
+  EXPECT_STREQ(FrameTitle(L"Q", L" - x", 24.0), L"Q For ");
+}
+
+TEST(FrameTitle, WithoutAHyphenTheReleaseDecides) {
+  const struct {
+    double release;
+    const wchar_t* text;
+  } rows[] = {
+      {15.98, L"Q For AutoCAD 2002"}, {15.99, L"Q For AutoCAD 2004"}, {16.1, L"Q For AutoCAD 2005"},
+      {16.2, L"Q For AutoCAD 2006"},  {17.0, L"Q For AutoCAD 2007"},  {17.1, L"Q For AutoCAD 2008"},
+      {17.2, L"Q For AutoCAD 2009"},  {18.0, L"Q For AutoCAD 2010"},  {18.1, L"Q For AutoCAD 2011"},
+      {18.2, L"Q For AutoCAD 2012"},  {18.21, L"Q For AutoCAD 2013"}, {24.0, L"Q For AutoCAD 2013"},
+  };
+  for (const auto& row : rows)
+    EXPECT_STREQ(FrameTitle(L"Q", L"Host", row.release), row.text) << row.release;
+}
+
+TEST(FrameTitle, WithoutATitleTheTextStartsAtFor) {
+  EXPECT_STREQ(FrameTitle(L"", L"Host 1 - a", 24.0), L" For Host 1");
+}

@@ -1,0 +1,96 @@
+// What the frame keeps in the registry: recent commands, the first-start flags. Runs under a host
+// release that nobody has.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "frame/first_start.h"
+#include "frame/recent_commands.h"
+#include "kernel/globals.h"
+#include "kernel/native_file.h"
+#include "kernel/tregproperty.h"
+#include "menu/menu_item.h"
+
+namespace {
+
+constexpr double kNobodysRelease = 97.3;
+
+CString RecentText() {
+  TRegProperty key(GetRegLocation(), L"Settings");
+  CString text(L"(none)");
+  key.GetValue(L"RecentCmd", text);
+  return text;
+}
+
+void SetRecentText(const wchar_t* text) {
+  TRegProperty key(GetRegLocation(), L"Settings");
+  key.SetValue(L"RecentCmd", text);
+}
+
+class FrameValues : public ::testing::Test {
+ protected:
+  void SetUp() override { g_dHostVersion = kNobodysRelease; }
+};
+
+void SetFlag(const wchar_t* name, int value) {
+  TRegProperty key(GetRegLocation(), L"InitFlag");
+  key.SetTopRootKey(HKEY_LOCAL_MACHINE);
+  key.SetValue(name, value);
+}
+
+int Flag(const wchar_t* name) {
+  TRegProperty key(GetRegLocation(), L"InitFlag");
+  key.SetTopRootKey(HKEY_LOCAL_MACHINE);
+  int value = -1;
+  key.GetValue(name, value);
+  return value;
+}
+
+}  // namespace
+
+TEST_F(FrameValues, RecentCommandsComeBackInTheirOrder) {
+  TMenuStack recent;
+  recent.AddRecent(L"TWall\n");
+  recent.AddRecent(L"TDoor ");
+  recent.AddRecent(L"(foo)\n");
+  SaveRecentCommands(recent);
+  EXPECT_STREQ(RecentText().GetString(), L"TWall\n,TDoor ,(foo)\n,");
+  TMenuStack again;
+  LoadRecentCommands(again);
+  ASSERT_EQ(again.Length(), 3);
+  EXPECT_STREQ(again.At(0)->m_strCommand, L"(foo)\n");
+  EXPECT_STREQ(again.At(2)->m_strCommand, L"TWall\n");
+}
+
+TEST_F(FrameValues, RecentCommandsWithoutALastCommaLoseTheLast) {
+  SetRecentText(L"a,b,c");
+  TMenuStack recent;
+  LoadRecentCommands(recent);
+  ASSERT_EQ(recent.Length(), 2);
+  EXPECT_STREQ(recent.At(0)->m_strCommand, L"b");
+}
+
+TEST_F(FrameValues, AnEmptyListIsWrittenAsEmptyText) {
+  TMenuStack recent;
+  SaveRecentCommands(recent);
+  EXPECT_STREQ(RecentText().GetString(), L"");
+}
+
+TEST_F(FrameValues, AFirstStartIsOneOnly) {
+  g_dHostVersion = 17.15;
+  SetFlag(L"InitStart17.2", 0);
+  EXPECT_FALSE(HasStartedBefore(17.15));
+  EXPECT_EQ(Flag(L"InitStart17.2"), 1);
+  EXPECT_TRUE(HasStartedBefore(17.15));
+}
+
+TEST_F(FrameValues, AboveNineteenTheOlderValueDecides) {
+  SetFlag(L"InitStart19.1", 0);
+  SetFlag(L"InitStart19", 1);
+  EXPECT_TRUE(HasStartedBefore(24.0)) << "19.1 is new, 19 was there";
+  EXPECT_EQ(Flag(L"InitStart19.1"), 1);
+  SetFlag(L"InitStart19.1", 1);
+  SetFlag(L"InitStart19", 0);
+  EXPECT_FALSE(HasStartedBefore(24.0));
+}
