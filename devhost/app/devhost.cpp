@@ -1,0 +1,24 @@
+// The development host's program: reads the command line and runs. All else is in the host library,
+// which modules share. Exit codes: what the play script gave, 0 without one, 2 for wrong usage.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "devhost/core/journal.h"
+#include "devhost/ui/launch.h"
+
+int wmain(int count, wchar_t** words) {
+  devhost::LaunchOptions options;
+  std::wstring error;
+  const std::vector<std::wstring> rest(words + 1, words + count);
+  if (!devhost::ParseLaunchOptions(rest, &options, &error)) {
+    std::fprintf(stderr, "devhost: %s\n%s", devhost::Utf8(error).c_str(),
+                 devhost::Utf8(devhost::LaunchUsage()).c_str());
+    return 2;
+  }
+  if (options.help) {
+    std::printf("%s", devhost::Utf8(devhost::LaunchUsage()).c_str());
+    return 0;
+  }
+  return devhost::RunDevelopmentHost(options);
+}

@@ -1,0 +1,88 @@
+// Owners for the drawing handles of the host's windows: each gives back what it holds when it goes.
+// Thin on purpose; drawing itself is done with the plain Windows calls.
+#pragma once
+
+#include <utility>
+
+#include "wintypes.h"
+
+namespace devhost {
+
+// A pen, brush, font or bitmap.
+template <typename Handle>
+class GdiObject {
+ public:
+  GdiObject() = default;
+  explicit GdiObject(Handle handle) : m_handle(handle) {}
+  GdiObject(GdiObject&& other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)) {}
+  GdiObject& operator=(GdiObject&& other) noexcept {
+    std::swap(m_handle, other.m_handle);
+    return *this;
+  }
+  ~GdiObject() {
+    if (m_handle) ::DeleteObject(m_handle);
+  }
+  Handle Get() const { return m_handle; }
+  explicit operator bool() const { return m_handle != nullptr; }
+
+ private:
+  Handle m_handle = nullptr;
+};
+
+using Pen = GdiObject<HPEN>;
+using Brush = GdiObject<HBRUSH>;
+using Font = GdiObject<HFONT>;
+using Bitmap = GdiObject<HBITMAP>;
+using Region = GdiObject<HRGN>;
+
+// Selects an object for as long as it lives.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : m_dc(dc), m_before(::SelectObject(dc, object)) {}
+  ~Selected() { ::SelectObject(m_dc, m_before); }
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+
+ private:
+  HDC m_dc;
+  HGDIOBJ m_before;
+};
+
+// The device context of a window outside WM_PAINT.
+class WindowDc {
+ public:
+  explicit WindowDc(HWND window) : m_window(window), m_dc(::GetDC(window)) {}
+  ~WindowDc() { ::ReleaseDC(m_window, m_dc); }
+  WindowDc(const WindowDc&) = delete;
+  WindowDc& operator=(const WindowDc&) = delete;
+  operator HDC() const { return m_dc; }
+
+ private:
+  HWND m_window;
+  HDC m_dc;
+};
+
+// BeginPaint to EndPaint, drawn into memory first and copied whole, so that nothing flickers.
+class PaintScope {
+ public:
+  explicit PaintScope(HWND window);
+  ~PaintScope();
+  PaintScope(const PaintScope&) = delete;
+  PaintScope& operator=(const PaintScope&) = delete;
+  operator HDC() const { return m_memory; }
+  const RECT& Client() const { return m_client; }
+
+ private:
+  HWND m_window;
+  PAINTSTRUCT m_paint{};
+  RECT m_client{};
+  HDC m_memory;
+  Bitmap m_bitmap;
+  HGDIOBJ m_before;
+};
+
+Font MenuFont(bool bold = false);  // the font that the user chose for menus
+int PixelsPerInch();
+int Scaled(int pixelsAt96);  // for the dots per inch of the screen
+
+}  // namespace devhost

@@ -1,0 +1,25 @@
+// What menu rows, keys and play scripts ask of the host core, in one place: drawings, variables,
+// selection. Main thread only.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "wintypes.h"
+
+namespace devhost {
+
+class Document;
+
+bool OpenDrawingFile(const std::wstring& path);  // says on the command line why not
+Document* MakeNewDrawing();
+bool ActivateDrawingNamed(const std::wstring& name);  // file name without extension, case ignored
+void CloseActiveDrawing();
+
+bool SelectByHandles(const std::vector<std::string>& handles);
+bool SetVariableText(const std::wstring& name, const std::wstring& value);
+bool GetVariableText(const std::wstring& name, std::wstring* value);
+
+std::string DescribeActiveDatabase();  // JSON
+
+}  // namespace devhost

@@ -1,0 +1,36 @@
+// Dialogs that open on the main thread go into the journal, whoever opens them. Message boxes of
+// the class library are recorded by the application object, with their answer, and are not dialogs
+// here.
+#pragma once
+
+#include <vector>
+
+#include "wintypes.h"
+
+namespace devhost {
+
+class DialogWatch {
+ public:
+  DialogWatch();
+  ~DialogWatch();
+  DialogWatch(const DialogWatch&) = delete;
+  DialogWatch& operator=(const DialogWatch&) = delete;
+
+  // While one lives, the next dialog that appears is a message box and not recorded.
+  class MessageBoxScope {
+   public:
+    MessageBoxScope();
+    ~MessageBoxScope();
+  };
+
+ private:
+  static LRESULT CALLBACK OnEvent(int code, WPARAM wParam, LPARAM lParam);
+  void Activated(HWND window);
+  void Destroyed(HWND window);
+
+  HHOOK m_hook;
+  std::vector<HWND> m_known;
+  int m_messageBoxes = 0;
+};
+
+}  // namespace devhost

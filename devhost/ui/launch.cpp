@@ -1,0 +1,148 @@
+// Start and end of the development host; see the header.
+#include "launch.h"
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <atomic>
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <thread>
+
+#include "devhost/core/host.h"
+#include "devhost/core/journal.h"
+#include "devhost/play/play_driver.h"
+#include "host_actions.h"
+#include "host_app.h"
+#include "host_title.h"
+#include "host_ui_impl.h"
+#include "main_frame.h"
+#include "module_loader.h"
+#include "ui_port_impl.h"
+
+namespace devhost {
+namespace {
+
+constexpr wchar_t kProductModule[] = L"qvx_initstart.arx";
+
+std::wstring ProgramFolder() {
+  wchar_t path[1024] = L"";
+  ::GetModuleFileNameW(nullptr, path, 1024);
+  std::wstring folder = path;
+  return folder.substr(0, folder.find_last_of(L"\\/"));
+}
+
+bool Exists(const std::wstring& path) {
+  return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// The stream that the journal is written to, closed at the end unless it is standard output.
+class JournalFile {
+ public:
+  bool Open(const std::wstring& name) {
+    if (name.empty()) return true;
+    if (name == L"-") {
+      ::_setmode(::_fileno(stdout), _O_BINARY);
+      TheJournal().WriteTo(stdout);
+      return true;
+    }
+    m_stream = ::_wfopen(name.c_str(), L"wb");
+    TheJournal().WriteTo(m_stream);
+    return m_stream != nullptr;
+  }
+  ~JournalFile() {
+    TheJournal().WriteTo(nullptr);
+    if (m_stream) std::fclose(m_stream);
+  }
+
+ private:
+  std::FILE* m_stream = nullptr;
+};
+
+HostOptions OptionsForCore(const LaunchOptions& options) {
+  HostOptions out;
+  out.major = static_cast<int>(options.hostVersion);
+  out.minor = static_cast<int>(std::lround((options.hostVersion - out.major) * 10));
+  out.profile = options.profile;
+  if (!options.productFolder.empty()) out.supportPath.push_back(options.productFolder);
+  out.supportPath.push_back(ProgramFolder());
+  return out;
+}
+
+void OpenDrawings(const std::vector<std::wstring>& names) {
+  for (const std::wstring& name : names) OpenDrawingFile(name);
+  if (TheHost().documents.documentCount() == 0) MakeNewDrawing();
+}
+
+void LoadModules(const LaunchOptions& options) {
+  std::vector<std::wstring> modules = options.modules;
+  const std::wstring product = ProgramFolder() + L"\\" + kProductModule;
+  if (modules.empty() && Exists(product)) modules.push_back(product);
+  for (const std::wstring& module : modules)
+    TheHost().modules.loadModule(module.c_str(), true, false);
+}
+
+// The driver's thread may stand in a call to the main thread, which therefore answers messages
+// until that thread has ended.
+void EndDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
+  if (!driver) return;
+  port.Refuse();
+  const DWORD mainThread = ::GetCurrentThreadId();
+  std::atomic<bool> ended = false;
+  std::thread waiting([&] {
+    driver.reset();
+    ended = true;
+    ::PostThreadMessageW(mainThread, WM_NULL, 0, 0);
+  });
+  while (!ended) {
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_ALLINPUT);
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+  }
+  waiting.join();
+}
+
+int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDriver> driver) {
+  auto* frame = new MainFrame;  // deletes itself with its window
+  app.m_pMainWnd = frame;
+  if (!frame->CreateAndShow(HostTitle(options.hostVersion))) return 3;
+  OpenDrawings(options.drawings);
+  LoadModules(options);
+  int exitCode = 0;
+  {
+    UiPortImpl port;
+    if (driver) driver->Start(port);
+    exitCode = app.Run();
+    EndDriver(port, std::move(driver));
+  }
+  TheHost().End();
+  if (TheFrame()) TheFrame()->DestroyWindow();
+  return exitCode;
+}
+
+}  // namespace
+
+int RunDevelopmentHost(const LaunchOptions& options) {
+  JournalFile journal;
+  if (!journal.Open(options.journal)) {
+    std::fprintf(stderr, "devhost: the journal %s can't be written\n",
+                 Utf8(options.journal).c_str());
+    return 2;
+  }
+  std::unique_ptr<PlayDriver> driver;
+  if (!options.script.empty()) {
+    driver = std::make_unique<PlayDriver>();
+    if (!driver->Load(options.script)) return 2;
+  }
+  AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL);
+  HostApp app(L"DevHost");
+  app.InitInstance();
+  ModuleLoader loader;
+  TheHost().Begin(OptionsForCore(options), &TheHostUi(), &loader);
+  const int exitCode = RunFrame(options, app, std::move(driver));
+  AfxWinTerm();
+  return exitCode;
+}
+
+}  // namespace devhost

@@ -1,0 +1,64 @@
+// The command line of the development host: what each word means and which mistake is told how.
+#include <gtest/gtest.h>
+
+#include "devhost/ui/launch_options.h"
+
+using devhost::LaunchOptions;
+using Words = std::vector<std::wstring>;
+
+namespace {
+
+std::wstring ErrorOf(const Words& words) {
+  LaunchOptions options;
+  std::wstring error;
+  return devhost::ParseLaunchOptions(words, &options, &error) ? L"" : error;
+}
+
+LaunchOptions Parsed(const Words& words) {
+  LaunchOptions options;
+  std::wstring error;
+  EXPECT_TRUE(devhost::ParseLaunchOptions(words, &options, &error));
+  return options;
+}
+
+}  // namespace
+
+TEST(LaunchOptions, NoWordsGiveTheDefaults) {
+  const LaunchOptions o = Parsed({});
+  EXPECT_EQ(o.hostVersion, 24.0);
+  EXPECT_EQ(o.profile, L"default");
+  EXPECT_TRUE(o.modules.empty() && o.drawings.empty() && o.script.empty() && o.journal.empty());
+}
+
+TEST(LaunchOptions, EveryOptionLandsInItsField) {
+  const LaunchOptions o = Parsed({L"--product", L"p", L"--host-version", L"18.2", L"--profile",
+                                  L"q", L"--arx", L"a.arx", L"--arx", L"b.arx", L"--play", L"s",
+                                  L"--journal", L"-", L"x.dxf", L"y.dxf"});
+  EXPECT_EQ(o.productFolder, L"p");
+  EXPECT_EQ(o.hostVersion, 18.2);
+  EXPECT_EQ(o.profile, L"q");
+  EXPECT_EQ(o.modules, (Words{L"a.arx", L"b.arx"}));
+  EXPECT_EQ(o.script, L"s");
+  EXPECT_EQ(o.journal, L"-");
+  EXPECT_EQ(o.drawings, (Words{L"x.dxf", L"y.dxf"}));
+}
+
+TEST(LaunchOptions, AValueMayStandBehindAnEqualsSign) {
+  EXPECT_EQ(Parsed({L"--journal=out.jsonl"}).journal, L"out.jsonl");
+}
+
+TEST(LaunchOptions, BehindTwoHyphensEveryWordIsADrawing) {
+  EXPECT_EQ(Parsed({L"--", L"--play"}).drawings, Words{L"--play"});
+}
+
+TEST(LaunchOptions, MistakesAreToldWithTheWordThatIsWrong) {
+  EXPECT_EQ(ErrorOf({L"--wrong"}), L"unknown option --wrong");
+  EXPECT_EQ(ErrorOf({L"-x"}), L"unknown option -x");
+  EXPECT_EQ(ErrorOf({L"--play"}), L"--play needs a value");
+  EXPECT_EQ(ErrorOf({L"--play="}), L"--play needs a value");
+  EXPECT_EQ(ErrorOf({L"--host-version", L"new"}),
+            L"--host-version takes a release number such as 24.0, not new");
+  EXPECT_EQ(ErrorOf({L"--host-version", L"3"}),
+            L"--host-version takes a release number such as 24.0, not 3");
+  EXPECT_EQ(ErrorOf({L""}), L"a drawing has an empty name");
+}
