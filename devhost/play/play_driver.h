@@ -1,5 +1,5 @@
-// The play driver: reads a script and plays it on a thread of its own, with real mouse and keys, while
-// the main thread runs as always. Windows only; the program's entry calls it.
+// The play driver: reads a script and plays it on a thread of its own, with real mouse and keys,
+// while the main thread runs as always. Windows only; the program's entry calls it.
 #pragma once
 
 #include <memory>

@@ -1,5 +1,5 @@
-// A play script as a list of steps. The whole script is read before anything is played, so a slip in
-// its last line is told at once. The steps themselves stand in docs/play-scripts.md.
+// A play script as a list of steps. The whole script is read before anything is played, so a slip
+// in its last line is told at once. The steps themselves stand in docs/play-scripts.md.
 #pragma once
 
 #include <string>
@@ -12,13 +12,36 @@
 namespace devhost {
 
 enum class StepKind {
-  Open, New, Activate, Close,
-  Command, Type, Press,
-  Click, RightClick, DoubleClick, Hold, Move, Wheel, Drag,
-  Select, SetVar, Setting,
-  Wait, WaitIdle, WaitMenu, WaitPopup,
-  ExpectSent, ExpectNothingSent, ExpectPrinted, ExpectVar, ExpectState,
-  DumpShell, DumpWindows, DumpDatabase, Shot,
+  Open,
+  New,
+  Activate,
+  Close,
+  Command,
+  Type,
+  Press,
+  Click,
+  RightClick,
+  DoubleClick,
+  Hold,
+  Move,
+  Wheel,
+  Drag,
+  Select,
+  SetVar,
+  Setting,
+  Wait,
+  WaitIdle,
+  WaitMenu,
+  WaitPopup,
+  ExpectSent,
+  ExpectNothingSent,
+  ExpectPrinted,
+  ExpectVar,
+  ExpectState,
+  DumpShell,
+  DumpWindows,
+  DumpDatabase,
+  Shot,
   Quit,
 };
 
@@ -40,13 +63,13 @@ struct Step {
   int line = 0;
   std::string source;  // the line as it was written, without blanks at its ends
   StepKind kind = StepKind::Quit;
-  std::string text;    // path, name, text, or the path into the shell state
+  std::string text;  // path, name, text, or the path into the shell state
   ScriptValue value;
   Target target;
-  Target target2;      // where a drag ends
-  bool ctrl = false;   // held while the mouse acts
+  Target target2;     // where a drag ends
+  bool ctrl = false;  // held while the mouse acts
   bool shift = false;
-  int number = 0;      // milliseconds of wait and hold, delta of the wheel
+  int number = 0;  // milliseconds of wait and hold, delta of the wheel
   KeyChord chord;
   std::vector<std::string> handles;
 };

@@ -1,0 +1,159 @@
+// The expectations of play scripts.
+#include "devhost/play/play_expect.h"
+
+#include <functional>
+
+#include "devhost/play/state_path.h"
+
+namespace devhost {
+namespace {
+
+constexpr std::size_t kLongestQuote = 400;  // of what came, in bytes
+
+std::string TextOf(const JournalEntry& entry) {
+  const auto text = entry.fields.find("text");
+  return text != entry.fields.end() && text->is_string() ? text->get<std::string>() : "";
+}
+
+// The end of a long text: what came last is what explains most.
+std::string Shown(const std::string& text) {
+  if (text.size() <= kLongestQuote) return QuotedForScript(text);
+  std::size_t from = text.size() - kLongestQuote;
+  while (from < text.size() && (text[from] & 0xC0) == 0x80) ++from;
+  return "..." + QuotedForScript(text.substr(from));
+}
+
+std::vector<JournalEntry> EntriesOf(const Journal& journal, int from, const char* event) {
+  std::vector<JournalEntry> entries = journal.Since(from);
+  std::erase_if(entries, [event](const JournalEntry& entry) { return entry.event != event; });
+  return entries;
+}
+
+std::string TextsOf(const std::vector<JournalEntry>& entries) {
+  std::string texts;
+  for (const JournalEntry& entry : entries)
+    texts += (texts.empty() ? "" : ", ") + Shown(TextOf(entry));
+  return texts.empty() ? "nothing" : texts;
+}
+
+// Asks again and again until the answer is yes or the patience is over; the last answer counts.
+bool WaitFor(PlayWorld& world, const std::function<bool()>& ask) {
+  const auto end = world.Now() + PlayExpectations::kPatience;
+  while (!ask()) {
+    if (world.Now() >= end) return false;
+    world.Pause(PlayExpectations::kPoll);
+  }
+  return true;
+}
+
+}  // namespace
+
+PlayExpectations::PlayExpectations(const Journal& journal, PlayWorld& world)
+    : m_journal(journal), m_world(world) {}
+
+void PlayExpectations::StepBegins() {
+  if (m_expecting) m_sentFrom = m_printedFrom = m_journal.Count();
+  m_expecting = false;
+}
+
+std::string PlayExpectations::Check(const Step& step) {
+  m_expecting = true;
+  switch (step.kind) {
+    case StepKind::ExpectSent:
+      return Sent(step.text);
+    case StepKind::ExpectNothingSent:
+      return NothingSent();
+    case StepKind::ExpectPrinted:
+      return Printed(step.text);
+    case StepKind::ExpectVar:
+      return Variable(step);
+    case StepKind::ExpectState:
+      return State(step);
+    default:
+      return "this step expects nothing";
+  }
+}
+
+std::string PlayExpectations::Sent(const std::string& text) {
+  std::vector<JournalEntry> came;
+  const bool met = WaitFor(m_world, [&] {
+    came = EntriesOf(m_journal, m_sentFrom, "sent");
+    for (const JournalEntry& entry : came)
+      if (TextOf(entry) == text) {
+        m_sentFrom = entry.number;
+        return true;
+      }
+    return false;
+  });
+  if (met) return {};
+  return "expected to be sent: " + QuotedForScript(text) + "; sent: " + TextsOf(came);
+}
+
+bool PlayExpectations::WaitUntilIdle() {
+  return WaitFor(m_world, [this] { return m_world.IsIdle(); });
+}
+
+// A press is sent some time after it, by a timer: only when those had their turn and the program is
+// quiet again has nothing been sent.
+std::string PlayExpectations::NothingSent() {
+  WaitUntilIdle();
+  m_world.LetTimersFire();
+  const bool idle = WaitUntilIdle();
+  const std::vector<JournalEntry> came = EntriesOf(m_journal, m_sentFrom, "sent");
+  if (!came.empty()) return "expected nothing to be sent; sent: " + TextsOf(came);
+  return idle ? "" : "expected nothing to be sent, but the program does not become idle";
+}
+
+std::string PlayExpectations::Printed(const std::string& text) {
+  std::string printed;
+  const bool met = WaitFor(m_world, [&] {
+    printed.clear();
+    for (const JournalEntry& entry : EntriesOf(m_journal, m_printedFrom, "printed")) {
+      printed += TextOf(entry);
+      if (printed.find(text) == printed.npos) continue;
+      m_printedFrom = entry.number;
+      return true;
+    }
+    return false;
+  });
+  if (met) return {};
+  return "expected to be printed: " + QuotedForScript(text) + "; printed: " + Shown(printed);
+}
+
+std::string PlayExpectations::Variable(const Step& step) {
+  std::string value;
+  bool known = false;
+  const auto equals = [&] {
+    if (value == step.value.text) return true;
+    const Json number = Json::parse(value, nullptr, false);
+    return number.is_number() && ValueMatches(number, step.value);
+  };
+  const bool met = WaitFor(m_world, [&] {
+    known = m_world.Variable(step.text, &value);
+    return known && equals();
+  });
+  if (met) return {};
+  const std::string came = known ? "it is " + QuotedForScript(value) : "there is no such variable";
+  return "expected variable " + step.text + " to be " + QuotedForScript(step.value.text) + "; " +
+         came;
+}
+
+std::string PlayExpectations::State(const Step& step) {
+  std::string came;
+  const bool met = WaitFor(m_world, [&] {
+    const Json state = Json::parse(m_world.ShellState(), nullptr, false);
+    Json value;
+    std::string problem = "the shell state is no JSON";
+    if (state.is_discarded() || !FindInState(state, step.text, &value, &problem)) {
+      came = problem;
+      return false;
+    }
+    came = "it is " + value.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return ValueMatches(value, step.value);
+  });
+  if (met) return {};
+  const std::string wanted = step.value.quoted ? QuotedForScript(step.value.text) : step.value.text;
+  return "expected state " + step.text + " to be " + wanted + "; " + came;
+}
+
+}  // namespace devhost

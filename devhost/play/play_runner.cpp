@@ -1,0 +1,81 @@
+// The walk through a script.
+#include "devhost/play/play_runner.h"
+
+#include "devhost/play/state_path.h"
+
+namespace devhost {
+namespace {
+
+// `wait idle`, `wait menu` and `wait popup` give up before the watchdog does, to say it better.
+constexpr std::chrono::milliseconds kLongestReadiness{20000};
+
+}  // namespace
+
+PlayRunner::PlayRunner(std::string file, std::vector<Step> steps, const Journal& journal,
+                       PlayWorld& world)
+    : m_file(std::move(file)),
+      m_steps(std::move(steps)),
+      m_world(world),
+      m_expectations(journal, world) {}
+
+std::string PlayRunner::Place(int stepNumber) const {
+  if (stepNumber < 0 || stepNumber >= static_cast<int>(m_steps.size())) return m_file;
+  const Step& step = m_steps[static_cast<std::size_t>(stepNumber)];
+  return m_file + ":" + std::to_string(step.line) + ": " + step.source;
+}
+
+int PlayRunner::Play() {
+  for (m_step = 0; m_step < static_cast<int>(m_steps.size()); ++m_step) {
+    const Step& step = m_steps[static_cast<std::size_t>(m_step)];
+    if (step.kind == StepKind::Quit) return 0;
+    const std::string failure = PlayStep(step);
+    if (failure.empty()) continue;
+    m_world.Print(Place(m_step) + "\n  " + failure);
+    return 1;
+  }
+  return 0;
+}
+
+std::string PlayRunner::PlayStep(const Step& step) {
+  if (IsExpectation(step.kind)) return m_expectations.Check(step);
+  switch (step.kind) {
+    case StepKind::Wait:
+      m_world.Pause(std::chrono::milliseconds(step.number));
+      return {};
+    case StepKind::WaitIdle:
+      return WaitUntil("the program to be idle", &PlayRunner::IsIdle);
+    case StepKind::WaitMenu:
+      return WaitUntil("a menu", &PlayRunner::IsMenuOpen);
+    case StepKind::WaitPopup:
+      return WaitUntil("a pop-up of the module", &PlayRunner::IsPopupOpen);
+    case StepKind::DumpShell:
+    case StepKind::DumpWindows:
+    case StepKind::DumpDatabase:
+    case StepKind::Shot:
+      return m_world.Perform(step);
+    default:
+      m_expectations.StepBegins();
+      return m_world.Perform(step);
+  }
+}
+
+std::string PlayRunner::WaitUntil(const char* what, bool (PlayRunner::*ready)()) {
+  const auto end = m_world.Now() + kLongestReadiness;
+  while (!(this->*ready)()) {
+    if (m_world.Now() >= end)
+      return std::string("waited ") + std::to_string(kLongestReadiness.count() / 1000) +
+             " s in vain for " + what;
+    m_world.Pause(PlayExpectations::kPoll);
+  }
+  return {};
+}
+
+bool PlayRunner::IsPopupOpen() {
+  const Json state = Json::parse(m_world.ShellState(), nullptr, false);
+  Json open;
+  std::string problem;
+  return !state.is_discarded() && FindInState(state, "popup.open", &open, &problem) &&
+         open.is_boolean() && open.get<bool>();
+}
+
+}  // namespace devhost

@@ -1,0 +1,224 @@
+// The walk through a script and its expectations, in a world with a clock of its own.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+
+#include "devhost/play/play_runner.h"
+
+namespace devhost {
+namespace {
+
+using namespace std::chrono_literals;
+
+// Keeps a diary of what was performed, and lets things happen at set times.
+class DiaryWorld : public PlayWorld {
+ public:
+  explicit DiaryWorld(Journal& journal) : m_journal(journal) {}
+
+  std::string Perform(const Step& step) override {
+    diary += step.source + "; ";
+    if (on.contains(step.source)) on[step.source]();
+    return problems.contains(step.source) ? problems[step.source] : "";
+  }
+  bool IsIdle() override { return m_now >= idleFrom; }
+  bool IsMenuOpen() override { return m_now >= menuFrom; }
+  void LetTimersFire() override { Pause(200ms); }
+  std::string ShellState() override { return state; }
+  bool Variable(const std::string& name, std::string* value) override {
+    if (!variables.contains(name)) return false;
+    *value = variables[name];
+    return true;
+  }
+  Milliseconds Now() override { return m_now; }
+  void Pause(Milliseconds time) override {
+    m_now += time;
+    while (!later.empty() && later.begin()->first <= m_now) {
+      later.begin()->second();
+      later.erase(later.begin());
+    }
+  }
+  void Print(const std::string& line) override { printed += line; }
+
+  void Send(const std::string& text) { m_journal.Record("sent", {{"text", text}}); }
+  void SendAfter(Milliseconds time, const std::string& text) {
+    later.emplace(m_now + time, [this, text] { Send(text); });
+  }
+  void PrintText(const std::string& text) { m_journal.Record("printed", {{"text", text}}); }
+
+  std::string diary, printed, state = "{}";
+  std::map<std::string, std::function<void()>> on;
+  std::map<std::string, std::string> problems, variables;
+  std::multimap<Milliseconds, std::function<void()>> later;
+  Milliseconds idleFrom{0}, menuFrom{1h};
+
+ private:
+  Journal& m_journal;
+  Milliseconds m_now{0};
+};
+
+class PlayTest : public testing::Test {
+ protected:
+  int Play(const std::string& script) {
+    std::vector<Step> steps;
+    ScriptError error;
+    EXPECT_TRUE(ParsePlayScript(script, &steps, &error)) << ScriptErrorText("t", error);
+    return PlayRunner("t.script", steps, journal, world).Play();
+  }
+
+  Journal journal;
+  DiaryWorld world{journal};
+};
+
+TEST_F(PlayTest, StepsRunInOrderUntilQuit) {
+  EXPECT_EQ(Play("new\ntype \"a\"\nquit\nclose\n"), 0);
+  EXPECT_EQ(world.diary, "new; type \"a\"; ");
+}
+
+TEST_F(PlayTest, TheFirstFailureStopsThePlayAndIsPrintedWithItsLine) {
+  world.problems["close"] = "there is no drawing";
+  EXPECT_EQ(Play("new\n\nclose\nnew\n"), 1);
+  EXPECT_EQ(world.diary, "new; close; ");
+  EXPECT_EQ(world.printed, "t.script:3: close\n  there is no drawing");
+}
+
+TEST_F(PlayTest, AnExpectedTextMayStillBeOnItsWay) {
+  world.on["new"] = [this] { world.SendAfter(150ms, "LINE\n"); };
+  EXPECT_EQ(Play("new\nexpect sent \"LINE\\n\"\n"), 0);
+  EXPECT_LT(world.Now(), 1s);
+}
+
+TEST_F(PlayTest, AnExpectedTextMustBeExact) {
+  world.on["new"] = [this] { world.Send("LINE"); };
+  EXPECT_EQ(Play("new\nexpect sent \"LINE\\n\"\n"), 1);
+  EXPECT_EQ(
+      world.printed,
+      "t.script:2: expect sent \"LINE\\n\"\n  expected to be sent: \"LINE\\n\"; sent: \"LINE\"");
+}
+
+TEST_F(PlayTest, OneEntryMeetsOneExpectation) {
+  world.on["new"] = [this] { world.Send("A"); };
+  EXPECT_EQ(Play("new\nexpect sent \"A\"\nexpect sent \"A\"\n"), 1);
+}
+
+TEST_F(PlayTest, ExpectationsInARowLookAtTheStepsBeforeThem) {
+  world.on["new"] = [this] { world.Send("A"); };
+  world.on["close"] = [this] { world.Send("B"); };
+  EXPECT_EQ(Play("new\nclose\nexpect sent \"A\"\nexpect sent \"B\"\n"), 0);
+}
+
+// A text sent before an earlier expectation once met a later one.
+TEST_F(PlayTest, WhatCameBeforeTheLastExpectationDoesNotCount) {
+  world.on["new"] = [this] {
+    world.Send("A");
+    world.Send("B");
+  };
+  EXPECT_EQ(Play("new\nexpect sent \"A\"\nclose\nexpect sent \"B\"\n"), 1);
+}
+
+TEST_F(PlayTest, WaitingIsNoActingStep) {
+  world.on["new"] = [this] { world.Send("A"); };
+  EXPECT_EQ(Play("new\nexpect sent \"A\"\nwait idle\nshot \"a\"\nexpect nothing sent\n"), 0);
+  EXPECT_EQ(Play("new\nwait idle\nexpect nothing sent\n"), 1);
+}
+
+TEST_F(PlayTest, NothingSentWaitsForTheSendDelay) {
+  world.on["new"] = [this] { world.SendAfter(150ms, "LATE"); };
+  EXPECT_EQ(Play("new\nexpect nothing sent\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:2: expect nothing sent\n  expected nothing to be sent; sent: \"LATE\"");
+}
+
+TEST_F(PlayTest, NothingSentNeedsAProgramThatBecomesIdle) {
+  world.idleFrom = 1h;
+  EXPECT_EQ(Play("expect nothing sent\n"), 1);
+  EXPECT_NE(world.printed.find("does not become idle"), std::string::npos);
+}
+
+TEST_F(PlayTest, PrintedTextIsFoundAcrossEntries) {
+  world.on["new"] = [this] {
+    world.PrintText("\n选择");
+    world.PrintText("墙体: ");
+  };
+  EXPECT_EQ(Play("new\nexpect printed \"选择墙体\"\n"), 0);
+}
+
+// What the program printed while it started may be expected by a script's first line.
+TEST_F(PlayTest, WhatCameBeforeTheScriptCounts) {
+  world.PrintText("hello");
+  EXPECT_EQ(Play("expect printed \"hello\"\n"), 0);
+}
+
+TEST_F(PlayTest, PrintedTextMeetsOneExpectation) {
+  world.on["new"] = [this] { world.PrintText("墙体: "); };
+  EXPECT_EQ(Play("new\nexpect printed \"墙体\"\nexpect printed \"墙体:\"\n"), 1);
+  EXPECT_NE(world.printed.find("expected to be printed: \"墙体:\"; printed: \"\""),
+            std::string::npos);
+}
+
+TEST_F(PlayTest, SentAndPrintedHaveMarksOfTheirOwn) {
+  world.on["new"] = [this] {
+    world.PrintText("one");
+    world.Send("A");
+  };
+  EXPECT_EQ(Play("new\nexpect sent \"A\"\nexpect printed \"one\"\n"), 0);
+}
+
+TEST_F(PlayTest, VariablesAreComparedAsTextOrNumber) {
+  world.variables = {{"DIMSCALE", "100.0"}, {"CLAYER", "0"}, {"DWGNAME", "plan.dwg"}};
+  EXPECT_EQ(Play("expect var DIMSCALE 100\nexpect var CLAYER 0\nexpect var DWGNAME \"plan.dwg\"\n"),
+            0);
+  EXPECT_EQ(Play("expect var DIMSCALE 50\n"), 1);
+  EXPECT_NE(world.printed.find("expected variable DIMSCALE to be \"50\"; it is \"100.0\""),
+            std::string::npos);
+  EXPECT_EQ(Play("expect var NOSUCH 1\n"), 1);
+  EXPECT_NE(world.printed.find("there is no such variable"), std::string::npos);
+}
+
+TEST_F(PlayTest, AStateIsWaitedFor) {
+  world.state = R"({"tabs": {"active": 1}})";
+  world.later.emplace(700ms, [this] { world.state = R"({"tabs": {"active": 2}})"; });
+  EXPECT_EQ(Play("expect state tabs.active 2\n"), 0);
+  EXPECT_LT(world.Now(), 1s);
+}
+
+TEST_F(PlayTest, AStateThatNeverComesIsTold) {
+  world.state = R"({"tabs": {"active": 1}})";
+  EXPECT_EQ(Play("expect state tabs.active 2\n"), 1);
+  EXPECT_EQ(
+      world.printed,
+      "t.script:1: expect state tabs.active 2\n  expected state tabs.active to be 2; it is 1");
+  world.state = "no json";
+  EXPECT_EQ(Play("expect state tabs.active \"a\"\n"), 1);
+  EXPECT_NE(world.printed.find("to be \"a\"; the shell state is no JSON"), std::string::npos);
+}
+
+TEST_F(PlayTest, WaitsEndWhenTheirTimeComes) {
+  world.idleFrom = 300ms;
+  world.menuFrom = 900ms;
+  world.later.emplace(2s, [this] { world.state = R"({"popup": {"open": true}})"; });
+  EXPECT_EQ(Play("wait idle\nwait menu\nwait popup\nwait 40\n"), 0);
+  EXPECT_GE(world.Now(), 2040ms);
+}
+
+TEST_F(PlayTest, AWaitInVainSaysForWhat) {
+  EXPECT_EQ(Play("wait popup\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:1: wait popup\n  waited 20 s in vain for a pop-up of the module");
+}
+
+TEST(PlayRunner, KnowsTheStepItIsAt) {
+  Journal journal;
+  DiaryWorld world(journal);
+  std::vector<Step> steps;
+  ScriptError error;
+  ASSERT_TRUE(ParsePlayScript("new\n# here\nclose\n", &steps, &error));
+  PlayRunner runner("t.script", steps, journal, world);
+  std::string place;
+  world.on["close"] = [&] { place = runner.Place(runner.StepNumber()); };
+  runner.Play();
+  EXPECT_EQ(place, "t.script:3: close");
+}
+
+}  // namespace
+}  // namespace devhost
