@@ -1,0 +1,91 @@
+#include "menu/menu_bar.h"
+
+IMPLEMENT_DYNAMIC(TMenuBar, CObject)
+
+TMenuBar::~TMenuBar() {
+  TMenuBar* chain = nullptr;
+  CollectSubMenus(*this, chain);
+  DeleteChain(chain);
+}
+
+void TMenuBar::Delete(TMenuBar* bar) { DeleteChain(bar); }
+
+// Hangs the owned sub-menus of a bar's lines on the chain, so that the lines die without them.
+void TMenuBar::CollectSubMenus(TMenuBar& bar, TMenuBar*& chain) {
+  if (!bar.OwnsElements()) return;
+  for (TMenuItem* item : bar) {
+    if (!item || !item->m_pSubMenu || !item->m_pSubMenu->m_bOwned) continue;
+    item->m_pSubMenu->m_pNextDoomed = chain;
+    chain = item->m_pSubMenu;
+    item->m_pSubMenu = nullptr;
+  }
+}
+
+void TMenuBar::DeleteChain(TMenuBar* chain) {
+  while (chain) {
+    TMenuBar* bar = chain;
+    chain = bar->m_pNextDoomed;
+    CollectSubMenus(*bar, chain);
+    delete bar;
+  }
+}
+
+namespace {
+
+// Depth first over lines without a sub-menu, until one of them matches. Goes through operator[] so
+// that the cursors of the bars tell where the search ended.
+template <class Matches>
+TMenuItem* FindLeaf(TMenuBar& root, Matches matches) {
+  struct Place {
+    TMenuBar* bar;
+    int next;
+  };
+  std::vector<Place> path{{&root, 0}};
+  while (!path.empty()) {
+    Place& place = path.back();
+    if (place.next >= place.bar->Length()) {
+      path.pop_back();
+      continue;
+    }
+    TMenuItem* item = (*place.bar)[place.next++];
+    if (item->m_pSubMenu)
+      path.push_back({item->m_pSubMenu, 0});
+    else if (matches(*item))
+      return item;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+TMenuItem* TMenuBar::FindItemByCommand(const wchar_t* command) {
+  return FindLeaf(*this, [command](const TMenuItem& item) { return item.m_strCommand == command; });
+}
+
+TMenuItem* TMenuBar::FindItemById(int id) {
+  return FindLeaf(*this, [id](const TMenuItem& item) {
+    return item.m_nCommandId == id && !item.IsSeparator();
+  });
+}
+
+TMenuItem* TMenuBar::FindItemByLabel(const wchar_t* label) {
+  for (int i = 0; i < Length(); ++i) {
+    TMenuItem* item = (*this)[i];
+    if (item->m_strLabel == label) return item;
+  }
+  return nullptr;
+}
+
+TMenuItem* MenuWalk::Next() {
+  while (!m_path.empty()) {
+    Place& place = m_path.back();
+    if (place.next >= place.bar->Length()) {
+      m_path.pop_back();
+      continue;
+    }
+    TMenuItem* item = place.bar->At(place.next++);
+    if (item->m_pSubMenu) m_path.push_back({item->m_pSubMenu, 0});
+    return item;
+  }
+  return nullptr;
+}

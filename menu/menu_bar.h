@@ -1,0 +1,57 @@
+// A block of menu lines: a named block of the file or the sub-menu of a line. Sub-menus may be
+// nested without bound (a hostile file nests a million of them), so that searching, walking and
+// deleting go over a list on the heap and never recurse.
+#pragma once
+
+#include <vector>
+
+#include "frame/containers/tdptrlist.h"
+#include "kernel/trblist.h"
+#include "menu/menu_item.h"
+
+class TMenuBar : public CObject, public TDPtrList<TMenuItem> {
+  DECLARE_DYNAMIC(TMenuBar)
+
+ public:
+  TMenuBar() = default;
+  ~TMenuBar() override;
+  void Serialize(CArchive& ar) override;
+
+  // Depth first, first match wins, exact. A line with a sub-menu is entered and not compared
+  // itself. Each bar's cursor is left on the line where its part of the search ended.
+  TMenuItem* FindItemByCommand(const wchar_t* command);
+  // As above; separators are not compared either.
+  TMenuItem* FindItemById(int id);
+  // Top level only.
+  TMenuItem* FindItemByLabel(const wchar_t* label);
+
+  // Deletes a bar with all below it; null is fine.
+  static void Delete(TMenuBar* bar);
+
+  TWCString m_strName{kMenuTextCapacity};  // empty for a sub-menu
+  TWCString m_strKind{kMenuTextCapacity};
+  TRBList m_objectMask;
+  unsigned char m_bOwned = 1;  // the line that shows this bar as its sub-menu deletes it
+
+ private:
+  friend class TMenuItem;
+  static void CollectSubMenus(TMenuBar& bar, TMenuBar*& chain);
+  static void DeleteChain(TMenuBar* chain);
+
+  TMenuBar* m_pNextDoomed = nullptr;  // used only while a tree is torn down
+};
+
+// Visits every line of a bar and of all sub-menus below it, in the order of the file: first the
+// line, then what hangs under it.
+class MenuWalk {
+ public:
+  explicit MenuWalk(TMenuBar& bar) { m_path.push_back({&bar, 0}); }
+  TMenuItem* Next();  // null at the end
+
+ private:
+  struct Place {
+    TMenuBar* bar;
+    int next;
+  };
+  std::vector<Place> m_path;
+};

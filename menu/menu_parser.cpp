@@ -1,0 +1,271 @@
+#include "menu/menu_parser.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "adsdef.h"
+#include "kernel/qvxexport.h"
+#include "menu/menu_line.h"
+
+namespace {
+
+// The new element is owned by the list from the start, so that nothing is lost on the way.
+template <class T>
+T& AppendNew(TDPtrList<T>& list) {
+  auto element = std::make_unique<T>();
+  list.Append(element.get());
+  return *element.release();
+}
+
+template <class T>
+void MoveAll(TDPtrList<T>& from, TDPtrList<T>& to) {
+  to.Reserve(to.Length() + from.Length());
+  for (T* element : from) to.Append(element);
+  from.Forget();
+}
+
+}  // namespace
+
+int MenuParser::Parse() {
+  Advance();
+  if (!QmnMenu()) return 1;
+  Commit();
+  return 0;
+}
+
+// qmn_menu : menu_title menu_bar_list menu_switch_list menu_res_list
+bool MenuParser::QmnMenu() {
+  return MenuTitle() && MenuBarList() && MenuSwitchList() && MenuResList() && Check(QMN_END);
+}
+
+// pop_method : QMN_POP QMN_EQUAL QMN_RCLICK
+// pop_method : QMN_POP QMN_EQUAL QMN_CTRL QMN_PLUS QMN_RCLICK
+// Nothing refers to pop_method: its words stay reserved, and POP in a file is a syntax error.
+
+// menu_title : QMN_TITLE QMN_EQUAL QMN_STRING
+bool MenuParser::MenuTitle() {
+  return Expect(QMN_TITLE) && Expect(QMN_EQUAL) && ExpectText(QMN_STRING, m_title);
+}
+
+// menu_bar_list : menu_bar_list menu_bar
+// menu_bar_list : menu_bar
+// Leaves the token behind the prefix of the switch section.
+bool MenuParser::MenuBarList() {
+  if (!Expect(QMN_PREFIX)) return false;
+  do {
+    if (!MenuBar() || !Expect(QMN_PREFIX)) return false;
+  } while (!Is(QMN_MENU_SWITCH));
+  return true;
+}
+
+// menu_bar : QMN_PREFIX QMN_IDENTIFIER QMN_IDENTIFIER QMN_EQUAL object_mask menu_item_list
+// menu_bar : QMN_PREFIX QMN_IDENTIFIER menu_item_list
+// Behind the prefix. A second identifier is the kind of the block when a '=' follows, and the icon
+// of the first line when that line follows.
+bool MenuParser::MenuBar() {
+  auto bar = std::make_unique<TMenuBar>();
+  if (!ExpectText(QMN_IDENTIFIER, bar->m_strName)) return false;
+  Mask mask;
+  if (Is(QMN_IDENTIFIER)) {
+    ExpectText(QMN_IDENTIFIER, m_pendingIcon);
+    m_hasPendingIcon = true;
+    if (Is(QMN_EQUAL)) {
+      bar->m_strKind = std::move(m_pendingIcon);
+      m_hasPendingIcon = false;
+      Advance();
+      if (!ObjectMask(mask)) return false;
+    }
+  }
+  if (!MenuItemList(*bar)) return false;
+  bar->m_objectMask = std::move(mask.groups);
+  KeepBar(mask.lost ? nullptr : bar.release());
+  return true;
+}
+
+// A block that failed takes all blocks before and behind it along, while switches and resources
+// stay: one bad group in a mask leaves the user without any menu.
+void MenuParser::KeepBar(TMenuBar* bar) {
+  std::unique_ptr<TMenuBar> kept(bar);
+  if (!kept) {
+    m_barsLost = true;
+    m_bars.Clear();
+  }
+  if (m_barsLost) return;
+  m_bars.Append(kept.get());
+  static_cast<void>(kept.release());
+}
+
+// object_mask : object_mask QMN_COMA dxf_group
+// object_mask : dxf_group
+// A further group takes the place of whatever stood behind the first one. So a mask of three or
+// more groups keeps its first and its last; the block then matches more objects than its author
+// wrote.
+bool MenuParser::ObjectMask(Mask& mask) {
+  if (!DxfGroup(mask.groups)) return false;
+  mask.lost = mask.groups.IsEmpty();
+  while (Is(QMN_COMA)) {
+    Advance();
+    TRBList group;
+    if (!DxfGroup(group)) return false;
+    if (group.IsEmpty()) mask.lost = true;
+    if (mask.lost) continue;
+    resbuf* dropped = std::exchange(mask.groups.Head()->rbnext, group.Detach());
+    TRBList::FreeGroups(dropped);
+  }
+  return true;
+}
+
+// dxf_group : QMN_ICON QMN_COMA QMN_ICON
+// dxf_group : QMN_ICON QMN_COMA QMN_FCON
+// dxf_group : QMN_ICON QMN_COMA QMN_STRING
+// A group of the wrong kind is reported here, before the token behind it is read, and is left
+// empty.
+bool MenuParser::DxfGroup(TRBList& group) {
+  if (!Check(QMN_ICON)) return false;
+  const int code = m_token.number;
+  Advance();
+  if (!Expect(QMN_COMA)) return false;
+  if (!Is(QMN_ICON) && !Is(QMN_FCON) && !Is(QMN_STRING)) return SyntaxError();
+  MakeGroup(code, group);
+  Advance();
+  return true;
+}
+
+void MenuParser::MakeGroup(int code, TRBList& group) {
+  const short kind = QvxExport::TypeOfCode(code);
+  if (Is(QMN_ICON)) {
+    if (kind != RTSHORT) return ReportKind(code, L"integer");
+    group.AppendShort(code, static_cast<short>(m_token.number));
+  } else if (Is(QMN_FCON)) {
+    if (kind != RTREAL) return ReportKind(code, L"real");
+    group.AppendReal(code, m_token.real);
+  } else {
+    // The words for a string are those for an integer; users know them so.
+    if (kind != RTSTR) return ReportKind(code, L"integer");
+    TWCString text;
+    m_ansi.Decode(m_token.text, text);
+    group.AppendString(code, text);
+  }
+}
+
+void MenuParser::ReportKind(int code, const wchar_t* kind) {
+  TWCString message(L"Dxf code ");
+  message += std::to_wstring(code).c_str();
+  message += L" is not ";
+  message += kind;
+  message += L" code";
+  m_messages.ReportSyntaxError(message, m_scanner.Line());
+}
+
+// menu_item_list : menu_item_list menu_item
+// menu_item_list : menu_item
+bool MenuParser::MenuItemList(TDPtrList<TMenuItem>& items) {
+  do {
+    if (!MenuItem(items)) return false;
+  } while (IsItemStart());
+  return true;
+}
+
+// menu_item : QMN_MENU_ITEM
+// menu_item : QMN_IDENTIFIER QMN_MENU_ITEM
+bool MenuParser::MenuItem(TDPtrList<TMenuItem>& items) {
+  if (!m_hasPendingIcon && Is(QMN_IDENTIFIER)) {
+    ExpectText(QMN_IDENTIFIER, m_pendingIcon);
+    m_hasPendingIcon = true;
+  }
+  if (!Check(QMN_MENU_ITEM)) return false;
+  TMenuItem& item = AppendNew(items);
+  if (std::exchange(m_hasPendingIcon, false))
+    item.m_strIconName.Assign(m_pendingIcon, m_pendingIcon.Length());
+  ParseMenuLine(m_ansi.Decode(m_token.text), item);
+  Advance();
+  return true;
+}
+
+// menu_switch_list : menu_switch_list menu_switch_item
+// menu_switch_list : QMN_PREFIX QMN_MENU_SWITCH
+// Behind the prefix.
+bool MenuParser::MenuSwitchList() {
+  if (!Expect(QMN_MENU_SWITCH)) return false;
+  while (Is(QMN_SUB_PREFIX))
+    if (!MenuSwitchItem()) return false;
+  return true;
+}
+
+// menu_switch_item : QMN_SUB_PREFIX QMN_IDENTIFIER QMN_GET_STATE QMN_EQUAL QMN_IDENTIFIER
+//                    QMN_SET_STATE QMN_EQUAL QMN_IDENTIFIER switch_state_list
+bool MenuParser::MenuSwitchItem() {
+  Advance();
+  TMenuSwitchItem& made = AppendNew(m_switches);
+  return ExpectText(QMN_IDENTIFIER, made.m_strName) && ExpectName(QMN_GET_STATE, made.m_strGetFn) &&
+         ExpectName(QMN_SET_STATE, made.m_strSetFn) && SwitchStateList(made);
+}
+
+// switch_state_list : switch_state_list switch_state_item
+// switch_state_list : switch_state_item
+bool MenuParser::SwitchStateList(TMenuSwitchItem& owner) {
+  do {
+    if (!SwitchStateItem(owner)) return false;
+  } while (Is(QMN_ICON));
+  return true;
+}
+
+// switch_state_item : QMN_ICON QMN_EQUAL QMN_IDENTIFIER QMN_COMA QMN_STRING
+bool MenuParser::SwitchStateItem(TMenuSwitchItem& owner) {
+  if (!Check(QMN_ICON)) return false;
+  TSwitchStateItem& state = AppendNew(owner.m_states);
+  state.m_nValue = m_token.number;
+  Advance();
+  return Expect(QMN_EQUAL) && ExpectText(QMN_IDENTIFIER, state.m_strIconName) && Expect(QMN_COMA) &&
+         ExpectText(QMN_STRING, state.m_strLabel);
+}
+
+// menu_res_list : menu_res_list menu_res_item
+// menu_res_list : QMN_PREFIX QMN_MENU_RES
+bool MenuParser::MenuResList() {
+  if (!Expect(QMN_PREFIX) || !Expect(QMN_MENU_RES)) return false;
+  while (Is(QMN_IDENTIFIER))
+    if (!MenuResItem()) return false;
+  return true;
+}
+
+// menu_res_item : QMN_IDENTIFIER QMN_EQUAL QMN_STRING QMN_COMA QMN_STRING
+bool MenuParser::MenuResItem() {
+  TMenuResItem& made = AppendNew(m_resources);
+  return ExpectText(QMN_IDENTIFIER, made.m_strName) && Expect(QMN_EQUAL) &&
+         ExpectText(QMN_STRING, made.m_strImage) && Expect(QMN_COMA) &&
+         ExpectText(QMN_STRING, made.m_strImage2);
+}
+
+bool MenuParser::Check(int kind) { return Is(kind) || SyntaxError(); }
+
+bool MenuParser::Expect(int kind) {
+  if (!Check(kind)) return false;
+  Advance();
+  return true;
+}
+
+bool MenuParser::ExpectText(int kind, TWCString& out) {
+  if (!Check(kind)) return false;
+  m_ansi.Decode(m_token.text, out);
+  Advance();
+  return true;
+}
+
+// keyword QMN_EQUAL QMN_IDENTIFIER
+bool MenuParser::ExpectName(int keyword, TWCString& out) {
+  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectText(QMN_IDENTIFIER, out);
+}
+
+bool MenuParser::SyntaxError() {
+  m_messages.ReportSyntaxError(L"syntax error", m_scanner.Line());
+  return false;
+}
+
+void MenuParser::Commit() {
+  m_system.m_strTitle = std::move(m_title);
+  MoveAll(m_bars, m_system);
+  MoveAll(m_switches, m_system.m_switches);
+  MoveAll(m_resources, m_system.m_resources);
+}

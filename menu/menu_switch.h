@@ -1,0 +1,34 @@
+// A switch and its states. A line that shows a switch asks the get function for a number, takes
+// label and icon from the state with that number, and runs the set function when it is chosen.
+#pragma once
+
+#include "frame/containers/tdptrlist.h"
+#include "menu/menu_item.h"
+
+class TSwitchStateItem : public CObject {
+  DECLARE_DYNAMIC(TSwitchStateItem)
+
+ public:
+  void Serialize(CArchive& ar) override;
+
+  int m_nValue = 0;
+  TWCString m_strIconName{kMenuTextCapacity};
+  TWCString m_strLabel{kMenuTextCapacity};
+  int m_nIconIndex = -1;
+};
+
+class TMenuSwitchItem : public CObject {
+  DECLARE_DYNAMIC(TMenuSwitchItem)
+
+ public:
+  void Serialize(CArchive& ar) override;
+
+  // A value that no state has gives the first state, so that a switch always shows something; null
+  // only when there are no states at all.
+  TSwitchStateItem* FindState(int value);
+
+  TWCString m_strName{kMenuTextCapacity};
+  TWCString m_strGetFn{kMenuTextCapacity};
+  TWCString m_strSetFn{kMenuTextCapacity};
+  TDPtrList<TSwitchStateItem> m_states;
+};

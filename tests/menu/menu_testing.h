@@ -1,0 +1,52 @@
+// What the menu tests share: compiling a text with its messages collected, a readable dump of
+// tokens and of a whole system, a compiled file as bytes and back.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "menu/menu_model.h"
+#include "menu/menu_users.h"
+#include "menu/source_messages.h"
+
+std::string Utf8(const wchar_t* text);
+
+class CollectedMessages : public SourceMessages {
+ public:
+  void ReportSyntaxError(const wchar_t* text, int line) override;
+  std::string Text() const;  // "line: text" and a newline for each, newlines inside as \n
+  std::vector<std::string> all;
+};
+
+class CollectedBoxes : public MenuBoxes {
+ public:
+  void ShowMessage(const wchar_t* text) override { all.push_back(Utf8(text)); }
+  std::vector<std::string> all;
+};
+
+struct Compiled {
+  int result = -1;
+  CollectedMessages messages;
+  TMenuSystem system;
+  std::string Tree();
+};
+
+// Stops at a comment without an end. The source is narrow text of code page 936.
+void Compile(const std::string& source, Compiled& into);
+
+std::string DumpTokens(const std::string& source);  // "line KIND text" for each
+std::string DumpTree(TMenuSystem& system);
+std::string DumpBar(TMenuBar& bar, int indent = 0);
+
+std::string SaveBytes(TMenuSystem& system);
+// Empty when all went well, else the name of the exception.
+std::string LoadBytes(TMenuSystem& system, const std::string& bytes);
+
+// A path in the folder for temporary files, and the file's content.
+std::wstring TempPath(const wchar_t* name);
+void WriteFile(const std::wstring& path, const std::string& bytes);
+std::string ReadFile(const std::wstring& path);  // "<missing>" when it can't be read
+void DeleteFileAt(const std::wstring& path);
+
+// Runs it on a thread with a stack of 256 KiB.
+void OnSmallStack(void (*work)());

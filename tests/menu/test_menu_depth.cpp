@@ -1,0 +1,101 @@
+// Depth and size: sub-menus nested a hundred thousand deep on a stack of 256 KiB, and work that
+// grows with the length of the file and not with its square.
+#include <gtest/gtest.h>
+
+#include "menu/menu_passes.h"
+#include "tests/menu/menu_testing.h"
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int kDepth = 100000;
+constexpr int kFileDepth = 200000;
+#else
+constexpr int kDepth = 100000;
+constexpr int kFileDepth = 1000000;
+#endif
+
+std::string Repeated(const char* text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
+std::string InBlock(const std::string& lines) {
+  return "MENU_TITLE=\"t\"\n***A\n" + lines + "***SWITCH\n***RESOURCE\n";
+}
+
+int DepthOf(TMenuBar& bar) {
+  int depth = 0;
+  for (TMenuBar* at = &bar; at->Length() && at->At(0)->m_pSubMenu; at = at->At(0)->m_pSubMenu)
+    ++depth;
+  return depth;
+}
+
+TEST(MenuDepth, ADeepSourceIsReadSearchedSavedAndFreedOnASmallStack) {
+  OnSmallStack([] {
+    Compiled compiled;
+    Compile(InBlock(Repeated("[->a]\n", kDepth) + Repeated("[<-b]x;\n", kDepth)), compiled);
+    EXPECT_EQ(compiled.result, 0);
+    EXPECT_EQ(DepthOf(*compiled.system.At(0)), kDepth);
+    EXPECT_NE(compiled.system.FindItemByCommand(L"x\n"), nullptr);
+    EXPECT_EQ(compiled.system.FindItemByCommand(L"y"), nullptr);
+    const std::string bytes = SaveBytes(compiled.system);
+    TMenuSystem back;
+    EXPECT_EQ(LoadBytes(back, bytes), "");
+    EXPECT_EQ(DepthOf(*back.At(0)), kDepth);
+  });
+}
+
+TEST(MenuDepth, ADeepCompiledFileIsReadWrittenAndFreedOnASmallStack) {
+  OnSmallStack([] {
+    TMenuSystem system;
+    system.Append(new TMenuBar);
+    TMenuBar* bar = system.At(0);
+    for (int i = 0; i < kFileDepth; ++i) {
+      bar->Append(new TMenuItem);
+      bar = bar->At(0)->m_pSubMenu = new TMenuBar;
+    }
+    const std::string bytes = SaveBytes(system);
+    TMenuSystem back;
+    EXPECT_EQ(LoadBytes(back, bytes), "");
+    EXPECT_EQ(DepthOf(*back.At(0)), kFileDepth);
+    // Cut in the middle of the way down.
+    EXPECT_EQ(LoadBytes(back, bytes.substr(0, bytes.size() / 4)), "CArchiveException");
+  });
+}
+
+TEST(MenuDepth, RemovingADeepLineFreesAllBelowIt) {
+  OnSmallStack([] {
+    TMenuBar top;
+    TMenuBar* bar = &top;
+    for (int i = 0; i < kDepth; ++i) {
+      bar->Append(new TMenuItem);
+      bar = bar->At(0)->m_pSubMenu = new TMenuBar;
+    }
+    EXPECT_EQ(top.Remove(0), 1);
+    EXPECT_EQ(top.Length(), 0);
+  });
+}
+
+// The nesting pass has to stay near-linear for these; as worded, level by level, each would touch
+// some ten thousand million lines.
+TEST(MenuDepth, PathologicalRangesAreNestedAtOnce) {
+  for (const std::string& lines :
+       {Repeated("[->a]\n", kDepth), Repeated("[<-a]\n", kDepth),
+        Repeated("[->a]\n[<-<-b]\n", kDepth),
+        Repeated("[->a]\n", kDepth) + Repeated("[<-<-<-b]\n", kDepth / 2),
+        Repeated("[->a]\n[<-b]\n", kDepth)}) {
+    Compiled compiled;
+    Compile(InBlock(lines), compiled);
+    EXPECT_EQ(compiled.result, 0);
+  }
+}
+
+TEST(MenuDepth, APathOfPairsOnOneLineClosesAsManyLevels) {
+  Compiled compiled;
+  Compile(InBlock(Repeated("[->a]\n", 90) + "[" + Repeated("<-", 90) + "b]\n"), compiled);
+  EXPECT_EQ(DepthOf(*compiled.system.At(0)), 90);
+}
+
+}  // namespace

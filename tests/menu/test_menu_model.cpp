@@ -1,0 +1,305 @@
+// The menu model: defaults, copies, lookups, ownership of sub-menus, and the recent list.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <type_traits>
+
+#include "menu/name_index.h"
+#include "tests/menu/menu_testing.h"
+
+namespace {
+
+TMenuItem* Line(TMenuBar& bar, const wchar_t* label, const wchar_t* command) {
+  auto* item = new TMenuItem(label, command);
+  bar.Append(item);
+  return item;
+}
+
+TMenuBar* SubMenu(TMenuItem& item) { return item.m_pSubMenu = new TMenuBar; }
+
+TEST(MenuModel, ALineStartsEmptyWithoutIconAndSwitch) {
+  TMenuItem item;
+  EXPECT_TRUE(item.m_strLabel.IsEmpty());
+  EXPECT_TRUE(item.m_strCommand.IsEmpty());
+  EXPECT_EQ(item.m_pSubMenu, nullptr);
+  EXPECT_EQ(item.m_pSwitch, nullptr);
+  EXPECT_EQ(item.m_nCommandId, 0);
+  EXPECT_EQ(item.m_nFlags, 0u);
+  EXPECT_EQ(item.m_nIconIndex, -1);
+}
+
+TEST(MenuModel, TheOtherDefaultsAreAsTheFileReaderNeedsThem) {
+  TSwitchStateItem state;
+  EXPECT_EQ(state.m_nIconIndex, -1);
+  TMenuBar bar;
+  EXPECT_EQ(bar.m_bOwned, 1);
+  EXPECT_TRUE(bar.OwnsElements());
+  TMenuSystem system;
+  EXPECT_EQ(system.m_nReserved1, 0u);
+  EXPECT_EQ(system.m_nReserved2, 0u);
+  EXPECT_EQ(system.m_recent.m_nMaxDepth, 10);
+  EXPECT_EQ(system.m_recent.m_bOwned, 0);
+  EXPECT_TRUE(system.m_recent.OwnsElements());
+}
+
+TEST(MenuModel, RuntimeClassesAreThoseOfTheModel) {
+  TMenuStack stack;
+  EXPECT_EQ(stack.GetRuntimeClass(), RUNTIME_CLASS(TMenuBar));
+  TMenuItem item;
+  EXPECT_STREQ(item.GetRuntimeClass()->m_lpszClassName, "TMenuItem");
+  EXPECT_TRUE((std::is_base_of_v<CObject, TMenuSystem>));
+}
+
+TEST(MenuModel, ALineIsMadeFromLabelCommandAndIconName) {
+  TMenuItem item(L"墙", L"TWall\n", L"WALL");
+  EXPECT_TRUE(item.m_strLabel == L"墙");
+  EXPECT_TRUE(item.m_strCommand == L"TWall\n");
+  EXPECT_TRUE(item.m_strIconName == L"WALL");
+}
+
+TEST(MenuModel, ACopyKeepsTheSwitchAndLeavesTheSubMenu) {
+  TMenuSwitchItem owner;
+  TMenuItem item(L"a", L"b", L"c");
+  item.m_pSwitch = &owner;
+  item.m_nFlags = 3;
+  item.m_strCheckFn = L"f";
+  item.m_strGrayFn = L"g";
+  item.m_nIconIndex = 4;
+  item.m_nCommandId = 9;
+  SubMenu(item);
+  TMenuItem copy(item);
+  EXPECT_EQ(copy.m_pSubMenu, nullptr);
+  EXPECT_EQ(copy.m_pSwitch, &owner);
+  EXPECT_EQ(copy.m_nFlags, 3u);
+  EXPECT_TRUE(copy.m_strCheckFn == L"f" && copy.m_strGrayFn == L"g" && copy.m_strIconName == L"c");
+  EXPECT_EQ(copy.m_nIconIndex, 4);
+  EXPECT_EQ(copy.m_nCommandId, 9);
+}
+
+TEST(MenuModel, ASubMenuThatIsNotOwnedSurvivesItsLine) {
+  TMenuStack recent;
+  recent.AddRecent(L"a");
+  {
+    TMenuBar common;
+    Line(common, L"recent", L"")->m_pSubMenu = &recent;
+  }
+  EXPECT_EQ(recent.Length(), 1);
+}
+
+TEST(MenuModel, FindItemByCommandGoesDepthFirstAndNeverComparesALineWithASubMenu) {
+  TMenuBar bar;
+  TMenuItem* header = Line(bar, L"header", L"x");
+  TMenuItem* inner = Line(*SubMenu(*header), L"inner", L"x");
+  Line(bar, L"later", L"x");
+  EXPECT_EQ(bar.FindItemByCommand(L"x"), inner);
+  EXPECT_EQ(bar.FindItemByCommand(L"X"), nullptr);
+}
+
+TEST(MenuModel, ASearchLeavesTheCursorOnTheLineFound) {
+  TMenuBar bar;
+  Line(bar, L"a", L"1");
+  Line(bar, L"b", L"2");
+  Line(bar, L"c", L"3");
+  bar.FindItemByCommand(L"2");
+  EXPECT_EQ(bar.Cursor(), 1);
+}
+
+TEST(MenuModel, FindItemByIdSkipsSeparatorsAndLinesWithASubMenu) {
+  TMenuBar bar;
+  Line(bar, L"--", L"");
+  TMenuItem* header = Line(bar, L"header", L"");
+  TMenuItem* inner = Line(*SubMenu(*header), L"inner", L"");
+  EXPECT_EQ(bar.FindItemById(0), inner);
+  inner->m_nCommandId = 7;
+  EXPECT_EQ(bar.FindItemById(0), nullptr);
+  EXPECT_EQ(bar.FindItemById(7), inner);
+}
+
+TEST(MenuModel, FindItemByLabelLooksAtTheTopLevelOnly) {
+  TMenuBar bar;
+  TMenuItem* header = Line(bar, L"header", L"");
+  Line(*SubMenu(*header), L"inner", L"");
+  EXPECT_EQ(bar.FindItemByLabel(L"header"), header);
+  EXPECT_EQ(bar.FindItemByLabel(L"inner"), nullptr);
+}
+
+TEST(MenuModel, TheSystemSearchesAllBlocksInOrder) {
+  TMenuSystem system;
+  for (const wchar_t* name : {L"A", L"B", L"B"}) {
+    system.Append(new TMenuBar);
+    system.Last()->m_strName = name;
+    Line(*system.Last(), name, L"x");
+  }
+  EXPECT_EQ(system.FindItemByCommand(L"x"), system.At(0)->At(0));
+  EXPECT_EQ(system.FindBar(L"B"), system.At(1));
+  EXPECT_EQ(system.FindBar(L"b"), nullptr);
+  EXPECT_EQ(system.FindBarIndexNoCase(L"b"), 1);
+  EXPECT_EQ(system.FindBarIndexNoCase(L"bb"), -1);
+}
+
+TEST(MenuModel, FindResourceGivesTheFirstIndexWithThatExactName) {
+  TMenuSystem system;
+  system.m_resources.Append(new TMenuResItem(L"a", L"", L""));
+  system.m_resources.Append(new TMenuResItem(L"B", L"", L""));
+  system.m_resources.Append(new TMenuResItem(L"B", L"", L""));
+  EXPECT_EQ(system.FindResource(L"B"), 1);
+  EXPECT_EQ(system.FindResource(L"b"), -1);
+}
+
+TEST(MenuModel, FindStateOfAnUnknownValueGivesTheFirstState) {
+  TMenuSwitchItem item;
+  EXPECT_EQ(item.FindState(0), nullptr);
+  for (int value : {5, 6}) {
+    item.m_states.Append(new TSwitchStateItem);
+    item.m_states.Last()->m_nValue = value;
+  }
+  EXPECT_EQ(item.FindState(6), item.m_states.At(1));
+  EXPECT_EQ(item.FindState(99), item.m_states.At(0));
+}
+
+TEST(MenuModel, EmptyingTheListsLeavesTitleAndRecentList) {
+  TMenuSystem system;
+  system.m_strTitle = L"t";
+  system.m_recent.AddRecent(L"a");
+  system.Append(new TMenuBar);
+  system.m_switches.Append(new TMenuSwitchItem);
+  system.m_resources.Append(new TMenuResItem);
+  system.EmptyLists();
+  EXPECT_EQ(system.Length() + system.m_switches.Length() + system.m_resources.Length(), 0);
+  EXPECT_TRUE(system.m_strTitle == L"t");
+  EXPECT_EQ(system.m_recent.Length(), 1);
+}
+
+TEST(MenuModel, AWalkVisitsEveryLineInTheOrderOfTheFile) {
+  TMenuBar bar;
+  TMenuItem* a = Line(bar, L"a", L"");
+  TMenuItem* b = Line(*SubMenu(*a), L"b", L"");
+  Line(*SubMenu(*b), L"c", L"");
+  Line(bar, L"d", L"");
+  std::string order;
+  MenuWalk walk(bar);
+  while (TMenuItem* item = walk.Next()) order += Utf8(item->m_strLabel);
+  EXPECT_EQ(order, "abcd");
+}
+
+// ---- the recent list
+
+struct Sources : RecentSources {
+  bool IsRunMode() override { return runMode; }
+  TMenuBar* ScreenRoot() override { return root; }
+  TMenuSystem* CurrentSystem() override { return system; }
+  bool runMode = false;
+  TMenuBar* root = nullptr;
+  TMenuSystem* system = nullptr;
+};
+
+std::string Commands(TMenuStack& stack) {
+  std::string text;
+  for (TMenuItem* item : stack) text += Utf8(item->m_strCommand) + " ";
+  return text;
+}
+
+TEST(RecentList, IgnoresNothingBlankAndNewline) {
+  TMenuStack recent;
+  for (const wchar_t* text : {L"", L" ", L"\n"}) recent.AddRecent(text);
+  recent.AddRecent(nullptr);
+  EXPECT_EQ(recent.Length(), 0);
+  recent.AddRecent(L"  ");
+  EXPECT_EQ(recent.Length(), 1);
+}
+
+TEST(RecentList, PutsTheNewestFirst) {
+  TMenuStack recent;
+  for (const wchar_t* text : {L"a", L"b", L"c"}) recent.AddRecent(text);
+  EXPECT_EQ(Commands(recent), "c b a ");
+  EXPECT_TRUE(recent.At(0)->m_strLabel == L"c");
+}
+
+TEST(RecentList, TheCommandOfTheHeadChangesNothing) {
+  TMenuStack recent;
+  for (const wchar_t* text : {L"a", L"b"}) recent.AddRecent(text);
+  TMenuItem* head = recent.At(0);
+  recent.AddRecent(L"b");
+  EXPECT_EQ(recent.At(0), head);
+  EXPECT_EQ(Commands(recent), "b a ");
+}
+
+TEST(RecentList, TheCommandOfTheThirdEntryMovesItToTheHead) {
+  TMenuStack recent;
+  for (const wchar_t* text : {L"a", L"b", L"c"}) recent.AddRecent(text);
+  recent.At(2)->m_strLabel = L"label";
+  recent.AddRecent(recent.At(2)->m_strCommand);
+  EXPECT_EQ(Commands(recent), "a c b ");
+  EXPECT_TRUE(recent.At(0)->m_strLabel == L"label");
+}
+
+TEST(RecentList, AnEleventhCommandDropsTheOldest) {
+  TMenuStack recent;
+  for (wchar_t c = L'a'; c <= L'k'; ++c) {
+    const wchar_t text[] = {c, 0};
+    recent.AddRecent(text);
+  }
+  EXPECT_EQ(Commands(recent), "k j i h g f e d c b ");
+}
+
+TEST(RecentList, TakesLabelAndIconFromTheScreenMenuFirstThenFromTheBlocks) {
+  TMenuBar root;
+  TMenuSystem system;
+  system.Append(new TMenuBar);
+  Line(*system.At(0), L"block", L"x");
+  Line(*system.At(0), L"only here", L"y");
+  Line(root, L"screen", L"x")->m_nIconIndex = 3;
+  Sources sources;
+  sources.root = &root;
+  sources.system = &system;
+  TMenuStack recent;
+  recent.SetSources(&sources);
+  recent.AddRecent(L"x");
+  EXPECT_TRUE(recent.At(0)->m_strLabel == L"screen");
+  EXPECT_EQ(recent.At(0)->m_nIconIndex, 3);
+  recent.AddRecent(L"y");
+  EXPECT_TRUE(recent.At(0)->m_strLabel == L"only here");
+  recent.AddRecent(L"z");
+  EXPECT_TRUE(recent.At(0)->m_strLabel == L"z");
+}
+
+TEST(RecentList, RunModeKeepsTheBareCommandAsLabel) {
+  TMenuBar root;
+  Line(root, L"screen", L"x");
+  Sources sources;
+  sources.root = &root;
+  sources.runMode = true;
+  TMenuStack recent;
+  recent.SetSources(&sources);
+  recent.AddRecent(L"x");
+  EXPECT_TRUE(recent.At(0)->m_strLabel == L"x");
+}
+
+// ---- names
+
+TEST(NameIndex, FindsTheFirstOfEqualNamesAndIgnoresCase) {
+  const TWCString names[] = {L"Wall", L"WALL", L"door", L"Ωmega", L"Я"};
+  NameIndex index(5);
+  for (const TWCString& name : names) index.Add(name);
+  EXPECT_EQ(index.Find(L"wAlL"), 0);
+  EXPECT_EQ(index.Find(L"DOOR"), 2);
+  EXPECT_EQ(index.Find(L"ωMEGA"), 3);
+  EXPECT_EQ(index.Find(L"я"), 4);
+  EXPECT_EQ(index.Find(L"window"), -1);
+}
+
+TEST(NameIndex, AnEmptyTableFindsNothing) {
+  NameIndex index(0);
+  EXPECT_EQ(index.Find(L"x"), -1);
+}
+
+TEST(NameIndex, AgreesWithAWalkFromTheFrontForManyNames) {
+  std::vector<TWCString> names;
+  for (int i = 0; i < 500; ++i) names.emplace_back((L"n" + std::to_wstring(i % 300)).c_str());
+  NameIndex index(500);
+  for (const TWCString& name : names) index.Add(name);
+  for (int i = 0; i < 310; ++i)
+    EXPECT_EQ(index.Find((L"N" + std::to_wstring(i)).c_str()), i < 300 ? i : -1);
+}
+
+}  // namespace
