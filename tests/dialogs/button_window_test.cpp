@@ -1,0 +1,123 @@
+// The hover-aware button as a real window: capture, focus, tip, drawing, handles.
+#include <gtest/gtest.h>
+
+#include "afxwin.h"
+#include "dialogs/button_st.h"
+
+namespace {
+
+class TestButton : public CButtonST {
+ public:
+  CToolTipCtrl* Tip() const { return m_pToolTip.get(); }
+};
+
+class ButtonWindow : public testing::Test {
+ protected:
+  ButtonWindow() {
+    parent.CreateEx(WS_EX_TOOLWINDOW, AfxRegisterWndClass(0), L"", WS_POPUP,
+                    CRect(100, 100, 300, 200), nullptr, 0);
+    button.Create(L"按钮", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(10, 10, 90, 40), &parent,
+                  7);
+  }
+  ~ButtonWindow() override {
+    ::ReleaseCapture();
+    button.DestroyWindow();
+    parent.DestroyWindow();
+  }
+  void Move(int x, int y, WPARAM keys = 0) {
+    button.SendMessage(WM_MOUSEMOVE, keys, MAKELPARAM(x, y));
+  }
+  COLORREF Draw(int x, int y, UINT state) {
+    const qvx::OwnedMemoryDc memory(::CreateCompatibleDC(nullptr));
+    HDC screen = ::GetDC(nullptr);
+    const qvx::OwnedBitmap bitmap(::CreateCompatibleBitmap(screen, 80, 30));
+    ::ReleaseDC(nullptr, screen);
+    qvx::SelectedObject selected(memory.Get(), bitmap.Get());
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = memory.Get();
+    draw.rcItem = {0, 0, 80, 30};
+    draw.itemState = state;
+    button.DrawItem(&draw);
+    return ::GetPixel(memory.Get(), x, y);
+  }
+  CWnd parent;
+  TestButton button;
+};
+
+TEST_F(ButtonWindow, IsOwnerDrawnWhateverItWasCreatedAs) {
+  EXPECT_EQ(button.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
+}
+
+TEST_F(ButtonWindow, TakesTheMouseWhenThePointerComesAndGivesItBackWhenItGoes) {
+  Move(5, 5);
+  EXPECT_EQ(::GetCapture(), button.m_hWnd);
+  EXPECT_TRUE(button.IsMouseOn());
+  Move(-5, 5);
+  EXPECT_EQ(::GetCapture(), nullptr);
+  EXPECT_FALSE(button.IsMouseOn());
+}
+
+TEST_F(ButtonWindow, KeepsTheMouseWhileAPressIsCarriedOff) {
+  Move(5, 5);
+  Move(-5, 5, MK_LBUTTON);
+  EXPECT_EQ(::GetCapture(), button.m_hWnd);
+  EXPECT_FALSE(button.IsMouseOn());
+}
+
+TEST_F(ButtonWindow, LosingTheFocusEndsTheHover) {
+  Move(5, 5);
+  button.SendMessage(WM_KILLFOCUS);
+  EXPECT_FALSE(button.IsMouseOn());
+}
+
+TEST_F(ButtonWindow, LosingTheMouseReleasesItAndKeepsTheFlag) {
+  Move(5, 5);
+  parent.SetCapture();
+  EXPECT_EQ(::GetCapture(), nullptr) << "it is taken from the new owner too";
+  EXPECT_TRUE(button.IsMouseOn());
+}
+
+TEST_F(ButtonWindow, ASecondTipTextChangesNothing) {
+  button.SetTooltipText(L"第一");
+  button.SetTooltipText(L"第二");
+  ASSERT_NE(button.Tip(), nullptr);
+  CString text;
+  button.Tip()->GetText(text, &button);
+  EXPECT_EQ(text, L"第一");
+  EXPECT_EQ(button.Tip()->SendMessage(TTM_GETMAXTIPWIDTH), 200);
+  EXPECT_EQ(button.Tip()->SendMessage(TTM_GETDELAYTIME, TTDT_INITIAL), 500);
+}
+
+TEST_F(ButtonWindow, OwnsItsBitmapsAndOnlyBorrowsASharedOne) {
+  const int before = qvx::OwnedBitmap::Alive();
+  const qvx::OwnedBitmap shared(::CreateBitmap(16, 16, 1, 1, nullptr));
+  button.SetBitmaps(::CreateBitmap(16, 16, 1, 1, nullptr), nullptr, 16, 16);
+  EXPECT_EQ(qvx::OwnedBitmap::Alive(), before + 2);
+  button.ShareBitmap(shared.Get(), 16, 16);
+  EXPECT_EQ(qvx::OwnedBitmap::Alive(), before + 1);
+  EXPECT_EQ(button.ShownBitmap(), shared.Get());
+}
+
+TEST_F(ButtonWindow, AFlatButtonShowsItsLinesOnlyUnderThePointerOrPressed) {
+  EXPECT_EQ(Draw(0, 15, 0), ::GetSysColor(COLOR_BTNFACE));
+  EXPECT_EQ(Draw(0, 15, ODS_SELECTED), ::GetSysColor(COLOR_BTNSHADOW));
+  Move(5, 5);
+  EXPECT_EQ(Draw(0, 15, 0), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+}
+
+TEST_F(ButtonWindow, ANonFlatButtonHasADoubleFrameAndABlackOneWithTheFocus) {
+  button.SetFlat(0);
+  EXPECT_EQ(Draw(0, 15, 0), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+  EXPECT_EQ(Draw(1, 15, 0), ::GetSysColor(COLOR_3DLIGHT));
+  EXPECT_EQ(Draw(79, 15, 0), ::GetSysColor(COLOR_3DDKSHADOW));
+  EXPECT_EQ(Draw(78, 15, 0), ::GetSysColor(COLOR_BTNSHADOW));
+  EXPECT_EQ(Draw(0, 15, ODS_FOCUS), RGB(0, 0, 0));
+  EXPECT_EQ(Draw(79, 15, ODS_SELECTED), ::GetSysColor(COLOR_BTNSHADOW));
+}
+
+TEST_F(ButtonWindow, NoCursorIsACursorThatWorks) {
+  EXPECT_TRUE(button.SetBtnCursor(-1));
+  EXPECT_FALSE(button.SetBtnCursor(31999)) << "no such resource";
+}
+
+}  // namespace

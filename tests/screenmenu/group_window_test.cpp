@@ -1,0 +1,396 @@
+// The tree of groups as real windows: what is built, what a click shows and hides, scrolling, the
+// limited height, clicks, painting, handles. The palette around it is a plain window here, and what
+// it would do is noted in a diary.
+#include <gtest/gtest.h>
+
+#include "afxwin.h"
+#include "kernel/globals.h"
+#include "menu_fixture.h"
+#include "screenmenu/menu_colors.h"
+#include "screenmenu/menu_group.h"
+#include "screenmenu/palette_settings.h"
+
+namespace {
+
+using namespace fixture;
+
+class Diary : public GroupOwner {
+ public:
+  qvx::LispCaller& Lisp() override { return lisp; }
+  const TMenuSystem* MenuSystem() override { return &system; }
+  HBITMAP Arrow(int depth, bool open) override {
+    return reinterpret_cast<HBITMAP>(
+        static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // only compared, never drawn
+  }
+  void ArmCommand(const TWCString& command) override { Note(L"arm " + Text(command)); }
+  bool IsHostBusy() override { return busy; }
+  void ReportBusy() override { Note(L"busy"); }
+  void SwitchWasFlipped() override { Note(L"flipped"); }
+  void ShowHeaderMenu(TMenuBar& bar, const CRect&, CPoint) override {
+    Note(L"header menu " + std::to_wstring(bar.Length()));
+  }
+  void ShowLineMenu(TMenuItem& line, CPoint) override {
+    Note(L"line menu " + Text(line.m_strLabel));
+  }
+  void RestoreStatusBar() override {}
+
+  static std::wstring Text(const TWCString& text) { return text.c_str(); }
+  void Note(const std::wstring& what) { notes.push_back(what); }
+
+  FakeLisp lisp;
+  TMenuSystem system;
+  bool busy = false;
+  std::vector<std::wstring> notes;
+};
+
+class GroupWindows : public testing::Test {
+ protected:
+  GroupWindows() {
+    g_iMenuRowHeight = 25;
+    g_bDefaultOpenFirst = g_bLimitHeight = g_bScrollBar = 0;
+    qvx::SaveActiveSubMenu(-1);
+    palette.CreateEx(WS_EX_TOOLWINDOW, AfxRegisterWndClass(0), L"", WS_POPUP,
+                     CRect(50, 50, 250, 350), nullptr, 0);
+  }
+  ~GroupWindows() override {
+    root.reset();
+    palette.DestroyWindow();
+  }
+
+  CMenuGroup& Build(int height = 300, bool limit = false) {
+    root =
+        std::make_unique<CMenuGroup>(&bar, CRect(0, 0, 120, height), &palette, 5000, limit, &owner);
+    palette.ShowWindow(SW_SHOWNA);
+    root->ShowWindow(SW_SHOW);
+    return *root;
+  }
+  static CRect PlaceOf(CWnd* window) {
+    CRect place;
+    window->GetWindowRect(&place);
+    ::MapWindowPoints(nullptr, ::GetParent(window->m_hWnd), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+  }
+  static void Click(CMenuGroup& group, int row) { group.Row(row)->SendMessage(BM_CLICK); }
+  void Fill(int lines) {
+    for (int i = 0; i < lines; ++i) AddLine(bar, L"行", L"TLine\n");
+  }
+
+  CWnd palette;
+  TMenuBar bar;
+  Diary owner;
+  std::unique_ptr<CMenuGroup> root;
+};
+
+TEST_F(GroupWindows, ButtonsAndNestedGroupsShareOneSequenceOfIdentifiersInEachGroup) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  EXPECT_EQ(group.Row(0)->GetDlgCtrlID(), 5000);
+  EXPECT_EQ(group.Child(0)->GetDlgCtrlID(), 5001);
+  EXPECT_EQ(group.Row(1)->GetDlgCtrlID(), 5002);
+  EXPECT_EQ(group.Child(0)->Row(0)->GetDlgCtrlID(), 5000);
+}
+
+TEST_F(GroupWindows, TheTreeIsBuiltHiddenAndARowHasItsFixedStyle) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  AddLine(bar, L"--");
+  CMenuGroup group(&bar, CRect(0, 0, 120, 300), &palette, 5000, false, &owner);
+  EXPECT_FALSE(group.GetStyle() & WS_VISIBLE);
+  EXPECT_EQ(group.Row(0)->GetStyle(), 0x5001400Bu);
+  EXPECT_TRUE(group.Row(0)->IsWindowEnabled());
+  EXPECT_FALSE(group.Row(1)->IsWindowEnabled());
+}
+
+TEST_F(GroupWindows, RowsStandWhereTheLayoutPassWantsThemFromTheStart) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  AddLine(bar, L"--");
+  AddLine(bar, L"标注", L"TDim\n");
+  CMenuGroup& group = Build();
+  EXPECT_EQ(PlaceOf(group.Row(0)), CRect(0, 2, 120, 26));
+  EXPECT_EQ(PlaceOf(group.Row(1)), CRect(0, 26, 120, 34));
+  EXPECT_EQ(PlaceOf(group.Row(2)), CRect(0, 34, 120, 58));
+}
+
+TEST_F(GroupWindows, AClickOnAHeaderOpensItsGroupAndASecondOneFoldsIt) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  EXPECT_EQ(group.OpenIndex(), 0);
+  EXPECT_TRUE(group.Child(0)->IsWindowVisible());
+  EXPECT_EQ(PlaceOf(group.Child(0)), CRect(0, 28, 120, 56));
+  EXPECT_EQ(PlaceOf(group.Row(1)).top, 26 + 4 + 28);
+  EXPECT_EQ(group.Row(0)->ShownBitmap(), owner.Arrow(0, true));
+  Click(group, 0);
+  EXPECT_EQ(group.OpenIndex(), -1);
+  EXPECT_FALSE(group.Child(0)->IsWindowVisible());
+  EXPECT_EQ(PlaceOf(group.Row(1)).top, 26);
+  EXPECT_EQ(group.Row(0)->ShownBitmap(), owner.Arrow(0, false));
+}
+
+TEST_F(GroupWindows, AnotherHeaderFoldsTheFirstAndOpensTheSecondInOneStep) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  AddLine(*AddHeader(bar, L"门窗"), L"画门", L"TDoor\n");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  Click(group, 1);
+  EXPECT_FALSE(group.Child(0)->IsWindowVisible());
+  EXPECT_TRUE(group.Child(1)->IsWindowVisible());
+  EXPECT_EQ(PlaceOf(group.Row(1)).top, 26);
+  EXPECT_EQ(PlaceOf(group.Child(1)).top, 52);
+}
+
+TEST_F(GroupWindows, AParentOpenedAgainShowsItsInnerGroupsAsTheyWereLeft) {
+  AddLine(*AddHeader(*AddHeader(bar, L"一"), L"二"), L"叶", L"x");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  Click(*group.Child(0), 0);
+  Click(group, 0);
+  EXPECT_FALSE(group.Child(0)->Child(0)->IsWindowVisible());
+  Click(group, 0);
+  EXPECT_TRUE(group.Child(0)->Child(0)->IsWindowVisible());
+  EXPECT_EQ(PlaceOf(group.Child(0)).Height(), 28 + 4 + 28);
+}
+
+TEST_F(GroupWindows, TheRememberedGroupIsOpenFromTheStart) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  qvx::SaveActiveSubMenu(1);
+  CMenuGroup& group = Build();
+  EXPECT_TRUE(group.Child(1)->IsWindowVisible());
+  EXPECT_EQ(PlaceOf(group.Child(1)), CRect(0, 52, 120, 80));
+  EXPECT_EQ(group.Row(1)->ShownBitmap(), owner.Arrow(0, true));
+}
+
+TEST_F(GroupWindows, ATreeExactlyAsTallAsTheClientHasNoBarAndOnePixelMoreHasOne) {
+  g_bScrollBar = 1;
+  Fill(4);
+  EXPECT_FALSE(Build(100).HasScrollBar());
+  root.reset();
+  CMenuGroup& group = Build(99);
+  ASSERT_TRUE(group.HasScrollBar());
+  EXPECT_EQ(PlaceOf(&group.ScrollBar()), CRect(112, 0, 120, 99));
+  EXPECT_EQ(PlaceOf(group.Row(0)).right, 112);
+}
+
+TEST_F(GroupWindows, ABarOfNoWidthStillAnswersTheWheel) {
+  Fill(40);
+  CMenuGroup& group = Build(200);
+  ASSERT_TRUE(group.HasScrollBar());
+  EXPECT_EQ(PlaceOf(&group.ScrollBar()).Width(), 0);
+  EXPECT_EQ(PlaceOf(group.Row(0)).right, 120);
+  EXPECT_EQ(group.WheelGroup(0, -120, CPoint()), 1);
+  EXPECT_EQ(group.ScrollBar().GetScrollPos(), 40);
+  EXPECT_EQ(PlaceOf(group.Row(0)).top, 2 - 40);
+}
+
+TEST_F(GroupWindows, ScrollingMovesTheRowsAndLeavesTheBarInPlace) {
+  g_bScrollBar = 1;
+  Fill(40);
+  CMenuGroup& group = Build(200);
+  group.ScrollGroup(SB_PAGEDOWN, 0);
+  EXPECT_EQ(PlaceOf(group.Row(39)).top, 2 + 39 * 24 - 100);
+  EXPECT_EQ(PlaceOf(&group.ScrollBar()), CRect(112, 0, 120, 200));
+  group.ScrollGroup(SB_BOTTOM, 0);
+  EXPECT_EQ(group.ScrollBar().GetScrollPos(), 40 * 24 + 4 - 200);
+  EXPECT_EQ(PlaceOf(group.Row(39)).bottom, 200 - 2);
+  group.ScrollGroup(SB_TOP, 0);
+  EXPECT_EQ(PlaceOf(group.Row(0)).top, 2);
+}
+
+TEST_F(GroupWindows, FoldingPullsThePositionBackAndABarThatIsNotNeededGoes) {
+  TMenuBar* nested = AddHeader(bar, L"长");
+  for (int i = 0; i < 20; ++i) AddLine(*nested, L"行", L"x");
+  Fill(5);
+  CMenuGroup& group = Build(100);
+  Click(group, 0);
+  group.ScrollGroup(SB_BOTTOM, 0);
+  Click(group, 0);
+  EXPECT_EQ(group.ScrollBar().GetScrollPos(), 6 * 24 + 4 - 100);
+  EXPECT_EQ(PlaceOf(group.Row(5)).bottom, 98);
+  group.MoveWindow(0, 0, 120, 400);
+  EXPECT_FALSE(group.HasScrollBar());
+  EXPECT_EQ(PlaceOf(group.Row(0)).top, 2);
+}
+
+TEST_F(GroupWindows, AnOpenedGroupIsBroughtIntoViewWithItsHeader) {
+  Fill(10);
+  TMenuBar* nested = AddHeader(bar, L"组");
+  for (int i = 0; i < 3; ++i) AddLine(*nested, L"行", L"x");
+  CMenuGroup& group = Build(200);
+  group.ScrollGroup(SB_BOTTOM, 0);
+  Click(group, 10);
+  const CRect shown = PlaceOf(group.Child(10));
+  EXPECT_EQ(shown.bottom, 200);
+  EXPECT_GE(PlaceOf(group.Row(10)).top, 0);
+}
+
+TEST_F(GroupWindows, WithLimitedHeightTheRootStaysAndTheOpenGroupTakesAndScrollsTheRest) {
+  TMenuBar* nested = AddHeader(bar, L"长");
+  for (int i = 0; i < 20; ++i) AddLine(*nested, L"行", L"x");
+  Fill(2);
+  CMenuGroup& group = Build(300, true);
+  Click(group, 0);
+  CMenuGroup& open = *group.Child(0);
+  EXPECT_FALSE(group.HasScrollBar());
+  EXPECT_TRUE(open.HasScrollBar());
+  EXPECT_EQ(PlaceOf(&open).Height(), 300 - (3 * 24 + 4) - 4);
+  EXPECT_EQ(PlaceOf(group.Row(2)).bottom, 298);
+  EXPECT_EQ(open.WheelGroup(0, -120, CPoint()), 1);
+  EXPECT_EQ(PlaceOf(open.Row(0)).top, 2 - 40);
+  EXPECT_EQ(PlaceOf(group.Row(2)).bottom, 298);
+}
+
+TEST_F(GroupWindows, RowsThatFillALimitedRootLeaveItsOpenGroupNoHeight) {
+  AddLine(*AddHeader(bar, L"组"), L"行", L"x");
+  Fill(10);
+  CMenuGroup& group = Build(100, true);
+  Click(group, 0);
+  EXPECT_EQ(PlaceOf(group.Child(0)).Height(), 0);
+}
+
+TEST_F(GroupWindows, AClickOnACommandArmsItAndASeparatorThatIsReachedDoesNothing) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  AddLine(bar, L"--");
+  AddLine(bar, L"空");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TAxis\n"}));
+  EXPECT_FALSE(group.Row(1)->IsWindowEnabled());
+  EXPECT_FALSE(group.Row(2)->IsWindowEnabled()) << "real clicks never reach it";
+  group.SendMessage(WM_COMMAND, MAKEWPARAM(5001, BN_CLICKED),
+                    reinterpret_cast<LPARAM>(group.Row(1)->m_hWnd));
+  EXPECT_EQ(owner.notes.size(), 1u);
+}
+
+TEST_F(GroupWindows, FocusNotificationsAndUnknownIdentifiersAreNoClicks) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  const LPARAM button = reinterpret_cast<LPARAM>(group.Row(0)->m_hWnd);
+  group.SendMessage(WM_COMMAND, MAKEWPARAM(5000, BN_SETFOCUS), button);
+  group.SendMessage(WM_COMMAND, MAKEWPARAM(5099, BN_CLICKED), button);
+  group.SendMessage(WM_COMMAND, MAKEWPARAM(5000, BN_CLICKED), 0);
+  EXPECT_TRUE(owner.notes.empty());
+}
+
+TEST_F(GroupWindows, ASwitchGivesWayToARunningCommand) {
+  const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
+  AddSwitchLine(bar, *shown);
+  owner.lisp.Number(L"get", 1);
+  CMenuGroup& group = Build();
+  owner.busy = true;
+  owner.lisp.diary.clear();
+  Click(group, 0);
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"busy"}));
+  EXPECT_TRUE(owner.lisp.diary.empty());
+}
+
+TEST_F(GroupWindows, ASwitchClickShowsTheNewStateAndTellsTheOthers) {
+  const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
+  AddSwitchLine(bar, *shown);
+  owner.lisp.Number(L"get", 1);
+  CMenuGroup& group = Build();
+  owner.lisp.Nil(L"set");
+  owner.lisp.Number(L"get", 2);
+  Click(group, 0);
+  CString text;
+  group.Row(0)->GetWindowText(text);
+  EXPECT_EQ(text, L"关");
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"flipped"}));
+}
+
+TEST_F(GroupWindows, RefreshingReachesHiddenGroupsAndLeavesEveryOpenIndex) {
+  const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
+  AddLine(*AddHeader(bar, L"一"), L"行", L"x");
+  TMenuBar* hidden = AddHeader(bar, L"二");
+  AddSwitchLine(*hidden, *shown);
+  owner.lisp.Number(L"get", 1);
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  owner.lisp.Number(L"get", 2);
+  group.RefreshSwitches();
+  CString text;
+  group.Child(1)->Row(0)->GetWindowText(text);
+  EXPECT_EQ(text, L"关");
+  EXPECT_EQ(group.OpenIndex(), 0);
+  EXPECT_EQ(group.Child(1)->OpenIndex(), -1);
+}
+
+TEST_F(GroupWindows, ASwitchThatFailedStaysDisabledHoweverOftenItIsRefreshed) {
+  const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
+  AddSwitchLine(bar, *shown);
+  CMenuGroup& group = Build();
+  EXPECT_FALSE(group.Row(0)->IsWindowEnabled());
+  owner.lisp.Number(L"get", 2);
+  group.RefreshSwitches();
+  EXPECT_FALSE(group.Row(0)->IsWindowEnabled());
+}
+
+TEST_F(GroupWindows, ARightClickAsksForTheMenuOfTheHeaderOrOfTheLine) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  for (int i : {0, 1})
+    group.Row(i)->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(group.Row(i)->m_hWnd),
+                              MAKELPARAM(60, 60));
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"header menu 1", L"line menu 轴网"}));
+  EXPECT_EQ(group.OpenIndex(), -1) << "the fold state is left alone";
+}
+
+TEST_F(GroupWindows, ARowPaintsItsGroupsColourAndTheHoverColourUnderThePointer) {
+  AddLine(*AddHeader(bar, L"墙体"), L"行", L"x");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  CSMenuItem& row = *group.Child(0)->Row(0);
+  const qvx::OwnedMemoryDc memory(::CreateCompatibleDC(nullptr));
+  HDC screen = ::GetDC(nullptr);
+  const qvx::OwnedBitmap bitmap(::CreateCompatibleBitmap(screen, 120, 24));
+  ::ReleaseDC(nullptr, screen);
+  qvx::SelectedObject selected(memory.Get(), bitmap.Get());
+  DRAWITEMSTRUCT draw{};
+  draw.CtlType = ODT_BUTTON;
+  draw.hDC = memory.Get();
+  draw.rcItem = {0, 0, 120, 24};
+  row.DrawItem(&draw);
+  EXPECT_EQ(::GetPixel(memory.Get(), 110, 12), g_menuColors[1]);
+  row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  EXPECT_TRUE(row.IsMouseOn());
+  row.DrawItem(&draw);
+  EXPECT_EQ(::GetPixel(memory.Get(), 110, 12), qvx::kHoverColor);
+  EXPECT_EQ(::GetPixel(memory.Get(), 3, 12), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+  draw.itemState = ODS_SELECTED;
+  row.DrawItem(&draw);
+  EXPECT_EQ(::GetPixel(memory.Get(), 3, 12), ::GetSysColor(COLOR_BTNSHADOW));
+  ::ReleaseCapture();
+}
+
+TEST_F(GroupWindows, AHundredTreesLeaveNoHandleBehind) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  Fill(5);
+  Build();
+  root.reset();
+  const int bitmaps = qvx::OwnedBitmap::Alive(), fonts = qvx::OwnedFont::Alive(),
+            pens = qvx::OwnedPen::Alive();
+  for (int i = 0; i < 100; ++i) {
+    Click(Build(), 0);
+    root->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    root.reset();
+  }
+  EXPECT_EQ(qvx::OwnedBitmap::Alive(), bitmaps);
+  EXPECT_EQ(qvx::OwnedFont::Alive(), fonts);
+  EXPECT_EQ(qvx::OwnedPen::Alive(), pens);
+  EXPECT_EQ(::GetWindow(palette.m_hWnd, GW_CHILD), nullptr);
+}
+
+TEST_F(GroupWindows, AMenuNestedDeeperThanWindowsNestComesUpAsFarAsItGoes) {
+  TMenuBar* at = &bar;
+  for (int i = 0; i < 90; ++i) at = AddHeader(*at, L"组");
+  AddLine(bar, L"末", L"TLast\n");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  EXPECT_TRUE(group.Child(0)->IsWindowVisible());
+  Click(group, 1);
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TLast\n"}));
+}
+
+}  // namespace
