@@ -24,6 +24,13 @@ std::string PlayRunner::Place(int stepNumber) const {
   return m_file + ":" + std::to_string(step.line) + ": " + step.source;
 }
 
+std::chrono::milliseconds PlayRunner::PlannedTime(int stepNumber) const {
+  if (stepNumber < 0 || stepNumber >= static_cast<int>(m_steps.size())) return {};
+  const Step& step = m_steps[static_cast<std::size_t>(stepNumber)];
+  const bool waits = step.kind == StepKind::Wait || step.kind == StepKind::Hold;
+  return std::chrono::milliseconds(waits ? step.number : 0);
+}
+
 int PlayRunner::Play() {
   for (m_step = 0; m_step < static_cast<int>(m_steps.size()); ++m_step) {
     const Step& step = m_steps[static_cast<std::size_t>(m_step)];

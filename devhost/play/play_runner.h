@@ -18,7 +18,8 @@ class PlayRunner {
 
   // For the watchdog, from any thread: which step is being played (a running number), and where.
   int StepNumber() const { return m_step; }
-  std::string Place(int stepNumber) const;  // "file:line: source"
+  std::string Place(int stepNumber) const;                      // "file:line: source"
+  std::chrono::milliseconds PlannedTime(int stepNumber) const;  // that the script itself asks for
 
  private:
   std::string PlayStep(const Step& step);

@@ -1,0 +1,253 @@
+// Steps carried out by real input and host operations.
+#include "devhost/play/win/driver_world.h"
+
+#include <cstdio>
+#include <thread>
+
+#include "devhost/core/journal.h"
+#include "devhost/play/state_path.h"
+#include "devhost/play/win/screen_capture.h"
+#include "devhost/play/win/timer_turn.h"
+
+namespace devhost {
+namespace {
+
+constexpr char kGoingDown[] = "the program is going down";
+// What windows have painted reaches the screen a moment later.
+constexpr std::chrono::milliseconds kScreenCatchesUp{150};
+constexpr std::chrono::milliseconds kSlice{10};
+
+void WriteLine(std::FILE* stream, const std::string& line) {
+  std::fwrite(line.data(), 1, line.size(), stream);
+  std::fputc('\n', stream);
+  std::fflush(stream);
+}
+
+}  // namespace
+
+DriverWorld::DriverWorld(UiPort& port)
+    : m_port(port), m_input([this](int time) { Pause(Milliseconds(time)); }) {}
+
+template <class Result>
+Result DriverWorld::Ask(const std::function<Result()>& question) {
+  Result result{};
+  if (!m_stopped) m_port.OnMainThread([&] { result = question(); });
+  return result;
+}
+
+std::string DriverWorld::Operate(const std::function<std::string()>& work) {
+  std::string problem = kGoingDown;
+  if (!m_stopped) m_port.OnMainThread([&] { problem = work(); });
+  return problem;
+}
+
+std::string DriverWorld::Perform(const Step& step) {
+  if (m_stopped) return kGoingDown;
+  switch (step.kind) {
+    case StepKind::Click:
+    case StepKind::RightClick:
+    case StepKind::DoubleClick:
+    case StepKind::Hold:
+    case StepKind::Move:
+    case StepKind::Wheel:
+    case StepKind::Drag:
+      return PerformMouse(step);
+    case StepKind::Command:
+      return TypeCommand(step.text);
+    case StepKind::Type:
+      m_input.Type(Wide(step.text));
+      return {};
+    case StepKind::Press:
+      m_input.Press(step.chord);
+      return {};
+    case StepKind::Shot:
+      return TakeShot(step.text);
+    case StepKind::DumpShell:
+    case StepKind::DumpWindows:
+    case StepKind::DumpDatabase:
+      return PerformDump(step);
+    default:
+      return Operate([&] { return PerformHost(step); });
+  }
+}
+
+std::string DriverWorld::PointOnMainThread(const Target& target, POINT* point) {
+  const auto problem = [](bool found, const std::string& text) { return found ? "" : text; };
+  const auto placed = [point](const RowPlace& place) {
+    *point = place.point;
+    return place.problem;
+  };
+  const Json state = Json::parse(m_port.DescribeShell(), nullptr, false);
+  switch (target.kind) {
+    case TargetKind::Row:
+      return placed(PlaceOfScreenMenuRow(state, target.text));
+    case TargetKind::Popup:
+      return placed(PlaceOfPopupRow(state, target.text));
+    case TargetKind::Tab:
+      return "pressing tabs is not built: the shell state gives them no place";
+    case TargetKind::Pane:
+      return "pressing panes is not built: the shell state gives them no place";
+    case TargetKind::Button:
+      return problem(m_port.ButtonToScreen(Wide(target.text), point),
+                     "there is no visible button " + QuotedForScript(target.text));
+    case TargetKind::Entity:
+      return problem(m_port.EntityToScreen(target.text, point),
+                     "there is no entity " + target.text + " in the active drawing");
+    case TargetKind::World:
+      return problem(m_port.WorldToScreen(target.x, target.y, point), "no drawing is active");
+    case TargetKind::View:
+      return problem(
+          m_port.ViewToScreen(static_cast<int>(target.x), static_cast<int>(target.y), point),
+          "no drawing is active");
+    default:
+      return "the step has no target";
+  }
+}
+
+std::string DriverWorld::Point(const Target& target, POINT* point) {
+  const std::string problem = Operate([&] { return PointOnMainThread(target, point); });
+  if (!problem.empty()) return problem;
+  const RECT screen = {GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_YVIRTUALSCREEN),
+                       GetSystemMetrics(SM_XVIRTUALSCREEN) + GetSystemMetrics(SM_CXVIRTUALSCREEN),
+                       GetSystemMetrics(SM_YVIRTUALSCREEN) + GetSystemMetrics(SM_CYVIRTUALSCREEN)};
+  if (PtInRect(&screen, *point)) return {};
+  return "the target lies outside the screen, at " + std::to_string(point->x) + ", " +
+         std::to_string(point->y);
+}
+
+std::string DriverWorld::PerformMouse(const Step& step) {
+  POINT at = {}, end = {};
+  std::string problem = Point(step.target, &at);
+  if (problem.empty() && step.kind == StepKind::Drag) problem = Point(step.target2, &end);
+  if (!problem.empty()) return problem;
+  const InputSender::Held held(m_input, step.ctrl, step.shift);
+  switch (step.kind) {
+    case StepKind::Click:
+      m_input.Click(at, InputSender::Button::Left, 1);
+      break;
+    case StepKind::RightClick:
+      m_input.Click(at, InputSender::Button::Right, 1);
+      break;
+    case StepKind::DoubleClick:
+      m_input.Click(at, InputSender::Button::Left, 2);
+      break;
+    case StepKind::Hold:
+      m_input.Hold(at, InputSender::Button::Right, step.number);
+      break;
+    case StepKind::Wheel:
+      m_input.Wheel(at, step.number);
+      break;
+    case StepKind::Drag:
+      m_input.Drag(at, end);
+      break;
+    default:
+      m_input.Move(at);
+      break;
+  }
+  return {};
+}
+
+std::string DriverWorld::PerformHost(const Step& step) {
+  const auto problem = [](bool done, const std::string& text) { return done ? "" : text; };
+  const std::wstring text = Wide(step.text), value = Wide(step.value.text);
+  switch (step.kind) {
+    case StepKind::Open:
+      return problem(m_port.OpenDrawing(text), "can't open " + QuotedForScript(step.text));
+    case StepKind::New:
+      m_port.NewDrawing();
+      return {};
+    case StepKind::Activate:
+      return problem(m_port.ActivateDrawing(text),
+                     "no drawing is called " + QuotedForScript(step.text));
+    case StepKind::Close:
+      m_port.CloseDrawing();
+      return {};
+    case StepKind::Select:
+      return problem(m_port.SelectEntities(step.handles),
+                     "not every handle is in the active drawing");
+    case StepKind::SetVar:
+      return problem(m_port.SetVariable(text, value), "the host refuses variable " + step.text);
+    case StepKind::Setting:
+      return problem(m_port.SetSetting(text, value), "there is no setting " + step.text);
+    default:
+      return "this step is not built";
+  }
+}
+
+std::string DriverWorld::PerformDump(const Step& step) {
+  const std::string text = Ask<std::string>([&] {
+    if (step.kind == StepKind::DumpShell) return m_port.DescribeShell();
+    return step.kind == StepKind::DumpWindows ? m_port.DescribeWindows()
+                                              : m_port.DescribeDatabase();
+  });
+  WriteLine(stdout, text);
+  return text.empty() ? "there is nothing to dump" : "";
+}
+
+// The keyboard goes to the command line first; with a dialog up it can't, and that is told.
+std::string DriverWorld::TypeCommand(const std::string& text) {
+  const std::string problem = Operate([&]() -> std::string {
+    const HWND line = m_port.CommandLine();
+    SetFocus(line);
+    if (line && GetFocus() == line && IsWindowEnabled(GetAncestor(line, GA_ROOT))) return {};
+    return "the command line can't take the keyboard; is a dialog open?";
+  });
+  if (!problem.empty()) return problem;
+  m_input.Type(Wide(text) + L"\n");
+  return {};
+}
+
+std::string DriverWorld::TakeShot(const std::string& path) {
+  Pause(kScreenCatchesUp);
+  return SavePng(CaptureScreen(), Wide(path));
+}
+
+bool DriverWorld::IsIdle() {
+  return Ask<bool>([this] { return m_port.IsIdle(); });
+}
+
+bool DriverWorld::IsMenuOpen() {
+  return Ask<bool>([this] { return m_port.IsMenuOpen(); });
+}
+
+void DriverWorld::LetTimersFire() {
+  const auto turn = TimerTurn::Begin(m_port);
+  while (turn && !m_stopped && !turn->IsOver()) Pause(kSlice);
+}
+
+std::string DriverWorld::ShellState() {
+  return Ask<std::string>([this] { return m_port.DescribeShell(); });
+}
+
+bool DriverWorld::Variable(const std::string& name, std::string* value) {
+  std::wstring wide;
+  const bool known = Ask<bool>([&] { return m_port.GetVariable(Wide(name), &wide); });
+  *value = Utf8(wide);
+  return known;
+}
+
+PlayWorld::Milliseconds DriverWorld::Now() {
+  return std::chrono::duration_cast<Milliseconds>(
+      std::chrono::steady_clock::now().time_since_epoch());
+}
+
+void DriverWorld::Pause(Milliseconds time) {
+  const Milliseconds end = Now() + time;
+  for (Milliseconds left = time; left > Milliseconds(0) && !m_stopped; left = end - Now())
+    std::this_thread::sleep_for(std::min(left, kSlice));
+}
+
+void DriverWorld::Print(const std::string& line) { WriteLine(stderr, line); }
+
+void DriverWorld::BringToFront() {
+  Operate([this]() -> std::string {
+    SetForegroundWindow(m_port.Frame());
+    return {};
+  });
+}
+
+HWND DriverWorld::Frame() {
+  return Ask<HWND>([this] { return m_port.Frame(); });
+}
+
+}  // namespace devhost

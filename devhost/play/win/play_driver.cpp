@@ -1,0 +1,90 @@
+// The driver's thread: reads the script, plays it, ends the program.
+#include "devhost/play/play_driver.h"
+
+#include <cstdio>
+#include <thread>
+
+#include "afx.h"
+#include "devhost/core/journal.h"
+#include "devhost/play/win/driver_world.h"
+#include "devhost/play/win/watchdog.h"
+
+namespace devhost {
+namespace {
+
+constexpr ULONGLONG kLargestScript = 16 * 1024 * 1024;
+
+bool ReadWhole(const std::wstring& path, std::string* text, std::string* problem) {
+  try {
+    CFile file(path.c_str(), CFile::modeRead);
+    if (file.GetLength() > kLargestScript) {
+      *problem = "the script is larger than 16 MB";
+      return false;
+    }
+    text->resize(static_cast<std::size_t>(file.GetLength()));
+    text->resize(file.Read(text->data(), static_cast<UINT>(text->size())));
+    return true;
+  } catch (CFileException* exception) {
+    *problem = "the script can't be opened, error " + std::to_string(exception->m_lOsError);
+    exception->Delete();
+    return false;
+  }
+}
+
+void Complain(const std::string& text) {
+  std::fprintf(stderr, "%s\n", text.c_str());
+  std::fflush(stderr);
+}
+
+}  // namespace
+
+struct PlayDriver::Running {
+  std::string file;
+  std::vector<Step> steps;
+  std::unique_ptr<DriverWorld> world;
+  std::thread thread;
+
+  void Play(UiPort& port) {
+    world->BringToFront();
+    PlayRunner runner(file, std::move(steps), TheJournal(), *world);
+    int exitCode;
+    {
+      const PlayWatchdog watchdog(runner, world->Frame());
+      exitCode = runner.Play();
+    }
+    port.OnMainThread([&] { port.Quit(exitCode); });
+  }
+};
+
+PlayDriver::PlayDriver() = default;
+
+PlayDriver::~PlayDriver() {
+  if (!m_running || !m_running->thread.joinable()) return;
+  m_running->world->Stop();
+  m_running->thread.join();
+}
+
+bool PlayDriver::Load(const std::wstring& path) {
+  auto running = std::make_unique<Running>();
+  running->file = Utf8(path);
+  std::string text, problem;
+  if (!ReadWhole(path, &text, &problem)) {
+    Complain(running->file + ": error: " + problem);
+    return false;
+  }
+  ScriptError error;
+  if (!ParsePlayScript(text, &running->steps, &error)) {
+    Complain(ScriptErrorText(running->file, error));
+    return false;
+  }
+  m_running = std::move(running);
+  return true;
+}
+
+void PlayDriver::Start(UiPort& port) {
+  if (!m_running || m_running->thread.joinable()) return;
+  m_running->world = std::make_unique<DriverWorld>(port);
+  m_running->thread = std::thread([running = m_running.get(), &port] { running->Play(port); });
+}
+
+}  // namespace devhost
