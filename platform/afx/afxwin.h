@@ -1,0 +1,54 @@
+// The window half of the class library: what a product file includes to get windows, message maps,
+// menus, device contexts, controls, dialogs, the application object and, last, the frames. The
+// parts stand in headers of their own; include this one only. Windows only.
+//
+// Not here: documents and views, printing, OLE, help, per-class extra data, states per module.
+// There is one state for the process, and the objects of other threads are kept apart by thread.
+#pragma once
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+#include <commctrl.h>
+#include <commdlg.h>
+#include <shellapi.h>
+#include <tchar.h>
+
+// A shorthand of Windows' header that would hide the member of that name.
+#undef GetNextWindow
+// The one message that stands for all colour queries of controls.
+#define WM_CTLCOLOR 0x0019
+
+#include "afx.h"
+#include "afxres.h"
+#include "atltypes.h"
+
+class CWnd;
+class CDialog;
+class CFrameWnd;
+class CMDIFrameWnd;
+class CMDIChildWnd;
+class CControlBar;
+class CDC;
+class CMenu;
+class CScrollBar;
+class CToolTipCtrl;
+class CWinThread;
+class CWinApp;
+class CDataExchange;
+class CCmdTarget;
+class CCmdUI;
+
+#include "afxwin_cmd.h"   // CCmdTarget, CCmdUI, the message map tables
+#include "afxwin_gdi.h"   // CGdiObject and its kinds, CDC and its kinds
+#include "afxwin_menu.h"  // CMenu
+#include "afxwin_wnd.h"   // CWnd
+#include "afxmsg_.h"      // the ON_ macros
+#include "afxwin_ctl.h"   // CStatic, CButton, CListBox, CComboBox, CEdit, CScrollBar
+#include "afxwin_dlg.h"   // CDialog, CDataExchange
+#include "afxdd_.h"       // DDX_ and DDV_
+#include "afxwin_app.h"   // CWinThread, CWinApp, Afx functions, module pieces
+#if __has_include("afxframe.h")
+#include "afxframe.h"  // CFrameWnd, CMDIFrameWnd, CMDIChildWnd, CControlBar
+#endif

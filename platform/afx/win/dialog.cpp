@@ -1,0 +1,278 @@
+// Dialogs: creation from a template, the modal loop that keeps the thread's own message filters in
+// play, the standard buttons.
+#include "afximpl.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_COMMAND(IDOK, OnOK)
+ON_COMMAND(IDCANCEL, OnCancel)
+ON_CONTROL(BN_CLICKED, IDOK, OnOK)
+ON_CONTROL(BN_CLICKED, IDCANCEL, OnCancel)
+ON_MESSAGE(WM_INITDIALOG, HandleInitDialog)
+ON_MESSAGE(WM_SETFONT, HandleSetFont)
+END_MESSAGE_MAP()
+
+CDialog::~CDialog() {
+  if (m_hWnd) DestroyWindow();
+}
+
+// ---- the modal loop, of any window
+
+namespace {
+void ShowAtIdle(CWnd* wnd, bool& pending) {
+  if (!pending) return;
+  wnd->ShowWindow(SW_SHOWNORMAL);
+  wnd->UpdateWindow();
+  pending = false;
+}
+
+// What happens each time the queue has run empty. False: nothing more to do.
+bool ModalIdle(CWnd* wnd, DWORD flags, HWND parent, LONG count) {
+  if (!(flags & MLF_NOIDLEMSG) && parent && count == 0)
+    ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(wnd->m_hWnd));
+  return !(flags & MLF_NOKICKIDLE) && wnd->SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, count);
+}
+constexpr UINT kSysTimer = 0x0118;  // the caret's blinking; not published in the headers
+}  // namespace
+
+int CWnd::RunModalLoop(DWORD dwFlags) {
+  bool idle = true;
+  LONG idleCount = 0;
+  bool showPending = (dwFlags & MLF_SHOWONIDLE) && !(GetStyle() & WS_VISIBLE);
+  HWND parent = ::GetParent(m_hWnd);
+  m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
+  POINT lastPoint{};
+  UINT lastMessage = 0;
+  MSG* message = AfxCurrentMessage();
+  while (ContinueModal()) {
+    while (idle && !::PeekMessage(message, nullptr, 0, 0, PM_NOREMOVE)) {
+      ShowAtIdle(this, showPending);
+      idle = ModalIdle(this, dwFlags, parent, idleCount++);
+    }
+    do {
+      if (!AfxPumpMessage()) {
+        AfxPostQuitMessage(int(message->wParam));  // for the loop outside
+        m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
+        return -1;
+      }
+      if (message->message == kSysTimer || message->message == WM_SYSKEYDOWN)
+        ShowAtIdle(this, showPending);
+      if (!ContinueModal()) break;
+      if (AfxIsIdleMessage(message, &lastPoint, &lastMessage)) {
+        idle = true;
+        idleCount = 0;
+      }
+    } while (::PeekMessage(message, nullptr, 0, 0, PM_NOREMOVE));
+  }
+  m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
+  return m_nModalResult;
+}
+
+BOOL CWnd::ContinueModal() { return (m_nFlags & WF_CONTINUEMODAL) != 0; }
+
+void CWnd::EndModalLoop(int nResult) {
+  m_nModalResult = nResult;
+  if (!(m_nFlags & WF_CONTINUEMODAL)) return;
+  m_nFlags &= ~WF_CONTINUEMODAL;
+  PostMessage(WM_NULL);  // wakes the loop
+}
+
+// ---- creation
+
+INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
+  if (message != WM_INITDIALOG) return 0;
+  auto* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hWnd));
+  return dialog ? dialog->OnInitDialog() : 1;
+}
+
+namespace {
+LPCDLGTEMPLATE FindTemplate(LPCTSTR name, HINSTANCE* module) {
+  *module = AfxFindResourceHandle(name, RT_DIALOG);
+  HRSRC resource = ::FindResource(*module, name, RT_DIALOG);
+  HGLOBAL loaded = resource ? ::LoadResource(*module, resource) : nullptr;
+  return loaded ? static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)) : nullptr;
+}
+}  // namespace
+
+BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd,
+                                HINSTANCE hInst) {
+  m_nModalResult = -1;
+  m_nFlags |= WF_CONTINUEMODAL;
+  m_lpDialogTemplate = lpDialogTemplate;
+  AfxHookWindowCreate(this);
+  HWND window =
+      ::CreateDialogIndirect(hInst, lpDialogTemplate, AfxHandleOf(pParentWnd), AfxDlgProc);
+  if (!AfxUnhookWindowCreate()) PostNcDestroy();
+  // EndDialog was called while the dialog was being set up: it ends before it was seen.
+  if (window && !(m_nFlags & WF_CONTINUEMODAL)) {
+    ::DestroyWindow(window);
+    window = nullptr;
+  }
+  return window != nullptr;
+}
+
+BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+  m_lpszTemplateName = lpszTemplateName;
+  if (IS_INTRESOURCE(lpszTemplateName) && m_nIDHelp == 0)
+    m_nIDHelp = LOWORD(reinterpret_cast<ULONG_PTR>(lpszTemplateName));
+  HINSTANCE module = nullptr;
+  LPCDLGTEMPLATE found = FindTemplate(lpszTemplateName, &module);
+  if (!found) return FALSE;
+  BOOL made = CreateDlgIndirect(found, pParentWnd ? pParentWnd : AfxGetMainWnd(), module);
+  m_nFlags &= ~WF_CONTINUEMODAL;
+  return made;
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd,
+                             void* lpDialogInit) {
+  m_lpDialogInit = lpDialogInit;
+  BOOL made = CreateDlgIndirect(lpDialogTemplate, pParentWnd ? pParentWnd : AfxGetMainWnd(),
+                                AfxGetInstanceHandle());
+  m_nFlags &= ~WF_CONTINUEMODAL;
+  return made;
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd,
+                                void* lpDialogInit) {
+  if (pParentWnd) m_pParentWnd = pParentWnd;
+  m_lpDialogTemplate = lpDialogTemplate;
+  m_lpDialogInit = lpDialogInit;
+  return TRUE;
+}
+
+// ---- modal
+
+HWND CDialog::PreModal() {
+  AfxUnhookWindowCreate();
+  if (CWinApp* app = AfxGetApp()) app->EnableModeless(FALSE);
+  CWnd* owner = GetSafeOwner(m_pParentWnd, &m_hWndTop);
+  return AfxHandleOf(owner);
+}
+
+void CDialog::PostModal() {
+  AfxUnhookWindowCreate();
+  Detach();
+  if (::IsWindow(m_hWndTop)) ::EnableWindow(m_hWndTop, TRUE);
+  m_hWndTop = nullptr;
+  if (CWinApp* app = AfxGetApp()) app->EnableModeless(TRUE);
+}
+
+INT_PTR CDialog::DoModal() {
+  HINSTANCE module = AfxGetResourceHandle();
+  LPCDLGTEMPLATE tmpl = m_lpDialogTemplate;
+  if (m_lpszTemplateName) tmpl = FindTemplate(m_lpszTemplateName, &module);
+  if (!tmpl) return -1;
+
+  HWND owner = PreModal();
+  bool disabled = owner && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner);
+  if (disabled) ::EnableWindow(owner, FALSE);
+  try {
+    if (CreateDlgIndirect(tmpl, FromHandle(owner), module)) {
+      if (m_nFlags & WF_CONTINUEMODAL)
+        RunModalLoop(MLF_SHOWONIDLE | (GetStyle() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0));
+      if (m_hWnd)
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    }
+  } catch (CException* e) {
+    AfxReportException(*e);
+    e->Delete();
+    m_nModalResult = -1;
+  }
+  // The owner comes back before the dialog goes, or Windows would activate another program.
+  if (disabled) ::EnableWindow(owner, TRUE);
+  if (owner && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(owner);
+  DestroyWindow();
+  PostModal();
+  return m_nModalResult;
+}
+
+void CDialog::EndDialog(int nResult) {
+  if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) EndModalLoop(nResult);
+  ::EndDialog(m_hWnd, nResult);
+}
+
+// ---- messages
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+  PreInitDialog();
+  CRect before;
+  GetWindowRect(before);
+  bool centre = CheckAutoCenter();
+  LRESULT result = Default();
+  // Centred unless OnInitDialog moved or resized it.
+  CRect after;
+  if (::IsWindow(m_hWnd)) GetWindowRect(after);
+  if (centre && after == before && !(GetStyle() & (WS_VISIBLE | WS_CHILD))) CenterWindow();
+  return result;
+}
+
+LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
+  OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
+  return Default();
+}
+
+// A template that names no place is centred; one that asks for a place by its style is left alone.
+BOOL CDialog::CheckAutoCenter() {
+  if (!m_lpDialogTemplate) return TRUE;
+  struct Extended {  // the newer form of a template; told from the older by its first four bytes
+    WORD version, signature;
+    DWORD helpId, exStyle, style;
+    WORD items;
+    short x, y;
+  };
+  DWORD style = m_lpDialogTemplate->style;
+  int x = m_lpDialogTemplate->x, y = m_lpDialogTemplate->y;
+  auto* extended = reinterpret_cast<const Extended*>(m_lpDialogTemplate);
+  if (extended->signature == 0xFFFF) style = extended->style, x = extended->x, y = extended->y;
+  return !(style & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) && x == 0 && y == 0;
+}
+
+BOOL CDialog::OnInitDialog() {
+  if (!UpdateData(FALSE)) {
+    EndDialog(-1);
+    return FALSE;
+  }
+  return TRUE;
+}
+
+void CDialog::OnOK() {
+  if (UpdateData(TRUE)) EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() { EndDialog(IDCANCEL); }
+
+namespace {
+bool IsMultilineEdit(HWND window) {
+  wchar_t name[10] = L"";
+  return ::GetClassName(window, name, 10) && lstrcmpi(name, L"edit") == 0 &&
+         (::GetWindowLongPtr(window, GWL_STYLE) & ES_MULTILINE);
+}
+}  // namespace
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+  if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+  // A multi-line edit asks for all keys and would keep Esc to itself.
+  if (pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_ESCAPE || pMsg->wParam == VK_CANCEL) &&
+      IsMultilineEdit(pMsg->hwnd)) {
+    HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);
+    if (!cancel || ::IsWindowEnabled(cancel)) {
+      SendMessage(WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(cancel));
+      return TRUE;
+    }
+  }
+  return PreTranslateInput(pMsg);
+}
+
+// Commands that the dialog does not know go on to its owner and to the program; the numbers of
+// controls and of system commands don't.
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+  if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+  bool command = nCode == CN_COMMAND || UINT(nCode) == CN_UPDATE_COMMAND_UI;
+  if (!command || !(nID & 0x8000) || nID >= 0xF000) return FALSE;
+  CWnd* owner = GetParent();
+  if (owner && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+  CWinThread* thread = AfxGetThread();
+  return thread && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
