@@ -1,0 +1,34 @@
+// What the tests of windows share: one program object that writes down message boxes instead of
+// showing them, a plain top-level window, and pumping what waits in the queue.
+#pragma once
+
+#include "afxwin.h"
+#include "afxcmn.h"
+#include "afxpriv.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+class TestApp : public CWinApp {
+ public:
+  TestApp() : CWinApp(L"afxwin tests") {}
+  int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override {
+    boxes.push_back(lpszPrompt);
+    return IDOK;
+  }
+  std::vector<std::wstring> boxes;
+};
+
+TestApp& App();
+
+// A top-level window of the library's own class; hidden unless the test shows it.
+class TestWindow : public CWnd {
+ public:
+  bool Make(DWORD style = WS_OVERLAPPEDWINDOW, LPCTSTR title = L"test") {
+    return CreateEx(0, nullptr, title, style, 50, 60, 300, 200, nullptr, nullptr);
+  }
+};
+
+void PumpQueue();
