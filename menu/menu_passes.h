@@ -10,7 +10,9 @@ class TMenuBar;
 void ResolveIcons(TMenuSystem& system);
 // "->" and "<-" labels into sub-menus.
 void NestSubMenus(TMenuSystem& system);
-void NestSubMenus(TMenuBar& bar);
+// Gives the number of steps: each closed a range or ended a bar, so that there are no more than two
+// a line and one.
+int NestSubMenus(TMenuBar& bar);
 // "*SWITCH*" lines to their switches.
 void ResolveSwitches(TMenuSystem& system);
 // "{~=Fn}" and "{!=Fn}" in front of labels into flags and functions.

@@ -53,9 +53,10 @@ NameIndex::NameIndex(int count) {
 size_t NameIndex::SlotOf(const TWCString& name) const {
   size_t slot = HashNoCase(name) & (m_slots.size() - 1);
   const std::wstring_view wanted(name.c_str(), static_cast<size_t>(name.Length()));
-  while (m_slots[slot] >= 0 &&
-         !EqualNamesNoCase(*m_names[static_cast<size_t>(m_slots[slot])], wanted))
-    slot = (slot + 1) & (m_slots.size() - 1);
+  for (; m_slots[slot] >= 0; slot = (slot + 1) & (m_slots.size() - 1)) {
+    ++m_comparisons;
+    if (EqualNamesNoCase(*m_names[static_cast<size_t>(m_slots[slot])], wanted)) break;
+  }
   return slot;
 }
 

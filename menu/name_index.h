@@ -18,11 +18,15 @@ class NameIndex {
   void Add(const TWCString& name);
   int Find(const TWCString& name) const;  // -1 when there is none
 
+  // How many names were compared so far; tests hold it near the number of calls.
+  size_t Comparisons() const { return m_comparisons; }
+
  private:
   size_t SlotOf(const TWCString& name) const;
 
   std::vector<const TWCString*> m_names;
   std::vector<int> m_slots;  // power of two; index into m_names or -1
+  mutable size_t m_comparisons = 0;
 };
 
 // The index of a list of model objects by their m_strName.

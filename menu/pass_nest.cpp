@@ -106,8 +106,10 @@ class Nester {
     m_path.push_back({&bar, 0, last, 0});
   }
 
-  void Run() {
-    while (!m_path.empty()) Step();
+  int Run() {
+    int steps = 0;
+    for (; !m_path.empty(); ++steps) Step();
+    return steps;
   }
 
  private:
@@ -137,7 +139,6 @@ class Nester {
   }
 
   void MoveTo(TMenuBar& bar, int first, int last) {
-    if (first <= last) bar.Reserve(bar.Length() + (last - first + 1));
     for (int i = first; i <= last; ++i) bar.Append(m_lines.Exchange(i, nullptr));
   }
 
@@ -148,9 +149,9 @@ class Nester {
 
 }  // namespace
 
-void NestSubMenus(TMenuBar& bar) {
+int NestSubMenus(TMenuBar& bar) {
   const NestPlan plan(bar);
-  if (plan.HasOpening()) Nester(bar, plan).Run();
+  return plan.HasOpening() ? Nester(bar, plan).Run() : 0;
 }
 
 void NestSubMenus(TMenuSystem& system) {

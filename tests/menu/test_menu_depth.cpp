@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "menu/menu_passes.h"
+#include "menu/name_index.h"
 #include "tests/menu/menu_testing.h"
 
 namespace {
@@ -89,6 +90,31 @@ TEST(MenuDepth, PathologicalRangesAreNestedAtOnce) {
     Compiled compiled;
     Compile(InBlock(lines), compiled);
     EXPECT_EQ(compiled.result, 0);
+  }
+}
+
+TEST(MenuDepth, NestingTakesAtMostTwoStepsALine) {
+  for (int lines : {1000, 30000})
+    for (int shape = 0; shape < 4; ++shape) {
+      TMenuBar bar;
+      for (int i = 0; i < lines; ++i) {
+        const bool opens[] = {i < lines / 2, i % 2 == 0, i % 3 != 2, true};
+        bar.Append(new TMenuItem(opens[shape] ? L"->a" : L"<-b", L""));
+      }
+      const int steps = NestSubMenus(bar);
+      EXPECT_GT(steps, 0);
+      EXPECT_LE(steps, 2 * lines + 1) << "shape " << shape;
+    }
+}
+
+TEST(MenuDepth, ALookUpByNameComparesAFewNamesHoweverManyThereAre) {
+  for (int count : {100, 20000}) {
+    std::vector<TWCString> names;
+    for (int i = 0; i < count; ++i) names.emplace_back((L"ICON" + std::to_wstring(i)).c_str());
+    NameIndex index(count);
+    for (const TWCString& name : names) index.Add(name);
+    for (const TWCString& name : names) index.Find(name);
+    EXPECT_LE(index.Comparisons(), 4 * static_cast<size_t>(count));
   }
 }
 

@@ -1,0 +1,10 @@
+// libFuzzer entry: menu source.
+#include <cstddef>
+#include <cstdint>
+
+#include "tests/fuzz/menu_fuzz.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t count) {
+  FuzzMenuSource({reinterpret_cast<const char*>(bytes), count});
+  return 0;
+}

@@ -1,0 +1,79 @@
+// A short run of the menu fuzzers with fixed seeds: the golden sources and what they compile to,
+// cut, doubled, spliced and with bytes changed.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+
+#include "tests/fuzz/menu_fuzz.h"
+#include "tests/menu/menu_testing.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string> Sources() {
+  std::vector<std::string> sources;
+  for (const auto& entry : fs::directory_iterator(fs::path(QVX_SOURCE_DIR) / "tests/menu/golden"))
+    if (entry.path().extension() == ".qmn") sources.push_back(ReadFile(entry.path().wstring()));
+  std::sort(sources.begin(), sources.end());
+  return sources;
+}
+
+const char* const kPieces[] = {"***",      "**",     "[->", "[<-<-", "\n",  "\"",          "//\n",
+                               "/*",       "=",      ",",   "^",     "{~=", "]",           "\xFF",
+                               "\x81\x5D", "SWITCH", "999", "1.5",   "\\",  "\xFF\xFE\xFF"};
+
+std::string Mutated(const std::string& seed, const std::string& other, std::mt19937& random) {
+  std::string text = seed;
+  for (unsigned change = random() % 6; change; --change) {
+    if (text.empty()) text = "x";
+    const size_t at = random() % text.size();
+    switch (random() % 6) {
+      case 0:
+        text[at] = static_cast<char>(random());
+        break;
+      case 1:
+        text.erase(at, random() % 16);
+        break;
+      case 2:
+        text.insert(at, kPieces[random() % std::size(kPieces)]);
+        break;
+      case 3:
+        text.insert(at, text.substr(random() % text.size(), random() % 64));
+        break;
+      case 4:
+        text.resize(at);
+        break;
+      case 5:
+        text += other.substr(random() % (other.size() + 1));
+        break;
+    }
+  }
+  return text;
+}
+
+TEST(MenuFuzz, SourcesSurviveAFixedRun) {
+  const std::vector<std::string> seeds = Sources();
+  ASSERT_FALSE(seeds.empty());
+  std::mt19937 random(1);
+  for (int i = 0; i < 20000; ++i)
+    FuzzMenuSource(Mutated(seeds[random() % seeds.size()], seeds[random() % seeds.size()], random));
+}
+
+TEST(MenuFuzz, CompiledFilesSurviveAFixedRun) {
+  std::vector<std::string> seeds;
+  for (const std::string& source : Sources()) {
+    Compiled compiled;
+    Compile(source, compiled);
+    seeds.push_back(SaveBytes(compiled.system));
+  }
+  ASSERT_FALSE(seeds.empty());
+  std::mt19937 random(2);
+  for (int i = 0; i < 20000; ++i)
+    FuzzCompiledMenu(
+        Mutated(seeds[random() % seeds.size()], seeds[random() % seeds.size()], random));
+}
+
+}  // namespace
