@@ -1,5 +1,6 @@
-// The messages, records and classes that frames, control bars and windows exchange among themselves.
-// Product code needs it for the dock bar alone; the frame classes and a host's own bars use the rest.
+// The messages, records and classes that frames, control bars and windows exchange among
+// themselves. Product code needs it for the dock bar alone; the frame classes and a host's own bars
+// use the rest.
 #pragma once
 
 #include <vector>
@@ -9,8 +10,8 @@
 
 struct DockPlan;
 
-#define WM_QUERYAFXWNDPROC 0x0360   // answers 1 when the window's procedure is AfxWndProc
-#define WM_SIZEPARENT 0x0361        // lParam: AFX_SIZEPARENTPARAMS*; a bar takes its strip of the frame
+#define WM_QUERYAFXWNDPROC 0x0360  // answers 1 when the window's procedure is AfxWndProc
+#define WM_SIZEPARENT 0x0361  // lParam: AFX_SIZEPARENTPARAMS*; a bar takes its strip of the frame
 #define WM_SETMESSAGESTRING 0x0362  // wParam: string id, or lParam: text
 #define WM_IDLEUPDATECMDUI 0x0363   // wParam: disable what has no handler
 #define WM_INITIALUPDATE 0x0364
@@ -22,11 +23,16 @@ struct DockPlan;
 #define WM_ACTIVATETOPLEVEL 0x036E  // wParam: WA_ code, lParam: HWND[2]
 #define WM_POPMESSAGESTRING 0x0375
 
-#define WM_REFLECT_BASE 0xBC00      // a message given back to the control that sent it
+#define WM_REFLECT_BASE 0xBC00  // a message given back to the control that sent it
 
 enum {
-  FS_SHOW = 0x01, FS_HIDE = 0x02, FS_ACTIVATE = 0x04, FS_DEACTIVATE = 0x08,
-  FS_ENABLE = 0x10, FS_DISABLE = 0x20, FS_SYNCACTIVE = 0x40,
+  FS_SHOW = 0x01,
+  FS_HIDE = 0x02,
+  FS_ACTIVATE = 0x04,
+  FS_DEACTIVATE = 0x08,
+  FS_ENABLE = 0x10,
+  FS_DISABLE = 0x20,
+  FS_SYNCACTIVE = 0x40,
 };
 
 // hDWP null means that the rectangle is only computed. Each bar that takes room cuts it from rect
@@ -101,7 +107,8 @@ class CDockBar : public CControlBar {
   BOOL m_bLayoutQuery = FALSE;
 };
 
-// Moving one bar with the mouse, and where it was: the bar's own, made by CControlBar::EnableDocking.
+// Moving one bar with the mouse, and where it was: the bar's own, made by
+// CControlBar::EnableDocking.
 class CDockContext {
  public:
   explicit CDockContext(CControlBar* pBar) : m_pBar(pBar) {}
@@ -116,20 +123,20 @@ class CDockContext {
 
   CControlBar* m_pBar;
   CFrameWnd* m_pDockSite = nullptr;
-  DWORD m_dwDockStyle = 0;      // sides that the bar may take
+  DWORD m_dwDockStyle = 0;  // sides that the bar may take
   DWORD m_dwStyle = 0;
   BOOL m_bDragging = FALSE;
-  UINT m_uMRUDockID = 0;        // dock bar it was in last; 0: never docked
-  CRect m_rectMRUDockPos;       // there, in the dock bar's client coordinates
+  UINT m_uMRUDockID = 0;   // dock bar it was in last; 0: never docked
+  CRect m_rectMRUDockPos;  // there, in the dock bar's client coordinates
   DWORD m_dwMRUFloatStyle = 0;
   CPoint m_ptMRUFloatPos{CW_USEDEFAULT, CW_USEDEFAULT};
-  CSize m_sizeMRUFloat;         // client size of the floating frame; 0: as the bar measures
+  CSize m_sizeMRUFloat;  // client size of the floating frame; 0: as the bar measures
 
  private:
   CRect DragRectAt(CPoint pt, DWORD side) const;
   DWORD SideAt(CPoint pt) const;
   void Drop(CPoint pt, DWORD side);
-  CPoint m_grip;                // pointer within the floating frame that the drag shows
+  CPoint m_grip;  // pointer within the floating frame that the drag shows
 };
 
 // The frame of a floating bar: small caption, close box, a thick border if the bar can be sized.

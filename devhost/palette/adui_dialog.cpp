@@ -1,0 +1,37 @@
+// The host's dialog classes.
+#include "acui.h"
+
+IMPLEMENT_DYNAMIC(CAdUiBaseDialog, CDialog)
+IMPLEMENT_DYNAMIC(CAdUiDialog, CAdUiBaseDialog)
+IMPLEMENT_DYNAMIC(CAcUiDialog, CAdUiDialog)
+
+namespace {
+
+// The module's resources are current while its dialog is made and runs.
+class ResourceScope {
+ public:
+  explicit ResourceScope(HINSTANCE module) : m_before(AfxGetResourceHandle()) {
+    if (module) AfxSetResourceHandle(module);
+  }
+  ~ResourceScope() { AfxSetResourceHandle(m_before); }
+  ResourceScope(const ResourceScope&) = delete;
+  ResourceScope& operator=(const ResourceScope&) = delete;
+
+ private:
+  HINSTANCE m_before;
+};
+
+}  // namespace
+
+CAdUiBaseDialog::CAdUiBaseDialog(UINT idd, CWnd* pParent, HINSTANCE hDialogResource)
+    : CDialog(idd, pParent), m_hDialogResourceSaved(hDialogResource) {}
+
+INT_PTR CAdUiBaseDialog::DoModal() {
+  const ResourceScope scope(m_hDialogResourceSaved);
+  return CDialog::DoModal();
+}
+
+BOOL CAdUiBaseDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
+  const ResourceScope scope(m_hDialogResourceSaved);
+  return CDialog::Create(nIDTemplate, pParentWnd);
+}
