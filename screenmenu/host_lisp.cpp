@@ -19,7 +19,7 @@ LispAnswer::Kind KindOf(int restype) {
 
 LispAnswer HostLisp::Call(const wchar_t* function) {
   LispAnswer answer;
-  resbuf* call = acutBuildList(RTSTR, function, 0);
+  resbuf* call = acutBuildList(RTSTR, function, RTNONE);
   if (!call) return answer;
   resbuf* result = nullptr;
   answer.called = acedInvoke(call, &result) == RTNORM;

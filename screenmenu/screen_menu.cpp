@@ -5,6 +5,7 @@
 #include "adslib.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
+#include "screenmenu/module_handle.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/screen_menu_host.h"
 
@@ -73,6 +74,16 @@ const TMenuSystem* CScreenMenu::MenuSystem() {
   return host ? host->MenuSystem() : nullptr;
 }
 
+// Six bitmaps serve all headers of all depths.
+HBITMAP CScreenMenu::Arrow(int depth, bool open) {
+  qvx::OwnedBitmap& arrow = m_arrows[depth % qvx::kArrowKinds][open];
+  if (!arrow)
+    arrow.Reset(static_cast<HBITMAP>(::LoadImageW(qvx::ThisModule(),
+                                                  MAKEINTRESOURCEW(qvx::ArrowBitmap(depth, open)),
+                                                  IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+  return arrow.Get();
+}
+
 void CScreenMenu::OnWindowPosChanged(WINDOWPOS* position) {
   CAdUiPaletteSet::OnWindowPosChanged(position);
   if (m_pRootGroup && m_pRootGroup->GetSafeHwnd()) FitGroup();
@@ -122,6 +133,13 @@ bool CScreenMenu::OnClosing() {
   return CAdUiPaletteSet::OnClosing();
 }
 
+// The window system hides a window before it tells it of its end, so what the user saw is noted
+// here; a palette that goes with its frame is still shown when it is told.
+BOOL CScreenMenu::DestroyWindow() {
+  m_bShownAtEnd = IsScreenMenuVisible();
+  return CAdUiPaletteSet::DestroyWindow();
+}
+
 void CScreenMenu::OnDestroy() {
   CRect window, frameClient;
   GetWindowRect(&window);
@@ -130,8 +148,9 @@ void CScreenMenu::OnDestroy() {
     frame->GetClientRect(&frameClient);
     frame->ScreenToClient(&window);
   }
-  qvx::SavePaletteState({IsScreenMenuVisible(), qvx::AlignmentOf(window, frameClient), size,
-                         g_bLimitHeight, g_bDefaultOpenFirst, g_bScrollBar});
+  qvx::SavePaletteState({m_bShownAtEnd || IsScreenMenuVisible(),
+                         qvx::AlignmentOf(window, frameClient), size, g_bLimitHeight,
+                         g_bDefaultOpenFirst, g_bScrollBar});
   if (m_pRootGroup) {
     qvx::SaveActiveSubMenu(m_pRootGroup->OpenIndex());
     m_pRootGroup->DestroyWindow();

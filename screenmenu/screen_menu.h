@@ -39,6 +39,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   bool AutoDeletes() const { return m_bAutoDelete != FALSE; }
 
   BOOL PreTranslateMessage(MSG* message) override;
+  BOOL DestroyWindow() override;
   CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
   bool OnClosing() override;
   void GetFloatingMinSize(long* width, long* height) override;
@@ -91,6 +92,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   std::unique_ptr<TMenuBar> m_pTailMenu;  // the last pop-up of a right click, alive until the next
   TMenuItem* m_pClickedItem = nullptr;    // the leaf last right-clicked, not owned
   std::unique_ptr<CMenuGroup> m_pRootGroup;  // null until the first menu is attached
+  int m_bShownAtEnd = 0;                     // visible when it was told to go
   int m_bCloseHint = 1;                      // say the hot key on closing
   int m_bTracking = 0;                       // an edge drag is running
   CRect m_rcTracker;                         // the drag bar, in the dock bar's client coordinates

@@ -1,0 +1,341 @@
+// The palette as a real window in a real frame: coming up docked, taking a menu, sending a command
+// after its wait, closing with and without the hint, what is kept, dragging its edge.
+#include <gtest/gtest.h>
+
+#include "afxpriv.h"
+#include "kernel/globals.h"
+#include "kernel/tregproperty.h"
+#include "menu_fixture.h"
+#include "screenmenu/describe_screen_menu.h"
+#include "screenmenu/palette_settings.h"
+#include "screenmenu/screen_menu.h"
+#include "screenmenu/screen_menu_host.h"
+#include "screenmenu/screen_menu_reactor.h"
+#include "tests/doubles/palette_host.h"
+
+namespace {
+
+using namespace fixture;
+using Words = std::vector<std::wstring>;
+
+class Rooms : public qvx::ScreenMenuHost {
+ public:
+  TMenuSystem* MenuSystem() override { return &system; }
+  void ShowMenuAt(TMenuBar& bar, POINT, UINT) override { shownLines = bar.Length(); }
+  void UpdateStatusBar() override { ++panesUpdated; }
+  const wchar_t* HelpFile() override { return L""; }
+  void WriteDrawingScale() override { order += 'a'; }
+  void RefreshDrawingPanes() override { order += 'b'; }
+  void RefreshScaleText() override { order += 'c'; }
+  void ResetPreviewCounters() override { order += 'd'; }
+
+  TMenuSystem system;
+  int shownLines = 0, panesUpdated = 0;
+  std::string order;
+};
+
+class Palette : public testing::Test {
+ protected:
+  Palette() : host(ThePaletteHost()) {
+    g_iMenuRowHeight = 25;
+    g_bScrollBar = 1;
+    g_bLimitHeight = g_bDefaultOpenFirst = g_nRunMode = 0;
+    g_nProductId = 1;
+    host.documents = 1;
+    host.hasDatabase = true;
+    host.commandActive = 0;
+    host.commandNames.clear();
+    host.functions.clear();
+    qvx::SavePaletteState({1, 1, {120, 80}, 0, 0, 1});
+    qvx::SaveActiveSubMenu(-1);
+    host.OpenFrame();
+    qvx::SetScreenMenuHost(&rooms);
+  }
+  ~Palette() override {
+    InitScreenMenu(false, true);
+    qvx::SetScreenMenuHost(nullptr);
+    host.CloseFrame();
+    host.diary.clear();
+  }
+  void ComeUp(bool show = true) {
+    InitScreenMenu(true, show);
+    host.Pump();
+  }
+  // Two headers with a command each, one command beside them.
+  void Attach() {
+    auto* screen = new TMenuBar;
+    screen->m_strName = L"screen";
+    AddLine(*AddHeader(*screen, L"墙体"), L"绘制墙体", L"TWall\n");
+    AddLine(*AddHeader(*screen, L"门窗"), L"插入门", L"TDoor\n");
+    AddLine(*screen, L"轴网", L"TAxis\n");
+    rooms.system.Append(screen);
+    AttachScreenBar(rooms.system);
+    host.Pump();
+  }
+  CMenuGroup& Root() { return *g_pScreenMenu->RootGroup(); }
+  void Click(CMenuGroup& group, int row) { group.Row(row)->SendMessage(BM_CLICK); }
+  void FireTimer() { g_pScreenMenu->SendMessage(WM_TIMER, qvx::kSendTimer); }
+  Words Sent() const {
+    Words sent;
+    for (const std::wstring& entry : host.diary)
+      if (entry.rfind(L"sent ", 0) == 0) sent.push_back(entry.substr(5));
+    return sent;
+  }
+  int Saved(const wchar_t* name) {
+    CString path(GetRegLocation());
+    TRegProperty key(path + L"\\Settings", L"ScreenMenu");
+    int value = -99;
+    key.GetValue(name, value);
+    return value;
+  }
+  CRect PlaceOf(CWnd& window) {
+    CRect place;
+    window.GetWindowRect(&place);
+    return place;
+  }
+
+  PaletteHost& host;
+  Rooms rooms;
+};
+
+TEST_F(Palette, WithoutOneTheExportsAnswerHarmlessly) {
+  EXPECT_EQ(ShowScreenMenu(1), 5100);
+  EXPECT_EQ(IsScreenMenuVisible(), 0);
+  EXPECT_EQ(GetScreenMenuWidth(), 0);
+  InitScreenMenu(false, true);
+}
+
+TEST_F(Palette, ComesUpDockedLeftAtItsSavedWidthWithoutATree) {
+  ComeUp();
+  ASSERT_NE(g_pScreenMenu, nullptr);
+  EXPECT_EQ(IsScreenMenuVisible(), 1);
+  EXPECT_FALSE(g_pScreenMenu->IsFloating());
+  EXPECT_EQ(::GetDlgCtrlID(::GetParent(g_pScreenMenu->m_hWnd)), 59420);
+  EXPECT_EQ(GetScreenMenuWidth(), 120);
+  EXPECT_EQ(g_pScreenMenu->RootGroup(), nullptr);
+}
+
+TEST_F(Palette, DocksRightWhenItWasThere) {
+  qvx::SavePaletteState({1, 0, {120, 80}, 0, 0, 1});
+  ComeUp();
+  EXPECT_EQ(::GetDlgCtrlID(::GetParent(g_pScreenMenu->m_hWnd)), 59421);
+}
+
+TEST_F(Palette, TakesTheScreenBlockOutOfTheMenuAndShowsIt) {
+  ComeUp();
+  Attach();
+  EXPECT_EQ(rooms.system.Length(), 0);
+  EXPECT_EQ(Root().RowCount(), 3);
+  EXPECT_TRUE(Root().Row(0)->IsWindowVisible());
+  EXPECT_EQ(g_pScreenMenu->RootBar()->Length(), 3);
+}
+
+TEST_F(Palette, AMenuLoadedWithoutAPaletteLosesItsScreenBlock) {
+  Attach();
+  EXPECT_EQ(rooms.system.Length(), 0);
+  EXPECT_EQ(g_pScreenMenu, nullptr);
+}
+
+TEST_F(Palette, TheRootGroupIsFittedThreeBelowTheTopAndTwoAboveTheBottom) {
+  ComeUp();
+  Attach();
+  CRect used, window = PlaceOf(*g_pScreenMenu), group = PlaceOf(Root());
+  g_pScreenMenu->GetUsedRect(used);
+  g_pScreenMenu->ClientToScreen(&used);
+  EXPECT_EQ(group.left, used.left);
+  EXPECT_EQ(group.right, used.right);
+  EXPECT_EQ(group.top, used.top + 3);
+  EXPECT_EQ(group.bottom, window.bottom - 2);
+}
+
+TEST_F(Palette, ACommandWaitsForTheTimerAndGoesOutOnceWithTheFocusToTheDrawing) {
+  ComeUp();
+  Attach();
+  Click(Root(), 2);
+  EXPECT_TRUE(Sent().empty());
+  FireTimer();
+  EXPECT_EQ(Sent(), (Words{L"TAxis\n"}));
+  FireTimer();
+  EXPECT_EQ(Sent().size(), 1u);
+  EXPECT_EQ(rooms.system.m_recent.Length(), 1);
+}
+
+TEST_F(Palette, TheSecondOfTwoClicksWithinTheWaitIsTheOneThatGoes) {
+  ComeUp();
+  Attach();
+  Click(*Root().Child(0), 0);
+  Click(Root(), 2);
+  FireTimer();
+  EXPECT_EQ(Sent(), (Words{L"TAxis\n"}));
+}
+
+TEST_F(Palette, ARunningCommandIsCancelledFirst) {
+  ComeUp();
+  Attach();
+  host.commandNames = L"LINE";
+  Click(Root(), 2);
+  FireTimer();
+  EXPECT_EQ(Sent(), (Words{L"\x1B\x1BTAxis\n"}));
+}
+
+TEST_F(Palette, WithoutAWorkingDatabaseTheCommandWaitsOn) {
+  ComeUp();
+  Attach();
+  host.hasDatabase = false;
+  Click(Root(), 2);
+  FireTimer();
+  EXPECT_TRUE(Sent().empty());
+  host.hasDatabase = true;
+  FireTimer();
+  EXPECT_EQ(Sent().size(), 1u);
+}
+
+TEST_F(Palette, WithoutADocumentTheTextIsLostButRemembered) {
+  ComeUp();
+  Attach();
+  host.documents = 0;
+  Click(Root(), 2);
+  FireTimer();
+  EXPECT_TRUE(Sent().empty());
+  EXPECT_EQ(rooms.system.m_recent.Length(), 1);
+}
+
+TEST_F(Palette, ClosingByTheUserNamesTheHotKeyAndByTheProgramSaysNothing) {
+  ComeUp();
+  ShowScreenMenu(0);
+  host.Pump();
+  EXPECT_EQ(IsScreenMenuVisible(), 0);
+  EXPECT_TRUE(host.diary.empty());
+  ShowScreenMenu(1);
+  host.Pump();
+  EXPECT_EQ(IsScreenMenuVisible(), 1);
+  g_pScreenMenu->OnClosing();
+  EXPECT_EQ(host.diary, (Words{L"printed 热键<Ctrl +>显示屏幕菜单\n", L"prompt"}));
+}
+
+TEST_F(Palette, ShowingAVisiblePaletteDoesNotMoveTheFocus) {
+  ComeUp();
+  host.frame->SetFocus();
+  const HWND focus = ::GetFocus();
+  ShowScreenMenu(1);
+  EXPECT_EQ(::GetFocus(), focus);
+}
+
+TEST_F(Palette, GoingDownKeepsWhatItKnows) {
+  ComeUp();
+  Attach();
+  Click(Root(), 1);
+  InitScreenMenu(false, true);
+  EXPECT_EQ(g_pScreenMenu, nullptr);
+  EXPECT_EQ(Saved(L"Visible"), 1);
+  EXPECT_EQ(Saved(L"Alignment"), 1);
+  EXPECT_EQ(Saved(L"SizeX"), 120);
+  EXPECT_EQ(Saved(L"ActiveSubMenu"), 1);
+  EXPECT_TRUE(host.diary.empty()) << "no hint";
+  ComeUp();
+  Attach();
+  EXPECT_EQ(Root().OpenIndex(), 1);
+  EXPECT_TRUE(Root().Child(1)->IsWindowVisible());
+}
+
+TEST_F(Palette, TheFirstDrawingEnablesItAndTheLastOneDisablesIt) {
+  ComeUp();
+  TScreenMenuReactor reactor;
+  host.documents = 2;
+  reactor.documentToBeDestroyed(nullptr);
+  EXPECT_TRUE(g_pScreenMenu->IsWindowEnabled());
+  host.documents = 1;
+  reactor.documentToBeDestroyed(nullptr);
+  EXPECT_FALSE(g_pScreenMenu->IsWindowEnabled());
+  reactor.documentCreated(nullptr);
+  EXPECT_TRUE(g_pScreenMenu->IsWindowEnabled());
+  EXPECT_EQ(rooms.order, "");
+  reactor.documentActivated(nullptr);
+  EXPECT_EQ(rooms.order, "abcd");
+  host.documents = 0;
+  reactor.documentActivated(nullptr);
+  EXPECT_EQ(rooms.order, "abcd");
+}
+
+TEST_F(Palette, ADrawingThatClosesBeforeThePaletteExistsIsNotRemembered) {
+  TScreenMenuReactor().documentToBeDestroyed(nullptr);
+  ComeUp();
+  EXPECT_TRUE(g_pScreenMenu->IsWindowEnabled());
+}
+
+TEST_F(Palette, TheDraggedEdgeGivesTheNewWidthAndStopsAtTheLeast) {
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  CRect place = PlaceOf(*g_pScreenMenu);
+  ::MapWindowPoints(nullptr, dockBar, reinterpret_cast<POINT*>(&place), 2);
+  const int edge = place.right + ::GetSystemMetrics(SM_CXFRAME) / 2;
+  const auto drag = [dockBar](int from, int to) {
+    ::SendMessageW(dockBar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from, 50));
+    ::SendMessageW(dockBar, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, 50));
+    ::SendMessageW(dockBar, WM_LBUTTONUP, 0, MAKELPARAM(to, 50));
+  };
+  drag(edge, edge + 60);
+  host.Pump();
+  EXPECT_EQ(GetScreenMenuWidth(), 180);
+  drag(edge + 60, edge - 100);
+  host.Pump();
+  EXPECT_EQ(GetScreenMenuWidth(), 180) << "a jump beyond the least size is refused whole";
+}
+
+TEST_F(Palette, BeforeRelease172TheDockBarIsLeftAlone) {
+  host.releaseMajor = 17;
+  host.releaseMinor = 1;
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  EXPECT_EQ(reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(dockBar, GWLP_WNDPROC)), &AfxWndProc);
+  host.releaseMajor = 24;
+  host.releaseMinor = 0;
+}
+
+TEST_F(Palette, RightClicksOnPaletteOfferJumpsAndCustomising) {
+  ComeUp();
+  Attach();
+  g_pScreenMenu->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(g_pScreenMenu->m_hWnd),
+                             MAKELPARAM(60, 60));
+  EXPECT_EQ(rooms.shownLines, 2 + 1 + 1);
+  g_pScreenMenu->TailCommand(L"门窗");
+  EXPECT_EQ(Root().OpenIndex(), 1);
+  g_pScreenMenu->TailCommand(L"门窗");
+  EXPECT_EQ(Root().OpenIndex(), -1) << "a jump to the open group folds it";
+}
+
+TEST_F(Palette, TheShellStateShowsTheLiveRows) {
+  ComeUp();
+  Attach();
+  Click(Root(), 0);
+  const std::string json = DescribeScreenMenu();
+  EXPECT_NE(json.find("\"exists\":true,\"visible\":true,\"enabled\":true,\"floating\":false,"
+                      "\"dock\":\"left\""),
+            std::string::npos)
+      << json;
+  EXPECT_NE(json.find("\"label\":\"绘制墙体\",\"kind\":\"command\",\"enabled\":true,"
+                      "\"visible\":true,\"depth\":1"),
+            std::string::npos)
+      << json;
+  EXPECT_NE(json.find("\"label\":\"插入门\",\"kind\":\"command\",\"enabled\":true,"
+                      "\"visible\":false"),
+            std::string::npos);
+}
+
+TEST_F(Palette, TwentyReloadsLeaveNoWindowAndNoHandle) {
+  const auto reload = [this] {
+    InitScreenMenu(false, true);
+    InitScreenMenu(true, true);
+    Attach();
+    Click(Root(), 0);
+  };
+  reload();
+  const int bitmaps = qvx::OwnedBitmap::Alive();
+  for (int i = 0; i < 20; ++i) reload();
+  EXPECT_EQ(qvx::OwnedBitmap::Alive(), bitmaps);
+  InitScreenMenu(false, true);
+  CDockBar* bar = host.frame->GetDockBar(AFX_IDW_DOCKBAR_LEFT);
+  EXPECT_EQ(::GetWindow(bar->m_hWnd, GW_CHILD), nullptr);
+}
+
+}  // namespace
