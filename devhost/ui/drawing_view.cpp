@@ -100,6 +100,7 @@ void DrawingView::OnMove(WPARAM keys, POINT at) {
 // empty ground it opens a selection box, which a second click or the release of a drag closes.
 void DrawingView::OnPress(WPARAM keys, POINT at) {
   ::SetFocus(m_hWnd);
+  if (m_model.CommandIsActive()) m_boxFrom.reset();  // a command came in between
   if (m_model.WaitsForPoint()) {
     m_model.GivePoint(at);
     return;
@@ -108,7 +109,7 @@ void DrawingView::OnPress(WPARAM keys, POINT at) {
     PickBox(keys, *m_boxFrom, at);
     return;
   }
-  if (m_model.CommandIsActive() && !m_model.WaitsForSelection()) return;
+  if (m_model.CommandIsActive()) return;
   m_press = at;
   if (m_model.PickAt(at, (keys & MK_SHIFT) != 0)) {
     m_press.reset();
@@ -188,8 +189,12 @@ ViewOverlay DrawingView::Overlay() const {
   overlay.cursor = m_panFrom ? std::nullopt : m_cursor;
   overlay.pickBox = !m_model.WaitsForPoint();
   overlay.grips = m_model.Grips();
-  overlay.boxFrom = m_boxFrom;
-  overlay.rubberFrom = m_model.RubberFrom();
+  if (m_model.WaitsForCorner()) {
+    overlay.boxFrom = m_model.RubberFrom();
+  } else {
+    if (!m_model.CommandIsActive()) overlay.boxFrom = m_boxFrom;
+    overlay.rubberFrom = m_model.RubberFrom();
+  }
   if (const std::optional<POINT> origin = m_model.Origin()) {
     overlay.origin = *origin;
     overlay.originShown = true;

@@ -56,6 +56,8 @@ bool MainFrame::CreateAndShow(const std::wstring& title) {
   m_hMenuDefault = menu.bar;
   ::SendMessageW(m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(menu.bar),
                  reinterpret_cast<LPARAM>(menu.windowMenu));
+  // Told again now that there is an MDI area, which adds the name of a maximized child from here on.
+  ::SetWindowTextW(m_hWnd, title.c_str());
   m_keys = MakeMainKeys();
   if (!m_status.CreateIn(this) || !m_commands.CreateIn(this, TheHostUi().CommandListener()))
     return false;

@@ -80,9 +80,7 @@ std::optional<POINT> ViewModel::Origin() const { return PixelOf(0, 0); }
 
 bool ViewModel::WaitsForPoint() const { return TheHost().engine.WaitsForPoint(); }
 
-bool ViewModel::WaitsForSelection() const {
-  return TheHost().engine.Waiting() == Asking::Selection;
-}
+bool ViewModel::WaitsForCorner() const { return TheHost().engine.Waiting() == Asking::Corner; }
 
 bool ViewModel::CommandIsActive() const { return TheHost().engine.CommandRuns(); }
 

@@ -31,8 +31,8 @@ class ViewModel {
   std::optional<POINT> Origin() const;  // of the world, when it lies within reach of a pixel
 
   bool WaitsForPoint() const;
-  bool WaitsForSelection() const;
   bool CommandIsActive() const;
+  bool WaitsForCorner() const;              // the band is a box, not a line
   std::optional<POINT> RubberFrom() const;  // where the band to the pointer begins
   void GivePoint(POINT pixel);
 

@@ -1,0 +1,140 @@
+// The message pump with real messages: who sees a message, in which order, and when it is quiet.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+
+#include "devhost/ui/main_thread.h"
+#include "devhost/ui/message_pump.h"
+#include "rxmfcapi.h"
+
+using devhost::MainThread;
+using devhost::MessagePump;
+using devhost::ThePump;
+
+namespace {
+
+std::string g_seen;
+UINT g_swallow = 0;
+
+BOOL First(MSG* message) {
+  if (message->message >= WM_APP) g_seen += "1";
+  return FALSE;
+}
+
+BOOL Second(MSG* message) {
+  if (message->message >= WM_APP) g_seen += "2";
+  return message->message == g_swallow;
+}
+
+BOOL RemovesItself(MSG* message) {
+  if (message->message >= WM_APP) g_seen += "r";
+  acedRemoveFilterWinMsg(&RemovesItself);
+  return FALSE;
+}
+
+class Pump : public testing::Test {
+ protected:
+  void SetUp() override {
+    g_seen.clear();
+    g_swallow = 0;
+    ThePump().SetPreTranslate([](MSG* message) {
+      if (message->message >= WM_APP) g_seen += "t";
+      return message->message == WM_APP + 9;
+    });
+    ThePump().SetIdleWork(nullptr);
+  }
+  void TearDown() override {
+    acedRemoveFilterWinMsg(&First);
+    acedRemoveFilterWinMsg(&Second);
+    ThePump().SetPreTranslate(nullptr);
+    ThePump().SetIdleWork(nullptr);
+  }
+  static std::string Pumped(UINT message) {
+    g_seen.clear();
+    ::PostThreadMessageW(::GetCurrentThreadId(), message, 0, 0);
+    EXPECT_TRUE(ThePump().RunOnce());
+    return g_seen;
+  }
+};
+
+}  // namespace
+
+TEST_F(Pump, TheNewestFilterIsAskedFirstAndTranslationComesLast) {
+  EXPECT_TRUE(acedRegisterFilterWinMsg(&First));
+  EXPECT_TRUE(acedRegisterFilterWinMsg(&Second));
+  EXPECT_EQ(Pumped(WM_APP), "21t");
+}
+
+TEST_F(Pump, AFilterThatSwallowsKeepsTheMessageFromAllOthers) {
+  acedRegisterFilterWinMsg(&First);
+  acedRegisterFilterWinMsg(&Second);
+  g_swallow = WM_APP + 1;
+  EXPECT_EQ(Pumped(WM_APP + 1), "2");
+  EXPECT_EQ(Pumped(WM_APP + 2), "21t");
+}
+
+TEST_F(Pump, AFilterIsRegisteredOnceAndRemovedOnce) {
+  EXPECT_TRUE(acedRegisterFilterWinMsg(&First));
+  EXPECT_FALSE(acedRegisterFilterWinMsg(&First));
+  EXPECT_TRUE(acedRemoveFilterWinMsg(&First));
+  EXPECT_FALSE(acedRemoveFilterWinMsg(&First));
+  EXPECT_FALSE(acedRegisterFilterWinMsg(nullptr));
+  EXPECT_EQ(Pumped(WM_APP), "t");
+}
+
+TEST_F(Pump, AFilterMayRemoveItselfWhileItRuns) {
+  acedRegisterFilterWinMsg(&First);
+  acedRegisterFilterWinMsg(&RemovesItself);
+  EXPECT_EQ(Pumped(WM_APP), "r1t");
+  EXPECT_EQ(Pumped(WM_APP), "1t");
+}
+
+TEST_F(Pump, IdleWorkRunsBeforeItWaitsAndUntilThereIsNoMore) {
+  int turns = 0;
+  ThePump().SetIdleWork([&] {
+    if (++turns == 3) ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP, 0, 0);
+    return turns < 3;
+  });
+  EXPECT_TRUE(ThePump().RunOnce());
+  EXPECT_EQ(turns, 3);
+  EXPECT_EQ(g_seen, "t");
+}
+
+TEST_F(Pump, IsQuietAfterIdleAndBusyAfterAMessage) {
+  ThePump().SetIdleWork([&] {
+    EXPECT_FALSE(ThePump().IsQuiet());
+    ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP, 0, 0);
+    return false;
+  });
+  EXPECT_TRUE(ThePump().RunOnce());
+  EXPECT_FALSE(ThePump().IsQuiet()) << "a message came after the idle time";
+}
+
+TEST_F(Pump, TheQuitMessageEndsEveryLoop) {
+  ::PostQuitMessage(7);
+  EXPECT_FALSE(ThePump().TakeOne());
+  EXPECT_FALSE(ThePump().TakeOne()) << "the loop further out sees it too";
+  MSG message{};
+  EXPECT_TRUE(::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
+  EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST(MainThread, RunsWorkOfAnotherThreadHereAndRefusesWhenTold) {
+  MainThread mainThread;
+  DWORD ranOn = 0;
+  bool first = false, second = true;
+  std::thread other([&] {
+    first = mainThread.Run([&] { ranOn = ::GetCurrentThreadId(); });
+    mainThread.Run([&] { mainThread.Refuse(); });
+    second = mainThread.Run([&] { ADD_FAILURE() << "ran although it was to refuse"; });
+    ::PostThreadMessageW(mainThread.Id(), WM_APP, 0, 0);
+  });
+  MSG message{};
+  while (message.message != WM_APP && ::GetMessageW(&message, nullptr, 0, 0) > 0) {
+  }
+  other.join();
+  EXPECT_EQ(ranOn, mainThread.Id());
+  EXPECT_TRUE(first);
+  EXPECT_FALSE(second);
+}

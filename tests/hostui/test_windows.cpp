@@ -1,0 +1,122 @@
+// Panes on a bar, buttons found by their label, dialogs in the journal: with real windows.
+#include <gtest/gtest.h>
+
+#include "acstatusbar.h"
+#include "devhost/core/journal.h"
+#include "devhost/ui/journal_hooks.h"
+#include "devhost/ui/window_tree.h"
+
+using namespace devhost;
+
+namespace {
+
+class OwnWindow {
+ public:
+  OwnWindow(const wchar_t* cls, const wchar_t* text, DWORD style, HWND parent = nullptr)
+      : m_window(::CreateWindowExW(0, cls, text, style, 10, 10, 200, 80, parent, nullptr, nullptr,
+                                   nullptr)) {}
+  ~OwnWindow() { ::DestroyWindow(m_window); }
+  OwnWindow(const OwnWindow&) = delete;
+  OwnWindow& operator=(const OwnWindow&) = delete;
+  operator HWND() const { return m_window; }
+
+ private:
+  HWND m_window;
+};
+
+int CountOf(const char* event) {
+  int count = 0;
+  for (const JournalEntry& entry : TheJournal().Since(0)) count += entry.event == event;
+  return count;
+}
+
+}  // namespace
+
+TEST(AcPane, KeepsWhatItIsGiven) {
+  AcPane pane;
+  CString text;
+  EXPECT_EQ(pane.GetStyle(), ACSBPS_NORMAL);
+  EXPECT_TRUE(pane.SetText(L"比例 1:100"));
+  EXPECT_TRUE(pane.SetStyle(ACSBPS_POPUP));
+  EXPECT_TRUE(pane.SetToolTipText(L"tip"));
+  EXPECT_TRUE(pane.GetText(text));
+  EXPECT_STREQ(static_cast<LPCTSTR>(text), L"比例 1:100");
+  EXPECT_TRUE(pane.GetToolTipText(text));
+  EXPECT_STREQ(static_cast<LPCTSTR>(text), L"tip");
+  EXPECT_EQ(pane.GetStyle(), ACSBPS_POPUP);
+  EXPECT_EQ(pane.SetMinWidth(50), 0);
+  EXPECT_EQ(pane.GetMinWidth(), 50);
+}
+
+TEST(AcPane, ACopyHasTheSameState) {
+  AcPane pane;
+  pane.SetText(L"a");
+  pane.SetToolTipText(L"b");
+  pane.Enable(FALSE);
+  const AcPane copy = pane;
+  CString text;
+  copy.GetText(text);
+  EXPECT_STREQ(static_cast<LPCTSTR>(text), L"a");
+  copy.GetToolTipText(text);
+  EXPECT_STREQ(static_cast<LPCTSTR>(text), L"b");
+  EXPECT_FALSE(copy.IsEnabled());
+}
+
+TEST(StatusBar, ThereIsNoneWithoutAFrame) { EXPECT_EQ(acedGetApplicationStatusBar(), nullptr); }
+
+TEST(WindowTree, AMnemonicIsNoPartOfTheLabel) {
+  EXPECT_EQ(WithoutMnemonic(L"确定(&O)"), L"确定");
+  EXPECT_EQ(WithoutMnemonic(L"&OK"), L"OK");
+  EXPECT_EQ(WithoutMnemonic(L"A && B"), L"A & B");
+  EXPECT_EQ(WithoutMnemonic(L"f(x)"), L"f(x)");
+  EXPECT_EQ(WithoutMnemonic(L"(&"), L"(&");
+}
+
+TEST(WindowTree, OnlyAVisibleEnabledButtonIsFound) {
+  OwnWindow parent(L"#32770", L"parent", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+  OwnWindow button(L"Button", L"按我(&P)", WS_CHILD | WS_VISIBLE, parent);
+  const DWORD thread = ::GetCurrentThreadId();
+  EXPECT_EQ(FindButton(thread, L"按我"), static_cast<HWND>(button));
+  ::EnableWindow(button, FALSE);
+  EXPECT_EQ(FindButton(thread, L"按我"), nullptr);
+  ::EnableWindow(button, TRUE);
+  ::ShowWindow(parent, SW_HIDE);
+  EXPECT_EQ(FindButton(thread, L"按我"), nullptr);
+}
+
+TEST(WindowTree, DescribesAWindowWithItsChildren) {
+  OwnWindow parent(L"#32770", L"the parent", WS_OVERLAPPEDWINDOW);
+  OwnWindow button(L"Button", L"inside", WS_CHILD | WS_VISIBLE, parent);
+  bool found = false;
+  for (const auto& window : DescribeWindowsOf(::GetCurrentThreadId()))
+    if (window["text"] == "the parent") {
+      found = true;
+      EXPECT_EQ(window["class"], "#32770");
+      EXPECT_EQ(window["visible"], false);
+      ASSERT_EQ(window["children"].size(), 1u);
+      EXPECT_EQ(window["children"][0]["text"], "inside");
+    }
+  EXPECT_TRUE(found);
+}
+
+TEST(DialogWatch, ADialogIsRecordedOnceWithItsTitle) {
+  DialogWatch watch;
+  const int before = CountOf("dialog");
+  OwnWindow dialog(L"#32770", L"选项", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+  ::SetActiveWindow(dialog);
+  OwnWindow other(L"Static", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+  ::SetActiveWindow(other);
+  ::SetActiveWindow(dialog);
+  EXPECT_EQ(CountOf("dialog"), before + 1);
+  const JournalEntry last = TheJournal().Since(TheJournal().Count() - 1).front();
+  EXPECT_EQ(last.fields["title"], "选项");
+}
+
+TEST(DialogWatch, AMessageBoxOfTheClassLibraryIsNoDialog) {
+  DialogWatch watch;
+  const int before = CountOf("dialog");
+  DialogWatch::MessageBoxScope scope;
+  OwnWindow box(L"#32770", L"box", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+  ::SetActiveWindow(box);
+  EXPECT_EQ(CountOf("dialog"), before);
+}
