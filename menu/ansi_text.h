@@ -1,8 +1,12 @@
-// Narrow text of the ANSI code page into wide text, for tokens. Plain ASCII, which most of a menu
-// is, needs no conversion; the rest goes through the kernel's strings.
+// Narrow text of the ANSI code page into wide text, for tokens. A conversion by the system costs
+// more than all the rest of reading a line, so ASCII is widened here and each double-byte character
+// is converted by the kernel's strings once and remembered. Text with anything else in it, a byte
+// that is no character for instance, goes to the kernel's strings as a whole.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "kernel/twcstring.h"
 #include "menu/menu_scanner.h"
@@ -17,6 +21,11 @@ class AnsiText {
   }
 
  private:
-  wchar_t m_ascii[kLongestToken + 1];
+  bool DecodeQuickly(std::string_view narrow);
+  uint16_t Remember(const char* pair);
+
+  wchar_t m_units[kLongestToken + 1];
+  size_t m_count = 0;
   TWCString m_other;
+  std::vector<uint16_t> m_pairs;  // by the two bytes; 0 not asked yet, kNoCharacter not one unit
 };

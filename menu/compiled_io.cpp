@@ -45,6 +45,8 @@ void CompiledWriter::PutNumber(Number value) {
 template void CompiledWriter::PutNumber(uint16_t);
 template void CompiledWriter::PutNumber(uint32_t);
 
+void CompiledWriter::PutU16(uint16_t value) { PutNumber(value); }
+void CompiledWriter::PutU32(uint32_t value) { PutNumber(value); }
 void CompiledWriter::PutReal(double value) { PutNumber(std::bit_cast<uint64_t>(value)); }
 
 void CompiledWriter::PutString(const wchar_t* text, int length) {
@@ -101,6 +103,9 @@ Number CompiledReader::GetNumber() {
   return value;
 }
 
+uint8_t CompiledReader::GetU8() { return GetNumber<uint8_t>(); }
+uint16_t CompiledReader::GetU16() { return GetNumber<uint16_t>(); }
+uint32_t CompiledReader::GetU32() { return GetNumber<uint32_t>(); }
 double CompiledReader::GetReal() { return std::bit_cast<double>(GetNumber<uint64_t>()); }
 
 uint32_t CompiledReader::GetLength(bool& wide) {

@@ -18,9 +18,9 @@ class CompiledWriter {
   // Switches are written as indexes into the system's table; without a system they are lost.
   CompiledWriter(CArchive& ar, TMenuSystem* system);
 
-  void PutU16(uint16_t value) { PutNumber(value); }
-  void PutU32(uint32_t value) { PutNumber(value); }
-  void PutI32(int32_t value) { PutNumber(static_cast<uint32_t>(value)); }
+  void PutU16(uint16_t value);
+  void PutU32(uint32_t value);
+  void PutI32(int32_t value) { PutU32(static_cast<uint32_t>(value)); }
   void PutReal(double value);
   void PutString(const TWCString& text) { PutString(text.c_str(), text.Length()); }
   void PutString(const wchar_t* text, int length);
@@ -39,10 +39,10 @@ class CompiledReader {
  public:
   CompiledReader(CArchive& ar, TMenuSystem* system);
 
-  uint8_t GetU8() { return GetNumber<uint8_t>(); }
-  uint16_t GetU16() { return GetNumber<uint16_t>(); }
-  uint32_t GetU32() { return GetNumber<uint32_t>(); }
-  int32_t GetI32() { return static_cast<int32_t>(GetNumber<uint32_t>()); }
+  uint8_t GetU8();
+  uint16_t GetU16();
+  uint32_t GetU32();
+  int32_t GetI32() { return static_cast<int32_t>(GetU32()); }
   double GetReal();
   void GetString(TWCString& out);
   TMenuSwitchItem* GetSwitch();
