@@ -49,6 +49,4 @@ class CCmdUI;
 #include "afxwin_dlg.h"   // CDialog, CDataExchange
 #include "afxdd_.h"       // DDX_ and DDV_
 #include "afxwin_app.h"   // CWinThread, CWinApp, Afx functions, module pieces
-#if __has_include("afxframe.h")
-#include "afxframe.h"  // CFrameWnd, CMDIFrameWnd, CMDIChildWnd, CControlBar
-#endif
+#include "afxframe.h"     // CFrameWnd, CMDIFrameWnd, CMDIChildWnd, CControlBar

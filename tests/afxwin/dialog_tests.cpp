@@ -194,9 +194,12 @@ TEST(Dialog, CommandsGoToItsMapFirst) {
 }
 
 TEST(Dialog, AQuitMessageEndsTheLoopAndIsPassedOn) {
-  ScaleDialog d;
+  TestWindow owner;
+  ASSERT_TRUE(owner.Make());
+  ScaleDialog d(&owner);
   d.atIdle = [](ScaleDialog&) { ::PostQuitMessage(5); };
   EXPECT_EQ(-1, d.DoModal());
+  EXPECT_TRUE(owner.IsWindowEnabled());
   MSG message;
   ASSERT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
   EXPECT_EQ(5u, message.wParam);

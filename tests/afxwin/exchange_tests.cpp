@@ -8,6 +8,7 @@ class ExchangeDialog : public CDialog {
   CString text;
   CEdit edit;
   bool range = false, maximum = false;
+  int changes = 0;
 
  protected:
   void DoDataExchange(CDataExchange* pDX) override {
@@ -25,7 +26,12 @@ class ExchangeDialog : public CDialog {
     for (LPCTSTR row : {L"a", L"b", L"c"}) box->AddString(row);
     return CDialog::OnInitDialog();
   }
+  void OnChange() { ++changes; }
+  DECLARE_MESSAGE_MAP()
 };
+BEGIN_MESSAGE_MAP(ExchangeDialog, CDialog)
+ON_EN_CHANGE(1001, OnChange)
+END_MESSAGE_MAP()
 
 struct Exchange : testing::Test {
   ExchangeDialog d;
@@ -115,4 +121,13 @@ TEST_F(Exchange, SubclassesItsControlsOnceAndLetsThemGoWithTheDialog) {
   EXPECT_TRUE(d.UpdateData(FALSE));
   d.DestroyWindow();
   EXPECT_EQ(nullptr, d.edit.m_hWnd);
+}
+
+TEST_F(Exchange, FillingAControlIsNoChangeByTheUser) {
+  d.changes = 0;
+  d.number = 4711;
+  d.UpdateData(FALSE);
+  EXPECT_EQ(0, d.changes);
+  d.SetDlgItemText(1001, L"5");
+  EXPECT_EQ(1, d.changes);
 }

@@ -243,26 +243,10 @@ void CDialog::OnOK() {
 
 void CDialog::OnCancel() { EndDialog(IDCANCEL); }
 
-namespace {
-bool IsMultilineEdit(HWND window) {
-  wchar_t name[10] = L"";
-  return ::GetClassName(window, name, 10) && lstrcmpi(name, L"edit") == 0 &&
-         (::GetWindowLongPtr(window, GWL_STYLE) & ES_MULTILINE);
-}
-}  // namespace
-
+// Keys of the dialog: Tab, arrows, Enter, Esc and mnemonics. A multi-line edit that keeps Esc to
+// itself closes its dialog on its own.
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
-  if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
-  // A multi-line edit asks for all keys and would keep Esc to itself.
-  if (pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_ESCAPE || pMsg->wParam == VK_CANCEL) &&
-      IsMultilineEdit(pMsg->hwnd)) {
-    HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);
-    if (!cancel || ::IsWindowEnabled(cancel)) {
-      SendMessage(WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(cancel));
-      return TRUE;
-    }
-  }
-  return PreTranslateInput(pMsg);
+  return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
 }
 
 // Commands that the dialog does not know go on to its owner and to the program; the numbers of
