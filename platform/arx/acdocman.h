@@ -1,0 +1,103 @@
+// Open drawings: the document manager, its reactors, locks. Code runs either in a document's
+// context (inside a command) or in application context (from the message loop).
+#pragma once
+
+#include "accmd.h"
+
+class AcDbDatabase;
+
+namespace AcAp {
+enum DocLockMode {
+  kNone = 0,
+  kAutoWrite = 1,
+  kNotLocked = 2,
+  kWrite = 4,
+  kProtectedAutoWrite = 0x14,
+  kRead = 0x20,
+  kXWrite = 0x40
+};
+}
+
+class AcApDocument : public AcRxObject {
+ public:
+  ACRX_DECLARE_MEMBERS(AcApDocument);
+  virtual const ACHAR* fileName() const = 0;  // full path; the bare name before the first save
+  virtual const ACHAR* docTitle() const = 0;
+  virtual AcDbDatabase* database() const = 0;
+  virtual bool isQuiescent() const = 0;  // no command runs in it
+  virtual AcAp::DocLockMode lockMode() const = 0;
+};
+
+class AcApDocumentIterator {
+ public:
+  virtual ~AcApDocumentIterator() = default;
+  virtual bool done() const = 0;
+  virtual void step() = 0;
+  virtual AcApDocument* document() = 0;
+};
+
+// In slot order; a reactor overrides what it wants to hear.
+class AcApDocManagerReactor : public AcRxObject {
+ public:
+  virtual void documentCreateStarted(AcApDocument*) {}
+  virtual void documentCreated(AcApDocument*) {}
+  virtual void documentToBeDestroyed(AcApDocument*) {}
+  virtual void documentDestroyed(const ACHAR*) {}
+  virtual void documentCreateCanceled(AcApDocument*) {}
+  virtual void documentLockModeWillChange(AcApDocument*, AcAp::DocLockMode, AcAp::DocLockMode,
+                                          AcAp::DocLockMode, const ACHAR*) {}
+  virtual void documentLockModeChangeVetoed(AcApDocument*, const ACHAR*) {}
+  virtual void documentLockModeChanged(AcApDocument*, AcAp::DocLockMode, AcAp::DocLockMode,
+                                       AcAp::DocLockMode, const ACHAR*) {}
+  virtual void documentBecameCurrent(AcApDocument*) {}
+  virtual void documentToBeActivated(AcApDocument*) {}
+  virtual void documentToBeDeactivated(AcApDocument*) {}
+  virtual void documentActivationModified(bool) {}
+  virtual void documentActivated(AcApDocument*) {}
+  virtual void documentTitleUpdated(AcApDocument*) {}
+};
+
+class AcApDocManager : public AcRxObject {
+ public:
+  ACRX_DECLARE_MEMBERS(AcApDocManager);
+  virtual AcApDocument* curDocument() const = 0;  // null in application context without drawings
+  virtual AcApDocument* mdiActiveDocument() const = 0;
+  virtual AcApDocument* document(const AcDbDatabase* database) const = 0;
+  virtual int documentCount() const = 0;
+  virtual bool isApplicationContext() const = 0;
+  virtual bool isDocumentActivationEnabled() const = 0;
+  virtual AcApDocumentIterator* newAcApDocumentIterator() = 0;  // the caller's
+  virtual Acad::ErrorStatus appContextOpenDocument(const ACHAR* path) = 0;
+  virtual Acad::ErrorStatus appContextNewDocument(const ACHAR* templatePath) = 0;
+  virtual Acad::ErrorStatus activateDocument(AcApDocument* document, bool pass = false) = 0;
+  virtual Acad::ErrorStatus closeDocument(AcApDocument* document) = 0;
+  virtual Acad::ErrorStatus lockDocument(AcApDocument* document,
+                                         AcAp::DocLockMode mode = AcAp::kWrite,
+                                         const ACHAR* command = nullptr,
+                                         const ACHAR* local = nullptr, bool prompt = true) = 0;
+  virtual Acad::ErrorStatus unlockDocument(AcApDocument* document) = 0;
+  // The text runs when the document is next ready for input. ESC (27) cancels what runs there.
+  virtual Acad::ErrorStatus sendStringToExecute(AcApDocument* document, const ACHAR* text,
+                                                bool activate = true, bool wrapUpInactive = false,
+                                                bool echo = true) = 0;
+  virtual void addReactor(AcApDocManagerReactor* reactor) = 0;  // not owned
+  virtual void removeReactor(AcApDocManagerReactor* reactor) = 0;
+};
+
+AcApDocManager* acDocManagerPtr();
+#define acDocManager acDocManagerPtr()
+
+// Holds a write lock on a document, the current one by default.
+class AcAxDocLock {
+ public:
+  AcAxDocLock();
+  explicit AcAxDocLock(AcApDocument* document);
+  ~AcAxDocLock();
+  AcAxDocLock(const AcAxDocLock&) = delete;
+  AcAxDocLock& operator=(const AcAxDocLock&) = delete;
+  Acad::ErrorStatus lockStatus() const { return m_status; }
+
+ private:
+  AcApDocument* m_document;
+  Acad::ErrorStatus m_status;
+};

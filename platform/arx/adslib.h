@@ -1,0 +1,76 @@
+// The host's C interface: resbuf lists, variables, LISP functions and symbols, user input,
+// selection sets, printing. All on the main thread. Functions answer RTNORM or say with RTERROR,
+// RTCAN or RTREJ that nothing was done. Who makes a resbuf chain releases it with acutRelRb.
+#pragma once
+
+#include "adsdef.h"
+
+// Lists ------------------------------------------------------------------------------------------
+resbuf* acutNewRb(int type);           // zeroed; null when the type is none of RT or DXF's
+int acutRelRb(resbuf* chain);          // strings too; RTERROR for null
+resbuf* acutBuildList(int type, ...);  // type, value, ... ends with RTNONE (or 0 behind a DXF list)
+int acutNewString(const ACHAR* text, ACHAR*& copy);  // released with acutDelString or free
+void acutDelString(ACHAR*& text);
+
+// Printing ---------------------------------------------------------------------------------------
+int acutPrintf(const ACHAR* format, ...);
+int acedPrompt(const ACHAR* text);
+int acedAlert(const ACHAR* text);
+void acedPostCommandPrompt();  // the prompt again, after printing outside a command
+
+// Variables --------------------------------------------------------------------------------------
+int acedGetVar(const ACHAR* name, resbuf* result);  // a string result is the caller's, to free
+int acedSetVar(const ACHAR* name,
+               const resbuf* value);  // RTERROR: unknown; RTREJ: read only, range
+
+// LISP -------------------------------------------------------------------------------------------
+int acedDefun(const ACHAR* name, int code);  // in the current document, for the calling module
+int acedUndef(const ACHAR* name, int code);
+int acedGetFunCode();   // RTERROR outside kInvkSubrMsg
+resbuf* acedGetArgs();  // the caller's to release; null for no arguments
+int acedRetVoid();
+int acedRetNil();
+int acedRetT();
+int acedRetInt(int value);
+int acedRetReal(ads_real value);
+int acedRetStr(const ACHAR* value);
+int acedRetList(const resbuf* value);
+int acedInvoke(const resbuf* call, resbuf** result);  // first the name, then the arguments
+int acedPutSym(const ACHAR* name, resbuf* value);
+int acedGetSym(const ACHAR* name, resbuf** value);
+
+// Input: inside a command only. RTCAN for Escape, RTNONE for Enter alone, RTKWORD for a keyword
+// -------
+int acedInitGet(int flags, const ACHAR* keywords);
+int acedGetPoint(const ads_point base, const ACHAR* prompt, ads_point result);
+int acedGetCorner(const ads_point base, const ACHAR* prompt, ads_point result);
+int acedGetDist(const ads_point base, const ACHAR* prompt, ads_real* result);
+int acedGetAngle(const ads_point base, const ACHAR* prompt, ads_real* result);
+int acedGetReal(const ACHAR* prompt, ads_real* result);
+int acedGetInt(const ACHAR* prompt, int* result);
+int acedGetString(int blanks, const ACHAR* prompt, ACHAR* result);  // result: 133 characters
+int acedGetKword(const ACHAR* prompt, ACHAR* result);
+int acedGetInput(ACHAR* keyword);  // the keyword behind RTKWORD
+int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point);
+
+// Selection sets ---------------------------------------------------------------------------------
+int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
+              ads_name set);  // modes: null (ask), "X", "I", "P", "L", "C", "W", "A"
+int acedSSFree(const ads_name set);
+int acedSSLength(const ads_name set, int* length);
+int acedSSName(const ads_name set, int index, ads_name entity);
+int acedSSAdd(const ads_name entity, const ads_name set, ads_name result);
+int acedSSDel(const ads_name entity, const ads_name set);
+int acedSSMemb(const ads_name entity, const ads_name set);
+int acedSSGetFirst(resbuf** grips, resbuf** pickFirst);
+int acedSSSetFirst(const ads_name pickFirst, const ads_name unused);
+int acedRedraw(const ads_name entity, int mode);  // null entity: everything
+
+// Files, commands, menus
+// -----------------------------------------------------------------------------
+int acedFindFile(const ACHAR* name, ACHAR* path);  // along the support path
+int acedCommandS(int type, ...);                   // pairs of type and value, RTNONE at the end
+bool acedIsMenuGroupLoaded(const ACHAR* group);
+resbuf* acedArxLoaded();  // names of the loaded modules, or null
+int acedTrans(const ads_point point, const resbuf* from, const resbuf* to, int vector,
+              ads_point result);  // world and user coordinates are one here

@@ -1,0 +1,109 @@
+// Symbol tables: layers and blocks. Names are compared without regard to case.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "dbmain.h"
+
+class AcDbSymbolTableRecord : public AcDbObject {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbSymbolTableRecord);
+  const ACHAR* getName() const { return m_name.c_str(); }
+  Acad::ErrorStatus getName(const ACHAR*& name) const {
+    name = m_name.c_str();
+    return Acad::eOk;
+  }
+  Acad::ErrorStatus setName(const ACHAR* name) {
+    m_name = name;
+    return Acad::eOk;
+  }
+  Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
+  Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
+
+ protected:
+  std::wstring m_name;
+};
+
+class AcDbLayerTableRecord : public AcDbSymbolTableRecord {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbLayerTableRecord);
+  int colorIndex() const { return m_color < 0 ? -m_color : m_color; }
+  void setColorIndex(int color) { m_color = color; }
+  bool isOff() const { return m_color < 0; }
+  bool isFrozen() const { return (m_flags & 1) != 0; }
+  bool isLocked() const { return (m_flags & 4) != 0; }
+  const ACHAR* linetype() const { return m_linetype.c_str(); }
+  void setLinetype(const ACHAR* name) { m_linetype = name; }
+  Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
+  Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
+
+ private:
+  int m_color = 7, m_flags = 0;
+  std::wstring m_linetype = L"CONTINUOUS";
+};
+
+class AcDbSymbolTable : public AcDbObject {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbSymbolTable);
+  Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id) const;  // eKeyNotFound
+  bool has(const ACHAR* name) const;
+  Acad::ErrorStatus add(AcDbSymbolTableRecord* record);                   // takes it; eDuplicateKey
+  const std::vector<AcDbObjectId>& records() const { return m_records; }  // in the order added
+
+ private:
+  std::map<std::wstring, AcDbObjectId> m_byName;
+  std::vector<AcDbObjectId> m_records;
+};
+
+class AcDbLayerTable : public AcDbSymbolTable {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbLayerTable);
+};
+
+class AcDbBlockTable : public AcDbSymbolTable {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbBlockTable);
+};
+
+#define ACDB_MODEL_SPACE L"*Model_Space"
+#define ACDB_PAPER_SPACE L"*Paper_Space"
+
+// In drawing order, over the entities that are not erased.
+class AcDbBlockTableRecordIterator {
+ public:
+  explicit AcDbBlockTableRecordIterator(const std::vector<AcDbObjectId>& ids) : m_ids(ids) {
+    skip();
+  }
+  bool done() const { return m_at >= m_ids.size(); }
+  void step() {
+    ++m_at;
+    skip();
+  }
+  Acad::ErrorStatus getEntityId(AcDbObjectId& id) const;
+  Acad::ErrorStatus getEntity(AcDbEntity*& entity, AcDb::OpenMode mode) const;
+
+ private:
+  void skip();
+  const std::vector<AcDbObjectId>& m_ids;
+  std::size_t m_at = 0;
+};
+
+class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord);
+  Acad::ErrorStatus appendAcDbEntity(AcDbEntity* entity);  // takes it
+  Acad::ErrorStatus appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity);
+  Acad::ErrorStatus newIterator(AcDbBlockTableRecordIterator*& iterator) const;  // the caller's
+  AcGePoint3d origin() const { return m_origin; }
+  void setOrigin(const AcGePoint3d& origin) { m_origin = origin; }
+  int flags() const { return m_flags; }
+  void setFlags(int flags) { m_flags = flags; }
+  const std::vector<AcDbObjectId>& entities() const { return m_entities; }
+
+ private:
+  std::vector<AcDbObjectId> m_entities;
+  AcGePoint3d m_origin;
+  int m_flags = 0;
+};

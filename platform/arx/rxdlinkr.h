@@ -1,0 +1,14 @@
+// The loader of modules, found in the system registry under "DynamicLinker".
+#pragma once
+
+#include "rxregsvc.h"
+
+class AcRxDynamicLinker : public AcRxObject {
+ public:
+  ACRX_DECLARE_MEMBERS(AcRxDynamicLinker);
+  // Along the support path; a module that is loaded already is left alone and counts as loaded.
+  virtual bool loadModule(const ACHAR* name, bool print, bool asCommand = false) = 0;
+  virtual bool unloadModule(const ACHAR* name, bool asCommand = false) = 0;  // false when locked
+  virtual bool unlockApplication(void* packet) = 0;
+  virtual bool registerAppMDIAware(void* packet) = 0;
+};
