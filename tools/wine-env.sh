@@ -29,6 +29,8 @@ qvx_wine_start() {
       qvx_wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v QVX /d 1280x900 /f >/dev/null 2>&1
       # Without this a failed program waits for somebody to press a button.
       qvx_wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
+      # The signs on caption buttons are letters of this font, which is found only in the prefix.
+      cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null
       touch "$WINEPREFIX/.ready"
     fi
   ) 9>"$1/.wine-lock"

@@ -76,6 +76,19 @@ bool CommandBar::CreateIn(CFrameWnd* frame, Listener listener) {
   return true;
 }
 
+// What can be shown of new text: line ends at its end wait for the text behind them, so that the
+// last line of the window is never empty; where the text behind brings its own, and at
+// the top of an empty window, they are dropped.
+std::wstring CommandBar::TakeShown(const std::wstring& text, bool first) {
+  const bool own = first || (!text.empty() && text[0] == L'\n');
+  std::wstring all = (own ? std::wstring() : m_lineEnds) + text;
+  if (first) all.erase(0, std::min(all.find_first_not_of(L'\n'), all.size()));
+  const size_t last = all.find_last_not_of(L'\n');
+  const size_t end = last == std::wstring::npos ? 0 : last + 1;
+  m_lineEnds = end < all.size() ? L"\n" : L"";
+  return all.substr(0, end);
+}
+
 void CommandBar::Print(const std::wstring& text) {
   const HWND output = m_output.m_hWnd;
   if (!output) return;
@@ -85,7 +98,7 @@ void CommandBar::Print(const std::wstring& text) {
     ::SendMessageW(output, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
     length = ::GetWindowTextLengthW(output);
   }
-  const std::wstring shown = ForEdit(text);
+  const std::wstring shown = ForEdit(TakeShown(text, length == 0));
   ::SendMessageW(output, EM_SETSEL, length, length);
   ::SendMessageW(output, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(shown.c_str()));
   ::SendMessageW(output, EM_SCROLLCARET, 0, 0);

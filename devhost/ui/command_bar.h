@@ -61,6 +61,7 @@ class CommandBar : public CControlBar {
  private:
   static constexpr int kHistoryLines = 4;
   static constexpr int kMostText = 120000;  // characters kept in the history window
+  std::wstring TakeShown(const std::wstring& text, bool first);
   int LineHeight() const;
   int PromptWidth() const;
   RECT InputRow() const;
@@ -72,6 +73,7 @@ class CommandBar : public CControlBar {
   CommandEdit m_edit;
   CommandHistory m_history;
   std::wstring m_prompt;
+  std::wstring m_lineEnds;  // ends of the latest text, shown when more follows: no empty last line
   Font m_font;
   Brush m_paper{::CreateSolidBrush(::GetSysColor(COLOR_WINDOW))};
 };

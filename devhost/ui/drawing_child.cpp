@@ -16,6 +16,7 @@ bool DrawingChild::CreateIn(CMDIFrameWnd* frame, const std::wstring& title) {
               CRect(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0), frame))
     return false;
   if (!m_view.CreateIn(this)) return false;
+  SetIcon(frame->GetIcon(FALSE), FALSE);
   RECT client{};
   ::GetClientRect(m_hWnd, &client);
   ::MoveWindow(m_view.m_hWnd, 0, 0, client.right, client.bottom, TRUE);

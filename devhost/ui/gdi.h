@@ -81,6 +81,7 @@ class PaintScope {
   HGDIOBJ m_before;
 };
 
+HICON MakeProgramIcon(int size);   // the host's own mark; lives as long as the process
 Font MenuFont(bool bold = false);  // the font that the user chose for menus
 int PixelsPerInch();
 int Scaled(int pixelsAt96);  // for the dots per inch of the screen

@@ -83,6 +83,9 @@ void HostUiImpl::DocumentActivated(Document* document) {
   if (!child) return;
   CountUp guard(m_fromCore);
   child->Activate();
+  // The frame takes over the title of a maximized child when that title is set, not when the child
+  // comes to the front.
+  DocumentTitled(*document);
 }
 
 void HostUiImpl::DocumentDestroyed(Document& document) {

@@ -50,13 +50,16 @@ bool MainFrame::CreateAndShow(const std::wstring& title) {
               CRect(area.left, area.top, area.right, area.bottom)))
     return false;
   g_frame = this;
+  SetIcon(MakeProgramIcon(32), TRUE);
+  SetIcon(MakeProgramIcon(16), FALSE);
   const MainMenu menu = MakeMainMenu();
   m_windowMenu = menu.windowMenu;
   ::SetMenu(m_hWnd, menu.bar);
   m_hMenuDefault = menu.bar;
   ::SendMessageW(m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(menu.bar),
                  reinterpret_cast<LPARAM>(menu.windowMenu));
-  // Told again now that there is an MDI area, which adds the name of a maximized child from here on.
+  // Told again now that there is an MDI area, which adds the name of a maximized child from here
+  // on.
   ::SetWindowTextW(m_hWnd, title.c_str());
   m_keys = MakeMainKeys();
   if (!m_status.CreateIn(this) || !m_commands.CreateIn(this, TheHostUi().CommandListener()))
