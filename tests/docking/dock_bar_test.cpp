@@ -79,6 +79,21 @@ TEST_F(DockBars, APaletteDroppedIntoTheRowOfAnotherSharesItsHeight) {
   EXPECT_EQ(second.m_dwStyle & CBRS_BORDER_ANY, DWORD(CBRS_BORDER_RIGHT));
 }
 
+TEST_F(DockBars, ARowThatEmptiesDoesNotShiftThePlaceABarIsMovedTo) {
+  // On the right the newer bar stands further in; with its row gone everything moves left.
+  TestPalette outer, inner;
+  ASSERT_TRUE(outer.CreateIn(frame, false, 100));
+  ASSERT_TRUE(inner.CreateIn(frame, false, 100));
+  ASSERT_LT(RectOf(inner).left, RectOf(outer).left);
+  CRect spot;
+  outer.GetWindowRect(spot);
+  spot.top = spot.bottom - 20;
+  DockAt(frame, &inner, AFX_IDW_DOCKBAR_RIGHT, spot);
+  EXPECT_EQ(Shape(Right()), L".bb.");
+  EXPECT_EQ(RectOf(inner).left, RectOf(outer).left);
+  EXPECT_EQ(RectOf(inner).top, RectOf(outer).bottom);
+}
+
 TEST_F(DockBars, ToolBarsShareARowAndKeepTheirPlaces) {
   PlainBar first(CSize(100, 26)), second(CSize(80, 26));
   for (auto [bar, id] : {std::pair{&first, 0xE830u}, std::pair{&second, 0xE831u}}) {
@@ -192,16 +207,61 @@ TEST_F(DockBars, PullingTheEdgeWidensThePalette) {
   TestPalette palette;
   ASSERT_TRUE(palette.CreateIn(frame, true));
   PumpAll();
-  // The drag runs its own loop: what the user does stands in the queue before it starts.
+  // The drag runs its own loop: what the user does stands in the queue before it starts. A message
+  // carries the place where the pointer was when it was posted.
   CPoint end(76 + FrameEdge() / 2 + 50, 100);
   Left().ClientToScreen(&end);
-  Left().PostMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(0, 0));
-  Left().PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(0, 0));
-  ::SetCursorPos(end.x, end.y);
+  MovePointer(end);
+  Left().PostMessage(WM_MOUSEMOVE, MK_LBUTTON, 0);
+  Left().PostMessage(WM_LBUTTONUP, 0, 0);
   Left().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(76 + FrameEdge() / 2, 100));
-  PumpAll();
-  EXPECT_GE(RectOf(palette).Width(), 74);
+  EXPECT_EQ(RectOf(palette).Width(), 76 + 50);
   EXPECT_EQ(PaneRect().left, RectOf(palette).right + FrameEdge());
+}
+
+TEST_F(DockBars, EscapeLeavesTheEdgeWhereItWas) {
+  TestPalette palette;
+  ASSERT_TRUE(palette.CreateIn(frame, true));
+  CPoint away(300, 100);
+  Left().ClientToScreen(&away);
+  MovePointer(away);
+  Left().PostMessage(WM_MOUSEMOVE, MK_LBUTTON, 0);
+  Left().PostMessage(WM_KEYDOWN, VK_ESCAPE, 0);
+  Left().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(76 + FrameEdge() / 2, 100));
+  EXPECT_EQ(RectOf(palette).Width(), 76);
+  EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(DockBars, DraggingThePaletteByItsCaptionIntoTheMiddleFloatsIt) {
+  TestPalette palette;
+  ASSERT_TRUE(palette.CreateIn(frame, true));
+  PumpAll();
+  CRect middle = frame->DockArea();
+  MovePointer(middle.CenterPoint());
+  palette.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, 0);
+  palette.PostMessage(WM_LBUTTONUP, 0, 0);
+  palette.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
+  PumpAll();
+  ASSERT_TRUE(palette.IsFloating());
+  EXPECT_EQ(PaneRect().left, 0);
+  CRect floating;
+  palette.GetDockingFrame()->GetWindowRect(floating);
+  EXPECT_TRUE(floating.PtInRect(middle.CenterPoint()));
+}
+
+TEST_F(DockBars, DraggingAFloatingPaletteToTheRightEdgeDocksItThere) {
+  TestPalette palette;
+  ASSERT_TRUE(palette.CreateIn(frame, true));
+  CFrameWnd* floating = frame->FloatControlBar(&palette, CPoint(300, 200));
+  PumpAll();
+  const CRect area = frame->DockArea();
+  MovePointer(CPoint(area.right - 3, area.CenterPoint().y));
+  floating->PostMessage(WM_MOUSEMOVE, MK_LBUTTON, 0);
+  floating->PostMessage(WM_LBUTTONUP, 0, 0);
+  floating->SendMessage(WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(320, 208));
+  PumpAll();
+  EXPECT_EQ(palette.m_pDockBar, &Right());
+  EXPECT_EQ(RectOf(palette).Width(), 76);
 }
 
 TEST_F(DockBars, TheDockBarReportsPositionsOutsideItsArrayAsNothing) {

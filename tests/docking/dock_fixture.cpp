@@ -61,6 +61,21 @@ void PumpAll() {
   }
 }
 
+void MovePointer(CPoint screen) {
+  CPoint now;
+  for (int quiet = 0, round = 0; quiet < 3 && round < 100; ++round) {
+    ::GetCursorPos(&now);
+    if (now == screen) {
+      ++quiet;
+    } else {
+      quiet = 0;
+      ::SetCursorPos(screen.x, screen.y);
+    }
+    PumpAll();
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+  }
+}
+
 int CountWindows() {
   int count = 0;
   ::EnumThreadWindows(::GetCurrentThreadId(), CountTree, reinterpret_cast<LPARAM>(&count));

@@ -10,6 +10,8 @@
 
 // Takes every message that waits, then the idle work, until nothing is left.
 void PumpAll();
+// Puts the pointer there and takes what the window system reports about it, old places included.
+void MovePointer(CPoint screen);
 // The windows of this thread, top level ones and all their descendants; those of the input method
 // and of tool tips are Windows' own and don't count.
 int CountWindows();

@@ -153,13 +153,21 @@ void CDockBar::DockControlBar(CControlBar* pBar, LPCRECT lpRect) {
   if (from == this) {
     CRect both;
     if (!lpRect || both.IntersectRect(rect, RectIn(pBar, this))) return;
-    RemoveDockEntry(m_arrBars, FindBar(pBar));
+    // Found with the bar still in its old place, because that is what the rectangle was seen
+    // beside.
+    const DockPlace place =
+        FindDockPlace(Plan(), Side(), rect.CenterPoint(), int(m_arrBars.GetSize()));
+    void* const left = DockPlaceHolder(0xFFFF);
+    m_arrBars[FindBar(pBar)] = left;
+    InsertDockEntry(m_arrBars, pBar, place);
+    RemoveDockEntry(m_arrBars, FindDockEntry(m_arrBars, left));
+    return;
   }
   PutIn(pBar, lpRect ? &rect : nullptr);
   TakeOver(pBar, from);
   if (lpRect)
     pBar->SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
-                       SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+                       SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 BOOL CDockBar::RemoveControlBar(CControlBar* pBar, int nPosExclude, int nAddPlaceHolder) {
