@@ -2,6 +2,7 @@
 // else they do, and unloaded by them last.
 #include <windows.h>
 
+#include "kernel/entities/qvx_entity.h"
 #include "kernel/globals.h"
 #include "kernel/kernel_start.h"
 #include "rxdlinkr.h"
@@ -24,7 +25,10 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
   if (message == AcRx::kInitAppMsg) {
     acrxUnlockApplication(packet);
     acrxRegisterAppMDIAware(packet);
+    BeginQvxEntities();
     StartFromOwnFile();
+  } else if (message == AcRx::kUnloadAppMsg) {
+    EndQvxEntities();
   }
   return AcRx::kRetOK;
 }

@@ -1,0 +1,156 @@
+// How the drawing objects of the family look in plan.
+#include <algorithm>
+#include <cmath>
+#include <cwchar>
+#include <numbers>
+
+#include "dbsymtb.h"
+#include "kernel/entities/qvx_entity.h"
+
+namespace {
+
+constexpr double kOnAxis = 1;  // how far an opening's middle may lie beside the axis of its wall, mm
+constexpr short kGlass = 4, kFillColor = 8, kLeaf = 2;
+
+AcGePoint3d At(const AcGePoint3d& origin, const AcGeVector3d& along, double x, double y) {
+  return {origin.x + along.x * x - along.y * y, origin.y + along.y * x + along.x * y, origin.z};
+}
+
+void Rectangle(AcGiWorldDraw* draw, const AcGePoint3d& origin, const AcGeVector3d& along, double x0,
+               double y0, double x1, double y1, bool filled) {
+  const AcGePoint3d corners[5] = {At(origin, along, x0, y0), At(origin, along, x1, y0),
+                                  At(origin, along, x1, y1), At(origin, along, x0, y1),
+                                  At(origin, along, x0, y0)};
+  if (filled) draw->geometry().polygon(4, corners);
+  else draw->geometry().polyline(5, corners);
+}
+
+void Segment(AcGiWorldDraw* draw, const AcGePoint3d& a, const AcGePoint3d& b) {
+  const AcGePoint3d ends[2] = {a, b};
+  draw->geometry().polyline(2, ends);
+}
+
+void Centered(AcGiWorldDraw* draw, const AcGePoint3d& middle, double height, const std::wstring& text) {
+  double length = 0;
+  for (wchar_t c : text) length += c >= 0x2E80 ? 1.0 : 0.6;
+  draw->geometry().text({middle.x - length * height / 2, middle.y - height / 2, 0}, AcGeVector3d::kZAxis,
+                        AcGeVector3d::kXAxis, height, 1, 0, text.c_str());
+}
+
+struct Gap {
+  double from, to;  // along the wall's axis
+};
+
+// The openings that lie on this wall's axis, by rising distance from its start.
+std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double length) {
+  std::vector<Gap> gaps;
+  const auto* space = AcDbBlockTableRecord::cast(wall.ownerId().object());
+  if (!space) return gaps;
+  for (AcDbObjectId id : space->entities()) {
+    const QvxDbOpening* opening = id.isErased() ? nullptr : QvxDbOpening::cast(id.object());
+    if (!opening) continue;
+    const AcGeVector3d way = opening->start - wall.start;
+    const double at = way.x * along.x + way.y * along.y, beside = std::fabs(way.y * along.x - way.x * along.y);
+    if (beside > kOnAxis || at < 0 || at > length) continue;
+    gaps.push_back({at - opening->size / 2, at + opening->size / 2});
+  }
+  std::sort(gaps.begin(), gaps.end(), [](const Gap& a, const Gap& b) { return a.from < b.from; });
+  return gaps;
+}
+
+}  // namespace
+
+// Filled pieces between the openings. Half the width more at both ends makes corners whole without
+// looking for neighbours.
+bool QvxDbWall::subWorldDraw(AcGiWorldDraw* draw) const {
+  const double length = start.distanceTo(end), half = width / 2;
+  if (length <= 0) return false;
+  const AcGeVector3d along = (end - start).normal();
+  draw->subEntityTraits().setColor(kFillColor);
+  double at = -half;
+  for (const Gap& gap : GapsIn(*this, along, length)) {
+    if (gap.from > at) Rectangle(draw, start, along, at, -half, gap.from, half, true);
+    at = std::max(at, gap.to);
+  }
+  if (length + half > at) Rectangle(draw, start, along, at, -half, length + half, half, true);
+  return true;
+}
+
+bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
+  const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
+  const double half = size / 2, deep = width / 2;
+  for (double x : {-half, half}) Segment(draw, At(start, along, x, -deep), At(start, along, x, deep));
+  if (kind == 1) {
+    draw->subEntityTraits().setColor(kGlass);
+    for (double y : {-deep, -deep / 3, deep / 3, deep})
+      Segment(draw, At(start, along, -half, y), At(start, along, half, y));
+    return true;
+  }
+  const double up = flags & 1 ? -1 : 1, side = flags & 2 ? -1 : 1;
+  const AcGePoint3d hinge = At(start, along, -half * side, 0);
+  const AcGePoint3d tip = At(start, along, -half * side, size * up);
+  draw->subEntityTraits().setColor(kLeaf);
+  Segment(draw, hinge, tip);
+  const double closed = angle + (side > 0 ? 0 : std::numbers::pi);
+  const double from = side * up > 0 ? closed : closed - std::numbers::pi / 2;
+  draw->geometry().circularArc(hinge, size, AcGeVector3d::kZAxis, {std::cos(from), std::sin(from), 0},
+                               std::numbers::pi / 2);
+  return true;
+}
+
+bool QvxDbColumn::subWorldDraw(AcGiWorldDraw* draw) const {
+  const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
+  Rectangle(draw, start, along, -width / 2, -size / 2, width / 2, size / 2, true);
+  return true;
+}
+
+bool QvxDbAxisNumber::subWorldDraw(AcGiWorldDraw* draw) const {
+  draw->geometry().circle(start, width, AcGeVector3d::kZAxis);
+  Centered(draw, start, width, label);
+  return true;
+}
+
+bool QvxDbText::subWorldDraw(AcGiWorldDraw* draw) const {
+  return draw->geometry().text(start, AcGeVector3d::kZAxis, {std::cos(angle), std::sin(angle), 0}, width, 1, 0,
+                               label.c_str());
+}
+
+bool QvxDbStair::subWorldDraw(AcGiWorldDraw* draw) const {
+  const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
+  const int steps = std::clamp(kind, 1, 100);
+  Rectangle(draw, start, along, 0, 0, width, size, false);
+  for (int i = 1; i < steps; ++i)
+    Segment(draw, At(start, along, 0, size * i / steps), At(start, along, width, size * i / steps));
+  Segment(draw, At(start, along, width / 2, 0), At(start, along, width / 2, size));
+  Segment(draw, At(start, along, width / 2, size), At(start, along, width / 2 - 100, size - 250));
+  Segment(draw, At(start, along, width / 2, size), At(start, along, width / 2 + 100, size - 250));
+  return true;
+}
+
+bool QvxDbDimension::subWorldDraw(AcGiWorldDraw* draw) const {
+  const double length = start.distanceTo(end);
+  if (length <= 0) return false;
+  const AcGeVector3d along = (end - start).normal();
+  const double y = width, over = y < 0 ? -150 : 150;
+  Segment(draw, start, At(start, along, 0, y + over));
+  Segment(draw, end, At(start, along, length, y + over));
+  Segment(draw, At(start, along, 0, y), At(start, along, length, y));
+  for (double x : {0.0, length})
+    Segment(draw, At(start, along, x - 90, y - 90), At(start, along, x + 90, y + 90));
+  wchar_t text[40];
+  std::swprintf(text, 40, L"%.0f", length);
+  const double textLength = 0.6 * 250 * static_cast<double>(std::wcslen(text));
+  return draw->geometry().text(At(start, along, (length - textLength) / 2, y + 80), AcGeVector3d::kZAxis, along, 250, 1,
+                               0, text);
+}
+
+bool QvxDbSpace::subWorldDraw(AcGiWorldDraw* draw) const {
+  if (outline.size() < 3) return false;
+  const AcGePoint3d middle = Middle();
+  draw->subEntityTraits().setColor(3);
+  Centered(draw, {middle.x, middle.y + 220, 0}, 300, label);
+  wchar_t area[40];
+  std::swprintf(area, 40, L"%.2f m²", Area() / 1e6);
+  Centered(draw, {middle.x, middle.y - 220, 0}, 240, area);
+  return true;
+}
