@@ -16,6 +16,7 @@ constexpr char kGoingDown[] = "the program is going down";
 // What windows have painted reaches the screen a moment later.
 constexpr std::chrono::milliseconds kScreenCatchesUp{150};
 constexpr std::chrono::milliseconds kSlice{10};
+constexpr int kMenuTries = 50;
 
 void WriteLine(std::FILE* stream, const std::string& line) {
   std::fwrite(line.data(), 1, line.size(), stream);
@@ -244,6 +245,16 @@ void DriverWorld::BringToFront() {
     SetForegroundWindow(m_port.Frame());
     return {};
   });
+}
+
+void DriverWorld::CloseMenus() {
+  for (int tries = 0; tries < kMenuTries && IsMenuOpen(); ++tries) {
+    Operate([]() -> std::string {
+      EndMenu();
+      return {};
+    });
+    Pause(kSlice);
+  }
 }
 
 HWND DriverWorld::Frame() {

@@ -26,7 +26,9 @@ class DriverWorld : public PlayWorld {
 
   // From any thread: pauses end at once and steps fail from now on.
   void Stop() { m_stopped = true; }
+  bool IsStopped() const { return m_stopped; }
   void BringToFront();
+  void CloseMenus();  // a menu that is up would keep the program from ending
   HWND Frame();
 
  private:

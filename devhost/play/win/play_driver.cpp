@@ -13,6 +13,7 @@ namespace devhost {
 namespace {
 
 constexpr ULONGLONG kLargestScript = 16 * 1024 * 1024;
+constexpr std::chrono::milliseconds kLongestEnd{10000};
 
 bool ReadWhole(const std::wstring& path, std::string* text, std::string* problem) {
   try {
@@ -52,7 +53,17 @@ struct PlayDriver::Running {
       const PlayWatchdog watchdog(runner, world->Frame());
       exitCode = runner.Play();
     }
+    world->CloseMenus();
     port.OnMainThread([&] { port.Quit(exitCode); });
+    AwaitEnd();
+  }
+
+  // The program stops the world when it ends. One that doesn't would keep its caller waiting.
+  void AwaitEnd() {
+    world->Pause(kLongestEnd);
+    if (world->IsStopped()) return;
+    Complain(file + ": the program was asked to end 10 s ago and has not; it is ended by force");
+    TerminateProcess(GetCurrentProcess(), 1);
   }
 };
 
