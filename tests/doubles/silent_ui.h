@@ -1,0 +1,24 @@
+// The host core without windows, for tests that need its support path, variables and printing.
+#pragma once
+
+#include <string>
+
+#include "devhost/core/host.h"
+
+class SilentUi : public devhost::HostUi {
+ public:
+  std::wstring printed;
+
+  void DocumentCreated(devhost::Document&) override {}
+  void DocumentActivated(devhost::Document*) override {}
+  void DocumentDestroyed(devhost::Document&) override {}
+  void DocumentTitled(devhost::Document&) override {}
+  void PictureChanged(devhost::Document&) override {}
+  void SelectionChanged(devhost::Document&) override {}
+  void Print(const std::wstring& text) override { printed += text; }
+  void PromptChanged(const std::wstring&) override {}
+  void VariableChanged(const std::wstring&) override {}
+  void Alert(const std::wstring&) override {}
+  bool PumpWhileWaiting() override { return false; }
+  void EndProgram() override {}
+};
