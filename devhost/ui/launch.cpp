@@ -135,8 +135,8 @@ int RunDevelopmentHost(const LaunchOptions& options) {
     driver = std::make_unique<PlayDriver>();
     if (!driver->Load(options.script)) return 2;
   }
-  AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL);
   HostApp app(L"DevHost");
+  AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL);
   app.InitInstance();
   ModuleLoader loader;
   TheHost().Begin(OptionsForCore(options), &TheHostUi(), &loader);
