@@ -71,6 +71,18 @@ TEST(DockLayout, ToolBarsThatWouldOverlapArePushedAside) {
   ExpectRect(plan.rows[0].bars[1].rect, 100, 0, 180, 26);
 }
 
+TEST(DockLayout, ToolBarsThatOverlapAtTheEndBothFindRoom) {
+  const DockPlan plan =
+      PlanDockRows({{ToolBar(100, 640, 1), ToolBar(80, 640, 2)}}, kDockTop, 720, 4);
+  ExpectRect(plan.rows[0].bars[0].rect, 540, 0, 640, 26);
+  ExpectRect(plan.rows[0].bars[1].rect, 640, 0, 720, 26);
+}
+
+TEST(DockLayout, AToolBarLeftOfTheEdgeComesBack) {
+  const DockPlan plan = PlanDockRows({{ToolBar(100, -30, 1)}}, kDockTop, 720, 4);
+  ExpectRect(plan.rows[0].bars[0].rect, 0, 0, 100, 26);
+}
+
 TEST(DockLayout, ToolBarsBeyondTheEndArePushedBack) {
   const DockPlan plan =
       PlanDockRows({{ToolBar(100, 600, 1), ToolBar(80, 700, 2)}}, kDockTop, 720, 4);
@@ -149,6 +161,12 @@ TEST(DropSides, ASideThatIsNotAllowedLetsTheNextOneHaveIt) {
   const RECT area{100, 100, 900, 700};
   EXPECT_EQ(DropSide({130, 110}, area, kDockLeft | kDockRight, 40), DWORD(kDockLeft));
   EXPECT_EQ(DropSide({500, 110}, area, kDockLeft | kDockRight, 40), DWORD(kDockNone));
+}
+
+TEST(DropSides, InACornerTheLeftSideComesFirst) {
+  const RECT area{100, 100, 900, 700};
+  EXPECT_EQ(DropSide({110, 110}, area, 0xF000, 40), DWORD(kDockLeft));
+  EXPECT_EQ(DropSide({889, 110}, area, 0xF000, 40), DWORD(kDockTop));
 }
 
 TEST(DropSides, TheMiddleAndFarOutsideDockNothing) {

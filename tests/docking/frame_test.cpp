@@ -85,6 +85,10 @@ TEST_F(FrameLayout, ALayoutPassCarriesOutADelayedShow) {
   frame->RecalcLayout();
   EXPECT_TRUE(bar.GetStyle() & WS_VISIBLE);
   EXPECT_EQ(PaneRect().top, 22);
+  // Nothing is left for idle time to do over again.
+  bar.ShowWindow(SW_HIDE);
+  PumpAll();
+  EXPECT_FALSE(bar.GetStyle() & WS_VISIBLE);
 }
 
 TEST_F(FrameLayout, AShowTakenBackBeforeIdleTimeLeavesTheBarAsItWas) {

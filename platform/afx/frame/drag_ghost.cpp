@@ -21,13 +21,13 @@ LPCTSTR GhostClass() {
   return name;
 }
 
-// Windows takes the region over.
+// For SetWindowRgn, which takes the region over.
 HRGN OutlineRegion(const CRect& rect) {
-  HRGN all = ::CreateRectRgn(0, 0, rect.Width(), rect.Height());
-  HRGN hole = ::CreateRectRgn(kLine, kLine, rect.Width() - kLine, rect.Height() - kLine);
-  ::CombineRgn(all, all, hole, RGN_DIFF);
-  ::DeleteObject(hole);
-  return all;
+  CRgn all, hole;
+  all.CreateRectRgn(0, 0, rect.Width(), rect.Height());
+  hole.CreateRectRgn(kLine, kLine, rect.Width() - kLine, rect.Height() - kLine);
+  all.CombineRgn(&all, &hole, RGN_DIFF);
+  return static_cast<HRGN>(all.Detach());
 }
 
 }  // namespace
