@@ -82,8 +82,14 @@ void CAdUiDockControlBar::SaveState() const {
   PaletteState state = devhost::LoadPaletteState(m_toolId);
   state.floating = IsFloating();
   state.docked = m_docked;
-  if (state.floating) GetDockingFrame()->GetWindowRect(state.frame);
+  if (state.floating) state.frame = FrameToRemember();
   devhost::SavePaletteState(m_toolId, state);
+}
+
+CRect CAdUiDockControlBar::FrameToRemember() const {
+  CRect rect;
+  GetDockingFrame()->GetWindowRect(rect);
+  return rect;
 }
 
 void CAdUiDockControlBar::RestoreControlBar(UINT nPrimaryDockBarID, const CRect* pRect) {

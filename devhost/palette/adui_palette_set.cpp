@@ -40,7 +40,6 @@ BOOL CAdUiPaletteSet::Create(LPCTSTR lpszTitle, DWORD dwStyle, const RECT& rect,
 
 void CAdUiPaletteSet::OnDestroy() {
   ::KillTimer(m_hWnd, kWatchTimer);
-  if (m_rolledUp) RollOut();  // the size that is remembered is the whole one
   CAdUiDockControlBar::OnDestroy();
 }
 
@@ -66,6 +65,12 @@ CSize CAdUiPaletteSet::FloatingMinimum() {
   CSize size;
   GetMinimumSize(size);
   return size;
+}
+
+CRect CAdUiPaletteSet::FrameToRemember() const {
+  CRect rect = CAdUiDockControlBar::FrameToRemember();
+  if (m_rolledUp) rect.bottom = rect.top + m_unrolledHeight;
+  return rect;
 }
 
 BOOL CAdUiPaletteSet::PreTranslateMessage(MSG* pMsg) {
@@ -102,8 +107,8 @@ void CALLBACK CAdUiPaletteSet::WatchPointer(HWND window, UINT, UINT_PTR, DWORD) 
 
 void CAdUiPaletteSet::Watch() {
   CMiniDockFrameWnd* frame = FloatingFrame();
+  if (!frame) m_rolledUp = FALSE;  // docked again: there is nothing to roll
   if (!frame || !frame->IsWindowVisible()) {
-    m_rolledUp = FALSE;  // docked again: there is nothing to roll
     m_ticksOutside = 0;
     return;
   }

@@ -54,6 +54,7 @@ class CAdUiDockControlBar : public CControlBar {
   void SetDockedSize(CSize size) override;
   CSize FloatingMinimum() override;
   BOOL OnCloseFloating() override;
+  virtual CRect FrameToRemember() const;  // of a floating bar, as it shall come back
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
   afx_msg int OnCreate(LPCREATESTRUCT lpcs);

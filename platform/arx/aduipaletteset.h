@@ -49,7 +49,8 @@ class CAdUiPaletteSet : public CAdUiDockControlBar {
   virtual void OnContextMenu(CWnd* pWnd, CPoint point);
 
  protected:
-  CSize FloatingMinimum() override;  // a rolled up frame has none
+  CSize FloatingMinimum() override;        // a rolled up frame has none
+  CRect FrameToRemember() const override;  // rolled out
   afx_msg void OnDestroy();
   afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
   DECLARE_MESSAGE_MAP()

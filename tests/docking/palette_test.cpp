@@ -212,6 +212,44 @@ TEST_F(Palettes, RollingUpLeavesTheCaptionAndRollingOutGivesTheHeightBack) {
   EXPECT_EQ(out, before);
 }
 
+TEST_F(Palettes, APaletteThatEndsRolledUpComesBackWhole) {
+  CRect whole;
+  {
+    TestPalette palette;
+    ASSERT_TRUE(palette.CreateIn(frame, true));
+    palette.SetToolID(&kTool);
+    CFrameWnd* floating = frame->FloatControlBar(&palette, CPoint(200, 200));
+    floating->GetWindowRect(whole);
+    palette.RollUp();
+  }
+  EXPECT_EQ(devhost::LoadPaletteState(kTool).frame, whole);
+}
+
+TEST_F(Palettes, ARolledUpPaletteThatIsHiddenAndShownRollsOutAgain) {
+  TestPalette palette;
+  ASSERT_TRUE(palette.CreateIn(frame, true));
+  CFrameWnd* floating = frame->FloatControlBar(&palette, CPoint(200, 200));
+  CRect whole, now;
+  floating->GetWindowRect(whole);
+  MovePointer(CPoint(5, 5));
+  palette.SetAutoRollup(TRUE);
+  palette.RollUp();
+  frame->ShowControlBar(&palette, FALSE, FALSE);
+  // The watch goes on while nothing is to be seen.
+  MSG tick{};
+  const DWORD until = ::GetTickCount() + 5000;
+  while (!::PeekMessage(&tick, palette.m_hWnd, WM_TIMER, WM_TIMER, PM_REMOVE) &&
+         ::GetTickCount() < until)
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_TIMER);
+  ASSERT_EQ(tick.message, UINT(WM_TIMER));
+  ::DispatchMessage(&tick);
+  frame->ShowControlBar(&palette, TRUE, FALSE);
+  EXPECT_TRUE(palette.GetRolledUp());
+  palette.RollOut();
+  floating->GetWindowRect(now);
+  EXPECT_EQ(now, whole);
+}
+
 TEST_F(Palettes, ADockedPaletteDoesNotRollUp) {
   TestPalette palette;
   ASSERT_TRUE(palette.CreateIn(frame, true));
