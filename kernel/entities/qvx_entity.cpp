@@ -32,18 +32,33 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
   while (filer->readItem(&item) == Acad::eOk) {
     const AcGePoint3d point(item.resval.rpoint[0], item.resval.rpoint[1], item.resval.rpoint[2]);
     switch (item.restype) {
-      case 1: label = item.resval.rstring; break;
+      case 1:
+        label = item.resval.rstring;
+        break;
       case 10:
         if (HasOutline()) outline.push_back(point);
         start = point;
         break;
-      case 11: end = point; break;
-      case 40: width = item.resval.rreal; break;
-      case 41: size = item.resval.rreal; break;
-      case 50: angle = item.resval.rreal * kDegree; break;
-      case 70: kind = item.resval.rint; break;
-      case 71: flags = item.resval.rint; break;
-      default: break;
+      case 11:
+        end = point;
+        break;
+      case 40:
+        width = item.resval.rreal;
+        break;
+      case 41:
+        size = item.resval.rreal;
+        break;
+      case 50:
+        angle = item.resval.rreal * kDegree;
+        break;
+      case 70:
+        kind = item.resval.rint;
+        break;
+      case 71:
+        flags = item.resval.rint;
+        break;
+      default:
+        break;
     }
   }
   return Acad::eOk;
@@ -85,7 +100,9 @@ AcGePoint3d QvxDbSpace::Middle() const {
 namespace {
 
 template <class... Class>
-void RegisterAll() { (Class::rxInit(), ...); }
+void RegisterAll() {
+  (Class::rxInit(), ...);
+}
 
 template <class Class>
 void Forget() {

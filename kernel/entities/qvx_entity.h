@@ -1,8 +1,8 @@
-// The drawing objects of the family: walls, openings, columns, axis numbers, rooms, texts and stairs,
-// as far as our sample modules need them. They share one record of plain values, which is also what
-// stands in drawing files; each class says what it draws from it. Lengths are millimetres, angles
-// degrees in files and radians here. Editing rules (joining walls, moving openings along) are no
-// business of this stand-in.
+// The drawing objects of the family: walls, openings, columns, axis numbers, rooms, texts and
+// stairs, as far as our sample modules need them. They share one record of plain values, which is
+// also what stands in drawing files; each class says what it draws from it. Lengths are
+// millimetres, angles degrees in files and radians here. Editing rules (joining walls, moving
+// openings along) are no business of this stand-in.
 #pragma once
 
 #include <string>
@@ -15,12 +15,12 @@ class QVX_KERNEL QvxDbEntity : public AcDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(QvxDbEntity);
 
-  AcGePoint3d start, end;             // groups 10 and 11
-  double width = 0, size = 0;         // groups 40 and 41
-  double angle = 0;                   // group 50
-  int kind = 0, flags = 0;            // groups 70 and 71
-  std::wstring label;                 // group 1
-  std::vector<AcGePoint3d> outline;   // further groups 10 of a class that has corners
+  AcGePoint3d start, end;            // groups 10 and 11
+  double width = 0, size = 0;        // groups 40 and 41
+  double angle = 0;                  // group 50
+  int kind = 0, flags = 0;           // groups 70 and 71
+  std::wstring label;                // group 1
+  std::vector<AcGePoint3d> outline;  // further groups 10 of a class that has corners
 
   Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix) override;
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
@@ -30,10 +30,10 @@ class QVX_KERNEL QvxDbEntity : public AcDbEntity {
   virtual bool HasOutline() const { return false; }
 };
 
-#define QVX_ENTITY(CLASS)                                \
-  class QVX_KERNEL CLASS : public QvxDbEntity {          \
-   public:                                               \
-    ACRX_DECLARE_MEMBERS(CLASS);                         \
+#define QVX_ENTITY(CLASS)                                  \
+  class QVX_KERNEL CLASS : public QvxDbEntity {            \
+   public:                                                 \
+    ACRX_DECLARE_MEMBERS(CLASS);                           \
     bool subWorldDraw(AcGiWorldDraw* draw) const override; \
   }
 
@@ -50,7 +50,7 @@ QVX_ENTITY(QvxDbDimension);   // start, end measured; width the distance of the 
 class QVX_KERNEL QvxDbSpace : public QvxDbEntity {  // outline; label
  public:
   ACRX_DECLARE_MEMBERS(QvxDbSpace);
-  double Area() const;        // square units
+  double Area() const;  // square units
   AcGePoint3d Middle() const;
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
 

@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr double kOnAxis = 1;  // how far an opening's middle may lie beside the axis of its wall, mm
+constexpr double kOnAxis =
+    1;  // how far an opening's middle may lie beside the axis of its wall, mm
 constexpr short kGlass = 4, kFillColor = 8, kLeaf = 2;
 
 AcGePoint3d At(const AcGePoint3d& origin, const AcGeVector3d& along, double x, double y) {
@@ -21,8 +22,10 @@ void Rectangle(AcGiWorldDraw* draw, const AcGePoint3d& origin, const AcGeVector3
   const AcGePoint3d corners[5] = {At(origin, along, x0, y0), At(origin, along, x1, y0),
                                   At(origin, along, x1, y1), At(origin, along, x0, y1),
                                   At(origin, along, x0, y0)};
-  if (filled) draw->geometry().polygon(4, corners);
-  else draw->geometry().polyline(5, corners);
+  if (filled)
+    draw->geometry().polygon(4, corners);
+  else
+    draw->geometry().polyline(5, corners);
 }
 
 void Segment(AcGiWorldDraw* draw, const AcGePoint3d& a, const AcGePoint3d& b) {
@@ -30,11 +33,12 @@ void Segment(AcGiWorldDraw* draw, const AcGePoint3d& a, const AcGePoint3d& b) {
   draw->geometry().polyline(2, ends);
 }
 
-void Centered(AcGiWorldDraw* draw, const AcGePoint3d& middle, double height, const std::wstring& text) {
+void Centered(AcGiWorldDraw* draw, const AcGePoint3d& middle, double height,
+              const std::wstring& text) {
   double length = 0;
   for (wchar_t c : text) length += c >= 0x2E80 ? 1.0 : 0.6;
-  draw->geometry().text({middle.x - length * height / 2, middle.y - height / 2, 0}, AcGeVector3d::kZAxis,
-                        AcGeVector3d::kXAxis, height, 1, 0, text.c_str());
+  draw->geometry().text({middle.x - length * height / 2, middle.y - height / 2, 0},
+                        AcGeVector3d::kZAxis, AcGeVector3d::kXAxis, height, 1, 0, text.c_str());
 }
 
 struct Gap {
@@ -50,7 +54,8 @@ std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double
     const QvxDbOpening* opening = id.isErased() ? nullptr : QvxDbOpening::cast(id.object());
     if (!opening) continue;
     const AcGeVector3d way = opening->start - wall.start;
-    const double at = way.x * along.x + way.y * along.y, beside = std::fabs(way.y * along.x - way.x * along.y);
+    const double at = way.x * along.x + way.y * along.y,
+                 beside = std::fabs(way.y * along.x - way.x * along.y);
     if (beside > kOnAxis || at < 0 || at > length) continue;
     gaps.push_back({at - opening->size / 2, at + opening->size / 2});
   }
@@ -79,7 +84,8 @@ bool QvxDbWall::subWorldDraw(AcGiWorldDraw* draw) const {
 bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
   const double half = size / 2, deep = width / 2;
-  for (double x : {-half, half}) Segment(draw, At(start, along, x, -deep), At(start, along, x, deep));
+  for (double x : {-half, half})
+    Segment(draw, At(start, along, x, -deep), At(start, along, x, deep));
   if (kind == 1) {
     draw->subEntityTraits().setColor(kGlass);
     for (double y : {-deep, -deep / 3, deep / 3, deep})
@@ -93,8 +99,8 @@ bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
   Segment(draw, hinge, tip);
   const double closed = angle + (side > 0 ? 0 : std::numbers::pi);
   const double from = side * up > 0 ? closed : closed - std::numbers::pi / 2;
-  draw->geometry().circularArc(hinge, size, AcGeVector3d::kZAxis, {std::cos(from), std::sin(from), 0},
-                               std::numbers::pi / 2);
+  draw->geometry().circularArc(hinge, size, AcGeVector3d::kZAxis,
+                               {std::cos(from), std::sin(from), 0}, std::numbers::pi / 2);
   return true;
 }
 
@@ -111,8 +117,8 @@ bool QvxDbAxisNumber::subWorldDraw(AcGiWorldDraw* draw) const {
 }
 
 bool QvxDbText::subWorldDraw(AcGiWorldDraw* draw) const {
-  return draw->geometry().text(start, AcGeVector3d::kZAxis, {std::cos(angle), std::sin(angle), 0}, width, 1, 0,
-                               label.c_str());
+  return draw->geometry().text(start, AcGeVector3d::kZAxis, {std::cos(angle), std::sin(angle), 0},
+                               width, 1, 0, label.c_str());
 }
 
 bool QvxDbStair::subWorldDraw(AcGiWorldDraw* draw) const {
@@ -140,8 +146,8 @@ bool QvxDbDimension::subWorldDraw(AcGiWorldDraw* draw) const {
   wchar_t text[40];
   std::swprintf(text, 40, L"%.0f", length);
   const double textLength = 0.6 * 250 * static_cast<double>(std::wcslen(text));
-  return draw->geometry().text(At(start, along, (length - textLength) / 2, y + 80), AcGeVector3d::kZAxis, along, 250, 1,
-                               0, text);
+  return draw->geometry().text(At(start, along, (length - textLength) / 2, y + 80),
+                               AcGeVector3d::kZAxis, along, 250, 1, 0, text);
 }
 
 bool QvxDbSpace::subWorldDraw(AcGiWorldDraw* draw) const {
