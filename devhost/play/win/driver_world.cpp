@@ -17,6 +17,9 @@ constexpr char kGoingDown[] = "the program is going down";
 constexpr std::chrono::milliseconds kScreenCatchesUp{150};
 constexpr std::chrono::milliseconds kSlice{10};
 constexpr int kMenuTries = 50;
+// How long a step waits for the program to take its input. A dialog's own loop never tells that it
+// is idle, so this is also what a press in a dialog costs.
+constexpr std::chrono::milliseconds kInputTaken{400};
 
 void WriteLine(std::FILE* stream, const std::string& line) {
   std::fwrite(line.data(), 1, line.size(), stream);
@@ -27,7 +30,7 @@ void WriteLine(std::FILE* stream, const std::string& line) {
 }  // namespace
 
 DriverWorld::DriverWorld(UiPort& port)
-    : m_port(port), m_input([this](int time) { Pause(Milliseconds(time)); }) {}
+    : m_port(port), m_input([this](int time) { Settle(Milliseconds(time)); }) {}
 
 template <class Result>
 Result DriverWorld::Ask(const std::function<Result()>& question) {
@@ -236,6 +239,14 @@ void DriverWorld::Pause(Milliseconds time) {
   const Milliseconds end = Now() + time;
   for (Milliseconds left = time; left > Milliseconds(0) && !m_stopped; left = end - Now())
     std::this_thread::sleep_for(std::min(left, kSlice));
+}
+
+// A user's hand is slow beside the program, whatever else the machine does: the next press waits until
+// this one has been taken.
+void DriverWorld::Settle(Milliseconds time) {
+  Pause(time);
+  const Milliseconds end = Now() + kInputTaken;
+  while (!m_stopped && Now() < end && !IsMenuOpen() && !IsIdle()) Pause(kSlice);
 }
 
 void DriverWorld::Print(const std::string& line) { WriteLine(stderr, line); }

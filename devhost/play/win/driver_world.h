@@ -32,6 +32,7 @@ class DriverWorld : public PlayWorld {
   HWND Frame();
 
  private:
+  void Settle(Milliseconds time);  // a pause, and then until the input has been taken
   // Runs on the main thread and gives what it gives, or a default when the program is going down.
   template <class Result>
   Result Ask(const std::function<Result()>& question);

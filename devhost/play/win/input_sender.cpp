@@ -21,22 +21,23 @@ LONG Part(LONG at, int first, int count) {
 
 }  // namespace
 
+// The pointer itself goes along, so that whatever the window system reports of it meanwhile, say
+// because a window came up under it, names the same place.
 void InputSender::Move(POINT to) {
+  SetCursorPos(to.x, to.y);
+  Mouse(to, 0);
+}
+
+// Every event carries its place: between two of them the pointer may have been reported elsewhere,
+// and a press would go there.
+void InputSender::Mouse(POINT at, DWORD flags, DWORD data) {
   INPUT input = {};
   input.type = INPUT_MOUSE;
   input.mi.dx =
-      Part(to.x, GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
+      Part(at.x, GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
   input.mi.dy =
-      Part(to.y, GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
-  SendInput(1, &input, sizeof input);
-  m_pause(kBetween);
-}
-
-void InputSender::Mouse(DWORD flags, DWORD data) {
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
+      Part(at.y, GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
+  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
   input.mi.mouseData = data;
   SendInput(1, &input, sizeof input);
   m_pause(kBetween);
@@ -45,33 +46,33 @@ void InputSender::Mouse(DWORD flags, DWORD data) {
 void InputSender::Click(POINT at, Button button, int times) {
   Move(at);
   for (; times > 0; --times) {
-    Mouse(kDown[static_cast<int>(button)]);
-    Mouse(kUp[static_cast<int>(button)]);
+    Mouse(at, kDown[static_cast<int>(button)]);
+    Mouse(at, kUp[static_cast<int>(button)]);
   }
   m_pause(kAfter);
 }
 
 void InputSender::Hold(POINT at, Button button, int milliseconds) {
   Move(at);
-  Mouse(kDown[static_cast<int>(button)]);
+  Mouse(at, kDown[static_cast<int>(button)]);
   m_pause(milliseconds);
-  Mouse(kUp[static_cast<int>(button)]);
+  Mouse(at, kUp[static_cast<int>(button)]);
   m_pause(kAfter);
 }
 
 void InputSender::Drag(POINT from, POINT to) {
   Move(from);
-  Mouse(MOUSEEVENTF_LEFTDOWN);
+  Mouse(from, MOUSEEVENTF_LEFTDOWN);
   for (int step = 1; step <= kDragSteps; ++step)
     Move({from.x + (to.x - from.x) * step / kDragSteps,
           from.y + (to.y - from.y) * step / kDragSteps});
-  Mouse(MOUSEEVENTF_LEFTUP);
+  Mouse(to, MOUSEEVENTF_LEFTUP);
   m_pause(kAfter);
 }
 
 void InputSender::Wheel(POINT at, int delta) {
   Move(at);
-  Mouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(delta));
+  Mouse(at, MOUSEEVENTF_WHEEL, static_cast<DWORD>(delta));
   m_pause(kAfter);
 }
 

@@ -39,7 +39,7 @@ class InputSender {
   };
 
  private:
-  void Mouse(DWORD flags, DWORD data = 0);
+  void Mouse(POINT at, DWORD flags, DWORD data = 0);
   void Key(int key, bool extended, bool up);
   void TypeUnit(wchar_t unit);
   void PressKey(int key, bool shift);
