@@ -2,6 +2,7 @@
 #include <map>
 #include <string>
 
+#include "devhost/core/class_binding.h"
 #include "devhost/core/text_case.h"
 #include "rxobject.h"
 
@@ -48,8 +49,14 @@ AcRxClass* AcRxClass::desc() {
 }
 AcRxClass* AcRxClass::isA() const { return desc(); }
 
-void acrxBuildClassHierarchy() {}  // parents are linked as the classes are made
-void deleteAcRxClass(AcRxClass* cls) { delete cls; }
+// Parents are linked as the classes are made; what is left is to give open drawings their objects.
+void acrxBuildClassHierarchy() { devhost::BindOpaqueEntities(); }
+
+void deleteAcRxClass(AcRxClass* cls) {
+  if (!cls) return;
+  devhost::MakeEntitiesOpaque(*cls);
+  delete cls;
+}
 
 AcRxClass* acrxClassOfDxfName(const ACHAR* dxfName) {
   const auto at = ByDxfName().find(devhost::UpperCase(dxfName ? dxfName : L""));

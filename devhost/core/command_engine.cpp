@@ -1,6 +1,8 @@
 // The command engine; see the header.
 #include "devhost/core/command_engine.h"
 
+#include <memory>
+
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
 #include "devhost/core/lisp_calls.h"
@@ -50,7 +52,9 @@ void CommandEngine::Execute(Document& document, const std::wstring& text) {
   if (text[0] == L'(' || text[0] == L'!') {
     std::wstring error;
     ++m_depth;
+    ++document.locks;  // an expression may change the drawing as a command may
     const LispValue value = Evaluate(document, text[0] == L'!' ? text.substr(1) : text, &error);
+    --document.locks;  // still there: a drawing with a lock on it is closed later
     --m_depth;
     TheHost().Print(error.empty() ? Printed(value) + L"\n" : L"; 错误: " + error + L"\n");
     return;
@@ -105,11 +109,9 @@ void CommandEngine::Call(Document& document, const Command& command) {
   const std::wstring question = m_question;
   const bool blanks = m_blanks;
   ++m_depth;
-  m_cancelled = false;
+  const bool outerCancelled = std::exchange(m_cancelled, false);
   document.commands.push_back(command.globalName);
-  UndoStep step{command.globalName, {}, {}};
-  UndoStep* outer = document.recording;
-  if (!outer) document.recording = &step;
+  auto recording = std::make_unique<UndoRecording>(document, command.globalName);
   TheJournal().Record("command", {{"phase", "start"}, {"name", Utf8(command.globalName)}});
 
   LoadedModule* before = TheHost().modules.Running();
@@ -122,16 +124,14 @@ void CommandEngine::Call(Document& document, const Command& command) {
   TheJournal().Record("command", {{"phase", "end"},
                                   {"name", Utf8(command.globalName)},
                                   {"result", m_cancelled ? "cancelled" : "ok"}});
+  m_cancelled = outerCancelled;
   m_asking = asking;
   m_rubberFrom = rubber;
   m_question = question;
   m_blanks = blanks;
   if (!TheHost().documents.Known(self)) return;  // CLOSE has destroyed it
   if (!self->commands.empty()) self->commands.pop_back();
-  if (!outer) {
-    self->recording = nullptr;
-    if (!step.added.empty() || !step.erased.empty()) self->undo.push_back(std::move(step));
-  }
+  recording.reset();
   if (!keepsPickSet && !self->pickFirst.empty() && m_depth == 0) {
     self->pickFirst.clear();
     TheHost().Ui().SelectionChanged(*self);
@@ -141,13 +141,14 @@ void CommandEngine::Call(Document& document, const Command& command) {
 
 std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool blanksAllowed) {
   InputAnswer answer;
-  if (m_cancelAll || document.input.TakeEscape()) return answer;
+  if (m_cancelAll) return answer;
   if (m_givenPoint) {
     answer.kind = InputAnswer::Kind::Point;
     answer.point = *std::exchange(m_givenPoint, std::nullopt);
     return answer;
   }
   const InputQueue::Item item = document.input.Take(blanksAllowed);
+  if (item.kind == InputQueue::Kind::Escape) return answer;
   if (item.kind != InputQueue::Kind::Token) return std::nullopt;
   if (!item.text.empty() && item.text[0] == L'\'' && !blanksAllowed) {
     if (!ExecuteCommand(document, item.text, true))
@@ -207,11 +208,11 @@ void CommandEngine::TypeLine(const std::wstring& line) {
 void CommandEngine::PressEscape() {
   Document* document = Current();
   if (!document) return;
+  document->input.Clear();  // the key is pressed now: what waits behind other input is gone too
   if (m_depth > 0) {
     document->input.Append(L"\x1b");
     return;
   }
-  document->input.Clear();
   TheHost().Print(L"\n命令: *取消*\n");
   if (document->pickFirst.empty()) return;
   document->pickFirst.clear();

@@ -5,11 +5,23 @@
 #include <cstdlib>
 #include <cwchar>
 
+#include "acdocman.h"
 #include "adslib.h"
 #include "dbsymtb.h"
+#include "devhost/core/dxf_groups.h"
 #include "devhost/core/text_case.h"
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
+
+namespace {
+
+// A change needs the drawing's lock: a running command holds it, code outside one takes it by itself.
+bool MayWrite(const AcDbDatabase* database) {
+  const AcApDocument* document = acDocManagerPtr()->document(database);
+  return !document || document->lockMode() != AcAp::kNotLocked;
+}
+
+}  // namespace
 
 bool AcDbHandle::getIntoAsciiBuffer(ACHAR* buffer) const {
   std::swprintf(buffer, 17, L"%llX", static_cast<unsigned long long>(m_value));
@@ -29,7 +41,8 @@ Acad::ErrorStatus AcDbObject::close() {
 }
 
 Acad::ErrorStatus AcDbObject::upgradeOpen() {
-  return m_openCount > 0 ? Acad::eOk : Acad::eNotOpenForWrite;
+  if (m_openCount == 0) return Acad::eNotOpenForWrite;
+  return MayWrite(m_database) ? Acad::eOk : Acad::eLockViolation;
 }
 
 Acad::ErrorStatus AcDbObject::erase(bool erasing) {
@@ -51,7 +64,8 @@ resbuf* CopyChain(const resbuf* from, const std::wstring* application) {
     if (!inside) continue;
     resbuf* node = acutNewRb(from->restype);
     node->resval = from->resval;
-    const bool text = (from->restype >= 1000 && from->restype <= 1009) || from->restype == RTSTR;
+    const bool text = from->restype == RTSTR || from->restype == -4 ||
+                      devhost::KindOfGroup(from->restype) == devhost::GroupKind::String;
     if (text)
       acutNewString(from->resval.rstring ? from->resval.rstring : L"", node->resval.rstring);
     *tail = node;
@@ -117,6 +131,7 @@ AcDbDatabase::AcDbDatabase() : m_body(new Body) {
 
 AcDbDatabase::~AcDbDatabase() {
   m_body->onErased = nullptr;
+  m_body->onMoved = nullptr;
   delete m_body;
 }
 
@@ -153,6 +168,19 @@ std::vector<KeptGroup>& AcDbObjectAccess::CommonGroups(AcDbEntity& entity) {
   return *entity.m_commonGroups;
 }
 
+void AcDbObjectAccess::Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held,
+                               AcDbObject* fresh) {
+  fresh->m_handle = held->m_handle;
+  fresh->m_database = held->m_database;
+  fresh->m_owner = held->m_owner;
+  fresh->m_erased = held->m_erased;
+  body.byHandle[fresh->m_handle.value()] = fresh;
+  if (auto* block = AcDbBlockTableRecord::cast(fresh->m_owner.object()))
+    for (AcDbObjectId& id : block->m_entities)
+      if (id == held->objectId()) id = fresh->objectId();
+  held.reset(fresh);
+}
+
 std::uint64_t AcDbDatabase::Body::NextHandle() {
   while (byHandle.count(nextHandle)) ++nextHandle;
   return nextHandle++;
@@ -184,11 +212,12 @@ Acad::ErrorStatus AcDbDatabase::getLayerTable(AcDbLayerTable*& table, AcDb::Open
   return acdbOpenObject(table, m_body->layerTable, mode);
 }
 
-Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode,
+Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,
                                      bool openErased) {
   object = nullptr;
   if (id.isNull()) return Acad::eNullObjectId;
   if (id.isErased() && !openErased) return Acad::eWasErased;
+  if (mode == AcDb::kForWrite && !MayWrite(id.database())) return Acad::eLockViolation;
   object = id.object();
   AcDbObjectAccess::CountOpen(object);
   return Acad::eOk;

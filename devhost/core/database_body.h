@@ -26,13 +26,18 @@ struct AcDbDatabase::Body {
   std::vector<KeptGroup> otherSections;  // sections that nobody here reads, each whole
   bool paperIsCurrent = false;
   int modified = 0;
-  std::function<void(AcDbObject*)> onErased, onAdded;  // undo recording; the document sets them
+  // Undo recording; the document sets them.
+  std::function<void(AcDbObject*)> onErased, onAdded;
+  std::function<void(AcDbEntity*, const AcGeMatrix3d&)> onMoved;
 
   std::uint64_t NextHandle();
 };
 
 struct AcDbObjectAccess {
   static void Adopt(AcDbDatabase& database, AcDbObject* object, AcDbHandle wanted);  // takes it
+  // Puts `fresh` in the place of a held object, under its handle and in its block; the old one goes.
+  static void Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held, AcDbObject* fresh);
+  static void TakeXData(AcDbObject* from, AcDbObject* to) { std::swap(from->m_xdata, to->m_xdata); }
   static void CountOpen(AcDbObject* object) { ++object->m_openCount; }
   // Gives an object that is in the database another handle; one that is taken already is refused.
   static bool ChangeHandle(AcDbObject* object, AcDbHandle wanted);

@@ -29,7 +29,6 @@ void RegisterDatabaseClasses() {
   AcDbDimension::rxInit();
   AcDbViewport::rxInit();
   AcDbProxyEntity::rxInit();
-  acrxBuildClassHierarchy();
 }
 
 }  // namespace devhost

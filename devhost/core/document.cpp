@@ -8,13 +8,7 @@ namespace devhost {
 
 Document::Document(std::wstring path) : m_database(std::make_unique<AcDbDatabase>()) {
   SetPath(std::move(path));
-  // Whatever changes while a command runs belongs to its undo step, no matter who changes it.
-  m_database->body().onAdded = [this](AcDbObject* object) {
-    if (recording) recording->added.push_back(object);
-  };
-  m_database->body().onErased = [this](AcDbObject* object) {
-    if (recording) recording->erased.push_back(object);
-  };
+  WatchForUndo(*this);
 }
 
 Document::~Document() = default;

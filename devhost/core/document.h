@@ -11,6 +11,7 @@
 #include "dbmain.h"
 #include "devhost/core/input_queue.h"
 #include "devhost/core/lisp_value.h"
+#include "devhost/core/undo.h"
 #include "devhost/core/view_transform.h"
 
 namespace devhost {
@@ -20,12 +21,6 @@ struct LoadedModule;
 struct LispFunction {
   LoadedModule* module;  // whose entry point is called
   int code;
-};
-
-// What one command did, for U: objects it added and objects it erased.
-struct UndoStep {
-  std::wstring command;
-  std::vector<AcDbObject*> added, erased;
 };
 
 class Document : public AcApDocument {
@@ -55,6 +50,7 @@ class Document : public AcApDocument {
   std::vector<AcDbObjectId> previousSelection;
   std::vector<UndoStep> undo;
   UndoStep* recording = nullptr;
+  int undoGroup = -1;  // how many steps there were when the open group began; -1: none is open
   int locks = 0;
   std::wstring lastCommand;
 

@@ -75,6 +75,7 @@ Document* DocumentList::Open(const std::wstring& path) {
     Notify([&](AcApDocManagerReactor* r) { r->documentCreateCanceled(document.get()); });
     return nullptr;
   }
+  LoadHeaderVariables(*document);
   Document* opened = Adopt(std::move(document));
   if (!report.message.empty()) TheHost().Print(L"\n" + report.message + L"\n");
   return opened;
@@ -102,8 +103,9 @@ void DocumentList::Activate(Document* document) {
 void DocumentList::Close(Document* document) {
   if (!document || !Known(document)) return;
   TheHost().engine.CancelAll(*document);
-  if (!document->commands.empty()) {
-    // A command of this drawing is still on the stack: it ends first, and the text closes after it.
+  if (!document->commands.empty() || document->locks > 0) {
+    // A command or a call of this drawing is still on the stack: it ends first, and the text closes
+    // the drawing after it.
     document->input.Append(L"_CLOSE\n");
     return;
   }

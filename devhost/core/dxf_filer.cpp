@@ -140,7 +140,8 @@ std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDeco
       tail = &chains.back();
     }
     const GroupKind kind = KindOfGroup(group.code);
-    if (!tail || kind == GroupKind::None) continue;
+    // Other groups behind the first application's name have no business there.
+    if (!tail || kind == GroupKind::None || group.code < 1000) continue;
     resbuf* node = acutNewRb(group.code);
     if (!node) continue;
     switch (kind) {

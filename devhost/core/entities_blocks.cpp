@@ -87,7 +87,7 @@ Acad::ErrorStatus AcDbBlockReference::subTransformBy(const AcGeMatrix3d& m) {
   m_sy *= m.scale();
   m_sz *= m.scale();
   for (AcDbObjectId id : m_attributes)
-    if (AcDbEntity* attribute = AcDbEntity::cast(id.object())) attribute->transformBy(m);
+    if (AcDbEntity* attribute = AcDbEntity::cast(id.object())) attribute->subTransformBy(m);
   return Acad::eOk;
 }
 

@@ -46,6 +46,13 @@ Acad::ErrorStatus AcDbEntity::subTransformBy(const AcGeMatrix3d&) {
   return Acad::eNotImplementedYet;
 }
 
+Acad::ErrorStatus AcDbEntity::transformBy(const AcGeMatrix3d& matrix) {
+  const Acad::ErrorStatus status = subTransformBy(matrix);
+  if (status == Acad::eOk && database() && database()->body().onMoved)
+    database()->body().onMoved(this, matrix);
+  return status;
+}
+
 Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& extents) const {
   extents = AcDbExtents();
   for (const devhost::Shape& shape : devhost::ShapesOf(*const_cast<AcDbEntity*>(this), 1)) {

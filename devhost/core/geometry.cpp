@@ -34,6 +34,20 @@ AcGeMatrix3d AcGeMatrix3d::operator*(const AcGeMatrix3d& o) const {
   return m;
 }
 
+bool AcGeMatrix3d::invert(AcGeMatrix3d* inverse) const {
+  const double det = a * d - b * c;
+  if (!(std::fabs(det) > 1e-300)) return false;
+  AcGeMatrix3d m;
+  m.a = d / det;
+  m.b = -b / det;
+  m.c = -c / det;
+  m.d = a / det;
+  m.tx = -(m.a * tx + m.b * ty);
+  m.ty = -(m.c * tx + m.d * ty);
+  *inverse = m;
+  return true;
+}
+
 void AcDbExtents::addPoint(const AcGePoint3d& p) {
   if (!std::isfinite(p.x) || !std::isfinite(p.y)) return;
   if (!m_valid) {

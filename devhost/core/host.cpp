@@ -65,7 +65,12 @@ void Host::Begin(const HostOptions& options, HostUi* ui, ModuleSource* source) {
 }
 
 void Host::End() {
-  while (!documents.All().empty()) documents.Close(documents.All().back().get());
+  while (!documents.All().empty()) {
+    Document& last = *documents.All().back();
+    last.commands.clear();
+    last.locks = 0;
+    documents.Close(&last);
+  }
   modules.UnloadAll();
   m_ui = &noUi;
   modules.SetSource(nullptr);
@@ -146,16 +151,40 @@ AcDbHostApplicationServices* acdbHostApplicationServices() {
   return &services;
 }
 
-int acutPrintf(const ACHAR* format, ...) {
-  if (!format) return RTERROR;
+namespace {
+
+// Strings and characters in a format are wide here, as they are for modules of the host; the C
+// library of neither build takes %s so in its wide form.
+std::wstring WithWideStrings(const wchar_t* format) {
+  std::wstring out;
+  while (*format) {
+    out += *format++;
+    if (out.back() != L'%') continue;
+    while (*format && std::wcschr(L"-+ #0123456789.*", *format)) out += *format++;
+    const bool plain = *format == L's' || *format == L'c';
+    if (plain) out += L'l';
+    else if (*format == L'S' || *format == L'C') {
+      out += *format++ == L'S' ? L's' : L'c';
+      continue;
+    }
+    if (*format) out += *format++;
+  }
+  return out;
+}
+
+}  // namespace
+
+int acutPrintf(const ACHAR* narrowFormat, ...) {
+  if (!narrowFormat) return RTERROR;
+  const std::wstring format = WithWideStrings(narrowFormat);
   std::wstring text(1024, L'\0');
   int length = -1;
   // The widest line that a caller may print at once; longer ones are cut, as the host cuts them.
   for (std::size_t limit : {std::size_t{1024}, std::size_t{65536}}) {
     text.assign(limit, L'\0');
     va_list args;
-    va_start(args, format);
-    length = std::vswprintf(text.data(), limit, format, args);
+    va_start(args, narrowFormat);
+    length = std::vswprintf(text.data(), limit, format.c_str(), args);
     va_end(args);
     if (length >= 0) break;
   }

@@ -46,17 +46,6 @@ bool InputQueue::HasItem() const {
   return !m_text.empty() && (m_text[0] == kEscape || ItemLength(m_text, false) >= 0);
 }
 
-bool InputQueue::HoldsEscape() const {
-  return std::find(m_text.begin(), m_text.end(), kEscape) != m_text.end();
-}
-
-bool InputQueue::TakeEscape() {
-  const auto at = std::find(m_text.begin(), m_text.end(), kEscape);
-  if (at == m_text.end()) return false;
-  m_text.erase(m_text.begin(), at + 1);
-  return true;
-}
-
 InputQueue::Item InputQueue::Take(bool blanksAllowed) {
   Item item;
   if (m_text.empty()) return item;
@@ -67,6 +56,12 @@ InputQueue::Item InputQueue::Take(bool blanksAllowed) {
   }
   const int length = ItemLength(m_text, blanksAllowed);
   if (length < 0) return item;
+  if (static_cast<std::size_t>(length) < m_text.size() && m_text[length] == kEscape &&
+      (length == 0 || m_text[length - 1] != L')' || m_text[0] != L'(')) {
+    m_text.erase(m_text.begin(), m_text.begin() + length + 1);
+    item.kind = Kind::Escape;
+    return item;
+  }
   item.kind = Kind::Token;
   item.text.assign(m_text.begin(), m_text.begin() + length);
   m_text.erase(m_text.begin(), m_text.begin() + length);

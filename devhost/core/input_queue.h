@@ -20,12 +20,11 @@ class InputQueue {
   bool IsEmpty() const { return m_text.empty(); }
   void Clear() { m_text.clear(); }
 
-  // The next item, removed; None when no whole one is there. A LISP expression, that is a token
+  // The next item, removed; None when no whole one is there. Text that an ESC follows before it was
+  // ended goes with the ESC, as half a word does under the user's hands. A LISP expression, that is a token
   // beginning with "(", ends where its brackets close. With blanksAllowed only a newline ends it.
   Item Take(bool blanksAllowed);
   bool HasItem() const;  // a token that is ended, or an ESC
-  bool TakeEscape();     // drops everything up to and with the first ESC; false without one
-  bool HoldsEscape() const;
 
  private:
   std::deque<wchar_t> m_text;

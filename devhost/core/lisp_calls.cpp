@@ -49,7 +49,10 @@ bool CallLispFunction(Document& document, const std::wstring& name,
   TheHost().modules.SetRunning(function.module);
   {
     DocumentScope scope(&document);
+    UndoRecording recording(document, UpperCase(name));
+    ++document.locks;  // the call may change the drawing wherever it comes from
     *failed = function.module->entry(AcRx::kInvkSubrMsg, function.module) != AcRx::kRetOK;
+    --document.locks;
   }
   TheHost().modules.SetRunning(before);
   Calls().pop_back();

@@ -36,7 +36,7 @@ void ModuleList::SendToAll(int message, Document* document) {
     if (LoadedModule* m = Find(name)) Send(*m, message, document);
 }
 
-bool ModuleList::loadModule(const ACHAR* name, bool print, bool) {
+bool ModuleList::loadModule(const ACHAR* name, bool print, bool asCommand) {
   if (!name || !m_source) return false;
   if (Find(name)) return true;
   std::wstring path = TheHost().FindFile(name);
@@ -58,6 +58,7 @@ bool ModuleList::loadModule(const ACHAR* name, bool print, bool) {
   m_modules.push_back(std::move(module));
   TheJournal().Record("module", {{"phase", "loaded"}, {"name", Utf8(loaded->name)}});
   Send(*loaded, AcRx::kInitAppMsg, TheHost().documents.Current());
+  if (asCommand && m_remember) m_remember(path);
   std::vector<Document*> open;
   for (const auto& d : TheHost().documents.All()) open.push_back(d.get());
   for (Document* d : open) Send(*loaded, AcRx::kLoadDwgMsg, d);

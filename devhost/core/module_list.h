@@ -2,6 +2,7 @@
 // linker that modules see.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,6 +31,9 @@ class ModuleList : public AcRxDynamicLinker {
   bool unlockApplication(void* packet) override;
   bool registerAppMDIAware(void* packet) override;
 
+  // Told the path of a module that was loaded as by a command, that is for every start from now on.
+  void OnLoadedForGood(std::function<void(const std::wstring&)> remember) { m_remember = std::move(remember); }
+
   LoadedModule* Find(const std::wstring& name) const;  // by file name, case ignored
   std::vector<std::wstring> Names() const;
   void SendToAll(int message, Document* document);  // in loading order
@@ -41,6 +45,7 @@ class ModuleList : public AcRxDynamicLinker {
 
  private:
   ModuleSource* m_source = nullptr;
+  std::function<void(const std::wstring&)> m_remember;
   std::vector<std::unique_ptr<LoadedModule>> m_modules;
   LoadedModule* m_running = nullptr;
 };

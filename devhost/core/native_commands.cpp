@@ -194,22 +194,27 @@ void SetVar() {
   }
 }
 
-void TakeBack(const UndoStep& step) {
-  for (AcDbObject* object : step.added) object->erase(true);
-  for (AcDbObject* object : step.erased) object->erase(false);
-  TheHost().Print(step.command + L"\n");
+void TakeBackSteps(Document& document, int count) {
+  for (int i = 0; i < count; ++i) {
+    const std::wstring command = TakeBackLatest(document);
+    TheHost().Print(command.empty() ? L"所有内容都已放弃。\n" : command + L"\n");
+    if (command.empty()) break;
+  }
+  SetPickFirst(document, {});
 }
+
+void UndoOne() { TakeBackSteps(*Here(), 1); }
 
 void Undo() {
   Document* document = Here();
-  if (document->undo.empty()) {
-    TheHost().Print(L"所有内容都已放弃。\n");
-    return;
-  }
-  UndoStep step = std::move(document->undo.back());
-  document->undo.pop_back();
-  TakeBack(step);
-  SetPickFirst(*document, {});
+  int count = 1;
+  ACHAR word[40];
+  acedInitGet(6, L"Begin End");
+  const int status = acedGetInt(L"输入要放弃的操作数目或 [开始(BE)/结束(E)] <1>: ", &count);
+  if (status == RTNORM || status == RTNONE) return TakeBackSteps(*document, count);
+  if (status != RTKWORD) return;
+  acedGetInput(word);
+  word[0] == L'B' ? BeginUndoGroup(*document) : EndUndoGroup(*document);
 }
 
 void New() { TheHost().documents.New(); }
@@ -229,14 +234,14 @@ void Close() {
 
 void CloseAll() {
   Here()->commands.clear();
-  while (Document* document = Here()) {
-    document->commands.clear();
-    TheHost().documents.Close(document);
-  }
+  std::vector<Document*> open;
+  for (const auto& document : TheHost().documents.All()) open.push_back(document.get());
+  for (Document* document : open) TheHost().documents.Close(document);
 }
 
 void SaveTo(Document& document, const std::wstring& path) {
   std::wstring why;
+  SaveHeaderVariables(document);
   if (!WriteDrawing(path, *document.database(), &why)) {
     TheHost().Print(L"\n" + why + L"\n");
     return;
@@ -291,7 +296,7 @@ constexpr NativeCommand kNative[] = {
     {L"SAVEAS", 0, SaveAs},
     {L"SETVAR", ACRX_CMD_TRANSPARENT, SetVar},
     {L"TEXT", 0, Text},
-    {L"U", 0, Undo},
+    {L"U", 0, UndoOne},
     {L"UNDO", 0, Undo},
     {L"ZOOM", ACRX_CMD_TRANSPARENT, Zoom},
 };

@@ -5,6 +5,7 @@
 #include <cwchar>
 
 #include "adslib.h"
+#include "devhost/core/database_body.h"
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
 #include "devhost/core/scene.h"
@@ -47,6 +48,7 @@ constexpr VariableInfo kVariables[] = {
     {L"PICKFIRST", VarType::Short, false, false, 0, 1, L"1"},
     {L"PICKSTYLE", VarType::Short, false, false, 0, 3, L"1"},
     {L"PSLTSCALE", VarType::Short, true, false, 0, 1, L"1"},
+    {L"SCREENSIZE", VarType::Point, true, true, 1, 0, L""},
     {L"SDI", VarType::Short, false, false, 0, 3, L"0"},
     {L"SELECTIONPREVIEW", VarType::Short, false, false, 0, 3, L"3"},
     {L"SNAPMODE", VarType::Short, true, false, 0, 1, L"0"},
@@ -56,12 +58,33 @@ constexpr VariableInfo kVariables[] = {
     {L"USERI1", VarType::Short, true, false, -32768, 32767, L"0"},
     {L"USERR1", VarType::Real, true, false, 1, 0, L"0"},
     {L"USERS1", VarType::Text, true, false, 1, 0, L""},
+    {L"VIEWCTR", VarType::Point, true, true, 1, 0, L""},
+    {L"VIEWSIZE", VarType::Real, true, true, 1, 0, L""},
 };
 
 std::wstring PointText(const AcGePoint3d& p) {
   wchar_t buffer[96];
   std::swprintf(buffer, 96, L"%.8g,%.8g,%.8g", p.x, p.y, p.z);
   return buffer;
+}
+
+std::wstring RealText(double value) {
+  wchar_t buffer[40];
+  std::swprintf(buffer, 40, L"%.17g", value);
+  return buffer;
+}
+
+// Leaving or entering paper space takes the viewport and the tab along; which space is current
+// follows from both.
+void FollowSpace(Document& document, const std::wstring& name, const std::wstring& value) {
+  if (name == L"TILEMODE") {
+    document.variables[L"CVPORT"] = value == L"0" ? L"1" : L"2";
+    document.variables[L"CTAB"] = value == L"0" ? L"Layout1" : L"Model";
+  }
+  if (name != L"TILEMODE" && name != L"CVPORT") return;
+  const auto tile = document.variables.find(L"TILEMODE");
+  const bool paper = tile != document.variables.end() && tile->second == L"0";
+  document.database()->body().paperIsCurrent = paper && document.variables[L"CVPORT"] == L"1";
 }
 
 // Variables whose value is the state itself; false for the stored ones.
@@ -81,6 +104,14 @@ bool Computed(const std::wstring& name, const Document* document, std::wstring* 
     *value = document->Title();
   else if (name == L"DWGTITLED")
     *value = document->HasFile() ? L"1" : L"0";
+  else if (name == L"DBMOD")
+    *value = std::to_wstring(document->database()->body().modified);
+  else if (name == L"SCREENSIZE")
+    *value = PointText({1.0 * document->view.Width(), 1.0 * document->view.Height(), 0});
+  else if (name == L"VIEWCTR")
+    *value = PointText(document->view.ToWorld({document->view.Width() / 2, document->view.Height() / 2}));
+  else if (name == L"VIEWSIZE")
+    *value = RealText(document->view.Height() / document->view.PixelsPerUnit());
   else if (name == L"DWGPREFIX") {
     const std::wstring path = document->fileName();
     *value = path.substr(0, path.size() - document->Title().size());
@@ -137,9 +168,37 @@ VarResult VariableTable::Set(const std::wstring& name, const std::wstring& value
     }
   }
   (info->ofDrawing ? document->variables : m_global)[info->name] = stored;
+  if (info->ofDrawing) FollowSpace(*document, info->name, stored);
   TheJournal().Record("var", {{"name", Utf8(info->name)}, {"value", Utf8(stored)}});
   TheHost().Ui().VariableChanged(info->name);
   return VarResult::Ok;
+}
+
+void LoadHeaderVariables(Document& document) {
+  const std::vector<KeptGroup>& groups = document.database()->body().header;
+  for (std::size_t i = 0; i + 1 < groups.size(); ++i) {
+    if (groups[i].code != 9 || groups[i].text.size() < 2) continue;
+    const VariableInfo* info = TheHost().variables.Find(groups[i].text.substr(1));
+    if (!info || !info->ofDrawing || info->readOnly || info->type == VarType::Point) continue;
+    std::wstring value = groups[i + 1].text;
+    if (info->type != VarType::Text) {
+      wchar_t* end = nullptr;
+      const double number = std::wcstod(value.c_str(), &end);
+      if (end == value.c_str() || number < info->low || (info->low <= info->high && number > info->high)) continue;
+      value = info->type == VarType::Short ? std::to_wstring(static_cast<int>(number)) : RealText(number);
+    }
+    document.variables[info->name] = value;
+    FollowSpace(document, info->name, value);
+  }
+}
+
+void SaveHeaderVariables(Document& document) {
+  std::vector<KeptGroup>& groups = document.database()->body().header;
+  for (std::size_t i = 0; i + 1 < groups.size(); ++i) {
+    if (groups[i].code != 9 || groups[i].text.size() < 2) continue;
+    const auto at = document.variables.find(UpperCase(groups[i].text.substr(1)));
+    if (at != document.variables.end()) groups[i + 1].text = at->second;
+  }
 }
 
 }  // namespace devhost
@@ -181,7 +240,6 @@ int acedSetVar(const ACHAR* name, const resbuf* value) {
   if (!name || !value) return RTERROR;
   const VariableInfo* info = TheHost().variables.Find(name);
   if (!info) return RTERROR;
-  wchar_t number[64];
   std::wstring text;
   switch (value->restype) {
     case RTSHORT:
@@ -191,8 +249,7 @@ int acedSetVar(const ACHAR* name, const resbuf* value) {
       text = std::to_wstring(value->resval.rlong);
       break;
     case RTREAL:
-      std::swprintf(number, 64, L"%.17g", value->resval.rreal);
-      text = number;
+      text = RealText(value->resval.rreal);
       break;
     case RTSTR:
       text = value->resval.rstring ? value->resval.rstring : L"";

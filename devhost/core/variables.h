@@ -31,4 +31,10 @@ class VariableTable {
   std::map<std::wstring, std::wstring> m_global;
 };
 
+class Document;
+// Between the variables of a drawing and the header that its file has; names that the host does not
+// know stay in the header as they came.
+void LoadHeaderVariables(Document& document);
+void SaveHeaderVariables(Document& document);
+
 }  // namespace devhost

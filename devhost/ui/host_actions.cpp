@@ -10,11 +10,13 @@
 namespace devhost {
 namespace {
 
-// The core looks a drawing up along the support path when it has no folder; a script means its own.
+// A name means a file of the working folder first; the core looks for it along the support path.
 std::wstring FullPath(const std::wstring& path) {
   wchar_t full[1024] = L"";
   const DWORD length = ::GetFullPathNameW(path.c_str(), 1024, full, nullptr);
-  return length > 0 && length < 1024 ? std::wstring(full) : path;
+  const bool there = length > 0 && length < 1024 &&
+                     ::GetFileAttributesW(full) != INVALID_FILE_ATTRIBUTES;
+  return there ? std::wstring(full) : path;
 }
 
 AcDbEntity* EntityOf(Document& document, const std::string& handle) {

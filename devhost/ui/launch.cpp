@@ -19,6 +19,7 @@
 #include "host_ui_impl.h"
 #include "main_frame.h"
 #include "module_loader.h"
+#include "remembered_modules.h"
 #include "ui_port_impl.h"
 
 namespace devhost {
@@ -76,10 +77,13 @@ void OpenDrawings(const std::vector<std::wstring>& names) {
 }
 
 void LoadModules(const LaunchOptions& options) {
+  TheHost().modules.OnLoadedForGood(RememberModule);
   std::vector<std::wstring> modules = options.modules;
   const std::wstring product = ProgramFolder() + L"\\" + kProductModule;
   if (modules.empty() && Exists(product)) modules.push_back(product);
   for (const std::wstring& module : modules)
+    TheHost().modules.loadModule(module.c_str(), true, false);
+  for (const std::wstring& module : RememberedModules())
     TheHost().modules.loadModule(module.c_str(), true, false);
 }
 

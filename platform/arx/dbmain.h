@@ -109,7 +109,7 @@ class AcDbEntity : public AcDbObject {
   Acad::ErrorStatus getGeomExtents(AcDbExtents& extents) const;  // eNullExtents: draws nothing
   virtual bool subWorldDraw(AcGiWorldDraw* draw) const;          // false: nothing to draw
   virtual Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix);
-  Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) { return subTransformBy(matrix); }
+  Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix);
 
   // Common groups (layer, colour, linetype, space) go first; a class reads its own behind them.
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;

@@ -103,6 +103,7 @@ class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
   const std::vector<AcDbObjectId>& entities() const { return m_entities; }
 
  private:
+  friend struct AcDbObjectAccess;
   std::vector<AcDbObjectId> m_entities;
   AcGePoint3d m_origin;
   int m_flags = 0;
