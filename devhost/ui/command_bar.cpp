@@ -106,7 +106,8 @@ void CommandBar::Print(const std::wstring& text) {
 
 void CommandBar::SetPrompt(const std::wstring& prompt) {
   // Commands begin their prompts with a new line, which the history shows and the input row can't.
-  const std::wstring shown = prompt.substr(std::min(prompt.find_first_not_of(L"\r\n"), prompt.size()));
+  const std::wstring shown =
+      prompt.substr(std::min(prompt.find_first_not_of(L"\r\n"), prompt.size()));
   if (shown == m_prompt) return;
   m_prompt = shown;
   Arrange();

@@ -14,8 +14,8 @@ namespace {
 std::wstring FullPath(const std::wstring& path) {
   wchar_t full[1024] = L"";
   const DWORD length = ::GetFullPathNameW(path.c_str(), 1024, full, nullptr);
-  const bool there = length > 0 && length < 1024 &&
-                     ::GetFileAttributesW(full) != INVALID_FILE_ATTRIBUTES;
+  const bool there =
+      length > 0 && length < 1024 && ::GetFileAttributesW(full) != INVALID_FILE_ATTRIBUTES;
   return there ? std::wstring(full) : path;
 }
 

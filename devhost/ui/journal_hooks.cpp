@@ -6,6 +6,7 @@
 #include <string>
 
 #include "devhost/core/journal.h"
+#include "message_pump.h"
 
 namespace devhost {
 namespace {
@@ -22,11 +23,14 @@ bool IsDialog(HWND window) {
 
 DialogWatch::DialogWatch() {
   g_watch = this;
-  m_hook = ::SetWindowsHookExW(WH_CBT, &DialogWatch::OnEvent, nullptr, ::GetCurrentThreadId());
+  m_events = ::SetWindowsHookExW(WH_CBT, &DialogWatch::OnEvent, nullptr, ::GetCurrentThreadId());
+  m_sent =
+      ::SetWindowsHookExW(WH_CALLWNDPROC, &DialogWatch::OnSent, nullptr, ::GetCurrentThreadId());
 }
 
 DialogWatch::~DialogWatch() {
-  ::UnhookWindowsHookEx(m_hook);
+  ::UnhookWindowsHookEx(m_sent);
+  ::UnhookWindowsHookEx(m_events);
   g_watch = nullptr;
 }
 
@@ -41,6 +45,13 @@ DialogWatch::MessageBoxScope::~MessageBoxScope() {
 LRESULT CALLBACK DialogWatch::OnEvent(int code, WPARAM wParam, LPARAM lParam) {
   if (g_watch && code == HCBT_ACTIVATE) g_watch->Activated(reinterpret_cast<HWND>(wParam));
   if (g_watch && code == HCBT_DESTROYWND) g_watch->Destroyed(reinterpret_cast<HWND>(wParam));
+  return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// The loops of dialogs and menus tell the owner when they have nothing left to do.
+LRESULT CALLBACK DialogWatch::OnSent(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lParam)->message == WM_ENTERIDLE)
+    ThePump().MarkQuiet();
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 

@@ -1,6 +1,6 @@
-// Dialogs that open on the main thread go into the journal, whoever opens them. Message boxes of
-// the class library are recorded by the application object, with their answer, and are not dialogs
-// here.
+// Dialogs that open on the main thread go into the journal, whoever opens them, and the pump hears
+// when one of them, or a menu, has begun to wait. Message boxes of the class library are recorded
+// by the application object, with their answer, and are not dialogs here.
 #pragma once
 
 #include <vector>
@@ -25,10 +25,11 @@ class DialogWatch {
 
  private:
   static LRESULT CALLBACK OnEvent(int code, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK OnSent(int code, WPARAM wParam, LPARAM lParam);
   void Activated(HWND window);
   void Destroyed(HWND window);
 
-  HHOOK m_hook;
+  HHOOK m_events, m_sent;
   std::vector<HWND> m_known;
   int m_messageBoxes = 0;
 };

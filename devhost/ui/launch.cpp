@@ -111,12 +111,13 @@ int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDri
   auto* frame = new MainFrame;  // deletes itself with its window
   app.m_pMainWnd = frame;
   if (!frame->CreateAndShow(HostTitle(options.hostVersion))) return 3;
-  OpenDrawings(options.drawings);
-  LoadModules(options);
   int exitCode = 0;
   {
+    // A module may show a box while it is loaded, which a script can answer.
     UiPortImpl port;
     if (driver) driver->Start(port);
+    OpenDrawings(options.drawings);
+    LoadModules(options);
     exitCode = app.Run();
     EndDriver(port, std::move(driver));
   }

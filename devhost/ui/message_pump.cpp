@@ -45,12 +45,17 @@ bool MessagePump::CountsAsWork(const MSG& message) const {
          message.message != 0x118 /* the blinking caret */ && message.message != WM_NULL;
 }
 
+void MessagePump::MarkQuiet() {
+  m_quiet = true;
+  if (m_whenQuiet) m_whenQuiet();
+}
+
 void MessagePump::RunIdle() {
   MSG message;
   while (m_idleDue && !::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
     if (m_idleWork && m_idleWork()) continue;
     m_idleDue = false;
-    m_quiet = true;
+    MarkQuiet();
   }
 }
 

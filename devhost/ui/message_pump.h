@@ -30,8 +30,11 @@ class MessagePump {
   // Everything a modal loop does with a message, given one that was taken from the queue.
   void Process(MSG* message);
 
-  // True when the last idle work found nothing to do and only clocks and paints came since.
+  // True when the last idle work found nothing to do and only clocks and paints came since. A
+  // dialog or a menu that waits for the user makes it quiet too: its own loop says so (MarkQuiet).
   bool IsQuiet() const { return m_quiet; }
+  void MarkQuiet();
+  void SetWhenQuiet(std::function<void()> tell) { m_whenQuiet = std::move(tell); }
 
  private:
   bool Swallowed(MSG* message);
@@ -41,6 +44,7 @@ class MessagePump {
   std::vector<Filter> m_filters;  // the newest last; asked from the back
   std::function<bool()> m_idleWork;
   std::function<bool(MSG*)> m_preTranslate;
+  std::function<void()> m_whenQuiet;
   bool m_quiet = false;
   bool m_idleDue = true;
 };

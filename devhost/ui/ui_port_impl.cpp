@@ -26,7 +26,24 @@ bool Waits(UINT kinds) { return HIWORD(::GetQueueStatus(kinds)) & kinds; }
 
 }  // namespace
 
-bool UiPortImpl::OnMainThread(const std::function<void()>& work) { return m_thread.Run(work); }
+UiPortImpl::UiPortImpl() : m_ready(::CreateEventW(nullptr, TRUE, FALSE, nullptr)) {
+  ThePump().SetWhenQuiet([this] { ::SetEvent(m_ready); });
+}
+
+UiPortImpl::~UiPortImpl() {
+  ThePump().SetWhenQuiet(nullptr);
+  ::CloseHandle(m_ready);
+}
+
+bool UiPortImpl::OnMainThread(const std::function<void()>& work) {
+  ::WaitForSingleObject(m_ready, INFINITE);
+  return m_thread.Run(work);
+}
+
+void UiPortImpl::Refuse() {
+  m_thread.Refuse();
+  ::SetEvent(m_ready);
+}
 
 bool UiPortImpl::IsIdle() {
   return ThePump().IsQuiet() && !TheHostUi().TextWaits() &&

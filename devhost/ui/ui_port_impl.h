@@ -9,8 +9,13 @@ namespace devhost {
 
 class UiPortImpl : public UiPort {
  public:
+  UiPortImpl();  // before the first drawing: a call waits until the program waits for input
+  ~UiPortImpl() override;
+  UiPortImpl(const UiPortImpl&) = delete;
+  UiPortImpl& operator=(const UiPortImpl&) = delete;
+
   bool OnMainThread(const std::function<void()>& work) override;
-  void Refuse() { m_thread.Refuse(); }  // the program ends: the driver is told so by each call
+  void Refuse();  // the program ends: the driver is told so by each call
 
   bool IsIdle() override;
   bool IsMenuOpen() override;
@@ -40,6 +45,7 @@ class UiPortImpl : public UiPort {
 
  private:
   MainThread m_thread;
+  HANDLE m_ready;  // an event: set when the main thread first waits for input, or refuses
 };
 
 }  // namespace devhost

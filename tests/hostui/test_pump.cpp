@@ -4,6 +4,7 @@
 #include <string>
 #include <thread>
 
+#include "devhost/ui/journal_hooks.h"
 #include "devhost/ui/main_thread.h"
 #include "devhost/ui/message_pump.h"
 #include "rxmfcapi.h"
@@ -109,6 +110,21 @@ TEST_F(Pump, IsQuietAfterIdleAndBusyAfterAMessage) {
   });
   EXPECT_TRUE(ThePump().RunOnce());
   EXPECT_FALSE(ThePump().IsQuiet()) << "a message came after the idle time";
+}
+
+TEST_F(Pump, ADialogThatWaitsForTheUserMakesItQuiet) {
+  devhost::DialogWatch watch;
+  EXPECT_EQ(Pumped(WM_APP), "t");
+  EXPECT_FALSE(ThePump().IsQuiet());
+  bool told = false;
+  ThePump().SetWhenQuiet([&] { told = true; });
+  const HWND owner = ::CreateWindowExW(0, L"Static", nullptr, WS_OVERLAPPED, 0, 0, 9, 9, nullptr,
+                                       nullptr, nullptr, nullptr);
+  ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, 0);
+  EXPECT_TRUE(ThePump().IsQuiet());
+  EXPECT_TRUE(told);
+  ThePump().SetWhenQuiet(nullptr);
+  ::DestroyWindow(owner);
 }
 
 TEST_F(Pump, TheQuitMessageEndsEveryLoop) {
