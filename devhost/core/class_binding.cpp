@@ -25,7 +25,8 @@ class MemoryFiler : public AcDbDxfFiler {
   AcDbDatabase* database() const override { return &m_database; }
   Acad::ErrorStatus writeString(short code, const ACHAR* value) override {
     // Class marks and the groups that all entities share are carried over apart.
-    if (code != 100 && code != 8 && code != 6 && code != 62) m_groups.push_back({code, value ? value : L""});
+    if (code != 100 && code != 8 && code != 6 && code != 62)
+      m_groups.push_back({code, value ? value : L""});
     return Acad::eOk;
   }
   Acad::ErrorStatus writeDouble(short code, double value) override {
@@ -49,15 +50,24 @@ class MemoryFiler : public AcDbDxfFiler {
     *item = resbuf{};
     item->restype = group.code;
     switch (KindOfGroup(group.code)) {
-      case GroupKind::Real: item->resval.rreal = Number(group); break;
-      case GroupKind::Short: item->resval.rint = static_cast<short>(Number(group)); break;
-      case GroupKind::Long: item->resval.rlong = static_cast<LONG>(Number(group)); break;
+      case GroupKind::Real:
+        item->resval.rreal = Number(group);
+        break;
+      case GroupKind::Short:
+        item->resval.rint = static_cast<short>(Number(group));
+        break;
+      case GroupKind::Long:
+        item->resval.rlong = static_cast<LONG>(Number(group));
+        break;
       case GroupKind::Point:
         item->resval.rpoint[0] = Number(group);
-        for (short i = 1; i < 3 && m_at < m_groups.size() && m_groups[m_at].code == group.code + 10 * i; ++i)
+        for (short i = 1;
+             i < 3 && m_at < m_groups.size() && m_groups[m_at].code == group.code + 10 * i; ++i)
           item->resval.rpoint[i] = Number(m_groups[m_at++]);
         break;
-      default: item->resval.rstring = const_cast<ACHAR*>(group.text.c_str()); break;
+      default:
+        item->resval.rstring = const_cast<ACHAR*>(group.text.c_str());
+        break;
     }
     return Acad::eOk;
   }

@@ -16,11 +16,32 @@ constexpr wchar_t kIdlePrompt[] = L"命令: ";
 
 Document* Current() { return TheHost().documents.Current(); }
 
+LispValue ValueOf(Document& document, const std::wstring& text, std::wstring* error) {
+  ++document.locks;  // an expression may change the drawing as a command may
+  LispValue value = Evaluate(document, text[0] == L'!' ? text.substr(1) : text, error);
+  --document.locks;  // still there: a drawing with a lock on it is closed later
+  return value;
+}
+
+// What an expression says to a question: a string as it is, a list of two or three numbers as the
+// point that it means, anything else as it is printed.
+std::wstring AnswerOf(Document& document, const std::wstring& text) {
+  std::wstring error;
+  const LispValue value = ValueOf(document, text, &error);
+  if (value.kind == LispValue::Kind::String) return value.text;
+  if (value.kind != LispValue::Kind::List || value.items.size() < 2 || value.items.size() > 3)
+    return Printed(value);
+  std::wstring point;
+  for (const LispValue& item : value.items) point += (point.empty() ? L"" : L",") + Printed(item);
+  return point;
+}
+
 }  // namespace
 
 bool CommandEngine::TextWaits() const {
   const Document* document = Current();
-  return document && m_depth == 0 && document->input.HasItem();
+  return document && m_depth == 0 &&
+         (document->input.HasItem() || TheHost().documents.AnyCloseWaits());
 }
 
 void CommandEngine::ShowPrompt() {
@@ -31,6 +52,7 @@ bool CommandEngine::RunWaiting() {
   Document* document = Current();
   if (!document || m_depth > 0) return false;
   m_cancelAll = false;
+  if (TheHost().documents.CloseWaiting()) return true;
   const InputQueue::Item item = document->input.Take(false);
   switch (item.kind) {
     case InputQueue::Kind::None:
@@ -52,9 +74,7 @@ void CommandEngine::Execute(Document& document, const std::wstring& text) {
   if (text[0] == L'(' || text[0] == L'!') {
     std::wstring error;
     ++m_depth;
-    ++document.locks;  // an expression may change the drawing as a command may
-    const LispValue value = Evaluate(document, text[0] == L'!' ? text.substr(1) : text, &error);
-    --document.locks;  // still there: a drawing with a lock on it is closed later
+    const LispValue value = ValueOf(document, text, &error);
     --m_depth;
     TheHost().Print(error.empty() ? Printed(value) + L"\n" : L"; 错误: " + error + L"\n");
     return;
@@ -155,13 +175,11 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
       TheHost().Print(L"未知命令“" + UpperCase(item.text.substr(1)) + L"”。\n");
     if (!TheHost().documents.Known(&document)) return answer;
     ShowPrompt();
-    return std::nullopt;
+    return TakeAnswer(document, blanksAllowed);  // what waits behind it is for the question
   }
-  if (!item.text.empty() && item.text[0] == L'(') {
-    std::wstring error;
-    const LispValue value = Evaluate(document, item.text, &error);
+  if (!item.text.empty() && !blanksAllowed && (item.text[0] == L'(' || item.text[0] == L'!')) {
     answer.kind = InputAnswer::Kind::Text;
-    answer.text = value.kind == LispValue::Kind::String ? value.text : Printed(value);
+    answer.text = AnswerOf(document, item.text);
     return answer;
   }
   answer.kind = item.text.empty() ? InputAnswer::Kind::Enter : InputAnswer::Kind::Text;

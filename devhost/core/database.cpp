@@ -15,7 +15,8 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 
 namespace {
 
-// A change needs the drawing's lock: a running command holds it, code outside one takes it by itself.
+// A change needs the drawing's lock: a running command holds it, code outside one takes it by
+// itself.
 bool MayWrite(const AcDbDatabase* database) {
   const AcApDocument* document = acDocManagerPtr()->document(database);
   return !document || document->lockMode() != AcAp::kNotLocked;

@@ -35,8 +35,10 @@ struct AcDbDatabase::Body {
 
 struct AcDbObjectAccess {
   static void Adopt(AcDbDatabase& database, AcDbObject* object, AcDbHandle wanted);  // takes it
-  // Puts `fresh` in the place of a held object, under its handle and in its block; the old one goes.
-  static void Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held, AcDbObject* fresh);
+  // Puts `fresh` in the place of a held object, under its handle and in its block; the old one
+  // goes.
+  static void Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held,
+                      AcDbObject* fresh);
   static void TakeXData(AcDbObject* from, AcDbObject* to) { std::swap(from->m_xdata, to->m_xdata); }
   static void CountOpen(AcDbObject* object) { ++object->m_openCount; }
   // Gives an object that is in the database another handle; one that is taken already is refused.

@@ -52,6 +52,7 @@ class Document : public AcApDocument {
   UndoStep* recording = nullptr;
   int undoGroup = -1;  // how many steps there were when the open group began; -1: none is open
   int locks = 0;
+  bool closeWaits = false;  // it is to be closed as soon as nothing runs in it
   std::wstring lastCommand;
 
  private:

@@ -100,13 +100,26 @@ void DocumentList::Activate(Document* document) {
   TheHost().SetPrompt(L"命令: ");
 }
 
+bool DocumentList::CloseWaiting() {
+  for (const auto& document : m_documents)
+    if (document->closeWaits && document->commands.empty() && document->locks == 0) {
+      Close(document.get());
+      return true;
+    }
+  return false;
+}
+
+bool DocumentList::AnyCloseWaits() const {
+  return std::any_of(m_documents.begin(), m_documents.end(),
+                     [](const auto& document) { return document->closeWaits; });
+}
+
 void DocumentList::Close(Document* document) {
   if (!document || !Known(document)) return;
   TheHost().engine.CancelAll(*document);
   if (!document->commands.empty() || document->locks > 0) {
-    // A command or a call of this drawing is still on the stack: it ends first, and the text closes
-    // the drawing after it.
-    document->input.Append(L"_CLOSE\n");
+    // A command or a call of this drawing is still on the stack: it ends first.
+    document->closeWaits = true;
     return;
   }
   Notify([&](AcApDocManagerReactor* r) { r->documentToBeDestroyed(document); });

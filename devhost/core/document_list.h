@@ -28,6 +28,8 @@ class DocumentList : public AcApDocManager {
   void Activate(Document* document);
   // Ends what runs in it, tells reactors and modules, destroys it. The one before becomes current.
   void Close(Document* document);
+  bool CloseWaiting();  // closes one that had to wait for the end of what ran in it; false: none
+  bool AnyCloseWaits() const;
   Document* FindByName(
       const std::wstring& name) const;  // file name without extension, case ignored
 

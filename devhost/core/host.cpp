@@ -162,7 +162,8 @@ std::wstring WithWideStrings(const wchar_t* format) {
     if (out.back() != L'%') continue;
     while (*format && std::wcschr(L"-+ #0123456789.*", *format)) out += *format++;
     const bool plain = *format == L's' || *format == L'c';
-    if (plain) out += L'l';
+    if (plain)
+      out += L'l';
     else if (*format == L'S' || *format == L'C') {
       out += *format++ == L'S' ? L's' : L'c';
       continue;

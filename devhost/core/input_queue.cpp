@@ -15,7 +15,7 @@ bool EndsToken(wchar_t c, bool blanksAllowed) {
 // How many characters the item at the front has, its end not counted; -1 when it is not whole yet.
 // Inside a LISP expression blanks, newlines and brackets in strings belong to it.
 int ItemLength(const std::deque<wchar_t>& text, bool blanksAllowed) {
-  const bool lisp = !text.empty() && text[0] == L'(';
+  const bool lisp = !blanksAllowed && !text.empty() && text[0] == L'(';  // else a text of brackets
   int depth = 0;
   bool quoted = false;
   for (std::size_t i = 0; i < text.size(); ++i) {

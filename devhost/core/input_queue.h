@@ -21,8 +21,9 @@ class InputQueue {
   void Clear() { m_text.clear(); }
 
   // The next item, removed; None when no whole one is there. Text that an ESC follows before it was
-  // ended goes with the ESC, as half a word does under the user's hands. A LISP expression, that is a token
-  // beginning with "(", ends where its brackets close. With blanksAllowed only a newline ends it.
+  // ended goes with the ESC, as half a word does under the user's hands. A LISP expression, that is
+  // a token beginning with "(", ends where its brackets close. With blanksAllowed only a newline
+  // ends it.
   Item Take(bool blanksAllowed);
   bool HasItem() const;  // a token that is ended, or an ESC
 

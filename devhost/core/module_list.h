@@ -32,7 +32,9 @@ class ModuleList : public AcRxDynamicLinker {
   bool registerAppMDIAware(void* packet) override;
 
   // Told the path of a module that was loaded as by a command, that is for every start from now on.
-  void OnLoadedForGood(std::function<void(const std::wstring&)> remember) { m_remember = std::move(remember); }
+  void OnLoadedForGood(std::function<void(const std::wstring&)> remember) {
+    m_remember = std::move(remember);
+  }
 
   LoadedModule* Find(const std::wstring& name) const;  // by file name, case ignored
   std::vector<std::wstring> Names() const;

@@ -227,13 +227,13 @@ void Open() {
 
 void Close() {
   Document* document = Here();
-  // This command is the last thing on the drawing's stack and may take it away.
-  document->commands.clear();
+  // Alone on the drawing's stack this command may take it away; inside another it waits for that.
+  if (document->commands.size() == 1) document->commands.clear();
   TheHost().documents.Close(document);
 }
 
 void CloseAll() {
-  Here()->commands.clear();
+  if (Here()->commands.size() == 1) Here()->commands.clear();
   std::vector<Document*> open;
   for (const auto& document : TheHost().documents.All()) open.push_back(document.get());
   for (Document* document : open) TheHost().documents.Close(document);

@@ -95,6 +95,8 @@ resbuf* acutBuildList(int type, ...) {
   resbuf** tail = &head;
   // 0 ends a list except at its start, where it is the group of an entity's type.
   for (bool first = true; type != RTNONE && !(type == 0 && !first); first = false) {
+    // Group 0 in the middle of a list has a code of its own there, and is group 0 in the chain.
+    if (type == RTDXF0) type = 0;
     resbuf* node = acutNewRb(type);
     if (!node) break;
     *tail = node;

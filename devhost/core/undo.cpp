@@ -39,7 +39,8 @@ void WatchForUndo(Document& document) {
   body.onMoved = [&document, &body](AcDbEntity* entity, const AcGeMatrix3d& by) {
     body.modified |= 1;
     AcGeMatrix3d back;
-    if (document.recording && by.invert(&back)) document.recording->moved.emplace_back(entity, back);
+    if (document.recording && by.invert(&back))
+      document.recording->moved.emplace_back(entity, back);
   };
 }
 

@@ -1,5 +1,5 @@
-// Undo steps: what was added, erased or moved while a command or a LISP call ran, and how to take it
-// back. Changes to an entity's own data (a text's string) are not recorded.
+// Undo steps: what was added, erased or moved while a command or a LISP call ran, and how to take
+// it back. Changes to an entity's own data (a text's string) are not recorded.
 #pragma once
 
 #include <string>

@@ -5,6 +5,8 @@
 #include <cwctype>
 #include <numbers>
 #include <optional>
+#include <sstream>
+#include <vector>
 #include <utility>
 
 #include "adslib.h"
@@ -37,23 +39,30 @@ AcGePoint3d& LastPoint() {
 
 constexpr int kNoEmpty = 1, kNoZero = 2, kNoNegative = 4, kArbitrary = 128;
 
+std::vector<std::wstring> WordsOf(const std::wstring& keywords) {
+  std::vector<std::wstring> words;
+  std::wistringstream text(keywords);
+  for (std::wstring word; text >> word;) words.push_back(word);
+  return words;
+}
+
+std::wstring CapitalsOf(const std::wstring& word) {
+  std::wstring capitals;
+  for (wchar_t c : word)
+    if (std::iswupper(static_cast<wint_t>(c))) capitals += c;
+  return capitals;
+}
+
+// A word typed whole or by its capitals is that word; otherwise the first one that begins so.
 std::optional<std::wstring> MatchKeyword(const std::wstring& keywords, std::wstring typed) {
   if (!typed.empty() && typed[0] == L'_') typed.erase(0, 1);  // the language-neutral form
-  std::size_t at = 0;
-  while (at < keywords.size()) {
-    std::size_t end = keywords.find(L' ', at);
-    if (end == std::wstring::npos) end = keywords.size();
-    const std::wstring word = keywords.substr(at, end - at);
-    std::wstring capitals;
-    for (wchar_t c : word)
-      if (std::iswupper(static_cast<wint_t>(c))) capitals += c;
-    const std::wstring upper = UpperCase(typed);
-    if (!word.empty() && !upper.empty() &&
-        (upper == UpperCase(word) || upper == capitals ||
-         (upper.size() >= capitals.size() && UpperCase(word).compare(0, upper.size(), upper) == 0)))
-      return word;
-    at = end + 1;
-  }
+  typed = UpperCase(typed);
+  if (typed.empty()) return std::nullopt;
+  const std::vector<std::wstring> words = WordsOf(keywords);
+  for (const std::wstring& word : words)
+    if (typed == UpperCase(word) || typed == CapitalsOf(word)) return word;
+  for (const std::wstring& word : words)
+    if (typed.size() >= CapitalsOf(word).size() && UpperCase(word).starts_with(typed)) return word;
   return std::nullopt;
 }
 

@@ -109,7 +109,8 @@ bool Computed(const std::wstring& name, const Document* document, std::wstring* 
   else if (name == L"SCREENSIZE")
     *value = PointText({1.0 * document->view.Width(), 1.0 * document->view.Height(), 0});
   else if (name == L"VIEWCTR")
-    *value = PointText(document->view.ToWorld({document->view.Width() / 2, document->view.Height() / 2}));
+    *value = PointText(
+        document->view.ToWorld({document->view.Width() / 2, document->view.Height() / 2}));
   else if (name == L"VIEWSIZE")
     *value = RealText(document->view.Height() / document->view.PixelsPerUnit());
   else if (name == L"DWGPREFIX") {
@@ -184,8 +185,11 @@ void LoadHeaderVariables(Document& document) {
     if (info->type != VarType::Text) {
       wchar_t* end = nullptr;
       const double number = std::wcstod(value.c_str(), &end);
-      if (end == value.c_str() || number < info->low || (info->low <= info->high && number > info->high)) continue;
-      value = info->type == VarType::Short ? std::to_wstring(static_cast<int>(number)) : RealText(number);
+      if (end == value.c_str() || number < info->low ||
+          (info->low <= info->high && number > info->high))
+        continue;
+      value = info->type == VarType::Short ? std::to_wstring(static_cast<int>(number))
+                                           : RealText(number);
     }
     document.variables[info->name] = value;
     FollowSpace(document, info->name, value);

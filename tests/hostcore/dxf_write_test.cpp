@@ -1,0 +1,146 @@
+// Writing drawings: what was read comes back, known or not.
+#include "devhost/core/database_body.h"
+#include "devhost/core/drawing_file.h"
+#include <sstream>
+
+#include "host_fixture.h"
+#include "small_drawing.h"
+
+using namespace devhost;
+
+class DxfWrite : public hosttest::HostTest {
+ protected:
+  std::string WrittenText(AcDbDatabase& database) {
+    std::wstring why;
+    const std::filesystem::path path = folder / "out.dxf";
+    EXPECT_TRUE(WriteDrawing(path.wstring(), database, &why)) << Utf8(why);
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+  }
+  // Handle, type, layer and colour of every entity of all blocks, in order.
+  static std::vector<std::wstring> Inventory(AcDbDatabase& database) {
+    std::vector<std::wstring> lines;
+    for (AcDbObjectId id : AcDbBlockTable::cast(database.blockTableId().object())->records()) {
+      const auto* block = AcDbBlockTableRecord::cast(id.object());
+      for (AcDbObjectId e : block->entities()) {
+        const AcDbEntity* entity = AcDbEntity::cast(e.object());
+        ACHAR handle[17];
+        entity->handle().getIntoAsciiBuffer(handle);
+        const auto* proxy = AcDbProxyEntity::cast(entity);
+        AcDbExtents extents;
+        const bool drawn = entity->getGeomExtents(extents) == Acad::eOk;
+        lines.push_back(std::wstring(block->getName()) + L" " + handle + L" " +
+                        (proxy ? proxy->originalDxfName() : entity->isA()->name()) + L" " +
+                        entity->layer() + L" " + std::to_wstring(entity->colorIndex()) +
+                        (drawn ? L" " + std::to_wstring(extents.minPoint().x) + L" " +
+                                     std::to_wstring(extents.maxPoint().y)
+                               : L""));
+      }
+    }
+    return lines;
+  }
+};
+
+TEST_F(DxfWrite, WhatWasReadIsReadAgain) {
+  AcDbDatabase first, second;
+  ASSERT_EQ(ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", first).message, L"");
+  const std::string text = WrittenText(first);
+  ASSERT_EQ(ReadDrawingText(text, L"b.dxf", second).message, L"");
+  EXPECT_EQ(Inventory(second), Inventory(first));
+  EXPECT_EQ(Inventory(first).size(), 13u);
+}
+
+TEST_F(DxfWrite, OpaqueEntitiesAndUnreadSectionsGoOutAsTheyCame) {
+  AcDbDatabase database;
+  ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
+  const std::string text = WrittenText(database);
+  EXPECT_NE(text.find("100\nAcThing\n10\n1.50\n20\n2.50\n70\n 7\n330\n30\n62\n5\n1\na^Jb\n"),
+            std::string::npos);
+  EXPECT_NE(text.find("102\n{ACAD_REACTORS\n330\n1\n102\n}\n"), std::string::npos);
+  EXPECT_NE(text.find("2\nOBJECTS\n0\nDICTIONARY\n5\nC\n100\nAcDbDictionary\n3\nACAD_"
+                      "GROUP\n350\nD\n0\nENDSEC\n"),
+            std::string::npos);
+  EXPECT_NE(text.find("2\nCLASSES\n0\nCLASS\n1\nTHING\n"), std::string::npos);
+  EXPECT_NE(text.find("9\n$OWNTHING\n10\n1.0\n20\n2.0\n"), std::string::npos);
+  EXPECT_NE(text.find("370\n50\n"), std::string::npos);
+}
+
+TEST_F(DxfWrite, ExtendedDataOfAPolylineStandsBeforeItsVertices) {
+  AcDbDatabase database, again;
+  ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
+  const std::string text = WrittenText(database);
+  const std::size_t polyline = text.find("\nPOLYLINE\n5\n34\n");
+  const std::size_t data = text.find("1001\n_QVX\n1070\n3\n", polyline),
+                    vertex = text.find("\nVERTEX\n", polyline);
+  EXPECT_LT(data, vertex);
+  ReadDrawingText(text, L"b.dxf", again);
+  AcDbObjectId id;
+  ASSERT_EQ(again.getAcDbObjectId(id, false, AcDbHandle(0x34)), Acad::eOk);
+  resbuf* chain = id.object()->xData(L"_QVX");
+  ASSERT_NE(chain, nullptr);
+  acutRelRb(chain);
+}
+
+TEST_F(DxfWrite, NoHandleIsGivenTwice) {
+  AcDbDatabase database;
+  ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
+  std::map<std::string, int> handles;
+  std::istringstream text(WrittenText(database));
+  std::string code, value;
+  bool header = false;
+  while (std::getline(text, code) && std::getline(text, value)) {
+    if (code == "2" && value == "HEADER") header = true;
+    if (code == "0" && value == "ENDSEC") header = false;
+    if (code == "5" && !header) ++handles[value];
+  }
+  for (const auto& [handle, count] : handles) EXPECT_EQ(count, 1) << handle;
+  EXPECT_GT(handles.size(), 20u);
+}
+
+TEST_F(DxfWrite, ErasedEntitiesAreNotWritten) {
+  AcDbDatabase database, again;
+  ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
+  AcDbObjectId id;
+  database.getAcDbObjectId(id, false, AcDbHandle(0x31));
+  id.object()->erase();
+  ReadDrawingText(WrittenText(database), L"b.dxf", again);
+  EXPECT_NE(again.getAcDbObjectId(id, false, AcDbHandle(0x31)), Acad::eOk);
+}
+
+TEST_F(DxfWrite, ANewDrawingIsWrittenWithTheTablesThatReadersNeed) {
+  AcDbDatabase database, again;
+  AcDbBlockTableRecord::cast(database.currentSpaceId().object())
+      ->appendAcDbEntity(new AcDbText({1, 2, 0}, L"汉字^ 与\n换行", 3));
+  const std::string text = WrittenText(database);
+  for (const char* table : {"LTYPE", "LAYER", "STYLE", "APPID", "BLOCK_RECORD"})
+    EXPECT_NE(text.find(std::string("TABLE\n2\n") + table + "\n"), std::string::npos) << table;
+  ASSERT_EQ(ReadDrawingText(text, L"b.dxf", again).message, L"");
+  const auto* space = AcDbBlockTableRecord::cast(again.currentSpaceId().object());
+  ASSERT_EQ(space->entities().size(), 1u);
+  EXPECT_STREQ(AcDbText::cast(space->entities()[0].object())->textStringConst(), L"汉字^ 与\n换行");
+}
+
+TEST_F(DxfWrite, RealsReadBackToTheLastBit) {
+  AcDbDatabase database, again;
+  const double odd = 0.1 + 0.2, huge = 1.2345678901234567e300;
+  AcDbBlockTableRecord::cast(database.currentSpaceId().object())
+      ->appendAcDbEntity(new AcDbLine({odd, huge, -0.0}, {1e-300, 5, 0}));
+  ReadDrawingText(WrittenText(database), L"b.dxf", again);
+  const auto* line = AcDbLine::cast(
+      AcDbBlockTableRecord::cast(again.currentSpaceId().object())->entities().at(0).object());
+  EXPECT_EQ(line->startPoint().x, odd);
+  EXPECT_EQ(line->startPoint().y, huge);
+  EXPECT_EQ(line->endPoint().x, 1e-300);
+}
+
+TEST_F(DxfWrite, AFileThatCannotBeReplacedStaysAsItWas) {
+  AcDbDatabase database;
+  std::wstring why;
+  EXPECT_FALSE(WriteDrawing((folder / "none" / "x.dxf").wstring(), database, &why));
+  EXPECT_NE(why.find(L"无法写入文件"), std::wstring::npos);
+  std::filesystem::create_directories(folder / "taken.dxf" /
+                                      "inside");  // a folder in the file's place
+  EXPECT_FALSE(WriteDrawing((folder / "taken.dxf").wstring(), database, &why));
+  EXPECT_TRUE(std::filesystem::is_directory(folder / "taken.dxf"));
+  EXPECT_FALSE(std::filesystem::exists(folder / "taken.dxf.tmp"));
+}

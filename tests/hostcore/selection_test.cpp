@@ -1,0 +1,171 @@
+// Wild cards, filters, selection sets and the pick-first set.
+#include "devhost/core/selection.h"
+
+#include "host_fixture.h"
+
+using namespace devhost;
+
+namespace {
+
+struct WildCase {
+  const wchar_t *text, *pattern;
+  bool matches;
+};
+
+}  // namespace
+
+TEST(WildCards, MatchAsTheHostDefinesThem) {
+  const WildCase cases[] = {
+      {L"QVX_WALL", L"QVX_*", true},
+      {L"qvx_wall", L"QVX_*", true},
+      {L"LINE", L"QVX_*", false},
+      {L"LINE", L"TEXT,LINE", true},
+      {L"MTEXT", L"TEXT,LINE", false},
+      {L"MTEXT", L"*TEXT", true},
+      {L"A1", L"@#", true},
+      {L"1A", L"@#", false},
+      {L"A-1", L"@.#", true},
+      {L"AB1", L"@.#", false},
+      {L"WALL", L"~QVX_*", true},
+      {L"QVX_WALL", L"~QVX_*", false},
+      {L"B", L"[A-C]", true},
+      {L"D", L"[A-C]", false},
+      {L"D", L"[~A-C]", true},
+      {L"A,B", L"A`,B", true},
+      {L"A", L"A`,B", false},
+      {L"", L"*", true},
+      {L"", L"", true},
+      {L"ab", L"a?b", false},
+      {L"axb", L"a?b", true},
+      {L"墙线", L"墙*", true},
+      {L"aaaaaaaaab", L"*a*a*a*b", true},
+      {L"x[", L"x[", true},
+      {L"a`", L"a`", true},
+      {L",", L"`,", true},
+      {L"DOTE", L"[DW]*,~*", true},
+      {L"B", L"[A,B]", true},
+  };
+  for (const WildCase& c : cases)
+    EXPECT_EQ(WildMatch(c.text, c.pattern), c.matches)
+        << Utf8(c.text) << " with " << Utf8(c.pattern);
+}
+
+TEST(WildCards, ManyStarsDoNotTakeForEver) {
+  std::wstring pattern;
+  for (int i = 0; i < 200; ++i) pattern += L"*a";
+  EXPECT_FALSE(WildMatch(std::wstring(5000, L'a') + L"b", pattern));
+}
+
+class Selection : public hosttest::HostTest {
+ protected:
+  void SetUp() override {
+    HostTest::SetUp();
+    NewDrawing();
+    Send(L"LAYER 墙线\nLINE 0,0 10,0 \nLAYER 0\nCIRCLE 5,5 2 LINE 20,20 30,30 \n");
+    ASSERT_EQ(Entities().size(), 3u);
+  }
+  // How many a filter finds in the whole drawing; -1 when the call fails.
+  int Count(resbuf* filter, const wchar_t* mode = L"X") {
+    ads_name set{};
+    int length = -1;
+    if (acedSSGet(mode, nullptr, nullptr, filter, set) == RTNORM) {
+      acedSSLength(set, &length);
+      acedSSFree(set);
+    }
+    if (filter) acutRelRb(filter);
+    return length;
+  }
+};
+
+TEST_F(Selection, FiltersByTypeAndLayer) {
+  EXPECT_EQ(Count(nullptr), 3);
+  EXPECT_EQ(Count(acutBuildList(0, L"LINE", 0)), 2);
+  EXPECT_EQ(Count(acutBuildList(0, L"LINE", 8, L"墙*", 0)), 1);
+  EXPECT_EQ(Count(acutBuildList(0, L"CIRCLE,ARC", 0)), 1);
+  EXPECT_EQ(Count(acutBuildList(0, L"QVX_*", 0)), -1);
+}
+
+TEST_F(Selection, FiltersNestWithOperators) {
+  EXPECT_EQ(Count(acutBuildList(-4, L"<OR", RTDXF0, L"CIRCLE", 8, L"墙线", -4, L"OR>", RTNONE)), 2);
+  EXPECT_EQ(Count(acutBuildList(-4, L"<NOT", RTDXF0, L"CIRCLE", -4, L"NOT>", RTNONE)), 2);
+  EXPECT_EQ(Count(acutBuildList(-4, L"<AND", RTDXF0, L"LINE", 8, L"0", -4, L"AND>", RTNONE)), 1);
+}
+
+TEST_F(Selection, AnUnclosedOrUnknownOperatorEndsWithoutHarm) {
+  EXPECT_EQ(Count(acutBuildList(-4, L"<OR", RTDXF0, L"CIRCLE", RTNONE)), 1);
+  EXPECT_EQ(Count(acutBuildList(-4, L"<OR", RTNONE)), -1);
+}
+
+TEST_F(Selection, TheImpliedSetIsThePickFirstSet) {
+  EXPECT_EQ(Count(nullptr, L"I"), -1);
+  host.documents.Current()->pickFirst = {Entities()[1]->objectId(), Entities()[2]->objectId()};
+  EXPECT_EQ(Count(nullptr, L"_I"), 2);
+  EXPECT_EQ(Count(acutBuildList(0, L"LINE", 0), L"I"), 1);
+  EXPECT_EQ(Count(nullptr, L"P"), 1);  // what the latest call found
+  EXPECT_EQ(Count(nullptr, L"Q?"), -1);
+}
+
+TEST_F(Selection, ThePickFirstSetIsReadAndWrittenThroughSets) {
+  resbuf *grips = nullptr, *picked = nullptr;
+  EXPECT_EQ(acedSSGetFirst(&grips, &picked), RTERROR);
+  ads_name set{};
+  ASSERT_EQ(acedSSGet(L"X", nullptr, nullptr, nullptr, set), RTNORM);
+  EXPECT_EQ(acedSSSetFirst(set, set), RTNORM);
+  EXPECT_EQ(host.documents.Current()->pickFirst.size(), 3u);
+  EXPECT_EQ(ui.diary.back(), L"selection");
+  ASSERT_EQ(acedSSGetFirst(&grips, &picked), RTNORM);
+  EXPECT_EQ(picked->restype, RTPICKS);
+  int length = 0;
+  EXPECT_EQ(acedSSLength(picked->resval.rlname, &length), RTNORM);
+  EXPECT_EQ(length, 3);
+  for (resbuf* list : {grips, picked}) {
+    acedSSFree(list->resval.rlname);
+    acutRelRb(list);
+  }
+  acedSSFree(set);
+  EXPECT_EQ(acedSSSetFirst(nullptr, nullptr), RTNORM);
+  EXPECT_TRUE(host.documents.Current()->pickFirst.empty());
+}
+
+TEST_F(Selection, SetsGrowShrinkAndKnowTheirMembers) {
+  ads_name set{}, entity{}, other{};
+  ASSERT_EQ(acdbGetAdsName(entity, Entities()[0]->objectId()), Acad::eOk);
+  ASSERT_EQ(acdbGetAdsName(other, Entities()[1]->objectId()), Acad::eOk);
+  ASSERT_EQ(acedSSAdd(entity, nullptr, set), RTNORM);
+  EXPECT_EQ(acedSSAdd(other, set, set), RTNORM);
+  EXPECT_EQ(acedSSAdd(other, set, set), RTNORM);
+  int length = 0;
+  acedSSLength(set, &length);
+  EXPECT_EQ(length, 2);
+  EXPECT_EQ(acedSSMemb(other, set), RTNORM);
+  EXPECT_EQ(acedSSDel(other, set), RTNORM);
+  EXPECT_EQ(acedSSMemb(other, set), RTERROR);
+  ads_name found{};
+  EXPECT_EQ(acedSSName(set, 0, found), RTNORM);
+  EXPECT_EQ(found[0], entity[0]);
+  EXPECT_EQ(acedSSName(set, 1, found), RTERROR);
+  EXPECT_EQ(acedSSFree(set), RTNORM);
+  EXPECT_EQ(acedSSFree(set), RTERROR);
+  EXPECT_EQ(acedSSLength(set, &length), RTERROR);
+}
+
+TEST_F(Selection, ABoxTakesWhatLiesInsideOrAllThatItTouches) {
+  const ads_point a = {-1, -1, 0}, b = {6, 6, 0};
+  ads_name set{};
+  int length = 0;
+  EXPECT_EQ(acedSSGet(L"W", a, b, nullptr, set), RTERROR);
+  ASSERT_EQ(acedSSGet(L"C", a, b, nullptr, set), RTNORM);
+  acedSSLength(set, &length);
+  EXPECT_EQ(length, 2);
+  acedSSFree(set);
+}
+
+TEST_F(Selection, ObjectsAreAskedForByClickAndByBox) {
+  Then([&] { host.engine.GivePoint({7, 5, 0}); });    // on the circle
+  Then([&] { host.engine.GivePoint({15, 15, 0}); });  // beside all: a box begins
+  Then([&] { host.engine.GivePoint({40, 40, 0}); });
+  Then([&] { host.engine.TypeLine(L""); });
+  Send(L"ERASE\n");
+  ASSERT_EQ(Entities().size(), 1u);
+  EXPECT_STREQ(Entities()[0]->layer(), L"墙线");
+}
