@@ -59,12 +59,16 @@ void DialogWatch::Activated(HWND window) {
   if (!IsDialog(window) || std::find(m_known.begin(), m_known.end(), window) != m_known.end())
     return;
   m_known.push_back(window);
+  ThePump().MarkQuiet();  // a message box is made not to tell when it waits
   if (m_messageBoxes > 0) return;
   wchar_t title[256] = L"";
   ::GetWindowTextW(window, title, 256);
   TheJournal().Record("dialog", {{"title", Utf8(title)}});
 }
 
-void DialogWatch::Destroyed(HWND window) { std::erase(m_known, window); }
+// What called for the dialog goes on now.
+void DialogWatch::Destroyed(HWND window) {
+  if (std::erase(m_known, window) > 0) ThePump().MarkBusy();
+}
 
 }  // namespace devhost

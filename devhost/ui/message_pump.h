@@ -34,6 +34,7 @@ class MessagePump {
   // dialog or a menu that waits for the user makes it quiet too: its own loop says so (MarkQuiet).
   bool IsQuiet() const { return m_quiet; }
   void MarkQuiet();
+  void MarkBusy() { m_quiet = false; }
   void SetWhenQuiet(std::function<void()> tell) { m_whenQuiet = std::move(tell); }
 
  private:

@@ -4,6 +4,7 @@
 #include "acstatusbar.h"
 #include "devhost/core/journal.h"
 #include "devhost/ui/journal_hooks.h"
+#include "devhost/ui/message_pump.h"
 #include "devhost/ui/window_tree.h"
 
 using namespace devhost;
@@ -110,6 +111,17 @@ TEST(DialogWatch, ADialogIsRecordedOnceWithItsTitle) {
   EXPECT_EQ(CountOf("dialog"), before + 1);
   const JournalEntry last = TheJournal().Since(TheJournal().Count() - 1).front();
   EXPECT_EQ(last.fields["title"], "选项");
+}
+
+TEST(DialogWatch, ThePumpIsQuietWhileABoxIsUpAndBusyWhenItHasGone) {
+  DialogWatch watch;
+  ThePump().MarkBusy();
+  {
+    OwnWindow box(L"#32770", L"box", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+    ::SetActiveWindow(box);
+    EXPECT_TRUE(ThePump().IsQuiet());
+  }
+  EXPECT_FALSE(ThePump().IsQuiet());
 }
 
 TEST(DialogWatch, AMessageBoxOfTheClassLibraryIsNoDialog) {
