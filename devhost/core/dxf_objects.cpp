@@ -93,7 +93,7 @@ DxfObject TakeApart(std::span<const DxfGroup> groups, DxfObjectKind kind) {
   return object;
 }
 
-AcDbEntity* DxfObjectMaker::MakeKnown(const DxfObject& object) {
+std::unique_ptr<AcDbEntity> DxfObjectMaker::MakeKnown(const DxfObject& object) {
   const AcRxClass* cls = acrxClassOfDxfName(m_decoder.Text(object.type).c_str());
   std::unique_ptr<AcRxObject> made(cls ? cls->create() : nullptr);
   AcDbEntity* entity = AcDbEntity::cast(made.get());
@@ -107,14 +107,16 @@ AcDbEntity* DxfObjectMaker::MakeKnown(const DxfObject& object) {
   }
   if (!read) return nullptr;  // its class will not have it: it stays opaque
   made.release();
-  return entity;
+  SetShared(*entity, object);
+  return std::unique_ptr<AcDbEntity>(entity);
 }
 
-AcDbEntity* DxfObjectMaker::MakeOpaque(const DxfObject& object) {
-  auto* proxy = new AcDbProxyEntity;
+std::unique_ptr<AcDbEntity> DxfObjectMaker::MakeOpaque(const DxfObject& object) {
+  auto proxy = std::make_unique<AcDbProxyEntity>();
   proxy->setOriginalDxfName(UpperCase(m_decoder.Text(object.type)).c_str());
   for (const DxfGroup& group : object.own)
     proxy->addGroup(group.code, m_decoder.Text(group.value).c_str());
+  SetShared(*proxy, object);
   return proxy;
 }
 
@@ -137,10 +139,10 @@ void DxfObjectMaker::FillXData(AcDbObject& to, const DxfObject& object) {
 
 AcDbEntity* DxfObjectMaker::MakeEntity(const DxfObject& object) {
   m_refused = false;
-  AcDbEntity* entity = MakeKnown(object);
-  if (!entity && m_refused) return nullptr;
-  if (!entity) entity = MakeOpaque(object);
-  SetShared(*entity, object);
+  std::unique_ptr<AcDbEntity> made = MakeKnown(object);
+  if (!made && m_refused) return nullptr;
+  if (!made) made = MakeOpaque(object);
+  AcDbEntity* entity = made.release();  // the database's from here on
   AcDbObjectAccess::Adopt(m_database, entity, AcDbHandle(object.handle));
   FillXData(*entity, object);
   return entity;

@@ -2,6 +2,7 @@
 // share and its own, and makes entities of them. Used by the drawing reader.
 #pragma once
 
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -48,13 +49,15 @@ class DxfObjectMaker {
 
   // In the database, not yet in a block. Null when a number of it can't be read; that is noted.
   AcDbEntity* MakeEntity(const DxfObject& object);
+  // With the shared groups set, but not in the database and without extended data. Null: no such
+  // class, or it refuses; a number that is none is noted.
+  std::unique_ptr<AcDbEntity> MakeKnown(const DxfObject& object);
+  std::unique_ptr<AcDbEntity> MakeOpaque(const DxfObject& object);
   // Reads a table's record into an object of the host.
   void FillRecord(AcDbObject& record, const DxfObject& object);
   void FillXData(AcDbObject& to, const DxfObject& object);
 
  private:
-  AcDbEntity* MakeKnown(const DxfObject& object);  // null: no such class, or it refuses
-  AcDbEntity* MakeOpaque(const DxfObject& object);
   void SetShared(AcDbEntity& entity, const DxfObject& object);
 
   AcDbDatabase& m_database;

@@ -187,7 +187,8 @@ int acutPrintf(const ACHAR* narrowFormat, ...) {
     va_start(args, narrowFormat);
     length = std::vswprintf(text.data(), limit, format.c_str(), args);
     va_end(args);
-    if (length >= 0) break;
+    if (length >= 0 && static_cast<std::size_t>(length) < limit) break;
+    length = -1;  // some libraries answer what would have been needed, others that it failed
   }
   text.resize(length < 0 ? std::wcslen(text.c_str()) : static_cast<std::size_t>(length));
   TheHost().Print(text);

@@ -224,5 +224,5 @@ TEST_F(Commands, PrintedStringsAreWideWhateverTheFormatSays) {
 TEST_F(Commands, ALongTextIsPrintedWhole) {
   const std::wstring text(5000, L'长');
   acutPrintf(L"%s", text.c_str());
-  EXPECT_EQ(ui.printed, text);
+  EXPECT_TRUE(ui.printed == text) << ui.printed.size();
 }

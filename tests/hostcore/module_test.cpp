@@ -136,3 +136,83 @@ TEST_F(Modules, AModulesCommandHidesTheHostsAndADotFindsThatAgain) {
   EXPECT_EQ(Entities().size(), 1u);
   EXPECT_EQ(ran, 1);
 }
+
+namespace {
+
+// An entity class of a module: a column with a size, drawn as a cross.
+class Column : public AcDbEntity {
+ public:
+  AcRxClass* isA() const override { return cls; }
+  bool subWorldDraw(AcGiWorldDraw* draw) const override {
+    const AcGePoint3d ends[2] = {{-size, 0, 0}, {size, 0, 0}};
+    return draw->geometry().polyline(2, ends);
+  }
+  Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override {
+    resbuf item{};
+    while (filer->readItem(&item) == Acad::eOk) {
+      if (item.restype == 40) size = item.resval.rreal;
+      if (item.restype == 62) kind = item.resval.rint;
+      if (item.restype == 1) label = item.resval.rstring;
+    }
+    return Acad::eOk;
+  }
+  Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override {
+    AcDbEntity::dxfOutFields(filer);
+    filer->writeString(100, L"TestColumn");
+    filer->writeDouble(40, size);
+    filer->writeInt(62, kind);
+    return filer->writeString(1, label.c_str());
+  }
+  double size = 0;
+  int kind = 0;
+  std::wstring label;
+  static AcRxClass* cls;
+};
+AcRxClass* Column::cls = nullptr;
+
+}  // namespace
+
+TEST_F(Modules, EntitiesTakeTheirClassWhenItComesAndKeepAllTheyHoldWhenItGoes) {
+  MakeFile(
+      "columns.dxf",
+      "0\nSECTION\n2\nENTITIES\n0\nTEST_COLUMN\n5\n40\n100\nAcDbEntity\n8\nZ1\n62\n3\n370\n50\n"
+      "100\nTestColumn\n40\n600.5\n62\n7\n1\na^Jb "
+      "\\U+5899\n1001\n_QVX\n1040\n100.0\n0\nENDSEC\n0\nEOF\n");
+  Document* document = host.documents.Open(L"columns.dxf");
+  ASSERT_NE(document, nullptr);
+  ASSERT_EQ(Entities().size(), 1u);
+  EXPECT_NE(AcDbProxyEntity::cast(Entities()[0]), nullptr);
+  const auto looks = [&] {
+    AcDbEntity* e = Entities().at(0);
+    resbuf* data = e->xData(L"_QVX");
+    const double scale = data ? data->rbnext->resval.rreal : 0;
+    if (data) acutRelRb(data);
+    return std::wstring(e->layer()) + L" " + std::to_wstring(e->colorIndex()) + L" " +
+           std::to_wstring(e->handle().value()) + L" " + std::to_wstring(static_cast<int>(scale));
+  };
+  EXPECT_EQ(looks(), L"Z1 3 64 100");
+  document->pickFirst = {Entities()[0]->objectId()};
+  Column::cls = new AcRxClass(
+      L"TestColumn", AcDbEntity::desc(), []() -> AcRxObject* { return new Column; },
+      L"TEST_COLUMN");
+  acrxBuildClassHierarchy();
+  ASSERT_EQ(Entities().at(0)->isA(), Column::cls);
+  EXPECT_TRUE(document->pickFirst.empty());  // ids of what was exchanged are let go
+  const auto* column = static_cast<const Column*>(Entities()[0]);
+  EXPECT_EQ(column->size, 600.5);
+  EXPECT_EQ(column->kind, 7);
+  EXPECT_EQ(column->label, L"a\nb 墙");
+  EXPECT_EQ(looks(), L"Z1 3 64 100");
+  deleteAcRxClass(Column::cls);
+  const auto* opaque = AcDbProxyEntity::cast(Entities().at(0));
+  ASSERT_NE(opaque, nullptr);
+  EXPECT_EQ(looks(), L"Z1 3 64 100");
+  ASSERT_EQ(opaque->groups().size(), 4u);
+  EXPECT_EQ(opaque->groups()[0].text, L"TestColumn");
+  EXPECT_EQ(opaque->groups()[3].text, L"a\nb 墙");
+  Send(L"QSAVE\n");
+  std::ifstream saved(folder / "columns.dxf", std::ios::binary);
+  const std::string text((std::istreambuf_iterator<char>(saved)), std::istreambuf_iterator<char>());
+  EXPECT_NE(text.find("370\n50\n100\nTestColumn\n40\n600.5\n62\n7\n1\na^Jb 墙\n1001\n_QVX\n"),
+            std::string::npos);
+}
