@@ -17,6 +17,7 @@ constexpr char kGoingDown[] = "the program is going down";
 constexpr std::chrono::milliseconds kScreenCatchesUp{150};
 constexpr std::chrono::milliseconds kSlice{10};
 constexpr int kMenuTries = 50;
+constexpr std::chrono::milliseconds kTargetAppears{3000};
 // How long a step waits for the program to take its input. A dialog's own loop never tells that it
 // is idle, so this is also what a press in a dialog costs.
 constexpr std::chrono::milliseconds kInputTaken{400};
@@ -109,7 +110,14 @@ std::string DriverWorld::PointOnMainThread(const Target& target, POINT* point) {
 }
 
 std::string DriverWorld::Point(const Target& target, POINT* point) {
-  const std::string problem = Operate([&] { return PointOnMainThread(target, point); });
+  // What a step presses may still be on its way: a box that a command is about to show, a row of a
+  // group that is just opening.
+  const Milliseconds end = Now() + kTargetAppears;
+  std::string problem;
+  do {
+    problem = Operate([&] { return PointOnMainThread(target, point); });
+    if (!problem.empty()) Pause(kSlice);
+  } while (!problem.empty() && !m_stopped && Now() < end);
   if (!problem.empty()) return problem;
   const RECT screen = {GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_YVIRTUALSCREEN),
                        GetSystemMetrics(SM_XVIRTUALSCREEN) + GetSystemMetrics(SM_CXVIRTUALSCREEN),
@@ -253,7 +261,7 @@ void DriverWorld::Print(const std::string& line) { WriteLine(stderr, line); }
 
 void DriverWorld::BringToFront() {
   Operate([this]() -> std::string {
-    SetForegroundWindow(m_port.Frame());
+    SetForegroundWindow(GetLastActivePopup(m_port.Frame()));  // a box over it keeps the front
     return {};
   });
 }

@@ -1,6 +1,8 @@
 // Real input through SendInput.
 #include "devhost/play/win/input_sender.h"
 
+#include <cstdlib>
+
 namespace devhost {
 namespace {
 
@@ -45,11 +47,22 @@ void InputSender::Mouse(POINT at, DWORD flags, DWORD data) {
 
 void InputSender::Click(POINT at, Button button, int times) {
   Move(at);
+  KeepApart(at);
   for (; times > 0; --times) {
     Mouse(at, kDown[static_cast<int>(button)]);
     Mouse(at, kUp[static_cast<int>(button)]);
   }
   m_pause(kAfter);
+}
+
+// Two click steps at one place are two clicks; only a double click step makes a double click.
+void InputSender::KeepApart(POINT at) {
+  const int left = static_cast<int>(m_lastClick + GetDoubleClickTime() + kBetween - GetTickCount());
+  const bool same = std::abs(at.x - m_lastAt.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+                    std::abs(at.y - m_lastAt.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+  if (m_lastClick && same && left > 0) m_pause(left);
+  m_lastClick = GetTickCount();
+  m_lastAt = at;
 }
 
 void InputSender::Hold(POINT at, Button button, int milliseconds) {
