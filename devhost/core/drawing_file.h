@@ -18,6 +18,7 @@ struct DrawingReport {
 DrawingReport ReadDrawing(const std::wstring& path, AcDbDatabase& database);
 DrawingReport ReadDrawingText(std::string_view bytes, const std::wstring& shownName,
                               AcDbDatabase& database);
+std::string DrawingText(const AcDbDatabase& database);
 bool WriteDrawing(const std::wstring& path, const AcDbDatabase& database, std::wstring* why);
 
 }  // namespace devhost

@@ -15,6 +15,23 @@ namespace {
 
 constexpr unsigned kUtf8 = 65001;
 
+// A line end inside a value would tear the file apart.
+std::string OneLine(const std::wstring& value) {
+  std::wstring text;
+  for (std::size_t i = 0; i < value.size(); ++i) {
+    const wchar_t c = value[i];
+    if (c == L'\n')
+      text += L"^J";
+    else if (c == L'\t')
+      text += L"^I";
+    else if (c == L'^' && i + 1 < value.size() && value[i + 1] == L' ')
+      text += L"^ ";
+    else if (c != L'\r' && c != 0)
+      text += c;
+  }
+  return WideToAnsi(text, kUtf8);
+}
+
 }  // namespace
 
 double DxfInFiler::RealOf(const DxfGroup& group) {
@@ -86,22 +103,12 @@ void DxfOutFiler::Group(short code, std::string_view value) {
 Acad::ErrorStatus DxfOutFiler::writeString(short code, const ACHAR* value) {
   if (!value) return Acad::eInvalidInput;
   if (code == 0) RunPending();
-  std::wstring text;
-  for (const ACHAR* c = value; *c; ++c) {
-    // A line end inside a value would tear the file apart.
-    if (*c == L'\n')
-      text += L"^J";
-    else if (*c == L'\t')
-      text += L"^I";
-    else if (*c == L'^' && c[1] == L' ')
-      text += L"^ ";
-    else if (*c != L'\r')
-      text += *c;
-  }
-  Group(code, WideToAnsi(text, kUtf8));
+  Group(code, OneLine(value));
   if (code == 0) WriteHandle(5, m_database.body().NextHandle());
   return Acad::eOk;
 }
+
+void DxfOutFiler::WriteMark(const std::wstring& type) { Group(0, OneLine(type)); }
 
 Acad::ErrorStatus DxfOutFiler::writeDouble(short code, double value) {
   char digits[40];

@@ -54,6 +54,7 @@ class DxfOutFiler : public AcDbDxfFiler {
   Acad::ErrorStatus writeDouble(short code, double value) override;
   Acad::ErrorStatus writeInt(short code, int value) override;
   Acad::ErrorStatus writePoint(short code, const AcGePoint3d& value) override;
+  void WriteMark(const std::wstring& type);  // a group 0 without the handle that parts get
   void WriteHandle(short code, unsigned long long handle);
 
   // Runs once, before the next group 0 that an object writes: what it has behind its own groups

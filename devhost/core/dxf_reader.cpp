@@ -1,6 +1,7 @@
 // Reading drawings: the sections of a file, one object after the other; see drawing_file.h.
 // Whatever is damaged costs the object that it stands in and is told once; an object that the file
 // breaks off in is left out, because nobody knows what it was going to be.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -34,6 +35,16 @@ const wchar_t* WordsFor(DxfDamage damage) {
       break;
   }
   return L"";
+}
+
+// Parts of other objects and marks of the file's own structure are no entities, nor is what has no
+// name that could be written again.
+bool MayBeEntity(std::string_view type) {
+  for (std::string_view mark : {"VERTEX", "SEQEND", "BLOCK", "ENDBLK", "TABLE", "ENDTAB", "CLASS"})
+    if (type == mark) return false;
+  return !type.empty() && std::all_of(type.begin(), type.end(), [](char c) {
+    return static_cast<unsigned char>(c) > ' ' && c != '\\' && c != '^';
+  });
 }
 
 class Reader {
@@ -312,8 +323,8 @@ std::size_t Reader::ReadEntity(std::size_t at, std::size_t to, AcDbBlockTableRec
   std::size_t next = NextObject(at);
   if (groups.empty() || next > to) return to;
   DxfObject object = TakeApart(groups);
-  if (object.type == "VERTEX" || object.type == "SEQEND") {
-    m_problems.Add(object.line, L"顶点没有所属的图元，已跳过");
+  if (!MayBeEntity(object.type)) {
+    m_problems.Add(object.line, L"此处不应有这样的对象，已跳过");
     return next;
   }
   if (object.type == "POLYLINE") next = AddVertices(next, to, object);

@@ -63,13 +63,10 @@ bool IsMainSpace(const AcDbBlockTableRecord& block) {
 }
 
 void Writer::Plain(short code, const std::wstring& text) {
-  if (code != 0) {
+  if (code == 0)
+    m_filer.WriteMark(text);
+  else
     m_filer.writeString(code, text.c_str());
-    return;
-  }
-  m_out += "0\n";
-  m_out += WideToAnsi(text, 65001);
-  m_out += '\n';
 }
 
 void Writer::Section(const wchar_t* name) {
@@ -271,13 +268,17 @@ bool Fail(std::wstring* why, const std::wstring& path) {
 
 }  // namespace
 
+// Writing hands out handles to parts of objects, which is all that it changes.
+std::string DrawingText(const AcDbDatabase& database) {
+  return Writer(const_cast<AcDbDatabase&>(database)).Write();
+}
+
 // Written beside and renamed, so that a disk that fills up leaves the old drawing as it was.
 bool WriteDrawing(const std::wstring& path, const AcDbDatabase& database, std::wstring* why) {
-  Writer writer(const_cast<AcDbDatabase&>(database));  // writing hands out handles to parts
   const std::filesystem::path target(path), beside(path + L".tmp");
   {
     std::ofstream file(beside, std::ios::binary | std::ios::trunc);
-    const std::string& text = writer.Write();
+    const std::string text = DrawingText(database);
     file.write(text.data(), static_cast<std::streamsize>(text.size()));
     file.flush();
     if (!file) {

@@ -250,6 +250,13 @@ TEST(DxfRead, WhatIsNoDrawingIsSaidToBeNone) {
   EXPECT_NE(binary.report.message.find(L"二进制"), std::wstring::npos);
 }
 
+TEST(DxfRead, WhatCanBeNoEntityIsSkipped) {
+  Read r(Entities(Lines({"0", "ENDBLK", "5", "40", "8",  "0", "0",    "A B", "5",  "41", "8",
+                         "0", "0",      "",  "5",  "42", "0", "LINE", "5",   "43", "8",  "0"})));
+  EXPECT_EQ(r.InSpace(ACDB_MODEL_SPACE), 1u);
+  EXPECT_EQ(r.report.message, L"t.dxf(5): 此处不应有这样的对象，已跳过 (另有 2 处问题)");
+}
+
 TEST(DxfRead, SeveralProblemsAreToldInOneLine) {
   const Read r(Entities(
       Lines({"0", "CIRCLE", "40", "x", "0", "CIRCLE", "40", "y", "0", "VERTEX", "8", "0"})));
