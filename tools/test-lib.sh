@@ -61,7 +61,7 @@ run_play() {
   LC_ALL=zh_CN.UTF-8 wine reg delete 'HKLM\Software\Quivera' /f >/dev/null 2>&1
   LC_ALL=zh_CN.UTF-8 wine reg delete 'HKCU\Software\DevHost' /f >/dev/null 2>&1
   # shellcheck disable=SC2086
-  (cd "$work" && LC_ALL=zh_CN.UTF-8 timeout 180 wine ../../windows/bin/devhost.exe --product product \
+  (cd "$work" && LC_ALL=zh_CN.UTF-8 timeout 90 wine ../../windows/bin/devhost.exe --product product \
      --play play.script --journal journal.jsonl $args) >"$work/output.txt" 2>&1 || rc=$?
   if [ "$rc" -eq "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
     pass; printf 'play     %-28s ok\n' "$name"
