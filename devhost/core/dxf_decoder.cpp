@@ -70,6 +70,7 @@ std::size_t TakeCaret(const std::wstring& text, std::size_t at, std::wstring* ou
       *out += L'\t';
       return 2;
     case L'M':
+      *out += L'\r';
       return 2;
     case L' ':
       *out += L'^';
@@ -83,6 +84,8 @@ std::size_t TakeCaret(const std::wstring& text, std::size_t at, std::wstring* ou
 
 std::wstring DxfDecoder::Text(std::string_view value) const {
   std::wstring text = AnsiToWide(value, m_page);
+  std::replace(text.begin(), text.end(), L'\0',
+               L'\xFFFD');  // or the text would end here for others
   if (text.find_first_of(L"\\^") == std::wstring::npos) return text;
   std::wstring out;
   out.reserve(text.size());

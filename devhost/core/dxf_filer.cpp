@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 #include "adslib.h"
@@ -17,16 +18,19 @@ constexpr unsigned kUtf8 = 65001;
 
 // A line end inside a value would tear the file apart.
 std::string OneLine(const std::wstring& value) {
+  constexpr std::wstring_view kMeantAfterCaret = L" JIM";
   std::wstring text;
   for (std::size_t i = 0; i < value.size(); ++i) {
-    const wchar_t c = value[i];
+    const wchar_t c = value[i], next = i + 1 < value.size() ? value[i + 1] : L'\0';
     if (c == L'\n')
       text += L"^J";
+    else if (c == L'\r')
+      text += L"^M";
     else if (c == L'\t')
       text += L"^I";
-    else if (c == L'^' && i + 1 < value.size() && value[i + 1] == L' ')
+    else if (c == L'^' && next && kMeantAfterCaret.find(next) != std::wstring_view::npos)
       text += L"^ ";
-    else if (c != L'\r' && c != 0)
+    else if (c != 0)
       text += c;
   }
   return WideToAnsi(text, kUtf8);

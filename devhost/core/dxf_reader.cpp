@@ -40,7 +40,8 @@ const wchar_t* WordsFor(DxfDamage damage) {
 // Parts of other objects and marks of the file's own structure are no entities, nor is what has no
 // name that could be written again.
 bool MayBeEntity(std::string_view type) {
-  for (std::string_view mark : {"VERTEX", "SEQEND", "BLOCK", "ENDBLK", "TABLE", "ENDTAB", "CLASS"})
+  for (std::string_view mark :
+       {"VERTEX", "SEQEND", "ATTRIB", "BLOCK", "ENDBLK", "TABLE", "ENDTAB", "CLASS"})
     if (type == mark) return false;
   return !type.empty() && std::all_of(type.begin(), type.end(), [](char c) {
     return static_cast<unsigned char>(c) > ' ' && c != '\\' && c != '^';

@@ -98,6 +98,10 @@ TEST(DxfText, CodesInTheTextBecomeCharacters) {
   EXPECT_EQ(decoder.Text("\\M+5C7BD"), L"墙");
   EXPECT_EQ(decoder.Text("one^Jtwo"), L"one\ntwo");
   EXPECT_EQ(decoder.Text("a^ b"), L"a^b");
+  EXPECT_EQ(decoder.Text("a^Mb"), L"a\rb");
+  EXPECT_EQ(decoder.Text(std::string_view("a\0b", 3)),
+            L"a\xFFFD"
+            L"b");
   EXPECT_EQ(decoder.Text("\\S1^2;"), L"\\S1^2;");
   EXPECT_EQ(decoder.Text("^"), L"^");
   EXPECT_EQ(decoder.Text("\\U+"), L"\\U+");

@@ -110,14 +110,14 @@ TEST_F(DxfWrite, ErasedEntitiesAreNotWritten) {
 TEST_F(DxfWrite, ANewDrawingIsWrittenWithTheTablesThatReadersNeed) {
   AcDbDatabase database, again;
   AcDbBlockTableRecord::cast(database.currentSpaceId().object())
-      ->appendAcDbEntity(new AcDbText({1, 2, 0}, L"汉字^ 与\n换行", 3));
+      ->appendAcDbEntity(new AcDbText({1, 2, 0}, L"汉字^ 与\n换行^J^2\r\t", 3));
   const std::string text = WrittenText(database);
   for (const char* table : {"LTYPE", "LAYER", "STYLE", "APPID", "BLOCK_RECORD"})
     EXPECT_NE(text.find(std::string("TABLE\n2\n") + table + "\n"), std::string::npos) << table;
   ASSERT_EQ(ReadDrawingText(text, L"b.dxf", again).message, L"");
   const auto* space = AcDbBlockTableRecord::cast(again.currentSpaceId().object());
   ASSERT_EQ(space->entities().size(), 1u);
-  EXPECT_STREQ(AcDbText::cast(space->entities()[0].object())->textStringConst(), L"汉字^ 与\n换行");
+  EXPECT_STREQ(AcDbText::cast(space->entities()[0].object())->textStringConst(), L"汉字^ 与\n换行^J^2\r\t");
 }
 
 TEST_F(DxfWrite, RealsReadBackToTheLastBit) {
