@@ -4,16 +4,19 @@
 qvx_install_missing() {
   local packages=(g++ cmake ninja-build libgtest-dev wine wine64 g++-mingw-w64-x86-64-posix xvfb
                   xdotool x11-utils fonts-wqy-microhei fonts-wine imagemagick nlohmann-json3-dev
-                  libcli11-dev python3 ccache)
+                  libcli11-dev python3 ccache clang-format locales)
   local missing=() p
   for p in "${packages[@]}"; do
     [ "$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null)" = "install ok installed" ] || missing+=("$p")
   done
-  [ ${#missing[@]} -eq 0 ] && return 0
   local sudo=""; [ "$(id -u)" = 0 ] || sudo=sudo
-  echo "installing: ${missing[*]}" >&2
-  { $sudo apt-get update && $sudo env DEBIAN_FRONTEND=noninteractive \
-      apt-get install -y --no-install-recommends "${missing[@]}"; } >&2
+  if [ ${#missing[@]} -gt 0 ]; then
+    echo "installing: ${missing[*]}" >&2
+    { $sudo apt-get update && $sudo env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"; } >&2 || return 1
+  fi
+  # Code page 936 comes without it, but files with Chinese names need the locale to be there.
+  locale -a | grep -qix 'zh_CN\.utf-\?8' || $sudo localedef -i zh_CN -f UTF-8 zh_CN.UTF-8 >&2
 }
 
 # qvx_build PRESET [TARGET...]: configures once and builds; quiet unless something is wrong.

@@ -56,10 +56,7 @@ run_play() {
   local f; for f in $without; do rm -f "$work/product/"$f; done
   cp product/*.dxf "$work/"
   cp "$script" "$work/play.script"
-  # Every play starts as on a machine where nothing was ever set.
-  LC_ALL=zh_CN.UTF-8 wine reg delete 'HKCU\Software\Quivera' /f >/dev/null 2>&1
-  LC_ALL=zh_CN.UTF-8 wine reg delete 'HKLM\Software\Quivera' /f >/dev/null 2>&1
-  LC_ALL=zh_CN.UTF-8 wine reg delete 'HKCU\Software\DevHost' /f >/dev/null 2>&1
+  qvx_forget_settings
   # shellcheck disable=SC2086
   (cd "$work" && LC_ALL=zh_CN.UTF-8 timeout 90 wine ../../windows/bin/devhost.exe --product product \
      --play play.script --journal journal.jsonl $args) >"$work/output.txt" 2>&1 || rc=$?

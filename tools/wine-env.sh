@@ -36,6 +36,15 @@ qvx_wine_start() {
   ) 9>"$1/.wine-lock"
 }
 
+# As on a machine where nothing was ever set: neither the product's settings nor the host's are left.
+qvx_forget_settings() {
+  local key
+  for key in 'HKCU\Software\Quivera' 'HKLM\Software\Quivera' 'HKCU\Software\DevHost'; do
+    qvx_wine reg delete "$key" /f >/dev/null 2>&1
+  done
+  return 0
+}
+
 qvx_wine_stop() {
   [ -n "${WINEPREFIX:-}" ] && wineserver -k >/dev/null 2>&1
   [ -n "${QVX_XVFB_PID:-}" ] && kill "$QVX_XVFB_PID" 2>/dev/null

@@ -11,12 +11,14 @@ bool DrawingChild::CreateIn(CMDIFrameWnd* frame, const std::wstring& title) {
   BOOL maximized = TRUE;
   const LRESULT active = ::SendMessageW(frame->m_hWndMDIClient, WM_MDIGETACTIVE, 0,
                                         reinterpret_cast<LPARAM>(&maximized));
-  const DWORD state = !active || maximized ? WS_MAXIMIZE : 0;
-  if (!Create(nullptr, title.c_str(), WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW | state,
+  if (!Create(nullptr, title.c_str(), WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
               CRect(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0), frame))
     return false;
   if (!m_view.CreateIn(this)) return false;
+  // The icon comes first: the frame's menu bar takes it over at the moment of growing.
   SetIcon(frame->GetIcon(FALSE), FALSE);
+  if (!active || maximized)
+    ::SendMessageW(frame->m_hWndMDIClient, WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(m_hWnd), 0);
   RECT client{};
   ::GetClientRect(m_hWnd, &client);
   ::MoveWindow(m_view.m_hWnd, 0, 0, client.right, client.bottom, TRUE);
