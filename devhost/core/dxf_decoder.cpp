@@ -34,6 +34,17 @@ std::optional<unsigned> HexAt(const std::wstring& text, std::size_t at, std::siz
   return value;
 }
 
+// A page that the system does not have, or in which the marks of the format are written otherwise,
+// is as good as none named.
+bool IsUsable(unsigned page) {
+  if (page == 65001) return true;
+  if (page == 1200 || page == 1201 || page == 12000 || page == 12001) return false;  // wide units
+  const std::wstring high =
+      AnsiToWide("\xB0\xC4", page);  // a character or two in every page of the format
+  return AnsiToWide("A0\\", page) == L"A0\\" && !high.empty() &&
+         high.find(L'\xFFFD') == std::wstring::npos;
+}
+
 std::wstring TwoBytes(unsigned value, unsigned page) {
   const char bytes[2] = {static_cast<char>(value >> 8), static_cast<char>(value & 255)};
   return AnsiToWide(std::string_view(bytes, 2), page);
@@ -110,7 +121,8 @@ std::optional<unsigned> DxfPageOf(std::string_view name) {
     const char* digits = upper.data() + prefix.size();
     const char* last = upper.data() + upper.size();
     const auto [end, error] = std::from_chars(digits, last, page);
-    if (error == std::errc() && end == last && page > 0 && page < 65536) return page;
+    if (error == std::errc() && end == last && page > 0 && page < 65536 && IsUsable(page))
+      return page;
   }
   return std::nullopt;
 }

@@ -77,8 +77,14 @@ TEST(DxfText, CodePagesAreFoundByTheNamesThatProgramsWrite) {
   EXPECT_EQ(DxfPageOf("dos932"), 932u);
   EXPECT_EQ(DxfPageOf("GB2312"), 936u);
   EXPECT_EQ(DxfPageOf("UTF-8"), 65001u);
+  for (const char* page :
+       {"ANSI_874", "ANSI_932", "ANSI_949", "ANSI_950", "ANSI_1250", "ANSI_1251", "ANSI_1253",
+        "ANSI_1254", "ANSI_1255", "ANSI_1256", "ANSI_1257", "ANSI_1258", "DOS850", "DOS437"})
+    EXPECT_TRUE(DxfPageOf(page)) << page;
   EXPECT_FALSE(DxfPageOf("nonsense"));
   EXPECT_FALSE(DxfPageOf("ANSI_"));
+  EXPECT_FALSE(DxfPageOf("ANSI_93"));    // no such page
+  EXPECT_FALSE(DxfPageOf("ANSI_1200"));  // two bytes a character
 }
 
 TEST(DxfText, TextIsDecodedInTheFilesCodePage) {
