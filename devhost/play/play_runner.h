@@ -23,6 +23,7 @@ class PlayRunner {
 
  private:
   std::string PlayStep(const Step& step);
+  std::string WaitIdle();
   std::string WaitUntil(const char* what, bool (PlayRunner::*ready)());
   bool IsIdle() { return m_world.IsIdle(); }
   bool IsMenuOpen() { return m_world.IsMenuOpen(); }

@@ -129,6 +129,17 @@ TEST_F(PlayTest, NothingSentWaitsForTheSendDelay) {
             "t.script:2: expect nothing sent\n  expected nothing to be sent; sent: \"LATE\"");
 }
 
+TEST_F(PlayTest, WaitingForIdleLetsArmedTimersFireFirst) {
+  world.state = R"({"menu":"coming"})";
+  world.on["new"] = [this] {
+    world.later.emplace(world.Now() + 150ms, [this] { world.state = R"({"menu":"up"})"; });
+  };
+  std::string seen;
+  world.on["dump shell"] = [&] { seen = world.state; };
+  EXPECT_EQ(Play("new\nwait idle\ndump shell\n"), 0);
+  EXPECT_EQ(seen, R"({"menu":"up"})");
+}
+
 TEST_F(PlayTest, NothingSentNeedsAProgramThatBecomesIdle) {
   world.idleFrom = 1h;
   EXPECT_EQ(Play("expect nothing sent\n"), 1);
