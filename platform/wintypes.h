@@ -1,6 +1,7 @@
 // The few plain Windows types that decisions are written in. On Windows they are Windows' own; on a
 // machine without Windows headers the same names stand here with the same layout, so that a file of
-// pure logic includes this and nothing else. Not a substitute for windows.h: no function is declared.
+// pure logic includes this and nothing else. Not a substitute for windows.h: no function is
+// declared.
 #pragma once
 
 #ifdef _WIN32
@@ -24,9 +25,15 @@ using COLORREF = std::uint32_t;
 #define FALSE 0
 #endif
 
-struct POINT { LONG x, y; };
-struct SIZE { LONG cx, cy; };
-struct RECT { LONG left, top, right, bottom; };
+struct POINT {
+  LONG x, y;
+};
+struct SIZE {
+  LONG cx, cy;
+};
+struct RECT {
+  LONG left, top, right, bottom;
+};
 
 struct HWND__;
 struct HINSTANCE__;
@@ -36,7 +43,14 @@ using HINSTANCE = HINSTANCE__*;
 using HMODULE = HINSTANCE__*;
 using HKEY = HKEY__*;
 
-struct MSG { HWND hwnd; UINT message; WPARAM wParam; LPARAM lParam; DWORD time; POINT pt; };
+struct MSG {
+  HWND hwnd;
+  UINT message;
+  WPARAM wParam;
+  LPARAM lParam;
+  DWORD time;
+  POINT pt;
+};
 
 constexpr COLORREF RGB(int r, int g, int b) {
   return static_cast<COLORREF>((r & 255) | (g & 255) << 8 | (b & 255) << 16);
@@ -46,16 +60,39 @@ inline const HKEY HKEY_LOCAL_MACHINE = reinterpret_cast<HKEY>(std::uintptr_t{0x8
 
 // Scroll codes, message and key numbers, menu flags: Windows' published values.
 enum : UINT {
-  SB_LINEUP = 0, SB_LINEDOWN = 1, SB_PAGEUP = 2, SB_PAGEDOWN = 3, SB_THUMBPOSITION = 4,
-  SB_THUMBTRACK = 5, SB_TOP = 6, SB_BOTTOM = 7, SB_ENDSCROLL = 8,
+  SB_LINEUP = 0,
+  SB_LINEDOWN = 1,
+  SB_PAGEUP = 2,
+  SB_PAGEDOWN = 3,
+  SB_THUMBPOSITION = 4,
+  SB_THUMBTRACK = 5,
+  SB_TOP = 6,
+  SB_BOTTOM = 7,
+  SB_ENDSCROLL = 8,
 };
 enum : UINT {
-  WM_KEYDOWN = 0x100, WM_KEYUP = 0x101, WM_CHAR = 0x102, WM_TIMER = 0x113,
-  WM_MOUSEMOVE = 0x200, WM_LBUTTONDOWN = 0x201, WM_LBUTTONUP = 0x202, WM_LBUTTONDBLCLK = 0x203,
-  WM_RBUTTONDOWN = 0x204, WM_RBUTTONUP = 0x205, WM_MOUSEWHEEL = 0x20A, WM_CAPTURECHANGED = 0x215,
+  WM_KEYDOWN = 0x100,
+  WM_KEYUP = 0x101,
+  WM_CHAR = 0x102,
+  WM_TIMER = 0x113,
+  WM_MOUSEMOVE = 0x200,
+  WM_LBUTTONDOWN = 0x201,
+  WM_LBUTTONUP = 0x202,
+  WM_LBUTTONDBLCLK = 0x203,
+  WM_RBUTTONDOWN = 0x204,
+  WM_RBUTTONUP = 0x205,
+  WM_MOUSEWHEEL = 0x20A,
+  WM_CAPTURECHANGED = 0x215,
 };
 enum : int {
-  VK_TAB = 0x09, VK_RETURN = 0x0D, VK_SHIFT = 0x10, VK_CONTROL = 0x11, VK_ESCAPE = 0x1B,
-  VK_SPACE = 0x20, VK_DELETE = 0x2E, VK_F1 = 0x70, VK_F4 = 0x73,
+  VK_TAB = 0x09,
+  VK_RETURN = 0x0D,
+  VK_SHIFT = 0x10,
+  VK_CONTROL = 0x11,
+  VK_ESCAPE = 0x1B,
+  VK_SPACE = 0x20,
+  VK_DELETE = 0x2E,
+  VK_F1 = 0x70,
+  VK_F4 = 0x73,
 };
 #endif

@@ -1,6 +1,7 @@
 // The journal: everything that crosses the seam between host and modules and that a user would
-// notice, in the order in which it happened. Entries are kept in memory, where play scripts look for
-// what they expect, and are written as JSON lines (UTF-8) when a file is given. Any thread may call.
+// notice, in the order in which it happened. Entries are kept in memory, where play scripts look
+// for what they expect, and are written as JSON lines (UTF-8) when a file is given. Any thread may
+// call.
 #pragma once
 
 #include <chrono>
@@ -24,11 +25,11 @@ std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);
 
 struct JournalEntry {
-  int number;        // from 1
-  int milliseconds;  // since the journal was made
-  std::string event; // "sent", "printed", "prompt", "command", "lisp", "var", "messagebox", "dialog",
-                     // "shell", "help", "document", "module", "statustext"
-  Json fields;       // an object; what each event holds stands in docs/play-scripts.md
+  int number;         // from 1
+  int milliseconds;   // since the journal was made
+  std::string event;  // "sent", "printed", "prompt", "command", "lisp", "var", "messagebox",
+                      // "dialog", "shell", "help", "document", "module", "statustext"
+  Json fields;        // an object; what each event holds stands in docs/play-scripts.md
 };
 
 class Journal {

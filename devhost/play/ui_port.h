@@ -24,8 +24,8 @@ class UiPort {
   virtual bool IsMenuOpen() = 0;  // a native menu or pop-up is being tracked on the main thread
 
   virtual HWND Frame() = 0;
-  virtual HWND CommandLine() = 0;   // the edit control for typing
-  virtual HWND ActiveView() = 0;    // null with no drawing
+  virtual HWND CommandLine() = 0;  // the edit control for typing
+  virtual HWND ActiveView() = 0;   // null with no drawing
 
   // Screen points; false when there is no active view or no such entity.
   virtual bool WorldToScreen(double x, double y, POINT* out) = 0;

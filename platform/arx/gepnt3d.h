@@ -54,7 +54,7 @@ class AcGeMatrix3d {
     return {a * v.x + b * v.y, c * v.x + d * v.y, v.z};
   }
   AcGeMatrix3d operator*(const AcGeMatrix3d& inner) const;  // inner first
-  bool invert(AcGeMatrix3d* inverse) const;             // false when it flattens the plane
+  bool invert(AcGeMatrix3d* inverse) const;                 // false when it flattens the plane
   double scale() const { return std::sqrt(std::fabs(a * d - b * c)); }
   double rotation() const { return std::atan2(c, a); }
   double a = 1, b = 0, c = 0, d = 1, tx = 0, ty = 0;

@@ -76,10 +76,12 @@ void DrawAxes() {
   const double width = bay * columns, height = depth * rows, over = 1500;
   for (int i = 0; i <= columns; ++i)
     Add(std::make_unique<AcDbLine>(AcGePoint3d(at[0] + bay * i, at[1] - over, 0),
-                                   AcGePoint3d(at[0] + bay * i, at[1] + height + over, 0)), L"DOTE", 1);
+                                   AcGePoint3d(at[0] + bay * i, at[1] + height + over, 0)),
+        L"DOTE", 1);
   for (int i = 0; i <= rows; ++i)
     Add(std::make_unique<AcDbLine>(AcGePoint3d(at[0] - over, at[1] + depth * i, 0),
-                                   AcGePoint3d(at[0] + width + over, at[1] + depth * i, 0)), L"DOTE", 1);
+                                   AcGePoint3d(at[0] + width + over, at[1] + depth * i, 0)),
+        L"DOTE", 1);
   acutPrintf(L"\n轴网 %d x %d。\n", columns, rows);
 }
 
@@ -188,7 +190,8 @@ void MeasureRoom() {
   if (acedEntSel(L"\n选择房间: ", name, at) != RTNORM) return;
   AcDbObjectId id;
   QvxDbSpace* room = nullptr;
-  if (acdbGetObjectId(id, name) != Acad::eOk || acdbOpenObject(room, id, AcDb::kForRead) != Acad::eOk) {
+  if (acdbGetObjectId(id, name) != Acad::eOk ||
+      acdbOpenObject(room, id, AcDb::kForRead) != Acad::eOk) {
     acutPrintf(L"\n不是房间。\n");
     return;
   }
@@ -206,9 +209,9 @@ void ToggleOrtho() {
 }  // namespace
 
 const DesignCommand kDesignCommands[] = {
-    {L"TWall", DrawWalls},       {L"TAxis", DrawAxes},    {L"TAxisNo", NumberAxis},
-    {L"TColumn", InsertColumn},  {L"TDoor", InsertDoors}, {L"TWindow", InsertWindows},
-    {L"TStair", DrawStair},      {L"TRoom", DrawRoom},    {L"TText", WriteText},
-    {L"TDim2P", Dimension},      {L"TArea", MeasureRoom}, {L"TOrtho", ToggleOrtho},
+    {L"TWall", DrawWalls},      {L"TAxis", DrawAxes},    {L"TAxisNo", NumberAxis},
+    {L"TColumn", InsertColumn}, {L"TDoor", InsertDoors}, {L"TWindow", InsertWindows},
+    {L"TStair", DrawStair},     {L"TRoom", DrawRoom},    {L"TText", WriteText},
+    {L"TDim2P", Dimension},     {L"TArea", MeasureRoom}, {L"TOrtho", ToggleOrtho},
 };
 const int kDesignCommandCount = sizeof kDesignCommands / sizeof *kDesignCommands;

@@ -1,5 +1,6 @@
 // The design commands that the sample module registers, each a function without arguments as the
-// command stack wants it. Rows of the menu that are not here are unknown commands, and the host says so.
+// command stack wants it. Rows of the menu that are not here are unknown commands, and the host
+// says so.
 #pragma once
 
 struct DesignCommand {

@@ -7,9 +7,7 @@ namespace {
 
 constexpr wchar_t kGroup[] = L"QVX_DESIGN";
 
-AcEdCommandStack* Commands() {
-  return AcEdCommandStack::cast(acrxSysRegistry()->at(ACRX_CMDS));
-}
+AcEdCommandStack* Commands() { return AcEdCommandStack::cast(acrxSysRegistry()->at(ACRX_CMDS)); }
 
 void Register() {
   AcEdCommandStack* stack = Commands();
@@ -25,7 +23,8 @@ void Answer() {
 
 }  // namespace
 
-extern "C" __declspec(dllexport) AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packet) {
+extern "C" __declspec(dllexport) AcRx::AppRetCode
+    acrxEntryPoint(AcRx::AppMsgCode message, void* packet) {
   switch (message) {
     case AcRx::kInitAppMsg:
       acrxUnlockApplication(packet);
@@ -38,8 +37,11 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCod
     case AcRx::kLoadDwgMsg:
       for (int i = 0; i < kDesignFunctionCount; ++i) acedDefun(kDesignFunctions[i].name, i);
       break;
-    case AcRx::kInvkSubrMsg: Answer(); break;
-    default: break;
+    case AcRx::kInvkSubrMsg:
+      Answer();
+      break;
+    default:
+      break;
   }
   return AcRx::kRetOK;
 }

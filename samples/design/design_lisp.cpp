@@ -11,7 +11,8 @@ int wallFill = 0, boldLines = 0, baseLines = 0;
 
 int Ortho() {
   resbuf value{};
-  return acedGetVar(L"ORTHOMODE", &value) == RTNORM && value.restype == RTSHORT ? value.resval.rint : 0;
+  return acedGetVar(L"ORTHOMODE", &value) == RTNORM && value.restype == RTSHORT ? value.resval.rint
+                                                                                : 0;
 }
 
 void SetOrtho(int on) {
@@ -22,7 +23,9 @@ void SetOrtho(int on) {
 }
 
 template <int* State>
-void Get() { acedRetInt(*State); }
+void Get() {
+  acedRetInt(*State);
+}
 template <int* State>
 void Toggle() {
   *State = !*State;
@@ -51,13 +54,13 @@ void LispPath() { acedRetStr(QvxGeLib::g_sAppPath); }
 }  // namespace
 
 const DesignFunction kDesignFunctions[] = {
-    {L"QvxGetOrtho", GetOrtho},         {L"QvxToggleOrtho", ToggleOrtho},
-    {L"QvxGetFill", Get<&wallFill>},    {L"QvxToggleFill", Toggle<&wallFill>},
-    {L"QvxGetBold", Get<&boldLines>},   {L"QvxToggleBold", Toggle<&boldLines>},
-    {L"QvxGetBase", Get<&baseLines>},   {L"QvxToggleBase", Toggle<&baseLines>},
-    {L"QvxGetDynDim", GetDynDim},       {L"QvxToggleDynDim", ToggleDynDim},
-    {L"QvxGetGroup", GetGroup},         {L"QvxToggleGroup", ToggleGroup},
-    {L"QvxOrthoOn", OrthoOn},           {L"QvxNoDrawing", NoDrawing},
+    {L"QvxGetOrtho", GetOrtho},       {L"QvxToggleOrtho", ToggleOrtho},
+    {L"QvxGetFill", Get<&wallFill>},  {L"QvxToggleFill", Toggle<&wallFill>},
+    {L"QvxGetBold", Get<&boldLines>}, {L"QvxToggleBold", Toggle<&boldLines>},
+    {L"QvxGetBase", Get<&baseLines>}, {L"QvxToggleBase", Toggle<&baseLines>},
+    {L"QvxGetDynDim", GetDynDim},     {L"QvxToggleDynDim", ToggleDynDim},
+    {L"QvxGetGroup", GetGroup},       {L"QvxToggleGroup", ToggleGroup},
+    {L"QvxOrthoOn", OrthoOn},         {L"QvxNoDrawing", NoDrawing},
     {L"TGetLispPath", LispPath},
 };
 const int kDesignFunctionCount = sizeof kDesignFunctions / sizeof *kDesignFunctions;

@@ -117,7 +117,8 @@ TEST_F(DxfWrite, ANewDrawingIsWrittenWithTheTablesThatReadersNeed) {
   ASSERT_EQ(ReadDrawingText(text, L"b.dxf", again).message, L"");
   const auto* space = AcDbBlockTableRecord::cast(again.currentSpaceId().object());
   ASSERT_EQ(space->entities().size(), 1u);
-  EXPECT_STREQ(AcDbText::cast(space->entities()[0].object())->textStringConst(), L"汉字^ 与\n换行^J^2\r\t");
+  EXPECT_STREQ(AcDbText::cast(space->entities()[0].object())->textStringConst(),
+               L"汉字^ 与\n换行^J^2\r\t");
 }
 
 TEST_F(DxfWrite, RealsReadBackToTheLastBit) {

@@ -289,7 +289,8 @@ TEST_F(Palette, BeforeRelease172TheDockBarIsLeftAlone) {
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   const HWND otherSide = ::GetDlgItem(::GetParent(dockBar), AFX_IDW_DOCKBAR_RIGHT);
   ASSERT_TRUE(otherSide) << "the bar on the other side has the procedure that all bars have";
-  EXPECT_EQ(::GetWindowLongPtrW(dockBar, GWLP_WNDPROC), ::GetWindowLongPtrW(otherSide, GWLP_WNDPROC));
+  EXPECT_EQ(::GetWindowLongPtrW(dockBar, GWLP_WNDPROC),
+            ::GetWindowLongPtrW(otherSide, GWLP_WNDPROC));
   host.releaseMajor = 24;
   host.releaseMinor = 0;
 }

@@ -249,8 +249,8 @@ void DriverWorld::Pause(Milliseconds time) {
     std::this_thread::sleep_for(std::min(left, kSlice));
 }
 
-// A user's hand is slow beside the program, whatever else the machine does: the next press waits until
-// this one has been taken.
+// A user's hand is slow beside the program, whatever else the machine does: the next press waits
+// until this one has been taken.
 void DriverWorld::Settle(Milliseconds time) {
   Pause(time);
   const Milliseconds end = Now() + kInputTaken;
