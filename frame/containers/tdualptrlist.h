@@ -83,18 +83,8 @@ class TDualPtrList : public TList<T> {
     this->LinkAfterCur(node);
   }
   Node* DetachAfter() override {
-    // Its nodes have to reach the caller as plain nodes, which is how it frees them.
-    Node* chain = nullptr;
-    Node** end = &chain;
-    for (Node* n = m_node->next; n != m_sentinel;) {
-      *end = new Node{std::move(n->value), nullptr};
-      end = &(*end)->next;
-      delete Dual(std::exchange(n, n->next));
-    }
-    m_node->next = m_sentinel;
-    Dual(m_sentinel)->prev = Dual(m_node);
-    m_last = m_node;
-    m_length = m_current + 1;
+    Node* chain = TList<T>::DetachAfter();
+    Dual(m_sentinel)->prev = Dual(m_last);
     return chain;
   }
   void Reverse() override {

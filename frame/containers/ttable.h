@@ -4,10 +4,22 @@
 // value.
 #pragma once
 
+#include <cstddef>
+#include <new>
+
+// `delete` on a plain node pointer frees a node of any list of the family, the larger ones of
+// TDualPtrList too, so that whoever was left with a detached node need not know where it stood.
 template <class T>
 struct TListNode {
   T value{};  // first, so that a node pointer is also a pointer to its value
   TListNode* next = nullptr;
+
+  static void* operator new(std::size_t size) { return ::operator new(size); }
+  static void operator delete(void* node) { ::operator delete(node); }  // construction failed
+  static void operator delete(TListNode* node, std::destroying_delete_t) {
+    node->~TListNode();
+    ::operator delete(node);
+  }
 };
 
 template <class T>

@@ -333,6 +333,20 @@ TYPED_TEST(CursorList, DetachAfterCutsTheRingAndLeavesTheNodesToTheCaller) {
   EXPECT_EQ(this->list.DetachAfter(), nullptr);
 }
 
+TYPED_TEST(CursorList, TheNodesThatDetachAfterLeavesAreThoseThatStoodInTheList) {
+  this->Fill(3);
+  auto* second = this->list.NodeAt(1);
+  auto* third = this->list.NodeAt(2);
+  EXPECT_EQ(this->list.DetachAfter(0), second);
+  EXPECT_EQ(second->value, 10);
+  EXPECT_EQ(second->next, third);
+  EXPECT_EQ(third->next, nullptr);
+  delete second;
+  delete third;
+  this->list.Append(7);
+  EXPECT_EQ(this->Text(), "0 7 ");
+}
+
 TYPED_TEST(CursorList, AppendMovesTheTailOfAnotherList) {
   TypeParam other;
   for (int v : {1, 2, 3}) other.Append(v);
