@@ -23,9 +23,9 @@ TMenuBar* TMenuSystem::FindBar(const wchar_t* name) {
   return nullptr;
 }
 
-int TMenuSystem::FindBarIndexNoCase(const wchar_t* name) const {
+int TMenuSystem::FindBarIndexNoCase(const wchar_t* name) {
   for (int i = 0; i < Length(); ++i)
-    if (EqualNamesNoCase(At(i)->m_strName, std::wstring_view(name))) return i;
+    if (EqualNamesNoCase((*this)[i]->m_strName, std::wstring_view(name))) return i;
   return -1;
 }
 

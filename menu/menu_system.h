@@ -18,11 +18,12 @@ class TMenuSystem : public CObject, public TDPtrList<TMenuBar> {
   // first.
   void Serialize(CArchive& ar) override;
 
+  // Searches over the blocks leave the cursor on the block where they ended.
   // Over all blocks in order; see TMenuBar.
   TMenuItem* FindItemByCommand(const wchar_t* command);
   TMenuBar* FindBar(const wchar_t* name);  // exact
   // Index of the first block of that name, case ignored; -1 when there is none.
-  int FindBarIndexNoCase(const wchar_t* name) const;
+  int FindBarIndexNoCase(const wchar_t* name);
   int FindResource(const wchar_t* name) const;  // index, exact; -1 when there is none
 
   // Blocks first: their lines point at switches.

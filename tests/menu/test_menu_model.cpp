@@ -104,6 +104,18 @@ TEST(MenuModel, ASearchLeavesTheCursorOnTheLineFound) {
   EXPECT_EQ(bar.Cursor(), 1);
 }
 
+TEST(MenuModel, ASearchForABlockLeavesTheCursorOnIt) {
+  TMenuSystem system;
+  for (const wchar_t* name : {L"A", L"Screen", L"C"}) {
+    system.Append(new TMenuBar);
+    system.Last()->m_strName = name;
+  }
+  EXPECT_EQ(system.FindBarIndexNoCase(L"SCREEN"), 1);
+  EXPECT_EQ(system.Cursor(), 1);
+  EXPECT_EQ(system.FindBar(L"A"), system.At(0));
+  EXPECT_EQ(system.Cursor(), 0);
+}
+
 TEST(MenuModel, FindItemByIdSkipsSeparatorsAndLinesWithASubMenu) {
   TMenuBar bar;
   Line(bar, L"--", L"");
