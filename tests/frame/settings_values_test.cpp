@@ -11,6 +11,9 @@
 #include "kernel/native_file.h"
 #include "kernel/tregproperty.h"
 #include "menu/menu_item.h"
+#ifndef _WIN32
+#include "kernel/native/file_store.h"
+#endif
 
 namespace {
 
@@ -37,6 +40,16 @@ void SetFlag(const wchar_t* name, int value) {
   TRegProperty key(GetRegLocation(), L"InitFlag");
   key.SetTopRootKey(HKEY_LOCAL_MACHINE);
   key.SetValue(name, value);
+}
+
+// Whatever earlier tests and runs left under the machine's key.
+void ForgetMachineValues() {
+#ifdef _WIN32
+  CString path(GetRegLocation());
+  ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, path + L"\\InitFlag");
+#else
+  UseSettingsFile(nullptr);
+#endif
 }
 
 int Flag(const wchar_t* name) {
@@ -93,4 +106,18 @@ TEST_F(FrameValues, AboveNineteenTheOlderValueDecides) {
   SetFlag(L"InitStart19.1", 1);
   SetFlag(L"InitStart19", 0);
   EXPECT_FALSE(HasStartedBefore(24.0));
+}
+
+TEST_F(FrameValues, AboveNineteenTheOlderValueAloneMeansItHasStarted) {
+  ForgetMachineValues();
+  SetFlag(L"InitStart19", 1);
+  ASSERT_EQ(Flag(L"InitStart19.1"), -1) << "it is not there";
+  EXPECT_TRUE(HasStartedBefore(24.0)) << "so that no module of the first-start list is loaded";
+  EXPECT_EQ(Flag(L"InitStart19.1"), 1);
+}
+
+TEST_F(FrameValues, AboveNineteenNeitherValueMeansAFirstStart) {
+  ForgetMachineValues();
+  EXPECT_FALSE(HasStartedBefore(24.0));
+  EXPECT_EQ(Flag(L"InitStart19"), 1);
 }

@@ -254,6 +254,24 @@ TEST(RecentList, AnEleventhCommandDropsTheOldest) {
   EXPECT_EQ(Commands(recent), "k j i h g f e d c b ");
 }
 
+TEST(RecentList, ACopyThatIsDroppedDeletesNoSubMenu) {
+  TMenuItem header(L"header", L"x");
+  Line(*SubMenu(header), L"inner", L"y");
+  {
+    TMenuStack recent;
+    recent.Append(new TMenuItem(header));
+    EXPECT_EQ(recent.At(0)->m_pSubMenu, nullptr);
+    for (wchar_t c = L'a'; c <= L'j'; ++c) {
+      const wchar_t text[] = {c, 0};
+      recent.AddRecent(text);
+    }
+    EXPECT_EQ(Commands(recent), "j i h g f e d c b a ") << "the copy was the oldest";
+    recent.Append(new TMenuItem(header));
+  }
+  ASSERT_EQ(header.m_pSubMenu->Length(), 1);
+  EXPECT_TRUE(header.m_pSubMenu->At(0)->m_strLabel == L"inner");
+}
+
 TEST(RecentList, TakesLabelAndIconFromTheScreenMenuFirstThenFromTheBlocks) {
   TMenuBar root;
   TMenuSystem system;

@@ -23,6 +23,11 @@ TEST(ClickRules, ASubMenuFoldsASwitchFlipsAndAnyOtherLineSends) {
   EXPECT_EQ(qvx::DecideClick(*bar.At(3)), ClickKind::kNothing);
 }
 
+TEST(ClickRules, ASeparatorSendsNothingWhateverCommandItsLineHas) {
+  TMenuBar bar;
+  EXPECT_EQ(qvx::DecideClick(*AddLine(bar, L"--", L"TWall\n")), ClickKind::kNothing);
+}
+
 TEST(BusyCheck, AnActiveCommandOrANamedOneIsBusy) {
   EXPECT_FALSE(qvx::IsBusy({0, TWCString(L"")}));
   EXPECT_TRUE(qvx::IsBusy({1, TWCString(L"")}));

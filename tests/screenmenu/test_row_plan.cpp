@@ -38,6 +38,14 @@ TEST_F(RowPlans, ASeparatorIsAThirdOfARowThinWithoutTextAndOff) {
   EXPECT_EQ(plan.image, RowImage::kNone);
 }
 
+TEST_F(RowPlans, ASeparatorShowsNoIconEvenWhenItsLineNamesOne) {
+  AddResource(system, L"ID_A", L"A16");
+  TMenuItem* line = AddLine(bar, L"--", L"TWall\n");
+  line->m_nIconIndex = 0;
+  EXPECT_EQ(Plan(*line).image, RowImage::kNone);
+  EXPECT_STREQ(Plan(*line).bitmap, L"");
+}
+
 TEST_F(RowPlans, ASeparatorsHeightIsCutAndNotRounded) {
   const RowPlan plan = qvx::PlanRow(*AddLine(bar, L"--"), {&lisp, &system, true, 24});
   EXPECT_EQ(plan.height, 7);  // 23 / 3
