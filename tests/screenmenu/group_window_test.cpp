@@ -140,6 +140,64 @@ TEST_F(GroupWindows, AnotherHeaderFoldsTheFirstAndOpensTheSecondInOneStep) {
   EXPECT_EQ(PlaceOf(group.Child(1)).top, 52);
 }
 
+// Counts how often a window is moved or sized, in place of its own procedure.
+class MoveCounter {
+ public:
+  explicit MoveCounter(HWND window) : m_window(window) {
+    s_moves = 0;
+    s_procedure = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Count)));
+  }
+  ~MoveCounter() {
+    ::SetWindowLongPtrW(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_procedure));
+  }
+  int Moves() const { return s_moves; }
+
+ private:
+  static LRESULT CALLBACK Count(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_WINDOWPOSCHANGED) ++s_moves;
+    return ::CallWindowProcW(s_procedure, window, message, wParam, lParam);
+  }
+  HWND m_window;
+  inline static WNDPROC s_procedure = nullptr;
+  inline static int s_moves = 0;
+};
+
+// The two groups are equally high. A pass for the fold and one for the opening would move the last
+// row up and down again.
+TEST_F(GroupWindows, ChangingTheOpenGroupIsOneLayoutPass) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  AddLine(*AddHeader(bar, L"门窗"), L"画门", L"TDoor\n");
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  const MoveCounter last(group.Row(2)->m_hWnd);
+  Click(group, 1);
+  EXPECT_EQ(group.OpenIndex(), 1);
+  EXPECT_EQ(last.Moves(), 0);
+  Click(group, 1);
+  EXPECT_EQ(last.Moves(), 1) << "a fold alone moves it";
+}
+
+TEST_F(GroupWindows, OpeningTheFirstOnALeafOpensNothingAndTheFirstClickOnAHeaderOpensIt) {
+  g_bDefaultOpenFirst = 1;
+  AddLine(bar, L"轴网", L"TAxis\n");
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  CMenuGroup& group = Build();
+  EXPECT_EQ(group.OpenIndex(), 0);
+  EXPECT_FALSE(group.Child(1)->IsWindowVisible());
+  Click(group, 1);
+  EXPECT_EQ(group.OpenIndex(), 1);
+  EXPECT_TRUE(group.Child(1)->IsWindowVisible());
+}
+
+TEST_F(GroupWindows, AnEmptyBarIsAGroupOfFourPixelsWithoutButtons) {
+  CMenuGroup& group = Build();
+  EXPECT_EQ(group.RowCount(), 0);
+  EXPECT_EQ(group.ContentHeight(), 4);
+  EXPECT_EQ(::GetWindow(group.m_hWnd, GW_CHILD), nullptr);
+}
+
 TEST_F(GroupWindows, AParentOpenedAgainShowsItsInnerGroupsAsTheyWereLeft) {
   AddLine(*AddHeader(*AddHeader(bar, L"一"), L"二"), L"叶", L"x");
   CMenuGroup& group = Build();
@@ -263,6 +321,18 @@ TEST_F(GroupWindows, AClickOnACommandArmsItAndASeparatorThatIsReachedDoesNothing
   EXPECT_EQ(owner.notes.size(), 1u);
 }
 
+// Both groups have a row 5000.
+TEST_F(GroupWindows, AClickIsLookedUpInTheGroupThatReceivesItAlone) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  CMenuGroup& group = Build();
+  ASSERT_EQ(group.Row(0)->GetDlgCtrlID(), group.Child(1)->Row(0)->GetDlgCtrlID());
+  Click(group, 1);
+  Click(*group.Child(1), 0);
+  Click(group, 0);
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TWall\n", L"arm TAxis\n"}));
+}
+
 TEST_F(GroupWindows, FocusNotificationsAndUnknownIdentifiersAreNoClicks) {
   AddLine(bar, L"轴网", L"TAxis\n");
   CMenuGroup& group = Build();
@@ -324,6 +394,8 @@ TEST_F(GroupWindows, ASwitchThatFailedStaysDisabledHoweverOftenItIsRefreshed) {
   owner.lisp.Number(L"get", 2);
   group.RefreshSwitches();
   EXPECT_FALSE(group.Row(0)->IsWindowEnabled());
+  root.reset();
+  EXPECT_TRUE(Build().Row(0)->IsWindowEnabled()) << "until the tree is built anew";
 }
 
 TEST_F(GroupWindows, ARightClickAsksForTheMenuOfTheHeaderOrOfTheLine) {

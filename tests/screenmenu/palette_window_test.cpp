@@ -136,6 +136,24 @@ TEST_F(Palette, AMenuLoadedWithoutAPaletteLosesItsScreenBlock) {
   EXPECT_EQ(g_pScreenMenu, nullptr);
 }
 
+TEST_F(Palette, AMenuWithoutAScreenBlockLeavesItAsItWas) {
+  ComeUp();
+  Attach();
+  Click(Root(), 1);
+  const CMenuGroup* root = &Root();
+  const std::string before = DescribeScreenMenu();
+  auto* common = new TMenuBar;
+  common->m_strName = L"COMMON";
+  AddLine(*common, L"别", L"TOther\n");
+  rooms.system.Append(common);
+  rooms.system.m_strTitle = L"别的菜单";
+  AttachScreenBar(rooms.system);
+  host.Pump();
+  EXPECT_EQ(&Root(), root);
+  EXPECT_EQ(DescribeScreenMenu(), before);
+  EXPECT_EQ(rooms.system.Length(), 1);
+}
+
 TEST_F(Palette, TheRootGroupIsFittedThreeBelowTheTopAndTwoAboveTheBottom) {
   ComeUp();
   Attach();
@@ -238,6 +256,43 @@ TEST_F(Palette, GoingDownKeepsWhatItKnows) {
   EXPECT_TRUE(Root().Child(1)->IsWindowVisible());
 }
 
+TEST_F(Palette, ARememberedLeafIsWrittenBackUnlessAGroupWasOpened) {
+  const auto upWithNothingOpen = [this] {
+    ComeUp();
+    Attach();
+    for (int i : {0, 1}) EXPECT_FALSE(Root().Child(i)->IsWindowVisible());
+  };
+  qvx::SaveActiveSubMenu(2);
+  upWithNothingOpen();
+  InitScreenMenu(false, true);
+  EXPECT_EQ(Saved(L"ActiveSubMenu"), 2);
+  upWithNothingOpen();
+  Click(Root(), 1);
+  InitScreenMenu(false, true);
+  EXPECT_EQ(Saved(L"ActiveSubMenu"), 1);
+}
+
+TEST_F(Palette, ARememberedIndexBeyondTheMenuOpensNothing) {
+  qvx::SaveActiveSubMenu(99);
+  ComeUp();
+  Attach();
+  EXPECT_EQ(Root().OpenIndex(), -1);
+  for (int i : {0, 1}) EXPECT_FALSE(Root().Child(i)->IsWindowVisible());
+}
+
+TEST_F(Palette, AWheelWithNothingToScrollIsTakenAndMovesNothing) {
+  ComeUp();
+  const auto turn = [] {
+    return g_pScreenMenu->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), MAKELPARAM(60, 60));
+  };
+  EXPECT_TRUE(turn()) << "without a tree";
+  Attach();
+  ASSERT_FALSE(Root().HasScrollBar());
+  const CRect before = PlaceOf(*Root().Row(0));
+  EXPECT_TRUE(turn());
+  EXPECT_EQ(PlaceOf(*Root().Row(0)), before);
+}
+
 TEST_F(Palette, TheFirstDrawingEnablesItAndTheLastOneDisablesIt) {
   ComeUp();
   TScreenMenuReactor reactor;
@@ -280,6 +335,57 @@ TEST_F(Palette, TheDraggedEdgeGivesTheNewWidthAndStopsAtTheLeast) {
   drag(edge + 60, edge - 100);
   host.Pump();
   EXPECT_EQ(GetScreenMenuWidth(), 180) << "a jump beyond the least size is refused whole";
+}
+
+TEST_F(Palette, AnEdgeDraggedPastTheLeastWidthStopsThereAndThePaletteTakesIt) {
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  CRect place = PlaceOf(*g_pScreenMenu);
+  ::MapWindowPoints(nullptr, dockBar, reinterpret_cast<POINT*>(&place), 2);
+  int x = place.right + ::GetSystemMetrics(SM_CXFRAME) / 2;
+  ::SendMessageW(dockBar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, 50));
+  for (int step = 0; step < 60; ++step)
+    ::SendMessageW(dockBar, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(--x, 50));
+  ::SendMessageW(dockBar, WM_LBUTTONUP, 0, MAKELPARAM(x, 50));
+  host.Pump();
+  EXPECT_EQ(GetScreenMenuWidth(), 74);
+}
+
+class Neighbour : public CControlBar {
+ public:
+  bool DockIn(CFrameWnd* frame) {
+    m_dwStyle = CBRS_LEFT;
+    if (!CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), frame,
+                  901))
+      return false;
+    EnableDocking(CBRS_ALIGN_ANY);
+    return true;
+  }
+  CSize CalcFixedLayout(BOOL, BOOL) override { return CSize(50, 50); }
+  void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
+};
+
+TEST_F(Palette, AVisibleNeighbourGivesTheEdgeBackToTheHostAtTheNextLayout) {
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  const HWND otherSide = ::GetDlgItem(::GetParent(dockBar), AFX_IDW_DOCKBAR_RIGHT);
+  const auto isTaken = [dockBar, otherSide] {
+    return ::GetWindowLongPtrW(dockBar, GWLP_WNDPROC) !=
+           ::GetWindowLongPtrW(otherSide, GWLP_WNDPROC);
+  };
+  EXPECT_TRUE(isTaken()) << "it stands alone";
+  Neighbour bar;
+  ASSERT_TRUE(bar.DockIn(host.frame));
+  CRect beside = PlaceOf(*g_pScreenMenu);
+  beside.top += beside.Height() / 2;
+  host.frame->DockControlBar(&bar, AFX_IDW_DOCKBAR_LEFT, &beside);
+  ASSERT_EQ(::GetParent(bar.m_hWnd), dockBar);
+  g_pScreenMenu->CalcFixedLayout(TRUE, FALSE);
+  EXPECT_FALSE(isTaken());
+  host.frame->ShowControlBar(&bar, FALSE, FALSE);
+  g_pScreenMenu->CalcFixedLayout(TRUE, FALSE);
+  EXPECT_TRUE(isTaken()) << "a hidden bar is no neighbour";
+  bar.DestroyWindow();
 }
 
 TEST_F(Palette, BeforeRelease172TheDockBarIsLeftAlone) {
