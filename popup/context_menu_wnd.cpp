@@ -39,8 +39,8 @@ ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 BOOL CContextMenuWnd::CreateIn(CWnd* frame) {
-  const RECT corner = {0, 0, 1, 1};
-  if (!Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, corner, frame, kControlId)) return FALSE;
+  const RECT empty = {0, 0, 0, 0};  // so a visible child shows nothing
+  if (!Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, empty, frame, kControlId)) return FALSE;
   SetTimer(kReadinessTimer, kStartPeriod, nullptr);
   return TRUE;
 }
