@@ -110,12 +110,15 @@ int CMenuGroup::WheelGroup(UINT, short delta, CPoint) {
   return 1;
 }
 
+// Goes the way of a scroll message, default handling first, but with the whole position: a message
+// would cut it to 16 bits.
 void CMenuGroup::RevealRect(const CRect& rect) {
   if (!HasScrollBar()) return;
   CRect client;
   GetClientRect(&client);
-  const int shift = qvx::RevealShift(rect, client);
-  ScrollGroup(SB_THUMBTRACK, shift + m_scrollBar.GetScrollPos());
+  const int position = qvx::RevealShift(rect, client) + m_scrollBar.GetScrollPos();
+  CWnd::OnVScroll(SB_THUMBTRACK, static_cast<UINT>(position), nullptr);
+  ScrollGroup(SB_THUMBTRACK, position);
 }
 
 void CMenuGroup::OnSize(UINT type, int cx, int cy) {

@@ -465,4 +465,36 @@ TEST_F(GroupWindows, AMenuNestedDeeperThanWindowsNestComesUpAsFarAsItGoes) {
   EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TLast\n"}));
 }
 
+// A group that counts what reaches the default handling.
+class CountedGroup : public CMenuGroup {
+ public:
+  using CMenuGroup::CMenuGroup;
+  int defaults = 0;
+
+ protected:
+  LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    ++defaults;
+    return CMenuGroup::DefWindowProc(message, wParam, lParam);
+  }
+};
+
+TEST_F(GroupWindows, BringingAGroupIntoViewHasTheDefaultHandlingOfAScrollFirst) {
+  Fill(30);
+  CountedGroup group(&bar, CRect(0, 0, 120, 300), &palette, 5000, false, &owner);
+  ASSERT_TRUE(group.HasScrollBar());
+  group.defaults = 0;
+  group.RevealRect(CRect(0, 10, 120, 60));
+  EXPECT_EQ(group.defaults, 1);
+  EXPECT_EQ(group.ScrollBar().GetScrollPos(), 0) << "it shows whole";
+}
+
+TEST_F(GroupWindows, WithoutAScrollBarNothingIsHandledToBringAGroupIntoView) {
+  Fill(2);
+  CountedGroup group(&bar, CRect(0, 0, 120, 300), &palette, 5000, false, &owner);
+  ASSERT_FALSE(group.HasScrollBar());
+  group.defaults = 0;
+  group.RevealRect(CRect(0, 10, 120, 900));
+  EXPECT_EQ(group.defaults, 0);
+}
+
 }  // namespace
