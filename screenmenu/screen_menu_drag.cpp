@@ -5,6 +5,13 @@
 #include "dbapserv.h"
 #include "screenmenu/screen_menu.h"
 
+namespace {
+
+// Styles for the frame that a bar with a dragged edge is to float in later.
+constexpr DWORD kSizedByUser = CBRS_SIZE_DYNAMIC | CBRS_HIDE_INPLACE;
+
+}  // namespace
+
 // The mouse is followed only while no other bar is docked beside the palette: with a neighbour the
 // edge is the host's again at the next layout.
 CSize CScreenMenu::CalcFixedLayout(BOOL stretch, BOOL horizontal) {
@@ -129,4 +136,5 @@ void CScreenMenu::TrackEnd() {
   const qvx::DockGeometry dock = MeasureDock();
   const CRect dragged(qvx::DraggedRect(m_rcTracker, dock, window));
   DockControlBar(static_cast<UINT>(dock.dockBar), &dragged);
+  if (m_pDockContext) m_pDockContext->m_dwMRUFloatStyle |= kSizedByUser;
 }

@@ -337,6 +337,18 @@ TEST_F(Palette, TheDraggedEdgeGivesTheNewWidthAndStopsAtTheLeast) {
   EXPECT_EQ(GetScreenMenuWidth(), 180) << "a jump beyond the least size is refused whole";
 }
 
+TEST_F(Palette, ADraggedEdgeMarksTheStyleThatThePaletteFloatsWith) {
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  ASSERT_NE(g_pScreenMenu->m_pDockContext, nullptr);
+  EXPECT_EQ(g_pScreenMenu->m_pDockContext->m_dwMRUFloatStyle & 0x0Cu, 0u);
+  CRect place = PlaceOf(*g_pScreenMenu);
+  ::MapWindowPoints(nullptr, dockBar, reinterpret_cast<POINT*>(&place), 2);
+  ::SendMessageW(dockBar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.right + 1, 50));
+  ::SendMessageW(dockBar, WM_LBUTTONUP, 0, MAKELPARAM(place.right + 1, 50));
+  EXPECT_EQ(g_pScreenMenu->m_pDockContext->m_dwMRUFloatStyle & 0x0Cu, 0x0Cu);
+}
+
 TEST_F(Palette, AnEdgeDraggedPastTheLeastWidthStopsThereAndThePaletteTakesIt) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
