@@ -1,6 +1,5 @@
 #include "frame/host_window.h"
 
-#include "acdocman.h"
 #include "afxwin.h"
 #include "frame/host_release.h"
 #include "kernel/globals.h"
@@ -16,10 +15,4 @@ void SetFrameTitle(const wchar_t* title) {
 
 void HideFrameCaption() {
   if (CWnd* frame = acedGetAcadFrame()) frame->ModifyStyle(WS_CAPTION, 0);
-}
-
-void SendToHost(const wchar_t* text) {
-  AcApDocManager* documents = acDocManagerPtr();
-  AcApDocument* current = documents ? documents->curDocument() : nullptr;
-  if (current) documents->sendStringToExecute(current, text, true, false, true);
 }

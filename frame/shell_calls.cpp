@@ -1,6 +1,5 @@
 // What rooms below ask of the module while it runs, and the bring-up of the menu.
 #include "aced.h"
-#include "frame/host_window.h"
 #include "frame/lisp_path.h"
 #include "frame/recent_commands.h"
 #include "frame/shell.h"
@@ -9,6 +8,7 @@
 #include "kernel/qvxexport.h"
 #include "kernel/tadsprintf.h"
 #include "kernel/tregproperty.h"
+#include "screenmenu/host_lisp.h"
 #include "screenmenu/screen_menu.h"
 
 namespace {
@@ -53,7 +53,7 @@ class LiveBringUp : public BringUpSteps {
   void StopReadinessTimer() override {
     if (CContextMenuWnd* window = TheContextWindow()) window->StopReadinessTimer();
   }
-  void SendToHost(const wchar_t* text) override { ::SendToHost(text); }
+  void SendToHost(const wchar_t* text) override { qvx::SendToHost(text); }
 
  private:
   Shell& m_shell;
