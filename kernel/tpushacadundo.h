@@ -1,5 +1,5 @@
-// One undo group for a scope: what the host records between construction and destruction is taken
-// back in one step. Scopes nest; only the outermost one marks.
+// Marks a scope whose changes are to be taken back in one step. The host makes one step of a whole
+// LISP call by itself, so the scope only counts how deep such scopes stand; it sets no mark.
 #pragma once
 
 #include "kernel/kernel_export.h"

@@ -1,6 +1,6 @@
 // What the palette keeps in the user's settings, under GetRegLocation() + "\Settings", folder
-// ScreenMenu, and the fixed numbers of its window. Reading leaves the caller's defaults standing
-// where a value is missing. Called by CScreenMenu and by the root group.
+// ScreenMenu, and the fixed numbers of its window. A missing value leaves the caller's default
+// as it is. Called by CScreenMenu and by the root group.
 #pragma once
 
 #include "wintypes.h"

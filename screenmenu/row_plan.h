@@ -45,7 +45,7 @@ TSwitchStateItem* AskSwitch(const TMenuItem& line, LispCaller& lisp);
 void CopyState(const TSwitchStateItem& state, TMenuItem& line);
 
 // True when the line took over another state. Only the icon is compared: two states that share an
-// icon leave the old caption standing, and users of such switches know it so.
+// icon keep the old caption, and users of such switches know it so.
 bool RefreshSwitchLine(TMenuItem& line, LispCaller& lisp);
 
 // The image name of the line's icon, or null when the button must get no image call.
