@@ -1,6 +1,8 @@
 // The hover-aware button as a real window: capture, focus, tip, drawing, handles.
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "afxwin.h"
 #include "dialogs/button_st.h"
 
@@ -9,6 +11,18 @@ namespace {
 class TestButton : public CButtonST {
  public:
   CToolTipCtrl* Tip() const { return m_pToolTip.get(); }
+  CSize ImageSize() const { return CSize(m_cxImage, m_cyImage); }
+};
+
+class ClickCounter : public CWnd {
+ public:
+  int clicks = 0;
+
+ protected:
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+    if (HIWORD(wParam) == BN_CLICKED) ++clicks;
+    return CWnd::OnCommand(wParam, lParam);
+  }
 };
 
 class ButtonWindow : public testing::Test {
@@ -40,7 +54,7 @@ class ButtonWindow : public testing::Test {
     button.DrawItem(&draw);
     return ::GetPixel(memory.Get(), x, y);
   }
-  CWnd parent;
+  ClickCounter parent;
   TestButton button;
 };
 
@@ -62,6 +76,27 @@ TEST_F(ButtonWindow, KeepsTheMouseWhileAPressIsCarriedOff) {
   Move(-5, 5, MK_LBUTTON);
   EXPECT_EQ(::GetCapture(), button.m_hWnd);
   EXPECT_FALSE(button.IsMouseOn());
+}
+
+TEST_F(ButtonWindow, APressReleasedOutsideIsNoClickAndLeavesNoHover) {
+  // Taking the mouse for the press costs the button the one it held; the move that the window system
+  // sends after it takes it again.
+  const auto press = [this] {
+    button.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    Move(5, 5, MK_LBUTTON);
+  };
+  Move(5, 5);
+  press();
+  button.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(parent.clicks, 1) << "released inside";
+  Move(5, 5);
+  press();
+  Move(-5, 5, MK_LBUTTON);
+  EXPECT_EQ(::GetCapture(), button.m_hWnd);
+  button.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(-5, 5));
+  EXPECT_EQ(parent.clicks, 1);
+  EXPECT_FALSE(button.IsMouseOn());
+  EXPECT_EQ(Draw(0, 15, 0), ::GetSysColor(COLOR_BTNFACE));
 }
 
 TEST_F(ButtonWindow, LosingTheFocusEndsTheHover) {
@@ -96,6 +131,17 @@ TEST_F(ButtonWindow, OwnsItsBitmapsAndOnlyBorrowsASharedOne) {
   button.ShareBitmap(shared.Get(), 16, 16);
   EXPECT_EQ(qvx::OwnedBitmap::Alive(), before + 1);
   EXPECT_EQ(button.ShownBitmap(), shared.Get());
+}
+
+TEST_F(ButtonWindow, ImageSizesAreHeldInEightBits) {
+  using Size = BYTE;
+  EXPECT_TRUE((std::is_same_v<decltype(&CButtonST::SetBitmaps),
+                              void (CButtonST::*)(HBITMAP, HBITMAP, Size, Size)>));
+  button.SetBitmaps(nullptr, nullptr, 255, 254);
+  EXPECT_EQ(button.ImageSize(), CSize(255, 254));
+  const int tooLarge = 256 + 16;
+  button.SetBitmaps(nullptr, nullptr, static_cast<Size>(tooLarge), 16);
+  EXPECT_EQ(button.ImageSize(), CSize(16, 16)) << "only the low eight bits are left of it";
 }
 
 TEST_F(ButtonWindow, AFlatButtonShowsItsLinesOnlyUnderThePointerOrPressed) {
