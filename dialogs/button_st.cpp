@@ -101,8 +101,11 @@ void CButtonST::OnKillFocus(CWnd* next) {
 
 // Releasing here also takes the mouse from whoever just took it. That is how it has always been: a
 // press on another row while this one is lit ends the hover of both.
+// A press takes the mouse that the hover holds already, which is told here too but loses nothing: a
+// press has to keep it, or one carried off in a single move would stay lit.
 void CButtonST::OnCaptureChanged(CWnd* next) {
-  const qvx::PointerStep step = qvx::StepOnCaptureLost(m_bMouseOn);
+  const bool lost = next != this;
+  const qvx::PointerStep step = lost ? qvx::StepOnCaptureLost(m_bMouseOn) : qvx::PointerStep{};
   if (step.releaseCapture) ::ReleaseCapture();
   if (step.invalidate) Invalidate();
   CButton::OnCaptureChanged(next);

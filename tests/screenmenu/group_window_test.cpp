@@ -497,4 +497,30 @@ TEST_F(GroupWindows, WithoutAScrollBarNothingIsHandledToBringAGroupIntoView) {
   EXPECT_EQ(group.defaults, 0);
 }
 
+TEST_F(GroupWindows, APressOnARowCarriedOffAndReleasedOutsideIsNoClickAndLeavesNoHover) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CSMenuItem& row = *Build().Row(0);
+  row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  row.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  EXPECT_EQ(::GetCapture(), row.m_hWnd) << "a press keeps the mouse";
+  row.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(-5, 5));
+  EXPECT_EQ(::GetCapture(), row.m_hWnd) << "so does carrying it off";
+  EXPECT_FALSE(row.IsMouseOn());
+  row.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(-5, 5));
+  EXPECT_EQ(::GetCapture(), nullptr);
+  EXPECT_FALSE(row.IsMouseOn());
+  EXPECT_TRUE(owner.notes.empty());
+}
+
+TEST_F(GroupWindows, APressOnARowCarriedOffAndBackIsAClick) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CSMenuItem& row = *Build().Row(0);
+  row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  row.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  row.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(-5, 5));
+  row.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 5));
+  row.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TAxis\n"}));
+}
+
 }  // namespace
