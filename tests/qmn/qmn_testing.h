@@ -1,0 +1,37 @@
+// Runs of the tool with streams in memory, and a folder for its files that goes with the test.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+struct QmnRun {
+  int code;
+  std::string out, err;
+};
+QmnRun Qmn(const std::vector<std::string>& args, const std::string& in = "", bool colour = false);
+
+std::string ReadBytes(const std::filesystem::path& path);  // "<missing>" when it can't be read
+void WriteBytes(const std::filesystem::path& path, const std::string& bytes);
+std::string Utf8Name(const std::filesystem::path& path);
+std::filesystem::path GoldenFolder();  // of the menu engine
+std::filesystem::path ProductFolder();
+
+class QmnTest : public testing::Test {
+ protected:
+  QmnTest();
+  ~QmnTest() override;
+  // The name of a file in the test's folder, in UTF-8 as the command line has it.
+  std::string Name(const char8_t* file) const { return Utf8Name(m_folder / file); }
+  std::string Write(const char8_t* file, const std::string& bytes) const;
+  std::string Read(const char8_t* file) const { return ReadBytes(m_folder / file); }
+  int FileCount() const;
+
+  std::filesystem::path m_folder;
+};
+
+// A source that is fine, and the bytes that the tool makes of it.
+extern const char kGoodSource[];
+std::string GoodBytes();

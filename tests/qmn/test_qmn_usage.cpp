@@ -1,0 +1,65 @@
+// The command line itself: help, version, wrong usage, colour.
+#include "tests/qmn/qmn_testing.h"
+
+namespace {
+
+TEST(QmnUsage, HelpLeadsWithExamplesAndIsFine) {
+  const QmnRun run = Qmn({"--help"});
+  EXPECT_EQ(run.code, 0);
+  EXPECT_EQ(run.out.substr(0, 24), "Examples:\n  qmn compile ");
+  EXPECT_EQ(run.err, "");
+}
+
+TEST(QmnUsage, HelpOffersNothingThatIsNotBuilt) {
+  const std::string help = Qmn({"--help"}).out;
+  for (const char* command : {"check", "why", "fmt", "decompile"}) {
+    EXPECT_EQ(help.find(std::string("qmn ") + command), std::string::npos) << command;
+    EXPECT_EQ(Qmn({command, "-"}).code, 2) << command;
+  }
+}
+
+TEST(QmnUsage, VersionIsData) {
+  const QmnRun run = Qmn({"--version"});
+  EXPECT_EQ(run.code, 0);
+  EXPECT_EQ(run.out, "qmn 1.0\n");
+}
+
+TEST(QmnUsage, WrongUsageGivesTwoAndSaysWhyOnStandardError) {
+  const std::vector<std::vector<std::string>> wrong{
+      {},
+      {"compile"},
+      {"compile", "a.qmn", "b.qmn"},
+      {"compile", "a.qmn", "--no-such"},
+      {"dump", "a.qmn", "--json", "--tree"},
+      {"dump", "a.qmn", "--codepage", "many"},
+  };
+  for (const auto& args : wrong) {
+    const QmnRun run = Qmn(args);
+    EXPECT_EQ(run.code, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(run.err, "");
+  }
+}
+
+// On Windows such a name was taken for an option once.
+TEST(QmnUsage, AFileMayBeginWithASlash) {
+  const QmnRun run = Qmn({"dump", "/no such file.qmn"});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(run.err, "/no such file.qmn: error: can't be read\n");
+}
+
+TEST(QmnUsage, AnotherCodePageThanTheSystemsIsRefusedInsteadOfIgnored) {
+  const QmnRun run = Qmn({"compile", "-", "--codepage", "1252"}, kGoodSource);
+  EXPECT_EQ(run.code, 2);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(Qmn({"compile", "-", "--codepage", "936"}, kGoodSource).code, 0);
+}
+
+TEST(QmnUsage, ColourMarksTheWordErrorAndNothingElse) {
+  const QmnRun plain = Qmn({"compile", "-"}, "x");
+  const QmnRun colour = Qmn({"compile", "-"}, "x", true);
+  EXPECT_EQ(plain.err, "-:1: error: syntax error\n");
+  EXPECT_EQ(colour.err, "-:1: \x1b[1;31merror:\x1b[0m syntax error\n");
+}
+
+}  // namespace

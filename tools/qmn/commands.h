@@ -1,0 +1,29 @@
+// The subcommands, each with what its command line says. "-" as a file is standard input or output.
+// All give an ExitCode.
+#pragma once
+
+#include <string>
+
+#include "tools/qmn/qmn_tool.h"
+
+struct CompileOptions {
+  std::string in;
+  std::string out;  // empty: beside the input, with .qmc; standard output for standard input
+  bool asHost = false;
+};
+int RunCompile(const CompileOptions& options, const QmnStreams& streams);
+
+struct LoadOptions {
+  std::string in;
+  std::string out;  // empty: the file is read and nothing is written
+  bool asHost = false;
+};
+int RunLoad(const LoadOptions& options, const QmnStreams& streams);
+
+enum class DumpForm { kJson, kTree, kBytes };
+
+struct DumpOptions {
+  std::string in;
+  DumpForm form = DumpForm::kJson;
+};
+int RunDump(const DumpOptions& options, const QmnStreams& streams);

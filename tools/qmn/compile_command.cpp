@@ -1,0 +1,71 @@
+// qmn compile: source to compiled file. As itself the tool writes nothing after an error; with
+// --as-host it prints and writes what the module would, the empty model after an error included.
+#include <ostream>
+
+#include "tools/qmn/commands.h"
+#include "tools/qmn/model_io.h"
+#include "tools/qmn/tool_files.h"
+#include "tools/qmn/tool_text.h"
+#include "tools/qmn/tool_messages.h"
+
+namespace {
+
+std::string OutputOf(const CompileOptions& options) {
+  if (!options.out.empty()) return options.out;
+  return IsStandardStream(options.in) ? options.in : WithExtension(options.in, ".qmc");
+}
+
+// The module would never come back from such a file, so that there is nothing to imitate.
+int RefuseOpenComment(const CompileOptions& options, int line, const QmnStreams& streams) {
+  if (options.asHost) streams.err << "\n";
+  ReportError(streams, options.in + ":" + std::to_string(line), kOpenCommentText);
+  return kFindings;
+}
+
+int CompileAsTool(const CompileOptions& options, const QmnStreams& streams) {
+  std::string source;
+  if (!ReadInput(options.in, streams, source)) {
+    ReportError(streams, options.in, "can't be read");
+    return kFileTrouble;
+  }
+  TMenuSystem system;
+  ToolMessages messages(options.in, streams);
+  const CompileResult result = CompileSource(std::move(source), messages, system);
+  if (result.openCommentLine) return RefuseOpenComment(options, result.openCommentLine, streams);
+  if (!result.accepted || messages.Count()) return kFindings;
+  const std::string out = OutputOf(options);
+  if (WriteOutput(out, streams, SaveBytes(system))) return kFine;
+  ReportError(streams, out, "can't be written");
+  return kFileTrouble;
+}
+
+// The words of the command line come as the module prints them, each with its newline in front; a
+// message box gets a line of its own.
+int CompileAsHost(const CompileOptions& options, const QmnStreams& streams) {
+  std::string source;
+  if (!ReadInput(options.in, streams, source)) {
+    streams.err << "\nCould not open file " << options.in;
+    return kFileTrouble;
+  }
+  streams.err << Utf8(L"\n加载奇维菜单文件: ") << options.in;
+  TMenuSystem system;
+  HostMessages messages(streams);
+  const CompileResult result = CompileSource(std::move(source), messages, system);
+  if (result.openCommentLine) return RefuseOpenComment(options, result.openCommentLine, streams);
+  const std::string out = OutputOf(options);
+  if (!WriteOutput(out, streams, SaveBytes(system))) {
+    streams.err << "\n" << Utf8(L"无法创建文件") << out << "\n";
+    return kFileTrouble;
+  }
+  return result.accepted && !messages.Count() ? kFine : kFindings;
+}
+
+}  // namespace
+
+int RunCompile(const CompileOptions& options, const QmnStreams& streams) {
+  if (IsSameFile(options.in, OutputOf(options))) {
+    ReportError(streams, options.in, "is input and output at once; name another file with -o");
+    return kWrongUsage;
+  }
+  return options.asHost ? CompileAsHost(options, streams) : CompileAsTool(options, streams);
+}

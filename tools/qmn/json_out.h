@@ -1,0 +1,36 @@
+// JSON in one canonical layout: two spaces an indent, each element on its own line, empty arrays
+// and objects as [] and {}. Nesting costs heap only. Who calls it keeps keys and values in order.
+#pragma once
+
+#include <iosfwd>
+#include <string_view>
+#include <vector>
+
+class JsonOut {
+ public:
+  explicit JsonOut(std::ostream& out) : m_out(out) {}
+
+  void OpenObject() { Open('{', '}'); }
+  void OpenArray() { Open('[', ']'); }
+  void Close();
+  void Key(std::string_view name);
+  void Text(std::wstring_view units);
+  void Integer(long long value);
+  // The shortest form that reads back; null for what JSON has no number for.
+  void Real(double value);
+  void Null();
+  void End();  // the newline behind the whole
+
+ private:
+  struct Level {
+    char close;
+    bool any = false;
+  };
+  void Open(char open, char close);
+  void Element();
+  void NewLine();
+
+  std::ostream& m_out;
+  std::vector<Level> m_levels;
+  bool m_keyed = false;
+};

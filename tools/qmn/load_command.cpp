@@ -1,0 +1,48 @@
+// qmn load: a compiled file through the model and out again. As itself the tool writes nothing
+// after an error; with --as-host it writes what the module has in its model by then.
+#include <ostream>
+
+#include "tools/qmn/commands.h"
+#include "tools/qmn/model_io.h"
+#include "tools/qmn/tool_files.h"
+#include "tools/qmn/tool_text.h"
+
+namespace {
+
+int RefuseInput(const LoadOptions& options, const QmnStreams& streams) {
+  if (!options.asHost) {
+    ReportError(streams, options.in, "can't be read");
+    return kFileTrouble;
+  }
+  streams.err << Utf8(L"无法读取文件") << options.in << "\n";
+  return kFindings;
+}
+
+int RefuseOutput(const LoadOptions& options, const QmnStreams& streams) {
+  if (options.asHost)
+    streams.err << Utf8(L"无法创建文件") << options.out << "\n";
+  else
+    ReportError(streams, options.out, "can't be written");
+  return kFileTrouble;
+}
+
+void ReportDamage(const LoadOptions& options, const wchar_t* exception, const QmnStreams& streams) {
+  if (options.asHost)
+    streams.err << Utf8(exception) << "\n";
+  else
+    ReportError(streams, options.in, Explain(exception));
+}
+
+}  // namespace
+
+int RunLoad(const LoadOptions& options, const QmnStreams& streams) {
+  std::string bytes;
+  if (!ReadInput(options.in, streams, bytes)) return RefuseInput(options, streams);
+  TMenuSystem system;
+  const wchar_t* exception = LoadBytes(bytes, system);
+  if (exception) ReportDamage(options, exception, streams);
+  const bool writes = !options.out.empty() && (!exception || options.asHost);
+  if (writes && !WriteOutput(options.out, streams, SaveBytes(system)))
+    return RefuseOutput(options, streams);
+  return exception ? kFindings : kFine;
+}

@@ -1,0 +1,121 @@
+#include "tools/qmn/qmn_tool.h"
+
+#include <new>
+#include <ostream>
+
+#include <CLI/CLI.hpp>
+
+#include "afxstr.h"
+#include "tools/qmn/commands.h"
+#include "tools/qmn/tool_text.h"
+
+namespace {
+
+constexpr char kHelp[] = R"(Examples:
+  qmn compile qvx.qmn                  writes qvx.qmc beside it
+  qmn compile - -o - <a.qmn >a.qmc     from standard input to standard output
+  qmn compile --as-host qvx.qmn        the host's messages, and the model that it would write
+  qmn load qvx.qmc                     is this compiled file whole?
+  qmn load old.qmc -o new.qmc          reads a compiled file and writes it again
+  qmn dump qvx.qmn --tree              an outline of the menus
+  qmn dump qvx.qmc --json              the model as canonical JSON
+  qmn dump qvx.qmc --bytes             every field of the file with its offset
+
+Exit codes: 0 fine, 1 something is wrong in the input, 2 wrong usage,
+3 a file could not be read or written.
+
+qmn - menu files of the shell)";
+
+constexpr int kPage = 936;
+
+// The page that the engine reads narrow text in, which it does not choose itself.
+int EnginePage() {
+#ifdef _WIN32
+  return static_cast<int>(GetACP());
+#else
+  return static_cast<int>(AFX_ANSI_PAGE);
+#endif
+}
+
+struct Options {
+  CompileOptions compile;
+  LoadOptions load;
+  DumpOptions dump;
+  bool json = false, tree = false, bytes = false;
+  int page = kPage;
+};
+
+void AddPage(CLI::App& command, Options& options) {
+  command.add_option("--codepage", options.page, "code page of narrow text")
+      ->default_val(std::to_string(kPage));
+}
+
+void AddCompile(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("compile", "Compile a menu source");
+  command->add_option("IN", options.compile.in, "menu source (.qmn)")->required();
+  command->add_option("-o", options.compile.out, "compiled file; IN with .qmc unless given");
+  command->add_flag("--as-host", options.compile.asHost,
+                    "print the host's messages and write what it would, after errors too");
+  AddPage(*command, options);
+}
+
+void AddLoad(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("load", "Read a compiled file and write it again");
+  command->add_option("IN", options.load.in, "compiled file (.qmc)")->required();
+  command->add_option("-o", options.load.out, "where to write it; without it nothing is written");
+  command->add_flag("--as-host", options.load.asHost,
+                    "print the host's messages and write what it has read, after errors too");
+  AddPage(*command, options);
+}
+
+void AddDump(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("dump", "Show the model of a menu file");
+  command->add_option("FILE", options.dump.in, "menu source or compiled file")->required();
+  CLI::Option* json = command->add_flag("--json", options.json, "canonical JSON (the default)");
+  CLI::Option* tree = command->add_flag("--tree", options.tree, "outline");
+  CLI::Option* bytes =
+      command->add_flag("--bytes", options.bytes, "fields of the compiled file with offsets");
+  json->excludes(tree)->excludes(bytes);
+  tree->excludes(bytes);
+  AddPage(*command, options);
+}
+
+int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) {
+  if (options.page != EnginePage()) {
+    ReportError(streams, "qmn",
+                "code page " + std::to_string(options.page) +
+                    " can't be had here; this system's is " + std::to_string(EnginePage()));
+    return kWrongUsage;
+  }
+  if (app.got_subcommand("compile")) return RunCompile(options.compile, streams);
+  if (app.got_subcommand("load")) return RunLoad(options.load, streams);
+  if (options.tree) options.dump.form = DumpForm::kTree;
+  if (options.bytes) options.dump.form = DumpForm::kBytes;
+  return RunDump(options.dump, streams);
+}
+
+}  // namespace
+
+int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
+  CLI::App app(kHelp, "qmn");
+  Options options;
+  app.set_version_flag("--version", "qmn 1.0");
+  app.require_subcommand(1);
+  // A path may begin with a slash, on Windows too.
+  app.allow_windows_style_options(false);
+  AddCompile(app, options);
+  AddLoad(app, options);
+  AddDump(app, options);
+  try {
+    // The parser takes its arguments from the end.
+    app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
+  } catch (const CLI::ParseError& stop) {
+    return app.exit(stop, streams.out, streams.err) == 0 ? kFine : kWrongUsage;
+  }
+  try {
+    return RunChosen(app, options, streams);
+  } catch (const std::bad_alloc&) {
+    ReportError(streams, "qmn", "out of memory");
+    return kFileTrouble;
+  }
+}
