@@ -40,7 +40,7 @@ qvx_wine_start() {
 qvx_forget_settings() {
   local key
   for key in 'HKCU\Software\Quivera' 'HKLM\Software\Quivera' 'HKCU\Software\DevHost'; do
-    qvx_wine reg delete "$key" /f >/dev/null 2>&1
+    qvx_wine reg delete "$key" /f >/dev/null 2>&1 || true  # nothing was kept yet
   done
   return 0
 }
