@@ -241,11 +241,6 @@ void CommandEngine::GivePoint(const AcGePoint3d& point) {
   if (WaitsForPoint()) m_givenPoint = point;
 }
 
-void CommandEngine::GiveSelection(const std::wstring& text) {
-  Document* document = Current();
-  if (document && m_asking == Asking::Selection) document->input.Append(text + L"\n");
-}
-
 bool CommandEngine::RunNested(const std::wstring& name, const std::vector<std::wstring>& input) {
   Document* document = Current();
   if (!document) return false;

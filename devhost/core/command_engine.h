@@ -36,7 +36,6 @@ class CommandEngine {
   void TypeLine(const std::wstring& line);  // a line from the command line, without its Enter
   void PressEscape();  // cancels what runs; clears the pick-first set when idle
   void GivePoint(const AcGePoint3d& point);  // a click in the view while a point is asked for
-  void GiveSelection(const std::wstring& text);
 
   // From the published input functions
   // -----------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include "dbents.h"
 #include "dbsymtb.h"
 #include "devhost/core/text_case.h"
+#include "devhost/core/text_codes.h"
 
 namespace devhost {
 namespace {
@@ -181,9 +182,7 @@ double DistanceToSegment(const AcGePoint3d& p, const AcGePoint3d& a, const AcGeP
 
 // The four corners that a text fills, so that it can be hit and boxed like a polygon.
 std::vector<AcGePoint3d> TextCorners(const Shape& shape) {
-  double length = 0;
-  for (wchar_t c : shape.text) length += c >= 0x2E80 ? 1.0 : 0.6;
-  length *= shape.height * shape.widthFactor;
+  const double length = TextLength(shape.text) * shape.height * shape.widthFactor;
   const AcGeVector3d along(std::cos(shape.rotation), std::sin(shape.rotation), 0),
       up(-along.y, along.x, 0);
   const AcGePoint3d at = shape.points[0];

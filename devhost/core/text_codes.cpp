@@ -34,9 +34,13 @@ std::wstring ShownText(const std::wstring& text) {
   return out;
 }
 
+namespace {
+double LengthOf(wchar_t c) { return c >= 0x2E80 ? 1.0 : 0.6; }
+}  // namespace
+
 double TextLength(const std::wstring& text) {
   double length = 0;
-  for (wchar_t c : text) length += c >= 0x2E80 ? 1.0 : 0.6;
+  for (wchar_t c : text) length += LengthOf(c);
   return length;
 }
 
@@ -54,8 +58,9 @@ void Wrap(std::vector<std::wstring>& lines, const std::wstring& line, double wid
     return;
   }
   std::wstring part;
+  double length = 0;  // of the part, kept along: a damaged file may hold one line of a megabyte
   for (wchar_t c : line) {
-    if (!part.empty() && TextLength(part) + (c >= 0x2E80 ? 1.0 : 0.6) > width) {
+    if (!part.empty() && length + LengthOf(c) > width) {
       const std::size_t blank = part.rfind(L' ');
       std::wstring rest;
       if (c < 0x2E80 && blank != std::wstring::npos && blank > 0) {
@@ -64,8 +69,10 @@ void Wrap(std::vector<std::wstring>& lines, const std::wstring& line, double wid
       }
       lines.push_back(part);
       part = rest;
+      length = TextLength(part);
     }
     part += c;
+    length += LengthOf(c);
   }
   if (!part.empty()) lines.push_back(part);
 }
