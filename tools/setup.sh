@@ -1,10 +1,14 @@
 # Sourced by run and test: installs what the builds need and this machine lacks, then configures.
 # All talk goes to standard error, so that a caller's standard output stays its own.
 
+# What only bench/run needs, on top.
+qvx_bench_packages=(flex bison rapidjson-dev libbenchmark-dev)
+
+# qvx_install_missing [PACKAGE...]: the packages of every build and those named.
 qvx_install_missing() {
   local packages=(g++ cmake ninja-build libgtest-dev wine wine64 g++-mingw-w64-x86-64-posix xvfb
                   xdotool x11-utils fonts-wqy-microhei fonts-wine imagemagick nlohmann-json3-dev
-                  libcli11-dev python3 ccache clang-format locales)
+                  libcli11-dev python3 ccache clang-format locales "$@")
   local missing=() p
   for p in "${packages[@]}"; do
     [ "$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null)" = "install ok installed" ] || missing+=("$p")
