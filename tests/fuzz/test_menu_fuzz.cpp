@@ -1,5 +1,5 @@
 // A short run of the menu fuzzers with fixed seeds: the golden sources and what they compile to,
-// cut, doubled, spliced and with bytes changed.
+// cut, doubled, spliced and with bytes changed; and the inputs that longer runs have kept.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -74,6 +74,24 @@ TEST(MenuFuzz, CompiledFilesSurviveAFixedRun) {
   for (int i = 0; i < 20000; ++i)
     FuzzCompiledMenu(
         Mutated(seeds[random() % seeds.size()], seeds[random() % seeds.size()], random));
+}
+
+// What the fuzzers kept, tools/fuzz merge: the smallest inputs that reach what was reached.
+std::vector<std::string> Corpus(const char* target) {
+  std::vector<std::string> inputs;
+  for (const auto& entry :
+       fs::directory_iterator(fs::path(QVX_SOURCE_DIR) / "tests/fuzz/corpus" / target))
+    inputs.push_back(ReadFile(entry.path().wstring()));
+  return inputs;
+}
+
+TEST(MenuFuzz, TheInputsThatTheFuzzersKeptAreReplayed) {
+  const std::vector<std::string> sources = Corpus("menu_source"),
+                                 compiled = Corpus("compiled_menu");
+  EXPECT_GT(sources.size(), 50u);
+  EXPECT_GT(compiled.size(), 50u);
+  for (const std::string& source : sources) FuzzMenuSource(source);
+  for (const std::string& bytes : compiled) FuzzCompiledMenu(bytes);
 }
 
 }  // namespace

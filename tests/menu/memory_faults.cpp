@@ -4,9 +4,11 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <new>
 
+#ifdef _WIN32
+#include <malloc.h>
+#endif
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/common_interface_defs.h>
 #endif
@@ -31,7 +33,7 @@ struct Entry {
   std::uintptr_t key;
   std::size_t size;
 };
-constexpr std::size_t kSlots = std::size_t{1} << 20;
+constexpr std::size_t kSlots = std::size_t{1} << 18;
 constexpr std::uintptr_t kErased = 1;
 constexpr std::size_t kPiece = 16 * 1024;
 Entry* g_table = nullptr;
@@ -42,6 +44,7 @@ Fails g_fails = Fails::kOnce;
 bool g_failed = false;
 Count g_count;
 std::size_t g_used = 0;
+std::size_t g_slots[kSlots / 2];  // those that are not empty, to empty them again
 
 std::uintptr_t KeyOf(const void* block) { return ~reinterpret_cast<std::uintptr_t>(block); }
 std::size_t SlotOf(std::uintptr_t key) { return (key >> 4) * 0x9E3779B1u & (kSlots - 1); }
@@ -52,9 +55,10 @@ void Remember(void* block, std::size_t size) {
   g_count.peakBytes = std::max(g_count.peakBytes, g_count.liveBytes);
   g_count.largest = std::max(g_count.largest, size);
   ++g_count.live;
-  if (++g_used > kSlots / 2) std::abort();  // the table is too small for this test
+  if (g_used == kSlots / 2) std::abort();  // the table is too small for this test
   std::size_t at = SlotOf(KeyOf(block));
-  while (g_table[at].key > kErased) at = (at + 1) & (kSlots - 1);
+  while (g_table[at].key) at = (at + 1) & (kSlots - 1);
+  g_slots[g_used++] = at;
   g_table[at] = {KeyOf(block), size};
 }
 
@@ -100,12 +104,21 @@ void* Made(void* block, std::size_t size) {
   return block;
 }
 
+#ifdef _WIN32
+void* Aligned(std::size_t size, std::size_t step) { return _aligned_malloc(size, step); }
+void FreeAligned(void* block) { _aligned_free(block); }
+#else
+void* Aligned(std::size_t size, std::size_t step) {
+  return std::aligned_alloc(step, (size + step - 1) / step * step);
+}
+void FreeAligned(void* block) { __real_free(block); }
+#endif
+
 }  // namespace
 
 void Begin(long at, Fails fails) {
   if (!g_table) g_table = static_cast<Entry*>(__real_calloc(kSlots, sizeof(Entry)));
-  if (g_used) std::fill_n(g_table, kSlots, Entry{});
-  g_used = 0;
+  while (g_used) g_table[g_slots[--g_used]] = {};
   g_count = {};
   g_failed = false;
   g_at = at;
@@ -171,23 +184,19 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
   return __wrap_malloc(size ? size : 1);
 }
-// Over-aligned blocks carry the address of what was asked for in front of them.
 void* operator new(std::size_t size, std::align_val_t alignment) {
   const auto step = static_cast<std::size_t>(alignment);
-  auto* whole = static_cast<char*>(operator new(size + step + sizeof(void*)));
-  const auto from = reinterpret_cast<std::uintptr_t>(whole + sizeof(void*));
-  char* block = whole + sizeof(void*) + (step - from % step) % step;
-  std::memcpy(block - sizeof(void*), &whole, sizeof whole);
+  void* block = nullptr;
+  if (MayAllocate()) block = Made(Aligned(size, step), size);
+  if (!block) throw std::bad_alloc();
   return block;
 }
 void* operator new[](std::size_t size, std::align_val_t alignment) {
   return operator new(size, alignment);
 }
 void operator delete(void* block, std::align_val_t) noexcept {
-  if (!block) return;
-  void* whole;
-  std::memcpy(&whole, static_cast<char*>(block) - sizeof(void*), sizeof whole);
-  __wrap_free(whole);
+  Forget(block);
+  FreeAligned(block);
 }
 void operator delete[](void* block, std::align_val_t alignment) noexcept {
   operator delete(block, alignment);

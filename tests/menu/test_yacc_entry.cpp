@@ -66,6 +66,16 @@ TEST_F(YaccEntry, WithoutARunThereIsNothingToRead) {
   yyend();
   EXPECT_EQ(yylex(), QMN_END);
   EXPECT_EQ(yyparse(), 1);
+  EXPECT_EQ(yylineno(), 0);
+}
+
+TEST_F(YaccEntry, TheErrorTokensCarryTheirTextToo) {
+  Begin("\"ab\n[cd");
+  EXPECT_EQ(yylex(), QMN_ERR_STRING);
+  EXPECT_EQ(TakeText(), "ab");
+  EXPECT_EQ(yylex(), QMN_ERR_MENU_ITEM);
+  EXPECT_EQ(TakeText(), "[cd");
+  EXPECT_EQ(yylex(), QMN_END);
 }
 
 }  // namespace
