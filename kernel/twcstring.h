@@ -1,11 +1,12 @@
 // The kernel's strings. TWCString is the growable wide string that every menu text lives in: one
 // UTF-16 code unit per wchar_t on every build. A menu of a million lines holds some five million of
-// them, so an empty one owns nothing and the whole record is 16 bytes. TUString converts narrow
+// them, so a string is one pointer, an empty one owns nothing, and texts that never change are
+// packed (see Keep). TUString converts narrow
 // text of the ANSI code page to wide on construction, TAString the other way. Nothing here formats,
 // searches or knows a locale beyond the case fold of EqualsNoCase.
 #pragma once
 
-#include <cstdlib>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -19,25 +20,22 @@ class QVX_KERNEL TWCString {
   // The capacity is a promise about growth and no more: storage comes with the first write.
   explicit TWCString(int capacity) noexcept { (void)capacity; }
   TWCString(const wchar_t* text) { Assign(text, TextLength(text)); }
-  TWCString(const TWCString& other) { Assign(other.m_text, other.m_length); }
-  TWCString(TWCString&& other) noexcept
-      : m_text(std::exchange(other.m_text, nullptr)),
-        m_length(std::exchange(other.m_length, 0)),
-        m_capacity(std::exchange(other.m_capacity, 0)) {}
-  ~TWCString() { std::free(m_text); }
+  TWCString(const TWCString& other) { Copy(other); }
+  TWCString(TWCString&& other) noexcept : m_bits(std::exchange(other.m_bits, 0)) {}
+  ~TWCString() {
+    if (m_bits) Release();
+  }
 
   TWCString& operator=(const wchar_t* text) {
     Assign(text, TextLength(text));
     return *this;
   }
   TWCString& operator=(const TWCString& other) {
-    if (this != &other) Assign(other.m_text, other.m_length);
+    if (this != &other) Copy(other);
     return *this;
   }
   TWCString& operator=(TWCString&& other) noexcept {
-    std::swap(m_text, other.m_text);
-    std::swap(m_length, other.m_length);
-    std::swap(m_capacity, other.m_capacity);
+    std::swap(m_bits, other.m_bits);
     return *this;
   }
   TWCString& operator+=(const wchar_t* text) {
@@ -45,87 +43,115 @@ class QVX_KERNEL TWCString {
     return *this;
   }
   TWCString& operator+=(const TWCString& other) {
-    Append(other.m_text, other.m_length);
+    Append(other.c_str(), other.Length());
     return *this;
   }
   TWCString& operator+=(wchar_t unit) {
-    if (m_length >= m_capacity) Grow(m_length + 1);
-    m_text[m_length++] = unit;
-    m_text[m_length] = 0;
+    Append(&unit, 1);
     return *this;
   }
 
   // Never null; valid until the next change.
-  operator const wchar_t*() const noexcept { return m_text ? m_text : L""; }
-  const wchar_t* c_str() const noexcept { return m_text ? m_text : L""; }
+  operator const wchar_t*() const noexcept { return c_str(); }
+  const wchar_t* c_str() const noexcept { return m_bits ? Text() : L""; }
 
-  int Length() const noexcept { return m_length; }
-  bool IsEmpty() const noexcept { return m_length == 0; }
-  void Empty() noexcept { Truncate(0); }
+  int Length() const noexcept { return m_bits ? Head()[kLength] : 0; }
+  bool IsEmpty() const noexcept { return Length() == 0; }
+  void Empty() { Truncate(0); }
 
   // For 0 <= index <= Length(); the last one is the terminator, which stays as it is.
   wchar_t& operator[](int index) {
-    if (!m_text) Grow(0);
-    return m_text[index];
+    if (Capacity() == 0) Grow(Length());
+    return Text()[index];
   }
   wchar_t operator[](int index) const noexcept { return c_str()[index]; }
 
   // Takes exactly `count` units, zeros among them; the source may lie inside this string. A
   // negative count or null text gives the empty string.
-  void Assign(const wchar_t* text, int count) {
-    if (count <= 0 || !text) {
-      Empty();
-      return;
-    }
-    if (count > m_capacity) {
-      AssignFresh(text, count);
-      return;
-    }
-    std::memmove(m_text, text, sizeof(wchar_t) * static_cast<std::size_t>(count));
-    m_length = count;
-    m_text[count] = 0;
-  }
+  void Assign(const wchar_t* text, int count);
+  // The same for a text that will stay as it is: it is packed beside the other kept ones, and
+  // copies of the string share it. A change later on moves it out first. Main thread only.
+  void Keep(const wchar_t* text, int count);
+  // The same for `count` units that the caller writes at once; at least one.
+  wchar_t* KeepRoom(int count);
   void Append(const wchar_t* text, int count);
   void Reserve(int capacity) {
-    if (capacity > m_capacity) Grow(capacity);
+    if (capacity > Capacity()) Grow(capacity);
   }
   // Cuts behind `length` units; does nothing when the string is not longer.
-  void Truncate(int length) noexcept {
-    if (length < 0) length = 0;
-    if (length >= m_length) return;
-    m_length = length;
-    m_text[length] = 0;
-  }
+  void Truncate(int length);
 
   // Case folds as the C library's towlower does for each unit.
   bool EqualsNoCase(const wchar_t* text) const;
   bool operator==(const TWCString& other) const noexcept {
-    return m_length == other.m_length &&
-           (m_length == 0 ||
-            std::memcmp(m_text, other.m_text,
-                        sizeof(wchar_t) * static_cast<std::size_t>(m_length)) == 0);
+    return m_bits == other.m_bits ||
+           (Length() == other.Length() &&
+            std::memcmp(c_str(), other.c_str(),
+                        sizeof(wchar_t) * static_cast<std::size_t>(Length())) == 0);
   }
   bool operator==(const wchar_t* text) const noexcept { return Equals(text); }
   // C++20 derives !=.
 
  private:
+  friend class TSharedText;
   static int TextLength(const wchar_t* text) noexcept {
     return text ? static_cast<int>(std::char_traits<wchar_t>::length(text)) : 0;
   }
   bool Equals(const wchar_t* text) const noexcept {
     return std::char_traits<wchar_t>::length(text ? text : L"") ==
-               static_cast<std::size_t>(m_length) &&
+               static_cast<std::size_t>(Length()) &&
            std::char_traits<wchar_t>::compare(c_str(), text ? text : L"",
-                                              static_cast<std::size_t>(m_length)) == 0;
+                                              static_cast<std::size_t>(Length())) == 0;
   }
-  void Grow(int atLeast);                            // throws std::bad_alloc
-  void AssignFresh(const wchar_t* text, int count);  // exact fit; throws std::bad_alloc
 
-  wchar_t* m_text = nullptr;  // null until the first write; else m_capacity + 1 units
-  int m_length = 0;
-  int m_capacity = 0;
+  // The text has its length in front of it and, unless it is a kept one, its capacity before that.
+  static constexpr std::uintptr_t kKept = 1;
+  static constexpr int kLength = -1;
+  static constexpr int kCapacity = -2;
+
+  bool IsKept() const noexcept { return m_bits & kKept; }
+  wchar_t* Text() const noexcept { return reinterpret_cast<wchar_t*>(m_bits & ~kKept); }
+  int* Head() const noexcept { return reinterpret_cast<int*>(Text()); }
+  // What may be written without asking for room; 0 for a kept text, which is not to be touched.
+  int Capacity() const noexcept { return !m_bits || IsKept() ? 0 : Head()[kCapacity]; }
+  void Copy(const TWCString& other);
+  void Release() noexcept;
+  void Grow(int atLeast);  // throws std::bad_alloc
+  void SetLength(int length) noexcept;
+
+  std::uintptr_t m_bits =
+      0;  // where the text begins; bit 0 marks a kept one; 0 until the first write
 };
-static_assert(sizeof(TWCString) == sizeof(void*) + 8);
+static_assert(sizeof(TWCString) == sizeof(void*));
+
+// A kept text that many strings are going to share. Its copies are paid for in advance, so that
+// making one does not visit the memory of the text. Movable; the copies outlive it.
+class QVX_KERNEL TSharedText {
+ public:
+  TSharedText(const wchar_t* text, int count) { m_text.Keep(text, count); }
+  TSharedText(TSharedText&& other) noexcept
+      : m_text(std::move(other.m_text)), m_paid(std::exchange(other.m_paid, 0)) {}
+  TSharedText& operator=(TSharedText&&) = delete;
+  ~TSharedText() {
+    if (m_paid) GiveBack();
+  }
+
+  const TWCString& Text() const noexcept { return m_text; }
+  void CopyTo(TWCString& out) {
+    if (m_paid == 0) return PayAndCopyTo(out);
+    if (out.m_bits) out.Release();
+    out.m_bits = m_text.m_bits;
+    --m_paid;
+  }
+
+ private:
+  static constexpr int kPaidAtOnce = 1 << 16;
+  void PayAndCopyTo(TWCString& out);
+  void GiveBack() noexcept;
+
+  TWCString m_text;
+  int m_paid = 0;
+};
 
 // Wide text from narrow text of the ANSI code page. Bytes that are no character become U+FFFD.
 class QVX_KERNEL TUString : public TWCString {

@@ -9,43 +9,22 @@
 #include <system_error>
 
 #include "afx.h"
+#include "menu/compiled_io.h"
 #include "menu/menu_system.h"
 #include "menu/menu_users.h"
 
 namespace {
 
-constexpr int kArchiveBuffer = 409600;
-
+// Made before anything is at stake: what is done with it later needs no memory. Empty for a name
+// that no file can have.
 std::filesystem::path NativePath(const wchar_t* path) {
   std::u16string units;
   for (; *path; ++path) units += static_cast<char16_t>(*path);
-  return std::filesystem::path(units);
-}
-
-// False when it failed in any way, a name that no file can have among them.
-template <class Step>
-bool OnFiles(Step step) {
   try {
-    std::error_code failure;
-    return step(failure) && !failure;
-  } catch (const std::exception&) {
-    return false;
+    return std::filesystem::path(units);
+  } catch (const std::system_error&) {
+    return {};
   }
-}
-
-bool Exists(const wchar_t* path) {
-  return OnFiles([=](auto& failure) { return std::filesystem::exists(NativePath(path), failure); });
-}
-
-bool Replace(const wchar_t* from, const wchar_t* to) {
-  return OnFiles([=](auto& failure) {
-    std::filesystem::rename(NativePath(from), NativePath(to), failure);
-    return true;
-  });
-}
-
-void RemoveFile(const wchar_t* path) {
-  OnFiles([=](auto& failure) { return std::filesystem::remove(NativePath(path), failure); });
 }
 
 void ShowWithPath(MenuBoxes& boxes, const wchar_t* text, const wchar_t* path) {
@@ -54,22 +33,9 @@ void ShowWithPath(MenuBoxes& boxes, const wchar_t* text, const wchar_t* path) {
   boxes.ShowMessage(message);
 }
 
-// Runs the step; false when it ended in an exception of any kind.
+// Runs the step; false when it ended in an exception, after saying by which of the three.
 template <class Step>
-bool Try(Step step) {
-  try {
-    step();
-    return true;
-  } catch (CException* exception) {
-    exception->Delete();
-  } catch (const std::bad_alloc&) {
-  }
-  return false;
-}
-
-// The same, and says by which of the three it ended.
-template <class Step>
-bool TryAloud(MenuBoxes& boxes, Step step) {
+bool Try(MenuBoxes& boxes, Step step) {
   const wchar_t* name = L"CMemoryException";
   try {
     step();
@@ -96,61 +62,117 @@ struct OpenArchive {
   CArchive ar;
 };
 
-// Whether a file of this name may be written, without harm to what is in it.
-bool IsWritable(const wchar_t* path) {
-  if (!Exists(path)) return true;
-  CFile probe;
-  return probe.Open(path, CFile::modeWrite);
+// Null when it could not be opened for any reason.
+std::unique_ptr<OpenArchive> OpenToLoad(const wchar_t* path) {
+  try {
+    return std::make_unique<OpenArchive>(path, CFile::modeRead, CArchive::load);
+  } catch (CException* exception) {
+    exception->Delete();
+  } catch (const std::bad_alloc&) {
+  }
+  return nullptr;
 }
 
 class Saving {
  public:
   Saving(const wchar_t* path, MenuBoxes& boxes) : m_path(path), m_beside(path), m_boxes(boxes) {
     m_beside += L".new";
+    m_targetFile = NativePath(m_path);
+    m_besideFile = NativePath(m_beside);
   }
 
   void Run(TMenuSystem& system) {
-    if (!IsWritable(m_path) || !Open()) return Refuse();
-    const bool written = TryAloud(m_boxes, [&] {
+    if (!IsWritable() || !Open()) return Refuse();
+    const bool written = Try(m_boxes, [&] {
       system.Serialize(m_archive->ar);
       m_archive->ar.Close();
       m_archive->file.Close();
     });
     m_archive.reset();
-    if (m_target != &m_beside) return;
-    if (written && Replace(m_beside, m_path)) return;
-    RemoveFile(m_beside);
+    if (!m_isBeside) return;
+    if (written && TakePlace()) return;
+    RemoveBeside();
     if (written) Refuse();
   }
 
  private:
-  // Beside the target; in a folder that takes no new file the target itself has to do.
-  bool Open() { return OpenAs(m_beside) || OpenAs(m_path); }
-  bool OpenAs(const TWCString& name) {
-    m_target = &name;
-    return Try([&] {
+  bool Exists() const {
+    std::error_code failure;
+    return std::filesystem::exists(m_targetFile, failure);
+  }
+  // Whether a file of this name may be written, without harm to what is in it.
+  bool IsWritable() const {
+    if (!Exists()) return true;
+    CFile probe;
+    return probe.Open(m_path, CFile::modeWrite);
+  }
+  bool TakePlace() const {
+    std::error_code failure;
+    std::filesystem::rename(m_besideFile, m_targetFile, failure);
+    return !failure;
+  }
+  void RemoveBeside() const {
+    std::error_code failure;
+    std::filesystem::remove(m_besideFile, failure);
+  }
+  // Beside the target; in a folder that takes no new file the target itself has to do, and only
+  // there can a save that dies leave half a file.
+  bool Open() {
+    const int cause = OpenAs(m_beside);
+    if (cause != CFileException::accessDenied || !Exists()) return cause == kOpened;
+    m_isBeside = false;
+    return OpenAs(m_path) == kOpened;
+  }
+  // kOpened, or the cause why not.
+  int OpenAs(const wchar_t* name) {
+    try {
       m_archive = std::make_unique<OpenArchive>(name, CFile::modeCreate | CFile::modeWrite,
                                                 CArchive::store);
-    });
+      return kOpened;
+    } catch (CFileException* exception) {
+      const int cause = exception->m_cause;
+      exception->Delete();
+      return cause;
+    } catch (CException* exception) {
+      exception->Delete();
+    } catch (const std::bad_alloc&) {
+      if (m_isBeside) RemoveBeside();
+    }
+    return CFileException::genericException;
   }
   void Refuse() { ShowWithPath(m_boxes, L"无法创建文件", m_path); }
 
+  static constexpr int kOpened = CFileException::none;
+
   TWCString m_path;
   TWCString m_beside;
+  std::filesystem::path m_targetFile;
+  std::filesystem::path m_besideFile;
   MenuBoxes& m_boxes;
-  const TWCString* m_target = nullptr;
+  bool m_isBeside = true;
   std::unique_ptr<OpenArchive> m_archive;
 };
+
+// What may lack memory outside of the steps above is the wording of a message.
+template <class Job>
+void WithoutMemoryErrors(MenuBoxes& boxes, Job job) {
+  try {
+    job();
+  } catch (const std::bad_alloc&) {
+    boxes.ShowMessage(L"CMemoryException");
+  }
+}
 
 }  // namespace
 
 void TMenuSystem::SaveCompiled(const wchar_t* path, MenuBoxes& boxes) {
-  Saving(path, boxes).Run(*this);
+  WithoutMemoryErrors(boxes, [&] { Saving(path, boxes).Run(*this); });
 }
 
 void TMenuSystem::LoadCompiled(const wchar_t* path, MenuBoxes& boxes) {
-  std::unique_ptr<OpenArchive> archive;
-  if (!Try([&] { archive = std::make_unique<OpenArchive>(path, CFile::modeRead, CArchive::load); }))
-    return ShowWithPath(boxes, L"无法读取文件", path);
-  TryAloud(boxes, [&] { Serialize(archive->ar); });
+  WithoutMemoryErrors(boxes, [&] {
+    const std::unique_ptr<OpenArchive> archive = OpenToLoad(path);
+    if (!archive) return ShowWithPath(boxes, L"无法读取文件", path);
+    Try(boxes, [&] { Serialize(archive->ar); });
+  });
 }

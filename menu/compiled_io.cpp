@@ -12,71 +12,60 @@ namespace {
 constexpr uint8_t kMedium = 0xFF;
 constexpr uint16_t kWideMark = 0xFFFE;
 constexpr uint16_t kLarge = 0xFFFF;
-constexpr uint32_t kInlineUnits = 256;  // most texts are shorter
+constexpr uint32_t kShortHead = 0xFFFEFF;  // the marker as a number; the length is the byte above
 
-template <class Number>
-void LayDown(unsigned char* bytes, Number value) {
-  for (size_t i = 0; i < sizeof value; ++i) bytes[i] = static_cast<unsigned char>(value >> 8 * i);
+constexpr size_t kPiece = 65536;
+constexpr size_t kWindow = kArchiveBuffer;
+static_assert(std::endian::native == std::endian::little);
+
+void Narrow(const wchar_t* text, size_t length, unsigned char* bytes) {
+  for (size_t i = 0; i < length; ++i) {
+    bytes[2 * i] = static_cast<unsigned char>(text[i]);
+    bytes[2 * i + 1] = static_cast<unsigned char>(text[i] >> 8);
+  }
 }
 
-uint16_t UnitAt(const unsigned char* bytes, uint32_t i) {
-  return static_cast<uint16_t>(bytes[2 * i] | bytes[2 * i + 1] << 8);
-}
-
-void Widen(const unsigned char* bytes, uint32_t length, wchar_t* out) {
-  for (uint32_t i = 0; i < length; ++i) out[i] = static_cast<wchar_t>(UnitAt(bytes, i));
+void Widen(const unsigned char* bytes, size_t length, wchar_t* out) {
+  for (size_t i = 0; i < length; ++i)
+    out[i] = static_cast<wchar_t>(bytes[2 * i] | bytes[2 * i + 1] << 8);
 }
 
 }  // namespace
 
-CompiledWriter::CompiledWriter(CArchive& ar, TMenuSystem* system) : m_ar(ar) {
+CompiledWriter::CompiledWriter(CArchive& ar, TMenuSystem* system) : m_ar(ar), m_bytes(kPiece) {
   if (!system) return;
   for (int i = 0; i < system->m_switches.Length(); ++i)
     m_switches.emplace(system->m_switches.At(i), i);
 }
 
-template <class Number>
-void CompiledWriter::PutNumber(Number value) {
-  unsigned char bytes[sizeof value];
-  LayDown(bytes, value);
-  m_ar.Write(bytes, sizeof bytes);
+void CompiledWriter::Finish() {
+  if (m_filled) m_ar.Write(m_bytes.data(), static_cast<UINT>(m_filled));
+  m_filled = 0;
 }
 
-template void CompiledWriter::PutNumber(uint16_t);
-template void CompiledWriter::PutNumber(uint32_t);
-
-void CompiledWriter::PutU16(uint16_t value) { PutNumber(value); }
-void CompiledWriter::PutU32(uint32_t value) { PutNumber(value); }
-void CompiledWriter::PutReal(double value) { PutNumber(std::bit_cast<uint64_t>(value)); }
+void CompiledWriter::PutReal(double value) {
+  LayDown(Room(sizeof value), std::bit_cast<uint64_t>(value));
+}
 
 void CompiledWriter::PutString(const wchar_t* text, int length) {
-  unsigned char head[10] = {kMedium, kWideMark & 0xFF, kWideMark >> 8};
   const auto units = static_cast<uint32_t>(length);
-  UINT size = 4;
-  if (units < kMedium) {
-    head[3] = static_cast<unsigned char>(units);
-  } else if (units < kWideMark) {
-    head[3] = kMedium;
-    LayDown(head + 4, static_cast<uint16_t>(units));
-    size = 6;
-  } else {
-    head[3] = kMedium;
-    LayDown(head + 4, kLarge);
-    LayDown(head + 6, units);
-    size = 10;
-  }
-  m_ar.Write(head, size);
-  PutUnits(text, units);
+  if (units >= kMedium) return PutLongString(text, units);
+  unsigned char* room = Room(4 + 2 * size_t{units});
+  LayDown(room, kShortHead | units << 24);
+  Narrow(text, units, room + 4);
 }
 
-void CompiledWriter::PutUnits(const wchar_t* text, size_t length) {
-  unsigned char bytes[2 * kInlineUnits];
-  while (length) {
-    const size_t part = std::min<size_t>(length, kInlineUnits);
-    for (size_t i = 0; i < part; ++i) LayDown(bytes + 2 * i, static_cast<uint16_t>(text[i]));
-    m_ar.Write(bytes, static_cast<UINT>(2 * part));
-    text += part;
-    length -= part;
+void CompiledWriter::PutLongString(const wchar_t* text, uint32_t length) {
+  PutU32(kShortHead | uint32_t{kMedium} << 24);
+  if (length < kWideMark) {
+    PutU16(static_cast<uint16_t>(length));
+  } else {
+    PutU16(kLarge);
+    PutU32(length);
+  }
+  for (size_t part; length; length -= static_cast<uint32_t>(part), text += part) {
+    part = std::min<size_t>(length, kPiece / 4);
+    Narrow(text, part, Room(2 * part));
   }
 }
 
@@ -85,28 +74,59 @@ void CompiledWriter::PutSwitch(const TMenuSwitchItem* item) {
   PutI32(found == m_switches.end() ? -1 : found->second);
 }
 
-CompiledReader::CompiledReader(CArchive& ar, TMenuSystem* system)
-    : m_ar(ar), m_system(system), m_left(ar.GetFile()->GetLength()) {}
-
-void CompiledReader::Get(void* bytes, uint32_t count) {
-  m_ar.EnsureRead(bytes, count);
-  m_left -= std::min<uint64_t>(m_left, count);
+CompiledReader::CompiledReader(CArchive& ar, TMenuSystem* system, Ahead ahead)
+    : m_ar(ar),
+      m_system(system),
+      m_window(ahead == Ahead::kMuch ? kWindow : 0),
+      m_left(ar.GetFile()->GetLength()) {
+  if (!m_window) return;
+  m_ar.Flush();
+  m_left -= std::min<uint64_t>(m_left, ar.GetFile()->GetPosition());
 }
 
-template <class Number>
-Number CompiledReader::GetNumber() {
-  unsigned char bytes[sizeof(Number)];
-  Get(bytes, sizeof bytes);
-  Number value = 0;
-  for (size_t i = 0; i < sizeof bytes; ++i)
-    value = static_cast<Number>(value | static_cast<Number>(bytes[i]) << 8 * i);
-  return value;
+void CompiledReader::Finish() {
+  if (m_end == m_at) return;
+  m_ar.Flush();
+  m_ar.GetFile()->Seek(m_at - m_end, CFile::current);
+  m_end = m_at;
 }
 
-uint8_t CompiledReader::GetU8() { return GetNumber<uint8_t>(); }
-uint16_t CompiledReader::GetU16() { return GetNumber<uint16_t>(); }
-uint32_t CompiledReader::GetU32() { return GetNumber<uint32_t>(); }
-double CompiledReader::GetReal() { return std::bit_cast<double>(GetNumber<uint64_t>()); }
+// Reads on, so that at least `count` bytes lie at m_at.
+void CompiledReader::Fetch(size_t count) {
+  const auto kept = static_cast<size_t>(m_end - m_at);
+  if (count - kept > m_left)
+    AfxThrowArchiveException(CArchiveException::endOfFile, m_ar.m_strFileName);
+  const auto more = static_cast<UINT>(std::min<uint64_t>(std::max(count, m_window) - kept, m_left));
+  if (kept + more > m_room) MakeRoom(kept + more);
+  std::copy(m_at, m_end, m_bytes.get());
+  m_at = m_end = m_bytes.get();
+  m_ar.EnsureRead(m_bytes.get() + kept, more);
+  m_end = m_at + kept + more;
+  m_left -= more;
+}
+
+void CompiledReader::MakeRoom(size_t room) {
+  auto bytes = std::make_unique_for_overwrite<unsigned char[]>(room);
+  m_end = std::copy(m_at, m_end, bytes.get());
+  m_bytes = std::move(bytes);
+  m_at = m_bytes.get();
+  m_room = room;
+}
+
+double CompiledReader::GetReal() { return std::bit_cast<double>(Number<uint64_t>(Need(8))); }
+
+bool CompiledReader::GetQuickly(TWCString& out) {
+  const auto head = Number<uint32_t>(m_at);
+  const uint32_t length = head >> 24;
+  if ((head & 0xFFFFFF) != kShortHead || length == kMedium) return false;
+  const unsigned char* text = m_at + 4;
+  m_at = text + 2 * size_t{length};
+  if (length)
+    Widen(text, length, out.KeepRoom(static_cast<int>(length)));
+  else if (!out.IsEmpty())
+    out.Empty();
+  return true;
+}
 
 uint32_t CompiledReader::GetLength(bool& wide) {
   wide = false;
@@ -122,39 +142,19 @@ uint32_t CompiledReader::GetLength(bool& wide) {
   return medium == kLarge ? GetU32() : medium;
 }
 
-void CompiledReader::GetString(TWCString& out) {
+// Without the marker the text has one byte a character, of the ANSI code page; files of older
+// writers have such strings.
+void CompiledReader::GetAnyString(TWCString& out) {
   bool wide;
   const uint32_t length = GetLength(wide);
-  wide ? GetWide(out, length) : GetNarrow(out, length);
-}
-
-void CompiledReader::Require(uint64_t bytes) const {
-  if (bytes > m_left) AfxThrowArchiveException(CArchiveException::endOfFile, m_ar.m_strFileName);
-}
-
-void CompiledReader::GetWide(TWCString& out, uint32_t length) {
-  if (length <= kInlineUnits) {
-    unsigned char bytes[2 * kInlineUnits];
-    wchar_t units[kInlineUnits];
-    Get(bytes, 2 * length);
-    Widen(bytes, length, units);
-    out.Assign(units, static_cast<int>(length));
-    return;
+  if (length == 0) return out.Empty();
+  const unsigned char* text = Need(wide ? 2 * size_t{length} : length);
+  if (wide) {
+    Widen(text, length, out.KeepRoom(static_cast<int>(length)));
+  } else {
+    const TUString decoded(reinterpret_cast<const char*>(text), static_cast<int>(length));
+    out.Keep(decoded, decoded.Length());
   }
-  Require(2 * uint64_t{length});
-  m_bytes.resize(2 * size_t{length});
-  Get(m_bytes.data(), static_cast<uint32_t>(m_bytes.size()));
-  m_units.resize(length);
-  Widen(m_bytes.data(), length, m_units.data());
-  out.Assign(m_units.data(), static_cast<int>(length));
-}
-
-// One byte a character of the ANSI code page; files of older writers have such strings.
-void CompiledReader::GetNarrow(TWCString& out, uint32_t length) {
-  Require(length);
-  m_bytes.resize(length);
-  Get(m_bytes.data(), length);
-  out = TUString(reinterpret_cast<const char*>(m_bytes.data()), static_cast<int>(length));
 }
 
 TMenuSwitchItem* CompiledReader::GetSwitch() {
@@ -166,6 +166,7 @@ TMenuSwitchItem* CompiledReader::GetSwitch() {
 }
 
 int CompiledReader::Plausible(uint32_t claimed, int smallest) const {
+  const uint64_t left = m_left + static_cast<uint64_t>(m_end - m_at);
   return static_cast<int>(std::min<uint64_t>(
-      {claimed, m_left / static_cast<uint64_t>(smallest), static_cast<uint64_t>(INT32_MAX)}));
+      {claimed, left / static_cast<uint64_t>(smallest), static_cast<uint64_t>(INT32_MAX)}));
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -13,38 +14,60 @@
 class TMenuSystem;
 class TMenuSwitchItem;
 
+constexpr int kArchiveBuffer = 409600;  // bytes; of the archives on compiled files
+
+// Gathers what is written and hands it to the archive in large pieces; Finish hands over the rest.
 class CompiledWriter {
  public:
   // Switches are written as indexes into the system's table; without a system they are lost.
   CompiledWriter(CArchive& ar, TMenuSystem* system);
 
-  void PutU16(uint16_t value);
-  void PutU32(uint32_t value);
+  void PutU16(uint16_t value) { LayDown(Room(sizeof value), value); }
+  void PutU32(uint32_t value) { LayDown(Room(sizeof value), value); }
   void PutI32(int32_t value) { PutU32(static_cast<uint32_t>(value)); }
   void PutReal(double value);
   void PutString(const TWCString& text) { PutString(text.c_str(), text.Length()); }
   void PutString(const wchar_t* text, int length);
   void PutSwitch(const TMenuSwitchItem* item);
+  void Finish();
 
  private:
   template <class Number>
-  void PutNumber(Number value);
-  void PutUnits(const wchar_t* text, size_t length);
+  static void LayDown(unsigned char* bytes, Number value) {
+    for (size_t i = 0; i < sizeof value; ++i) bytes[i] = static_cast<unsigned char>(value >> 8 * i);
+  }
+  unsigned char* Room(size_t bytes) {  // small ones only
+    if (bytes > m_bytes.size() - m_filled) Finish();
+    unsigned char* room = m_bytes.data() + m_filled;
+    m_filled += bytes;
+    return room;
+  }
+  void PutLongString(const wchar_t* text, uint32_t length);
 
   CArchive& m_ar;
+  std::vector<unsigned char> m_bytes;
+  size_t m_filled = 0;
   std::unordered_map<const TMenuSwitchItem*, int32_t> m_switches;
 };
 
 class CompiledReader {
  public:
-  CompiledReader(CArchive& ar, TMenuSystem* system);
+  // How far the reader may go ahead of what it is asked for. A system is read in large pieces; a
+  // lone object must leave the archive where the object ends.
+  enum class Ahead { kNothing, kMuch };
+  CompiledReader(CArchive& ar, TMenuSystem* system, Ahead ahead);
+  // Gives back to the file what was read ahead.
+  void Finish();
 
-  uint8_t GetU8();
-  uint16_t GetU16();
-  uint32_t GetU32();
+  uint8_t GetU8() { return *Need(1); }
+  uint16_t GetU16() { return Number<uint16_t>(Need(2)); }
+  uint32_t GetU32() { return Number<uint32_t>(Need(4)); }
   int32_t GetI32() { return static_cast<int32_t>(GetU32()); }
   double GetReal();
-  void GetString(TWCString& out);
+  // Into a string that keeps the text.
+  void GetString(TWCString& out) {
+    if (m_end - m_at < kQuick || !GetQuickly(out)) GetAnyString(out);
+  }
   TMenuSwitchItem* GetSwitch();
 
   // How many of `claimed` elements of at least `smallest` bytes the rest of the file can hold.
@@ -53,17 +76,33 @@ class CompiledReader {
   TMenuSystem* System() const { return m_system; }
 
  private:
-  template <class Number>
-  Number GetNumber();
-  void Get(void* bytes, uint32_t count);
+  static constexpr int kQuick = 4 + 2 * 254;  // the longest string with a one-byte length
+
+  template <class T>
+  static T Number(const unsigned char* bytes) {
+    T value = 0;
+    for (size_t i = 0; i < sizeof value; ++i)
+      value = static_cast<T>(value | static_cast<T>(bytes[i]) << 8 * i);
+    return value;
+  }
+  // The next so many bytes; valid until the next call.
+  const unsigned char* Need(size_t count) {
+    if (count > static_cast<size_t>(m_end - m_at)) Fetch(count);
+    m_at += count;
+    return m_at - count;
+  }
+  void Fetch(size_t count);
+  void MakeRoom(size_t room);
+  bool GetQuickly(TWCString& out);
+  void GetAnyString(TWCString& out);
   uint32_t GetLength(bool& wide);
-  void GetWide(TWCString& out, uint32_t length);
-  void GetNarrow(TWCString& out, uint32_t length);
-  void Require(uint64_t bytes) const;
 
   CArchive& m_ar;
   TMenuSystem* m_system;
-  uint64_t m_left;  // never less than what the file still has
-  std::vector<unsigned char> m_bytes;
-  std::vector<wchar_t> m_units;
+  size_t m_window;  // bytes that are read at once; 0 for no more than is asked for
+  uint64_t m_left;  // of the file behind m_end; never less than what it still has
+  std::unique_ptr<unsigned char[]> m_bytes;
+  size_t m_room = 0;
+  const unsigned char* m_at = nullptr;
+  const unsigned char* m_end = nullptr;
 };

@@ -11,6 +11,7 @@
 
 class TMenuBar : public CObject, public TDPtrList<TMenuItem> {
   DECLARE_DYNAMIC(TMenuBar)
+  QVX_PACKED_RECORD
 
  public:
   TMenuBar() = default;

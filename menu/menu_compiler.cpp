@@ -6,10 +6,11 @@
 #include "menu/menu_passes.h"
 
 MenuCompiler::MenuCompiler(std::string source, SourceMessages& messages, SourceEcho* echo,
-                           OpenComment openComment)
+                           OpenComment openComment, NarrowDecoder* decoder)
     : m_source(Folded(std::move(source))),
       m_messages(messages),
-      m_scanner(m_source, messages, echo, openComment) {}
+      m_scanner(m_source, messages, echo, openComment),
+      m_decoder(decoder) {}
 
 std::string MenuCompiler::Folded(std::string source) {
   FoldLineEnds(source);
@@ -18,11 +19,12 @@ std::string MenuCompiler::Folded(std::string source) {
 
 int MenuCompiler::Compile(TMenuSystem& system) {
   system.EmptyLists();
-  const int result = Parse(system);
-  RunPasses(system);
-  return result;
+  MenuParser parser(m_scanner, m_messages, system, m_decoder);
+  if (parser.Parse() != 0) return 1;
+  RunPasses(system, parser.Work());
+  return 0;
 }
 
 int MenuCompiler::Parse(TMenuSystem& system) {
-  return MenuParser(m_scanner, m_messages, system).Parse();
+  return MenuParser(m_scanner, m_messages, system, m_decoder).Parse();
 }

@@ -5,18 +5,20 @@
 
 #include <string>
 
+#include "menu/ansi_text.h"
 #include "menu/menu_scanner.h"
 #include "menu/menu_system.h"
 
 class MenuCompiler {
  public:
-  // `source` as read from the file; its line ends are folded here.
+  // `source` as read from the file; its line ends are folded here. Without a decoder its code page
+  // is the system's.
   MenuCompiler(std::string source, SourceMessages& messages, SourceEcho* echo = nullptr,
-               OpenComment openComment = OpenComment::kReadOn);
+               OpenComment openComment = OpenComment::kReadOn, NarrowDecoder* decoder = nullptr);
 
   // 0 when the source was accepted, 1 after a syntax error. The system's lists are emptied first;
-  // its title and recent list stay. After an error the lists are empty; the passes run in either
-  // case.
+  // its title and recent list stay. After an error the lists are empty, and the
+  // passes have nothing to do.
   int Compile(TMenuSystem& system);
   // The parse alone, without emptying and without passes.
   int Parse(TMenuSystem& system);
@@ -29,4 +31,5 @@ class MenuCompiler {
   const std::string m_source;
   SourceMessages& m_messages;
   MenuScanner m_scanner;
+  NarrowDecoder* m_decoder;
 };

@@ -1,7 +1,7 @@
 #include "menu/menu_item.h"
 
 #include "menu/menu_bar.h"
-#include "menu/name_index.h"
+#include "menu/fold_case.h"
 
 IMPLEMENT_DYNAMIC(TMenuItem, CObject)
 

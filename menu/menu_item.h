@@ -4,6 +4,7 @@
 #pragma once
 
 #include "afx.h"
+#include "kernel/packed_memory.h"
 #include "kernel/twcstring.h"
 
 class TMenuBar;
@@ -14,6 +15,7 @@ constexpr int kMenuTextCapacity = 256;
 
 class TMenuItem : public CObject {
   DECLARE_DYNAMIC(TMenuItem)
+  QVX_PACKED_RECORD
 
  public:
   enum Flags : unsigned {

@@ -16,48 +16,23 @@ std::wstring_view TrimEnd(std::wstring_view text) {
 // The command text as the host gets it: ';' outside quotes is a newline, one more ends it. A '^'
 // takes the character behind it along: with C or c the pair is an ESC, any other pair vanishes
 // without a word (so "^^C" leaves a plain C), and a '^' at the very end vanishes alone.
-class CommandExpander {
- public:
-  explicit CommandExpander(TWCString& out) : m_out(out) {}
-
-  void Expand(std::wstring_view text) {
-    m_out.Empty();
-    bool quoted = false;
-    for (wchar_t c : text) {
-      if (c == L'"') quoted = !quoted;
-      Put(c == L';' && !quoted ? L'\n' : c);
-    }
-    m_caret = false;
-    Put(L'\n');
-    Flush();
-  }
-
- private:
-  void Put(wchar_t c) {
-    if (m_caret) {
-      m_caret = false;
-      if (c != L'C' && c != L'c') return;
+// Gives the end of what it wrote, at most one unit more than the text has.
+wchar_t* ExpandCommand(std::wstring_view text, wchar_t* out) {
+  bool quoted = false;
+  for (size_t i = 0; i < text.size(); ++i) {
+    wchar_t c = text[i];
+    if (c == L'"') quoted = !quoted;
+    if (c == L'^') {
+      if (++i == text.size()) break;
+      if (text[i] == L'"') quoted = !quoted;
+      if (text[i] != L'C' && text[i] != L'c') continue;
       c = kEscape;
-    } else if (c == L'^') {
-      m_caret = true;
-      return;
     }
-    m_piece[m_count++] = c;
-    if (m_count == sizeof m_piece / sizeof *m_piece) Flush();
+    *out++ = c == L';' && !quoted ? L'\n' : c;
   }
-  void Flush() {
-    if (m_out.IsEmpty())
-      m_out.Assign(m_piece, m_count);
-    else
-      m_out.Append(m_piece, m_count);
-    m_count = 0;
-  }
-
-  TWCString& m_out;
-  bool m_caret = false;
-  wchar_t m_piece[256];
-  int m_count = 0;
-};
+  *out++ = L'\n';
+  return out;
+}
 
 }  // namespace
 
@@ -65,7 +40,7 @@ void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
   const size_t close = text.find(L']');
   if (close == std::wstring_view::npos) return;
   const std::wstring_view label = text.substr(1, close - 1).substr(0, kLongestLabel);
-  item.m_strLabel.Assign(label.data(), static_cast<int>(label.size()));
+  item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
 
   std::wstring_view command = TrimEnd(text.substr(close + 1).substr(0, kLongestCommand));
   if (command.empty()) {
@@ -73,5 +48,7 @@ void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
     return;
   }
   if (command.back() == L';') command.remove_suffix(1);
-  CommandExpander(item.m_strCommand).Expand(command);
+  wchar_t expanded[kLongestCommand + 1];
+  const wchar_t* end = ExpandCommand(command, expanded);
+  item.m_strCommand.Keep(expanded, static_cast<int>(end - expanded));
 }

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cwchar>
 #include <memory>
+#include <new>
 #include <string>
 
 #include "kernel/native_file.h"
@@ -67,6 +68,15 @@ bool MenuLoading::DefaultMenuBase(wchar_t* out) {
 void MenuLoading::CompileMenu(const wchar_t* path) {
   TMenuSystem* system = m_users.CurrentSystem();
   if (!system) return;
+  try {
+    Compile(path, *system);
+  } catch (const std::bad_alloc&) {  // the compiled file stays as it was
+    system->EmptyLists();
+    m_boxes.ShowMessage(L"CMemoryException");
+  }
+}
+
+void MenuLoading::Compile(const wchar_t* path, TMenuSystem& system) {
   std::string source;
   if (!ReadWholeFile(path, source)) return m_printer.Print(Joined(L"\nCould not open file ", path));
 
@@ -81,11 +91,11 @@ void MenuLoading::CompileMenu(const wchar_t* path) {
   {
     SourceEcho echo(echoFile.get());
     // A file with errors leaves an empty system, which is written and handed over all the same.
-    MenuCompiler(std::move(source), messages, &echo).Compile(*system);
+    MenuCompiler(std::move(source), messages, &echo).Compile(system);
   }
   echoFile.reset();
-  system->SaveCompiled(Joined(TSplitpathOperator(path).Base(), L".qmc"), m_boxes);
-  HandOver(*system);
+  system.SaveCompiled(Joined(TSplitpathOperator(path).Base(), L".qmc"), m_boxes);
+  HandOver(system);
 }
 
 void MenuLoading::LoadCompiledMenu(const wchar_t* path) {

@@ -28,6 +28,7 @@ class MenuLoading {
   void LoadCompiledMenu(const wchar_t* path);
 
  private:
+  void Compile(const wchar_t* path, TMenuSystem& system);
   bool FindBase(const wchar_t* name, wchar_t* out);
   bool FindEither(const wchar_t* base, wchar_t* out);
   void HandOver(TMenuSystem& system);

@@ -45,7 +45,7 @@ bool MenuParser::QmnMenu() {
 
 // menu_title : QMN_TITLE QMN_EQUAL QMN_STRING
 bool MenuParser::MenuTitle() {
-  return Expect(QMN_TITLE) && Expect(QMN_EQUAL) && ExpectText(QMN_STRING, m_title);
+  return Expect(QMN_TITLE) && Expect(QMN_EQUAL) && ExpectString(m_title);
 }
 
 // menu_bar_list : menu_bar_list menu_bar
@@ -65,35 +65,39 @@ bool MenuParser::MenuBarList() {
 // of the first line when that line follows.
 bool MenuParser::MenuBar() {
   auto bar = std::make_unique<TMenuBar>();
-  if (!ExpectText(QMN_IDENTIFIER, bar->m_strName)) return false;
+  if (!ExpectName(bar->m_strName)) return false;
   Mask mask;
   if (Is(QMN_IDENTIFIER)) {
-    ExpectText(QMN_IDENTIFIER, m_pendingIcon);
-    m_hasPendingIcon = true;
+    ExpectPendingIcon();
     if (Is(QMN_EQUAL)) {
-      bar->m_strKind = std::move(m_pendingIcon);
       m_hasPendingIcon = false;
+      m_work.names.CopyTo(m_work.names.Add(m_pendingIcon), bar->m_strKind);
       Advance();
       if (!ObjectMask(mask)) return false;
     }
   }
-  if (!MenuItemList(*bar)) return false;
+  if (!MenuItemList()) return false;
+  MoveAll(m_lines, *bar);
   bar->m_objectMask = std::move(mask.groups);
-  KeepBar(mask.lost ? nullptr : bar.release());
+  if (mask.lost || m_barsLost)
+    LoseBars();
+  else
+    KeepBar(std::move(bar));
   return true;
+}
+
+void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
+  m_bars.Append(bar.get());
+  static_cast<void>(bar.release());
 }
 
 // A block that failed takes all blocks before and behind it along, while switches and resources
 // stay: one bad group in a mask leaves the user without any menu.
-void MenuParser::KeepBar(TMenuBar* bar) {
-  std::unique_ptr<TMenuBar> kept(bar);
-  if (!kept) {
-    m_barsLost = true;
-    m_bars.Clear();
-  }
-  if (m_barsLost) return;
-  m_bars.Append(kept.get());
-  static_cast<void>(kept.release());
+void MenuParser::LoseBars() {
+  m_barsLost = true;
+  m_bars.Clear();
+  m_work.icons.clear();
+  m_work.labels.clear();
 }
 
 // object_mask : object_mask QMN_COMA dxf_group
@@ -144,7 +148,7 @@ void MenuParser::MakeGroup(int code, TRBList& group) {
     // The words for a string are those for an integer; users know them so.
     if (kind != RTSTR) return ReportKind(code, L"integer");
     TWCString text;
-    m_ansi.Decode(m_token.text, text);
+    m_ansi.Keep(m_token.text, text);
     group.AppendString(code, text);
   }
 }
@@ -160,27 +164,38 @@ void MenuParser::ReportKind(int code, const wchar_t* kind) {
 
 // menu_item_list : menu_item_list menu_item
 // menu_item_list : menu_item
-bool MenuParser::MenuItemList(TDPtrList<TMenuItem>& items) {
+bool MenuParser::MenuItemList() {
   do {
-    if (!MenuItem(items)) return false;
+    if (!MenuItem()) return false;
   } while (IsItemStart());
   return true;
 }
 
 // menu_item : QMN_MENU_ITEM
 // menu_item : QMN_IDENTIFIER QMN_MENU_ITEM
-bool MenuParser::MenuItem(TDPtrList<TMenuItem>& items) {
-  if (!m_hasPendingIcon && Is(QMN_IDENTIFIER)) {
-    ExpectText(QMN_IDENTIFIER, m_pendingIcon);
-    m_hasPendingIcon = true;
-  }
+bool MenuParser::MenuItem() {
+  if (!m_hasPendingIcon && Is(QMN_IDENTIFIER)) ExpectPendingIcon();
   if (!Check(QMN_MENU_ITEM)) return false;
-  TMenuItem& item = AppendNew(items);
-  if (std::exchange(m_hasPendingIcon, false))
-    item.m_strIconName.Assign(m_pendingIcon, m_pendingIcon.Length());
+  TMenuItem& item = AppendNew(m_lines);
   ParseMenuLine(m_ansi.Decode(m_token.text), item);
+  const bool hasIcon = std::exchange(m_hasPendingIcon, false);
+  NoteLine(item, hasIcon ? m_work.names.Add(m_pendingIcon) : PassWork::kNoName);
   Advance();
   return true;
+}
+
+void MenuParser::ExpectPendingIcon() {
+  m_pendingIcon = m_work.names.Announce(m_token.text);
+  m_hasPendingIcon = true;
+  Advance();
+}
+
+void MenuParser::NoteLine(TMenuItem& item, int icon) {
+  if (icon != PassWork::kNoName) {
+    m_work.names.CopyTo(icon, item.m_strIconName);
+    m_work.icons.push_back({&item.m_nIconIndex, icon});
+  }
+  if (IsLabelWork(item)) m_work.labels.push_back({&item, icon});
 }
 
 // menu_switch_list : menu_switch_list menu_switch_item
@@ -198,8 +213,11 @@ bool MenuParser::MenuSwitchList() {
 bool MenuParser::MenuSwitchItem() {
   Advance();
   TMenuSwitchItem& made = AppendNew(m_switches);
-  return ExpectText(QMN_IDENTIFIER, made.m_strName) && ExpectName(QMN_GET_STATE, made.m_strGetFn) &&
-         ExpectName(QMN_SET_STATE, made.m_strSetFn) && SwitchStateList(made);
+  m_work.switches.push_back(PassWork::kNoName);
+  if (!ExpectNumberedName(m_work.switches.back())) return false;
+  m_work.names.CopyTo(m_work.switches.back(), made.m_strName);
+  return ExpectFunction(QMN_GET_STATE, made.m_strGetFn) &&
+         ExpectFunction(QMN_SET_STATE, made.m_strSetFn) && SwitchStateList(made);
 }
 
 // switch_state_list : switch_state_list switch_state_item
@@ -217,8 +235,8 @@ bool MenuParser::SwitchStateItem(TMenuSwitchItem& owner) {
   TSwitchStateItem& state = AppendNew(owner.m_states);
   state.m_nValue = m_token.number;
   Advance();
-  return Expect(QMN_EQUAL) && ExpectText(QMN_IDENTIFIER, state.m_strIconName) && Expect(QMN_COMA) &&
-         ExpectText(QMN_STRING, state.m_strLabel);
+  return Expect(QMN_EQUAL) && ExpectIcon(state.m_strIconName, state.m_nIconIndex) &&
+         Expect(QMN_COMA) && ExpectString(state.m_strLabel);
 }
 
 // menu_res_list : menu_res_list menu_res_item
@@ -233,9 +251,11 @@ bool MenuParser::MenuResList() {
 // menu_res_item : QMN_IDENTIFIER QMN_EQUAL QMN_STRING QMN_COMA QMN_STRING
 bool MenuParser::MenuResItem() {
   TMenuResItem& made = AppendNew(m_resources);
-  return ExpectText(QMN_IDENTIFIER, made.m_strName) && Expect(QMN_EQUAL) &&
-         ExpectText(QMN_STRING, made.m_strImage) && Expect(QMN_COMA) &&
-         ExpectText(QMN_STRING, made.m_strImage2);
+  m_work.resources.push_back(PassWork::kNoName);
+  if (!ExpectNumberedName(m_work.resources.back())) return false;
+  m_work.names.CopyTo(m_work.resources.back(), made.m_strName);
+  return Expect(QMN_EQUAL) && ExpectString(made.m_strImage) && Expect(QMN_COMA) &&
+         ExpectString(made.m_strImage2);
 }
 
 bool MenuParser::Check(int kind) { return Is(kind) || SyntaxError(); }
@@ -246,16 +266,38 @@ bool MenuParser::Expect(int kind) {
   return true;
 }
 
-bool MenuParser::ExpectText(int kind, TWCString& out) {
-  if (!Check(kind)) return false;
-  m_ansi.Decode(m_token.text, out);
+bool MenuParser::ExpectString(TWCString& out) {
+  if (!Check(QMN_STRING)) return false;
+  m_ansi.Keep(m_token.text, out);
   Advance();
   return true;
 }
 
+bool MenuParser::ExpectNumberedName(int& name) {
+  if (!Check(QMN_IDENTIFIER)) return false;
+  name = m_work.names.Add(m_token.text);
+  Advance();
+  return true;
+}
+
+bool MenuParser::ExpectName(TWCString& out) {
+  int name;
+  if (!ExpectNumberedName(name)) return false;
+  m_work.names.CopyTo(name, out);
+  return true;
+}
+
+bool MenuParser::ExpectIcon(TWCString& out, int& index) {
+  int name;
+  if (!ExpectNumberedName(name)) return false;
+  m_work.names.CopyTo(name, out);
+  m_work.icons.push_back({&index, name});
+  return true;
+}
+
 // keyword QMN_EQUAL QMN_IDENTIFIER
-bool MenuParser::ExpectName(int keyword, TWCString& out) {
-  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectText(QMN_IDENTIFIER, out);
+bool MenuParser::ExpectFunction(int keyword, TWCString& out) {
+  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectName(out);
 }
 
 bool MenuParser::SyntaxError() {

@@ -6,17 +6,23 @@
 // left-recursive.
 #pragma once
 
+#include <memory>
+
 #include "menu/ansi_text.h"
+#include "menu/menu_passes.h"
 #include "menu/menu_scanner.h"
 #include "menu/menu_system.h"
 
 class MenuParser {
  public:
-  MenuParser(MenuScanner& scanner, SourceMessages& messages, TMenuSystem& system)
-      : m_scanner(scanner), m_messages(messages), m_system(system) {}
+  MenuParser(MenuScanner& scanner, SourceMessages& messages, TMenuSystem& system,
+             NarrowDecoder* decoder = nullptr)
+      : m_scanner(scanner), m_messages(messages), m_system(system), m_ansi(decoder) {}
 
   // 0 when the file was accepted, 1 after a syntax error. Appends to the system's lists.
   int Parse();
+  // What is left to do for the passes once the file was accepted.
+  const PassWork& Work() const { return m_work; }
 
  private:
   struct Mask {
@@ -30,8 +36,8 @@ class MenuParser {
   bool MenuBar();
   bool ObjectMask(Mask& mask);
   bool DxfGroup(TRBList& group);
-  bool MenuItemList(TDPtrList<TMenuItem>& items);
-  bool MenuItem(TDPtrList<TMenuItem>& items);
+  bool MenuItemList();
+  bool MenuItem();
   bool MenuSwitchList();
   bool MenuSwitchItem();
   bool SwitchStateList(TMenuSwitchItem& owner);
@@ -44,12 +50,18 @@ class MenuParser {
   void Advance() { m_scanner.Next(m_token); }
   bool Check(int kind);
   bool Expect(int kind);
-  bool ExpectText(int kind, TWCString& out);
-  bool ExpectName(int keyword, TWCString& out);
+  bool ExpectString(TWCString& out);
+  bool ExpectName(TWCString& out);
+  bool ExpectNumberedName(int& name);
+  bool ExpectIcon(TWCString& out, int& index);
+  bool ExpectFunction(int keyword, TWCString& out);
   bool SyntaxError();
   void MakeGroup(int code, TRBList& group);
   void ReportKind(int code, const wchar_t* kind);
-  void KeepBar(TMenuBar* bar);
+  void ExpectPendingIcon();
+  void NoteLine(TMenuItem& item, int icon);
+  void KeepBar(std::unique_ptr<TMenuBar> bar);
+  void LoseBars();
   void Commit();
 
   MenuScanner& m_scanner;
@@ -59,9 +71,11 @@ class MenuParser {
   AnsiText m_ansi;
   // The identifier in front of a menu line, read before it was known which of the two rules it
   // opens.
-  TWCString m_pendingIcon;
+  NamePool::Key m_pendingIcon;
   bool m_hasPendingIcon = false;
 
+  PassWork m_work;
+  TDPtrList<TMenuItem> m_lines;  // of the block that is being read
   TWCString m_title;
   TDPtrList<TMenuBar> m_bars;
   bool m_barsLost = false;

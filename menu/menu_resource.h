@@ -6,6 +6,7 @@
 
 class TMenuResItem : public CObject {
   DECLARE_DYNAMIC(TMenuResItem)
+  QVX_PACKED_RECORD
 
  public:
   TMenuResItem() = default;

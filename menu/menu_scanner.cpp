@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -83,6 +85,28 @@ double RealOf(const char* begin, const char* end) {
   return value;
 }
 
+constexpr uint64_t kOnes = 0x0101010101010101u;
+constexpr uint64_t kHighBits = 0x8080808080808080u;
+static_assert(std::endian::native == std::endian::little);
+
+// The high bit of each byte that is `c`, and perhaps of bytes above the lowest one that is.
+constexpr uint64_t Marks(uint64_t eight, char c) {
+  const uint64_t zero = eight ^ kOnes * static_cast<unsigned char>(c);
+  return (zero - kOnes) & ~zero & kHighBits;
+}
+
+// The first byte that is one of the stops; `end` when there is none. Eight at a time.
+template <char... kStops>
+const char* FindAny(const char* p, const char* end) {
+  for (; end - p >= 8; p += 8) {
+    uint64_t eight;
+    std::memcpy(&eight, p, 8);
+    if (const uint64_t marks = (Marks(eight, kStops) | ...)) return p + std::countr_zero(marks) / 8;
+  }
+  while (p < end && ((*p != kStops) && ...)) ++p;
+  return p;
+}
+
 // Reads on behind the end of the file, where every character is 0. The language has no way out.
 void ReadOnForEver() {
   volatile char next = 0;
@@ -98,13 +122,17 @@ void SourceEcho::Flush() {
 }
 
 void FoldLineEnds(std::string& bytes) {
-  size_t from = bytes.find("\r\n");
-  if (from == std::string::npos) return;
-  size_t to = from;
-  for (; from < bytes.size(); ++from)
-    if (bytes[from] != '\r' || from + 1 == bytes.size() || bytes[from + 1] != '\n')
-      bytes[to++] = bytes[from];
-  bytes.resize(to);
+  size_t pair = bytes.find("\r\n");
+  if (pair == std::string::npos) return;
+  char* to = bytes.data() + pair;
+  while (pair != std::string::npos) {
+    const size_t from = pair + 1;
+    pair = bytes.find("\r\n", from);
+    const size_t count = (pair == std::string::npos ? bytes.size() : pair) - from;
+    std::memmove(to, bytes.data() + from, count);
+    to += count;
+  }
+  bytes.resize(static_cast<size_t>(to - bytes.data()));
 }
 
 MenuScanner::MenuScanner(const std::string& source, SourceMessages& messages, SourceEcho* echo,
@@ -237,6 +265,7 @@ int MenuScanner::String(MenuToken& token) {
   const char* last = m_end - begin < kLongestToken ? m_end : begin + kLongestToken - 1;
   const char* p = begin;
   for (;; ++p) {
+    p = FindAny<'"', '\\', '\n', '\0'>(p, last);
     const char* kept = p;
     if (p < last && *p == '\\') ++p;
     if (p == m_end || *p == 0) {
@@ -266,8 +295,7 @@ int MenuScanner::String(MenuToken& token) {
 int MenuScanner::MenuLine(MenuToken& token) {
   const char* begin = m_at;
   const char* limit = Limit(begin);
-  const char* p = begin + 1;
-  while (p < limit && *p != '\n' && *p != 0) ++p;
+  const char* p = FindAny<'\n', '\0'>(begin + 1, limit);
   m_at = p;
   if (p < m_end && *p == '\n') return Text(token, QMN_MENU_ITEM, begin, p);
   if (p < m_end) ++m_at;

@@ -7,6 +7,7 @@
 
 class TSwitchStateItem : public CObject {
   DECLARE_DYNAMIC(TSwitchStateItem)
+  QVX_PACKED_RECORD
 
  public:
   void Serialize(CArchive& ar) override;
@@ -19,6 +20,7 @@ class TSwitchStateItem : public CObject {
 
 class TMenuSwitchItem : public CObject {
   DECLARE_DYNAMIC(TMenuSwitchItem)
+  QVX_PACKED_RECORD
 
  public:
   void Serialize(CArchive& ar) override;

@@ -1,6 +1,6 @@
 #include "menu/menu_system.h"
 
-#include "menu/name_index.h"
+#include "menu/fold_case.h"
 
 IMPLEMENT_DYNAMIC(TMenuSystem, CObject)
 

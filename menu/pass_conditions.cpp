@@ -24,7 +24,7 @@ std::wstring_view FirstWord(std::wstring_view text) {
 
 void SetFunction(TMenuItem& item, unsigned flag, TWCString& function, std::wstring_view name) {
   item.m_nFlags |= flag;
-  function.Assign(name.data(), static_cast<int>(name.size()));
+  function.Keep(name.data(), static_cast<int>(name.size()));
 }
 
 void TakeCondition(TMenuItem& item, std::wstring_view condition) {
@@ -46,16 +46,24 @@ void StripLabel(TMenuItem& item) {
     label = Trim(label.substr(close + 1));
   }
   if (label.size() != static_cast<size_t>(item.m_strLabel.Length()))
-    item.m_strLabel.Assign(label.data(), static_cast<int>(label.size()));
+    item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
 }
 
 }  // namespace
 
-void StripConditions(TMenuSystem& system) {
-  for (TMenuBar* bar : system) {
-    MenuWalk walk(*bar);
-    while (TMenuItem* item = walk.Next())
-      if (!item->m_pSubMenu && !item->m_pSwitch && item->m_strLabel.Length() >= kShortestLabel)
-        StripLabel(*item);
+void StripConditions(const PassWork& work) {
+  for (const PassWork::LabelUse& use : work.labels) {
+    TMenuItem& item = *use.item;
+    if (!item.m_pSubMenu && !item.m_pSwitch && item.m_strLabel.Length() >= kShortestLabel)
+      StripLabel(item);
   }
+}
+
+// What begins or ends with a blank, begins with a brace or a star, or loses its arrows.
+bool IsLabelWork(const TMenuItem& item) {
+  const int length = item.m_strLabel.Length();
+  if (length < kShortestLabel) return false;
+  const wchar_t* label = item.m_strLabel.c_str();
+  return *label == L'{' || *label == L'*' || *label == L' ' || *label == L'<' || *label == L'-' ||
+         label[length - 1] == L' ';
 }

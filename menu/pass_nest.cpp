@@ -19,11 +19,13 @@
 namespace {
 
 constexpr int kNone = -1;
+constexpr int kUsualLength = 16;  // of a sub-menu; more grows
 
 // What the labels of a bar say, gathered once before any line moves.
 class NestPlan {
  public:
   explicit NestPlan(const TMenuBar& bar) {
+    m_lines.reserve(static_cast<size_t>(bar.Length()));
     for (int i = 0; i < bar.Length(); ++i) Gather(bar.At(i)->m_strLabel);
     if (m_hasOpening) FindEnds();
   }
@@ -95,7 +97,7 @@ class NestPlan {
   int m_highest = 0;
 };
 
-void DropPair(TWCString& label) { label.Assign(label.c_str() + 2, label.Length() - 2); }
+void DropPair(TWCString& label) { label.Keep(label.c_str() + 2, label.Length() - 2); }
 
 // Hands the lines out to their bars by a plan. The bars under construction form a path on the heap.
 class Nester {
@@ -133,13 +135,17 @@ class Nester {
     DropPair(opening->m_strLabel);
     DropPair(m_lines.At(range.last)->m_strLabel);
     opening->m_pSubMenu = new TMenuBar;
+    opening->m_pSubMenu->Reserve(std::min(range.last - range.first, kUsualLength));
     place.next = range.last + 1;
     const int worn = range.last == place.last ? place.worn + 1 : 1;
     m_path.push_back({opening->m_pSubMenu, range.first + 1, range.last, worn});
   }
 
   void MoveTo(TMenuBar& bar, int first, int last) {
-    for (int i = first; i <= last; ++i) bar.Append(m_lines.Exchange(i, nullptr));
+    for (int i = first; i <= last; ++i) {
+      bar.Append(m_lines.At(i));
+      m_lines.Exchange(i, nullptr);
+    }
   }
 
   const NestPlan& m_plan;

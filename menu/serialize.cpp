@@ -4,7 +4,7 @@
 
 #include "menu/compiled_tree.h"
 #include "menu/menu_system.h"
-#include "menu/name_index.h"
+#include "menu/fold_case.h"
 
 namespace {
 
@@ -112,8 +112,9 @@ void StoreOrLoad(CArchive& ar, T& object) {
   if (ar.IsStoring()) {
     CompiledWriter out(ar, TMenuSystem::Current());
     Write(out, object);
+    out.Finish();
   } else {
-    CompiledReader in(ar, TMenuSystem::Current());
+    CompiledReader in(ar, TMenuSystem::Current(), CompiledReader::Ahead::kNothing);
     Read(in, object);
   }
 }
@@ -130,8 +131,10 @@ void TMenuSystem::Serialize(CArchive& ar) {
   if (ar.IsStoring()) {
     CompiledWriter out(ar, this);
     WriteSystem(out, *this);
+    out.Finish();
   } else {
-    CompiledReader in(ar, this);
+    CompiledReader in(ar, this, CompiledReader::Ahead::kMuch);
     ReadSystem(in, *this);
+    in.Finish();
   }
 }

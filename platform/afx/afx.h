@@ -410,7 +410,8 @@ class CArchive {
 
   CFile* m_pFile;
   UINT m_nMode;
-  std::vector<BYTE> m_buffer;
+  std::size_t m_size;
+  std::unique_ptr<BYTE[]> m_buffer;
   std::size_t m_at = 0;   // next byte to read or to write
   std::size_t m_end = 0;  // end of what was read
 };

@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
+#include <random>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "kernel/packed_memory.h"
 #include "kernel/tsplitpath.h"
 
 TEST(TWCString, AnEmptyOneReadsAsEmptyTextWithoutStorage) {
@@ -89,6 +94,93 @@ TEST(TWCString, EqualityIsExactAndTheOtherOneFoldsCase) {
   EXPECT_FALSE(text.EqualsNoCase(L"sCREENs"));
   EXPECT_FALSE(text.EqualsNoCase(L"sCREE"));
   EXPECT_TRUE(TWCString().EqualsNoCase(nullptr));
+}
+
+// ---- kept texts
+
+TEST(KeptText, ReadsLikeAnyOtherAndIsSharedByCopies) {
+  TWCString text;
+  text.Keep(L"a\0b", 3);
+  EXPECT_EQ(text.Length(), 3);
+  EXPECT_EQ(std::wstring(text.c_str(), 4), std::wstring(L"a\0b", 4));
+  const TWCString copy(text);
+  EXPECT_EQ(copy.c_str(), text.c_str());
+  TWCString assigned(L"something longer than that");
+  assigned = text;
+  EXPECT_EQ(assigned.c_str(), text.c_str());
+}
+
+TEST(KeptText, EveryChangeLeavesTheCopiesAlone) {
+  TWCString kept;
+  kept.Keep(L"wall", 4);
+  const auto changed = [&kept](auto change) {
+    TWCString copy(kept);
+    change(copy);
+    EXPECT_STREQ(kept, L"wall");
+    return std::wstring(copy.c_str(), static_cast<size_t>(copy.Length()));
+  };
+  EXPECT_EQ(changed([](TWCString& text) { text[0] = L'b'; }), L"ball");
+  EXPECT_EQ(changed([](TWCString& text) { text += L's'; }), L"walls");
+  EXPECT_EQ(changed([](TWCString& text) { text += text; }), L"wallwall");
+  EXPECT_EQ(changed([](TWCString& text) { text.Truncate(2); }), L"wa");
+  EXPECT_EQ(changed([](TWCString& text) { text.Empty(); }), L"");
+  EXPECT_EQ(changed([](TWCString& text) { text = L"x"; }), L"x");
+  EXPECT_EQ(changed([](TWCString& text) { text.Assign(text.c_str() + 1, 2); }), L"al");
+  EXPECT_EQ(changed([](TWCString& text) { text.Keep(text.c_str() + 2, 2); }), L"ll");
+  EXPECT_EQ(changed([](TWCString& text) { text.Keep(L"", 0); }), L"");
+  EXPECT_EQ(changed([](TWCString& text) { text.Reserve(100); }), L"wall");
+}
+
+TEST(KeptText, LongOnesAreKeptOnTheHeap) {
+  const std::wstring longest(5000, L'x');
+  const size_t before = PackedMemory::LiveBlocks();
+  TWCString text;
+  text.Keep(longest.c_str(), static_cast<int>(longest.size()));
+  EXPECT_EQ(PackedMemory::LiveBlocks(), before);
+  EXPECT_EQ(text.c_str(), longest);
+  TWCString room;
+  std::fill_n(room.KeepRoom(5000), 5000, L'x');
+  EXPECT_TRUE(room == text);
+}
+
+TEST(KeptText, ASharedTextOutlivesItsGiver) {
+  const size_t before = PackedMemory::LiveBlocks();
+  {
+    std::vector<TWCString> copies(100);
+    {
+      TSharedText shared(L"icon", 4);
+      TSharedText moved(std::move(shared));
+      for (TWCString& copy : copies) moved.CopyTo(copy);
+      EXPECT_EQ(copies[7].c_str(), moved.Text().c_str());
+    }
+    EXPECT_STREQ(copies[99], L"icon");
+    EXPECT_EQ(PackedMemory::LiveBlocks(), before + 100);
+  }
+  EXPECT_EQ(PackedMemory::LiveBlocks(), before);
+  TSharedText nothing(L"", 0);
+  TWCString text(L"x");
+  nothing.CopyTo(text);
+  EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(PackedMemory, BlocksOfManyChunksGoInAnyOrder) {
+  const size_t before = PackedMemory::LiveBlocks();
+  std::vector<std::pair<unsigned char*, size_t>> blocks;
+  std::mt19937 random(5);
+  for (int i = 0; i < 20000; ++i) {
+    const size_t bytes = 1 + random() % (i % 100 ? 60 : PackedMemory::kLargest);
+    const bool record = i % 3 == 0;
+    void* block = record ? PackedMemory::TakeRecord(bytes) : PackedMemory::Take(bytes);
+    ASSERT_EQ(reinterpret_cast<std::uintptr_t>(block) % (record ? 8 : 4), 0u);
+    std::memset(block, i & 0xFF, bytes);
+    blocks.emplace_back(static_cast<unsigned char*>(block), bytes);
+  }
+  EXPECT_EQ(PackedMemory::LiveBlocks(), before + blocks.size());
+  for (size_t i = 0; i < blocks.size(); ++i)
+    for (size_t at = 0; at < blocks[i].second; ++at) ASSERT_EQ(blocks[i].first[at], i & 0xFF);
+  std::shuffle(blocks.begin(), blocks.end(), random);
+  for (const auto& block : blocks) PackedMemory::Drop(block.first);
+  EXPECT_EQ(PackedMemory::LiveBlocks(), before);
 }
 
 TEST(NarrowText, GoesThroughTheAnsiCodePageAndBack) {

@@ -4,7 +4,8 @@
 #include <memory>
 #include <type_traits>
 
-#include "menu/name_index.h"
+#include "menu/fold_case.h"
+#include "menu/name_pool.h"
 #include "tests/menu/menu_testing.h"
 
 namespace {
@@ -307,29 +308,61 @@ TEST(RecentList, RunModeKeepsTheBareCommandAsLabel) {
 
 // ---- names
 
-TEST(NameIndex, FindsTheFirstOfEqualNamesAndIgnoresCase) {
-  const TWCString names[] = {L"Wall", L"WALL", L"door", L"Ωmega", L"Я"};
-  NameIndex index(5);
-  for (const TWCString& name : names) index.Add(name);
-  EXPECT_EQ(index.Find(L"wAlL"), 0);
-  EXPECT_EQ(index.Find(L"DOOR"), 2);
-  EXPECT_EQ(index.Find(L"ωMEGA"), 3);
-  EXPECT_EQ(index.Find(L"я"), 4);
-  EXPECT_EQ(index.Find(L"window"), -1);
+TEST(NamePool, EqualNamesHaveOneNumberAndOneText) {
+  NamePool pool;
+  const int wall = pool.Add("Wall"), other = pool.Add("WALL");
+  EXPECT_EQ(pool.Add("Wall"), wall);
+  EXPECT_NE(other, wall);
+  EXPECT_EQ(pool.Count(), 2);
+  TWCString first, second;
+  pool.CopyTo(wall, first);
+  pool.CopyTo(wall, second);
+  EXPECT_EQ(first.c_str(), second.c_str());
+  EXPECT_STREQ(first.c_str(), L"Wall");
 }
 
-TEST(NameIndex, AnEmptyTableFindsNothing) {
-  NameIndex index(0);
-  EXPECT_EQ(index.Find(L"x"), -1);
+TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
+  NamePool pool;
+  const int wall = pool.Add("a_very_long_name_of_a_Wall");
+  EXPECT_EQ(pool.Family(pool.Add("A_VERY_LONG_NAME_OF_A_WALL")), wall);
+  EXPECT_EQ(pool.Family(pool.Add("a_very_long_name_of_a_wALL")), wall);
+  EXPECT_NE(pool.Family(pool.Add("a_very_long_name_of_a_hall")), wall);
+  EXPECT_NE(pool.Family(pool.Add("0P")), pool.Family(pool.Add("P0")));
 }
 
-TEST(NameIndex, AgreesWithAWalkFromTheFrontForManyNames) {
-  std::vector<TWCString> names;
-  for (int i = 0; i < 500; ++i) names.emplace_back((L"n" + std::to_wstring(i % 300)).c_str());
-  NameIndex index(500);
-  for (const TWCString& name : names) index.Add(name);
+TEST(NamePool, ATableEntryIsFoundByItsFirstNameInAnyCase) {
+  NamePool pool;
+  const std::vector<int> table = {pool.Add("Wall"), pool.Add("WALL"), pool.Add("door")};
+  const int lower = pool.Add("wall"), upper = pool.Add("DOOR"), none = pool.Add("window");
+  const NameLookup lookup(pool, table);
+  EXPECT_EQ(lookup.Find(lower), 0);
+  EXPECT_EQ(lookup.Find(upper), 2);
+  EXPECT_EQ(lookup.Find(none), -1);
+}
+
+TEST(NamePool, AgreesWithAWalkFromTheFrontForManyNames) {
+  std::vector<std::string> names;
+  for (int i = 0; i < 500; ++i) names.push_back("n" + std::to_string(i % 300));
+  for (int i = 0; i < 310; ++i) names.push_back("N" + std::to_string(i));
+  NamePool pool;
+  std::vector<int> table;
+  for (int i = 0; i < 500; ++i) table.push_back(pool.Add(names[static_cast<size_t>(i)]));
+  std::vector<int> asked;
+  for (size_t i = 500; i < names.size(); ++i) asked.push_back(pool.Add(names[i]));
+  const NameLookup lookup(pool, table);
   for (int i = 0; i < 310; ++i)
-    EXPECT_EQ(index.Find((L"N" + std::to_wstring(i)).c_str()), i < 300 ? i : -1);
+    EXPECT_EQ(lookup.Find(asked[static_cast<size_t>(i)]), i < 300 ? i : -1);
+}
+
+TEST(FoldCase, KnowsTheLettersOfTheCodePagesInUse) {
+  EXPECT_TRUE(EqualNamesNoCase(L"Ωmega", L"ωMEGA"));
+  EXPECT_TRUE(EqualNamesNoCase(L"Я", L"я"));
+  EXPECT_TRUE(EqualNamesNoCase(L"Ё", L"ё"));
+  EXPECT_TRUE(EqualNamesNoCase(L"Ａ", L"ａ"));
+  EXPECT_TRUE(EqualNamesNoCase(L"É", L"é"));
+  EXPECT_FALSE(EqualNamesNoCase(L"×", L"÷"));
+  EXPECT_FALSE(EqualNamesNoCase(L"墙", L"柱"));
+  EXPECT_FALSE(EqualNamesNoCase(L"a", L"ab"));
 }
 
 }  // namespace

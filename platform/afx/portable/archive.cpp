@@ -1,6 +1,6 @@
 // CArchive. Numbers are laid down byte by byte, so that no build's own order or widths reach a
-// file. A reader trusts nothing: a string's length is held against what the file still has before
-// any room is made for it.
+// file. Pieces larger than the buffer go past it. A reader trusts nothing: a string's length is
+// held against what the file still has before any room is made for it.
 #include "afx.h"
 
 #include <algorithm>
@@ -41,7 +41,8 @@ CArchive::CArchive(CFile* file, UINT mode, int bufferSize, void*)
     : m_strFileName(file->GetFilePath()),
       m_pFile(file),
       m_nMode(mode),
-      m_buffer(std::max(kSmallestBuffer, static_cast<std::size_t>(std::max(bufferSize, 0)))) {}
+      m_size(std::max(kSmallestBuffer, static_cast<std::size_t>(std::max(bufferSize, 0)))),
+      m_buffer(std::make_unique_for_overwrite<BYTE[]>(m_size)) {}
 
 CArchive::~CArchive() {
   if (!m_pFile || (m_nMode & bNoFlushOnDelete)) return;
@@ -64,16 +65,23 @@ void CArchive::RequireLoading() const {
 bool CArchive::Fill() {
   m_at = 0;
   m_end = 0;
-  m_end = m_pFile->Read(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
+  m_end = m_pFile->Read(m_buffer.get(), static_cast<UINT>(m_size));
   return m_end > 0;
 }
 
 UINT CArchive::Read(void* buffer, UINT count) {
   RequireLoading();
   UINT done = 0;
-  while (done < count && (m_at < m_end || Fill())) {
+  while (done < count) {
+    if (m_at == m_end && count - done >= m_size) {
+      const UINT direct = m_pFile->Read(static_cast<BYTE*>(buffer) + done, count - done);
+      done += direct;
+      if (direct == 0) break;
+      continue;
+    }
+    if (m_at == m_end && !Fill()) break;
     const std::size_t part = std::min<std::size_t>(count - done, m_end - m_at);
-    std::copy_n(m_buffer.data() + m_at, part, static_cast<BYTE*>(buffer) + done);
+    std::copy_n(m_buffer.get() + m_at, part, static_cast<BYTE*>(buffer) + done);
     m_at += part;
     done += static_cast<UINT>(part);
   }
@@ -96,9 +104,9 @@ void CArchive::Write(const void* buffer, UINT count) {
   RequireStoring();
   const BYTE* from = static_cast<const BYTE*>(buffer);
   while (count) {
-    if (m_at == m_buffer.size()) Flush();
-    const std::size_t part = std::min<std::size_t>(count, m_buffer.size() - m_at);
-    std::copy_n(from, part, m_buffer.data() + m_at);
+    if (m_at == m_size) Flush();
+    const std::size_t part = std::min<std::size_t>(count, m_size - m_at);
+    std::copy_n(from, part, m_buffer.get() + m_at);
     m_at += part;
     from += part;
     count -= static_cast<UINT>(part);
@@ -114,7 +122,7 @@ void CArchive::Flush() {
     return;
   }
   const std::size_t filled = std::exchange(m_at, 0);
-  if (filled) m_pFile->Write(m_buffer.data(), static_cast<UINT>(filled));
+  if (filled) m_pFile->Write(m_buffer.get(), static_cast<UINT>(filled));
 }
 
 void CArchive::Close() {
