@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "tools/qmn/qmn_tool.h"
 
@@ -27,3 +28,17 @@ struct DumpOptions {
   DumpForm form = DumpForm::kJson;
 };
 int RunDump(const DumpOptions& options, const QmnStreams& streams);
+
+struct FmtOptions {
+  std::vector<std::string> in;
+  bool check = false;  // names the files that aren't in canonical layout and writes nothing
+  unsigned page = 936;
+};
+int RunFmt(const FmtOptions& options, const QmnStreams& streams);
+
+struct DecompileOptions {
+  std::string in;
+  std::string out;  // empty: standard output
+  unsigned page = 936;
+};
+int RunDecompile(const DecompileOptions& options, const QmnStreams& streams);

@@ -20,6 +20,9 @@ constexpr char kHelp[] = R"(Examples:
   qmn dump qvx.qmn --tree              an outline of the menus
   qmn dump qvx.qmc --json              the model as canonical JSON
   qmn dump qvx.qmc --bytes             every field of the file with its offset
+  qmn fmt qvx.qmn                      puts a source into its canonical layout
+  qmn fmt --check *.qmn                names those that are not in it
+  qmn decompile qvx.qmc -o qvx.qmn     source that compiles to the same bytes
 
 Exit codes: 0 fine, 1 something is wrong in the input, 2 wrong usage,
 3 a file could not be read or written.
@@ -41,6 +44,8 @@ struct Options {
   CompileOptions compile;
   LoadOptions load;
   DumpOptions dump;
+  FmtOptions fmt;
+  DecompileOptions decompile;
   bool json = false, tree = false, bytes = false;
   int page = kPage;
 };
@@ -80,6 +85,22 @@ void AddDump(CLI::App& app, Options& options) {
   AddPage(*command, options);
 }
 
+void AddFmt(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("fmt", "Put menu sources into their canonical layout");
+  command->add_option("FILE", options.fmt.in, "menu sources; rewritten where they stand")
+      ->required();
+  command->add_flag("--check", options.fmt.check,
+                    "write nothing; name the files that are not in it, and exit with 1");
+  AddPage(*command, options);
+}
+
+void AddDecompile(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("decompile", "Turn a compiled file back into source");
+  command->add_option("IN", options.decompile.in, "compiled file (.qmc)")->required();
+  command->add_option("-o", options.decompile.out, "menu source; standard output unless given");
+  AddPage(*command, options);
+}
+
 int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) {
   if (options.page != EnginePage()) {
     ReportError(streams, "qmn",
@@ -89,6 +110,8 @@ int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) 
   }
   if (app.got_subcommand("compile")) return RunCompile(options.compile, streams);
   if (app.got_subcommand("load")) return RunLoad(options.load, streams);
+  if (app.got_subcommand("fmt")) return RunFmt(options.fmt, streams);
+  if (app.got_subcommand("decompile")) return RunDecompile(options.decompile, streams);
   if (options.tree) options.dump.form = DumpForm::kTree;
   if (options.bytes) options.dump.form = DumpForm::kBytes;
   return RunDump(options.dump, streams);
@@ -106,6 +129,8 @@ int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
   AddCompile(app, options);
   AddLoad(app, options);
   AddDump(app, options);
+  AddFmt(app, options);
+  AddDecompile(app, options);
   try {
     // The parser takes its arguments from the end.
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));

@@ -1,0 +1,90 @@
+// qmn decompile: a compiled file into source that compiles to the same bytes. The source is
+// compiled in memory and compared before anything is written; where the language can't say the
+// file, the field and its place are named instead.
+#include <ostream>
+
+#include "tools/qmn/commands.h"
+#include "tools/qmn/decompile.h"
+#include "tools/qmn/fmt_source.h"
+#include "tools/qmn/model_io.h"
+#include "tools/qmn/tool_files.h"
+#include "tools/qmn/tool_text.h"
+
+namespace {
+
+class NoMessages : public SourceMessages {
+ public:
+  void ReportSyntaxError(const wchar_t*, int) override { ++m_count; }
+  int Count() const { return m_count; }
+
+ private:
+  int m_count = 0;
+};
+
+// The other forms of a file that the module reads just as well, and writes in this one.
+void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals) {
+  const std::string written = SaveBytes(system);
+  if (written == bytes) return;
+  size_t at = 0;
+  while (at < written.size() && at < bytes.size() && written[at] == bytes[at]) ++at;
+  refusals.Add("file", "byte " + std::to_string(at) +
+                           ": not as the compiler writes it; qmn load IN -o OUT gives a file that "
+                           "is");
+}
+
+// True when it compiles to the wanted bytes.
+bool CheckSource(const std::string& source, const std::string& bytes, TMenuSystem& wanted,
+                 Refusals& refusals) {
+  TMenuSystem made;
+  NoMessages messages;
+  const CompileResult result = CompileSource(source, messages, made);
+  if (!result.accepted || messages.Count()) return false;
+  if (SaveBytes(made) == bytes) return true;
+  DifferencesOf(wanted, made, refusals);
+  return false;
+}
+
+void ReportRefusals(const std::string& file, const Refusals& refusals, const QmnStreams& streams) {
+  for (const Refusal& refusal : refusals.Shown())
+    ReportError(streams, file, refusal.place + ": " + refusal.text);
+  if (refusals.Count() > refusals.Shown().size())
+    ReportError(streams, file,
+                "and " + std::to_string(refusals.Count() - refusals.Shown().size()) +
+                    " more places that no source can say");
+}
+
+}  // namespace
+
+std::string Decompile(const std::string& bytes, TMenuSystem& system, unsigned page,
+                      Refusals& refusals) {
+  CheckForm(bytes, system, refusals);
+  std::string source = WriteSource(system, page, refusals);
+  if (refusals.Any()) return {};
+  source = FormatSource(Unfolded(source, LineEnds::kCrLf), page).text;
+  if (CheckSource(source, bytes, system, refusals)) return source;
+  if (!refusals.Any()) refusals.Add("file", "no source gives these bytes");
+  return {};
+}
+
+int RunDecompile(const DecompileOptions& options, const QmnStreams& streams) {
+  std::string bytes;
+  if (!ReadInput(options.in, streams, bytes)) {
+    ReportError(streams, options.in, "can't be read");
+    return kFileTrouble;
+  }
+  TMenuSystem system;
+  if (const wchar_t* exception = LoadBytes(bytes, system)) {
+    ReportError(streams, options.in, Explain(exception));
+    return kFindings;
+  }
+  Refusals refusals;
+  const std::string source = Decompile(bytes, system, options.page, refusals);
+  if (refusals.Any()) {
+    ReportRefusals(options.in, refusals, streams);
+    return kFindings;
+  }
+  const std::string out = options.out.empty() ? "-" : options.out;
+  if (WriteOutput(out, streams, source)) return kFine;
+  ReportError(streams, out, "can't be written");
+  return kFileTrouble;
+}

@@ -1,0 +1,98 @@
+// Where the model that a decompiled source makes is another than the one it was made from: what the
+// passes change, names that resolve to something else, texts that a line can't say.
+#include <sstream>
+#include <string_view>
+#include <unordered_map>
+
+#include "menu/menu_model.h"
+#include "tools/qmn/decompile_source.h"
+#include "tools/qmn/json_out.h"
+
+namespace {
+
+std::string Quoted(const TWCString& text) {
+  std::ostringstream out;
+  JsonOut(out).Text({text.c_str(), static_cast<size_t>(text.Length())});
+  return out.str();
+}
+
+class Comparison {
+ public:
+  Comparison(TMenuSystem& wanted, TMenuSystem& made, Refusals& refusals)
+      : m_wanted(wanted),
+        m_made(made),
+        m_wantedSwitches(IndexOf(wanted)),
+        m_madeSwitches(IndexOf(made)),
+        m_refusals(refusals) {}
+
+  void Run() {
+    for (int i = 0; i < m_wanted.m_switches.Length(); ++i) States(i);
+    for (int i = 0; i < m_wanted.Length(); ++i) Lines(i);
+  }
+
+ private:
+  void States(int index) {
+    const auto& wanted = m_wanted.m_switches.At(index)->m_states;
+    const auto& made = m_made.m_switches.At(index)->m_states;
+    for (int i = 0; i < wanted.Length(); ++i)
+      if (const int to = made.At(i)->m_nIconIndex; wanted.At(i)->m_nIconIndex != to)
+        m_refusals.Add(PlaceOfState(m_wanted, index, i),
+                       Index("icon index", wanted.At(i)->m_nIconIndex, to));
+  }
+
+  void Lines(int block) {
+    MenuWalk wanted(*m_wanted.At(block)), made(*m_made.At(block));
+    int number = 0;
+    for (;; ++number) {
+      const TMenuItem* a = wanted.Next();
+      const TMenuItem* b = made.Next();
+      if (!a || !b) return;
+      if (!(m_text = Difference(*a, *b)).empty())
+        m_refusals.Add(PlaceOfLine(m_wanted, block, number), m_text);
+    }
+  }
+
+  std::string Difference(const TMenuItem& wanted, const TMenuItem& made) const {
+    if (wanted.m_strLabel != made.m_strLabel)
+      return Text("label", wanted.m_strLabel, made.m_strLabel);
+    if (wanted.m_strCommand != made.m_strCommand)
+      return Text("command", wanted.m_strCommand, made.m_strCommand);
+    if (wanted.m_strCheckFn != made.m_strCheckFn)
+      return Text("check function", wanted.m_strCheckFn, made.m_strCheckFn);
+    if (wanted.m_strGrayFn != made.m_strGrayFn)
+      return Text("grey function", wanted.m_strGrayFn, made.m_strGrayFn);
+    if (wanted.m_nFlags != made.m_nFlags) return Index("flags", wanted.m_nFlags, made.m_nFlags);
+    if (wanted.m_nIconIndex != made.m_nIconIndex)
+      return Index("icon index", wanted.m_nIconIndex, made.m_nIconIndex);
+    const int from = m_wantedSwitches.at(wanted.m_pSwitch);
+    const int to = m_madeSwitches.at(made.m_pSwitch);
+    return from == to ? "" : Index("switch index", from, to);
+  }
+
+  using SwitchIndex = std::unordered_map<const TMenuSwitchItem*, int>;
+  static SwitchIndex IndexOf(const TMenuSystem& system) {
+    SwitchIndex index{{nullptr, -1}};
+    for (int i = 0; i < system.m_switches.Length(); ++i) index[system.m_switches.At(i)] = i;
+    return index;
+  }
+
+  static std::string Text(const char* field, const TWCString& wanted, const TWCString& made) {
+    return std::string(field) + ": " + Quoted(wanted) + "; a source gives " + Quoted(made);
+  }
+  static std::string Index(const char* field, long long wanted, long long made) {
+    return std::string(field) + ": " + std::to_string(wanted) + "; a source gives " +
+           std::to_string(made);
+  }
+
+  TMenuSystem& m_wanted;
+  TMenuSystem& m_made;
+  const SwitchIndex m_wantedSwitches, m_madeSwitches;
+  Refusals& m_refusals;
+  std::string m_text;
+};
+
+}  // namespace
+
+void DifferencesOf(TMenuSystem& wanted, TMenuSystem& made, Refusals& refusals) {
+  Comparison(wanted, made, refusals).Run();
+}

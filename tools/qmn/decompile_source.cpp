@@ -1,0 +1,329 @@
+#include "tools/qmn/decompile_source.h"
+
+#include <charconv>
+#include <cmath>
+
+#include "adsdef.h"
+#include "menu/menu_model.h"
+#include "menu/menu_scanner.h"
+#include "tools/qmn/decompile_encoder.h"
+#include "tools/qmn/decompile_line.h"
+#include "tools/qmn/dump_forms.h"
+#include "tools/qmn/tool_text.h"
+
+namespace {
+
+constexpr int kMostGroups = 2;
+constexpr int kLongestString = 197;
+// More pairs than these don't fit into a line in any case.
+constexpr int kMostCloses = 100;
+
+std::wstring_view View(const TWCString& text) {
+  return {text.c_str(), static_cast<size_t>(text.Length())};
+}
+
+class NoMessages : public SourceMessages {
+ public:
+  void ReportSyntaxError(const wchar_t*, int) override {}
+};
+
+// Whether the scanner reads the whole of `bytes` as one token of that kind.
+bool IsToken(int kind, const std::string& bytes, std::string_view inside) {
+  NoMessages messages;
+  MenuScanner scanner(bytes, messages, nullptr, OpenComment::kStop);
+  MenuToken token;
+  return scanner.Next(token) == kind && token.text == inside && scanner.Next(token) == QMN_END &&
+         token.begin == bytes.data() + bytes.size();
+}
+
+class SourceWriter {
+ public:
+  SourceWriter(TMenuSystem& system, unsigned page, Refusals& refusals)
+      : m_system(system), m_encoder(page), m_refusals(refusals) {}
+
+  std::string Run() {
+    Head();
+    if (m_system.Length() == 0) Refuse("file", "blocks: none; a source has at least one");
+    for (int i = 0; i < m_system.Length(); ++i) Block(i);
+    m_out += "***SWITCH\n";
+    for (int i = 0; i < m_system.m_switches.Length(); ++i) Switch(i);
+    m_out += "***RESOURCE\n";
+    for (int i = 0; i < m_system.m_resources.Length(); ++i) Resource(i);
+    return std::move(m_out);
+  }
+
+ private:
+  struct Place {
+    TMenuBar* bar;
+    int next;
+    int closes;  // sub-menus that end with the last line of this bar, itself among them
+  };
+
+  void Refuse(const std::string& place, std::string text) {
+    m_refusals.Add(place, std::move(text));
+  }
+
+  // --- Tokens
+
+  bool Encode(const std::string& place, const char* field, std::wstring_view text,
+              std::string& bytes) {
+    if (m_encoder.Append(text, bytes)) return true;
+    RefuseLacking(place, field);
+    return false;
+  }
+  void RefuseLacking(const std::string& place, const char* field) {
+    Refuse(place, std::string(field) + ": " + m_encoder.Lacking() + " is not in code page " +
+                      std::to_string(m_encoder.Page()));
+  }
+
+  void Name(const std::string& place, const char* field, const TWCString& text) {
+    std::string bytes;
+    if (!Encode(place, field, View(text), bytes)) return;
+    m_out += bytes;
+    if (IsToken(QMN_IDENTIFIER, bytes, bytes)) return;
+    Refuse(place, std::string(field) + ": \"" + Utf8(View(text)) +
+                      (IsReserved(bytes) ? "\" is a reserved word" : "\" is no name"));
+  }
+
+  static bool IsReserved(const std::string& bytes) {
+    NoMessages messages;
+    MenuScanner scanner(bytes, messages, nullptr, OpenComment::kStop);
+    MenuToken token;
+    return scanner.Next(token) >= QMN_TITLE && token.text == bytes;
+  }
+
+  void String(const std::string& place, const char* field, std::wstring_view text) {
+    std::string inside;
+    if (!Encode(place, field, text, inside)) return;
+    const std::string bytes = '"' + inside + '"';
+    m_out += bytes;
+    if (IsToken(QMN_STRING, bytes, inside)) return;
+    if (inside.size() > kLongestString)
+      return Refuse(place, std::string(field) + ": " + std::to_string(inside.size()) +
+                               " bytes; a string holds " + std::to_string(kLongestString));
+    Refuse(place, std::string(field) +
+                      ": holds a quote, a line end, a zero or a backslash that can't stand so in "
+                      "a string");
+  }
+
+  // --- Sections
+
+  void Head() {
+    if (m_system.m_nReserved1 || m_system.m_nReserved2)
+      Refuse("file", "reserved numbers: " + std::to_string(m_system.m_nReserved1) + " and " +
+                         std::to_string(m_system.m_nReserved2) + "; a source makes them 0");
+    m_out += "MENU_TITLE = ";
+    String("file", "title", View(m_system.m_strTitle));
+    m_out += "\n";
+  }
+
+  void Block(int index) {
+    TMenuBar& bar = *m_system.At(index);
+    const std::string place = PlaceOfBlock(m_system, index);
+    m_out += "***";
+    Name(place, "name", bar.m_strName);
+    if (!bar.m_strKind.IsEmpty()) {
+      m_out += " ";
+      Name(place, "kind", bar.m_strKind);
+    }
+    Mask(place, bar);
+    m_out += "\n";
+    if (bar.Length() == 0) Refuse(place, "lines: none; a block has at least one");
+    Lines(index);
+  }
+
+  void Mask(const std::string& place, const TMenuBar& bar) {
+    int count = 0;
+    for (const TGroups* group = bar.m_objectMask.Head(); group; group = group->Next()) ++count;
+    if (bar.m_strKind.IsEmpty() != (count == 0))
+      Refuse(place, count ? "mask: stands in a source only behind a kind"
+                          : "kind: stands in a source only in front of a mask");
+    if (count > kMostGroups)
+      return Refuse(place,
+                    "mask: " + std::to_string(count) + " groups; a source keeps no more than two");
+    const char* before = " = ";
+    for (const TGroups* group = bar.m_objectMask.Head(); group; group = group->Next()) {
+      m_out += before + std::to_string(CodeOf(*group)) + ",";
+      Value(place, *group);
+      before = ",";
+    }
+  }
+
+  void Value(const std::string& place, const TGroups& group) {
+    const std::string field = "mask group " + std::to_string(CodeOf(group));
+    switch (KindOf(group)) {
+      case RTSHORT:
+        // A number is cut to 16 bits on its way in, so that a negative one has a positive name.
+        m_out += std::to_string(static_cast<unsigned short>(group.resval.rint));
+        return;
+      case RTREAL:
+        return Real(place, field, group.resval.rreal);
+      case RTSTR:
+        return String(place, field.c_str(), group.resval.rstring ? group.resval.rstring : L"");
+      default:
+        Refuse(place, field + ": a code of a kind that a source has no value for");
+    }
+  }
+
+  void Real(const std::string& place, const std::string& field, double value) {
+    if (std::isnan(value) || std::signbit(value))
+      return Refuse(place, field + ": a source has no negative numbers and only numbers");
+    if (std::isinf(value)) {
+      m_out += "1.0e999";
+      return;
+    }
+    char text[40];
+    const char* end = std::to_chars(text, text + sizeof text, value).ptr;
+    std::string digits(static_cast<const char*>(text), end);
+    // A real is told from an integer by its point and a digit behind it.
+    if (digits.find('.') == std::string::npos)
+      digits.insert(std::min(digits.find('e'), digits.size()), ".0");
+    m_out += digits;
+  }
+
+  void Switch(int index) {
+    const TMenuSwitchItem& item = *m_system.m_switches.At(index);
+    const std::string place = PlaceOfSwitch(m_system, index);
+    m_out += "**";
+    Name(place, "name", item.m_strName);
+    m_out += " GET=";
+    Name(place, "get", item.m_strGetFn);
+    m_out += " SET=";
+    Name(place, "set", item.m_strSetFn);
+    m_out += "\n";
+    if (item.m_states.Length() == 0) Refuse(place, "states: none; a switch has at least one");
+    for (int i = 0; i < item.m_states.Length(); ++i) State(index, i, *item.m_states.At(i));
+  }
+
+  void State(int index, int number, const TSwitchStateItem& state) {
+    const std::string place = PlaceOfState(m_system, index, number);
+    if (state.m_nValue < 0)
+      Refuse(place,
+             "value: " + std::to_string(state.m_nValue) + "; a source has no negative numbers");
+    m_out += std::to_string(state.m_nValue) + " = ";
+    Name(place, "icon", state.m_strIconName);
+    m_out += ", ";
+    String(place, "label", View(state.m_strLabel));
+    m_out += "\n";
+  }
+
+  void Resource(int index) {
+    const TMenuResItem& item = *m_system.m_resources.At(index);
+    const std::string place = PlaceOfResource(m_system, index);
+    Name(place, "name", item.m_strName);
+    m_out += " = ";
+    String(place, "image", View(item.m_strImage));
+    m_out += ",";
+    String(place, "image2", View(item.m_strImage2));
+    m_out += "\n";
+  }
+
+  // --- Lines
+
+  void Lines(int block) {
+    std::vector<Place> path{{m_system.At(block), 0, 0}};
+    int number = 0;
+    while (!path.empty()) {
+      Place& place = path.back();
+      if (place.next == place.bar->Length()) {
+        path.pop_back();
+        continue;
+      }
+      const TMenuItem& item = *place.bar->At(place.next++);
+      const int closes = place.next == place.bar->Length() ? place.closes : 0;
+      Line(block, number, item, closes);
+      if (TMenuBar* below = item.m_pSubMenu) {
+        CheckSubMenu(block, number, *below);
+        path.push_back({below, 0, closes + 1});
+      }
+      ++number;
+    }
+  }
+
+  void CheckSubMenu(int block, int line, const TMenuBar& bar) {
+    if (bar.Length() == 0)
+      Refuse(PlaceOfLine(m_system, block, line), "sub-menu: without lines; a source has no such");
+    if (!bar.m_strName.IsEmpty() || !bar.m_strKind.IsEmpty() || !bar.m_objectMask.IsEmpty())
+      Refuse(PlaceOfLine(m_system, block, line),
+             "sub-menu: with a name, kind or mask, which a source has for blocks only");
+  }
+
+  void Line(int block, int number, const TMenuItem& item, int closes) {
+    if (!item.m_strIconName.IsEmpty()) {
+      Name(PlaceIfNeeded(block, number, item.m_strIconName), "icon name", item.m_strIconName);
+      m_out += " ";
+    }
+    std::string bytes;
+    for (const bool tight : {false, true}) {
+      bytes.clear();
+      if (!WriteLine(item, closes, tight, bytes))
+        return RefuseLacking(PlaceOfLine(m_system, block, number), "text");
+      if (bytes.size() <= size_t{kLongestToken}) break;
+    }
+    PutLine(block, number, bytes);
+  }
+
+  bool WriteLine(const TMenuItem& item, int closes, bool tight, std::string& bytes) {
+    const std::wstring label = WrittenLabel(item, std::min(closes, kMostCloses), tight);
+    const std::wstring command = WrittenCommand(View(item.m_strCommand), tight);
+    if (!m_encoder.Append(L"[" + label + L"]" + command, bytes)) return false;
+    if (!item.m_strCommand.IsEmpty() && (!tight || IsEndNeeded(command))) bytes += ';';
+    return true;
+  }
+
+  void PutLine(int block, int number, const std::string& bytes) {
+    m_out += bytes;
+    m_out += '\n';
+    if (IsLine(bytes)) return;
+    const std::string place = PlaceOfLine(m_system, block, number);
+    if (bytes.size() > size_t{kLongestToken})
+      return Refuse(place, "text: " + std::to_string(bytes.size()) + " bytes; a line holds " +
+                               std::to_string(kLongestToken));
+    Refuse(place, "text: holds a zero or, in the label, a line end");
+  }
+
+  static bool IsLine(const std::string& bytes) {
+    return bytes.size() <= size_t{kLongestToken} && bytes.find('\n') == std::string::npos &&
+           bytes.find('\0') == std::string::npos;
+  }
+
+  // Places take time to name, and most lines need none.
+  std::string PlaceIfNeeded(int block, int line, const TWCString& name) {
+    std::string bytes;
+    if (m_encoder.Append(View(name), bytes) && IsToken(QMN_IDENTIFIER, bytes, bytes)) return {};
+    return PlaceOfLine(m_system, block, line);
+  }
+
+  TMenuSystem& m_system;
+  PageEncoder m_encoder;
+  Refusals& m_refusals;
+  std::string m_out;
+};
+
+std::string Named(const char* what, const TWCString& name, int index) {
+  std::string bytes = Utf8(View(name));
+  if (IsToken(QMN_IDENTIFIER, bytes, bytes)) return std::string(what) + " " + bytes;
+  return std::string(what) + " #" + std::to_string(index + 1);
+}
+
+}  // namespace
+
+std::string PlaceOfBlock(const TMenuSystem& system, int block) {
+  return Named("block", system.At(block)->m_strName, block);
+}
+std::string PlaceOfLine(const TMenuSystem& system, int block, int line) {
+  return PlaceOfBlock(system, block) + ", line " + std::to_string(line + 1);
+}
+std::string PlaceOfSwitch(const TMenuSystem& system, int index) {
+  return Named("switch", system.m_switches.At(index)->m_strName, index);
+}
+std::string PlaceOfState(const TMenuSystem& system, int index, int state) {
+  return PlaceOfSwitch(system, index) + ", state " + std::to_string(state + 1);
+}
+std::string PlaceOfResource(const TMenuSystem& system, int index) {
+  return Named("resource", system.m_resources.At(index)->m_strName, index);
+}
+
+std::string WriteSource(TMenuSystem& system, unsigned page, Refusals& refusals) {
+  return SourceWriter(system, page, refusals).Run();
+}

@@ -1,0 +1,42 @@
+// A model back into menu source. What can't be put into tokens at all, or not at this place, is
+// listed as a refusal; whether the source then says the same as the model is for DifferencesOf.
+#pragma once
+
+#include <string>
+#include <vector>
+
+class TMenuSystem;
+
+struct Refusal {
+  std::string place;  // "block WALL, line 3"; lines are counted as the source has them
+  std::string text;   // begins with the name of the field
+};
+
+class Refusals {
+ public:
+  static constexpr size_t kShown = 20;
+  void Add(const std::string& place, std::string text) {
+    if (m_shown.size() < kShown) m_shown.push_back({place, std::move(text)});
+    ++m_count;
+  }
+  bool Any() const { return m_count > 0; }
+  size_t Count() const { return m_count; }
+  const std::vector<Refusal>& Shown() const { return m_shown; }
+
+ private:
+  std::vector<Refusal> m_shown;
+  size_t m_count = 0;
+};
+
+// With LF line ends and no layout.
+std::string WriteSource(TMenuSystem& system, unsigned page, Refusals& refusals);
+
+// What a compiled model has otherwise than the wanted one, which has the same blocks and lines.
+void DifferencesOf(TMenuSystem& wanted, TMenuSystem& made, Refusals& refusals);
+
+// Names of places, the same for both. Indexes count from 0.
+std::string PlaceOfBlock(const TMenuSystem& system, int block);
+std::string PlaceOfLine(const TMenuSystem& system, int block, int line);
+std::string PlaceOfSwitch(const TMenuSystem& system, int index);
+std::string PlaceOfState(const TMenuSystem& system, int index, int state);
+std::string PlaceOfResource(const TMenuSystem& system, int index);
