@@ -218,6 +218,15 @@ TEST_F(QmnFmt, AllLayoutsOfOneSourceLeadToTheSameText) {
   }
 }
 
+TEST_F(QmnFmt, ProductMenusAreInCanonicalLayout) {
+  std::vector<std::string> args{"fmt", "--check"};
+  for (const auto& entry : std::filesystem::directory_iterator(ProductFolder()))
+    if (entry.path().extension() == ".qmn") args.push_back(Utf8Name(entry.path()));
+  EXPECT_GE(args.size(), 5u);
+  const QmnRun run = Qmn(args);
+  EXPECT_EQ(run.code, 0) << run.out << "qmn fmt puts them right\n";
+}
+
 TEST_F(QmnFmt, DeepAndLongFilesAreNoTrouble) {
   std::string lines;
   for (int i = 0; i < 100000; ++i) lines += "[->a]\n";
