@@ -1,0 +1,47 @@
+// The wild cards of the host's selection filters, made ready once for many texts: * any text, ? any
+// character, # a digit, @ a letter, . neither, [..] one of, [~..] none of, ~ in front none of the
+// pattern, ` takes the next character as it stands, commas part patterns of which one must fit.
+// Case is ignored. Made by the block matching from the strings of a mask.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The upper case that both sides of a match are brought to; the same on every build and in every
+// locale.
+wchar_t MatchCase(wchar_t unit);
+std::wstring MatchCase(std::wstring_view text);
+
+class WildCard {
+ public:
+  explicit WildCard(std::wstring_view patterns);
+  WildCard(WildCard&&) = default;
+  WildCard& operator=(WildCard&&) = default;
+
+  // `text` as MatchCase gives it.
+  bool Matches(std::wstring_view text) const;
+
+ private:
+  enum class Kind : unsigned char { kLiteral, kAny, kDigit, kLetter, kOther, kClass, kStar };
+  struct Step {
+    Kind kind;
+    wchar_t unit;                  // of a literal
+    std::wstring_view characters;  // of a class, without its brackets
+  };
+  struct Pattern {
+    bool negated = false;
+    bool plain = true;       // literals only
+    std::wstring_view text;  // of a plain one
+    std::vector<Step> steps;
+  };
+
+  void Append(std::wstring_view pattern);
+  Step Read(std::wstring_view pattern, size_t& at) const;
+  static bool Fits(const Step& step, wchar_t unit);
+  static bool Fits(const Pattern& pattern, std::wstring_view text);
+
+  // Views of the patterns point into it; a heap block, so that a move keeps them.
+  std::vector<wchar_t> m_text;
+  std::vector<Pattern> m_patterns;
+};

@@ -1,0 +1,258 @@
+// The choice of a block by what is selected.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "devhost/core/selection.h"
+#include "menu/menu_model.h"
+#include "popup/object_match.h"
+
+namespace {
+
+bool Wild(const wchar_t* patterns, const wchar_t* text) {
+  return WildCard(patterns).Matches(MatchCase(std::wstring_view(text)));
+}
+
+TEST(WildCard, PlainTextFitsWhateverItsCaseAndOnlyAsAWhole) {
+  EXPECT_TRUE(Wild(L"Qvx_Wall", L"QVX_wall"));
+  EXPECT_TRUE(Wild(L"墙线", L"墙线"));
+  EXPECT_FALSE(Wild(L"WALL", L"WALL1"));
+  EXPECT_FALSE(Wild(L"", L"A"));
+  EXPECT_TRUE(Wild(L"", L""));
+}
+
+TEST(WildCard, EachSignStandsForItsCharacters) {
+  EXPECT_TRUE(Wild(L"QVX_*", L"QVX_"));
+  EXPECT_TRUE(Wild(L"*A*B*", L"xAyyB"));
+  EXPECT_FALSE(Wild(L"*A*B*", L"BA"));
+  EXPECT_TRUE(Wild(L"A?C", L"abc"));
+  EXPECT_FALSE(Wild(L"A?C", L"ac"));
+  EXPECT_TRUE(Wild(L"A#", L"A7"));
+  EXPECT_FALSE(Wild(L"A#", L"AB"));
+  EXPECT_TRUE(Wild(L"@@", L"a墙"));
+  EXPECT_FALSE(Wild(L"@", L"7"));
+  EXPECT_TRUE(Wild(L"A.B", L"A-B"));
+  EXPECT_FALSE(Wild(L"A.B", L"AxB"));
+  EXPECT_TRUE(Wild(L"[ab]X", L"BX"));
+  EXPECT_TRUE(Wild(L"[a-c]", L"B"));
+  EXPECT_FALSE(Wild(L"[~a-c]", L"B"));
+  EXPECT_TRUE(Wild(L"[~a-c]", L"D"));
+}
+
+TEST(WildCard, TildeBackQuoteAndCommaWorkOnWholePatterns) {
+  EXPECT_TRUE(Wild(L"~WALL", L"DOOR"));
+  EXPECT_FALSE(Wild(L"~WALL", L"WALL"));
+  EXPECT_TRUE(Wild(L"A,B", L"b"));
+  EXPECT_FALSE(Wild(L"A,B", L"A,B"));
+  EXPECT_TRUE(Wild(L"A`,B", L"A,B"));
+  EXPECT_TRUE(Wild(L"`*", L"*"));
+  EXPECT_FALSE(Wild(L"`*", L"x"));
+  EXPECT_TRUE(Wild(L"[a,b]", L","));
+  EXPECT_TRUE(Wild(L"[a", L"[a"));
+  EXPECT_TRUE(Wild(L"~A*,AB", L"AB"));
+}
+
+// The host's own filters over random patterns; letters beyond ASCII depend on its locale there.
+TEST(WildCard, FitsExactlyWhatTheHostsFiltersFit) {
+  const std::wstring signs = L"*?#@.~[]-`,ABab12 _-";
+  std::mt19937 random(9);
+  int fits = 0;
+  for (int i = 0; i < 200000; ++i) {
+    std::wstring pattern, text;
+    for (unsigned n = random() % 8; n; --n) pattern += signs[random() % signs.size()];
+    for (unsigned n = random() % 6; n; --n) text += signs[random() % signs.size()];
+    const bool wanted = devhost::WildMatch(text, pattern);
+    ASSERT_EQ(WildCard(pattern).Matches(MatchCase(std::wstring_view(text))), wanted);
+    fits += wanted;
+  }
+  EXPECT_GE(fits, 10000);
+}
+
+TEST(WildCard, ManyStarsTakeNoTime) {
+  std::wstring pattern, text(2000, L'a');
+  for (int i = 0; i < 500; ++i) pattern += L"*a";
+  EXPECT_FALSE(WildCard(pattern + L"b").Matches(MatchCase(std::wstring_view(text))));
+}
+
+TEST(WildCard, AMovedOneStillFits) {
+  std::vector<WildCard> all;
+  for (int i = 0; i < 100; ++i) all.emplace_back(L"A*B,[cd]");
+  for (const WildCard& one : all) EXPECT_TRUE(one.Matches(L"AXB") && one.Matches(L"C"));
+}
+
+bool NoLayers(std::wstring_view, std::wstring&) { return false; }
+
+class ObjectMatch : public testing::Test {
+ protected:
+  TRBList& AddBlock(const wchar_t* name) {
+    auto* bar = new TMenuBar;
+    bar->m_strName = name;
+    m_system.Append(bar);
+    return bar->m_objectMask;
+  }
+  int Find(const LayerResolver& layers = NoLayers) {
+    return BlockMatcher(m_system).Find(m_selection, layers);
+  }
+  MatchResult Match(int block, const LayerResolver& layers = NoLayers) {
+    return BlockMatcher(m_system).Match(block, m_selection, layers);
+  }
+
+  TMenuSystem m_system;
+  SelectionDescription m_selection;
+};
+
+TEST_F(ObjectMatch, WithNothingSelectedTheSpaceDecidesByNameWhateverItsCase) {
+  AddBlock(L"SCREEN");
+  AddBlock(L"Layout");
+  AddBlock(L"common").AppendString(0, L"X");
+  EXPECT_EQ(Find(), 2);
+  m_selection.SetPaperSpace(true);
+  EXPECT_EQ(Find(), 1);
+  EXPECT_EQ(Match(2).why, MatchResult::kOtherName);
+}
+
+TEST_F(ObjectMatch, WithoutSuchABlockNothingIsFound) {
+  AddBlock(L"SCREEN");
+  EXPECT_EQ(Find(), -1);
+}
+
+TEST_F(ObjectMatch, ASelectionNeverFitsAnEmptyMaskNotEvenThatOfCommon) {
+  AddBlock(L"COMMON");
+  AddBlock(L"LAYOUT");
+  m_selection.Add(L"LINE", L"0");
+  m_selection.SetPaperSpace(true);
+  EXPECT_EQ(Find(), -1);
+  EXPECT_EQ(Match(1).why, MatchResult::kNoMask);
+}
+
+TEST_F(ObjectMatch, TheFirstBlockThatFitsAllObjectsIsFound) {
+  AddBlock(L"A").AppendString(0, L"QVX_WALL");
+  AddBlock(L"B").AppendString(0, L"QVX_*");
+  AddBlock(L"C").AppendString(0, L"*");
+  m_selection.Add(L"QVX_WALL", L"0");
+  EXPECT_EQ(Find(), 0);
+  m_selection.Add(L"QVX_DOOR", L"0");
+  EXPECT_EQ(Find(), 1);
+  m_selection.Add(L"LINE", L"0");
+  EXPECT_EQ(Find(), 2);
+  EXPECT_EQ(Match(1).object, 2u);
+  EXPECT_EQ(Match(1).group, m_system.At(1)->m_objectMask.Head());
+}
+
+TEST_F(ObjectMatch, EveryGroupOfTheMaskCounts) {
+  TRBList& mask = AddBlock(L"A");
+  mask.AppendString(0, L"LINE,CIRCLE");
+  mask.AppendString(8, L"墙*");
+  m_selection.Add(L"circle", L"墙线");
+  EXPECT_EQ(Find(), 0);
+  m_selection.Add(L"LINE", L"0");
+  EXPECT_EQ(Find(), -1);
+  EXPECT_EQ(Match(0).group, mask.Head()->Next());
+}
+
+TEST_F(ObjectMatch, ALogicalLayerKeyStandsForItsLayer) {
+  AddBlock(L"A").AppendString(8, L"@WALL");
+  m_selection.Add(L"LINE", L"墙线");
+  const LayerResolver layers = [](std::wstring_view key, std::wstring& layer) {
+    layer = L"墙线";
+    return key == L"WALL";
+  };
+  EXPECT_EQ(Find(layers), 0);
+  EXPECT_EQ(m_system.At(0)->m_objectMask.Head()->resval.rstring, std::wstring(L"@WALL"));
+}
+
+// "@" is then the wild card for a letter.
+TEST_F(ObjectMatch, AKeyWithoutALayerCountsAsItIsWritten) {
+  AddBlock(L"A").AppendString(8, L"@WALL");
+  m_selection.Add(L"LINE", L"XWALL");
+  EXPECT_EQ(Find(), 0);
+  m_selection.Add(L"LINE", L"WALL");
+  EXPECT_EQ(Find(), -1);
+}
+
+TEST_F(ObjectMatch, TheLayerOfAKeyIsAPatternItself) {
+  AddBlock(L"A").AppendString(8, L"@K");
+  const LayerResolver layers = [](std::wstring_view, std::wstring& layer) {
+    layer = L"A#";
+    return true;
+  };
+  m_selection.Add(L"LINE", L"A1");
+  EXPECT_EQ(Find(layers), 0);
+  m_selection.Add(L"LINE", L"A#");
+  EXPECT_EQ(Find(layers), -1);
+}
+
+TEST_F(ObjectMatch, AKeyIsOneOnlyInTheLayerGroup) {
+  AddBlock(L"A").AppendString(0, L"@WALL");
+  m_selection.Add(L"XWALL", L"0");
+  EXPECT_EQ(Find([](std::wstring_view, std::wstring& layer) {
+              layer = L"LINE";
+              return true;
+            }),
+            0);
+}
+
+TEST_F(ObjectMatch, AViewportOrAnObjectThatDoesNotOpenFitsNothing) {
+  AddBlock(L"A").AppendString(0, L"*");
+  m_selection.Add(L"LINE", L"0");
+  m_selection.Add(L"VIEWPORT", L"0", ObjectState::kViewport);
+  EXPECT_EQ(Find(), -1);
+  EXPECT_EQ(Match(0).why, MatchResult::kViewport);
+  EXPECT_EQ(Match(0).object, 1u);
+  SelectionDescription other;
+  other.Add(L"LINE", L"0", ObjectState::kUnreadable);
+  EXPECT_EQ(BlockMatcher(m_system).Match(0, other, NoLayers).why, MatchResult::kUnreadable);
+}
+
+TEST_F(ObjectMatch, FurtherGroupsAreAskedForAndUnknownOnesDoNotFit) {
+  AddBlock(L"A").AppendShort(62, 3);
+  AddBlock(L"B").AppendString(6, L"dash*");
+  AddBlock(L"C").AppendReal(48, 0.5);
+  AddBlock(L"D").AppendLong(90, 7);
+  m_selection.Add(L"LINE", L"0");
+  m_selection.Add(L"LINE", L"0");
+  EXPECT_EQ(Find(), -1);
+  GroupValue known;
+  int askedFor = -1;
+  m_selection.SetGroupReader([&](size_t object, int code) {
+    askedFor = static_cast<int>(object);
+    return code == 62 && object == 0 ? GroupValue(3LL) : known;
+  });
+  EXPECT_EQ(Match(0).object, 1u);
+  known = 3LL;
+  EXPECT_TRUE(Match(0).Matches());
+  known = std::wstring(L"DASHED");
+  EXPECT_TRUE(Match(1).Matches());
+  EXPECT_FALSE(Match(0).Matches());
+  known = 0.5;
+  EXPECT_TRUE(Match(2).Matches());
+  known = 7LL;
+  EXPECT_TRUE(Match(3).Matches());
+  EXPECT_EQ(askedFor, 1);
+}
+
+TEST_F(ObjectMatch, ACodeWithoutAKindFitsNothing) {
+  AddBlock(L"A").SetHead(new TGroups(80));
+  m_selection.Add(L"LINE", L"0");
+  m_selection.SetGroupReader([](size_t, int) { return GroupValue(0LL); });
+  EXPECT_EQ(Find(), -1);
+}
+
+TEST(SelectionDescription, KeepsEachPairOnceAndWhereItWasSeenFirst) {
+  SelectionDescription selection;
+  std::mt19937 random(4);
+  std::vector<std::wstring> layers;
+  for (int i = 0; i < 3000; ++i) {
+    layers.push_back(L"L" + std::to_wstring(random() % 200));
+    selection.Add(i % 2 ? L"LINE" : L"ARC", layers.back());
+  }
+  EXPECT_EQ(selection.Count(), 3000u);
+  EXPECT_LE(selection.Kinds().size(), 400u);
+  for (size_t i = 0; i < layers.size(); ++i) {
+    EXPECT_EQ(selection.KindOf(i).layer, layers[i]);
+    EXPECT_EQ(selection.KindOf(i).type, i % 2 ? L"LINE" : L"ARC");
+    EXPECT_LE(selection.KindOf(i).firstObject, i);
+  }
+}
+
+}  // namespace
