@@ -10,12 +10,11 @@ TEST(QmnUsage, HelpLeadsWithExamplesAndIsFine) {
   EXPECT_EQ(run.err, "");
 }
 
-TEST(QmnUsage, HelpOffersNothingThatIsNotBuilt) {
+TEST(QmnUsage, HelpHasAnExampleOfEachCommand) {
   const std::string help = Qmn({"--help"}).out;
-  for (const char* command : {"check", "why", "fmt", "decompile"}) {
-    EXPECT_EQ(help.find(std::string("qmn ") + command), std::string::npos) << command;
-    EXPECT_EQ(Qmn({command, "-"}).code, 2) << command;
-  }
+  const std::string examples = help.substr(0, help.find("Exit codes"));
+  for (const char* command : {"compile", "load", "dump", "why", "fmt", "decompile"})
+    EXPECT_NE(examples.find(std::string("qmn ") + command), std::string::npos) << command;
 }
 
 TEST(QmnUsage, VersionIsData) {

@@ -42,3 +42,15 @@ struct DecompileOptions {
   unsigned page = 936;
 };
 int RunDecompile(const DecompileOptions& options, const QmnStreams& streams);
+
+// Types, layers and counts belong together in their order.
+struct WhyOptions {
+  std::string in;
+  std::vector<std::string> types, layers;
+  std::vector<int> counts;
+  std::vector<std::string> layerKeys;  // KEY=LAYER
+  std::vector<std::string> groups;     // CODE=VALUE, for all objects
+  bool paper = false;
+  bool json = false;
+};
+int RunWhy(const WhyOptions& options, const QmnStreams& streams);

@@ -22,6 +22,8 @@ constexpr char kHelp[] = R"(Examples:
   qmn dump qvx.qmc --bytes             every field of the file with its offset
   qmn fmt qvx.qmn                      puts a source into its canonical layout
   qmn fmt --check *.qmn                names those that are not in it
+  qmn why qvx.qmn --type QVX_WALL --layer 0 --layer-key WALL=0
+                                       which block a selection gets, and why not another
   qmn decompile qvx.qmc -o qvx.qmn     source that compiles to the same bytes
 
 Exit codes: 0 fine, 1 something is wrong in the input, 2 wrong usage,
@@ -46,6 +48,7 @@ struct Options {
   DumpOptions dump;
   FmtOptions fmt;
   DecompileOptions decompile;
+  WhyOptions why;
   bool json = false, tree = false, bytes = false;
   int page = kPage;
 };
@@ -101,6 +104,26 @@ void AddDecompile(CLI::App& app, Options& options) {
   AddPage(*command, options);
 }
 
+void AddWhy(CLI::App& app, Options& options) {
+  constexpr int kMostObjects = 1000000;
+  CLI::App* command = app.add_subcommand("why", "Tell which block a selection gets, and why");
+  command->add_option("FILE", options.why.in, "menu source or compiled file")->required();
+  // One value an option, so that FILE may stand behind them.
+  const auto repeated = [command](const char* name, auto& values, const char* text) {
+    return command->add_option(name, values, text)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  };
+  repeated("--type", options.why.types, "type of a selected object; nothing selected without one");
+  repeated("--layer", options.why.layers, "its layer; 0 unless given");
+  repeated("--count", options.why.counts, "how many of it")->check(CLI::Range(1, kMostObjects));
+  repeated("--layer-key", options.why.layerKeys, "KEY=LAYER, the layer that @KEY stands for");
+  repeated("--group", options.why.groups, "CODE=VALUE, what all objects have for another group");
+  command->add_flag("--paper", options.why.paper, "in paper space, for nothing selected");
+  command->add_flag("--json", options.why.json, "the answer as JSON");
+  AddPage(*command, options);
+}
+
 int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) {
   if (options.page != EnginePage()) {
     ReportError(streams, "qmn",
@@ -112,6 +135,7 @@ int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) 
   if (app.got_subcommand("load")) return RunLoad(options.load, streams);
   if (app.got_subcommand("fmt")) return RunFmt(options.fmt, streams);
   if (app.got_subcommand("decompile")) return RunDecompile(options.decompile, streams);
+  if (app.got_subcommand("why")) return RunWhy(options.why, streams);
   if (options.tree) options.dump.form = DumpForm::kTree;
   if (options.bytes) options.dump.form = DumpForm::kBytes;
   return RunDump(options.dump, streams);
@@ -131,6 +155,7 @@ int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
   AddDump(app, options);
   AddFmt(app, options);
   AddDecompile(app, options);
+  AddWhy(app, options);
   try {
     // The parser takes its arguments from the end.
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
