@@ -304,8 +304,9 @@ TEST_F(QmnDecompile, ThousandsOfRefusalsAreCounted) {
 // Lines as long as they may be have no room for what makes them plain.
 TEST_F(QmnDecompile, ALineOfFullLengthIsWrittenTighter) {
   const std::string filler(190, 'x');
-  for (const std::string& line : {"[d]\x1b\x1b\x1b" + filler + "xxx", "[->]" + filler + "xxxxx",
-                                  "[->" + filler + "xxxx]y", "[a]" + filler + "xxxxx;"}) {
+  for (const std::string& line :
+       {"[d]\x1b\x1b\x1b" + filler + "xxx", "[->]" + filler + "xxxxx", "[->" + filler + "xxxx]y",
+        "[ ->\x1b" + filler + "xx]\x1b", "[a]" + filler + "xxxxx;"}) {
     ASSERT_EQ(line.size(), 199u);
     const std::string source = "MENU_TITLE = \"T\"\n***B\n" + line + "\n***SWITCH\n***RESOURCE\n";
     const std::string bytes = Qmn({"compile", "-"}, source).out;

@@ -21,7 +21,7 @@ bool NeedsShelter(const TMenuItem& item) {
 
 // A ';' is Enter outside quotes and itself inside. Where the text has the wrong one of the two, a
 // quote behind a '^' vanishes with it, but turns the quoting over.
-std::wstring WrittenCommand(std::wstring_view command, bool tight) {
+std::wstring WrittenCommand(std::wstring_view command, LineForm form) {
   if (command.empty()) return {};
   if (command.ends_with(L'\n')) command.remove_suffix(1);
   std::wstring text;
@@ -32,7 +32,7 @@ std::wstring WrittenCommand(std::wstring_view command, bool tight) {
       quoted = !quoted;
     }
     if (c == L'"') quoted = !quoted;
-    if (c == kEscape && !tight)
+    if (c == kEscape && form == LineForm::kPlain)
       text += L"^C";
     else
       text += c == L'\n' ? L';' : c;
@@ -46,7 +46,7 @@ bool IsEndNeeded(std::wstring_view written) {
          written.back() == L'\t';
 }
 
-std::wstring WrittenLabel(const TMenuItem& item, int closes, bool tight) {
+std::wstring WrittenLabel(const TMenuItem& item, int closes, LineForm form) {
   std::wstring text;
   if (item.m_pSubMenu) {
     text = L"->";
@@ -57,6 +57,6 @@ std::wstring WrittenLabel(const TMenuItem& item, int closes, bool tight) {
     text += L"{!=" + std::wstring(View(item.m_strCheckFn)) + L"}";
   if (item.m_nFlags & TMenuItem::kHasGrayFn)
     text += L"{~=" + std::wstring(View(item.m_strGrayFn)) + L"}";
-  if (item.m_nFlags == 0 && !tight && NeedsShelter(item)) text += L' ';
+  if (item.m_nFlags == 0 && form != LineForm::kUnsheltered && NeedsShelter(item)) text += L' ';
   return text += View(item.m_strLabel);
 }

@@ -7,11 +7,16 @@
 
 class TMenuItem;
 
+// How much room a line leaves. Lines that are too long in their plain form are tried tighter.
+enum class LineForm {
+  kPlain,
+  kTight,        // an ESC as itself and not as "^C"; no ';' at the end that isn't needed
+  kUnsheltered,  // and a label without the blank that only some neighbours make necessary
+};
+
 // A command as it is written. It may be ended by one ';' more, and has to be when IsEndNeeded.
-// A tight text has an ESC as itself and not as "^C"; a tight label goes without the shelter that
-// only some neighbours make necessary. Both are for lines that are too long otherwise.
-std::wstring WrittenCommand(std::wstring_view command, bool tight);
+std::wstring WrittenCommand(std::wstring_view command, LineForm form);
 bool IsEndNeeded(std::wstring_view written);
 
 // `closes` is the number of sub-menus whose last line this is.
-std::wstring WrittenLabel(const TMenuItem& item, int closes, bool tight);
+std::wstring WrittenLabel(const TMenuItem& item, int closes, LineForm form);

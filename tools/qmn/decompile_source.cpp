@@ -254,20 +254,21 @@ class SourceWriter {
       m_out += " ";
     }
     std::string bytes;
-    for (const bool tight : {false, true}) {
+    for (const LineForm form : {LineForm::kPlain, LineForm::kTight, LineForm::kUnsheltered}) {
       bytes.clear();
-      if (!WriteLine(item, closes, tight, bytes))
+      if (!WriteLine(item, closes, form, bytes))
         return RefuseLacking(PlaceOfLine(m_system, block, number), "text");
       if (bytes.size() <= size_t{kLongestToken}) break;
     }
     PutLine(block, number, bytes);
   }
 
-  bool WriteLine(const TMenuItem& item, int closes, bool tight, std::string& bytes) {
-    const std::wstring label = WrittenLabel(item, std::min(closes, kMostCloses), tight);
-    const std::wstring command = WrittenCommand(View(item.m_strCommand), tight);
+  bool WriteLine(const TMenuItem& item, int closes, LineForm form, std::string& bytes) {
+    const std::wstring label = WrittenLabel(item, std::min(closes, kMostCloses), form);
+    const std::wstring command = WrittenCommand(View(item.m_strCommand), form);
     if (!m_encoder.Append(L"[" + label + L"]" + command, bytes)) return false;
-    if (!item.m_strCommand.IsEmpty() && (!tight || IsEndNeeded(command))) bytes += ';';
+    if (!item.m_strCommand.IsEmpty() && (form == LineForm::kPlain || IsEndNeeded(command)))
+      bytes += ';';
     return true;
   }
 

@@ -1,0 +1,78 @@
+#include "tests/fuzz/round_trip_fuzz.h"
+
+#include <cstdlib>
+#include <vector>
+
+#include "menu/menu_scanner.h"
+#include "tools/qmn/decompile.h"
+#include "tools/qmn/fmt_source.h"
+#include "tools/qmn/fmt_tokens.h"
+#include "tools/qmn/model_io.h"
+
+namespace {
+
+constexpr unsigned kPage = 936;
+// Said when no place can be named, which must not be.
+constexpr char kNoWay[] = "no source gives these bytes";
+
+void Promise(bool kept) {
+  if (!kept) std::abort();
+}
+
+class SilentMessages : public SourceMessages {
+ public:
+  void ReportSyntaxError(const wchar_t*, int) override { ++m_count; }
+  int Count() const { return m_count; }
+
+ private:
+  int m_count = 0;
+};
+
+bool CompilesClean(const std::string& source, TMenuSystem& system) {
+  SilentMessages messages;
+  return CompileSource(source, messages, system).accepted && messages.Count() == 0;
+}
+
+std::string Recompiled(const std::string& source) {
+  TMenuSystem system;
+  Promise(CompilesClean(source, system));
+  return SaveBytes(system);
+}
+
+// What came from a source always goes back.
+void WayBack(TMenuSystem& system, const std::string& bytes, bool fromSource) {
+  Refusals refusals;
+  const std::string source = Decompile(bytes, system, kPage, refusals);
+  Promise(source.empty() == refusals.Any());
+  if (refusals.Any()) return Promise(!fromSource && refusals.Shown()[0].text != kNoWay);
+  Promise(Recompiled(source) == bytes);
+}
+
+std::vector<std::string> CommentsOf(const std::string& source) {
+  std::string folded = source;
+  FoldLineEnds(folded);
+  std::vector<std::string> comments;
+  for (const SourceComment& comment : TokenizeSource(folded).comments)
+    comments.emplace_back(comment.text);
+  return comments;
+}
+
+void Layout(const std::string& source, const std::string& bytes) {
+  const FormattedSource once = FormatSource(source, kPage);
+  if (once.strayLine) return;
+  Promise(Recompiled(once.text) == bytes);
+  Promise(FormatSource(once.text, kPage).text == once.text);
+  Promise(CommentsOf(once.text) == CommentsOf(source));
+}
+
+}  // namespace
+
+void FuzzMenuRoundTrip(const std::string& bytes) {
+  TMenuSystem compiled;
+  if (!LoadBytes(bytes, compiled)) return WayBack(compiled, bytes, false);
+  TMenuSystem system;
+  if (!CompilesClean(bytes, system)) return;
+  const std::string made = SaveBytes(system);
+  WayBack(system, made, true);
+  Layout(bytes, made);
+}
