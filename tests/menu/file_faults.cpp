@@ -18,6 +18,7 @@ namespace {
 bool g_on = false;
 long g_count = 0;
 long g_at = 0;
+int g_error = EIO;
 file_faults::Fails g_fails = file_faults::Fails::kOnce;
 char g_first[512];
 
@@ -35,7 +36,7 @@ bool MayPass(const char* operation, const char* path = nullptr) {
                   : path ? path
                          : "");
   }
-  errno = EIO;
+  errno = g_error;
   return false;
 }
 
@@ -95,7 +96,7 @@ int close(int file) {
   const bool pass = MayPass("close");
   const int result = Next<int(int)>("close")(file);
   if (pass) return result;
-  errno = EIO;
+  errno = g_error;
   return -1;
 }
 
@@ -140,7 +141,8 @@ std::FILE* fopen(const char* path, const char* mode) {
 
 namespace file_faults {
 
-void Begin(long at, Fails fails) {
+void Begin(long at, Fails fails, int error) {
+  g_error = error;
   g_at = at;
   g_fails = fails;
   g_count = 0;
