@@ -1,9 +1,13 @@
 // qmn dump: the canonical JSON to the byte, the outline, the fields of a compiled file. The cases
 // in golden/ are sources with the three dumps beside them.
+#include <algorithm>
 #include <limits>
 #include <sstream>
+#include <streambuf>
 
 #include "tests/qmn/qmn_testing.h"
+#include "menu/menu_model.h"
+#include "tools/qmn/dump_forms.h"
 #include "tools/qmn/json_out.h"
 #include "tools/qmn/tool_text.h"
 
@@ -28,6 +32,29 @@ std::string Text(const std::wstring& units) {
 }
 
 class QmnDump : public QmnTest {};
+
+// Takes everything, keeps nothing but the counts and the last bytes.
+class CountingBuffer : public std::streambuf {
+ public:
+  size_t bytes = 0, pieces = 0, largestPiece = 0;
+  std::string end;
+
+ private:
+  std::streamsize xsputn(const char* text, std::streamsize size) override {
+    const auto count = static_cast<size_t>(size);
+    bytes += count;
+    ++pieces;
+    largestPiece = std::max(largestPiece, count);
+    end.append(text, count);
+    if (end.size() > 8192) end.erase(0, end.size() - 4096);
+    return size;
+  }
+  int overflow(int c) override {
+    const char one = static_cast<char>(c);
+    xsputn(&one, 1);
+    return 0;
+  }
+};
 
 TEST_F(QmnDump, EachFormIsAsTheGoldenFileHasIt) {
   for (const char* form : {"json", "tree", "bytes"}) {
@@ -103,6 +130,29 @@ TEST_F(QmnDump, GroupsOfLongAndOfNoKindShowTheirTypes) {
       run.out.find("\"code\": 80,\n          \"type\": \"other\",\n          \"value\": null\n"),
       std::string::npos)
       << run.out;
+}
+
+// The indent grows with the depth, and the dump with its square; nothing but the dump may.
+TEST_F(QmnDump, FiveThousandNestedSubMenusGoOutAsTheyAreWalked) {
+  constexpr size_t kDepth = 5000;
+  TMenuSystem system;
+  system.Append(new TMenuBar);
+  TMenuBar* bar = system.At(0);
+  for (size_t i = 0; i < kDepth; ++i) {
+    auto* item = new TMenuItem(L"a", L"");
+    bar->Append(item);
+    if (i + 1 < kDepth) bar = item->m_pSubMenu = new TMenuBar;
+  }
+  for (const bool json : {true, false}) {
+    CountingBuffer buffer;
+    std::ostream out(&buffer);
+    json ? DumpJson(system, out) : DumpOutline(system, out);
+    EXPECT_GT(buffer.bytes, kDepth * kDepth);
+    EXPECT_LE(buffer.largestPiece, 4096u);
+    // A piece a word, a piece for each 4096 blanks of an indent.
+    EXPECT_LT(buffer.pieces, kDepth * 200 + buffer.bytes / 4096);
+    EXPECT_TRUE(buffer.end.ends_with(json ? "\n  ]\n}\n" : "  \"a\"\n"));
+  }
 }
 
 TEST_F(QmnDump, BytesBehindTheModelAreCounted) {

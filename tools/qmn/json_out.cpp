@@ -1,5 +1,6 @@
 #include "tools/qmn/json_out.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -45,9 +46,19 @@ void AppendEscaped(std::string& out, char c) {
 
 }  // namespace
 
+// Deep dumps are mostly indent, so that it goes out in pieces as large as they come.
+void PutIndent(std::ostream& out, size_t levels) {
+  static const std::string blanks(4096, ' ');
+  for (size_t left = 2 * levels; left;) {
+    const size_t part = std::min(left, blanks.size());
+    out.write(blanks.data(), static_cast<std::streamsize>(part));
+    left -= part;
+  }
+}
+
 void JsonOut::NewLine() {
   m_out << '\n';
-  for (size_t i = 0; i < m_levels.size(); ++i) m_out << "  ";
+  PutIndent(m_out, m_levels.size());
 }
 
 void JsonOut::Element() {

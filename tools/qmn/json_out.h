@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+void PutIndent(std::ostream& out, size_t levels);
+
 class JsonOut {
  public:
   explicit JsonOut(std::ostream& out) : m_out(out) {}

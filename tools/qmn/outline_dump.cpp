@@ -5,6 +5,7 @@
 
 #include "adsdef.h"
 #include "menu/menu_model.h"
+#include "tools/qmn/json_out.h"
 #include "tools/qmn/tool_text.h"
 
 namespace {
@@ -71,7 +72,7 @@ void PutLines(std::ostream& out, TMenuBar& root) {
       continue;
     }
     const TMenuItem& item = *place.bar->At(place.next++);
-    for (size_t i = 0; i < path.size(); ++i) out << "  ";
+    PutIndent(out, path.size());
     PutItem(out, item);
     if (item.m_pSubMenu) path.push_back({item.m_pSubMenu, 0});
   }
