@@ -38,6 +38,11 @@ TEST(CodePage, Utf8IsAPageToo) {
   EXPECT_EQ(WideToAnsi(L"墙", 65001), "\xE5\xA2\x99");
 }
 
+TEST(CodePage, ALastLetterThatAMarkCouldFollowIsNotLost) {
+  EXPECT_EQ(AnsiToWide("a\xF9", 1255), L"a\x05E9");
+  EXPECT_EQ(AnsiToWide("\xD0", 1258), L"\x0110");
+}
+
 #ifndef _WIN32
 // Windows marks broken text in its own ways; elsewhere the mark is fixed.
 TEST(CodePage, ABrokenByteBecomesTheReplacementCharacter) {

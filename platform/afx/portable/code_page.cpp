@@ -61,6 +61,13 @@ class Converter {
 
   // Converts what it can and moves the input on; false when it stopped at something invalid.
   bool Run(const char*& in, std::size_t& left, std::string* out) {
+    const bool whole = Convert(in, left, out);
+    Flush(out);
+    return whole;
+  }
+
+ private:
+  bool Convert(const char*& in, std::size_t& left, std::string* out) {
     std::array<char, 4096> chunk;
     for (;;) {
       char* source = const_cast<char*>(in);
@@ -75,7 +82,15 @@ class Converter {
     }
   }
 
- private:
+  // A page with combining marks holds a letter back until it has seen what follows.
+  void Flush(std::string* out) {
+    std::array<char, 16> rest;
+    char* target = rest.data();
+    std::size_t room = rest.size();
+    iconv(m_handle, nullptr, nullptr, &target, &room);
+    out->append(rest.data(), rest.size() - room);
+  }
+
   iconv_t m_handle;
 };
 
