@@ -47,13 +47,6 @@ TEST(QmnUsage, AFileMayBeginWithASlash) {
   EXPECT_EQ(run.err, "/no such file.qmn: error: can't be read\n");
 }
 
-TEST(QmnUsage, AnotherCodePageThanTheSystemsIsRefusedInsteadOfIgnored) {
-  const QmnRun run = Qmn({"compile", "-", "--codepage", "1252"}, kGoodSource);
-  EXPECT_EQ(run.code, 2);
-  EXPECT_EQ(run.out, "");
-  EXPECT_EQ(Qmn({"compile", "-", "--codepage", "936"}, kGoodSource).code, 0);
-}
-
 TEST(QmnUsage, ColourMarksTheWordErrorAndNothingElse) {
   const QmnRun plain = Qmn({"compile", "-"}, "x");
   const QmnRun colour = Qmn({"compile", "-"}, "x", true);

@@ -28,7 +28,8 @@ std::string Hex(size_t value) {
 
 class FieldDump {
  public:
-  FieldDump(const std::string& bytes, std::ostream& out) : m_bytes(bytes), m_out(out) {}
+  FieldDump(const std::string& bytes, unsigned page, std::ostream& out)
+      : m_bytes(bytes), m_page(page), m_out(out) {}
 
   bool Run() {
     try {
@@ -101,7 +102,7 @@ class FieldDump {
     if (m_bytes.size() - m_at < length) throw Truncated{};
     const std::string narrow = m_bytes.substr(m_at, length);
     m_at += length;
-    return AnsiToWide(narrow);
+    return AnsiToWide(narrow, m_page);
   }
   std::wstring String(const std::string& name) {
     const size_t at = m_at;
@@ -212,10 +213,13 @@ class FieldDump {
   }
 
   const std::string& m_bytes;
+  const unsigned m_page;
   std::ostream& m_out;
   size_t m_at = 0;
 };
 
 }  // namespace
 
-bool DumpFields(const std::string& bytes, std::ostream& out) { return FieldDump(bytes, out).Run(); }
+bool DumpFields(const std::string& bytes, unsigned page, std::ostream& out) {
+  return FieldDump(bytes, page, out).Run();
+}

@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "tools/qmn/code_page.h"
 #include "tools/qmn/qmn_tool.h"
 
 struct CompileOptions {
   std::string in;
   std::string out;  // empty: beside the input, with .qmc; standard output for standard input
   bool asHost = false;
+  unsigned page = kUsualPage;
 };
 int RunCompile(const CompileOptions& options, const QmnStreams& streams);
 
@@ -18,6 +20,7 @@ struct LoadOptions {
   std::string in;
   std::string out;  // empty: the file is read and nothing is written
   bool asHost = false;
+  unsigned page = kUsualPage;
 };
 int RunLoad(const LoadOptions& options, const QmnStreams& streams);
 
@@ -26,20 +29,21 @@ enum class DumpForm { kJson, kTree, kBytes };
 struct DumpOptions {
   std::string in;
   DumpForm form = DumpForm::kJson;
+  unsigned page = kUsualPage;
 };
 int RunDump(const DumpOptions& options, const QmnStreams& streams);
 
 struct FmtOptions {
   std::vector<std::string> in;
   bool check = false;  // names the files that aren't in canonical layout and writes nothing
-  unsigned page = 936;
+  unsigned page = kUsualPage;
 };
 int RunFmt(const FmtOptions& options, const QmnStreams& streams);
 
 struct DecompileOptions {
   std::string in;
   std::string out;  // empty: standard output
-  unsigned page = 936;
+  unsigned page = kUsualPage;
 };
 int RunDecompile(const DecompileOptions& options, const QmnStreams& streams);
 
@@ -52,5 +56,6 @@ struct WhyOptions {
   std::vector<std::string> groups;     // CODE=VALUE, for all objects
   bool paper = false;
   bool json = false;
+  unsigned page = kUsualPage;
 };
 int RunWhy(const WhyOptions& options, const QmnStreams& streams);

@@ -30,7 +30,7 @@ int CompileAsTool(const CompileOptions& options, const QmnStreams& streams) {
   }
   TMenuSystem system;
   ToolMessages messages(options.in, streams);
-  const CompileResult result = CompileSource(std::move(source), messages, system);
+  const CompileResult result = CompileSource(std::move(source), messages, system, options.page);
   if (result.openCommentLine) return RefuseOpenComment(options, result.openCommentLine, streams);
   if (!result.accepted || messages.Count()) return kFindings;
   const std::string out = OutputOf(options);
@@ -50,7 +50,7 @@ int CompileAsHost(const CompileOptions& options, const QmnStreams& streams) {
   streams.err << Utf8(L"\n加载奇维菜单文件: ") << options.in;
   TMenuSystem system;
   HostMessages messages(streams);
-  const CompileResult result = CompileSource(std::move(source), messages, system);
+  const CompileResult result = CompileSource(std::move(source), messages, system, options.page);
   if (result.openCommentLine) return RefuseOpenComment(options, result.openCommentLine, streams);
   const std::string out = OutputOf(options);
   if (!WriteOutput(out, streams, SaveBytes(system))) {

@@ -33,11 +33,11 @@ void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals
 }
 
 // True when it compiles to the wanted bytes.
-bool CheckSource(const std::string& source, const std::string& bytes, TMenuSystem& wanted,
-                 Refusals& refusals) {
+bool CheckSource(const std::string& source, unsigned page, const std::string& bytes,
+                 TMenuSystem& wanted, Refusals& refusals) {
   TMenuSystem made;
   NoMessages messages;
-  const CompileResult result = CompileSource(source, messages, made);
+  const CompileResult result = CompileSource(source, messages, made, page);
   if (!result.accepted || messages.Count()) return false;
   if (SaveBytes(made) == bytes) return true;
   DifferencesOf(wanted, made, refusals);
@@ -61,7 +61,7 @@ std::string Decompile(const std::string& bytes, TMenuSystem& system, unsigned pa
   std::string source = WriteSource(system, page, refusals);
   if (refusals.Any()) return {};
   source = FormatSource(Unfolded(source, LineEnds::kCrLf), page).text;
-  if (CheckSource(source, bytes, system, refusals)) return source;
+  if (CheckSource(source, page, bytes, system, refusals)) return source;
   if (!refusals.Any()) refusals.Add("file", "no source gives these bytes");
   return {};
 }
@@ -73,7 +73,7 @@ int RunDecompile(const DecompileOptions& options, const QmnStreams& streams) {
     return kFileTrouble;
   }
   TMenuSystem system;
-  if (const wchar_t* exception = LoadBytes(bytes, system)) {
+  if (const wchar_t* exception = LoadBytes(bytes, system, options.page)) {
     ReportError(streams, options.in, Explain(exception));
     return kFindings;
   }

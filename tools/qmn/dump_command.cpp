@@ -17,7 +17,7 @@ void DumpModel(TMenuSystem& system, DumpForm form, std::ostream& out) {
   else if (form == DumpForm::kJson)
     DumpJson(system, out);
   else
-    DumpFields(SaveBytes(system), out);
+    DumpFields(SaveBytes(system), kUsualPage, out);
 }
 
 }  // namespace
@@ -29,9 +29,9 @@ int RunDump(const DumpOptions& options, const QmnStreams& streams) {
     return kFileTrouble;
   }
   TMenuSystem system;
-  const bool good = ModelOfBytes(options.in, bytes, streams, system);
+  const bool good = ModelOfBytes(options.in, bytes, options.page, streams, system);
   if (IsCompiledMenu(options.in, bytes) && options.form == DumpForm::kBytes)
-    DumpFields(bytes, streams.out);
+    DumpFields(bytes, options.page, streams.out);
   else
     DumpModel(system, options.form, streams.out);
   streams.out.flush();

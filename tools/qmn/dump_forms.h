@@ -11,9 +11,9 @@ struct TGroups;
 void DumpJson(TMenuSystem& system, std::ostream& out);
 // An outline for reading; its layout is no promise.
 void DumpOutline(TMenuSystem& system, std::ostream& out);
-// Every field of a compiled file with its offset. False when the file ends too early or is none;
-// the fields until then are written.
-bool DumpFields(const std::string& bytes, std::ostream& out);
+// Every field of a compiled file with its offset; `page` is that of texts without marker. False
+// when the file ends too early or is none; the fields until then are written.
+bool DumpFields(const std::string& bytes, unsigned page, std::ostream& out);
 
 // What a mask group holds: its code as files have it, and the kind of value that the code stands
 // for, one of RTSHORT, RTREAL, RTSTR, RTLONG or something else for none.

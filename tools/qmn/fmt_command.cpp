@@ -13,11 +13,11 @@
 namespace {
 
 // False after an error, which is reported.
-bool CompileAloud(const std::string& file, const std::string& source, const QmnStreams& streams,
-                  std::string& bytes) {
+bool CompileAloud(const std::string& file, const std::string& source, unsigned page,
+                  const QmnStreams& streams, std::string& bytes) {
   TMenuSystem system;
   ToolMessages messages(file, streams);
-  const CompileResult result = CompileSource(source, messages, system);
+  const CompileResult result = CompileSource(source, messages, system, page);
   if (result.openCommentLine) {
     ReportError(streams, file + ":" + std::to_string(result.openCommentLine), kOpenCommentText);
     return false;
@@ -29,7 +29,7 @@ bool CompileAloud(const std::string& file, const std::string& source, const QmnS
 bool FormatAloud(const std::string& file, const std::string& source, const FmtOptions& options,
                  const QmnStreams& streams, std::string& text) {
   std::string before, after;
-  if (!CompileAloud(file, source, streams, before)) return false;
+  if (!CompileAloud(file, source, options.page, streams, before)) return false;
   FormattedSource formatted = FormatSource(source, options.page);
   if (formatted.strayLine) {
     ReportError(
@@ -39,7 +39,8 @@ bool FormatAloud(const std::string& file, const std::string& source, const FmtOp
     return false;
   }
   text = std::move(formatted.text);
-  if (text == source || (CompileAloud(file, text, streams, after) && before == after)) return true;
+  if (text == source || (CompileAloud(file, text, options.page, streams, after) && before == after))
+    return true;
   ReportError(streams, file, "its canonical layout would compile to other bytes; left as it is");
   return false;
 }

@@ -39,7 +39,7 @@ int RunLoad(const LoadOptions& options, const QmnStreams& streams) {
   std::string bytes;
   if (!ReadInput(options.in, streams, bytes)) return RefuseInput(options, streams);
   TMenuSystem system;
-  const wchar_t* exception = LoadBytes(bytes, system);
+  const wchar_t* exception = LoadBytes(bytes, system, options.page);
   if (exception) ReportDamage(options, exception, streams);
   const bool writes = !options.out.empty() && (!exception || options.asHost);
   if (writes && !WriteOutput(options.out, streams, SaveBytes(system)))

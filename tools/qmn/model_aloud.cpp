@@ -6,18 +6,18 @@
 
 namespace {
 
-bool CompileAloud(const std::string& name, std::string source, const QmnStreams& streams,
-                  TMenuSystem& system) {
+bool CompileAloud(const std::string& name, std::string source, unsigned page,
+                  const QmnStreams& streams, TMenuSystem& system) {
   ToolMessages messages(name, streams);
-  const CompileResult result = CompileSource(std::move(source), messages, system);
+  const CompileResult result = CompileSource(std::move(source), messages, system, page);
   if (result.openCommentLine)
     ReportError(streams, name + ":" + std::to_string(result.openCommentLine), kOpenCommentText);
   return result.accepted && !messages.Count();
 }
 
-bool LoadAloud(const std::string& name, const std::string& bytes, const QmnStreams& streams,
-               TMenuSystem& system) {
-  const wchar_t* exception = LoadBytes(bytes, system);
+bool LoadAloud(const std::string& name, const std::string& bytes, unsigned page,
+               const QmnStreams& streams, TMenuSystem& system) {
+  const wchar_t* exception = LoadBytes(bytes, system, page);
   if (exception) ReportError(streams, name, Explain(exception));
   return !exception;
 }
@@ -30,17 +30,18 @@ bool IsCompiledMenu(const std::string& name, const std::string& bytes) {
   return bytes.starts_with("\xFF\xFE\xFF") || bytes.starts_with("\x1AQuivera");
 }
 
-bool ModelOfBytes(const std::string& name, std::string bytes, const QmnStreams& streams,
-                  TMenuSystem& system) {
-  return IsCompiledMenu(name, bytes) ? LoadAloud(name, bytes, streams, system)
-                                     : CompileAloud(name, std::move(bytes), streams, system);
+bool ModelOfBytes(const std::string& name, std::string bytes, unsigned page,
+                  const QmnStreams& streams, TMenuSystem& system) {
+  return IsCompiledMenu(name, bytes) ? LoadAloud(name, bytes, page, streams, system)
+                                     : CompileAloud(name, std::move(bytes), page, streams, system);
 }
 
-int ReadModelAloud(const std::string& name, const QmnStreams& streams, TMenuSystem& system) {
+int ReadModelAloud(const std::string& name, unsigned page, const QmnStreams& streams,
+                   TMenuSystem& system) {
   std::string bytes;
   if (!ReadInput(name, streams, bytes)) {
     ReportError(streams, name, "can't be read");
     return kFileTrouble;
   }
-  return ModelOfBytes(name, std::move(bytes), streams, system) ? kFine : kFindings;
+  return ModelOfBytes(name, std::move(bytes), page, streams, system) ? kFine : kFindings;
 }

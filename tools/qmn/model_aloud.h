@@ -14,8 +14,9 @@ bool IsCompiledMenu(const std::string& name, const std::string& bytes);
 
 // False after an error. The system is then what the module would have: empty for a source, what was
 // read until then for a compiled file.
-bool ModelOfBytes(const std::string& name, std::string bytes, const QmnStreams& streams,
-                  TMenuSystem& system);
+bool ModelOfBytes(const std::string& name, std::string bytes, unsigned page,
+                  const QmnStreams& streams, TMenuSystem& system);
 
 // An exit code.
-int ReadModelAloud(const std::string& name, const QmnStreams& streams, TMenuSystem& system);
+int ReadModelAloud(const std::string& name, unsigned page, const QmnStreams& streams,
+                   TMenuSystem& system);

@@ -10,8 +10,11 @@
 
 const char kOpenCommentText[] = "the comment that begins here never ends";
 
-CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuSystem& system) {
-  MenuCompiler compiler(std::move(source), messages, nullptr, OpenComment::kStop);
+CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuSystem& system,
+                            unsigned page) {
+  PageDecoder decoder(page);
+  MenuCompiler compiler(std::move(source), messages, nullptr, OpenComment::kStop,
+                        page == EnginePage() ? nullptr : &decoder);
   const char* begin = compiler.Scanner().Position();
   CompileResult result;
   result.accepted = compiler.Compile(system) == 0;
@@ -22,7 +25,9 @@ CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuS
   return result;
 }
 
-const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system) {
+namespace {
+
+const wchar_t* Load(const std::string& bytes, TMenuSystem& system) {
   CMemFile file(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
   CArchive ar(&file, CArchive::load | CArchive::bNoFlushOnDelete);
   try {
@@ -39,6 +44,12 @@ const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system) {
   } catch (const std::bad_alloc&) {
   }
   return L"CMemoryException";
+}
+
+}  // namespace
+
+const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system, unsigned page) {
+  return page == EnginePage() ? Load(bytes, system) : Load(WithWideTexts(bytes, page), system);
 }
 
 std::string SaveBytes(TMenuSystem& system) {

@@ -6,16 +6,18 @@
 
 #include "menu/menu_model.h"
 #include "menu/source_messages.h"
+#include "tools/qmn/code_page.h"
 
 struct CompileResult {
   bool accepted = false;
   int openCommentLine = 0;  // where a comment that never ends was opened; 0 without one
 };
-CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuSystem& system);
+CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuSystem& system,
+                            unsigned page = kUsualPage);
 
 // Null when all was read, else the name of the exception that the module shows. What was read until
 // then stays in the system.
-const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system);
+const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system, unsigned page = kUsualPage);
 std::string SaveBytes(TMenuSystem& system);
 
 // What an exception of that name says about the file.

@@ -5,7 +5,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include "afxstr.h"
 #include "tools/qmn/commands.h"
 #include "tools/qmn/tool_text.h"
 
@@ -31,17 +30,6 @@ Exit codes: 0 fine, 1 something is wrong in the input, 2 wrong usage,
 
 qmn - menu files of the shell)";
 
-constexpr int kPage = 936;
-
-// The page that the engine reads narrow text in, which it does not choose itself.
-int EnginePage() {
-#ifdef _WIN32
-  return static_cast<int>(GetACP());
-#else
-  return static_cast<int>(AFX_ANSI_PAGE);
-#endif
-}
-
 struct Options {
   CompileOptions compile;
   LoadOptions load;
@@ -50,12 +38,19 @@ struct Options {
   DecompileOptions decompile;
   WhyOptions why;
   bool json = false, tree = false, bytes = false;
-  int page = kPage;
 };
 
-void AddPage(CLI::App& command, Options& options) {
-  command.add_option("--codepage", options.page, "code page of narrow text")
-      ->default_val(std::to_string(kPage));
+void AddPage(CLI::App& command, unsigned& page) {
+  command
+      .add_option("--codepage", page,
+                  "code page of narrow text: 874, 932, 936, 949, 950, 1250 to 1258 or 65001")
+      ->default_val(std::to_string(kUsualPage))
+      ->check([](const std::string& text) {
+        const bool number = text.size() < 6 && text.find_first_not_of("0123456789") == text.npos;
+        if (number && !text.empty() && IsKnownPage(static_cast<unsigned>(std::stoi(text))))
+          return std::string();
+        return "there is no code page " + text + " here";
+      });
 }
 
 void AddCompile(CLI::App& app, Options& options) {
@@ -64,7 +59,7 @@ void AddCompile(CLI::App& app, Options& options) {
   command->add_option("-o", options.compile.out, "compiled file; IN with .qmc unless given");
   command->add_flag("--as-host", options.compile.asHost,
                     "print the host's messages and write what it would, after errors too");
-  AddPage(*command, options);
+  AddPage(*command, options.compile.page);
 }
 
 void AddLoad(CLI::App& app, Options& options) {
@@ -73,7 +68,7 @@ void AddLoad(CLI::App& app, Options& options) {
   command->add_option("-o", options.load.out, "where to write it; without it nothing is written");
   command->add_flag("--as-host", options.load.asHost,
                     "print the host's messages and write what it has read, after errors too");
-  AddPage(*command, options);
+  AddPage(*command, options.load.page);
 }
 
 void AddDump(CLI::App& app, Options& options) {
@@ -85,7 +80,7 @@ void AddDump(CLI::App& app, Options& options) {
       command->add_flag("--bytes", options.bytes, "fields of the compiled file with offsets");
   json->excludes(tree)->excludes(bytes);
   tree->excludes(bytes);
-  AddPage(*command, options);
+  AddPage(*command, options.dump.page);
 }
 
 void AddFmt(CLI::App& app, Options& options) {
@@ -94,14 +89,14 @@ void AddFmt(CLI::App& app, Options& options) {
       ->required();
   command->add_flag("--check", options.fmt.check,
                     "write nothing; name the files that are not in it, and exit with 1");
-  AddPage(*command, options);
+  AddPage(*command, options.fmt.page);
 }
 
 void AddDecompile(CLI::App& app, Options& options) {
   CLI::App* command = app.add_subcommand("decompile", "Turn a compiled file back into source");
   command->add_option("IN", options.decompile.in, "compiled file (.qmc)")->required();
   command->add_option("-o", options.decompile.out, "menu source; standard output unless given");
-  AddPage(*command, options);
+  AddPage(*command, options.decompile.page);
 }
 
 void AddWhy(CLI::App& app, Options& options) {
@@ -121,16 +116,10 @@ void AddWhy(CLI::App& app, Options& options) {
   repeated("--group", options.why.groups, "CODE=VALUE, what all objects have for another group");
   command->add_flag("--paper", options.why.paper, "in paper space, for nothing selected");
   command->add_flag("--json", options.why.json, "the answer as JSON");
-  AddPage(*command, options);
+  AddPage(*command, options.why.page);
 }
 
 int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) {
-  if (options.page != EnginePage()) {
-    ReportError(streams, "qmn",
-                "code page " + std::to_string(options.page) +
-                    " can't be had here; this system's is " + std::to_string(EnginePage()));
-    return kWrongUsage;
-  }
   if (app.got_subcommand("compile")) return RunCompile(options.compile, streams);
   if (app.got_subcommand("load")) return RunLoad(options.load, streams);
   if (app.got_subcommand("fmt")) return RunFmt(options.fmt, streams);

@@ -72,7 +72,8 @@ int RunWhy(const WhyOptions& options, const QmnStreams& streams) {
     return kWrongUsage;
   }
   TMenuSystem system;
-  if (const int code = ReadModelAloud(options.in, streams, system); code != kFine) return code;
+  if (const int code = ReadModelAloud(options.in, options.page, streams, system); code != kFine)
+    return code;
   options.json ? AnswerInJson(system, question, streams.out)
                : AnswerInWords(system, question, streams.out);
   return kFine;

@@ -1,0 +1,112 @@
+// --codepage: sources and texts without marker in other pages than the field's.
+#include "tests/qmn/qmn_testing.h"
+#include "tools/qmn/code_page.h"
+
+namespace {
+
+class QmnCodePage : public QmnTest {};
+
+std::string Source(const std::string& label) {
+  return "MENU_TITLE = \"T\"\n\n***B\n[" + label + "]x;\n\n***SWITCH\n\n***RESOURCE\n";
+}
+
+struct PageCase {
+  const char* page;
+  const char* bytes;
+  const char* utf8;
+};
+constexpr PageCase kCases[] = {{"936", "\xC7\xBD", "墙"},
+                               {"950", "\xC0\xF0", "牆"},
+                               {"932", "\x95\xC7", "壁"},
+                               {"949", "\xBA\xAE", "벽"},
+                               {"1250", "\xB9", "ą"},
+                               {"1251", "\xD1\xF2\xE5\xED\xE0", "Стена"},
+                               {"1252",
+                                "Stra\xDF"
+                                "e",
+                                "Straße"},
+                               {"1253", "\xC4", "Δ"},
+                               {"1254", "\xFD", "ı"},
+                               {"1255", "\xF9", "ש"},
+                               {"1256", "\xCC", "ج"},
+                               {"1257", "\xE0", "ą"},
+                               {"1258", "\xD0", "Đ"},
+                               {"874", "\xA1", "ก"},
+                               {"65001", "\xE5\xA2\x99", "墙"}};
+
+// The last byte may be no character's end before a bracket; nothing of the text may be lost.
+TEST_F(QmnCodePage, SourcesOfEveryPageAreReadInIt) {
+  for (const PageCase& one : kCases) {
+    const std::string compiled =
+        Qmn({"compile", "-", "--codepage", one.page}, Source(one.bytes)).out;
+    const QmnRun dump = Qmn({"dump", "-", "--tree"}, compiled);
+    EXPECT_NE(dump.out.find(std::string("\"") + one.utf8 + "\""), std::string::npos)
+        << one.page << dump.out;
+    EXPECT_EQ(Qmn({"dump", "-", "--tree", "--codepage", one.page}, Source(one.bytes)).out,
+              dump.out);
+  }
+}
+
+TEST_F(QmnCodePage, DecompileAndFmtKeepThePage) {
+  for (const PageCase& one : kCases) {
+    const std::string compiled =
+        Qmn({"compile", "-", "--codepage", one.page}, Source(one.bytes)).out;
+    const QmnRun run = Qmn({"decompile", "-", "--codepage", one.page}, compiled);
+    EXPECT_EQ(run.code, 0) << one.page << run.err;
+    EXPECT_NE(run.out.find(std::string("[") + one.bytes + "]x;"), std::string::npos) << one.page;
+    EXPECT_EQ(Qmn({"fmt", "-", "--codepage", one.page}, "\n" + Source(one.bytes)).out,
+              Source(one.bytes));
+  }
+}
+
+TEST_F(QmnCodePage, DecompileNamesTheCharacterThatThePageLacks) {
+  const std::string compiled = Qmn({"compile", "-"}, Source("\xC7\xBD")).out;
+  EXPECT_EQ(Qmn({"decompile", "-", "--codepage", "1252"}, compiled).err,
+            "-: error: block B, line 1: text: U+5899 is not in code page 1252\n");
+}
+
+// The good file with one text in the old form, and the bytes with which it is loaded again.
+TEST_F(QmnCodePage, TextsWithoutMarkerAreReadInThePageToo) {
+  const std::string wide = Qmn({"compile", "-"}, Source("a")).out;
+  const std::string label(
+      "\xFF\xFE\xFF\x01"
+      "a\0",
+      6);
+  const size_t at = wide.find(label);
+  ASSERT_NE(at, std::string::npos);
+  for (const PageCase& one : kCases) {
+    std::string old = wide;
+    const std::string text(one.bytes);
+    old.replace(at, label.size(), std::string(1, static_cast<char>(text.size())) + text);
+    const QmnRun load = Qmn({"load", "-", "-o", "-", "--codepage", one.page}, old);
+    EXPECT_EQ(load.code, 0) << load.err;
+    EXPECT_EQ(load.out, Qmn({"compile", "-", "--codepage", one.page}, Source(text)).out)
+        << one.page;
+    EXPECT_NE(Qmn({"dump", "-", "--bytes", "--codepage", one.page}, old)
+                  .out.find(std::string("label = \"") + one.utf8 + "\" in the code page"),
+              std::string::npos)
+        << one.page;
+  }
+}
+
+TEST_F(QmnCodePage, DamagedFilesAreTheSameDamageInAnyPage) {
+  const std::string bytes = GoodBytes();
+  for (size_t size = 0; size < bytes.size(); size += 3) {
+    const std::string prefix = bytes.substr(0, size);
+    EXPECT_EQ(Qmn({"load", "-", "--codepage", "1252"}, prefix).err, Qmn({"load", "-"}, prefix).err);
+    EXPECT_EQ(WithWideTexts(prefix, 1252), prefix);
+  }
+  EXPECT_EQ(WithWideTexts(bytes, 1252), bytes);
+}
+
+TEST_F(QmnCodePage, AnUnknownPageIsWrongUsage) {
+  for (const char* page : {"1", "1200", "37", "99999", "x", "-1"}) {
+    const QmnRun run = Qmn({"compile", "-", "--codepage", page}, kGoodSource);
+    EXPECT_EQ(run.code, 2) << page;
+    EXPECT_NE(run.err.find(std::string("there is no code page ") + page + " here"),
+              std::string::npos)
+        << run.err;
+  }
+}
+
+}  // namespace
