@@ -15,10 +15,21 @@ void PackedMemory::Allow(void* block, std::size_t bytes) noexcept {
 char* PackedMemory::s_next = nullptr;
 char* PackedMemory::s_end = nullptr;
 PackedMemory::Chunk* PackedMemory::s_chunks = nullptr;
+PackedMemory::Chunk* PackedMemory::s_spare = nullptr;
+int PackedMemory::s_spares = 0;
+
+PackedMemory::Chunk* PackedMemory::NewChunk() {
+  if (!s_spare)
+    return static_cast<Chunk*>(
+        ::operator new(kChunkBytes - kRoomForTheHeap, std::align_val_t(kChunkBytes)));
+  Chunk* chunk = s_spare;
+  s_spare = chunk->behind;
+  --s_spares;
+  return chunk;
+}
 
 void PackedMemory::Refill() {
-  void* memory = ::operator new(kChunkBytes - kRoomForTheHeap, std::align_val_t(kChunkBytes));
-  auto* chunk = new (memory) Chunk{0, nullptr, s_chunks, 0};
+  auto* chunk = new (NewChunk()) Chunk{0, nullptr, s_chunks, 0};
   if (s_chunks) s_chunks->before = chunk;
   s_chunks = chunk;
   StartOver(chunk);
@@ -35,6 +46,12 @@ void PackedMemory::Retire(Chunk* chunk) noexcept {
   if (chunk == ChunkOf(s_next)) return StartOver(chunk);
   (chunk->before ? chunk->before->behind : s_chunks) = chunk->behind;
   if (chunk->behind) chunk->behind->before = chunk->before;
+  if (s_spares < kMostSpares) {
+    chunk->behind = s_spare;
+    s_spare = chunk;
+    ++s_spares;
+    return;
+  }
   Allow(chunk, kChunkBytes - kRoomForTheHeap);
   ::operator delete(chunk, std::align_val_t(kChunkBytes));
 }

@@ -60,11 +60,13 @@ class QVX_KERNEL PackedMemory {
   static constexpr std::size_t kRoomForTheHeap = 64;  // so that aligned chunks lie side by side
   static constexpr std::size_t kRecordUnit = 8;
 #if defined(QVX_WATCHED_MEMORY)
+  static constexpr int kMostSpares = 0;
   static constexpr std::size_t kUnit = 8;
   static constexpr std::size_t kGap = 16;
   static void Forbid(void* block, std::size_t bytes) noexcept;
   static void Allow(void* block, std::size_t bytes) noexcept;
 #else
+  static constexpr int kMostSpares = 128;  // 4 MiB
   static constexpr std::size_t kUnit = 4;
   static constexpr std::size_t kGap = 0;
   static void Forbid(void*, std::size_t) noexcept {}
@@ -87,12 +89,15 @@ class QVX_KERNEL PackedMemory {
   }
   static void Refill();
   static void Retire(Chunk* chunk) noexcept;
+  static Chunk* NewChunk();
   static void StartOver(Chunk* chunk) noexcept;
 
   // The free part of the chunk that is being filled; both null before the first one.
   static char* s_next;
   static char* s_end;
-  static Chunk* s_chunks;  // all of them
+  static Chunk* s_chunks;  // those with blocks and the one that is being filled
+  static Chunk* s_spare;   // emptied ones, for the next menu; linked by `behind`
+  static int s_spares;
 };
 
 // Makes the objects of a class records in packed memory.

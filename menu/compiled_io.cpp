@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 
 #include "menu/menu_system.h"
 
@@ -18,16 +19,26 @@ constexpr size_t kPiece = 65536;
 constexpr size_t kWindow = kArchiveBuffer;
 static_assert(std::endian::native == std::endian::little);
 
+// Eight at a time: those loops have a fixed length, and compilers make vector code of them.
 void Narrow(const wchar_t* text, size_t length, unsigned char* bytes) {
-  for (size_t i = 0; i < length; ++i) {
-    bytes[2 * i] = static_cast<unsigned char>(text[i]);
-    bytes[2 * i + 1] = static_cast<unsigned char>(text[i] >> 8);
+  for (; length >= 8; length -= 8, text += 8, bytes += 16) {
+    uint16_t units[8];
+    for (int i = 0; i < 8; ++i) units[i] = static_cast<uint16_t>(text[i]);
+    std::memcpy(bytes, units, sizeof units);
+  }
+  for (; length; --length, ++text, bytes += 2) {
+    bytes[0] = static_cast<unsigned char>(*text);
+    bytes[1] = static_cast<unsigned char>(*text >> 8);
   }
 }
 
 void Widen(const unsigned char* bytes, size_t length, wchar_t* out) {
-  for (size_t i = 0; i < length; ++i)
-    out[i] = static_cast<wchar_t>(bytes[2 * i] | bytes[2 * i + 1] << 8);
+  for (; length >= 8; length -= 8, bytes += 16, out += 8) {
+    uint16_t units[8];
+    std::memcpy(units, bytes, sizeof units);
+    for (int i = 0; i < 8; ++i) out[i] = static_cast<wchar_t>(units[i]);
+  }
+  for (; length; --length, bytes += 2) *out++ = static_cast<wchar_t>(bytes[0] | bytes[1] << 8);
 }
 
 }  // namespace
@@ -78,7 +89,8 @@ CompiledReader::CompiledReader(CArchive& ar, TMenuSystem* system, Ahead ahead)
     : m_ar(ar),
       m_system(system),
       m_window(ahead == Ahead::kMuch ? kWindow : 0),
-      m_left(ar.GetFile()->GetLength()) {
+      m_left(ar.GetFile()->GetLength()),
+      m_grants(m_left) {
   if (!m_window) return;
   m_ar.Flush();
   m_left -= std::min<uint64_t>(m_left, ar.GetFile()->GetPosition());
@@ -121,10 +133,10 @@ bool CompiledReader::GetQuickly(TWCString& out) {
   if ((head & 0xFFFFFF) != kShortHead || length == kMedium) return false;
   const unsigned char* text = m_at + 4;
   m_at = text + 2 * size_t{length};
-  if (length)
-    Widen(text, length, out.KeepRoom(static_cast<int>(length)));
-  else if (!out.IsEmpty())
+  if (length == 0)
     out.Empty();
+  else
+    Widen(text, length, out.KeepRoom(static_cast<int>(length)));
   return true;
 }
 
@@ -165,8 +177,9 @@ TMenuSwitchItem* CompiledReader::GetSwitch() {
   return m_system->m_switches.At(index);
 }
 
-int CompiledReader::Plausible(uint32_t claimed, int smallest) const {
-  const uint64_t left = m_left + static_cast<uint64_t>(m_end - m_at);
-  return static_cast<int>(std::min<uint64_t>(
-      {claimed, left / static_cast<uint64_t>(smallest), static_cast<uint64_t>(INT32_MAX)}));
+int CompiledReader::Grant(uint32_t claimed, int smallest) {
+  const auto bytes = static_cast<uint64_t>(smallest);
+  const auto granted = std::min<uint64_t>({claimed, m_grants / bytes, uint64_t{INT32_MAX}});
+  m_grants -= granted * bytes;
+  return static_cast<int>(granted);
 }

@@ -70,8 +70,9 @@ class CompiledReader {
   }
   TMenuSwitchItem* GetSwitch();
 
-  // How many of `claimed` elements of at least `smallest` bytes the rest of the file can hold.
-  int Plausible(uint32_t claimed, int smallest) const;
+  // For how many of `claimed` elements of at least `smallest` bytes room may be made at once. All
+  // the room that is made for the elements of one file is no more than the file can hold.
+  int Grant(uint32_t claimed, int smallest);
 
   TMenuSystem* System() const { return m_system; }
 
@@ -99,8 +100,9 @@ class CompiledReader {
 
   CArchive& m_ar;
   TMenuSystem* m_system;
-  size_t m_window;  // bytes that are read at once; 0 for no more than is asked for
-  uint64_t m_left;  // of the file behind m_end; never less than what it still has
+  size_t m_window;    // bytes that are read at once; 0 for no more than is asked for
+  uint64_t m_left;    // of the file behind m_end; never less than what it still has
+  uint64_t m_grants;  // bytes of the file that no room was made for
   std::unique_ptr<unsigned char[]> m_bytes;
   size_t m_room = 0;
   const unsigned char* m_at = nullptr;

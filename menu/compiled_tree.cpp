@@ -103,7 +103,7 @@ uint32_t ReadBarHead(CompiledReader& in, TMenuBar& bar) {
   in.GetString(bar.m_strKind);
   ReadMask(in, bar.m_objectMask);
   const uint32_t count = in.GetU32();
-  bar.Reserve(bar.Length() + in.Plausible(count, kSmallestItem));
+  bar.Reserve(bar.Length() + in.Grant(count, kSmallestItem));
   return count;
 }
 

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "menu/menu_parser.h"
-#include "menu/menu_passes.h"
 
 MenuCompiler::MenuCompiler(std::string source, SourceMessages& messages, SourceEcho* echo,
                            OpenComment openComment, NarrowDecoder* decoder)
@@ -19,10 +18,7 @@ std::string MenuCompiler::Folded(std::string source) {
 
 int MenuCompiler::Compile(TMenuSystem& system) {
   system.EmptyLists();
-  MenuParser parser(m_scanner, m_messages, system, m_decoder);
-  if (parser.Parse() != 0) return 1;
-  RunPasses(system, parser.Work());
-  return 0;
+  return MenuParser(m_scanner, m_messages, system, m_decoder).ParseAndFinish();
 }
 
 int MenuCompiler::Parse(TMenuSystem& system) {

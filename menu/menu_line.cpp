@@ -37,8 +37,9 @@ wchar_t* ExpandCommand(std::wstring_view text, wchar_t* out) {
 }  // namespace
 
 void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
-  const size_t close = text.find(L']');
-  if (close == std::wstring_view::npos) return;
+  size_t close = 0;
+  while (close < text.size() && text[close] != L']') ++close;
+  if (close == text.size()) return;
   const std::wstring_view label = text.substr(1, close - 1).substr(0, kLongestLabel);
   item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
 

@@ -34,6 +34,13 @@ int MenuParser::Parse() {
   return 0;
 }
 
+int MenuParser::ParseAndFinish() {
+  m_finishes = true;
+  if (Parse() != 0) return 1;
+  ResolveNames(m_system, m_work);
+  return 0;
+}
+
 // qmn_menu : menu_title menu_bar_list menu_switch_list menu_res_list
 bool MenuParser::QmnMenu() {
   return MenuTitle() && MenuBarList() && MenuSwitchList() && MenuResList() && Check(QMN_END);
@@ -83,10 +90,12 @@ bool MenuParser::MenuBar() {
     LoseBars();
   else
     KeepBar(std::move(bar));
+  m_labels.clear();
   return true;
 }
 
 void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
+  if (m_finishes) FinishBlock(*bar, m_labels, m_work);
   m_bars.Append(bar.get());
   static_cast<void>(bar.release());
 }
@@ -97,7 +106,7 @@ void MenuParser::LoseBars() {
   m_barsLost = true;
   m_bars.Clear();
   m_work.icons.clear();
-  m_work.labels.clear();
+  m_work.marks.clear();
 }
 
 // object_mask : object_mask QMN_COMA dxf_group
@@ -195,7 +204,7 @@ void MenuParser::NoteLine(TMenuItem& item, int icon) {
     m_work.names.CopyTo(icon, item.m_strIconName);
     m_work.icons.push_back({&item.m_nIconIndex, icon});
   }
-  if (IsLabelWork(item)) m_work.labels.push_back({&item, icon});
+  if (IsLabelWork(item)) m_labels.push_back({&item, icon});
 }
 
 // menu_switch_list : menu_switch_list menu_switch_item
@@ -251,11 +260,14 @@ bool MenuParser::MenuResList() {
 // menu_res_item : QMN_IDENTIFIER QMN_EQUAL QMN_STRING QMN_COMA QMN_STRING
 bool MenuParser::MenuResItem() {
   TMenuResItem& made = AppendNew(m_resources);
-  m_work.resources.push_back(PassWork::kNoName);
-  if (!ExpectNumberedName(m_work.resources.back())) return false;
+  const NamePool::Key key = m_work.names.Announce(m_token.text);
+  Advance();
+  if (!Expect(QMN_EQUAL) || !ExpectString(made.m_strImage) || !Expect(QMN_COMA) ||
+      !ExpectString(made.m_strImage2))
+    return false;
+  m_work.resources.push_back(m_work.names.Add(key));
   m_work.names.CopyTo(m_work.resources.back(), made.m_strName);
-  return Expect(QMN_EQUAL) && ExpectString(made.m_strImage) && Expect(QMN_COMA) &&
-         ExpectString(made.m_strImage2);
+  return true;
 }
 
 bool MenuParser::Check(int kind) { return Is(kind) || SyntaxError(); }

@@ -17,12 +17,16 @@ class MenuParser {
  public:
   MenuParser(MenuScanner& scanner, SourceMessages& messages, TMenuSystem& system,
              NarrowDecoder* decoder = nullptr)
-      : m_scanner(scanner), m_messages(messages), m_system(system), m_ansi(decoder) {}
+      : m_scanner(scanner),
+        m_messages(messages),
+        m_system(system),
+        m_ansi(decoder),
+        m_work(scanner.Left()) {}
 
   // 0 when the file was accepted, 1 after a syntax error. Appends to the system's lists.
   int Parse();
-  // What is left to do for the passes once the file was accepted.
-  const PassWork& Work() const { return m_work; }
+  // The same with the passes, so that an accepted file gives the final tree.
+  int ParseAndFinish();
 
  private:
   struct Mask {
@@ -74,8 +78,10 @@ class MenuParser {
   NamePool::Key m_pendingIcon;
   bool m_hasPendingIcon = false;
 
+  bool m_finishes = false;  // runs the passes too
   PassWork m_work;
-  TDPtrList<TMenuItem> m_lines;  // of the block that is being read
+  std::vector<PassWork::LabelUse> m_labels;  // of the block that is being read
+  TDPtrList<TMenuItem> m_lines;              // of the block that is being read
   TWCString m_title;
   TDPtrList<TMenuBar> m_bars;
   bool m_barsLost = false;

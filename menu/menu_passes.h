@@ -1,6 +1,11 @@
-// What turns the raw lines of a parsed file into the final tree. The loader runs the passes after
-// every parse, failed ones too; a compiled file holds their result and never sees them. The parser
-// notes on its way which lines a pass has to look at, so that none walks the whole menu.
+// What turns the raw lines of a parsed file into the final tree; a compiled file holds the result
+// and never sees the passes. As the language words them, four passes go over the whole menu one
+// after the other: icon names of the top-level lines and of the switch states become indexes; "->"
+// and
+// "<-" labels become sub-menus; "*SWITCH*" lines get their switches; "{~=Fn}" and "{!=Fn}" in front
+// of labels become flags and functions. No block has a part in another one's passes, so that all
+// that needs no table is done when a block ends, its lines still being in the caches; what needs
+// the tables behind the blocks is noted and done at the end of the file.
 #pragma once
 
 #include <vector>
@@ -22,29 +27,27 @@ struct PassWork {
   };
   static constexpr int kNoName = -1;
 
+  explicit PassWork(size_t sourceBytes = 0) : names(sourceBytes) {}
+
   NamePool names;
   std::vector<int> resources;  // the name of each entry
   std::vector<int> switches;
   std::vector<IconUse> icons;
-  // Lines whose label a pass may change or that may show a switch; at least all of those.
-  std::vector<LabelUse> labels;
+  std::vector<LabelUse> marks;  // lines that show a switch
 };
 
-// Runs all of them, in this order: icon names of the top-level lines and of the switch states into
-// indexes; "->" and "<-" labels into sub-menus; "*SWITCH*" lines to their switches; "{~=Fn}" and
-// "{!=Fn}" in front of labels into flags and functions.
-void RunPasses(TMenuSystem& system, const PassWork& work);
+// Whether a label as it is written may be work for FinishBlock.
+bool IsLabelWork(const TMenuItem& item);
+// For a block whose lines are complete: nests them, notes the lines that show a switch and strips
+// the conditions of the others. `labels` has at least all lines with such work.
+void FinishBlock(TMenuBar& bar, const std::vector<PassWork::LabelUse>& labels, PassWork& work);
+// At the end of an accepted file: icons and switches.
+void ResolveNames(TMenuSystem& system, const PassWork& work);
 
-void ResolveIcons(const PassWork& work);
-void NestSubMenus(TMenuSystem& system);
 // Gives the number of steps: each closed a range or ended a bar, so that there are no more than two
 // a line and one.
 int NestSubMenus(TMenuBar& bar);
-void ResolveSwitches(TMenuSystem& system, const PassWork& work);
-void StripConditions(const PassWork& work);
-
-// Whether a label as it is written may be work for the passes behind the nesting.
-bool IsLabelWork(const TMenuItem& item);
+void StripConditions(TMenuItem& item);
 
 // First and last line of one "->" to "<-" range while sub-menus are built.
 struct TItemDot {

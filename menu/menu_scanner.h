@@ -53,6 +53,7 @@ class MenuScanner {
   int Line() const { return m_line; }
   void SetLine(int line) { m_line = line; }
   const char* Position() const { return m_at; }
+  size_t Left() const { return static_cast<size_t>(m_end - m_at); }  // bytes
   // Where a comment that never ends was opened; null while there is none. Only with kStop.
   const char* OpenCommentAt() const { return m_openComment; }
 

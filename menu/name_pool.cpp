@@ -8,28 +8,29 @@
 
 namespace {
 
-constexpr size_t kFirstSlots = 256;
+constexpr size_t kBytesAName = 100;  // of source; menus in use have between 80 and 150
 
 // Folds the case of all characters that identifiers have: no two of them differ in this bit alone,
 // letters excepted.
 constexpr uint64_t kFoldEight = 0x2020202020202020u;
 
 uint64_t Mixed(uint64_t hash, uint64_t eight) {
-  hash = (hash ^ (eight | kFoldEight)) * 0x9E3779B97F4A7C15u;
+  hash = (hash ^ eight) * 0x9E3779B97F4A7C15u;
   return hash ^ hash >> 32;
 }
 
-uint32_t HashNoCase(std::string_view name, uint64_t seed) {
+// `fold` is added to all bytes: kFoldEight, or 0 for a hash that tells case.
+uint32_t HashOf(std::string_view name, uint64_t seed, uint64_t fold) {
   uint64_t hash = seed ^ name.size();
   uint64_t eight = 0;
   size_t at = 0;
   for (; name.size() - at >= 8; at += 8) {
     std::memcpy(&eight, name.data() + at, 8);
-    hash = Mixed(hash, eight);
+    hash = Mixed(hash, eight | fold);
   }
   eight = 0;
   for (; at < name.size(); ++at) eight = eight << 8 | static_cast<unsigned char>(name[at]);
-  return static_cast<uint32_t>(Mixed(hash, eight) >> 16);
+  return static_cast<uint32_t>(Mixed(hash, eight | fold) >> 16);
 }
 
 bool EqualNoCase(std::string_view a, std::string_view b) {
@@ -47,13 +48,14 @@ TSharedText Widened(std::string_view name) {
 
 // Where the pool lies is another place in each run, so that no file can be full of names that fall
 // on one slot.
-NamePool::NamePool() : m_seed(reinterpret_cast<std::uintptr_t>(this) * 0xD6E8FEB86659FD93u) {
-  Spread(kFirstSlots);
+NamePool::NamePool(size_t sourceBytes)
+    : m_seed(reinterpret_cast<std::uintptr_t>(this) * 0xD6E8FEB86659FD93u),
+      m_byName(sourceBytes / kBytesAName) {
+  m_names.reserve(sourceBytes / kBytesAName);
 }
 
-NamePool::Name::Name(std::string_view name, int firstOfFamily)
-    : text(Widened(name)), begin(name.data()), family(firstOfFamily) {
-  length = static_cast<unsigned char>(name.size());
+NamePool::Name::Name(std::string_view name)
+    : text(Widened(name)), begin(name.data()), length(static_cast<unsigned char>(name.size())) {
   std::copy_n(name.begin(), std::min(name.size(), sizeof head), head);
 }
 
@@ -63,45 +65,78 @@ bool NamePool::Name::Is(std::string_view name) const {
   return Whole() == name;
 }
 
+template <class IsIt>
+int NamePool::Table::Find(uint32_t hash, IsIt isIt) const {
+  const size_t mask = m_slots.size() - 1;
+  for (size_t at = hash & mask; m_slots[at].number != kNone; at = (at + 1) & mask)
+    if (m_slots[at].hash == hash && isIt(m_slots[at].number)) return m_slots[at].number;
+  return kNone;
+}
+
+NamePool::Table::Table(size_t names) {
+  size_t slots = 64;
+  while (slots * 3 < names * 4) slots *= 2;
+  Spread(slots);
+}
+
+void NamePool::Table::Add(uint32_t hash, int number) {
+  if (++m_taken * 4 > m_slots.size() * 3) Spread(m_slots.size() * 2);
+  Put(hash, number);
+}
+
+void NamePool::Table::Put(uint32_t hash, int number) {
+  const size_t mask = m_slots.size() - 1;
+  size_t at = hash & mask;
+  while (m_slots[at].number != kNone) at = (at + 1) & mask;
+  m_slots[at] = {hash, number};
+}
+
+void NamePool::Table::Spread(size_t slots) {
+  std::vector<Slot> old(slots, Slot{0, kNone});
+  old.swap(m_slots);
+  for (const Slot& slot : old)
+    if (slot.number != kNone) Put(slot.hash, slot.number);
+}
+
 NamePool::Key NamePool::Announce(std::string_view name) const {
-  const Key key{name, HashNoCase(name, m_seed)};
-  __builtin_prefetch(&m_slots[key.hash & (m_slots.size() - 1)]);
+  const Key key{name, HashOf(name, m_seed, 0)};
+  m_byName.Prefetch(key.hash);
   return key;
 }
 
 int NamePool::Add(const Key& key) {
-  const auto [name, hash] = key;
-  const size_t mask = m_slots.size() - 1;
-  int family = Count();
-  size_t at = hash & mask;
-  for (; m_slots[at].number != kFree; at = (at + 1) & mask) {
-    if (m_slots[at].hash != hash) continue;
+  const int known = m_byName.Find(key.hash, [&](int number) {
     ++m_comparisons;
-    const Name& known = m_names[static_cast<size_t>(m_slots[at].number)];
-    if (known.Is(name)) return m_slots[at].number;
-    if (EqualNoCase(known.Whole(), name)) family = known.family;
-  }
-  m_names.emplace_back(name, family);
-  m_slots[at] = {hash, Count() - 1};
-  if (m_names.size() * 4 > m_slots.size() * 3) Spread(m_slots.size() * 2);
+    return At(number).Is(key.name);
+  });
+  if (known != Table::kNone) return known;
+  m_names.emplace_back(key.name);
+  m_byName.Add(key.hash, Count() - 1);
   return Count() - 1;
 }
 
-void NamePool::Spread(size_t slots) {
-  std::vector<Slot> old(slots, Slot{0, kFree});
-  old.swap(m_slots);
-  for (const Slot& slot : old) {
-    if (slot.number == kFree) continue;
-    size_t at = slot.hash & (slots - 1);
-    while (m_slots[at].number != kFree) at = (at + 1) & (slots - 1);
-    m_slots[at] = slot;
+// The hashes come first, so that the places in the table can be asked for ahead of their use.
+NameFamilies::NameFamilies(const NamePool& pool) : m_families(pool.m_names.size()) {
+  constexpr size_t kAhead = 8;
+  const size_t count = m_families.size();
+  std::vector<uint32_t> hashes(count + kAhead);
+  for (size_t i = 0; i < count; ++i)
+    hashes[i] = HashOf(pool.m_names[i].Whole(), pool.m_seed, kFoldEight);
+  NamePool::Table table(count);
+  for (size_t i = 0; i < count; ++i) {
+    table.Prefetch(hashes[i + kAhead]);
+    const std::string_view name = pool.m_names[i].Whole();
+    const int known = table.Find(
+        hashes[i], [&](int number) { return EqualNoCase(pool.At(number).Whole(), name); });
+    m_families[i] = known == NamePool::Table::kNone ? static_cast<int>(i) : known;
+    if (known == NamePool::Table::kNone) table.Add(hashes[i], static_cast<int>(i));
   }
 }
 
-NameLookup::NameLookup(const NamePool& pool, const std::vector<int>& tableNames)
-    : m_pool(pool), m_entries(static_cast<size_t>(pool.Count()), -1) {
+NameLookup::NameLookup(const NameFamilies& families, const std::vector<int>& tableNames)
+    : m_families(families), m_entries(static_cast<size_t>(families.Count()), -1) {
   for (size_t i = 0; i < tableNames.size(); ++i) {
-    int& entry = m_entries[static_cast<size_t>(pool.Family(tableNames[i]))];
+    int& entry = m_entries[static_cast<size_t>(families.Of(tableNames[i]))];
     if (entry < 0) entry = static_cast<int>(i);
   }
 }

@@ -11,7 +11,8 @@
 
 class NamePool {
  public:
-  NamePool();
+  // Made for a source of so many bytes; any number of names may come.
+  explicit NamePool(size_t sourceBytes = 0);
 
   // `name` is an identifier: ASCII letters, digits and underscores, no longer than a token. It
   // outlives the pool.
@@ -26,47 +27,76 @@ class NamePool {
   int Add(const Key& key);
   int Count() const { return static_cast<int>(m_names.size()); }
   void CopyTo(int number, TWCString& out) { m_names[static_cast<size_t>(number)].text.CopyTo(out); }
-  // The same for all names that are equal when case is ignored: the number of the first of them.
-  int Family(int number) const { return m_names[static_cast<size_t>(number)].family; }
 
   // How many names were compared so far; tests hold it near the number of calls.
   size_t Comparisons() const { return m_comparisons; }
 
  private:
+  friend class NameFamilies;
+
   struct Name {
-    Name(std::string_view name, int firstOfFamily);
+    explicit Name(std::string_view name);
     std::string_view Whole() const { return {begin, length}; }
     bool Is(std::string_view name) const;
 
     TSharedText text;
     const char* begin;  // in the source
-    int family;
     unsigned char length;
-    char head[11];  // most names lie in the record as a whole: comparing them goes nowhere else
+    char head[15];  // most names lie in the record as a whole: comparing them goes nowhere else
   };
-  struct Slot {
-    uint32_t hash;
-    int number;  // kFree, or into m_names
+  // Names or families by their hash, with open addressing.
+  class Table {
+   public:
+    static constexpr int kNone = -1;
+    explicit Table(size_t names);
+    void Prefetch(uint32_t hash) const {
+      __builtin_prefetch(&m_slots[hash & (m_slots.size() - 1)]);
+    }
+    // The number under this hash that is the one; kNone when there is none.
+    template <class IsIt>
+    int Find(uint32_t hash, IsIt isIt) const;
+    void Add(uint32_t hash, int number);
+
+   private:
+    struct Slot {
+      uint32_t hash;
+      int number;
+    };
+    void Spread(size_t slots);
+    void Put(uint32_t hash, int number);
+
+    std::vector<Slot> m_slots;  // a power of two, at most three quarters of them taken
+    size_t m_taken = 0;
   };
-  static constexpr int kFree = -1;
 
-  void Spread(size_t slots);
-
+  const Name& At(int number) const { return m_names[static_cast<size_t>(number)]; }
   uint64_t m_seed;
   std::vector<Name> m_names;
-  std::vector<Slot> m_slots;  // a power of two, at most three quarters of them taken
+  Table m_byName;
   size_t m_comparisons = 0;
+};
+
+// Names that are equal when case is ignored are one family.
+class NameFamilies {
+ public:
+  explicit NameFamilies(const NamePool& pool);
+  // The number of the first name of the family.
+  int Of(int number) const { return m_families[static_cast<size_t>(number)]; }
+  int Count() const { return static_cast<int>(m_families.size()); }
+
+ private:
+  std::vector<int> m_families;
 };
 
 // From the numbers of a table's names to the first entry of that name, case ignored.
 class NameLookup {
  public:
-  NameLookup(const NamePool& pool, const std::vector<int>& tableNames);
+  NameLookup(const NameFamilies& families, const std::vector<int>& tableNames);
   int Find(int number) const {  // -1 when there is none
-    return m_entries[static_cast<size_t>(m_pool.Family(number))];
+    return m_entries[static_cast<size_t>(m_families.Of(number))];
   }
 
  private:
-  const NamePool& m_pool;
+  const NameFamilies& m_families;
   std::vector<int> m_entries;  // by family
 };

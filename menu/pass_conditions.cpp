@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "menu/menu_passes.h"
-#include "menu/menu_system.h"
+#include "menu/menu_item.h"
 
 namespace {
 
@@ -51,12 +51,9 @@ void StripLabel(TMenuItem& item) {
 
 }  // namespace
 
-void StripConditions(const PassWork& work) {
-  for (const PassWork::LabelUse& use : work.labels) {
-    TMenuItem& item = *use.item;
-    if (!item.m_pSubMenu && !item.m_pSwitch && item.m_strLabel.Length() >= kShortestLabel)
-      StripLabel(item);
-  }
+void StripConditions(TMenuItem& item) {
+  if (!item.m_pSubMenu && !item.m_pSwitch && item.m_strLabel.Length() >= kShortestLabel)
+    StripLabel(item);
 }
 
 // What begins or ends with a blank, begins with a brace or a star, or loses its arrows.

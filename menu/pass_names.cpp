@@ -1,25 +1,28 @@
-// The passes that resolve names: icons and switches.
+// The end of a block, and the names that are resolved at the end of the file: icons and switches.
 #include "menu/menu_passes.h"
 #include "menu/menu_system.h"
 
-void ResolveIcons(const PassWork& work) {
-  const NameLookup icons(work.names, work.resources);
-  for (const PassWork::IconUse& use : work.icons)
-    if (const int found = icons.Find(use.name); found >= 0) *use.index = found;
-}
-
-void ResolveSwitches(TMenuSystem& system, const PassWork& work) {
-  const NameLookup switches(work.names, work.switches);
-  for (const PassWork::LabelUse& use : work.labels) {
-    if (use.icon == PassWork::kNoName || !use.item->IsSwitchMark()) continue;
-    const int found = switches.Find(use.icon);
-    use.item->m_pSwitch = found >= 0 ? system.m_switches.At(found) : nullptr;
+// A label that is the mark of a switch only once its conditions are off shows no switch: marks are
+// told first.
+void FinishBlock(TMenuBar& bar, const std::vector<PassWork::LabelUse>& labels, PassWork& work) {
+  NestSubMenus(bar);
+  for (const PassWork::LabelUse& label : labels) {
+    if (label.item->IsSwitchMark())
+      work.marks.push_back(label);
+    else
+      StripConditions(*label.item);
   }
 }
 
-void RunPasses(TMenuSystem& system, const PassWork& work) {
-  ResolveIcons(work);
-  NestSubMenus(system);
-  ResolveSwitches(system, work);
-  StripConditions(work);
+void ResolveNames(TMenuSystem& system, const PassWork& work) {
+  const NameFamilies families(work.names);
+  const NameLookup icons(families, work.resources);
+  for (const PassWork::IconUse& use : work.icons)
+    if (const int found = icons.Find(use.name); found >= 0) *use.index = found;
+
+  const NameLookup switches(families, work.switches);
+  for (const PassWork::LabelUse& mark : work.marks) {
+    const int found = mark.icon == PassWork::kNoName ? -1 : switches.Find(mark.icon);
+    mark.item->m_pSwitch = found >= 0 ? system.m_switches.At(found) : nullptr;
+  }
 }

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "menu/menu_passes.h"
-#include "menu/menu_system.h"
+#include "menu/menu_bar.h"
 
 namespace {
 
@@ -158,8 +158,4 @@ class Nester {
 int NestSubMenus(TMenuBar& bar) {
   const NestPlan plan(bar);
   return plan.HasOpening() ? Nester(bar, plan).Run() : 0;
-}
-
-void NestSubMenus(TMenuSystem& system) {
-  for (TMenuBar* bar : system) NestSubMenus(*bar);
 }

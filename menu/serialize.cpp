@@ -60,7 +60,7 @@ void WriteList(CompiledWriter& out, const TDPtrList<T>& list) {
 template <class T>
 void ReadList(CompiledReader& in, TDPtrList<T>& list, int smallest) {
   const uint32_t count = in.GetU32();
-  list.Reserve(list.Length() + in.Plausible(count, smallest));
+  list.Reserve(list.Length() + in.Grant(count, smallest));
   for (uint32_t left = count; left; --left) {
     auto element = std::make_unique<T>();
     list.Append(element.get());

@@ -324,17 +324,24 @@ TEST(NamePool, EqualNamesHaveOneNumberAndOneText) {
 TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
   NamePool pool;
   const int wall = pool.Add("a_very_long_name_of_a_Wall");
-  EXPECT_EQ(pool.Family(pool.Add("A_VERY_LONG_NAME_OF_A_WALL")), wall);
-  EXPECT_EQ(pool.Family(pool.Add("a_very_long_name_of_a_wALL")), wall);
-  EXPECT_NE(pool.Family(pool.Add("a_very_long_name_of_a_hall")), wall);
-  EXPECT_NE(pool.Family(pool.Add("0P")), pool.Family(pool.Add("P0")));
+  const int upper = pool.Add("A_VERY_LONG_NAME_OF_A_WALL");
+  const int mixed = pool.Add("a_very_long_name_of_a_wALL");
+  const int hall = pool.Add("a_very_long_name_of_a_hall");
+  const int one = pool.Add("0P"), other = pool.Add("P0");
+  const NameFamilies families(pool);
+  EXPECT_EQ(families.Of(upper), wall);
+  EXPECT_EQ(families.Of(mixed), wall);
+  EXPECT_EQ(families.Of(hall), hall);
+  EXPECT_EQ(families.Of(one), one);
+  EXPECT_EQ(families.Of(other), other);
 }
 
 TEST(NamePool, ATableEntryIsFoundByItsFirstNameInAnyCase) {
   NamePool pool;
   const std::vector<int> table = {pool.Add("Wall"), pool.Add("WALL"), pool.Add("door")};
   const int lower = pool.Add("wall"), upper = pool.Add("DOOR"), none = pool.Add("window");
-  const NameLookup lookup(pool, table);
+  const NameFamilies families(pool);
+  const NameLookup lookup(families, table);
   EXPECT_EQ(lookup.Find(lower), 0);
   EXPECT_EQ(lookup.Find(upper), 2);
   EXPECT_EQ(lookup.Find(none), -1);
@@ -349,7 +356,8 @@ TEST(NamePool, AgreesWithAWalkFromTheFrontForManyNames) {
   for (int i = 0; i < 500; ++i) table.push_back(pool.Add(names[static_cast<size_t>(i)]));
   std::vector<int> asked;
   for (size_t i = 500; i < names.size(); ++i) asked.push_back(pool.Add(names[i]));
-  const NameLookup lookup(pool, table);
+  const NameFamilies families(pool);
+  const NameLookup lookup(families, table);
   for (int i = 0; i < 310; ++i)
     EXPECT_EQ(lookup.Find(asked[static_cast<size_t>(i)]), i < 300 ? i : -1);
 }
