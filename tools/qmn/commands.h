@@ -33,6 +33,17 @@ struct DumpOptions {
 };
 int RunDump(const DumpOptions& options, const QmnStreams& streams);
 
+enum class CheckFormat { kText, kJson, kSarif, kGitHub };
+
+struct CheckOptions {
+  std::vector<std::string> files;
+  CheckFormat format = CheckFormat::kText;
+  bool failOnWarning = false;
+  bool listRules = false;  // instead of checking anything
+  unsigned page = kUsualPage;
+};
+int RunCheck(const CheckOptions& options, const QmnStreams& streams);
+
 struct FmtOptions {
   std::vector<std::string> in;
   bool check = false;  // names the files that aren't in canonical layout and writes nothing

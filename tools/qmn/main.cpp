@@ -24,9 +24,11 @@ bool WantsColour() {
   return !no || !*no;
 }
 
-int Run(const std::vector<std::string>& args, bool terminal) {
+int Run(const std::vector<std::string>& args, bool terminal, bool terminalOut) {
   std::ios::sync_with_stdio(false);
-  const int code = RunQmn(args, {std::cin, std::cout, std::cerr, terminal && WantsColour()});
+  const bool wanted = WantsColour();
+  const int code =
+      RunQmn(args, {std::cin, std::cout, std::cerr, terminal && wanted, terminalOut && wanted});
   std::cout.flush();
   return std::cout.good() || code != kFine ? code : kFileTrouble;
 }
@@ -49,9 +51,9 @@ class ConsolePage {
   const UINT m_before = GetConsoleOutputCP();
 };
 
-// Whether messages go to a console that understands colour sequences.
-bool MessagesOnTerminal() {
-  HANDLE console = GetStdHandle(STD_ERROR_HANDLE);
+// Whether a stream goes to a console that understands colour sequences.
+bool IsOnTerminal(DWORD stream) {
+  HANDLE console = GetStdHandle(stream);
   DWORD mode = 0;
   return GetConsoleMode(console, &mode) &&
          SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
@@ -64,13 +66,14 @@ int wmain(int count, wchar_t** texts) {
   const ConsolePage page;
   std::vector<std::string> args;
   for (int i = 1; i < count; ++i) args.push_back(Utf8(texts[i]));
-  return Run(args, MessagesOnTerminal());
+  return Run(args, IsOnTerminal(STD_ERROR_HANDLE), IsOnTerminal(STD_OUTPUT_HANDLE));
 }
 
 #else
 
 int main(int count, char** texts) {
-  return Run(std::vector<std::string>(texts + 1, texts + count), isatty(STDERR_FILENO) != 0);
+  return Run(std::vector<std::string>(texts + 1, texts + count), isatty(STDERR_FILENO) != 0,
+             isatty(STDOUT_FILENO) != 0);
 }
 
 #endif

@@ -1,5 +1,6 @@
 #include "tools/qmn/qmn_tool.h"
 
+#include <map>
 #include <new>
 #include <ostream>
 
@@ -16,6 +17,8 @@ constexpr char kHelp[] = R"(Examples:
   qmn compile --as-host qvx.qmn        the host's messages, and the model that it would write
   qmn load qvx.qmc                     is this compiled file whole?
   qmn load old.qmc -o new.qmc          reads a compiled file and writes it again
+  qmn check qvx.qmn simple.qmn         every problem, with its line and column
+  qmn check --format sarif qvx.qmn     the same for another program
   qmn dump qvx.qmn --tree              an outline of the menus
   qmn dump qvx.qmc --json              the model as canonical JSON
   qmn dump qvx.qmc --bytes             every field of the file with its offset
@@ -34,6 +37,7 @@ struct Options {
   CompileOptions compile;
   LoadOptions load;
   DumpOptions dump;
+  CheckOptions check;
   FmtOptions fmt;
   DecompileOptions decompile;
   WhyOptions why;
@@ -119,8 +123,32 @@ void AddWhy(CLI::App& app, Options& options) {
   AddPage(*command, options.why.page);
 }
 
+void AddCheck(CLI::App& app, Options& options) {
+  static const std::map<std::string, CheckFormat> formats{{"text", CheckFormat::kText},
+                                                          {"json", CheckFormat::kJson},
+                                                          {"sarif", CheckFormat::kSarif},
+                                                          {"github", CheckFormat::kGitHub}};
+  static const std::map<std::string, bool> severities{{"error", false}, {"warning", true}};
+  CLI::App* command = app.add_subcommand("check", "Find every problem of menu sources");
+  CLI::Option* files = command->add_option("FILE", options.check.files, "menu sources (.qmn)");
+  command->add_option("--format", options.check.format, "text (the default), json, sarif or github")
+      ->transform(CLI::CheckedTransformer(formats).description(""));
+  command
+      ->add_option("--fail-on", options.check.failOnWarning,
+                   "what gives exit code 1: error (the default) or warning")
+      ->transform(CLI::CheckedTransformer(severities).description(""));
+  CLI::Option* list =
+      command->add_flag("--list-rules", options.check.listRules, "list the rules; no FILE");
+  list->excludes(files);
+  command->callback([files, list] {
+    if (files->count() == 0 && list->count() == 0) throw CLI::RequiredError("FILE");
+  });
+  AddPage(*command, options.check.page);
+}
+
 int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) {
   if (app.got_subcommand("compile")) return RunCompile(options.compile, streams);
+  if (app.got_subcommand("check")) return RunCheck(options.check, streams);
   if (app.got_subcommand("load")) return RunLoad(options.load, streams);
   if (app.got_subcommand("fmt")) return RunFmt(options.fmt, streams);
   if (app.got_subcommand("decompile")) return RunDecompile(options.decompile, streams);
@@ -142,6 +170,7 @@ int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
   AddCompile(app, options);
   AddLoad(app, options);
   AddDump(app, options);
+  AddCheck(app, options);
   AddFmt(app, options);
   AddDecompile(app, options);
   AddWhy(app, options);

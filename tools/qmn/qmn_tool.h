@@ -16,9 +16,10 @@ enum ExitCode {
 
 struct QmnStreams {
   std::istream& in;
-  std::ostream& out;  // data only; binary for compiled files
-  std::ostream& err;  // messages, in UTF-8
-  bool colour = false;
+  std::ostream& out;       // data only; binary for compiled files
+  std::ostream& err;       // messages, in UTF-8
+  bool colour = false;     // of messages
+  bool colourOut = false;  // of data that is written for reading
 };
 
 // `args` are UTF-8 and start behind the program's name.

@@ -1,0 +1,221 @@
+// The check against the engine, over mutated menus and over garbage: an error for each source that
+// the engine refuses, none for one that it takes, and an end in every case. The seed is fixed.
+#include <random>
+
+#include "menu/menu_model.h"
+#include "tests/qmn/check_testing.h"
+#include "tools/qmn/check/check_source.h"
+#include "tools/qmn/check/lint_parser.h"
+#include "tools/qmn/check/model_view.h"
+#include "tools/qmn/model_io.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string> Menus() {
+  std::vector<fs::path> paths;
+  for (const fs::path& folder : {ProductFolder(), GoldenFolder()})
+    for (const auto& entry : fs::directory_iterator(folder))
+      if (entry.path().extension() == ".qmn") paths.push_back(entry.path());
+  std::sort(paths.begin(), paths.end());
+  std::vector<std::string> menus;
+  for (const fs::path& path : paths) menus.push_back(ReadBytes(path));
+  return menus;
+}
+
+class Mutator {
+ public:
+  explicit Mutator(unsigned seed) : m_random(seed) {}
+
+  size_t Below(size_t count) { return m_random() % count; }
+
+  std::string Mutated(std::string source) {
+    for (size_t count = 1 + Below(2); count > 0; --count) Once(source);
+    return source;
+  }
+  // Pieces of the language in any order.
+  std::string Salad() {
+    std::string out;
+    for (size_t count = Below(60); count > 0; --count) out += Piece();
+    return out;
+  }
+  std::string Bytes(size_t count) {
+    std::string out;
+    while (count--) out += static_cast<char>(m_random());
+    return out;
+  }
+
+ private:
+  const char* Piece() {
+    static const char* const kPieces[] = {"MENU_TITLE",
+                                          "=",
+                                          "\"t\"",
+                                          "***",
+                                          "COMMON ",
+                                          "A ",
+                                          "[a]x;\n",
+                                          "SWITCH\n",
+                                          "**",
+                                          "S ",
+                                          "GET=g ",
+                                          "SET=s ",
+                                          "0",
+                                          ",",
+                                          "***SWITCH\n",
+                                          "1.5",
+                                          "/*",
+                                          "*/",
+                                          "//",
+                                          "\n",
+                                          "***RESOURCE\n",
+                                          "[->a]\n",
+                                          "\"\\",
+                                          "0,\"W\"",
+                                          "[<-<-b]\n",
+                                          "-7",
+                                          " ",
+                                          "B=\"i\",\"h\"\n",
+                                          "***K L = 0,\"W\",8,\"@X\"\n[x]\n",
+                                          "\r\n",
+                                          "\xB0",
+                                          "POP",
+                                          "[",
+                                          "MENU_TITLE = \"\"\n***A[a]\n***SWITCH\n***RESOURCE\n",
+                                          "***switch\n",
+                                          "\t",
+                                          "]"};
+    return kPieces[Below(std::size(kPieces))];
+  }
+  void Once(std::string& source) {
+    const size_t at = Below(source.size() + 1);
+    const size_t length = Below(40);
+    switch (Below(7)) {
+      case 0:
+        source.erase(at, 1 + length);
+        break;
+      case 1:
+        source.insert(at, Piece());
+        break;
+      case 2:
+        if (at < source.size()) source[at] = static_cast<char>(m_random());
+        break;
+      case 3:
+        source.insert(at, source.substr(Below(source.size() + 1), length));
+        break;
+      case 4:
+        source.resize(at);
+        break;
+      case 5:
+        source.insert(at, 1, "\0\"[]*/\n\\<-{}^&"[Below(14)]);
+        break;
+      default:
+        source.insert(at, std::string(190 + Below(20), 'x'));
+    }
+  }
+
+  std::mt19937 m_random;
+};
+
+void ExpectAgreement(const std::string& source) {
+  SourceText text(source);
+  const Findings findings = CheckSource(text);
+  ASSERT_EQ(findings.Errors() == 0, EngineTakes(source)) << source;
+  for (const Finding& finding : findings.InOrder()) {
+    ASSERT_LE(finding.end, text.Bytes().size()) << finding.text;
+    ASSERT_LE(finding.begin, finding.end) << finding.text;
+  }
+}
+
+TEST(CheckAgrees, TheProductMenusHaveNothingToReport) {
+  for (const auto& entry : fs::directory_iterator(ProductFolder()))
+    if (entry.path().extension() == ".qmn") {
+      EXPECT_EQ(CodesOf(ReadBytes(entry.path())), std::set<std::string>{}) << entry.path();
+    }
+}
+
+TEST(CheckAgrees, MutatedMenusHaveAnErrorExactlyWhereTheEngineRefusesThem) {
+  const std::vector<std::string> menus = Menus();
+  Mutator mutator(20240611);
+  int taken = 0;
+  for (int i = 0; i < 3000; ++i) {
+    const std::string source = mutator.Mutated(menus[mutator.Below(menus.size())]);
+    ASSERT_NO_FATAL_FAILURE(ExpectAgreement(source)) << i;
+    taken += EngineTakes(source);
+  }
+  // Both kinds must be there for the comparison to say anything.
+  EXPECT_GT(taken, 300);
+  EXPECT_LT(taken, 2700);
+}
+
+TEST(CheckAgrees, WordsOfTheLanguageInAnyOrderHaveAnErrorExactlyWhereTheEngineRefusesThem) {
+  Mutator mutator(7);
+  for (int i = 0; i < 10000; ++i) ASSERT_NO_FATAL_FAILURE(ExpectAgreement(mutator.Salad())) << i;
+}
+
+TEST(CheckAgrees, AnyBytesAreReadToTheirEnd) {
+  Mutator mutator(99);
+  for (int i = 0; i < 2000; ++i)
+    ASSERT_NO_FATAL_FAILURE(ExpectAgreement(mutator.Bytes(mutator.Below(600)))) << i;
+}
+
+// The lines that could be read must compile by themselves, whatever the file around them is.
+TEST(CheckAgrees, WhatWasReadOfABrokenFileStillCompiles) {
+  const std::vector<std::string> menus = Menus();
+  Mutator mutator(5);
+  for (int i = 0; i < 2000; ++i) {
+    SourceText text(i % 2 ? mutator.Salad() : mutator.Mutated(menus[mutator.Below(menus.size())]));
+    Findings findings;
+    const TokenList tokens = ReadTokens(text, findings);
+    const LintTree tree = LintParser(text, tokens, findings).Parse();
+    ASSERT_TRUE(ModelView(text, tree).IsWhole()) << text.Bytes();
+  }
+}
+
+bool HasArrow(const TMenuItem& item) {
+  const std::wstring_view label(item.m_strLabel.c_str());
+  return label.substr(0, 2) == L"->" || label.substr(0, 2) == L"<-";
+}
+
+bool AnyArrowIsLeft(const std::string& source) {
+  class Ignore : public SourceMessages {
+    void ReportSyntaxError(const wchar_t*, int) override {}
+  } ignore;
+  TMenuSystem system;
+  CompileSource(source, ignore, system);
+  for (TMenuBar* bar : system) {
+    MenuWalk walk(*bar);
+    while (const TMenuItem* item = walk.Next())
+      if (HasArrow(*item)) return true;
+  }
+  return false;
+}
+
+TEST(CheckAgrees, ArrowsAreReportedExactlyWhereTheEngineLeavesOneInALabel) {
+  Mutator mutator(31);
+  int left = 0;
+  for (int i = 0; i < 5000; ++i) {
+    std::string lines;
+    for (size_t count = 1 + mutator.Below(8); count > 0; --count)
+      lines += std::string("[") +
+               std::array{"x", "->x", "->y", "<-x", "<-<-x", "<-<-<-x"}[mutator.Below(6)] + "]\n";
+    const std::string source = Framed("lines", lines);
+    const std::set<std::string> codes = CodesOf(source);
+    const bool isLeft = AnyArrowIsLeft(source);
+    ASSERT_EQ(codes.count("QMN041") + codes.count("QMN042") > 0, isLeft) << lines;
+    left += isLeft;
+  }
+  EXPECT_GT(left, 100);
+  EXPECT_LT(left, 4900);
+}
+
+TEST(CheckAgrees, DeepAndLongFilesNeedNoStack) {
+  std::string lines;
+  for (int i = 0; i < 20000; ++i) lines += "[->x]\n";
+  EXPECT_EQ(CodesOf(Framed("lines", lines)), std::set<std::string>{"QMN041"});
+  lines += "[y]\n";
+  for (int i = 0; i < 20000; ++i) lines += "[<-x]\n";
+  EXPECT_EQ(CodesOf(Framed("lines", lines)), std::set<std::string>{});
+}
+
+}  // namespace

@@ -1,0 +1,83 @@
+// "->" and "<-" that do not match. The engine takes a range only where the depth comes back to
+// exactly zero, so that one wrong arrow keeps the lines around it from nesting too; only the wrong
+// ones are reported.
+#include "tools/qmn/check/line_rules.h"
+
+namespace {
+
+std::u32string_view Trim(std::u32string_view text) {
+  while (!text.empty() && (text.front() == U' ' || text.front() == U'\t')) text.remove_prefix(1);
+  return text;
+}
+
+class ArrowRules {
+ public:
+  void Check(const LineView& line) {
+    switch (ArrowOf(line.Label())) {
+      case Arrow::kOpening:
+        m_open.push_back(&line);
+        break;
+      case Arrow::kClosing:
+        Close(line, PairsOf(line.Label()));
+        break;
+      case Arrow::kNone:
+        break;
+    }
+  }
+
+  void End() {
+    for (const LineView* line : m_open)
+      line->AddInLabel(Rule::kArrowOpen, 0, 2,
+                       "the sub-menu opened here is never closed; the arrow stays in the label");
+  }
+
+ private:
+  void Close(const LineView& line, int pairs) {
+    const auto open = static_cast<int>(m_open.size());
+    if (pairs <= open) {
+      m_open.resize(m_open.size() - static_cast<size_t>(pairs));
+      return;
+    }
+    const std::string text = open == 0 ? "there is no open sub-menu to close"
+                                       : "this closes " + std::to_string(pairs) +
+                                             " sub-menus, but only " + std::to_string(open) +
+                                             (open == 1 ? " is open" : " are open");
+    line.AddInLabel(Rule::kArrowClose, 0, 2 * static_cast<size_t>(pairs),
+                    text + "; the arrow stays in the label");
+    // The openings around it are lost with it and are no faults of their own.
+    m_open.clear();
+  }
+
+  std::vector<const LineView*> m_open;
+};
+
+// An arrow that shows in the final label though the line does not begin with one, or that stands
+// behind the one that the line begins with.
+void CheckBehind(const LineView& line) {
+  const std::u32string_view label = line.Label();
+  const Arrow first = ArrowOf(label);
+  const size_t skip = first == Arrow::kNone      ? 0
+                      : first == Arrow::kOpening ? 2
+                                                 : 2 * static_cast<size_t>(PairsOf(label));
+  std::u32string_view rest = Trim(label.substr(skip));
+  while (!rest.empty() && rest.front() == U'{' && rest.find(U'}') != rest.npos)
+    rest = Trim(rest.substr(rest.find(U'}') + 1));
+  if (ArrowOf(rest) == Arrow::kNone) return;
+  const size_t at = label.size() - rest.size();
+  line.AddInLabel(Rule::kArrowBehind, at, at + 2,
+                  first == Arrow::kNone
+                      ? "an arrow counts only right behind the '['; this one stays in the label"
+                      : "a line begins with arrows of one kind only; this one stays in the label");
+}
+
+}  // namespace
+
+void CheckArrows(const CheckContext&, const std::vector<LineView>& lines) {
+  ArrowRules rules;
+  for (const LineView& line : lines) {
+    if (!line.HasBracket()) continue;
+    rules.Check(line);
+    CheckBehind(line);
+  }
+  rules.End();
+}

@@ -1,0 +1,28 @@
+// Every rule over one source.
+#pragma once
+
+#include "tools/qmn/check/findings.h"
+#include "tools/qmn/check/lint_tree.h"
+#include "tools/qmn/check/source_text.h"
+
+Findings CheckSource(SourceText& source);
+
+// What the rules of the parts work on.
+struct CheckContext {
+  SourceText& source;
+  const LintTree& tree;
+  Findings& findings;
+
+  std::string Text(const LintToken& token) const { return source.Shown(token.begin, token.end); }
+  void Add(Rule rule, const LintToken& token, std::string text) const {
+    findings.Add(rule, token.begin, token.end, std::move(text));
+  }
+};
+
+// The known names of blocks, which decide who looks for them.
+enum class BlockRole { kScreen, kToolBar, kNoSelection, kInPlace, kOther };
+BlockRole RoleOf(const CheckContext& context, const LintBlock& block);
+
+void CheckBlocks(const CheckContext& context);     // masks and names of blocks
+void CheckNames(const CheckContext& context);      // icons, switches and states
+void CheckMenuLines(const CheckContext& context);  // lines, sub-menus, labels, commands

@@ -1,0 +1,90 @@
+// What a command loses, and commands that nobody sends.
+#include <array>
+
+#include "tools/qmn/check/line_rules.h"
+
+namespace {
+
+constexpr int kFirstAction = 5001, kLastAction = 5024, kNoAction = 5017;
+
+// As the editor reads it: blanks, a sign, digits.
+int NumberOf(std::wstring_view text) {
+  size_t i = 0;
+  while (i < text.size() && (text[i] == L' ' || (text[i] >= 9 && text[i] <= 13))) ++i;
+  if (i < text.size() && text[i] == L'-') return 0;
+  if (i < text.size() && text[i] == L'+') ++i;
+  int number = 0;
+  for (; i < text.size() && text[i] >= L'0' && text[i] <= L'9'; ++i)
+    number = number > kLastAction ? number : number * 10 + (text[i] - L'0');
+  return number;
+}
+
+void CheckAction(const LineView& line) {
+  const int number = NumberOf(TextOf(line.Item().m_strCommand));
+  if (number >= kFirstAction && number <= kLastAction && number != kNoAction) return;
+  line.AddInCommand(Rule::kInPlaceNumber, 0, line.Command().size(),
+                    "this is no editing action: expected 5001 to 5016 or 5018 to 5024");
+}
+
+// A pair at a time, as the engine walks.
+void CheckCarets(const LineView& line) {
+  std::u32string_view command = line.Command();
+  if (command.back() == U';') command.remove_suffix(1);
+  for (size_t i = 0; i < command.size(); ++i) {
+    if (command[i] != U'^') continue;
+    if (i + 1 == command.size()) {
+      line.AddInCommand(Rule::kCaretPair, i, i + 1, "the '^' at the end vanishes");
+      return;
+    }
+    const char32_t next = command[i + 1];
+    if (next != U'C' && next != U'c')
+      line.AddInCommand(Rule::kCaretPair, i, i + 2,
+                        "the '^' vanishes together with the character behind it; only ^C means "
+                        "something");
+    ++i;
+  }
+}
+
+void CheckComment(const LineView& line) {
+  const std::u32string_view command = line.Command();
+  for (size_t i = 0; i + 1 < command.size(); ++i) {
+    if (command[i] != U'/' || (command[i + 1] != U'/' && command[i + 1] != U'*')) continue;
+    if (i > 0 && command[i - 1] != U' ' && command[i - 1] != U'\t' && command[i - 1] != U';')
+      continue;
+    line.AddInCommand(Rule::kCommandComment, i, command.size(),
+                      "a menu line has no comment; this is part of the command");
+    return;
+  }
+}
+
+void CheckUnused(const LineView& line) {
+  const TMenuItem& item = line.Item();
+  if (item.IsSeparator() && line.Source().icon && !item.m_pSubMenu)
+    line.AddIcon(Rule::kPartUnused, "a separator shows no icon");
+  if (line.Command().empty() || line.SendsCommand()) return;
+  const char* what = item.m_pSubMenu  ? "a line that opens a sub-menu"
+                     : item.m_pSwitch ? "a switch"
+                                      : "a separator";
+  line.AddInCommand(Rule::kPartUnused, 0, line.Command().size(),
+                    std::string(what) + " never sends its command");
+}
+
+}  // namespace
+
+void CheckCommand(const LineView& line) {
+  CheckUnused(line);
+  if (!line.SendsCommand()) return;
+  CheckComment(line);
+  if (line.IsInPlace()) return CheckAction(line);
+  CheckCarets(line);
+  const TWCString& sent = line.Item().m_strCommand;
+  if (line.IsPopUp() && !sent.IsEmpty() && sent.c_str()[0] == L'*')
+    line.AddInCommand(Rule::kCommandStar, 0, line.Command().size(),
+                      "in a pop-up this names a group of the screen menu and is not sent to the "
+                      "host; the Enter at its end keeps it from being found");
+  const size_t comma = line.Command().find(U',');
+  if (comma != LineView::kNone)
+    line.AddInCommand(Rule::kCommandComma, comma, comma + 1,
+                      "the list of recent commands is kept with commas between them; this command "
+                      "comes back in pieces");
+}

@@ -1,0 +1,92 @@
+// Condition prefixes: those that are dropped, and those that stay in the label.
+#include "tools/qmn/check/line_rules.h"
+
+namespace {
+
+std::u32string_view TrimFront(std::u32string_view text) {
+  while (!text.empty() && text.front() == U' ') text.remove_prefix(1);
+  return text;
+}
+
+std::u32string_view TrimBack(std::u32string_view text) {
+  while (!text.empty() && text.back() == U' ') text.remove_suffix(1);
+  return text;
+}
+
+bool IsOneWord(std::u32string_view text) { return text.find(U' ') == text.npos; }
+
+class ConditionWalk {
+ public:
+  ConditionWalk(const LineView& line, size_t skip) : m_line(line), m_label(line.Label()) {
+    m_rest = TrimFront(m_label.substr(skip));
+  }
+
+  void Run() {
+    while (!m_rest.empty() && m_rest.front() == U'{') {
+      const size_t close = m_rest.find(U'}');
+      if (close == m_rest.npos) break;
+      m_begin = m_label.size() - m_rest.size();
+      m_end = m_begin + close + 1;
+      Condition(m_rest.substr(1, close - 1));
+      m_rest = TrimFront(m_rest.substr(close + 1));
+    }
+  }
+
+ private:
+  void Condition(std::u32string_view text) {
+    const size_t equal = text.find(U'=');
+    if (equal == text.npos)
+      return Report("the prefix has no '=' and is dropped; expected {~=Function} or {!=Function}");
+    // The first word on the left counts, the others are not looked at.
+    const std::u32string_view left = TrimFront(text.substr(0, equal));
+    const std::u32string_view word = left.substr(0, left.find(U' '));
+    if (word != U"~" && word != U"!")
+      return Report("the prefix is dropped; expected '~' or '!' in front of '='");
+    const std::u32string_view name = TrimBack(TrimFront(text.substr(equal + 1)));
+    if (name.empty()) return Report("the prefix names no function");
+    if (!IsOneWord(TrimBack(left)) || !IsOneWord(name))
+      return Report("only the first word on each side of the '=' counts");
+    bool& seen = word == U"~" ? m_hasGray : m_hasCheck;
+    if (seen) Report("the prefix takes the place of the one before it of the same kind");
+    seen = true;
+  }
+
+  void Report(const char* text) {
+    m_line.AddInLabel(Rule::kConditionDropped, m_begin, m_end, text);
+  }
+
+  const LineView& m_line;
+  std::u32string_view m_label, m_rest;
+  size_t m_begin = 0, m_end = 0;
+  bool m_hasGray = false, m_hasCheck = false;
+};
+
+// Where a prefix shows in the label that came out.
+bool KeepsPrefix(const TMenuItem& item) {
+  std::wstring_view label = TextOf(item.m_strLabel);
+  if (label.find(L"{~=") != label.npos || label.find(L"{!=") != label.npos) return true;
+  while (!label.empty() && (label.front() == L' ' || label.front() == L'\t'))
+    label.remove_prefix(1);
+  return !label.empty() && label.front() == L'{';
+}
+
+const char* WhyKept(const LineView& line) {
+  if (line.Item().m_pSubMenu) return "a line that opens a sub-menu takes no condition";
+  if (line.Label().find(U'}') == LineView::kNone) return "the condition has no '}'";
+  return "a condition counts only at the very beginning of a label";
+}
+
+}  // namespace
+
+void CheckConditions(const LineView& line) {
+  const std::u32string_view label = line.Label();
+  const size_t open = label.find(U'{');
+  if (open == label.npos) return;
+  if (KeepsPrefix(line.Item()))
+    line.AddInLabel(Rule::kConditionKept, open, open + 1,
+                    std::string(WhyKept(line)) + "; it stays in the label");
+  if (line.Item().m_pSubMenu || line.Item().m_pSwitch) return;
+  const auto pairs = static_cast<size_t>(PairsOf(label));
+  if (TextOf(line.Item().m_strLabel).substr(0, 2) == L"<-" && pairs) return;
+  ConditionWalk(line, 2 * pairs).Run();
+}

@@ -1,0 +1,34 @@
+// What the rules found in one file. Any number may come in, in any order; the first ones by
+// position are kept and the others only counted, so that a file of garbage costs little memory.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tools/qmn/check/rules.h"
+
+struct Finding {
+  size_t begin = 0, end = 0;  // bytes of the source with its line ends folded
+  Rule rule = Rule::kSyntax;
+  std::string text;
+  int number = 0;  // in which order it came
+};
+
+class Findings {
+ public:
+  static constexpr size_t kMostKept = 1000;
+
+  explicit Findings(size_t most = kMostKept) : m_most(most) {}
+
+  void Add(Rule rule, size_t begin, size_t end, std::string text);
+  int Errors() const { return m_errors; }
+  int Warnings() const { return m_warnings; }
+  size_t Omitted() const;
+  std::vector<Finding> InOrder() const;  // by position, then as they came
+
+ private:
+  size_t m_most;
+  int m_errors = 0;
+  int m_warnings = 0;
+  std::vector<Finding> m_kept;  // a heap, the last by position in front
+};

@@ -1,0 +1,66 @@
+// The grammar of the menu language once more, this time to find every fault of a file: behind an
+// error it goes on with the next line, state, icon or section. What it takes without an error is
+// what the engine's parser takes; tests hold the two equal. Section words, title and order of the
+// file are in lint_parser.cpp, the entries of each section in lint_entries.cpp.
+#pragma once
+
+#include <string>
+
+#include "tools/qmn/check/lint_tree.h"
+
+class LintParser {
+ public:
+  LintParser(SourceText& source, const TokenList& list, Findings& findings)
+      : m_source(source), m_list(list), m_findings(findings) {}
+
+  LintTree Parse();
+
+ private:
+  enum class Phase { kBlocks, kSwitches, kResources };
+
+  void Title();
+  void Section();
+  void Finish();
+  void Order(const LintToken& word);
+  void Missing(const std::string& text);
+
+  void Block(const LintToken& prefix);
+  void NamelessBlock();
+  bool IsMisspelt(const LintToken& name, const char* word, int next) const;
+  void Misspelt(const LintToken& name, const char* word);
+  void Mask(LintBlock& block);
+  bool Group(LintBlock& block);
+  void Lines(LintBlock& block);
+  void LineOrError(LintBlock& block);
+  void SkipToLine();
+
+  void Switches();
+  void Switch();
+  bool SwitchHead(LintSwitch& owner);
+  void States(LintSwitch& owner);
+  bool State(LintSwitch& owner);
+  void SkipToState();
+
+  void Resources();
+  bool Resource();
+  void SkipToResource();
+
+  const LintToken& At(size_t ahead = 0) const;
+  bool Is(int kind) const { return At().kind == kind; }
+  bool IsSectionEnd() const { return Is(QMN_PREFIX) || Is(QMN_END); }
+  LintToken Take();
+  bool Expect(int kind, const char* what);
+  bool ExpectToken(int kind, const char* what, LintToken& out);
+  bool ExpectText(const char* what, LintToken& out);
+  void Unexpected(const std::string& what);
+  std::string Describe(const LintToken& token);
+  std::string TextOf(const LintToken& token);
+
+  SourceText& m_source;
+  const TokenList& m_list;
+  Findings& m_findings;
+  LintTree m_tree;
+  size_t m_at = 0;
+  Phase m_phase = Phase::kBlocks;
+  int m_unexpected = 0;  // errors so far, those told elsewhere included
+};

@@ -1,0 +1,43 @@
+// A menu source as it was written, faults and all, each part with its place. What could not be read
+// is left out.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "tools/qmn/check/lint_tokens.h"
+
+struct LintLine {
+  std::optional<LintToken> icon;
+  LintToken line;
+};
+
+struct LintGroup {
+  LintToken code, value;
+};
+
+struct LintBlock {
+  std::optional<LintToken> name;
+  std::vector<LintGroup> mask;
+  bool isMaskBroken = false;
+  std::vector<LintLine> lines;
+};
+
+struct LintState {
+  LintToken value, icon, label;
+};
+
+struct LintSwitch {
+  LintToken name;
+  std::vector<LintState> states;
+};
+
+struct LintResource {
+  LintToken name;
+};
+
+struct LintTree {
+  std::vector<LintBlock> blocks;
+  std::vector<LintSwitch> switches;
+  std::vector<LintResource> resources;
+};

@@ -1,0 +1,23 @@
+// Names as the engine compares them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "tools/qmn/check/lint_tokens.h"
+
+// Names are ASCII, so that folding needs no more.
+inline std::string FoldedName(std::string_view name) {
+  std::string folded(name);
+  for (char& c : folded)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+  return folded;
+}
+
+inline std::string NameOf(const SourceText& source, const LintToken& token) {
+  return source.Bytes().substr(token.begin, token.end - token.begin);
+}
+
+inline std::string FoldedName(const SourceText& source, const LintToken& token) {
+  return FoldedName(NameOf(source, token));
+}
