@@ -2,16 +2,18 @@
 // selection, which the module fills from the host and the command line tool from its arguments;
 // nothing here opens an object or reads a host variable.
 //
-// A selection of thousands of objects has few pairs of type and layer, so the description keeps
-// each pair once, and the masks, made ready once a menu, are held against the pairs. Objects are
-// looked at one by one only for groups other than these two.
+// A selection of thousands of objects has few types and few layers, and an object fits a mask when
+// its type fits and its layer does. So the description keeps each type and each layer once, and
+// each pattern of the masks, made ready once a menu, is held against them once a selection. Objects
+// are looked at one by one only for groups other than these two.
 #pragma once
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -30,14 +32,35 @@ enum class ObjectState : unsigned char {
 // What an object has for a group code; nothing when that is not known, which fits no mask.
 using GroupValue = std::variant<std::monostate, long long, double, std::wstring>;
 
+// Names that objects have, each once, in the order in which they were first seen.
+class SeenNames {
+ public:
+  struct Name {
+    std::wstring text;   // as given
+    std::wstring upper;  // for matching
+    size_t firstObject;
+    size_t hash;
+  };
+
+  // The index of the name, for the object with that index.
+  uint32_t IndexOf(std::wstring_view text, size_t object);
+  const std::vector<Name>& All() const { return m_names; }
+
+ private:
+  static constexpr uint32_t kNone = ~uint32_t{0};
+  static constexpr size_t kRecent = 1024;
+  uint32_t FindOrAdd(std::wstring_view text, size_t object);
+  void Grow();
+
+  std::vector<Name> m_names;
+  // The name that was seen last under a cheap hash, and all of them under a good one; the slots are
+  // a power of two and at most half full.
+  std::vector<uint32_t> m_recent = std::vector<uint32_t>(kRecent, kNone);
+  std::vector<uint32_t> m_slots;
+};
+
 class SelectionDescription {
  public:
-  struct Kind {
-    std::wstring type, layer;            // as given
-    std::wstring upperType, upperLayer;  // for matching
-    ObjectState state;
-    size_t firstObject;
-  };
   // Asked for groups other than type (0) and layer (8), while a block is matched.
   using GroupReader = std::function<GroupValue(size_t object, int code)>;
 
@@ -48,25 +71,35 @@ class SelectionDescription {
   // Counts only while nothing is selected.
   void SetPaperSpace(bool inPaperSpace) { m_inPaperSpace = inPaperSpace; }
 
-  size_t Count() const { return m_kindOf.size(); }
+  size_t Count() const { return m_objects.size(); }
   bool InPaperSpace() const { return m_inPaperSpace; }
-  const std::vector<Kind>& Kinds() const { return m_kinds; }
-  const Kind& KindOf(size_t object) const { return m_kinds[m_kindOf[object]]; }
+  const SeenNames& Types() const { return m_types; }
+  const SeenNames& Layers() const { return m_layers; }
+  const std::wstring& TypeOf(size_t object) const {
+    return m_types.All()[m_objects[object].type].text;
+  }
+  const std::wstring& LayerOf(size_t object) const {
+    return m_layers.All()[m_objects[object].layer].text;
+  }
+  // The first object that fits no block, whatever its mask; Count() without one.
+  size_t FirstMisfit() const { return m_misfit.object < Count() ? m_misfit.object : Count(); }
+  ObjectState StateOfMisfit() const { return m_misfit.state; }
   GroupValue Group(size_t object, int code) const {
     return m_reader ? m_reader(object, code) : GroupValue();
   }
 
  private:
-  static constexpr size_t kRecent = 64;
-  static constexpr uint32_t kNone = ~uint32_t{0};
-  bool Is(uint32_t kind, std::wstring_view type, std::wstring_view layer, ObjectState state) const;
-  uint32_t FindOrAdd(std::wstring_view type, std::wstring_view layer, ObjectState state);
+  struct Object {
+    uint32_t type, layer;
+  };
+  struct Misfit {
+    size_t object = ~size_t{0};
+    ObjectState state = ObjectState::kEntity;
+  };
 
-  std::vector<Kind> m_kinds;
-  std::vector<uint32_t> m_kindOf;
-  // The kind that was seen last under a cheap hash, and all of them under a good one.
-  std::vector<uint32_t> m_recent = std::vector<uint32_t>(kRecent, kNone);
-  std::unordered_multimap<size_t, uint32_t> m_index;
+  SeenNames m_types, m_layers;
+  std::vector<Object> m_objects;
+  Misfit m_misfit;
   GroupReader m_reader;
   bool m_inPaperSpace = false;
 };
@@ -101,21 +134,32 @@ class BlockMatcher {
                     const LayerResolver& layers) const;
 
  private:
+  // A value of type or layer, shared by all masks that have it.
+  struct Pattern {
+    int code;
+    std::wstring text;
+    WildCard wildCard;
+    bool isLayerKey;
+  };
   struct Group {
     const TGroups* source;
     int code;
-    short kind;  // RTSHORT, RTREAL, RTSTR, RTLONG or none
-    WildCard pattern{L""};
-    bool isLayerKey = false;
+    short kind;       // RTSHORT, RTREAL, RTSTR, RTLONG or none
+    size_t pattern;   // of a type or layer
+    WildCard others;  // of another text
   };
   using Mask = std::vector<Group>;
+  class Run;
 
-  static Group Ready(const TGroups& group);
+  Group Ready(const TGroups& group);
+  size_t PatternOf(int code, std::wstring_view text);
   static bool Fits(const Group& group, const GroupValue& value);
+  static size_t FirstMisfit(const Group& group, Run& run);
   static MatchResult MatchByName(const TMenuBar& bar, bool inPaperSpace);
-  static MatchResult MatchGroup(const Group& group, const SelectionDescription& selection,
-                                const LayerResolver& layers);
+  MatchResult Match(int block, Run& run) const;
 
   const TMenuSystem& m_system;
   std::vector<Mask> m_masks;
+  std::vector<Pattern> m_patterns;
+  std::map<std::pair<int, std::wstring>, size_t> m_patternIndex;
 };

@@ -1,6 +1,7 @@
 // The choice of a block by what is selected.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "devhost/core/selection.h"
@@ -238,7 +239,20 @@ TEST_F(ObjectMatch, ACodeWithoutAKindFitsNothing) {
   EXPECT_EQ(Find(), -1);
 }
 
-TEST(SelectionDescription, KeepsEachPairOnceAndWhereItWasSeenFirst) {
+TEST_F(ObjectMatch, MasksWithTheSameValueAskForItsLayerOnce) {
+  for (int i = 0; i < 5; ++i) AddBlock(L"A").AppendString(8, L"@K");
+  m_selection.Add(L"LINE", L"0");
+  int asked = 0;
+  EXPECT_EQ(Find([&](std::wstring_view, std::wstring& layer) {
+              ++asked;
+              layer = L"1";
+              return true;
+            }),
+            -1);
+  EXPECT_EQ(asked, 1);
+}
+
+TEST(SelectionDescription, KeepsEachNameOnceAndWhereItWasSeenFirst) {
   SelectionDescription selection;
   std::mt19937 random(4);
   std::vector<std::wstring> layers;
@@ -247,12 +261,50 @@ TEST(SelectionDescription, KeepsEachPairOnceAndWhereItWasSeenFirst) {
     selection.Add(i % 2 ? L"LINE" : L"ARC", layers.back());
   }
   EXPECT_EQ(selection.Count(), 3000u);
-  EXPECT_LE(selection.Kinds().size(), 400u);
+  EXPECT_EQ(selection.Types().All().size(), 2u);
+  EXPECT_EQ(selection.Layers().All().size(), 200u);
   for (size_t i = 0; i < layers.size(); ++i) {
-    EXPECT_EQ(selection.KindOf(i).layer, layers[i]);
-    EXPECT_EQ(selection.KindOf(i).type, i % 2 ? L"LINE" : L"ARC");
-    EXPECT_LE(selection.KindOf(i).firstObject, i);
+    EXPECT_EQ(selection.LayerOf(i), layers[i]);
+    EXPECT_EQ(selection.TypeOf(i), i % 2 ? L"LINE" : L"ARC");
   }
+  for (const SeenNames::Name& name : selection.Layers().All())
+    EXPECT_EQ(std::find(layers.begin(), layers.end(), name.text) - layers.begin(),
+              static_cast<long long>(name.firstObject));
+}
+
+// A plain reading of the rule, object by object, beside the one that looks at names.
+TEST(SelectionDescription, FindsWhatALookAtEachObjectFinds) {
+  std::mt19937 random(8);
+  const wchar_t* const patterns[] = {L"A*", L"*", L"~B", L"AB,B", L"@", L"B#", L"a"};
+  const wchar_t* const names[] = {L"A", L"AB", L"B", L"B1", L"a1"};
+  int found = 0;
+  for (int round = 0; round < 3000; ++round) {
+    TMenuSystem system;
+    for (unsigned n = 1 + random() % 6; n; --n) {
+      auto* bar = new TMenuBar;
+      for (unsigned groups = random() % 3; groups; --groups)
+        bar->m_objectMask.AppendString(random() % 2 ? 0 : 8, patterns[random() % 7]);
+      system.Append(bar);
+    }
+    SelectionDescription selection;
+    std::vector<std::pair<std::wstring, std::wstring>> objects;
+    for (unsigned n = 1 + random() % 4; n; --n) {
+      objects.emplace_back(names[random() % 5], names[random() % 5]);
+      selection.Add(objects.back().first, objects.back().second);
+    }
+    int wanted = -1;
+    for (int i = 0; i < system.Length() && wanted < 0; ++i) {
+      bool fits = !system.At(i)->m_objectMask.IsEmpty();
+      for (const TGroups* group = system.At(i)->m_objectMask.Head(); group; group = group->Next())
+        for (const auto& [type, layer] : objects)
+          fits =
+              fits && devhost::WildMatch(group->restype == 0 ? type : layer, group->resval.rstring);
+      if (fits) wanted = i;
+    }
+    ASSERT_EQ(BlockMatcher(system).Find(selection, NoLayers), wanted) << round;
+    found += wanted >= 0;
+  }
+  EXPECT_GE(found, 500);
 }
 
 }  // namespace

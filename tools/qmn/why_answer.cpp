@@ -119,12 +119,13 @@ std::string FieldName(int code) {
 // "layer 0 does not fit @WALL, which is layer 墙线"
 std::string GroupWords(const Walk& walk) {
   const TGroups& group = *walk.Result().group;
-  const SelectionDescription::Kind& kind = walk.Selection().KindOf(walk.Result().object);
+  const SelectionDescription& selection = walk.Selection();
+  const size_t object = walk.Result().object;
   const int code = CodeOf(group);
   const std::string value = ValueText(group);
   std::string words = FieldName(code) + " ";
-  if (code == kTypeCode) words += Utf8(kind.type) + " ";
-  if (code == kLayerCode) words += Utf8(kind.layer) + " ";
+  if (code == kTypeCode) words += Utf8(selection.TypeOf(object)) + " ";
+  if (code == kLayerCode) words += Utf8(selection.LayerOf(object)) + " ";
   words += "does not fit " + value;
   if (code != kLayerCode || !value.starts_with('@')) return words;
   std::wstring layer;
