@@ -3,6 +3,9 @@
 
 namespace {
 
+// The engine looks at no shorter label.
+constexpr size_t kShortestLabel = 3;
+
 std::u32string_view TrimFront(std::u32string_view text) {
   while (!text.empty() && text.front() == U' ') text.remove_prefix(1);
   return text;
@@ -70,8 +73,17 @@ bool KeepsPrefix(const TMenuItem& item) {
   return !label.empty() && label.front() == L'{';
 }
 
+// The label that came out is the end of the one that was written.
+size_t KeptAt(const LineView& line) {
+  const std::u32string_view label = TrimBack(line.Label());
+  const auto kept = static_cast<size_t>(line.Item().m_strLabel.Length());
+  const size_t open = label.find(U'{', label.size() > kept ? label.size() - kept : 0);
+  return open == label.npos ? line.Label().find(U'{') : open;
+}
+
 const char* WhyKept(const LineView& line) {
-  if (line.Item().m_pSubMenu) return "a line that opens a sub-menu takes no condition";
+  if (ArrowOf(line.Label()) == Arrow::kOpening)
+    return "a line that opens a sub-menu takes no condition";
   if (line.Label().find(U'}') == LineView::kNone) return "the condition has no '}'";
   return "a condition counts only at the very beginning of a label";
 }
@@ -80,13 +92,13 @@ const char* WhyKept(const LineView& line) {
 
 void CheckConditions(const LineView& line) {
   const std::u32string_view label = line.Label();
-  const size_t open = label.find(U'{');
-  if (open == label.npos) return;
+  if (label.find(U'{') == label.npos) return;
   if (KeepsPrefix(line.Item()))
-    line.AddInLabel(Rule::kConditionKept, open, open + 1,
+    line.AddInLabel(Rule::kConditionKept, KeptAt(line), KeptAt(line) + 1,
                     std::string(WhyKept(line)) + "; it stays in the label");
   if (line.Item().m_pSubMenu || line.Item().m_pSwitch) return;
   const auto pairs = static_cast<size_t>(PairsOf(label));
+  if (label.size() - 2 * pairs < kShortestLabel) return;
   if (TextOf(line.Item().m_strLabel).substr(0, 2) == L"<-" && pairs) return;
   ConditionWalk(line, 2 * pairs).Run();
 }

@@ -31,6 +31,8 @@ class TokenReader {
   }
 
  private:
+  static constexpr size_t kNone = std::string::npos;
+
   size_t Offset(const char* at) const { return static_cast<size_t>(at - m_base); }
 
   bool ReadOne() {
@@ -48,7 +50,7 @@ class TokenReader {
     if (token.kind == QMN_END) return End(token), false;
     if (token.kind == QMN_ERR_STRING) BrokenText(token);
     if (token.kind == QMN_ERR_MENU_ITEM) BrokenLine(token);
-    CheckToken({m_source, m_findings, m_bytes}, token, read.real);
+    CheckToken({m_source, m_findings, m_source.Bytes()}, token, read.real);
     m_list.tokens.push_back(token);
     return true;
   }
@@ -90,17 +92,25 @@ class TokenReader {
                           : "the file ends inside the text that begins here: expected '\"'");
   }
 
-  // A text that was meant to go on in the next line leaves an odd number of quotes there, the first
-  // of which was to end it.
   void TextOverLines(LintToken& token, size_t position) {
     token.end = position;
     m_findings.Add(Rule::kStringOpen, token.begin, token.end,
                    "the text that begins here does not end in its line: expected '\"'");
-    const size_t line = position + 1;
+    const size_t quote = QuoteOfNextLine(position + 1);
+    if (quote != kNone) SkipTo(quote + 1);
+  }
+
+  // A text that was meant to go on in the next line leaves an odd number of quotes there, the first
+  // of which was to end it: it stands behind no sign that a text follows.
+  size_t QuoteOfNextLine(size_t line) const {
+    if (line >= m_bytes.size()) return kNone;
     const size_t end = m_source.EndOfLineAt(line);
-    const auto from = m_bytes.begin() + static_cast<std::ptrdiff_t>(line);
-    const auto to = m_bytes.begin() + static_cast<std::ptrdiff_t>(std::max(line, end));
-    if (std::count(from, to, '"') % 2 == 1) SkipTo(Find('"', line, end) + 1);
+    const std::string_view text = std::string_view(m_bytes).substr(line, end - line);
+    if (std::count(text.begin(), text.end(), '"') % 2 == 0) return kNone;
+    const size_t quote = text.find('"');
+    const size_t before = text.substr(0, quote).find_last_not_of(" \t");
+    const bool isOpening = before != text.npos && (text[before] == ',' || text[before] == '=');
+    return isOpening ? kNone : line + quote;
   }
 
   // To the quote that was meant to end it, when it stands in the same line.

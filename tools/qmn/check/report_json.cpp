@@ -60,8 +60,7 @@ Json SarifResult(const FileReport& report, const ReportedFinding& finding) {
   const Json region{{"startLine", finding.begin.line},
                     {"startColumn", finding.begin.column},
                     {"endLine", finding.end.line},
-                    {"endColumn", finding.end.column},
-                    {"snippet", {{"text", finding.snippet.line}}}};
+                    {"endColumn", finding.end.column}};
   const Json location{{"physicalLocation",
                        {{"artifactLocation", {{"uri", UriOf(report.file)}}}, {"region", region}}}};
   return {{"ruleId", info.code},

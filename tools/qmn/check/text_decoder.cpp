@@ -56,6 +56,8 @@ TextChar TextDecoder::Pair(std::string_view pair) {
 TextChar TextDecoder::Single(char byte) {
   uint16_t& unit = m_singles[static_cast<unsigned char>(byte) - 0x80];
   if (!unit) unit = OneUnit({&byte, 1}, m_page);
+  // Some systems keep a byte that is no character in the private area.
+  if (unit >= 0xE000 && unit < 0xF900) unit = kReplacement;
   return {1, unit, unit != kReplacement};
 }
 

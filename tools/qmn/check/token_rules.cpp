@@ -60,7 +60,7 @@ void CheckBackslash(const GapContext& context, size_t at) {
 }
 
 void CheckCharacters(const GapContext& context, const LintToken& token) {
-  const std::string_view bytes(context.bytes.data(), token.end);
+  const std::string_view bytes(context.bytes);
   bool isReported = context.source.IsUtf8();
   bool isEscaped = false;
   for (size_t at = token.begin; at < token.end;) {
@@ -69,7 +69,7 @@ void CheckCharacters(const GapContext& context, const LintToken& token) {
       isReported = true;
       context.findings.Add(Rule::kUndecodable, at, at + 1,
                            "the byte " + HexOf(bytes[at]) +
-                               " is no character of the code page and shows as one that it lacks");
+                               " is no character of the code page and shows as a replacement");
     }
     if (token.IsText()) {
       if (next.size == 2) CheckDoubleByte(context, at);
