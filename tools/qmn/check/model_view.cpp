@@ -22,7 +22,7 @@ void PutBlock(const SourceText& source, const LintBlock& block, std::string& out
   out += "***B\n";
   for (const LintLine& line : block.lines) {
     if (line.icon) out.append(BytesOf(source, *line.icon)) += ' ';
-    out.append(BytesOf(source, line.line).substr(0, kLongestToken)) += '\n';
+    out.append(BytesOf(source, line.line)) += '\n';
   }
 }
 
