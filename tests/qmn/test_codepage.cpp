@@ -1,6 +1,8 @@
 // --codepage: sources and texts without marker in other pages than the field's.
+#include "menu/menu_model.h"
 #include "tests/qmn/qmn_testing.h"
 #include "tools/qmn/code_page.h"
+#include "tools/qmn/model_io.h"
 
 namespace {
 
@@ -87,6 +89,31 @@ TEST_F(QmnCodePage, TextsWithoutMarkerAreReadInThePageToo) {
               std::string::npos)
         << one.page;
   }
+}
+
+// What stands in front of the text in the file: values of each kind, and a sub-menu whose flag may
+// be any number but 0.
+TEST_F(QmnCodePage, TextsWithoutMarkerAreFoundBehindEveryKindOfField) {
+  TMenuSystem system;
+  auto* bar = new TMenuBar;
+  system.Append(bar);
+  bar->m_objectMask.AppendLong(90, 7);
+  bar->m_objectMask.AppendShort(62, 7);
+  bar->m_objectMask.AppendReal(40, 7);
+  bar->m_objectMask.AppendString(8, L"L");
+  auto* item = new TMenuItem(L"", L"m");
+  bar->Append(item);
+  item->m_pSubMenu = new TMenuBar;
+  item->m_pSubMenu->Append(new TMenuItem(L"", L""));
+  item->m_pSubMenu->At(0)->m_strLabel = L"z";
+  const std::string flag("m\0\1\0\0\0", 6), label("\xFF\xFE\xFF\1z\0", 6);
+  std::string bytes = SaveBytes(system), old = bytes;
+  ASSERT_NE(old.find(flag), std::string::npos);
+  ASSERT_NE(old.find(label), std::string::npos);
+  old[old.find(flag) + 2] = 2;
+  old.replace(old.find(label), label.size(), "\1\xDF");
+  bytes[bytes.find(label) + 4] = '\xDF';
+  EXPECT_EQ(Qmn({"load", "-", "-o", "-", "--codepage", "1252"}, old).out, bytes);
 }
 
 TEST_F(QmnCodePage, DamagedFilesAreTheSameDamageInAnyPage) {

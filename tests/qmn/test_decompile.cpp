@@ -253,6 +253,8 @@ TEST_F(QmnDecompile, MasksOfMoreThanTwoGroupsAndKindsWithoutValuesAreRefused) {
             "block WALL: mask group 90: a code of a kind that a source has no value for\n");
   EXPECT_EQ(Refused(mask([](TRBList& l) { l.AppendReal(40, -1.5); })),
             "block WALL: mask group 40: a source has no negative numbers and only numbers\n");
+  EXPECT_EQ(Refused(mask([](TRBList& l) { l.AppendReal(40, -0.0); })),
+            Refused(mask([](TRBList& l) { l.AppendReal(40, -1.5); })));
   EXPECT_EQ(Refused([](Model& m) { m.system.At(0)->m_strKind = L""; }),
             "block WALL: mask: stands in a source only behind a kind\n");
 }
@@ -306,7 +308,7 @@ TEST_F(QmnDecompile, ALineOfFullLengthIsWrittenTighter) {
   const std::string filler(190, 'x');
   for (const std::string& line :
        {"[d]\x1b\x1b\x1b" + filler + "xxx", "[->]" + filler + "xxxxx", "[->" + filler + "xxxx]y",
-        "[ ->\x1b" + filler + "xx]\x1b", "[a]" + filler + "xxxxx;"}) {
+        "[ ->\x1b" + filler + "xx]\x1b", "[a]" + filler + "xxxxx;", "[a]\x1b" + filler + "xxx;;"}) {
     ASSERT_EQ(line.size(), 199u);
     const std::string source = "MENU_TITLE = \"T\"\n***B\n" + line + "\n***SWITCH\n***RESOURCE\n";
     const std::string bytes = Qmn({"compile", "-"}, source).out;

@@ -85,6 +85,11 @@ TEST_F(QmnFmt, ACommentBehindABlankLineBelongsToWhatFollows) {
   EXPECT_EQ(Formatted(source), source);
 }
 
+TEST_F(QmnFmt, OfSeveralBlankLinesOneStaysAlsoBetweenComments) {
+  EXPECT_EQ(Formatted(Block("[a]\n// one \t\n\n\n// two\n[b]\n\n\n\n[c]\n")),
+            Block("[a]\n// one\n\n// two\n[b]\n\n[c]\n"));
+}
+
 TEST_F(QmnFmt, WhatStandsInAMenuLineStays) {
   const std::string lines = "[a  b] ^C^C x ; y\n[no bracket // no comment\n[\xC7\xBD]\"x;\n";
   EXPECT_EQ(Formatted(Block(lines)), Block(lines));
