@@ -120,6 +120,14 @@ TEST(ClassAlone, WithoutASystemASwitchIsWrittenAsNoneAndNoIndexIsGood) {
   EXPECT_EQ(back.m_pSwitch, nullptr);
 }
 
+TEST(ClassAlone, AnEmptyTextTakesThePlaceOfTheOneThatWasThere) {
+  TMenuItem line(L"l", L"c", L"i"), empty;
+  line.m_strCheckFn = L"f";
+  EXPECT_EQ(Read(line, Written(empty)), "");
+  EXPECT_TRUE(line.m_strLabel.IsEmpty() && line.m_strCommand.IsEmpty());
+  EXPECT_TRUE(line.m_strCheckFn.IsEmpty() && line.m_strIconName.IsEmpty());
+}
+
 TEST(ClassAlone, ASubMenuThatBelongsToOthersIsLetGoByAReadAndLives) {
   TMenuBar foreign;
   foreign.m_bOwned = 0;
@@ -165,6 +173,23 @@ TEST(MenuClasses, ABarThatOwnsNoLinesLeavesThemAndTheirSubMenus) {
   EXPECT_EQ(line.m_pSubMenu->Length(), 1);
 }
 
+TEST(MenuClasses, AResourceIsFoundAtTheVeryFrontToo) {
+  TMenuSystem system;
+  system.m_resources.Append(new TMenuResItem(L"first", L"", L""));
+  system.m_resources.Append(new TMenuResItem(L"second", L"", L""));
+  EXPECT_EQ(system.FindResource(L"first"), 0);
+  EXPECT_EQ(system.FindResource(L"second"), 1);
+  EXPECT_EQ(system.FindResource(L"First"), -1);
+}
+
+TEST(MenuClasses, AToolBarBlockAtTheVeryFrontIsFoundToo) {
+  TMenuSystem system;
+  system.Append(new TMenuBar);
+  EXPECT_EQ(PrepareToolBar(system), nullptr);
+  system.At(0)->m_strName = L"TOOLBAR";
+  EXPECT_EQ(PrepareToolBar(system), system.At(0));
+}
+
 // ---- names without regard to case
 
 struct NamePair {
@@ -190,6 +215,23 @@ TEST(NamesWithoutCase, LettersOfTheCodePagesFoldAndSignsBetweenThemDoNot) {
     EXPECT_EQ(system.FindBarIndexNoCase(pair.lower), pair.equal ? 0 : -1) << Utf8(pair.upper);
     system.At(0)->m_strName = pair.lower;
     EXPECT_EQ(system.FindBarIndexNoCase(pair.upper), pair.equal ? 0 : -1) << Utf8(pair.upper);
+  }
+}
+
+TEST(NamesWithoutCase, NamesOfAnyLengthAreToldApartByTheirLastLetter) {
+  for (size_t length : {1, 2, 3, 4, 7, 8, 9, 15, 16, 17, 31, 32, 33, 64, 199}) {
+    const std::string start(length - 1, 'n');
+    Compiled compiled;
+    Compile("MENU_TITLE=\"t\"***A " + start + "C [a]\n " + start + "b [b]\n " + start + "A [c]\n " +
+                start + "d [d]\n***SWITCH***RESOURCE " + start + "a=\"\",\"\" " + start +
+                "B=\"\",\"\" " + start + "c=\"\",\"\" " + start + "C=\"\",\"\"",
+            compiled);
+    ASSERT_EQ(compiled.result, 0) << length;
+    const TMenuBar& bar = *compiled.system.At(0);
+    EXPECT_EQ(bar.At(0)->m_nIconIndex, 2) << length;  // the first of two
+    EXPECT_EQ(bar.At(1)->m_nIconIndex, 1) << length;
+    EXPECT_EQ(bar.At(2)->m_nIconIndex, 0) << length;
+    EXPECT_EQ(bar.At(3)->m_nIconIndex, -1) << length;
   }
 }
 
