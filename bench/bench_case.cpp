@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <utility>
 #include <sstream>
 #include <system_error>
 
@@ -110,10 +111,10 @@ std::string BenchFile(const std::string& name) {
   return folder + "/" + name;
 }
 
-std::unique_ptr<TMenuSystem> CompileWithEngine(const std::string& source) {
+std::unique_ptr<TMenuSystem> CompileWithEngine(std::string source) {
   NoMessages messages;
   auto system = std::make_unique<TMenuSystem>();
-  if (MenuCompiler(source, messages, nullptr, OpenComment::kStop).Compile(*system) != 0)
+  if (MenuCompiler(std::move(source), messages, nullptr, OpenComment::kStop).Compile(*system) != 0)
     FailLoudly("the engine refuses a source");
   return system;
 }
@@ -128,7 +129,8 @@ const BenchCase& CaseOf(int lines) {
   made.compiledBytes = CheckedBytes(made.source, made.compiledPath).size();
   std::ostringstream json;
   DumpJson(*CompileWithEngine(made.source), json);
-  made.json = WithoutIndent(json.str());
+  made.json = json.str();
+  made.tightJson = WithoutIndent(made.json);
   return made;
 }
 

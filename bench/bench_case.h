@@ -1,4 +1,5 @@
-// The inputs of one size, made once a run: source, canonical JSON without indentation, compiled
+// The inputs of one size, made once a run: source, canonical JSON with and without white space,
+// compiled
 // file on disk. Engine and peer have been held to equal bytes before anybody gets one.
 #pragma once
 
@@ -12,7 +13,8 @@
 struct BenchCase {
   int lines = 0;
   std::string source;
-  std::string json;
+  std::string json;       // as qmn dump prints it
+  std::string tightJson;  // the same without white space
   std::string compiledPath;
   size_t compiledBytes = 0;
 };
@@ -29,7 +31,7 @@ class NoMessages : public SourceMessages, public MenuBoxes {
   void ShowMessage(const wchar_t* text) override;
 };
 
-std::unique_ptr<TMenuSystem> CompileWithEngine(const std::string& source);
+std::unique_ptr<TMenuSystem> CompileWithEngine(std::string source);
 std::wstring WidePath(const std::string& path);
 std::string BenchFile(const std::string& name);  // in a folder that goes with this process
 [[noreturn]] void FailLoudly(const std::string& text);

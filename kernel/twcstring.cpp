@@ -8,15 +8,11 @@
 #include <limits>
 #include <new>
 
-#include "kernel/packed_memory.h"
-
 namespace {
 constexpr std::size_t kHeapHead = 2 * sizeof(int);
 constexpr std::size_t kKeptHead = sizeof(int);
 constexpr int kLargest =
     (std::numeric_limits<int>::max() - 64) / static_cast<int>(sizeof(wchar_t)) - 1;
-constexpr int kLongestKept =
-    static_cast<int>((PackedMemory::kLargest - kKeptHead) / sizeof(wchar_t)) - 1;
 
 std::size_t BytesOf(int units) { return sizeof(wchar_t) * static_cast<std::size_t>(units); }
 
@@ -36,11 +32,6 @@ void TWCString::Release() noexcept {
   m_bits = 0;
 }
 
-void TWCString::SetLength(int length) noexcept {
-  Head()[kLength] = length;
-  Text()[length] = 0;
-}
-
 void TWCString::Copy(const TWCString& other) {
   if (!other.IsKept()) return Assign(other.c_str(), other.Length());
   PackedMemory::Share(other.Text());
@@ -50,20 +41,18 @@ void TWCString::Copy(const TWCString& other) {
 
 void TWCString::Keep(const wchar_t* text, int count) {
   if (count <= 0 || !text) return Empty();
+  if (!m_bits) {
+    std::memcpy(KeepRoom(count), text, BytesOf(count));
+    return;
+  }
   TWCString kept;  // for its own part: the source may lie inside the old text
   std::memcpy(kept.KeepRoom(count), text, BytesOf(count));
   std::swap(m_bits, kept.m_bits);
 }
 
-wchar_t* TWCString::KeepRoom(int count) {
-  if (count > kLongestKept) {
-    Reserve(count);
-    SetLength(count);
-    return Text();
-  }
-  int* head = static_cast<int*>(PackedMemory::Take(kKeptHead + BytesOf(count + 1))) + 1;
-  if (m_bits) Release();
-  m_bits = reinterpret_cast<std::uintptr_t>(head) | kKept;
+// Too long for packed memory: on the heap like any other text.
+wchar_t* TWCString::LongRoom(int count) {
+  Reserve(count);
   SetLength(count);
   return Text();
 }

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "kernel/kernel_export.h"
+#include "kernel/packed_memory.h"
 
 class QVX_KERNEL TWCString {
  public:
@@ -73,7 +74,15 @@ class QVX_KERNEL TWCString {
   // copies of the string share it. A change later on moves it out first. Main thread only.
   void Keep(const wchar_t* text, int count);
   // The same for `count` units that the caller writes at once; at least one.
-  wchar_t* KeepRoom(int count);
+  wchar_t* KeepRoom(int count) {
+    if (count > kLongestKept) return LongRoom(count);
+    const std::size_t bytes = sizeof(int) + sizeof(wchar_t) * (static_cast<std::size_t>(count) + 1);
+    int* head = static_cast<int*>(PackedMemory::Take(bytes)) + 1;
+    if (m_bits) Release();
+    m_bits = reinterpret_cast<std::uintptr_t>(head) | kKept;
+    SetLength(count);
+    return Text();
+  }
   void Append(const wchar_t* text, int count);
   void Reserve(int capacity) {
     if (capacity > Capacity()) Grow(capacity);
@@ -108,6 +117,8 @@ class QVX_KERNEL TWCString {
   static constexpr std::uintptr_t kKept = 1;
   static constexpr int kLength = -1;
   static constexpr int kCapacity = -2;
+  static constexpr int kLongestKept =
+      static_cast<int>((PackedMemory::kLargest - sizeof(int)) / sizeof(wchar_t)) - 1;
 
   bool IsKept() const noexcept { return m_bits & kKept; }
   wchar_t* Text() const noexcept { return reinterpret_cast<wchar_t*>(m_bits & ~kKept); }
@@ -117,7 +128,11 @@ class QVX_KERNEL TWCString {
   void Copy(const TWCString& other);
   void Release() noexcept;
   void Grow(int atLeast);  // throws std::bad_alloc
-  void SetLength(int length) noexcept;
+  void SetLength(int length) noexcept {
+    Head()[kLength] = length;
+    Text()[length] = 0;
+  }
+  wchar_t* LongRoom(int count);
 
   std::uintptr_t m_bits =
       0;  // where the text begins; bit 0 marks a kept one; 0 until the first write

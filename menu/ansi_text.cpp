@@ -1,30 +1,17 @@
 #include "menu/ansi_text.h"
 
-#include <cstring>
+#include "menu/byte_search.h"
 
 namespace {
 
 constexpr uint16_t kNoCharacter = 0xFFFD;
 constexpr size_t kPairs = 0x8000;
-constexpr uint64_t kHighBits = 0x8080808080808080u;
-
 unsigned Byte(char c) { return static_cast<unsigned char>(c); }
 
 // Those of the system's page outlive a run: no page changes while a program runs.
 std::vector<uint16_t>& PairsOfTheSystem() {
   static std::vector<uint16_t> pairs;
   return pairs;
-}
-
-// Widens ASCII eight at a time; stops at the first eight that hold anything else.
-const char* WidenEights(const char* p, const char* end, wchar_t*& out) {
-  for (; end - p >= 8; p += 8, out += 8) {
-    uint64_t eight;
-    std::memcpy(&eight, p, 8);
-    if (eight & kHighBits) break;
-    for (int i = 0; i < 8; ++i) out[i] = static_cast<wchar_t>(p[i]);
-  }
-  return p;
 }
 
 }  // namespace
@@ -34,24 +21,47 @@ AnsiText::AnsiText(NarrowDecoder* decoder)
   m_pairs.resize(kPairs);
 }
 
+// False when the two bytes are not one character.
+inline bool AnsiText::TakePair(const char*& p, const char* end, wchar_t*& out) {
+  if (end - p < 2) return false;
+  uint16_t& place = m_pairs[(Byte(p[0]) - 0x80) << 8 | Byte(p[1])];
+  const uint16_t unit = place ? place : Remember(p, place);
+  if (unit == kNoCharacter) return false;
+  *out++ = static_cast<wchar_t>(unit);
+  p += 2;
+  return true;
+}
+
 const wchar_t* AnsiText::DecodeQuickly(std::string_view narrow) {
-  const char* end = narrow.data() + narrow.size();
+  const char* p = narrow.data();
+  const char* end = p + narrow.size();
   wchar_t* out = m_units;
-  const char* p = WidenEights(narrow.data(), end, out);
-  uint16_t* pairs = m_pairs.data();
   while (p < end) {
-    const unsigned first = Byte(*p++);
-    if (first < 0x80) {
-      *out++ = static_cast<wchar_t>(first);
-      continue;
+    if (end - p >= 8 && !(bytes::EightAt(p) & bytes::kHighBits)) {
+      out = bytes::WidenAscii(p, p + 8, out);
+      p += 8;
+    } else if (!(*p & 0x80)) {
+      *out++ = static_cast<wchar_t>(*p++);
+    } else if (!TakePair(p, end, out)) {
+      return nullptr;
     }
-    if (p == end) return nullptr;
-    uint16_t& place = pairs[(first - 0x80) << 8 | Byte(*p++)];
-    const uint16_t unit = place ? place : Remember(p - 2, place);
-    if (unit == kNoCharacter) return nullptr;
-    *out++ = static_cast<wchar_t>(unit);
   }
   return out;
+}
+
+const char* AnsiText::DecodeUntil(char stop, std::string_view narrow, std::wstring_view& units) {
+  if (narrow.size() > kLongestToken) return nullptr;
+  const char* p = narrow.data();
+  const char* end = p + narrow.size();
+  wchar_t* out = m_units;
+  while (p < end && *p != stop) {
+    if (!(*p & 0x80))
+      *out++ = static_cast<wchar_t>(*p++);
+    else if (!TakePair(p, end, out))
+      return nullptr;
+  }
+  units = {m_units, static_cast<size_t>(out - m_units)};
+  return p < end ? p : nullptr;
 }
 
 std::wstring_view AnsiText::DecodeWhole(std::string_view narrow) {

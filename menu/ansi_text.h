@@ -30,6 +30,9 @@ class AnsiText {
         return {m_units, static_cast<size_t>(end - m_units)};
     return DecodeWhole(narrow);
   }
+  // What stands in front of the first `stop`, an ASCII character, and the place of that one. Null
+  // when there is none or when the text has to be decoded as a whole.
+  const char* DecodeUntil(char stop, std::string_view narrow, std::wstring_view& units);
   // Texts of the menu model, which stay as they are.
   void Keep(std::string_view narrow, TWCString& out) {
     const std::wstring_view wide = Decode(narrow);
@@ -39,6 +42,7 @@ class AnsiText {
  private:
   // Behind the last unit; null when the text has to be converted as a whole.
   const wchar_t* DecodeQuickly(std::string_view narrow);
+  bool TakePair(const char*& p, const char* end, wchar_t*& out);
   std::wstring_view DecodeWhole(std::string_view narrow);
   void Convert(std::string_view narrow, TWCString& out);
   uint16_t Remember(const char* pair, uint16_t& place);

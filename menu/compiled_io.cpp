@@ -38,7 +38,15 @@ void Widen(const unsigned char* bytes, size_t length, wchar_t* out) {
     std::memcpy(units, bytes, sizeof units);
     for (int i = 0; i < 8; ++i) out[i] = static_cast<wchar_t>(units[i]);
   }
-  for (; length; --length, bytes += 2) *out++ = static_cast<wchar_t>(bytes[0] | bytes[1] << 8);
+  if (length & 4) {
+    uint16_t units[4];
+    std::memcpy(units, bytes, sizeof units);
+    for (int i = 0; i < 4; ++i) out[i] = static_cast<wchar_t>(units[i]);
+    bytes += 8;
+    out += 4;
+  }
+  for (length &= 3; length; --length, bytes += 2)
+    *out++ = static_cast<wchar_t>(bytes[0] | bytes[1] << 8);
 }
 
 }  // namespace
@@ -133,10 +141,10 @@ bool CompiledReader::GetQuickly(TWCString& out) {
   if ((head & 0xFFFFFF) != kShortHead || length == kMedium) return false;
   const unsigned char* text = m_at + 4;
   m_at = text + 2 * size_t{length};
-  if (length == 0)
-    out.Empty();
-  else
+  if (length)
     Widen(text, length, out.KeepRoom(static_cast<int>(length)));
+  else if (!out.IsEmpty())
+    out.Empty();
   return true;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -26,6 +27,10 @@ class CompiledWriter {
   void PutU32(uint32_t value) { LayDown(Room(sizeof value), value); }
   void PutI32(int32_t value) { PutU32(static_cast<uint32_t>(value)); }
   void PutReal(double value);
+  template <size_t kSize>
+  void PutBytes(const unsigned char (&bytes)[kSize]) {
+    std::memcpy(Room(kSize), bytes, kSize);
+  }
   void PutString(const TWCString& text) { PutString(text.c_str(), text.Length()); }
   void PutString(const wchar_t* text, int length);
   void PutSwitch(const TMenuSwitchItem* item);
@@ -69,6 +74,14 @@ class CompiledReader {
     if (m_end - m_at < kQuick || !GetQuickly(out)) GetAnyString(out);
   }
   TMenuSwitchItem* GetSwitch();
+  // Whether these bytes come next; they are taken then. May say no near the end of what was read.
+  template <size_t kSize>
+  bool Skip(const unsigned char (&bytes)[kSize]) {
+    if (static_cast<size_t>(m_end - m_at) < kSize || std::memcmp(m_at, bytes, kSize) != 0)
+      return false;
+    m_at += kSize;
+    return true;
+  }
 
   // For how many of `claimed` elements of at least `smallest` bytes room may be made at once. All
   // the room that is made for the elements of one file is no more than the file can hold.

@@ -11,6 +11,10 @@ namespace {
 
 constexpr int kSmallestItem = 21;  // two strings, two numbers, three more strings, two numbers
 
+// Switch, flags and the two functions of nearly every line.
+constexpr unsigned char kPlainTail[] = {0xFF, 0xFF, 0xFF, 0xFF, 0,    0,    0,    0,
+                                        0xFF, 0xFE, 0xFF, 0,    0xFF, 0xFE, 0xFF, 0};
+
 void WriteGroup(CompiledWriter& out, const TGroups& group) {
   const auto code = static_cast<uint16_t>(group.restype);
   out.PutU16(code);
@@ -90,10 +94,15 @@ void WriteItemHead(CompiledWriter& out, TMenuItem& item) {
 }
 
 void WriteItemTail(CompiledWriter& out, TMenuItem& item) {
-  out.PutSwitch(item.m_pSwitch);
-  out.PutU32(item.m_nFlags);
-  out.PutString(item.m_strCheckFn);
-  out.PutString(item.m_strGrayFn);
+  if (!item.m_pSwitch && !item.m_nFlags && item.m_strCheckFn.IsEmpty() &&
+      item.m_strGrayFn.IsEmpty()) {
+    out.PutBytes(kPlainTail);
+  } else {
+    out.PutSwitch(item.m_pSwitch);
+    out.PutU32(item.m_nFlags);
+    out.PutString(item.m_strCheckFn);
+    out.PutString(item.m_strGrayFn);
+  }
   out.PutString(item.m_strIconName);
   out.PutI32(item.m_nIconIndex);
 }
@@ -119,6 +128,11 @@ bool ReadItemHead(CompiledReader& in, TMenuItem& item) {
 }
 
 void ReadItemTail(CompiledReader& in, TMenuItem& item) {
+  if (in.Skip(kPlainTail)) {
+    in.GetString(item.m_strIconName);
+    item.m_nIconIndex = in.GetI32();
+    return;
+  }
   item.m_pSwitch = in.GetSwitch();
   item.m_nFlags = in.GetU32();
   in.GetString(item.m_strCheckFn);

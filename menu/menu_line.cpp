@@ -1,15 +1,20 @@
 #include "menu/menu_line.h"
 
+#include <algorithm>
+
+#include "menu/ansi_text.h"
+#include "menu/byte_search.h"
 #include "menu/menu_item.h"
 
 namespace {
 
 constexpr size_t kLongestLabel = 255;
 constexpr size_t kLongestCommand = 2047;
-constexpr wchar_t kEscape = 27;
+constexpr char kEscape = 27;
 
-std::wstring_view TrimEnd(std::wstring_view text) {
-  while (!text.empty() && (text.back() == L' ' || text.back() == L'\t')) text.remove_suffix(1);
+template <class Unit>
+std::basic_string_view<Unit> TrimEnd(std::basic_string_view<Unit> text) {
+  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
   return text;
 }
 
@@ -34,6 +39,47 @@ wchar_t* ExpandCommand(std::wstring_view text, wchar_t* out) {
   return out;
 }
 
+// The same for a command in ASCII, the plain stretches of it at once.
+char* ExpandCommand(std::string_view text, char* out) {
+  const char* p = text.data();
+  const char* end = p + text.size();
+  bool quoted = false;
+  for (;;) {
+    const char* special = bytes::FindAny<'"', ';', '^'>(p, end);
+    out = std::copy(p, special, out);
+    if (special == end) break;
+    p = special + 1;
+    if (*special == '"') quoted = !quoted;
+    if (*special != '^') {
+      *out++ = *special == ';' && !quoted ? '\n' : *special;
+      continue;
+    }
+    if (p == end) break;
+    if (*p == '"') quoted = !quoted;
+    if (*p == 'C' || *p == 'c') *out++ = kEscape;
+    ++p;
+  }
+  *out++ = '\n';
+  return out;
+}
+
+// False when the line is not of the usual kind: a label of whole characters, a command in ASCII.
+bool ParseUsualLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {
+  std::wstring_view label;
+  const char* close = ansi.DecodeUntil(']', narrow.substr(1), label);
+  const char* end = narrow.data() + narrow.size();
+  if (!close || !bytes::IsAscii(close, end)) return false;
+  item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
+
+  std::string_view command = TrimEnd(std::string_view(close + 1, end));
+  if (command.empty()) return true;
+  if (command.back() == ';') command.remove_suffix(1);
+  char expanded[kLongestToken + 1];
+  end = ExpandCommand(command, expanded);
+  bytes::WidenAscii(expanded, end, item.m_strCommand.KeepRoom(static_cast<int>(end - expanded)));
+  return true;
+}
+
 }  // namespace
 
 void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
@@ -52,4 +98,8 @@ void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
   wchar_t expanded[kLongestCommand + 1];
   const wchar_t* end = ExpandCommand(command, expanded);
   item.m_strCommand.Keep(expanded, static_cast<int>(end - expanded));
+}
+
+void ParseMenuLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {
+  if (!ParseUsualLine(narrow, ansi, item)) ParseMenuLine(ansi.Decode(narrow), item);
 }

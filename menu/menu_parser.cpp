@@ -186,7 +186,7 @@ bool MenuParser::MenuItem() {
   if (!m_hasPendingIcon && Is(QMN_IDENTIFIER)) ExpectPendingIcon();
   if (!Check(QMN_MENU_ITEM)) return false;
   TMenuItem& item = AppendNew(m_lines);
-  ParseMenuLine(m_ansi.Decode(m_token.text), item);
+  ParseMenuLine(m_token.text, m_ansi, item);
   const bool hasIcon = std::exchange(m_hasPendingIcon, false);
   NoteLine(item, hasIcon ? m_work.names.Add(m_pendingIcon) : PassWork::kNoName);
   Advance();

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
-#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+
+#include "menu/byte_search.h"
 
 namespace {
 
@@ -53,21 +53,24 @@ CharClass ClassOf(char c) { return kClasses[static_cast<unsigned char>(c)]; }
 bool IsDigit(char c) { return ClassOf(c) == kDigit; }
 bool IsWord(char c) { return ClassOf(c) == kLetter || ClassOf(c) == kDigit; }
 
-struct Keyword {
-  std::string_view word;
-  int kind;
-};
-constexpr Keyword kKeywords[] = {
-    {"POP", QMN_POP},           {"RCLICK", QMN_RCLICK},      {"CTRL", QMN_CTRL},
-    {"RESOURCE", QMN_MENU_RES}, {"SWITCH", QMN_MENU_SWITCH}, {"GET", QMN_GET_STATE},
-    {"SET", QMN_SET_STATE},     {"MENU_TITLE", QMN_TITLE},
-};
-
 int KindOfWord(std::string_view word) {
-  if (word.size() < 3 || word.size() > 10) return QMN_IDENTIFIER;
-  for (const Keyword& keyword : kKeywords)
-    if (keyword.word == word) return keyword.kind;
-  return QMN_IDENTIFIER;
+  switch (word.size()) {
+    case 3:
+      return word == "GET"   ? QMN_GET_STATE
+             : word == "SET" ? QMN_SET_STATE
+             : word == "POP" ? QMN_POP
+                             : QMN_IDENTIFIER;
+    case 4:
+      return word == "CTRL" ? QMN_CTRL : QMN_IDENTIFIER;
+    case 6:
+      return word == "SWITCH" ? QMN_MENU_SWITCH : word == "RCLICK" ? QMN_RCLICK : QMN_IDENTIFIER;
+    case 8:
+      return word == "RESOURCE" ? QMN_MENU_RES : QMN_IDENTIFIER;
+    case 10:
+      return word == "MENU_TITLE" ? QMN_TITLE : QMN_IDENTIFIER;
+    default:
+      return QMN_IDENTIFIER;
+  }
 }
 
 int SaturatedNumber(const char* begin, const char* end) {
@@ -83,28 +86,6 @@ double RealOf(const char* begin, const char* end) {
   if (std::from_chars(begin, end, value).ec == std::errc::result_out_of_range)
     value = std::strtod(std::string(begin, end).c_str(), nullptr);  // infinite, or next to zero
   return value;
-}
-
-constexpr uint64_t kOnes = 0x0101010101010101u;
-constexpr uint64_t kHighBits = 0x8080808080808080u;
-static_assert(std::endian::native == std::endian::little);
-
-// The high bit of each byte that is `c`, and perhaps of bytes above the lowest one that is.
-constexpr uint64_t Marks(uint64_t eight, char c) {
-  const uint64_t zero = eight ^ kOnes * static_cast<unsigned char>(c);
-  return (zero - kOnes) & ~zero & kHighBits;
-}
-
-// The first byte that is one of the stops; `end` when there is none. Eight at a time.
-template <char... kStops>
-const char* FindAny(const char* p, const char* end) {
-  for (; end - p >= 8; p += 8) {
-    uint64_t eight;
-    std::memcpy(&eight, p, 8);
-    if (const uint64_t marks = (Marks(eight, kStops) | ...)) return p + std::countr_zero(marks) / 8;
-  }
-  while (p < end && ((*p != kStops) && ...)) ++p;
-  return p;
 }
 
 // Reads on behind the end of the file, where every character is 0. The language has no way out.
@@ -265,7 +246,7 @@ int MenuScanner::String(MenuToken& token) {
   const char* last = m_end - begin < kLongestToken ? m_end : begin + kLongestToken - 1;
   const char* p = begin;
   for (;; ++p) {
-    p = FindAny<'"', '\\', '\n', '\0'>(p, last);
+    p = bytes::FindAny<'"', '\\', '\n', '\0'>(p, last);
     const char* kept = p;
     if (p < last && *p == '\\') ++p;
     if (p == m_end || *p == 0) {
@@ -295,7 +276,7 @@ int MenuScanner::String(MenuToken& token) {
 int MenuScanner::MenuLine(MenuToken& token) {
   const char* begin = m_at;
   const char* limit = Limit(begin);
-  const char* p = FindAny<'\n', '\0'>(begin + 1, limit);
+  const char* p = bytes::FindAny<'\n', '\0'>(begin + 1, limit);
   m_at = p;
   if (p < m_end && *p == '\n') return Text(token, QMN_MENU_ITEM, begin, p);
   if (p < m_end) ++m_at;

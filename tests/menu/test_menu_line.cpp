@@ -1,6 +1,9 @@
 // The line parser: "[label]command" into label and command.
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "menu/ansi_text.h"
 #include "menu/menu_line.h"
 #include "tests/menu/menu_testing.h"
 
@@ -68,6 +71,23 @@ TEST(MenuLine, LabelsAreCutAt255AndCommandsAt2047) {
   ParseMenuLine(text, item);
   EXPECT_EQ(item.m_strLabel.Length(), 255);
   EXPECT_EQ(item.m_strCommand.Length(), 2048);
+}
+
+// The bytes of the source take a quicker way when they are of the usual kind.
+TEST(MenuLine, TheBytesOfALineGiveWhatItsTextGives) {
+  const char* const pieces[] = {"]",  "^",  "c",        "C",        "\"",       ";",    " ",
+                                "\t", "ab", "TWall123", "\xB1\xED", "\x81\x5D", "\xFF", "\x80"};
+  AnsiText ansi;
+  std::mt19937 random(11);
+  for (int i = 0; i < 20000; ++i) {
+    std::string narrow = random() % 4 ? "[\xC7\xBD]" : "[";
+    for (unsigned count = random() % 16; count; --count) narrow += pieces[random() % 14];
+    TMenuItem fromBytes, fromText;
+    ParseMenuLine(narrow, ansi, fromBytes);
+    ParseMenuLine(TUString(narrow.c_str()).c_str(), fromText);
+    ASSERT_TRUE(fromBytes.m_strLabel == fromText.m_strLabel) << narrow;
+    ASSERT_TRUE(fromBytes.m_strCommand == fromText.m_strCommand) << narrow;
+  }
 }
 
 }  // namespace

@@ -1,0 +1,55 @@
+// Bytes eight at a time: the loops of the scanner and the line parser over plain text.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace bytes {
+
+static_assert(std::endian::native == std::endian::little);
+constexpr std::uint64_t kOnes = 0x0101010101010101u;
+constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+
+inline std::uint64_t EightAt(const char* p) {
+  std::uint64_t eight;
+  std::memcpy(&eight, p, 8);
+  return eight;
+}
+
+// The high bit of each byte that is `c`, and perhaps of bytes above the lowest one that is.
+constexpr std::uint64_t Marks(std::uint64_t eight, char c) {
+  const std::uint64_t zero = eight ^ kOnes * static_cast<unsigned char>(c);
+  return (zero - kOnes) & ~zero & kHighBits;
+}
+
+// The first byte that is one of the stops; `end` when there is none.
+template <char... kStops>
+const char* FindAny(const char* p, const char* end) {
+  for (; end - p >= 8; p += 8)
+    if (const std::uint64_t marks = (Marks(EightAt(p), kStops) | ...))
+      return p + std::countr_zero(marks) / 8;
+  while (p < end && ((*p != kStops) && ...)) ++p;
+  return p;
+}
+
+inline bool IsAscii(const char* p, const char* end) {
+  for (; end - p >= 8; p += 8)
+    if (EightAt(p) & kHighBits) return false;
+  for (; p < end; ++p)
+    if (*p & 0x80) return false;
+  return true;
+}
+
+// `out` has room for as many units as there are bytes. Loops of a fixed length become vector code.
+inline wchar_t* WidenAscii(const char* p, const char* end, wchar_t* out) {
+  for (; end - p >= 8; p += 8, out += 8) {
+    std::uint8_t eight[8];
+    std::memcpy(eight, p, 8);
+    for (int i = 0; i < 8; ++i) out[i] = static_cast<wchar_t>(eight[i]);
+  }
+  while (p < end) *out++ = static_cast<wchar_t>(*p++);
+  return out;
+}
+
+}  // namespace bytes
