@@ -185,6 +185,7 @@ bool MenuParser::MenuItemList() {
 bool MenuParser::MenuItem() {
   if (!m_hasPendingIcon && Is(QMN_IDENTIFIER)) ExpectPendingIcon();
   if (!Check(QMN_MENU_ITEM)) return false;
+  if (m_hasPendingIcon) m_work.names.Approach(m_pendingIcon);
   TMenuItem& item = AppendNew(m_lines);
   ParseMenuLine(m_token.text, m_ansi, item);
   const bool hasIcon = std::exchange(m_hasPendingIcon, false);
@@ -262,9 +263,9 @@ bool MenuParser::MenuResItem() {
   TMenuResItem& made = AppendNew(m_resources);
   const NamePool::Key key = m_work.names.Announce(m_token.text);
   Advance();
-  if (!Expect(QMN_EQUAL) || !ExpectString(made.m_strImage) || !Expect(QMN_COMA) ||
-      !ExpectString(made.m_strImage2))
-    return false;
+  if (!Expect(QMN_EQUAL) || !ExpectString(made.m_strImage)) return false;
+  m_work.names.Approach(key);
+  if (!Expect(QMN_COMA) || !ExpectString(made.m_strImage2)) return false;
   m_work.resources.push_back(m_work.names.Add(key));
   m_work.names.CopyTo(m_work.resources.back(), made.m_strName);
   return true;

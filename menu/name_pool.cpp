@@ -104,6 +104,11 @@ NamePool::Key NamePool::Announce(std::string_view name) const {
   return key;
 }
 
+void NamePool::Approach(const Key& key) const {
+  if (const int number = m_byName.Nearest(key.hash); number != Table::kNone)
+    __builtin_prefetch(&At(number));
+}
+
 int NamePool::Add(const Key& key) {
   const int known = m_byName.Find(key.hash, [&](int number) {
     ++m_comparisons;

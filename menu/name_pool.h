@@ -17,13 +17,14 @@ class NamePool {
   // `name` is an identifier: ASCII letters, digits and underscores, no longer than a token. It
   // outlives the pool.
   int Add(std::string_view name) { return Add(Announce(name)); }
-  // In two steps, with other work between them that gives the memory time to arrive: in a large
-  // menu most look-ups leave the caches.
+  // In steps, with other work between them that gives the memory time to arrive: in a large menu
+  // most look-ups leave the caches. Approach may be left out.
   struct Key {
     std::string_view name;
     uint32_t hash = 0;
   };
   Key Announce(std::string_view name) const;
+  void Approach(const Key& key) const;
   int Add(const Key& key);
   int Count() const { return static_cast<int>(m_names.size()); }
   void CopyTo(int number, TWCString& out) { m_names[static_cast<size_t>(number)].text.CopyTo(out); }
@@ -52,6 +53,8 @@ class NamePool {
     void Prefetch(uint32_t hash) const {
       __builtin_prefetch(&m_slots[hash & (m_slots.size() - 1)]);
     }
+    // The number in the place where this hash belongs; kNone when that is free.
+    int Nearest(uint32_t hash) const { return m_slots[hash & (m_slots.size() - 1)].number; }
     // The number under this hash that is the one; kNone when there is none.
     template <class IsIt>
     int Find(uint32_t hash, IsIt isIt) const;
