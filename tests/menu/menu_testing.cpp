@@ -1,7 +1,5 @@
 #include "tests/menu/menu_testing.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <new>
@@ -14,20 +12,8 @@
 
 #include "adsdef.h"
 #include "kernel/native_file.h"
-#include "kernel/packed_memory.h"
 #include "kernel/qvxexport.h"
 #include "menu/menu_compiler.h"
-
-namespace {
-// Packed memory hides a lost line or text from the leak check of the sanitizer.
-class NoBlockIsLost : public testing::Environment {
-  void SetUp() override { m_before = PackedMemory::LiveBlocks(); }
-  void TearDown() override { EXPECT_EQ(PackedMemory::LiveBlocks(), m_before); }
-  size_t m_before = 0;
-};
-[[maybe_unused]] const auto* const g_noBlockIsLost =
-    testing::AddGlobalTestEnvironment(new NoBlockIsLost);
-}  // namespace
 
 std::string Utf8(const wchar_t* text) {
   std::u16string units;

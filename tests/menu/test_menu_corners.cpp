@@ -295,6 +295,47 @@ TEST(MenuParserCorners, TheScannersOwnErrorTokensAreSyntaxErrorsToo) {
   }
 }
 
+// ---- lines in ASCII and lines with other characters
+
+std::string CommandOf(const std::string& text) {
+  Compiled compiled;
+  Compile("MENU_TITLE=\"t\"***A[label]" + text + "\n***SWITCH***RESOURCE", compiled);
+  EXPECT_EQ(compiled.result, 0) << text;
+  return Utf8(compiled.system.At(0)->At(0)->m_strCommand);
+}
+
+TEST(MenuLineCorners, ACommandIsExpandedAlikeWithAndWithoutOtherCharacters) {
+  const std::string cases[][2] = {{"x;y;", "x\ny\n"},
+                                  {"x;y", "x\ny\n"},
+                                  {"\"a;b\";c", "\"a;b\"\nc\n"},
+                                  {"^\"a;b\";c", "a;b\"\nc\n"},
+                                  {"^\"a;b^\";c", "a;b\nc\n"},
+                                  {"^C^ca",
+                                   "\x1b\x1b"
+                                   "a\n"},
+                                  {"^^Ca", "Ca\n"},
+                                  {"^Pa^;b^", "ab\n"},
+                                  {"a;; \t ", "a\n\n"},
+                                  {"a^ ; b", "a\n b\n"}};
+  for (const auto& [text, expanded] : cases) {
+    EXPECT_EQ(CommandOf(text), expanded) << text;
+    EXPECT_EQ(CommandOf("\xC7\xBD" + text), "墙" + expanded) << text;
+    EXPECT_EQ(CommandOf("\xC7\xBD;" + text), "墙\n" + expanded) << text;
+  }
+}
+
+TEST(MenuLineCorners, OneBlankBehindALabelOfEnoughCharactersIsTrimmed) {
+  const std::string cases[][2] = {{"abcd ", "abcd"}, {" abcd", "abcd"},   {"ab ", "ab "},
+                                  {"abc ", "abc"},   {"ab  ", "ab"},      {"abcd\t", "abcd\t"},
+                                  {" ab ", "ab"},    {"--  x ", "--  x"}, {"    ", ""}};
+  for (const auto& [label, trimmed] : cases) {
+    Compiled compiled;
+    Compile("MENU_TITLE=\"t\"***A[" + label + "]\n***SWITCH***RESOURCE", compiled);
+    ASSERT_EQ(compiled.result, 0);
+    EXPECT_EQ(Utf8(compiled.system.At(0)->At(0)->m_strLabel), trimmed) << label;
+  }
+}
+
 // ---- the scanner
 
 TEST(MenuScannerCorners, ASlashThatOpensNoCommentIsSkipped) {
