@@ -1,0 +1,159 @@
+// The file is text, but read byte by byte: the run-time library's wide reading knows the ANSI code
+// page only where the program has set a locale, and its text mode tells wrong positions, even
+// negative ones, in a file with bare line feeds. Line ends and the end mark of text files are
+// therefore taken here, and a position is what the file has.
+#include "dialogs/tip_file.h"
+
+#include <sys/stat.h>
+
+#include <ctime>
+#include <string>
+
+#ifdef _WIN32
+#include <io.h>
+#include <windows.h>
+#endif
+
+namespace qvx {
+
+namespace {
+
+constexpr int kTextEnd = 0x1A;  // ends a text file here as it does for the system
+
+bool IsLeadByte(int byte) {
+#ifdef _WIN32
+  return ::IsDBCSLeadByte(static_cast<BYTE>(byte)) != 0;
+#else
+  return byte >= 0x81 && byte <= 0xFE;
+#endif
+}
+
+constexpr int kFirstTrailByte = 0x40;
+
+int TakeByte(std::FILE* file) {
+  const int byte = std::fgetc(file);
+  if (byte == kTextEnd) {
+    std::ungetc(byte, file);
+    return EOF;
+  }
+  if (byte != '\r') return byte;
+  const int next = std::fgetc(file);
+  if (next == '\n') return next;
+  if (next != EOF) std::ungetc(next, file);
+  return byte;
+}
+
+constexpr wchar_t kReplacement = 0xFFFD;
+
+// The characters of one line as they come, converted in one piece at the end.
+class LineBuilder {
+ public:
+  // One character, one or two bytes long; false at the end of the file. A lead byte without its
+  // second half leaves what follows, so that a damaged line still ends at its line end.
+  bool Take(std::FILE* file) {
+    const int first = TakeByte(file);
+    if (first == EOF) return false;
+    m_bytes.push_back(static_cast<char>(first));
+    m_atLineEnd = first == '\n';
+    if (!IsLeadByte(first)) return true;
+    const int second = std::fgetc(file);
+    if (second >= kFirstTrailByte) {
+      m_bytes.push_back(static_cast<char>(second));
+      return true;
+    }
+    if (second != EOF) std::ungetc(second, file);
+    m_bytes.pop_back();
+    Convert();
+    m_line += kReplacement;
+    return true;
+  }
+  bool AtLineEnd() const { return m_atLineEnd; }
+  const std::wstring& Text() {
+    Convert();
+    return m_line;
+  }
+
+ private:
+  void Convert() {
+    m_line += AnsiToWide(m_bytes, AFX_ANSI_PAGE);
+    m_bytes.clear();
+  }
+
+  std::string m_bytes;  // taken and not yet converted
+  std::wstring m_line;
+  bool m_atLineEnd = false;
+};
+
+}  // namespace
+
+FileOwner OpenTipFile(const wchar_t* path) { return OpenWideFile(path, L"rb"); }
+
+bool ReadTipLine(std::FILE* file, CString& line) {
+  LineBuilder builder;
+  int units = 0;
+  while (units < kTipUnits - 1 && builder.Take(file)) {
+    ++units;
+    if (builder.AtLineEnd()) break;
+  }
+  line = builder.Text().c_str();
+  return units > 0;
+}
+
+bool IsTipLine(const wchar_t* line) {
+  return line[0] != L'\t' && line[0] != L'\n' && line[0] != L' ' && line[0] != L';';
+}
+
+bool SeekTip(std::FILE* file, int offset) { return std::fseek(file, offset, SEEK_SET) == 0; }
+
+// A file without any tip would turn in this circle for ever and the host would hang; the second
+// time its end is met, all of it has been seen.
+TipFound ReadNextTip(std::FILE* file, CString& tip) {
+  for (int ends = 0; ends < 2;) {
+    if (ReadTipLine(file, tip)) {
+      if (IsTipLine(tip)) return TipFound::kYes;
+      continue;
+    }
+    if (!SeekTip(file, 0)) return TipFound::kSeekFailed;
+    ++ends;
+  }
+  tip.Empty();
+  return TipFound::kNoTip;
+}
+
+// Skipped lines belong to no tip: behind one, the tip before stays where it was, so a tip below a
+// comment is still followed backwards by the tip above it.
+bool FindTipBefore(std::FILE* file, int end, int& offset) {
+  offset = 0;
+  if (!SeekTip(file, 0)) return false;
+  int before = 0, current = 0;
+  bool lastWasTip = false;
+  CString line;
+  while (end != 0) {
+    if (lastWasTip) before = current;
+    current = static_cast<int>(std::ftell(file));
+    if (!ReadTipLine(file, line)) return true;  // no tip ends there, and never would
+    lastWasTip = IsTipLine(line);
+    if (lastWasTip && std::ftell(file) == end) break;
+  }
+  offset = before;
+  return true;
+}
+
+CString TipFileStamp(std::FILE* file) {
+#ifdef _WIN32
+  struct _stat64i32 about;
+  if (::_fstat64i32(::_fileno(file), &about) != 0) return {};
+  const char* text = ::_ctime64(&about.st_mtime);
+#else
+  struct stat about;
+  char buffer[32];
+  if (::fstat(::fileno(file), &about) != 0) return {};
+  const char* text = ::ctime_r(&about.st_mtime, buffer);
+#endif
+  if (!text) return {};
+  CString stamp(text);
+  stamp.TrimRight();
+  return stamp;
+}
+
+}  // namespace qvx
