@@ -146,6 +146,15 @@ TEST(ClassAlone, AGroupWithoutItsTextIsWrittenAsAnEmptyOne) {
   EXPECT_EQ(bytes.substr(8), "\1\0\0\0\x08\0\xFF\xFE\xFF\0\0\0\0\0"s);
 }
 
+TEST(ClassAlone, AnEmptyTitleOfALongFileTakesThePlaceOfTheOldOne) {
+  TMenuSystem written, back;
+  for (int i = 0; i < 500; ++i) written.m_resources.Append(new TMenuResItem(L"name", L"a", L"b"));
+  back.m_strTitle = L"old";
+  EXPECT_EQ(LoadBytes(back, SaveBytes(written)), "");
+  EXPECT_TRUE(back.m_strTitle.IsEmpty());
+  EXPECT_EQ(back.m_resources.Length(), 500);
+}
+
 // ---- classes and owners
 
 TEST(MenuClasses, EachKnowsItsNameAndItsBase) {
@@ -325,8 +334,8 @@ TEST(MenuLineCorners, ACommandIsExpandedAlikeWithAndWithoutOtherCharacters) {
 }
 
 TEST(MenuLineCorners, OneBlankBehindALabelOfEnoughCharactersIsTrimmed) {
-  const std::string cases[][2] = {{"abcd ", "abcd"}, {" abcd", "abcd"},   {"ab ", "ab "},
-                                  {"abc ", "abc"},   {"ab  ", "ab"},      {"abcd\t", "abcd\t"},
+  const std::string cases[][2] = {{"abcd ", "abcd"}, {" abcd", "abcd"},   {"ab ", "ab"},
+                                  {"a ", "a "},      {"ab  ", "ab"},      {"abcd\t", "abcd\t"},
                                   {" ab ", "ab"},    {"--  x ", "--  x"}, {"    ", ""}};
   for (const auto& [label, trimmed] : cases) {
     Compiled compiled;

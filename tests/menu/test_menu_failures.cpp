@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <set>
 
 #include "menu/menu_loading.h"
@@ -250,6 +251,29 @@ TEST_F(MenuFailures, ACompileWithoutMemoryTellsSoAndLosesNothing) {
       EXPECT_TRUE(outcome.IsSilent() || outcome.Box() == "CMemoryException" ||
                   outcome.Box() == m_cannotMake)
           << outcome.number << " " << outcome.Told();
+  }
+}
+
+// A command that finds no memory leaves the list as it was, or without the entry that was moving.
+TEST_F(MenuFailures, ARecentCommandWithoutMemoryLosesNothing) {
+  for (const wchar_t* command : {L"new and longer than a word", L"c1"}) {
+    bool failed = true;
+    for (long n = 1; failed; ++n) {
+      auto recent = std::make_unique<TMenuStack>();
+      for (const wchar_t* old : {L"c0", L"c1", L"c2", L"c3"}) recent->AddRecent(old);
+      memory_faults::Begin(n);
+      try {
+        recent->AddRecent(command);
+      } catch (const std::bad_alloc&) {
+      }
+      failed = memory_faults::HasFailed();
+      const int length = recent->Length();
+      recent.reset();
+      memory_faults::End();
+      EXPECT_GE(length, 3) << n;
+      EXPECT_LE(length, 5) << n;
+      EXPECT_EQ(memory_faults::FreeLost(), 0) << n;
+    }
   }
 }
 
