@@ -17,6 +17,11 @@ bool ParseInt(const wchar_t* text, long long low, long long high, long long& val
   return end != text && *end == 0 && value >= low && value <= high;
 }
 
+// Above the three bytes of a colour other things are said, such as "none".
+constexpr int kLastColor = 0xFFFFFF;
+
+bool IsColor(int value) { return value >= 0 && value <= kLastColor; }
+
 bool ParseReal(const wchar_t* text, double& value) {
   wchar_t* end = nullptr;
   value = std::wcstod(text, &end);
@@ -94,7 +99,7 @@ void LoadElement(const Setting& s, int index, const TRegProperty& key) {
     if (key.GetValue(name, value)) {
       if (s.type == SettingType::kInt)
         *IntOf(s) = value;
-      else
+      else if (IsColor(value))
         *ColorOf(s, index) = static_cast<COLORREF>(value);
     }
     return;
@@ -180,7 +185,7 @@ bool SetSettingText(const Setting& s, int index, const wchar_t* text) {
       *IntOf(s) = static_cast<int>(number);
       return true;
     case SettingType::kColor:
-      if (!ParseInt(text, 0, 0xFFFFFF, number)) return false;
+      if (!ParseInt(text, 0, kLastColor, number)) return false;
       *ColorOf(s, index) = static_cast<COLORREF>(number);
       return true;
     case SettingType::kReal:

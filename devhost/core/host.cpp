@@ -19,17 +19,29 @@ namespace {
 namespace fs = std::filesystem;
 
 // A path of the script or the product may come with either slash.
-std::wstring Existing(const fs::path& path) {
-  std::error_code error;
-  return fs::is_regular_file(path, error) ? path.wstring() : std::wstring();
-}
-
+// Where paths are bytes they are UTF-8, whatever the locale: a path's own conversion would throw at
+// a name that the locale lacks.
 fs::path PathOf(std::wstring text) {
-#ifndef _WIN32
+#ifdef _WIN32
+  return fs::path(text);
+#else
   for (wchar_t& c : text)
     if (c == L'\\') c = L'/';
+  return fs::path(Utf8(text));
 #endif
-  return fs::path(text);
+}
+
+std::wstring TextOf(const fs::path& path) {
+#ifdef _WIN32
+  return path.wstring();
+#else
+  return Wide(path.string());
+#endif
+}
+
+std::wstring Existing(const fs::path& path) {
+  std::error_code error;
+  return fs::is_regular_file(path, error) ? TextOf(path) : std::wstring();
 }
 
 // When nobody has given windows: prints nowhere, asks nobody.
@@ -82,7 +94,7 @@ std::wstring Host::FindFile(const std::wstring& name) const {
   if (wanted.has_parent_path()) {
     std::error_code error;
     const std::wstring found = Existing(wanted);
-    if (!found.empty()) return fs::absolute(wanted, error).lexically_normal().wstring();
+    if (!found.empty()) return TextOf(fs::absolute(wanted, error).lexically_normal());
     if (wanted.is_absolute()) return {};
   }
   std::error_code error;

@@ -69,6 +69,14 @@ TEST_F(SupportPath, FindsAFileAndGivesItsFullPath) {
   EXPECT_EQ(QvxExport::FindFile(L"", path), 0);
 }
 
+TEST_F(SupportPath, FindsAFileWhoseNameTheLocaleLacks) {
+  std::ofstream(s_folder / fs::u8path("\u5899\uFFFD.txt"), std::ios::binary) << "x";
+  wchar_t path[QvxExport::kPathUnits] = L"";
+  EXPECT_EQ(QvxExport::FindFile(L"\u5899\uFFFD.txt", path), 1);
+  EXPECT_EQ(std::wstring(path).substr(std::wcslen(path) - 6), L"\u5899\uFFFD.txt");
+  EXPECT_EQ(QvxExport::FindFile(L"\u95E8.txt", path), 0);
+}
+
 TEST_F(SupportPath, TheFirstStartListGivesTheNamesThatExistAsWritten) {
   Write("a.arx", "");
   Write("b c.arx", "");
