@@ -73,6 +73,7 @@ void MenuLoading::CompileMenu(const wchar_t* path) {
   } catch (const std::bad_alloc&) {  // the compiled file stays as it was
     system->EmptyLists();
     m_boxes.ShowMessage(L"CMemoryException");
+    HandOver(*system);  // nobody keeps a block that is gone
   }
 }
 

@@ -66,9 +66,6 @@ struct Shell : MenuUsers, MenuFiles, MenuPrinter, MenuBoxes {
   std::vector<std::string> boxes;
 };
 
-// What was found and waits to be mended. A mark that no longer holds makes its test fail: then it
-// is set to false for good.
-constexpr bool kTheShellKeepsADeletedToolBar = true;
 struct Outcome {
   long number = 0;
   std::string thrown, printed, disk;
