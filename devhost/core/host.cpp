@@ -84,6 +84,7 @@ void Host::End() {
     documents.Close(&last);
   }
   modules.UnloadAll();
+  menuGroups.Clear();
   m_ui = &noUi;
   modules.SetSource(nullptr);
 }
@@ -236,9 +237,9 @@ int acedRedraw(const ads_name, int) {
   return RTNORM;
 }
 
-bool acedIsMenuGroupLoaded(const ACHAR*) {
-  return false;
-}  // the host has no menu groups of its own yet
+bool acedIsMenuGroupLoaded(const ACHAR* group) {
+  return group && TheHost().menuGroups.IsLoaded(group);
+}
 
 int acedTrans(const ads_point point, const resbuf*, const resbuf*, int, ads_point result) {
   if (!point || !result) return RTERROR;

@@ -12,6 +12,7 @@
 #include "devhost/core/document.h"
 #include "devhost/core/document_list.h"
 #include "devhost/core/host_ui.h"
+#include "devhost/core/menu_groups.h"
 #include "devhost/core/module_list.h"
 #include "devhost/core/variables.h"
 
@@ -49,6 +50,7 @@ class Host {
   CommandEngine engine;
   VariableTable variables;
   ModuleList modules;
+  MenuGroups menuGroups;
 
  private:
   HostOptions m_options;

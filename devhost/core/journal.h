@@ -28,7 +28,8 @@ struct JournalEntry {
   int number;         // from 1
   int milliseconds;   // since the journal was made
   std::string event;  // "sent", "printed", "prompt", "command", "lisp", "var", "messagebox",
-                      // "dialog", "shell", "help", "document", "module", "statustext"
+                      // "dialog", "shell", "help", "document", "module", "menugroup",
+                      // "statustext"
   Json fields;        // an object; what each event holds stands in docs/play-scripts.md
 };
 

@@ -268,6 +268,22 @@ void Save() {
     SaveAs();
 }
 
+void MenuLoad() {
+  ACHAR path[512];
+  if (acedGetString(1, L"输入菜单文件名: ", path) != RTNORM || !*path) return;
+  const std::wstring found = TheHost().FindFile(path);
+  const std::wstring group = found.empty() ? L"" : TheHost().menuGroups.Load(found);
+  TheHost().Print(group.empty() ? L"\n找不到菜单文件: " + std::wstring(path) + L"\n"
+                                : L"\n菜单组已加载: " + group + L"\n");
+}
+
+void MenuUnload() {
+  ACHAR group[512];
+  if (acedGetString(1, L"输入菜单组名: ", group) != RTNORM || !*group) return;
+  if (!TheHost().menuGroups.Unload(group))
+    TheHost().Print(L"\n没有加载菜单组: " + std::wstring(group) + L"\n");
+}
+
 void Quit() { TheHost().Ui().EndProgram(); }
 
 struct NativeCommand {
@@ -283,6 +299,8 @@ constexpr NativeCommand kNative[] = {
     {L"ERASE", ACRX_CMD_USEPICKSET, Erase},
     {L"LAYER", ACRX_CMD_TRANSPARENT, Layer},
     {L"LINE", 0, Line},
+    {L"MENULOAD", 0, MenuLoad},
+    {L"MENUUNLOAD", 0, MenuUnload},
     {L"MOVE", ACRX_CMD_USEPICKSET, Move},
     {L"NEW", 0, New},
     {L"OPEN", 0, Open},
