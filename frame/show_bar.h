@@ -1,0 +1,4 @@
+// The handler of TShowBar.
+#pragma once
+
+void ShowBar();
