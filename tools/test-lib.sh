@@ -42,7 +42,8 @@ run_programs() {
 
 # A play: `# args: ...` in its head gives further arguments, `# product: NAME` lays
 # tests/plays/products/NAME over a copy of the product, `# without: FILE...` takes files out of that
-# copy, `# exit: N` the expected exit code (0), `# output: TEXT` what its output must contain.
+# copy, `# exit: N` the expected exit code (0), `# output: TEXT` what its output must contain. The tip
+# of the day is left out of the start unless `# tips: shown` asks for it.
 run_play() {
   local script=$1 name rc=0 want args overlay without output
   name=$(basename "$script" .script)
@@ -57,6 +58,7 @@ run_play() {
   cp product/*.dxf "$work/"
   cp "$script" "$work/play.script"
   qvx_forget_settings
+  [ "$(head_value tips)" = shown ] || qvx_leave_out_tips
   # shellcheck disable=SC2086
   (cd "$work" && LC_ALL=zh_CN.UTF-8 timeout 90 wine ../../windows/bin/devhost.exe --product product \
      --play play.script --journal journal.jsonl $args) >"$work/output.txt" 2>&1 || rc=$?

@@ -45,6 +45,12 @@ qvx_forget_settings() {
   return 0
 }
 
+# The module then starts without its tip of the day, a dialog that waits for somebody.
+qvx_leave_out_tips() {
+  qvx_wine reg add 'HKCU\Software\Quivera\QVX\R24.0\QVX-1\Settings' /v g_nCustomFlag \
+    /t REG_DWORD /d 2 /f >/dev/null 2>&1
+}
+
 qvx_wine_stop() {
   [ -n "${WINEPREFIX:-}" ] && wineserver -k >/dev/null 2>&1
   [ -n "${QVX_XVFB_PID:-}" ] && kill "$QVX_XVFB_PID" 2>/dev/null

@@ -23,6 +23,14 @@ BOOL CALLBACK CountWindow(HWND, LPARAM count) {
   return TRUE;
 }
 
+// The module is to start without its tip of the day, a dialog that waits for somebody: the custom
+// flag of that meaning, where the kernel of the host's default release looks for it.
+void LeaveOutTips() {
+  const DWORD flags = 2;
+  ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Quivera\\QVX\\R24.0\\QVX-1\\Settings",
+                    L"g_nCustomFlag", REG_DWORD, &flags, sizeof flags);
+}
+
 }  // namespace
 
 HostProcess& HostProcess::Get() {
@@ -31,6 +39,7 @@ HostProcess& HostProcess::Get() {
 }
 
 HostProcess::HostProcess() {
+  LeaveOutTips();
   wchar_t temporary[512] = L"";
   ::GetTempPathW(512, temporary);
   m_folder = std::wstring(temporary) + L"qvx_module_test";
