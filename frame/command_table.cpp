@@ -1,9 +1,11 @@
 #include "frame/command_table.h"
 
 #include "accmd.h"
+#include "dialogs/information_commands.h"
 #include "frame/host_registry.h"
 #include "frame/live_menu_commands.h"
 #include "frame/shell.h"
+#include "frame/show_bar.h"
 #include "frame/unbuilt_rooms.h"
 #include "screenmenu/screen_menu.h"
 
@@ -21,7 +23,7 @@ struct CommandRow {
   int flags;
 };
 const CommandRow kCommands[] = {
-    {L"TShowBar", unbuilt::ShowBar, ACRX_CMD_MODAL},
+    {L"TShowBar", ShowBar, ACRX_CMD_MODAL},
     {L"QmnLoad", ReloadMenu, ACRX_CMD_MODAL},
     {L"QmnLoad1", ReloadMenuBySearch, ACRX_CMD_MODAL},
     {L"TSetRunMode", ToggleRunMode, ACRX_CMD_MODAL},
@@ -30,10 +32,10 @@ const CommandRow kCommands[] = {
     {L"TLoadMenu", LoadMenu, ACRX_CMD_MODAL},
     {L"TInPlaceEdit", unbuilt::InPlaceEdit, ACRX_CMD_USEPICKSET},
     {L"TTextEditInBlock", unbuilt::TextEditInBlock, ACRX_CMD_TRANSPARENT},
-    {L"TCurTips", unbuilt::CurrentTips, ACRX_CMD_TRANSPARENT},
-    {L"TAbout", unbuilt::About, ACRX_CMD_TRANSPARENT},
-    {L"TReportBug", unbuilt::ReportBug, ACRX_CMD_TRANSPARENT},
-    {L"THelp", unbuilt::Help, ACRX_CMD_TRANSPARENT},
+    {L"TCurTips", ShowCurrentTips, ACRX_CMD_TRANSPARENT},
+    {L"TAbout", ShowAbout, ACRX_CMD_TRANSPARENT},
+    {L"TReportBug", ReportBug, ACRX_CMD_TRANSPARENT},
+    {L"THelp", OpenHelp, ACRX_CMD_TRANSPARENT},
     {L"TReScreenMenu", RefreshScreenMenu, ACRX_CMD_TRANSPARENT},
 };
 

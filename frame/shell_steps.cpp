@@ -4,6 +4,7 @@
 
 #include "acdocman.h"
 #include "aced.h"
+#include "dialogs/information_commands.h"
 #include "frame/comma_list.h"
 #include "frame/command_table.h"
 #include "frame/first_start.h"
@@ -33,7 +34,7 @@ void Shell::RegisterMdiAware() {
   if (AcRxDynamicLinker* linker = HostLinker()) linker->registerAppMDIAware(m_packet);
 }
 
-void Shell::ShowTipsAtStart() { unbuilt::ShowTipsAtStart(); }
+void Shell::ShowTipsAtStart() { ::ShowTipsAtStart(); }
 
 void Shell::LoadIconLibrary() {
   wchar_t base[MenuLoading::kPathUnits];

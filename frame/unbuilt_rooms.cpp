@@ -6,32 +6,16 @@ namespace {
 
 // mutable counts: this is the diary of the one loaded module.
 UnbuiltStep g_steps[] = {
-    {"ShowTipsAtStart", "dialogs", 0},
-    {"message filter", "editor", 0},
-    {"CreateDocTabBar", "doctabs", 0},
-    {"InitDocTabBar", "doctabs", 0},
-    {"DestroyDocTabBar", "doctabs", 0},
-    {"tab caption timer", "doctabs", 0},
-    {"HideTabBar", "doctabs", 0},
-    {"TMakeGroupPane", "statusbar", 0},
-    {"TBaseLinePane", "statusbar", 0},
-    {"TaKhsKsj123", "statusbar", 0},
-    {"TBoldLinePane", "statusbar", 0},
-    {"TDynDimPane", "statusbar", 0},
-    {"scale pane", "statusbar", 0},
-    {"HPSCALE", "statusbar", 0},
-    {"per-drawing panes", "statusbar", 0},
-    {"scale text", "statusbar", 0},
-    {"UpdateStatusBar", "statusbar", 0},
-    {"selection preview", "editor", 0},
-    {"ShowMenuAt", "popup", 0},
-    {"TShowBar", "popup", 0},
-    {"TInPlaceEdit", "editor", 0},
-    {"TTextEditInBlock", "editor", 0},
-    {"TCurTips", "dialogs", 0},
-    {"TAbout", "dialogs", 0},
-    {"TReportBug", "dialogs", 0},
-    {"THelp", "dialogs", 0},
+    {"message filter", "editor", 0},     {"CreateDocTabBar", "doctabs", 0},
+    {"InitDocTabBar", "doctabs", 0},     {"DestroyDocTabBar", "doctabs", 0},
+    {"tab caption timer", "doctabs", 0}, {"HideTabBar", "doctabs", 0},
+    {"TMakeGroupPane", "statusbar", 0},  {"TBaseLinePane", "statusbar", 0},
+    {"TaKhsKsj123", "statusbar", 0},     {"TBoldLinePane", "statusbar", 0},
+    {"TDynDimPane", "statusbar", 0},     {"scale pane", "statusbar", 0},
+    {"HPSCALE", "statusbar", 0},         {"per-drawing panes", "statusbar", 0},
+    {"scale text", "statusbar", 0},      {"UpdateStatusBar", "statusbar", 0},
+    {"selection preview", "editor", 0},  {"ShowMenuAt", "popup", 0},
+    {"TInPlaceEdit", "editor", 0},       {"TTextEditInBlock", "editor", 0},
     {"C:TDragVp", "editor", 0},
 };
 
@@ -65,7 +49,6 @@ const UnbuiltStep* UnbuiltSteps(int* count) {
 
 namespace unbuilt {
 
-void ShowTipsAtStart() { Note("ShowTipsAtStart"); }
 void InitMessageFilter(bool) { Note("message filter"); }
 void CreateDocTabBar() { Note("CreateDocTabBar"); }
 void InitDocTabBar() { Note("InitDocTabBar"); }
@@ -82,13 +65,8 @@ void UpdateStatusBar() { Note("UpdateStatusBar"); }
 
 void ShowMenuAt() { Note("ShowMenuAt"); }
 
-void ShowBar() { Note("TShowBar"); }
 void InPlaceEdit() { Note("TInPlaceEdit"); }
 void TextEditInBlock() { Note("TTextEditInBlock"); }
-void CurrentTips() { Note("TCurTips"); }
-void About() { Note("TAbout"); }
-void ReportBug() { Note("TReportBug"); }
-void Help() { Note("THelp"); }
 void DragViewport() { Note("C:TDragVp"); }
 
 void HideTabBar() { Note("HideTabBar"); }

@@ -16,7 +16,6 @@ const UnbuiltStep* UnbuiltSteps(int* count);
 namespace unbuilt {
 
 // Load and unload sequence.
-void ShowTipsAtStart();
 void InitMessageFilter(bool add);
 void CreateDocTabBar();
 void InitDocTabBar();
@@ -36,13 +35,8 @@ void UpdateStatusBar();
 void ShowMenuAt();
 
 // Commands and LISP functions.
-void ShowBar();
 void InPlaceEdit();
 void TextEditInBlock();
-void CurrentTips();
-void About();
-void ReportBug();
-void Help();
 void DragViewport();
 
 // Exports.
