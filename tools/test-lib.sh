@@ -75,6 +75,7 @@ run_plays() {
   for script in tests/plays/*.script; do
     case $(basename "$script") in *"$1"*) run_play "$script" ;; esac
   done
+  qvx_forget_settings
 }
 
 # Each executable in tools/checks/ looks at the tree as it stands and says what is wrong.
