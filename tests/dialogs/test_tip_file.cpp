@@ -37,6 +37,12 @@ TEST(TipLine, KeepsItsLineEndAndReadsBothForms) {
   EXPECT_EQ(Line(file.get()), L"(end)");
 }
 
+TEST(TipLine, ABareCarriageReturnIsACharacterAsAnyOther) {
+  const TipFileOnDisk disk("one\rtwo\r");
+  const FileOwner file = disk.Open();
+  EXPECT_EQ(Line(file.get()), L"one\rtwo\r");
+}
+
 TEST(TipLine, IsTextOfTheAnsiCodePage) {
   const TipFileOnDisk disk("\xC7\xBD\xCC\xE5\n\x81\nplain\n");  // the second has half a character
   const FileOwner file = disk.Open();
@@ -161,6 +167,13 @@ TEST(TipBefore, AnEndAtWhichNoTipEndsGivesTheStart) {
   const FileOwner file = disk.Open();
   for (const int end : {1, 3, 5, 13, 16, 18, 5000, -1})
     EXPECT_EQ(Before(file.get(), end), 0) << end;
+}
+
+TEST(TipBefore, TheEndOfACommentIsTheEndOfNoTip) {
+  const TipFileOnDisk disk("one\ntwo\n;c\nsix\n");
+  const FileOwner file = disk.Open();
+  EXPECT_EQ(Before(file.get(), 11), 0);
+  EXPECT_EQ(Before(file.get(), 15), 4);
 }
 
 TEST(TipWalk, EndsOnAnyBytes) {
