@@ -1,7 +1,9 @@
-// The module's diagnostic export: what its live windows show, as JSON. Sections whose room is not
-// built are null, and the steps that wait for a room are listed with how often they were asked for.
+// The module's diagnostic exports: what its live windows show, as JSON, and its settings as text.
+// Sections whose room is not built are null, and the steps that wait for a room are listed with how
+// often they were asked for.
 #include <string>
 
+#include "frame/settings_report.h"
 #include "frame/shell.h"
 #include "frame/unbuilt_rooms.h"
 #include "screenmenu/describe_screen_menu.h"
@@ -42,4 +44,12 @@ extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
       ",\"popup\":null,\"tabs\":null,\"panes\":null,\"editor\":null,\"recent\":" + RecentSection() +
       ",\"unbuilt\":" + UnbuiltSection() + "}";
   return json.c_str();
+}
+
+// The settings as they stand, also while the module is not started; UTF-8, valid until the next
+// call.
+extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
+  static std::string report;
+  report = SettingsReport();
+  return report.c_str();
 }

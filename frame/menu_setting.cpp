@@ -7,10 +7,7 @@
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
 
-namespace {
-
-// The profile's name is the folder; "Settings" when the host has none to tell.
-TWCString ProfileFolder() {
+TWCString MenuSettingFolder() {
   TWCString folder;
   resbuf value{};
   if (acedGetVar(L"CPROFILE", &value) == RTNORM && value.restype == RTSTR && value.resval.rstring) {
@@ -21,10 +18,8 @@ TWCString ProfileFolder() {
   return folder;
 }
 
-}  // namespace
-
 bool LoadMenuSetting(TWCString& value) {
-  const TRegProperty key(GetRegLocation(), ProfileFolder());
+  const TRegProperty key(GetRegLocation(), MenuSettingFolder());
   CString text;
   if (!key.GetValue(L"Menu", text)) return false;
   value = text.GetString();
@@ -32,7 +27,7 @@ bool LoadMenuSetting(TWCString& value) {
 }
 
 void SaveMenuSetting(const wchar_t* base) {
-  TRegProperty key(GetRegLocation(), ProfileFolder());
+  TRegProperty key(GetRegLocation(), MenuSettingFolder());
   key.SetTopRootKey(HKEY_CURRENT_USER);
   key.SetValue(L"Menu", base);
 }

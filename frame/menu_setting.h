@@ -4,5 +4,6 @@
 
 #include "kernel/twcstring.h"
 
+TWCString MenuSettingFolder();           // the profile's name, "Settings" without one
 bool LoadMenuSetting(TWCString& value);  // false and untouched when there is none
 void SaveMenuSetting(const wchar_t* base);

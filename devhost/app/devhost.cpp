@@ -1,10 +1,12 @@
 // The development host's program: reads the command line and runs. All else is in the host library,
-// which modules share. Exit codes: what the play script gave, 0 without one, 2 for wrong usage.
+// which modules share. Exit codes: what the play script gave, 0 without one, 2 for wrong usage,
+// 3 when the doctor finds no product.
 #include <cstdio>
 #include <string>
 #include <vector>
 
 #include "devhost/core/journal.h"
+#include "devhost/ui/doctor.h"
 #include "devhost/ui/launch.h"
 
 int wmain(int count, wchar_t** words) {
@@ -20,5 +22,6 @@ int wmain(int count, wchar_t** words) {
     std::printf("%s", devhost::Utf8(devhost::LaunchUsage()).c_str());
     return 0;
   }
+  if (options.doctor) return devhost::RunDoctor(options);
   return devhost::RunDevelopmentHost(options);
 }

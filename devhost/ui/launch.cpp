@@ -23,9 +23,8 @@
 #include "ui_port_impl.h"
 
 namespace devhost {
-namespace {
 
-constexpr wchar_t kProductModule[] = L"qvx_initstart.arx";
+const wchar_t kProductModule[] = L"qvx_initstart.arx";
 
 std::wstring ProgramFolder() {
   wchar_t path[1024] = L"";
@@ -33,6 +32,18 @@ std::wstring ProgramFolder() {
   std::wstring folder = path;
   return folder.substr(0, folder.find_last_of(L"\\/"));
 }
+
+HostOptions OptionsForCore(const LaunchOptions& options) {
+  HostOptions out;
+  out.major = static_cast<int>(options.hostVersion);
+  out.minor = static_cast<int>(std::lround((options.hostVersion - out.major) * 10));
+  out.profile = options.profile;
+  if (!options.productFolder.empty()) out.supportPath.push_back(options.productFolder);
+  out.supportPath.push_back(ProgramFolder());
+  return out;
+}
+
+namespace {
 
 bool Exists(const std::wstring& path) {
   return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -60,16 +71,6 @@ class JournalFile {
  private:
   std::FILE* m_stream = nullptr;
 };
-
-HostOptions OptionsForCore(const LaunchOptions& options) {
-  HostOptions out;
-  out.major = static_cast<int>(options.hostVersion);
-  out.minor = static_cast<int>(std::lround((options.hostVersion - out.major) * 10));
-  out.profile = options.profile;
-  if (!options.productFolder.empty()) out.supportPath.push_back(options.productFolder);
-  out.supportPath.push_back(ProgramFolder());
-  return out;
-}
 
 void OpenDrawings(const std::vector<std::wstring>& names) {
   for (const std::wstring& name : names) OpenDrawingFile(name);

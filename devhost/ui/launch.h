@@ -2,9 +2,14 @@
 // message loop, and everything down again in the opposite order.
 #pragma once
 
+#include "devhost/core/host.h"
 #include "launch_options.h"
 
 namespace devhost {
+
+std::wstring ProgramFolder();  // of the development host, without a last backslash
+HostOptions OptionsForCore(const LaunchOptions& options);
+extern const wchar_t kProductModule[];
 
 int RunDevelopmentHost(const LaunchOptions& options);
 

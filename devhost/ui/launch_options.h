@@ -16,6 +16,7 @@ struct LaunchOptions {
   std::wstring journal;               // "-" is standard output; empty: none
   std::vector<std::wstring> drawings;
   bool help = false;
+  bool doctor = false;  // prints what the product would start with, and starts nothing
 };
 
 // Fills `out` from the words behind the program's name. Otherwise false and one line of `error`.

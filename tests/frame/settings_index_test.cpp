@@ -101,7 +101,8 @@ bool HasWord(const std::string& text, const std::string& word) {
 void CollectFile(const std::string& text, std::set<std::string>& names) {
   for (const char* call :
        {"GetValue(", "SetValue(", "ScreenMenuSetting(", "acedGetVar(", "acedSetVar(", "acedPutSym(",
-        "GetIniBuferValueByKey(", "ValueOf(", "TPushAcadVar<int, 0> "})
+        "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "product.Text(",
+        "ProductSection(find).Text(", "TPushAcadVar<int, 0> "})
     CollectCall(text, call, names);
   const std::string flag = "L\"InitStart";  // chosen by release, read by variable
   for (size_t at = text.find(flag); at != text.npos; at = text.find(flag, at + 1))
@@ -120,7 +121,7 @@ NamesByRoom NamesInSources() {
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
       const std::string name = entry.path().filename().string();
       const std::string extension = entry.path().extension().string();
-      if ((extension != ".cpp" && extension != ".h") || name == "settings_index.cpp") continue;
+      if ((extension != ".cpp" && extension != ".h") || name.starts_with("settings_")) continue;
       CollectFile(ReadFile(entry.path()), found[room]);
     }
   }

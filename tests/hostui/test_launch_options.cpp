@@ -62,3 +62,11 @@ TEST(LaunchOptions, MistakesAreToldWithTheWordThatIsWrong) {
             L"--host-version takes a release number such as 24.0, not 3");
   EXPECT_EQ(ErrorOf({L""}), L"a drawing has an empty name");
 }
+
+TEST(LaunchOptions, TheDoctorStandsAloneAndTakesTheSameOptions) {
+  LaunchOptions options;
+  std::wstring error;
+  ASSERT_TRUE(ParseLaunchOptions({L"--doctor", L"--product", L"p"}, &options, &error));
+  EXPECT_TRUE(options.doctor);
+  EXPECT_EQ(options.productFolder, L"p");
+}
