@@ -13,7 +13,8 @@ TEST(QmnUsage, HelpLeadsWithExamplesAndIsFine) {
 TEST(QmnUsage, HelpHasAnExampleOfEachCommand) {
   const std::string help = Qmn({"--help"}).out;
   const std::string examples = help.substr(0, help.find("Exit codes"));
-  for (const char* command : {"compile", "load", "dump", "check", "why", "fmt", "decompile"})
+  for (const char* command :
+       {"compile", "load", "dump", "check", "why", "which", "fmt", "decompile"})
     EXPECT_NE(examples.find(std::string("qmn ") + command), std::string::npos) << command;
 }
 

@@ -70,3 +70,11 @@ struct WhyOptions {
   unsigned page = kUsualPage;
 };
 int RunWhy(const WhyOptions& options, const QmnStreams& streams);
+
+struct WhichOptions {
+  std::vector<std::string> product;  // folders of the support path, in order
+  std::string profile = "default";   // empty: the host has none to tell
+  std::string registry;              // settings file; empty: where settings are by themselves
+  double hostVersion = 24.0;
+};
+int RunWhich(const WhichOptions& options, const QmnStreams& streams);

@@ -26,6 +26,7 @@ constexpr char kHelp[] = R"(Examples:
   qmn fmt --check *.qmn                names those that are not in it
   qmn why qvx.qmn --type QVX_WALL --layer 0 --layer-key WALL=0
                                        which block a selection gets, and why not another
+  qmn which --product product          which menu file the module would load, and why
   qmn decompile qvx.qmc -o qvx.qmn     source that compiles to the same bytes
 
 Exit codes: 0 fine, 1 something is wrong in the input, 2 wrong usage,
@@ -41,6 +42,7 @@ struct Options {
   FmtOptions fmt;
   DecompileOptions decompile;
   WhyOptions why;
+  WhichOptions which;
   bool json = false, tree = false, bytes = false;
 };
 
@@ -146,6 +148,22 @@ void AddCheck(CLI::App& app, Options& options) {
   AddPage(*command, options.check.page);
 }
 
+void AddWhich(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("which", "Tell which menu file the module would load");
+  command
+      ->add_option("--product", options.which.product,
+                   "folder of the support path; more than one are searched in their order")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  command->add_option("--profile", options.which.profile,
+                      "the host's profile, \"default\" unless given; \"\" for none");
+  command->add_option("--registry", options.which.registry,
+                      "settings file; QVX_SETTINGS_FILE or the registry unless given");
+  command->add_option("--host-version", options.which.hostVersion, "release of the host")
+      ->default_val("24.0")
+      ->check(CLI::Range(15.0, 99.9));
+}
+
 int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) {
   if (app.got_subcommand("compile")) return RunCompile(options.compile, streams);
   if (app.got_subcommand("check")) return RunCheck(options.check, streams);
@@ -153,6 +171,7 @@ int RunChosen(const CLI::App& app, Options& options, const QmnStreams& streams) 
   if (app.got_subcommand("fmt")) return RunFmt(options.fmt, streams);
   if (app.got_subcommand("decompile")) return RunDecompile(options.decompile, streams);
   if (app.got_subcommand("why")) return RunWhy(options.why, streams);
+  if (app.got_subcommand("which")) return RunWhich(options.which, streams);
   if (options.tree) options.dump.form = DumpForm::kTree;
   if (options.bytes) options.dump.form = DumpForm::kBytes;
   return RunDump(options.dump, streams);
@@ -174,6 +193,7 @@ int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
   AddFmt(app, options);
   AddDecompile(app, options);
   AddWhy(app, options);
+  AddWhich(app, options);
   try {
     // The parser takes its arguments from the end.
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
