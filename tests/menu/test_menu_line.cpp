@@ -59,6 +59,15 @@ TEST(MenuLine, CaretCIsEscapeAndOtherPairsVanish) {
   EXPECT_EQ(CommandOf(L"[a]^;x;"), "x\n");
 }
 
+// The quotes are told before the pairs vanish.
+TEST(MenuLine, AQuoteThatVanishesWithItsCaretStillQuotes) {
+  EXPECT_EQ(CommandOf(L"[a]^\"x;y\"z;w;"), "x;y\"z\nw\n");
+  AnsiText ansi;
+  TMenuItem item;
+  ParseMenuLine(std::string_view("[a]^\"x;y\"z;w;"), ansi, item);
+  EXPECT_EQ(Utf8(item.m_strCommand), "x;y\"z\nw\n");
+}
+
 TEST(MenuLine, ACaretAtTheEndVanishesAloneAndTheNewlineStays) {
   EXPECT_EQ(CommandOf(L"[a]^"), "\n");
   EXPECT_EQ(CommandOf(L"[a]x^"), "x\n");

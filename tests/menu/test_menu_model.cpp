@@ -308,6 +308,23 @@ TEST(RecentList, RunModeKeepsTheBareCommandAsLabel) {
 
 // ---- names
 
+TEST(MenuModel, ANewSystemIsEmptyAndItsReservedNumbersAreZero) {
+  TMenuSystem system;
+  EXPECT_EQ(system.m_nReserved1, 0u);
+  EXPECT_EQ(system.m_nReserved2, 0u);
+  EXPECT_TRUE(system.m_strTitle.IsEmpty());
+  EXPECT_EQ(system.Length() + system.m_resources.Length() + system.m_switches.Length(), 0);
+}
+
+TEST(MenuModel, FindResourceLooksFromTheFirstAndIsExact) {
+  TMenuSystem system;
+  for (const wchar_t* name : {L"wall", L"door", L"wall"})
+    system.m_resources.Append(new TMenuResItem(name, L"", L""));
+  EXPECT_EQ(system.FindResource(L"wall"), 0);
+  EXPECT_EQ(system.FindResource(L"door"), 1);
+  EXPECT_EQ(system.FindResource(L"Door"), -1);
+}
+
 TEST(NamePool, EqualNamesHaveOneNumberAndOneText) {
   NamePool pool;
   const int wall = pool.Add("Wall"), other = pool.Add("WALL");
