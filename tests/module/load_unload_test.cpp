@@ -37,6 +37,20 @@ bool Contains(const std::string& text, const char* part) {
   return text.find(part) != std::string::npos;
 }
 
+constexpr wchar_t kProductKey[] = L"Software\\Quivera\\QVX\\R24.0\\QVX-1";
+
+void SetNumber(const wchar_t* folder, const wchar_t* name, DWORD value) {
+  const std::wstring key = std::wstring(kProductKey) + L"\\" + folder;
+  ::RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name, REG_DWORD, &value, sizeof value);
+}
+
+DWORD NumberOf(const wchar_t* folder, const wchar_t* name) {
+  const std::wstring key = std::wstring(kProductKey) + L"\\" + folder;
+  DWORD value = 0, size = sizeof value;
+  ::RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_DWORD, nullptr, &value, &size);
+  return value;
+}
+
 bool LoadModule() { return acrxLoadModule(L"qvx_initstart.arx", true); }
 bool UnloadModule() { return acrxUnloadModule(L"qvx_initstart.arx"); }
 
@@ -96,6 +110,25 @@ TEST_F(Module, SetsTheFramesTitleFromTheProductFile) {
   HostProcess::Get().Frame().GetWindowText(title);
   EXPECT_STREQ(title.GetString(), L"Test Product For AutoCAD 2021");
   HostProcess::Get().Remove(L"qvx.ini");
+}
+
+// A dialog would wait for ever here.
+TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndMovesOnByOne) {
+  HostProcess::Get().Write(L"qvxtips.txt", "one\r\ntwo\r\n");
+  SetNumber(L"Settings", L"g_nCustomFlag", 0);
+  SetNumber(L"Tips", L"StartUp", 0);
+  SetNumber(L"Tips", L"Indicator", 0);
+  EXPECT_TRUE(LoadModule());
+  EXPECT_EQ(NumberOf(L"Tips", L"Indicator"), 5u);
+  UnloadModule();
+  EXPECT_TRUE(LoadModule());
+  EXPECT_EQ(NumberOf(L"Tips", L"Indicator"), 10u);
+  UnloadModule();
+  SetNumber(L"Settings", L"g_nCustomFlag", 2);
+  EXPECT_TRUE(LoadModule());
+  EXPECT_EQ(NumberOf(L"Tips", L"Indicator"), 10u) << "the custom flag leaves the tips alone";
+  SetNumber(L"Tips", L"StartUp", 1);
+  HostProcess::Get().Remove(L"qvxtips.txt");
 }
 
 TEST_F(Module, ListsWhatHasNoRoomYetAndCountsItsCalls) {
