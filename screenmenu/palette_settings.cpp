@@ -77,6 +77,10 @@ DockChoice DockFor(int alignment) {
   return {kAlignRight, kDockRight};
 }
 
+bool HasToolId(int product) {
+  return product >= 1 && product <= static_cast<int>(sizeof kToolIds / sizeof kToolIds[0]);
+}
+
 const ToolId& ToolIdOf(int product) { return kToolIds[product - 1]; }
 
 }  // namespace qvx

@@ -53,7 +53,9 @@ struct ToolId {
   unsigned short data2, data3;
   unsigned char data4[8];
 };
-// The host keeps its layout by this. `product` must lie within 1 to 11: it is the caller's to hold.
+// The host keeps its layout by this. There are identifiers for the products 1 to 11; a caller asks
+// first, since the product comes from the registry and may be any number.
+bool HasToolId(int product);
 const ToolId& ToolIdOf(int product);
 
 }  // namespace qvx

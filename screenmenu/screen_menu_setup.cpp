@@ -57,6 +57,15 @@ void DockAndShow(UINT dockBar, bool show) {
   frame->RecalcLayout();
 }
 
+// A product without an identifier has a palette whose place the host doesn't remember.
+void GiveToolId() {
+  if (!qvx::HasToolId(g_nProductId)) return;
+  const qvx::ToolId& id = qvx::ToolIdOf(g_nProductId);
+  CLSID tool{id.data1, id.data2, id.data3, {}};
+  std::copy(std::begin(id.data4), std::end(id.data4), tool.Data4);
+  g_pScreenMenu->SetToolID(&tool);
+}
+
 bool CreatePalette(const qvx::PaletteSettings& settings, const qvx::DockChoice& dock, bool show) {
   const PaletteFace face = ReadPaletteFace();
   const CRect first(0, 0, settings.sizeX, qvx::kPaletteFirstHeight);
@@ -64,10 +73,7 @@ bool CreatePalette(const qvx::PaletteSettings& settings, const qvx::DockChoice& 
   if (!g_pScreenMenu->Create(face.title, style, first, acedGetAcadFrame(), kPaletteSetStyle))
     return false;
   GiveIcons(*g_pScreenMenu, face.iconFile);
-  const qvx::ToolId& id = qvx::ToolIdOf(g_nProductId);
-  CLSID tool{id.data1, id.data2, id.data3, {}};
-  std::copy(std::begin(id.data4), std::end(id.data4), tool.Data4);
-  g_pScreenMenu->SetToolID(&tool);
+  GiveToolId();
   g_pScreenMenu->EnableDocking(kDockSides);
   return true;
 }

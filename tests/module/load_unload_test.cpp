@@ -102,6 +102,24 @@ TEST_F(Module, LoadMenuForSunBringsThePaletteUpAtOnce) {
   EXPECT_EQ(Export<int (*)()>(L"qvx_initstart.arx", "IsScreenMenuVisible")(), 1);
 }
 
+TEST_F(Module, AnyProductNumberOfTheRegistryBringsThePaletteUp) {
+  const wchar_t kRelease[] = L"Software\\Quivera\\QVX\\R24.0";
+  for (const int product : {0, 12, 17, 2000000000, -2000000000}) {
+    const std::wstring own = kRelease + (L"\\QVX-" + std::to_wstring(product));
+    const int noTips = 2;
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, (own + L"\\Settings").c_str(), L"g_nCustomFlag", REG_DWORD,
+                      &noTips, sizeof noTips);
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, kRelease, L"g_nProductId", REG_DWORD, &product,
+                      sizeof product);
+    ASSERT_TRUE(LoadModule()) << product;
+    Export<void (*)()>(L"qvx_initstart.arx", "LoadMenuForSun")();
+    EXPECT_TRUE(Contains(Shell(), "\"exists\":true")) << product;
+    ASSERT_TRUE(UnloadModule()) << product;
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, own.c_str());
+  }
+  ::RegDeleteKeyValueW(HKEY_CURRENT_USER, kRelease, L"g_nProductId");
+}
+
 TEST_F(Module, SetsTheFramesTitleFromTheProductFile) {
   HostProcess::Get().Write(L"qvx.ini", "[Product]\nTitle=Test Product\n");
   HostProcess::Get().Frame().SetWindowText(L"AutoCAD 2021 - [a.dxf]");

@@ -77,3 +77,9 @@ TEST(PaletteSettings, TheElevenProductsHaveElevenToolIdentifiers) {
 }
 
 }  // namespace
+
+TEST(PaletteToolId, OnlyTheElevenProductsHaveOne) {
+  for (int product = 1; product <= 11; ++product) EXPECT_TRUE(qvx::HasToolId(product)) << product;
+  for (const int product : {-2000000000, -1, 0, 12, 17, 2000000000})
+    EXPECT_FALSE(qvx::HasToolId(product)) << product;
+}
