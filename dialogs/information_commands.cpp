@@ -3,22 +3,11 @@
 #include "dialogs/about_dialog.h"
 #include "dialogs/day_tip_dialog.h"
 #include "dialogs/module_resources.h"
+#include "dialogs/open_by_shell.h"
 #include "dialogs/product_texts.h"
 #include "kernel/qvxexport.h"
 #include "kernel/tadsprintf.h"
 #include "rxmfcapi.h"
-
-namespace {
-
-// Results of the shell up to this are errors.
-constexpr INT_PTR kLastShellError = 32;
-
-bool OpenByShell(HWND owner, const wchar_t* target) {
-  const HINSTANCE result = ::ShellExecuteW(owner, L"open", target, nullptr, nullptr, SW_SHOWNORMAL);
-  return reinterpret_cast<INT_PTR>(result) > kLastShellError;
-}
-
-}  // namespace
 
 void ShowAbout() {
   const qvx::ModuleResources resources;
@@ -40,13 +29,13 @@ void OpenHelp() {
   const qvx::HelpTarget target = qvx::FindHelpFile(QvxExport::FindFile);
   if (!target.found)
     adsout << L"\n未找到帮助文件Vexra.chm！";
-  else if (!OpenByShell(adsw_acadMainWnd(), target.path))
+  else if (!qvx::OpenByShell(adsw_acadMainWnd(), target.path))
     adsout << L"\n帮助文件不存在，或您没有安装HTML帮助系统(安装IE 4.0或更高的版本)。";
 }
 
 void ReportBug() {
   const CString address = qvx::LoadContactAddress(QvxExport::FindFile);
-  if (OpenByShell(nullptr, L"mailto:" + address)) return;
+  if (qvx::OpenByShell(nullptr, L"mailto:" + address)) return;
   adsout << L"\n需要安装配置一个发送邮件软件（如Microsoft Outlook)!您可以将问题报告发送到:"
          << address.GetString();
 }

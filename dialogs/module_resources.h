@@ -2,12 +2,9 @@
 // are then found in it and not in the host.
 #pragma once
 
-#include "afxwin.h"
+#include "dialogs/module_handle.h"
 
 namespace qvx {
-
-// The module that this code is part of.
-HINSTANCE ThisModule();
 
 class ModuleResources {
  public:

@@ -1,7 +1,5 @@
 #include "dialogs/product_texts.h"
 
-#include "kernel/qvxexport.h"
-
 namespace qvx {
 
 const wchar_t* const kContactAddress = L"support@quivera.example";
@@ -9,29 +7,10 @@ const wchar_t* const kChatGroup = L"100000000";
 
 namespace {
 
-// The section of the product file for as long as this lives.
-class ProductSection {
- public:
-  explicit ProductSection(FindFileFunction find) {
-    wchar_t path[QvxExport::kPathUnits];
-    if (find(L"qvx.ini", path)) QvxExport::GetIniFileToIniBufer(path, L"Product", &m_buffer);
-  }
-  ~ProductSection() { QvxExport::FreeIniBuffer(m_buffer); }
-  ProductSection(const ProductSection&) = delete;
-  ProductSection& operator=(const ProductSection&) = delete;
-
-  bool IsThere() const { return m_buffer != nullptr; }
-  const wchar_t* Value(const wchar_t* key) const {
-    return QvxExport::GetIniBuferValueByKey(m_buffer, key);
-  }
-  CString Text(const wchar_t* key, const wchar_t* missing = L"") const {
-    const wchar_t* value = Value(key);
-    return value ? value : missing;
-  }
-
- private:
-  void* m_buffer = nullptr;
-};
+CString TextOf(const ProductSection& product, const wchar_t* key, const wchar_t* missing = L"") {
+  const wchar_t* value = product.Value(key);
+  return value ? value : missing;
+}
 
 }  // namespace
 
@@ -41,13 +20,13 @@ AboutTexts LoadAboutTexts(FindFileFunction find) {
   wchar_t path[QvxExport::kPathUnits];
   if (const wchar_t* icon = product.Value(L"IconFile"); icon && find(icon, path))
     texts.iconFile = path;
-  texts.group = product.Text(L"QQ群", kChatGroup);
-  texts.mail = product.Text(L"Email", kContactAddress);
-  texts.name = product.Text(L"About");
-  texts.version = product.Text(L"NewVersion");
-  texts.subVersion = product.Text(L"SubVer");
-  texts.chineseName = product.Text(L"CName");
-  texts.englishName = product.Text(L"EName");
+  texts.group = TextOf(product, L"QQ群", kChatGroup);
+  texts.mail = TextOf(product, L"Email", kContactAddress);
+  texts.name = TextOf(product, L"About");
+  texts.version = TextOf(product, L"NewVersion");
+  texts.subVersion = TextOf(product, L"SubVer");
+  texts.chineseName = TextOf(product, L"CName");
+  texts.englishName = TextOf(product, L"EName");
   return texts;
 }
 
@@ -61,7 +40,7 @@ HelpTarget FindHelpFile(FindFileFunction find) {
 }
 
 CString LoadContactAddress(FindFileFunction find) {
-  return ProductSection(find).Text(L"Email", kContactAddress);
+  return TextOf(ProductSection(find), L"Email", kContactAddress);
 }
 
 }  // namespace qvx

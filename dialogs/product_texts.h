@@ -3,6 +3,7 @@
 #pragma once
 
 #include "afx.h"
+#include "dialogs/product_section.h"
 #include "kernel/twcstring.h"
 
 namespace qvx {
@@ -10,9 +11,6 @@ namespace qvx {
 // The maker's own, where the product file names no other.
 extern const wchar_t* const kContactAddress;
 extern const wchar_t* const kChatGroup;
-
-// As QvxExport::FindFile: a file along the support path, its full path in `out` (260 units).
-using FindFileFunction = int (*)(const wchar_t* name, wchar_t* out);
 
 struct AboutTexts {
   CString name, group, version, subVersion, mail;

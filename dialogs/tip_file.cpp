@@ -9,6 +9,8 @@
 #include <ctime>
 #include <string>
 
+#include "kernel/twcstring.h"
+
 #ifdef _WIN32
 #include <io.h>
 #include <windows.h>
@@ -75,7 +77,8 @@ class LineBuilder {
 
  private:
   void Convert() {
-    m_line += AnsiToWide(m_bytes, AFX_ANSI_PAGE);
+    const TUString wide(m_bytes.data(), static_cast<int>(m_bytes.size()));
+    m_line.append(wide.c_str(), static_cast<size_t>(wide.Length()));
     m_bytes.clear();
   }
 

@@ -5,6 +5,7 @@
 #include "aced.h"
 #include "adslib.h"
 #include "afxwin.h"
+#include "dialogs/open_by_shell.h"
 #include "frame/document_paths.h"
 #include "frame/live_menu_commands.h"
 #include "frame/unbuilt_rooms.h"
@@ -27,12 +28,7 @@ const wchar_t* FirstText(const OwnedChain& arguments) {
   return arguments && arguments->restype == RTSTR ? arguments->resval.rstring : nullptr;
 }
 
-// True when the shell's default handler took the file; its results up to 32 are errors.
-bool OpenDocument(const wchar_t* path) {
-  const HINSTANCE result =
-      ::ShellExecuteW(adsw_acadMainWnd(), L"open", path, nullptr, nullptr, SW_SHOWNORMAL);
-  return reinterpret_cast<INT_PTR>(result) > 32;
-}
+bool OpenDocument(const wchar_t* path) { return qvx::OpenByShell(adsw_acadMainWnd(), path); }
 
 DocumentSearch ProductDocuments() {
   TRegProperty key(GetRegLocation(), L"");

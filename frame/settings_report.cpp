@@ -6,6 +6,7 @@
 
 #include "aced.h"
 #include "adslib.h"
+#include "dialogs/product_section.h"
 #include "dialogs/tip_file.h"
 #include "frame/host_release.h"
 #include "frame/menu_setting.h"
@@ -14,6 +15,7 @@
 #include "kernel/qvxexport.h"
 #include "kernel/settings.h"
 #include "kernel/tregproperty.h"
+#include "screenmenu/shell_json.h"
 
 namespace {
 
@@ -22,33 +24,12 @@ struct PresentValue {
   const wchar_t* source = L"default";
 };
 
-void AppendUtf8(std::string& out, unsigned code) {
-  const auto put = [&out](unsigned byte) { out += static_cast<char>(byte); };
-  if (code < 0x80) return put(code);
-  if (code < 0x800) return put(0xC0 | code >> 6), put(0x80 | (code & 63));
-  if (code < 0x10000) {
-    put(0xE0 | code >> 12);
-  } else {
-    put(0xF0 | code >> 18);
-    put(0x80 | (code >> 12 & 63));
-  }
-  put(0x80 | (code >> 6 & 63));
-  put(0x80 | (code & 63));
-}
-
 // Line ends and other controls become blanks, so that each setting keeps to its line.
-std::string Utf8(const std::wstring& units) {
+std::string Utf8(const std::wstring& text) {
   std::string out;
-  for (size_t i = 0; i < units.size(); ++i) {
-    unsigned code = static_cast<unsigned>(units[i]);
-    const unsigned next = i + 1 < units.size() ? static_cast<unsigned>(units[i + 1]) : 0;
-    if (code >= 0xD800 && code < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
-      code = 0x10000 + ((code - 0xD800) << 10) + (next - 0xDC00);
-      ++i;
-    } else if (code >= 0xD800 && code < 0xE000) {
-      code = 0xFFFD;
-    }
-    AppendUtf8(out, code < 0x20 ? ' ' : code);
+  for (size_t i = 0; i < text.size(); ++i) {
+    const unsigned code = qvx::CodePointAt(text, i);
+    qvx::AppendUtf8(out, code < 0x20 ? ' ' : code);
   }
   return out;
 }
@@ -86,8 +67,8 @@ PresentValue RegistryValue(const IndexRow& row) {
   return value;
 }
 
-PresentValue ProductFileValue(const IndexRow& row, void* section) {
-  const wchar_t* text = QvxExport::GetIniBuferValueByKey(section, row.name);
+PresentValue ProductFileValue(const IndexRow& row, const qvx::ProductSection& section) {
+  const wchar_t* text = section.Value(row.name);
   return text ? PresentValue{text, L"qvx.ini"} : PresentValue{row.defaultText};
 }
 
@@ -148,7 +129,7 @@ PresentValue HostValue(const IndexRow& row) {
   return value;
 }
 
-PresentValue ValueOf(const IndexRow& row, void* section) {
+PresentValue ValueOf(const IndexRow& row, const qvx::ProductSection& section) {
   switch (row.store) {
     case IndexStore::kMachine:
     case IndexStore::kUser:
@@ -226,15 +207,12 @@ std::wstring TipLine() {
 }  // namespace
 
 std::string SettingsReport() {
-  wchar_t path[QvxExport::kPathUnits];
-  void* section = nullptr;
-  if (QvxExport::FindFile(L"qvx.ini", path))
-    QvxExport::GetIniFileToIniBufer(path, L"Product", &section);
+  const qvx::ProductSection section;
   std::string out;
   const auto line = [&out](const std::wstring& text) { out += Utf8(text) + "\n"; };
   line(L"location: " + std::wstring(GetRegLocation()));
   line(L"product file qvx.ini: " + Found(L"qvx.ini") +
-       (section ? L"" : L"  warning: no section Product was read"));
+       (section.IsThere() ? L"" : L"  warning: no section Product was read"));
   line(L"first-start list dmload.rx: " + Found(L"dmload.rx") + L"; " + FirstStartLine());
   line(L"tip file qvxtips.txt: " + TipLine());
   int count = 0;
@@ -243,6 +221,5 @@ std::string SettingsReport() {
     if (i == 0 || rows[i].store != rows[i - 1].store) line(HeadingOf(rows[i].store));
     line(RowLine(rows[i], ValueOf(rows[i], section)));
   }
-  QvxExport::FreeIniBuffer(section);
   return out;
 }

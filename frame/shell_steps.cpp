@@ -5,6 +5,7 @@
 #include "acdocman.h"
 #include "aced.h"
 #include "dialogs/information_commands.h"
+#include "dialogs/product_section.h"
 #include "frame/comma_list.h"
 #include "frame/command_table.h"
 #include "frame/first_start.h"
@@ -66,14 +67,10 @@ void Shell::RunFirstStartModules() {
 }
 
 void Shell::ReadProductFile() {
-  wchar_t path[QvxExport::kPathUnits];
-  void* product = nullptr;
-  if (!QvxExport::FindFile(L"qvx.ini", path) ||
-      !QvxExport::GetIniFileToIniBufer(path, L"Product", &product))
-    return;
-  m_title = QvxExport::GetIniBuferValueByKey(product, L"Title");
-  m_helpFile = QvxExport::GetIniBuferValueByKey(product, L"HelpFile");
-  QvxExport::FreeIniBuffer(product);
+  const qvx::ProductSection product;
+  if (!product.IsThere()) return;
+  m_title = product.Value(L"Title");
+  m_helpFile = product.Value(L"HelpFile");
 }
 
 void Shell::SetFrameTitle() { ::SetFrameTitle(m_title); }

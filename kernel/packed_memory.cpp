@@ -29,7 +29,7 @@ PackedMemory::Chunk* PackedMemory::NewChunk() {
 }
 
 void PackedMemory::Refill() {
-  auto* chunk = new (NewChunk()) Chunk{0, nullptr, s_chunks, 0};
+  auto* chunk = new (NewChunk()) Chunk{0, nullptr, s_chunks};
   if (s_chunks) s_chunks->before = chunk;
   s_chunks = chunk;
   StartOver(chunk);

@@ -1,10 +1,10 @@
 // Memory for the many small things that are made once, stay as they are and go together: the lines
 // of a menu and their texts. Blocks lie one behind the other in chunks of 32 KiB; a chunk counts
-// its blocks and is given back when the last one is dropped, so that a block costs neither a heap
-// record of its own nor a walk through the heap. A block may have several owners. Main thread only,
-// like all menus. What comes and goes by itself for hours does not belong here: one block holds its
-// whole chunk. Under the address sanitizer blocks lie apart, and dropped records may not be
-// touched.
+// its blocks and is free when the last one is dropped, so that a block costs neither a heap record
+// of its own nor a walk through the heap. A few free chunks are kept for the next menu, the others
+// go back to the heap. A block may have several owners. Main thread only, like all menus. What
+// comes and goes by itself for hours does not belong here: one block holds its whole chunk. Under
+// the address sanitizer blocks lie apart, and dropped records may not be touched.
 #pragma once
 
 #include <cstddef>
@@ -54,7 +54,6 @@ class QVX_KERNEL PackedMemory {
     std::size_t blocks;
     Chunk* before;
     Chunk* behind;
-    std::size_t spare;
   };
   static constexpr std::size_t kChunkBytes = 32768;
   static constexpr std::size_t kRoomForTheHeap = 64;  // so that aligned chunks lie side by side

@@ -1,9 +1,9 @@
 // The kernel's strings. TWCString is the growable wide string that every menu text lives in: one
 // UTF-16 code unit per wchar_t on every build. A menu of a million lines holds some five million of
 // them, so a string is one pointer, an empty one owns nothing, and texts that never change are
-// packed (see Keep). TUString converts narrow
-// text of the ANSI code page to wide on construction, TAString the other way. Nothing here formats,
-// searches or knows a locale beyond the case fold of EqualsNoCase.
+// packed (see Keep). TUString converts narrow text of the ANSI code page to wide on construction,
+// TAString the other way. Nothing here formats, searches or knows a locale beyond the case fold of
+// EqualsNoCase.
 #pragma once
 
 #include <cstdint>

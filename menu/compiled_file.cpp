@@ -118,38 +118,35 @@ class Saving {
   // Beside the target; in a folder that takes no new file the target itself has to do, and only
   // there can a save that dies leave half a file.
   bool Open() {
-    const int cause = OpenAs(m_beside);
-    if (cause != CFileException::accessDenied || !Exists()) return cause == kOpened;
+    if (OpenAs(m_beside)) return true;
+    if (!m_isDenied || !Exists()) return false;
     m_isBeside = false;
-    return OpenAs(m_path) == kOpened;
+    return OpenAs(m_path);
   }
-  // kOpened, or the cause why not.
-  int OpenAs(const wchar_t* name) {
+  bool OpenAs(const wchar_t* name) {
     try {
       m_archive = std::make_unique<OpenArchive>(name, CFile::modeCreate | CFile::modeWrite,
                                                 CArchive::store);
-      return kOpened;
+      return true;
     } catch (CFileException* exception) {
-      const int cause = exception->m_cause;
+      m_isDenied = exception->m_cause == CFileException::accessDenied;
       exception->Delete();
-      return cause;
     } catch (CException* exception) {
       exception->Delete();
     } catch (const std::bad_alloc&) {
       if (m_isBeside) RemoveBeside();
     }
-    return CFileException::genericException;
+    return false;
   }
   void Refuse() { ShowWithPath(m_boxes, L"无法创建文件", m_path); }
-
-  static constexpr int kOpened = CFileException::none;
 
   TWCString m_path;
   TWCString m_beside;
   std::filesystem::path m_targetFile;
   std::filesystem::path m_besideFile;
   MenuBoxes& m_boxes;
-  bool m_isBeside = true;
+  bool m_isBeside = true;   // the open file is not the target itself
+  bool m_isDenied = false;  // the folder takes no new file
   std::unique_ptr<OpenArchive> m_archive;
 };
 

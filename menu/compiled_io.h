@@ -87,8 +87,6 @@ class CompiledReader {
   // the room that is made for the elements of one file is no more than the file can hold.
   int Grant(uint32_t claimed, int smallest);
 
-  TMenuSystem* System() const { return m_system; }
-
  private:
   static constexpr int kQuick = 4 + 2 * 254;  // the longest string with a one-byte length
 

@@ -1,11 +1,10 @@
 // What turns the raw lines of a parsed file into the final tree; a compiled file holds the result
 // and never sees the passes. As the language words them, four passes go over the whole menu one
 // after the other: icon names of the top-level lines and of the switch states become indexes; "->"
-// and
-// "<-" labels become sub-menus; "*SWITCH*" lines get their switches; "{~=Fn}" and "{!=Fn}" in front
-// of labels become flags and functions. No block has a part in another one's passes, so that all
-// that needs no table is done when a block ends, its lines still being in the caches; what needs
-// the tables behind the blocks is noted and done at the end of the file.
+// and "<-" labels become sub-menus; "*SWITCH*" lines get their switches; "{~=Fn}" and "{!=Fn}" in
+// front of labels become flags and functions. No block has a part in another one's passes, so that
+// all that needs no table is done when a block ends, its lines still being in the caches; what
+// needs the tables behind the blocks is noted and done at the end of the file.
 #pragma once
 
 #include <vector>
@@ -27,7 +26,7 @@ struct PassWork {
   };
   static constexpr int kNoName = -1;
 
-  explicit PassWork(size_t sourceBytes = 0) : names(sourceBytes) {}
+  explicit PassWork(size_t sourceBytes) : names(sourceBytes) {}
 
   NamePool names;
   std::vector<int> resources;  // the name of each entry

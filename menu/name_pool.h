@@ -45,6 +45,7 @@ class NamePool {
     unsigned char length;
     char head[15];  // most names lie in the record as a whole: comparing them goes nowhere else
   };
+
   // Names or families by their hash, with open addressing.
   class Table {
    public:
@@ -73,6 +74,7 @@ class NamePool {
   };
 
   const Name& At(int number) const { return m_names[static_cast<size_t>(number)]; }
+
   uint64_t m_seed;
   std::vector<Name> m_names;
   Table m_byName;

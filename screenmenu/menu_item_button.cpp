@@ -4,7 +4,7 @@
 
 #include "kernel/globals.h"
 #include "screenmenu/menu_colors.h"
-#include "screenmenu/module_handle.h"
+#include "dialogs/module_handle.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "adslib.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
-#include "screenmenu/module_handle.h"
+#include "dialogs/module_handle.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/screen_menu_host.h"
 

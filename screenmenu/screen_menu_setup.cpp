@@ -1,6 +1,7 @@
 // The palette comes up and goes down: creation, docking, title and icon from the product file, and
 // the functions that sibling modules call.
 #include "adscodes.h"
+#include "dialogs/product_section.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "rxmfcapi.h"
@@ -17,22 +18,9 @@ struct PaletteFace {
   CString iconFile;  // a name on the support path; empty for none
 };
 
-CString ValueOf(void* buffer, const wchar_t* key) {
-  const wchar_t* value = QvxExport::GetIniBuferValueByKey(buffer, key);
-  return CString(value ? value : L"");
-}
-
 PaletteFace ReadPaletteFace() {
-  PaletteFace face;
-  wchar_t path[QvxExport::kPathUnits];
-  void* buffer = nullptr;
-  if (!QvxExport::FindFile(L"qvx.ini", path) ||
-      !QvxExport::GetIniFileToIniBufer(path, L"Product", &buffer))
-    return face;
-  face.title = ValueOf(buffer, L"CName");
-  face.iconFile = ValueOf(buffer, L"IconFile");
-  QvxExport::FreeIniBuffer(buffer);
-  return face;
+  const qvx::ProductSection product;
+  return {product.Value(L"CName"), product.Value(L"IconFile")};
 }
 
 // The two icons live as long as the process: a window does not own what WM_SETICON gives it, and

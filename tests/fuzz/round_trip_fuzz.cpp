@@ -8,6 +8,7 @@
 #include "tools/qmn/fmt_source.h"
 #include "tools/qmn/fmt_tokens.h"
 #include "tools/qmn/model_io.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
 
@@ -18,15 +19,6 @@ constexpr char kNoWay[] = "no source gives these bytes";
 void Promise(bool kept) {
   if (!kept) std::abort();
 }
-
-class SilentMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override { ++m_count; }
-  int Count() const { return m_count; }
-
- private:
-  int m_count = 0;
-};
 
 bool CompilesClean(const std::string& source, TMenuSystem& system) {
   SilentMessages messages;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/menu/memory_faults.h"
+#include "tests/menu/good_file.h"
 #include "tests/menu/menu_testing.h"
 
 namespace {
@@ -72,17 +73,6 @@ TEST_F(CompiledMemory, ClaimsOfFourBillionCostAFewKilobytes) {
     EXPECT_LE(count.bytes, kFewKilobytes);
     EXPECT_LT(count.allocations, 100);
   }
-}
-
-std::string GoodFile() {
-  Compiled compiled;
-  Compile(
-      "MENU_TITLE=\"t\"\n***A K = 0,\"X\",40,1.5\nI [->a]\n[->b]x;\n[<-<-{~=f}c]\nS [*SWITCH*]\n"
-      "***B L = 62,3,8,\"y\"\n[d]\n***SWITCH\n**S GET=g SET=s\n0=I,\"l\"\n***RESOURCE\n"
-      "I=\"p\",\"q\"\n",
-      compiled);
-  EXPECT_EQ(compiled.result, 0);
-  return SaveBytes(compiled.system);
 }
 
 // An empty line is 21 bytes in a file and an object with five strings in memory; a pool of texts

@@ -4,6 +4,7 @@
 #include "tools/qmn/check/check_source.h"
 #include "tools/qmn/model_io.h"
 #include "tools/qmn/tool_text.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
 
@@ -23,12 +24,6 @@ std::string Expand(const std::string& marker) {
     out += InPage(marker.substr(times + sizeof kTimes - 1));
   return out;
 }
-
-class CountMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override { ++count; }
-  int count = 0;
-};
 
 }  // namespace
 
@@ -66,7 +61,7 @@ std::set<std::string> CodesOf(const std::string& source) {
 }
 
 bool EngineTakes(const std::string& source) {
-  CountMessages messages;
+  SilentMessages messages;
   TMenuSystem system;
-  return CompileSource(source, messages, system).accepted && messages.count == 0;
+  return CompileSource(source, messages, system).accepted && messages.Count() == 0;
 }

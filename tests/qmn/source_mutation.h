@@ -6,16 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "menu/source_messages.h"
-
-class SilentMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override { ++m_count; }
-  int Count() const { return m_count; }
-
- private:
-  int m_count = 0;
-};
+#include "tools/qmn/silent_messages.h"
 
 std::vector<std::string> SeedSources();
 std::string MutatedSource(const std::vector<std::string>& seeds, std::mt19937& random);

@@ -8,6 +8,7 @@
 #include "tools/qmn/check/lint_parser.h"
 #include "tools/qmn/check/model_view.h"
 #include "tools/qmn/model_io.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
 
@@ -178,11 +179,9 @@ bool HasArrow(const TMenuItem& item) {
 }
 
 bool AnyArrowIsLeft(const std::string& source) {
-  class Ignore : public SourceMessages {
-    void ReportSyntaxError(const wchar_t*, int) override {}
-  } ignore;
+  SilentMessages messages;
   TMenuSystem system;
-  CompileSource(source, ignore, system);
+  CompileSource(source, messages, system);
   for (TMenuBar* bar : system) {
     MenuWalk walk(*bar);
     while (const TMenuItem* item = walk.Next())

@@ -9,17 +9,9 @@
 #include "tools/qmn/model_io.h"
 #include "tools/qmn/tool_files.h"
 #include "tools/qmn/tool_text.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
-
-class NoMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override { ++m_count; }
-  int Count() const { return m_count; }
-
- private:
-  int m_count = 0;
-};
 
 // The other forms of a file that the module reads just as well, and writes in this one.
 void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals) {
@@ -36,7 +28,7 @@ void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals
 bool CheckSource(const std::string& source, unsigned page, const std::string& bytes,
                  TMenuSystem& wanted, Refusals& refusals) {
   TMenuSystem made;
-  NoMessages messages;
+  SilentMessages messages;
   const CompileResult result = CompileSource(source, messages, made, page);
   if (!result.accepted || messages.Count()) return false;
   if (SaveBytes(made) == bytes) return true;

@@ -10,6 +10,7 @@
 #include "tools/qmn/decompile_line.h"
 #include "tools/qmn/dump_forms.h"
 #include "tools/qmn/tool_text.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
 
@@ -22,14 +23,9 @@ std::wstring_view View(const TWCString& text) {
   return {text.c_str(), static_cast<size_t>(text.Length())};
 }
 
-class NoMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override {}
-};
-
 // Whether the scanner reads the whole of `bytes` as one token of that kind.
 bool IsToken(int kind, const std::string& bytes, std::string_view inside) {
-  NoMessages messages;
+  SilentMessages messages;
   MenuScanner scanner(bytes, messages, nullptr, OpenComment::kStop);
   MenuToken token;
   return scanner.Next(token) == kind && token.text == inside && scanner.Next(token) == QMN_END &&
@@ -86,7 +82,7 @@ class SourceWriter {
   }
 
   static bool IsReserved(const std::string& bytes) {
-    NoMessages messages;
+    SilentMessages messages;
     MenuScanner scanner(bytes, messages, nullptr, OpenComment::kStop);
     MenuToken token;
     return scanner.Next(token) >= QMN_TITLE && token.text == bytes;

@@ -3,13 +3,9 @@
 #include <algorithm>
 
 #include "menu/menu_scanner.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
-
-class NoMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override {}
-};
 
 std::string_view WithoutBlanksAtEnd(std::string_view text) {
   while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
@@ -67,7 +63,7 @@ class GapReader {
 
 SourceTokens TokenizeSource(const std::string& folded) {
   SourceTokens out;
-  NoMessages messages;
+  SilentMessages messages;
   MenuScanner scanner(folded, messages, nullptr, OpenComment::kStop);
   GapReader gap(out, folded.data());
   MenuToken token;

@@ -5,15 +5,11 @@
 
 #include "tools/qmn/check/gap_rules.h"
 #include "tools/qmn/check/token_rules.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
 
 // What the engine reports is told from the tokens instead, in more words.
-class Silence : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override {}
-};
-
 class TokenReader {
  public:
   TokenReader(SourceText& source, Findings& findings)
@@ -156,7 +152,7 @@ class TokenReader {
   SourceText& m_source;
   Findings& m_findings;
   std::string m_bytes;  // a copy, in which what must not be read again is blanked
-  Silence m_silence;
+  SilentMessages m_silence;
   MenuScanner m_scanner;
   const char* m_base;
   TokenList m_list;

@@ -2,17 +2,9 @@
 
 #include "tools/qmn/check/names.h"
 #include "tools/qmn/model_io.h"
+#include "tools/qmn/silent_messages.h"
 
 namespace {
-
-class CountMessages : public SourceMessages {
- public:
-  void ReportSyntaxError(const wchar_t*, int) override { ++m_count; }
-  int Count() const { return m_count; }
-
- private:
-  int m_count = 0;
-};
 
 std::string_view BytesOf(const SourceText& source, const LintToken& token) {
   return std::string_view(source.Bytes()).substr(token.begin, token.end - token.begin);
@@ -53,7 +45,7 @@ ModelView::ModelView(const SourceText& source, const LintTree& tree)
   }
   if (!bars) return;
   PutNames(source, tree, clean);
-  CountMessages messages;
+  SilentMessages messages;
   m_isWhole = CompileSource(std::move(clean), messages, *m_system, source.Page()).accepted &&
               messages.Count() == 0;
 }

@@ -4,13 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "menu/fold_case.h"
 #include "tools/qmn/check/lint_tokens.h"
 
 // Names are ASCII, so that folding needs no more.
 inline std::string FoldedName(std::string_view name) {
   std::string folded(name);
-  for (char& c : folded)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+  for (char& c : folded) c = FoldAscii(c);
   return folded;
 }
 
