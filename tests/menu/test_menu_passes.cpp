@@ -202,6 +202,8 @@ TEST(StripConditions, WordsAreDelimitedByBlanks) {
 
 TEST(StripConditions, BlanksAreTrimmedAndTabsStay) {
   EXPECT_EQ(Condition("  abc  "), "\"abc\"\n");
+  EXPECT_EQ(Condition(" abc"), "\"abc\"\n");
+  EXPECT_EQ(Condition("abc "), "\"abc\"\n");
   EXPECT_EQ(Condition("\tab"), "\"\\x09ab\"\n");
 }
 
