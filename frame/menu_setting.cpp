@@ -19,7 +19,8 @@ TWCString MenuSettingFolder() {
 }
 
 bool LoadMenuSetting(TWCString& value) {
-  const TRegProperty key(GetRegLocation(), MenuSettingFolder());
+  TRegProperty key(GetRegLocation(), MenuSettingFolder());
+  key.SetTopRootKey(HKEY_CURRENT_USER);
   CString text;
   if (!key.GetValue(L"Menu", text)) return false;
   value = text.GetString();

@@ -90,34 +90,44 @@ TEST_F(FrameValues, AnEmptyListIsWrittenAsEmptyText) {
   EXPECT_STREQ(RecentText().GetString(), L"");
 }
 
-TEST_F(FrameValues, AFirstStartIsOneOnly) {
-  g_dHostVersion = 17.15;
+TEST_F(FrameValues, AFirstStartOfEachReleaseIsOneOnlyAndTouchesItsOwnValueAlone) {
+  const struct {
+    double release;
+    const wchar_t* name;
+  } rows[] = {
+      {15.0, L"InitStart15"},   {16.0, L"InitStart16"}, {16.1, L"InitStart16.1"},
+      {16.2, L"InitStart16.2"}, {17.0, L"InitStart17"}, {17.1, L"InitStart17.1"},
+      {17.2, L"InitStart17.2"}, {18.0, L"InitStart18"}, {18.1, L"InitStart18.1"},
+      {18.2, L"InitStart18.2"}, {19.0, L"InitStart19"},
+  };
+  for (const auto& row : rows) {
+    ForgetMachineValues();
+    EXPECT_FALSE(HasStartedBefore(row.release)) << row.release;
+    for (const auto& other : rows)
+      EXPECT_EQ(Flag(other.name), other.name == row.name ? 1 : -1) << row.release;
+    EXPECT_EQ(Flag(L"InitStart19.1"), -1) << row.release;
+    EXPECT_TRUE(HasStartedBefore(row.release)) << row.release;
+  }
+}
+
+TEST_F(FrameValues, AValueOfZeroIsAFirstStart) {
+  ForgetMachineValues();
   SetFlag(L"InitStart17.2", 0);
   EXPECT_FALSE(HasStartedBefore(17.15));
   EXPECT_EQ(Flag(L"InitStart17.2"), 1);
-  EXPECT_TRUE(HasStartedBefore(17.15));
 }
 
-TEST_F(FrameValues, AboveNineteenTheOlderValueDecides) {
-  SetFlag(L"InitStart19.1", 0);
-  SetFlag(L"InitStart19", 1);
-  EXPECT_TRUE(HasStartedBefore(24.0)) << "19.1 is new, 19 was there";
-  EXPECT_EQ(Flag(L"InitStart19.1"), 1);
-  SetFlag(L"InitStart19.1", 1);
-  SetFlag(L"InitStart19", 0);
-  EXPECT_FALSE(HasStartedBefore(24.0));
-}
-
-TEST_F(FrameValues, AboveNineteenTheOlderValueAloneMeansItHasStarted) {
-  ForgetMachineValues();
-  SetFlag(L"InitStart19", 1);
-  ASSERT_EQ(Flag(L"InitStart19.1"), -1) << "it is not there";
-  EXPECT_TRUE(HasStartedBefore(24.0)) << "so that no module of the first-start list is loaded";
-  EXPECT_EQ(Flag(L"InitStart19.1"), 1);
-}
-
-TEST_F(FrameValues, AboveNineteenNeitherValueMeansAFirstStart) {
-  ForgetMachineValues();
-  EXPECT_FALSE(HasStartedBefore(24.0));
-  EXPECT_EQ(Flag(L"InitStart19"), 1);
+// -1 stands for a value that is not there. The second read decides when it finds a value.
+TEST_F(FrameValues, AboveNineteenTheSecondValueDecidesWhereItIsThere) {
+  for (const int newer : {-1, 0, 1}) {
+    for (const int older : {-1, 0, 1}) {
+      ForgetMachineValues();
+      if (newer >= 0) SetFlag(L"InitStart19.1", newer);
+      if (older >= 0) SetFlag(L"InitStart19", older);
+      EXPECT_EQ(HasStartedBefore(24.0), older >= 0 ? older == 1 : newer == 1)
+          << newer << " " << older;
+      EXPECT_EQ(Flag(L"InitStart19.1"), 1);
+      EXPECT_EQ(Flag(L"InitStart19"), 1);
+    }
+  }
 }
