@@ -43,7 +43,9 @@ Acad::ErrorStatus AcDbObject::close() {
 
 Acad::ErrorStatus AcDbObject::upgradeOpen() {
   if (m_openCount == 0) return Acad::eNotOpenForWrite;
-  return MayWrite(m_database) ? Acad::eOk : Acad::eLockViolation;
+  if (!MayWrite(m_database)) return Acad::eLockViolation;
+  AcDbObjectAccess::TellChanging(*this);
+  return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDbObject::erase(bool erasing) {
@@ -86,6 +88,7 @@ resbuf* AcDbObject::xData(const ACHAR* application) const {
 // Replaces the data of the applications named in the chain and leaves that of others.
 Acad::ErrorStatus AcDbObject::setXData(const resbuf* data) {
   if (!data || data->restype != 1001 || !data->resval.rstring) return Acad::eInvalidInput;
+  AcDbObjectAccess::TellChanging(*this);
   const std::wstring application = data->resval.rstring;
   resbuf* kept = nullptr;
   resbuf** tail = &kept;
@@ -107,6 +110,21 @@ Acad::ErrorStatus AcDbObject::setXData(const resbuf* data) {
   *tail = data->rbnext ? CopyChain(data, nullptr) : nullptr;
   m_xdata = kept;
   return Acad::eOk;
+}
+
+void AcDbObjectAccess::SetXData(AcDbObject& object, const resbuf* all) {
+  acutRelRb(object.m_xdata);
+  object.m_xdata = CopyChain(all, nullptr);
+}
+
+void AcDbObjectAccess::ClearLinetype(AcDbEntity& entity) {
+  acutDelString(entity.m_linetype);
+  entity.m_linetype = nullptr;
+}
+
+void AcDbObjectAccess::TellChanging(AcDbObject& object) {
+  if (object.m_database && object.m_database->body().onChanging)
+    object.m_database->body().onChanging(&object);
 }
 
 Acad::ErrorStatus AcDbObject::dxfInFields(AcDbDxfFiler*) { return Acad::eOk; }
@@ -131,7 +149,7 @@ AcDbDatabase::AcDbDatabase() : m_body(new Body) {
 }
 
 AcDbDatabase::~AcDbDatabase() {
-  m_body->onErased = nullptr;
+  m_body->onErased = m_body->onChanging = nullptr;
   m_body->onMoved = nullptr;
   delete m_body;
 }
@@ -221,6 +239,7 @@ Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb:
   if (mode == AcDb::kForWrite && !MayWrite(id.database())) return Acad::eLockViolation;
   object = id.object();
   AcDbObjectAccess::CountOpen(object);
+  if (mode == AcDb::kForWrite) AcDbObjectAccess::TellChanging(*object);
   return Acad::eOk;
 }
 

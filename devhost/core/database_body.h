@@ -28,6 +28,7 @@ struct AcDbDatabase::Body {
   int modified = 0;
   // Undo recording; the document sets them.
   std::function<void(AcDbObject*)> onErased, onAdded;
+  std::function<void(AcDbObject*)> onChanging;  // its data may change from now on
   std::function<void(AcDbEntity*, const AcGeMatrix3d&)> onMoved;
 
   std::uint64_t NextHandle();
@@ -46,4 +47,8 @@ struct AcDbObjectAccess {
   // Groups of an entity's common part that have no member, such as line weight and true colour.
   static std::vector<KeptGroup>& CommonGroups(AcDbEntity& entity);
   static const resbuf* XData(const AcDbObject& object) { return object.m_xdata; }
+  static void SetXData(AcDbObject& object, const resbuf* all);  // all applications at once; copied
+  static bool HasLinetype(const AcDbEntity& entity) { return entity.m_linetype != nullptr; }
+  static void ClearLinetype(AcDbEntity& entity);
+  static void TellChanging(AcDbObject& object);
 };

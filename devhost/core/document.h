@@ -52,7 +52,8 @@ class Document : public AcApDocument {
   UndoStep* recording = nullptr;
   int undoGroup = -1;  // how many steps there were when the open group began; -1: none is open
   int locks = 0;
-  bool closeWaits = false;  // it is to be closed as soon as nothing runs in it
+  std::unique_ptr<UndoRecording> lockStep;  // open while a lock outside all commands lasts
+  bool closeWaits = false;                  // it is to be closed as soon as nothing runs in it
   std::wstring lastCommand;
 
  private:

@@ -125,6 +125,7 @@ void DocumentList::Close(Document* document) {
   Notify([&](AcApDocManagerReactor* r) { r->documentToBeDestroyed(document); });
   TheHost().modules.SendToAll(AcRx::kUnloadDwgMsg, document);
   const std::wstring title = document->Title();
+  document->lockStep.reset();
   std::erase(m_order, document);
   if (m_current == document) {
     m_current = nullptr;
@@ -198,18 +199,20 @@ Acad::ErrorStatus DocumentList::closeDocument(AcApDocument* document) {
   return Acad::eOk;
 }
 
+// What code outside all commands writes under its lock is one undo step.
 Acad::ErrorStatus DocumentList::lockDocument(AcApDocument* document, AcAp::DocLockMode,
-                                             const ACHAR*, const ACHAR*, bool) {
+                                             const ACHAR* command, const ACHAR*, bool) {
   Document* known = Known(document);
   if (!known) return Acad::eNoDocument;
-  ++known->locks;
+  if (known->locks++ == 0)
+    known->lockStep = std::make_unique<UndoRecording>(*known, command ? command : L"GROUP");
   return Acad::eOk;
 }
 
 Acad::ErrorStatus DocumentList::unlockDocument(AcApDocument* document) {
   Document* known = Known(document);
   if (!known || known->locks == 0) return Acad::eNoDocument;
-  --known->locks;
+  if (--known->locks == 0) known->lockStep.reset();
   return Acad::eOk;
 }
 

@@ -93,6 +93,8 @@ Acad::ErrorStatus AcDbBlockReference::subTransformBy(const AcGeMatrix3d& m) {
 
 Acad::ErrorStatus AcDbBlockReference::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  m_columns = m_rows = 1;
+  m_columnGap = m_rowGap = 0;
   return ForEachItem(filer, [&](const resbuf& item) {
     const double real = item.resval.rreal;
     switch (item.restype) {
@@ -163,6 +165,8 @@ Acad::ErrorStatus AcDbDimension::subTransformBy(const AcGeMatrix3d&) {
 
 Acad::ErrorStatus AcDbDimension::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  m_block = m_style = L"";
+  m_rotation = 0;
   return ForEachItem(filer, [&](const resbuf& item) {
     switch (item.restype) {
       case 1:

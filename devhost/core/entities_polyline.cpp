@@ -31,6 +31,7 @@ Acad::ErrorStatus AcDbPolyline::subTransformBy(const AcGeMatrix3d& m) {
 
 Acad::ErrorStatus AcDbPolyline::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  m_vertices.clear();
   return ForEachItem(filer, [&](const resbuf& item) {
     if (item.restype == 10) m_vertices.push_back({PointOfItem(item), 0});
     if (item.restype == 42 && !m_vertices.empty()) m_vertices.back().bulge = item.resval.rreal;
@@ -55,6 +56,7 @@ Acad::ErrorStatus AcDbPolyline::dxfOutFields(AcDbDxfFiler* filer) const {
 // 0.
 Acad::ErrorStatus AcDb2dPolyline::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  m_vertices.clear();
   bool inVertex = false;
   int vertexFlags = 0;
   return ForEachItem(filer, [&](const resbuf& item) {

@@ -54,6 +54,11 @@ Acad::ErrorStatus AcDbText::subTransformBy(const AcGeMatrix3d& m) {
 
 Acad::ErrorStatus AcDbText::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  m_text = m_style = m_tag = L"";
+  m_at = m_alignment = {};
+  m_height = m_rotation = 0;
+  m_width = 1;
+  m_horizontal = m_vertical = m_flags = 0;
   return ForEachItem(filer, [&](const resbuf& item) {
     switch (item.restype) {
       case 1:
@@ -147,6 +152,8 @@ Acad::ErrorStatus AcDbMText::subTransformBy(const AcGeMatrix3d& m) {
 
 Acad::ErrorStatus AcDbMText::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  m_style = L"";
+  m_rotation = 0;
   std::wstring text;  // long contents come in pieces of group 3, the last in group 1
   const Acad::ErrorStatus status = ForEachItem(filer, [&](const resbuf& item) {
     switch (item.restype) {

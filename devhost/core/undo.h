@@ -1,11 +1,16 @@
-// Undo steps: what was added, erased or moved while a command or a LISP call ran, and how to take
-// it back. Changes to an entity's own data (a text's string) are not recorded.
+// Undo steps: what changed in a drawing while a command, a LISP call or a document lock lasted, and
+// how to take it back: objects added and erased, moves, the data of objects that were opened for
+// writing, variables of the drawing. Selections and views are not taken back, and nothing is
+// redone.
 #pragma once
 
+#include <memory>
+#include <optional>
+#include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "devhost/core/object_state.h"
 #include "gepnt3d.h"
 
 class AcDbEntity;
@@ -15,12 +20,21 @@ namespace devhost {
 
 class Document;
 
+struct UndoChange {
+  enum class Kind { Added, Erased, Moved, Data, Variable } kind;
+  AcDbObject* object = nullptr;
+  AcGeMatrix3d back;                         // Moved
+  std::unique_ptr<const ObjectState> state;  // Data: as it was before the first change of the step
+  std::wstring name;                         // Variable
+  std::optional<std::wstring> value;  // Variable: what it was; none: it had its initial value
+};
+
 struct UndoStep {
   std::wstring command;
-  std::vector<AcDbObject*> added, erased;
-  std::vector<std::pair<AcDbEntity*, AcGeMatrix3d>> moved;  // with the way back, in order
+  std::vector<UndoChange> changes;        // in the order in which they happened
+  std::set<const AcDbObject*> kept = {};  // objects whose data stand among the changes
 
-  bool IsEmpty() const { return added.empty() && erased.empty() && moved.empty(); }
+  bool IsEmpty() const { return changes.empty(); }
 };
 
 // Gathers all that happens in a drawing during its life into one step; inside another recording it
@@ -40,6 +54,8 @@ class UndoRecording {
 
 // Makes the drawing tell its changes to the recording that is open.
 void WatchForUndo(Document& document);
+// A variable of the drawing is about to be written.
+void KeepVariableForUndo(Document& document, const std::wstring& name);
 // Takes the latest step back, unrecorded; its command's name, empty when there was none.
 std::wstring TakeBackLatest(Document& document);
 // From Begin to End all steps become one. A second Begin ends the first group.

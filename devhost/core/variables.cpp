@@ -87,6 +87,13 @@ void FollowSpace(Document& document, const std::wstring& name, const std::wstrin
   document.database()->body().paperIsCurrent = paper && document.variables[L"CVPORT"] == L"1";
 }
 
+// What TILEMODE takes along is put back behind it, that is recorded before it.
+void KeepForUndo(Document& document, const std::wstring& name) {
+  if (name == L"TILEMODE")
+    for (const wchar_t* follower : {L"CVPORT", L"CTAB"}) KeepVariableForUndo(document, follower);
+  KeepVariableForUndo(document, name);
+}
+
 // Variables whose value is the state itself; false for the stored ones.
 bool Computed(const std::wstring& name, const Document* document, std::wstring* value) {
   Host& host = TheHost();
@@ -168,11 +175,25 @@ VarResult VariableTable::Set(const std::wstring& name, const std::wstring& value
       stored = std::to_wstring(static_cast<int>(number));
     }
   }
+  if (info->ofDrawing) KeepForUndo(*document, info->name);
   (info->ofDrawing ? document->variables : m_global)[info->name] = stored;
   if (info->ofDrawing) FollowSpace(*document, info->name, stored);
   TheJournal().Record("var", {{"name", Utf8(info->name)}, {"value", Utf8(stored)}});
   TheHost().Ui().VariableChanged(info->name);
   return VarResult::Ok;
+}
+
+void PutBackVariable(Document& document, const std::wstring& name,
+                     const std::optional<std::wstring>& value) {
+  const VariableInfo* info = TheHost().variables.Find(name);
+  if (value)
+    document.variables[name] = *value;
+  else
+    document.variables.erase(name);
+  const std::wstring now = value ? *value : info->initial;
+  FollowSpace(document, name, now);
+  TheJournal().Record("var", {{"name", Utf8(name)}, {"value", Utf8(now)}});
+  TheHost().Ui().VariableChanged(name);
 }
 
 void LoadHeaderVariables(Document& document) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 namespace devhost {
@@ -36,5 +37,8 @@ class Document;
 // know stay in the header as they came.
 void LoadHeaderVariables(Document& document);
 void SaveHeaderVariables(Document& document);
+// For undo: the value that the variable had; none: its initial one.
+void PutBackVariable(Document& document, const std::wstring& name,
+                     const std::optional<std::wstring>& value);
 
 }  // namespace devhost

@@ -1,6 +1,9 @@
 // The record that all drawing objects of the family share; see the header.
 #include "kernel/entities/qvx_entity.h"
 
+#include "kernel/entities/tdbdimension2.h"
+#include "kernel/tdbconfig.h"
+
 #include <cmath>
 #include <numbers>
 
@@ -15,7 +18,6 @@ ACRX_DXF_DEFINE_MEMBERS(QvxDbColumn, QvxDbEntity, 0, 0, 0, QVX_COLUMN, qvx_kerna
 ACRX_DXF_DEFINE_MEMBERS(QvxDbAxisNumber, QvxDbEntity, 0, 0, 0, QVX_AXNO, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbText, QvxDbEntity, 0, 0, 0, QVX_TEXT, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbStair, QvxDbEntity, 0, 0, 0, QVX_STAIR, qvx_kernal)
-ACRX_DXF_DEFINE_MEMBERS(QvxDbDimension, QvxDbEntity, 0, 0, 0, QVX_DIM, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbSpace, QvxDbEntity, 0, 0, 0, QVX_SPACE, qvx_kernal)
 
 Acad::ErrorStatus QvxDbEntity::subTransformBy(const AcGeMatrix3d& matrix) {
@@ -28,6 +30,8 @@ Acad::ErrorStatus QvxDbEntity::subTransformBy(const AcGeMatrix3d& matrix) {
 
 Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
+  label.clear();
+  outline.clear();
   resbuf item{};
   while (filer->readItem(&item) == Acad::eOk) {
     const AcGePoint3d point(item.resval.rpoint[0], item.resval.rpoint[1], item.resval.rpoint[2]);
@@ -47,6 +51,9 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
         break;
       case 41:
         size = item.resval.rreal;
+        break;
+      case 42:
+        m_pscale = item.resval.rreal;
         break;
       case 50:
         angle = item.resval.rreal * kDegree;
@@ -68,6 +75,7 @@ Acad::ErrorStatus QvxDbEntity::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);
   filer->writeString(100, isA()->name());
   if (!label.empty()) filer->writeString(1, label.c_str());
+  filer->writeDouble(42, m_pscale);
   if (HasOutline()) {
     filer->writeInt(90, static_cast<int>(outline.size()));
     for (const AcGePoint3d& corner : outline) filer->writePoint(10, corner);
@@ -115,13 +123,14 @@ void Forget() {
 
 void BeginQvxEntities() {
   RegisterAll<QvxDbEntity, QvxDbWall, QvxDbOpening, QvxDbColumn, QvxDbAxisNumber, QvxDbText,
-              QvxDbStair, QvxDbDimension, QvxDbSpace>();
+              QvxDbStair, TDbDimension2, QvxDbSpace>();
   acrxBuildClassHierarchy();
 }
 
 void EndQvxEntities() {
+  Forget<TDbConfig>();
   Forget<QvxDbSpace>();
-  Forget<QvxDbDimension>();
+  Forget<TDbDimension2>();
   Forget<QvxDbStair>();
   Forget<QvxDbText>();
   Forget<QvxDbAxisNumber>();

@@ -68,6 +68,7 @@ class AcDbObject : public AcRxObject {
 
   Acad::ErrorStatus close();
   Acad::ErrorStatus upgradeOpen();
+  Acad::ErrorStatus downgradeOpen();  // from writing to reading
   virtual Acad::ErrorStatus erase(bool erasing = true);
   bool isErased() const { return m_erased; }
   bool isReadEnabled() const { return m_openCount > 0; }
@@ -77,6 +78,8 @@ class AcDbObject : public AcRxObject {
   resbuf* xData(const ACHAR* application = nullptr) const;
   Acad::ErrorStatus setXData(const resbuf* data);
 
+  // Undo reads an object's earlier groups into the object itself: what a class writes only at times
+  // it sets to its default first.
   virtual Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer);
   virtual Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const;
 
@@ -110,6 +113,7 @@ class AcDbEntity : public AcDbObject {
   virtual bool subWorldDraw(AcGiWorldDraw* draw) const;          // false: nothing to draw
   virtual Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix);
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix);
+  Acad::ErrorStatus draw();  // paints the drawing that it stands in anew
 
   // Common groups (layer, colour, linetype, space) go first; a class reads its own behind them.
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
@@ -137,6 +141,12 @@ class AcDbDatabase {
   Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, bool create, const AcDbHandle& handle) const;
   Acad::ErrorStatus getBlockTable(AcDbBlockTable*& table, AcDb::OpenMode mode);
   Acad::ErrorStatus getLayerTable(AcDbLayerTable*& table, AcDb::OpenMode mode);
+  Acad::ErrorStatus getSymbolTable(AcDbBlockTable*& table, AcDb::OpenMode mode) {
+    return getBlockTable(table, mode);
+  }
+  Acad::ErrorStatus getSymbolTable(AcDbLayerTable*& table, AcDb::OpenMode mode) {
+    return getLayerTable(table, mode);
+  }
   AcDbObjectId blockTableId() const;
   AcDbObjectId layerTableId() const;
   AcDbObjectId currentSpaceId() const;  // model or paper space, as TILEMODE and CVPORT say
