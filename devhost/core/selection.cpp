@@ -236,6 +236,8 @@ void AddAll(std::vector<AcDbObjectId>& set, const std::vector<AcDbEntity*>& foun
       set.push_back(e->objectId());
 }
 
+constexpr double kPickReach = 6;  // pixels
+
 // Asks for objects until Enter: a click takes one, "ALL" everything, "P" the previous ones, "L" the
 // latest, and a click beside all of them begins a box.
 int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObjectId>& set) {
@@ -256,7 +258,7 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
         if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
       AddAll(set, found, filter);
     } else if (AcDbEntity* hit = EntityAt(*document.database(), {at[0], at[1], 0},
-                                          6 / document.view.PixelsPerUnit())) {
+                                          kPickReach / document.view.PixelsPerUnit())) {
       AddAll(set, {hit}, filter);
     } else {
       ads_point other{};
@@ -280,7 +282,12 @@ int acedSSGet(const ACHAR* mode, const void* first, const void* second, const re
   if (!document || !set) return RTERROR;
   const std::wstring how = mode ? UpperCase(mode) : L"";
   std::vector<AcDbObjectId> ids, source;
-  if (how.empty()) {
+  if (how.empty() && first) {
+    const double* at = static_cast<const double*>(first);
+    if (AcDbEntity* hit = EntityAt(*document->database(), {at[0], at[1], 0},
+                                   kPickReach / document->view.PixelsPerUnit()))
+      AddAll(ids, {hit}, filter);
+  } else if (how.empty()) {
     source = document->pickFirst;
     if (source.empty()) {
       const int status = AskForObjects(*document, filter, ids);
@@ -312,6 +319,10 @@ int acedSSGet(const ACHAR* mode, const void* first, const void* second, const re
   document->previousSelection = ids;
   NewSet(std::move(ids), set);
   return RTNORM;
+}
+
+int acutWcMatch(const ACHAR* text, const ACHAR* patterns) {
+  return text && patterns && WildMatch(text, patterns) ? RTNORM : RTERROR;
 }
 
 int acedSSFree(const ads_name set) { return ForgetSet(set) ? RTNORM : RTERROR; }

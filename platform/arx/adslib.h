@@ -54,8 +54,9 @@ int acedGetInput(ACHAR* keyword);  // the keyword behind RTKWORD
 int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point);
 
 // Selection sets ---------------------------------------------------------------------------------
-int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
-              ads_name set);  // modes: null (ask), "X", "I", "P", "L", "C", "W", "A"
+int acedSSGet(
+    const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
+    ads_name set);  // modes: null (ask, or at the first point), "X", "I", "P", "L", "C", "W", "A"
 int acedSSFree(const ads_name set);
 int acedSSLength(const ads_name set, int* length);
 int acedSSName(const ads_name set, int index, ads_name entity);
@@ -65,6 +66,8 @@ int acedSSMemb(const ads_name entity, const ads_name set);
 int acedSSGetFirst(resbuf** grips, resbuf** pickFirst);
 int acedSSSetFirst(const ads_name pickFirst, const ads_name unused);
 int acedRedraw(const ads_name entity, int mode);  // null entity: everything
+// RTNORM when the text fits one of the wild card patterns that commas part; case is ignored.
+int acutWcMatch(const ACHAR* text, const ACHAR* patterns);
 
 // Files, commands, menus
 // -----------------------------------------------------------------------------
