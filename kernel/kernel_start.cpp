@@ -7,6 +7,7 @@
 #include "aced.h"
 #include "adslib.h"
 #include "kernel/globals.h"
+#include "kernel/logical_layers.h"
 #include "kernel/settings.h"
 #include "kernel/tsplitpath.h"
 
@@ -35,8 +36,11 @@ void StartKernel(const wchar_t* modulePath) {
   SetAppPath(modulePath);
 }
 
+// The active drawing and not the one in scope: while a module is loaded, the host asks it to prepare
+// every open drawing in turn, and none of these becomes the user's by that.
 void DocStatus() {
   AcApDocManager* documents = acDocManagerPtr();
-  AcApDocument* current = documents ? documents->curDocument() : nullptr;
-  QvxGeLib::g_pCurrentDb = current ? current->database() : nullptr;
+  AcApDocument* active = documents ? documents->mdiActiveDocument() : nullptr;
+  QvxGeLib::g_pCurrentDb = active ? active->database() : nullptr;
+  ForgetLogicalLayers();
 }

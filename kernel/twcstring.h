@@ -51,6 +51,9 @@ class QVX_KERNEL TWCString {
     Append(&unit, 1);
     return *this;
   }
+  // Appends the number: at most four decimals, none that are zero, never an exponent; "?" for what
+  // is no number.
+  TWCString& operator<<(double value);
 
   // Never null; valid until the next change.
   operator const wchar_t*() const noexcept { return c_str(); }

@@ -1,23 +1,24 @@
 // The drawing objects of the family: walls, openings, columns, axis numbers, rooms, texts and
-// stairs, as far as our sample modules need them. They share one record of plain values, which is
-// also what stands in drawing files; each class says what it draws from it. Lengths are
-// millimetres, angles degrees in files and radians here. Editing rules (joining walls, moving
-// openings along) are no business of this stand-in.
+// stairs, as far as our sample modules need them; dimensions stand in tdbdimension2.h. They share
+// one record of plain values, which is also what stands in drawing files; each class says what it
+// draws from it. Lengths are millimetres, angles degrees in files and radians here. Editing rules
+// (joining walls, moving openings along) are no business of this stand-in.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "dbents.h"
+#include "kernel/entities/tentitybase.h"
 #include "kernel/kernel_export.h"
 
-class QVX_KERNEL QvxDbEntity : public AcDbEntity {
+class QVX_KERNEL QvxDbEntity : public AcDbEntity, public TEntityBase {
  public:
   ACRX_DECLARE_MEMBERS(QvxDbEntity);
 
   AcGePoint3d start, end;            // groups 10 and 11
   double width = 0, size = 0;        // groups 40 and 41
-  double angle = 0;                  // group 50
+  double angle = 0;                  // group 50; the scale is group 42
   int kind = 0, flags = 0;           // groups 70 and 71
   std::wstring label;                // group 1
   std::vector<AcGePoint3d> outline;  // further groups 10 of a class that has corners
@@ -44,7 +45,6 @@ QVX_ENTITY(QvxDbColumn);      // start the middle; width by size
 QVX_ENTITY(QvxDbAxisNumber);  // start the middle; width the radius; label
 QVX_ENTITY(QvxDbText);        // start; width the height; angle; label
 QVX_ENTITY(QvxDbStair);       // start the lower left; width by size; kind the number of steps
-QVX_ENTITY(QvxDbDimension);   // start, end measured; width the distance of the line to the left
 #undef QVX_ENTITY
 
 class QVX_KERNEL QvxDbSpace : public QvxDbEntity {  // outline; label

@@ -6,12 +6,14 @@
 
 #include "dbsymtb.h"
 #include "kernel/entities/qvx_entity.h"
+#include "kernel/tdbconfig.h"
 
 namespace {
 
 constexpr double kOnAxis =
     1;  // how far an opening's middle may lie beside the axis of its wall, mm
-constexpr short kGlass = 4, kFillColor = 8, kLeaf = 2;
+constexpr short kGlass = 4, kFillColor = 8, kLeaf = 2, kBaseLine = 1, kByLayer = 256;
+constexpr double kBoldPen = 40;  // mm at the default scale
 
 AcGePoint3d At(const AcGePoint3d& origin, const AcGeVector3d& along, double x, double y) {
   return {origin.x + along.x * x - along.y * y, origin.y + along.y * x + along.x * y, origin.z};
@@ -65,19 +67,62 @@ std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double
 
 }  // namespace
 
-// Filled pieces between the openings. Half the width more at both ends makes corners whole without
+namespace {
+
+// How walls and columns of a drawing look at present.
+struct CutLook {
+  bool filled = true, bold = false, base = false;
+  double pen = kBoldPen;
+};
+
+CutLook LookIn(AcDbDatabase* database, double scaleFactor) {
+  TDbConfig* config = GetDwgGlobal(AcDb::kForRead, database);
+  if (!config) return {};
+  const CutLook look = {config->SolidFill() == 1, config->BoldLine() == 1, config->WallBase() == 1,
+                        kBoldPen * scaleFactor};
+  config->close();
+  return look;
+}
+
+// One cut piece: its ground when it is filled, and its outline when that would not show otherwise
+// or is to be bold. A bold outline lies inside, so that neighbours keep their place.
+void Piece(AcGiWorldDraw* draw, const AcGePoint3d& origin, const AcGeVector3d& along, double x0,
+           double y0, double x1, double y1, const CutLook& look) {
+  if (look.filled) {
+    draw->subEntityTraits().setColor(kFillColor);
+    Rectangle(draw, origin, along, x0, y0, x1, y1, true);
+    draw->subEntityTraits().setColor(kByLayer);
+  }
+  if (!look.bold) {
+    if (!look.filled) Rectangle(draw, origin, along, x0, y0, x1, y1, false);
+    return;
+  }
+  const double pen = std::min({look.pen, (x1 - x0) / 2, (y1 - y0) / 2});
+  Rectangle(draw, origin, along, x0, y0, x1, y0 + pen, true);
+  Rectangle(draw, origin, along, x0, y1 - pen, x1, y1, true);
+  Rectangle(draw, origin, along, x0, y0 + pen, x0 + pen, y1 - pen, true);
+  Rectangle(draw, origin, along, x1 - pen, y0 + pen, x1, y1 - pen, true);
+}
+
+}  // namespace
+
+// Pieces between the openings. Half the width more at both ends makes corners whole without
 // looking for neighbours.
 bool QvxDbWall::subWorldDraw(AcGiWorldDraw* draw) const {
   const double length = start.distanceTo(end), half = width / 2;
   if (length <= 0) return false;
   const AcGeVector3d along = (end - start).normal();
-  draw->subEntityTraits().setColor(kFillColor);
+  const CutLook look = LookIn(database(), ScaleFactor());
   double at = -half;
   for (const Gap& gap : GapsIn(*this, along, length)) {
-    if (gap.from > at) Rectangle(draw, start, along, at, -half, gap.from, half, true);
+    if (gap.from > at) Piece(draw, start, along, at, -half, gap.from, half, look);
     at = std::max(at, gap.to);
   }
-  if (length + half > at) Rectangle(draw, start, along, at, -half, length + half, half, true);
+  if (length + half > at) Piece(draw, start, along, at, -half, length + half, half, look);
+  if (look.base) {
+    draw->subEntityTraits().setColor(kBaseLine);
+    Segment(draw, start, end);
+  }
   return true;
 }
 
@@ -106,19 +151,21 @@ bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
 
 bool QvxDbColumn::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
-  Rectangle(draw, start, along, -width / 2, -size / 2, width / 2, size / 2, true);
+  Piece(draw, start, along, -width / 2, -size / 2, width / 2, size / 2,
+        LookIn(database(), ScaleFactor()));
   return true;
 }
 
 bool QvxDbAxisNumber::subWorldDraw(AcGiWorldDraw* draw) const {
-  draw->geometry().circle(start, width, AcGeVector3d::kZAxis);
-  Centered(draw, start, width, label);
+  const double radius = width * ScaleFactor();
+  draw->geometry().circle(start, radius, AcGeVector3d::kZAxis);
+  Centered(draw, start, radius, label);
   return true;
 }
 
 bool QvxDbText::subWorldDraw(AcGiWorldDraw* draw) const {
   return draw->geometry().text(start, AcGeVector3d::kZAxis, {std::cos(angle), std::sin(angle), 0},
-                               width, 1, 0, label.c_str());
+                               width * ScaleFactor(), 1, 0, label.c_str());
 }
 
 bool QvxDbStair::subWorldDraw(AcGiWorldDraw* draw) const {
@@ -133,30 +180,14 @@ bool QvxDbStair::subWorldDraw(AcGiWorldDraw* draw) const {
   return true;
 }
 
-bool QvxDbDimension::subWorldDraw(AcGiWorldDraw* draw) const {
-  const double length = start.distanceTo(end);
-  if (length <= 0) return false;
-  const AcGeVector3d along = (end - start).normal();
-  const double y = width, over = y < 0 ? -150 : 150;
-  Segment(draw, start, At(start, along, 0, y + over));
-  Segment(draw, end, At(start, along, length, y + over));
-  Segment(draw, At(start, along, 0, y), At(start, along, length, y));
-  for (double x : {0.0, length})
-    Segment(draw, At(start, along, x - 90, y - 90), At(start, along, x + 90, y + 90));
-  wchar_t text[40];
-  std::swprintf(text, 40, L"%.0f", length);
-  const double textLength = 0.6 * 250 * static_cast<double>(std::wcslen(text));
-  return draw->geometry().text(At(start, along, (length - textLength) / 2, y + 80),
-                               AcGeVector3d::kZAxis, along, 250, 1, 0, text);
-}
-
 bool QvxDbSpace::subWorldDraw(AcGiWorldDraw* draw) const {
   if (outline.size() < 3) return false;
   const AcGePoint3d middle = Middle();
+  const double f = ScaleFactor();
   draw->subEntityTraits().setColor(3);
-  Centered(draw, {middle.x, middle.y + 220, 0}, 300, label);
+  Centered(draw, {middle.x, middle.y + 220 * f, 0}, 300 * f, label);
   wchar_t area[40];
   std::swprintf(area, 40, L"%.2f m²", Area() / 1e6);
-  Centered(draw, {middle.x, middle.y - 220, 0}, 240, area);
+  Centered(draw, {middle.x, middle.y - 220 * f, 0}, 240 * f, area);
   return true;
 }

@@ -2,6 +2,7 @@
 // else they do, and unloaded by them last.
 #include <windows.h>
 
+#include "kernel/current_drawing.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/globals.h"
 #include "kernel/kernel_start.h"
@@ -27,7 +28,9 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
     acrxRegisterAppMDIAware(packet);
     BeginQvxEntities();
     StartFromOwnFile();
+    BeginCurrentDrawing();
   } else if (message == AcRx::kUnloadAppMsg) {
+    EndCurrentDrawing();
     EndQvxEntities();
   }
   return AcRx::kRetOK;

@@ -48,6 +48,7 @@ class AcDbSymbolTable : public AcDbObject {
  public:
   ACRX_DECLARE_MEMBERS(AcDbSymbolTable);
   Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id) const;  // eKeyNotFound
+  Acad::ErrorStatus getIdAt(const ACHAR* name, AcDbObjectId& id) const { return getAt(name, id); }
   bool has(const ACHAR* name) const;
   Acad::ErrorStatus add(AcDbSymbolTableRecord* record);                   // takes it; eDuplicateKey
   const std::vector<AcDbObjectId>& records() const { return m_records; }  // in the order added

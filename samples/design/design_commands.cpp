@@ -5,13 +5,18 @@
 #include <cmath>
 #include <cwchar>
 #include <memory>
+#include <numbers>
 
 #include "aced.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
+#include "kernel/drawing_scale.h"
 #include "kernel/entities/qvx_entity.h"
+#include "kernel/entities/tdbdimension2.h"
 
 namespace {
+
+constexpr double kDimensionOff = 10;  // mm on paper between a dimension's line and what it measures
 
 AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
 
@@ -32,6 +37,7 @@ void Add(std::unique_ptr<AcDbEntity> entity, const wchar_t* layer, int color) {
   }
   layers->close();
   entity->setLayer(layer);
+  if (TEntityBase* base = TEntityBase::Cast(entity.get())) base->SetPScale(DocGetPScale());
   if (Space()->appendAcDbEntity(entity.get()) == Acad::eOk) entity.release();
   acedRedraw(nullptr, 0);
 }
@@ -179,8 +185,24 @@ void Dimension() {
   if (acedGetPoint(a, L"\n终点: ", b) != RTNORM) return;
   if (acedGetPoint(b, L"\n尺寸线位置: ", line) != RTNORM) return;
   const AcGeVector3d along = (Of(b) - Of(a)).normal(), way = Of(line) - Of(a);
-  auto dimension = Make<QvxDbDimension>(Of(a), along.x * way.y - along.y * way.x);
+  auto dimension = Make<TDbDimension2>(Of(a), along.x * way.y - along.y * way.x, kDimensionOff);
   dimension->end = Of(b);
+  Add(std::move(dimension), L"DIM", 3);
+}
+
+void AngularDimension() {
+  ads_point corner{}, a{}, b{}, line{};
+  if (acedGetPoint(nullptr, L"\n角的顶点: ", corner) != RTNORM) return;
+  if (acedGetPoint(corner, L"\n第一边上一点: ", a) != RTNORM) return;
+  if (acedGetPoint(corner, L"\n第二边上一点: ", b) != RTNORM) return;
+  if (acedGetPoint(corner, L"\n尺寸线位置: ", line) != RTNORM) return;
+  constexpr double kTurn = 2 * std::numbers::pi;
+  const AcGeVector3d first = Of(a) - Of(corner), second = Of(b) - Of(corner);
+  const double sweep = std::atan2(second.y, second.x) - std::atan2(first.y, first.x);
+  auto dimension = Make<TDbDimension2>(Of(corner), Of(corner).distanceTo(Of(line)), kDimensionOff);
+  dimension->end = Of(a);
+  dimension->kind = TDbDimension2::kAngular;
+  dimension->angle = sweep < 0 ? sweep + kTurn : sweep;
   Add(std::move(dimension), L"DIM", 3);
 }
 
@@ -209,9 +231,10 @@ void ToggleOrtho() {
 }  // namespace
 
 const DesignCommand kDesignCommands[] = {
-    {L"TWall", DrawWalls},      {L"TAxis", DrawAxes},    {L"TAxisNo", NumberAxis},
-    {L"TColumn", InsertColumn}, {L"TDoor", InsertDoors}, {L"TWindow", InsertWindows},
-    {L"TStair", DrawStair},     {L"TRoom", DrawRoom},    {L"TText", WriteText},
-    {L"TDim2P", Dimension},     {L"TArea", MeasureRoom}, {L"TOrtho", ToggleOrtho},
+    {L"TWall", DrawWalls},      {L"TAxis", DrawAxes},           {L"TAxisNo", NumberAxis},
+    {L"TColumn", InsertColumn}, {L"TDoor", InsertDoors},        {L"TWindow", InsertWindows},
+    {L"TStair", DrawStair},     {L"TRoom", DrawRoom},           {L"TText", WriteText},
+    {L"TDim2P", Dimension},     {L"TDimAng", AngularDimension}, {L"TArea", MeasureRoom},
+    {L"TOrtho", ToggleOrtho},
 };
 const int kDesignCommandCount = sizeof kDesignCommands / sizeof *kDesignCommands;

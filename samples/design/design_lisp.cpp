@@ -1,13 +1,23 @@
 // States behind the menu's switches; see the header. Orthogonal drawing is the host's, grouping and
-// dynamic dimensions are the kernel's settings, and the looks of walls are this module's own.
+// dynamic dimensions are the kernel's settings, and the looks of walls are the drawing's own.
 #include "design_lisp.h"
 
 #include "aced.h"
+#include "kernel/drawing_switches.h"
 #include "kernel/globals.h"
+#include "kernel/tdbconfig.h"
 
 namespace {
 
-int wallFill = 0, boldLines = 0, baseLines = 0;
+// A switch of the current drawing; 0 without one.
+template <int (TDbConfig::*Switch)() const>
+int SwitchOfDrawing() {
+  TDbConfig* config = GetDwgGlobal(AcDb::kForRead, QvxGeLib::g_pCurrentDb);
+  if (!config) return 0;
+  const int on = (config->*Switch)();
+  config->close();
+  return on;
+}
 
 int Ortho() {
   resbuf value{};
@@ -22,13 +32,14 @@ void SetOrtho(int on) {
   acedSetVar(L"ORTHOMODE", &value);
 }
 
-template <int* State>
+template <int (TDbConfig::*Switch)() const>
 void Get() {
-  acedRetInt(*State);
+  acedRetInt(SwitchOfDrawing<Switch>());
 }
-template <int* State>
+template <int (TDbConfig::*Switch)() const, void (*On)(), void (*Off)()>
 void Toggle() {
-  *State = !*State;
+  SwitchOfDrawing<Switch>() == 1 ? Off() : On();
+  acedRedraw(nullptr, 0);
   acedRetT();
 }
 
@@ -54,13 +65,20 @@ void LispPath() { acedRetStr(QvxGeLib::g_sAppPath); }
 }  // namespace
 
 const DesignFunction kDesignFunctions[] = {
-    {L"QvxGetOrtho", GetOrtho},       {L"QvxToggleOrtho", ToggleOrtho},
-    {L"QvxGetFill", Get<&wallFill>},  {L"QvxToggleFill", Toggle<&wallFill>},
-    {L"QvxGetBold", Get<&boldLines>}, {L"QvxToggleBold", Toggle<&boldLines>},
-    {L"QvxGetBase", Get<&baseLines>}, {L"QvxToggleBase", Toggle<&baseLines>},
-    {L"QvxGetDynDim", GetDynDim},     {L"QvxToggleDynDim", ToggleDynDim},
-    {L"QvxGetGroup", GetGroup},       {L"QvxToggleGroup", ToggleGroup},
-    {L"QvxOrthoOn", OrthoOn},         {L"QvxNoDrawing", NoDrawing},
+    {L"QvxGetOrtho", GetOrtho},
+    {L"QvxToggleOrtho", ToggleOrtho},
+    {L"QvxGetFill", Get<&TDbConfig::SolidFill>},
+    {L"QvxToggleFill", Toggle<&TDbConfig::SolidFill, SolidFillOn, SolidFillOff>},
+    {L"QvxGetBold", Get<&TDbConfig::BoldLine>},
+    {L"QvxToggleBold", Toggle<&TDbConfig::BoldLine, BoldLineOn, TasGhdHsj123>},
+    {L"QvxGetBase", Get<&TDbConfig::WallBase>},
+    {L"QvxToggleBase", Toggle<&TDbConfig::WallBase, ToggleWallBase, ToggleWallBase>},
+    {L"QvxGetDynDim", GetDynDim},
+    {L"QvxToggleDynDim", ToggleDynDim},
+    {L"QvxGetGroup", GetGroup},
+    {L"QvxToggleGroup", ToggleGroup},
+    {L"QvxOrthoOn", OrthoOn},
+    {L"QvxNoDrawing", NoDrawing},
     {L"TGetLispPath", LispPath},
 };
 const int kDesignFunctionCount = sizeof kDesignFunctions / sizeof *kDesignFunctions;

@@ -1,0 +1,41 @@
+// Dimensions: the distance of two points along a line (kind 0), or the angle between two directions
+// as an arc (kind 1). Symbols and text follow the scale of the object; how far the line stands off
+// is a length in the drawing and is changed by whoever changes the scale.
+#pragma once
+
+#include "kernel/entities/qvx_entity.h"
+
+class QVX_KERNEL TDbDimension2 : public QvxDbEntity {
+ public:
+  ACRX_DECLARE_MEMBERS(TDbDimension2);
+  static constexpr int kLinear = 0, kAngular = 1;
+  static constexpr int kTextAside = 1;  // of the flags: the text stands beyond the end
+  static constexpr int kTextAbove = 2;  // the text stands one row higher
+
+  TDbDimension2() { size = 10; }
+
+  // Linear: start and end measured; width the distance of the line to the left.
+  // Angular: start the corner, end a point on the first direction; angle the sweep; width the
+  // radius. Both: size the distance on paper between the line and what is measured.
+  bool IsAngular() const { return kind == kAngular; }
+  double GetDimRadius() const { return width; }
+  void SetDimRadius(double radius) { width = radius; }
+  double GetDist2DimLine(double scale) const { return size * scale; }
+
+  // Finds the text a place: where it is wider than the measured length, beyond the end (`aside`) or
+  // that many rows higher; else on the line. `gap` is the room on both sides in quarters of the
+  // text's height.
+  void AdjustDim(bool aside, int rows, int gap);
+
+  bool subWorldDraw(AcGiWorldDraw* draw) const override;
+
+ private:
+  std::wstring Text() const;
+  double TextHeight() const { return 250 * ScaleFactor(); }
+  double TextWidth() const;
+  double MeasuredLength() const;
+  void DrawLinear(AcGiWorldDraw* draw) const;
+  void DrawAngular(AcGiWorldDraw* draw) const;
+  void DrawText(AcGiWorldDraw* draw, const AcGePoint3d& middle, const AcGePoint3d& beyond,
+                const AcGeVector3d& along) const;
+};
