@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "devhost/core/host.h"
+#include "devhost/core/journal.h"
+#include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
 const AcRxResourceInstance AcRxResourceInstance::empty;
@@ -23,6 +25,7 @@ Acad::ErrorStatus CommandStack::addCommand(const ACHAR* group, const ACHAR* glob
                                            AcRxFunctionPtr function, AcEdUIContext*, int,
                                            const AcRxResourceInstance&, AcEdCommand** result) {
   if (result) *result = nullptr;
+  if (globalName) TheStartTrace().Step("addCommand", Utf8(globalName));
   if (!group || !globalName || !localName || !function) return Acad::eInvalidInput;
   const std::wstring upper = UpperCase(globalName), owner = UpperCase(group);
   for (const Command& c : m_commands)

@@ -8,6 +8,7 @@
 #include "devhost/core/journal.h"
 #include "devhost/core/lisp_calls.h"
 #include "devhost/core/scene.h"
+#include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
 namespace devhost {
@@ -227,6 +228,7 @@ Acad::ErrorStatus DocumentList::sendStringToExecute(AcApDocument* document, cons
 }
 
 void DocumentList::addReactor(AcApDocManagerReactor* reactor) {
+  TheStartTrace().Step("addReactor");
   if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
     m_reactors.push_back(reactor);
 }

@@ -11,6 +11,7 @@
 #include "devhost/core/db_classes.h"
 #include "devhost/core/journal.h"
 #include "devhost/core/native_commands.h"
+#include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
 namespace devhost {
@@ -224,6 +225,7 @@ void acedPostCommandPrompt() {
 }
 
 int acedFindFile(const ACHAR* name, ACHAR* path) {
+  devhost::TheStartTrace().Step("acedFindFile", name ? devhost::Utf8(name) : std::string());
   const std::wstring found = name ? TheHost().FindFile(name) : std::wstring();
   if (found.empty() || found.size() >= 260) return RTERROR;
   std::wcscpy(path, found.c_str());

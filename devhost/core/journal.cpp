@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "devhost/core/start_trace.h"
+
 namespace devhost {
 namespace {
 
@@ -24,7 +26,24 @@ void Journal::WriteTo(std::FILE* stream) {
   m_stream = stream;
 }
 
+namespace {
+
+// Only what the main thread records; the other threads' entries are none of a start.
+void TellTrace(const char* event, const Json& fields) {
+  if (!TheStartTrace().Runs()) return;
+  std::string detail;
+  for (const char* name : {"name", "function", "text", "file", "title"})
+    if (detail.empty() && fields.contains(name) && fields[name].is_string())
+      detail = fields[name].get<std::string>();
+  std::erase(detail, '\n');
+  if (fields.contains("phase")) detail += " " + fields["phase"].get<std::string>();
+  TheStartTrace().Step(event, detail);
+}
+
+}  // namespace
+
 void Journal::Record(const char* event, Json fields) {
+  TellTrace(event, fields);
   const auto elapsed = std::chrono::steady_clock::now() - m_start;
   const auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count();
   {

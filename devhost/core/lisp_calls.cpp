@@ -4,6 +4,7 @@
 #include "adslib.h"
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
+#include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
 namespace devhost {
@@ -82,6 +83,7 @@ int acedDefun(const ACHAR* name, int code) {
   Document* document = LispDocument();
   LoadedModule* module = TheHost().modules.Running();
   if (!name || !*name || !document || !module) return RTERROR;
+  TheStartTrace().Step("acedDefun", Utf8(name));
   document->lispFunctions[UpperCase(name)] = {module, code};
   return RTNORM;
 }
@@ -128,6 +130,7 @@ int acedInvoke(const resbuf* call, resbuf** result) {
     else
       arguments.push_back(std::move(given));
   }
+  TheStartTrace().Step("acedInvoke", Utf8(call->resval.rstring));
   LispValue value;
   bool failed = false;
   if (!CallLispFunction(*document, call->resval.rstring, arguments, &value, &failed) || failed)
@@ -139,6 +142,7 @@ int acedInvoke(const resbuf* call, resbuf** result) {
 int acedPutSym(const ACHAR* name, resbuf* value) {
   Document* document = LispDocument();
   if (!name || !*name || !document) return RTERROR;
+  TheStartTrace().Step("acedPutSym", Utf8(name));
   document->lispSymbols[UpperCase(name)] = FromResbuf(value);
   return RTNORM;
 }

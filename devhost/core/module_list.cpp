@@ -4,6 +4,7 @@
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
 #include "devhost/core/lisp_calls.h"
+#include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
 namespace devhost {
@@ -57,11 +58,16 @@ bool ModuleList::loadModule(const ACHAR* name, bool print, bool asCommand) {
   LoadedModule* loaded = module.get();
   m_modules.push_back(std::move(module));
   TheJournal().Record("module", {{"phase", "loaded"}, {"name", Utf8(loaded->name)}});
+  TheStartTrace().Begin(Utf8(loaded->name));
   Send(*loaded, AcRx::kInitAppMsg, TheHost().documents.Current());
+  TheStartTrace().Step("kInitAppMsg done", Utf8(loaded->name));
   if (asCommand && m_remember) m_remember(path);
   std::vector<Document*> open;
   for (const auto& d : TheHost().documents.All()) open.push_back(d.get());
-  for (Document* d : open) Send(*loaded, AcRx::kLoadDwgMsg, d);
+  for (Document* d : open) {
+    TheStartTrace().Step("kLoadDwgMsg", Utf8(loaded->name));
+    Send(*loaded, AcRx::kLoadDwgMsg, d);
+  }
   return true;
 }
 
@@ -80,12 +86,14 @@ bool ModuleList::unloadModule(const ACHAR* name, bool) {
 }
 
 bool ModuleList::unlockApplication(void* packet) {
+  TheStartTrace().Step("unlockApplication");
   for (const auto& m : m_modules)
     if (m.get() == packet) return m->unlocked = true;
   return false;
 }
 
 bool ModuleList::registerAppMDIAware(void* packet) {
+  TheStartTrace().Step("registerAppMDIAware");
   for (const auto& m : m_modules)
     if (m.get() == packet) return m->mdiAware = true;
   return false;

@@ -9,6 +9,7 @@
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
 #include "devhost/core/scene.h"
+#include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
 namespace devhost {
@@ -231,6 +232,7 @@ void SaveHeaderVariables(Document& document) {
 using namespace devhost;
 
 int acedGetVar(const ACHAR* name, resbuf* result) {
+  if (name) TheStartTrace().Step("acedGetVar", Utf8(name));
   std::wstring value;
   if (!name || !result || TheHost().variables.Get(name, &value) != VarResult::Ok) return RTERROR;
   std::memset(result, 0, sizeof *result);

@@ -6,6 +6,7 @@
 
 #include "main_frame.h"
 #include "pick_logic.h"
+#include "right_click_menu.h"
 
 namespace devhost {
 namespace {
@@ -165,6 +166,7 @@ bool DrawingView::OnMouse(UINT message, WPARAM keys, POINT at) {
       OnWheel(static_cast<short>(HIWORD(keys)), at);
       return true;
     case WM_RBUTTONUP:  // as Enter on the command line
+      if (ShowModuleMenu(m_hWnd, at)) return true;
       if (CommandBar* commands = Commands()) commands->EndLine();
       return true;
   }

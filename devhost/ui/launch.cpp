@@ -10,8 +10,10 @@
 #include <memory>
 #include <thread>
 
+#include "dbapserv.h"
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
+#include "devhost/palette/palette_store.h"
 #include "devhost/play/play_driver.h"
 #include "host_actions.h"
 #include "host_app.h"
@@ -20,6 +22,8 @@
 #include "main_frame.h"
 #include "module_loader.h"
 #include "remembered_modules.h"
+#include "right_click_menu.h"
+#include "start_watch.h"
 #include "ui_port_impl.h"
 
 namespace devhost {
@@ -44,6 +48,13 @@ HostOptions OptionsForCore(const LaunchOptions& options) {
 }
 
 namespace {
+
+// What a profile keeps of its own in the user's registry.
+std::wstring PaletteKeyOf(const std::wstring& profile) {
+  std::wstring key = acdbHostApplicationServices()->getMachineRegistryProductRootKey();
+  if (!profile.empty()) key += L"\\Profiles\\" + profile;
+  return key + L"\\Palettes";
+}
 
 bool Exists(const std::wstring& path) {
   return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -146,7 +157,16 @@ int RunDevelopmentHost(const LaunchOptions& options) {
   app.InitInstance();
   ModuleLoader loader;
   TheHost().Begin(OptionsForCore(options), &TheHostUi(), &loader);
-  const int exitCode = RunFrame(options, app, std::move(driver));
+  SetPaletteStoreKey(PaletteKeyOf(options.profile).c_str());
+  SetRightClickMenu(options.rightClickMenu);
+  std::unique_ptr<StartWatch> watch;
+  if (!options.startTrace.empty()) watch = std::make_unique<StartWatch>(options.startTrace);
+  int exitCode = RunFrame(options, app, std::move(driver));
+  if (watch && !watch->Write()) {
+    std::fprintf(stderr, "devhost: the trace %s can't be written\n",
+                 Utf8(options.startTrace).c_str());
+    exitCode = exitCode ? exitCode : 2;
+  }
   AfxWinTerm();
   return exitCode;
 }

@@ -2,6 +2,7 @@
 // next word or stands behind "=".
 #include "launch_options.h"
 
+#include <cmath>
 #include <cwchar>
 
 namespace devhost {
@@ -10,7 +11,9 @@ namespace {
 bool TakeVersion(const std::wstring& text, double* out) {
   wchar_t* end = nullptr;
   const double value = std::wcstod(text.c_str(), &end);
+  const double tenths = value * 10;
   if (end == text.c_str() || *end != 0 || !(value >= 15.0 && value < 100.0)) return false;
+  if (std::fabs(tenths - std::round(tenths)) > 1e-6) return false;  // releases count in tenths
   *out = value;
   return true;
 }
@@ -42,6 +45,7 @@ class Reader {
     if (word == L"--") return m_onlyDrawings = true;
     if (word == L"--help" || word == L"-h") return m_out->help = true;
     if (word == L"--doctor") return m_out->doctor = true;
+    if (word == L"--right-click-menu") return m_out->rightClickMenu = true;
     const size_t equals = word.find(L'=');
     const std::wstring name = word.substr(0, equals);
     if (!IsKnown(name)) return Fail(L"unknown option " + name);
@@ -56,8 +60,8 @@ class Reader {
   }
 
   static bool IsKnown(const std::wstring& name) {
-    for (const wchar_t* known :
-         {L"--product", L"--host-version", L"--profile", L"--arx", L"--play", L"--journal"})
+    for (const wchar_t* known : {L"--product", L"--host-version", L"--profile", L"--arx", L"--play",
+                                 L"--journal", L"--trace-start"})
       if (name == known) return true;
     return false;
   }
@@ -70,10 +74,11 @@ class Reader {
       m_out->modules.push_back(value);
       return true;
     }
-    std::wstring& target = name == L"--product"   ? m_out->productFolder
-                           : name == L"--profile" ? m_out->profile
-                           : name == L"--play"    ? m_out->script
-                                                  : m_out->journal;
+    std::wstring& target = name == L"--product"       ? m_out->productFolder
+                           : name == L"--profile"     ? m_out->profile
+                           : name == L"--play"        ? m_out->script
+                           : name == L"--trace-start" ? m_out->startTrace
+                                                      : m_out->journal;
     target = value;
     return true;
   }
@@ -99,7 +104,8 @@ bool ParseLaunchOptions(const std::vector<std::wstring>& words, LaunchOptions* o
 
 const wchar_t* LaunchUsage() {
   return L"usage: devhost [--product DIR] [--host-version 24.0] [--profile NAME] [--arx FILE]...\n"
-         L"               [--play SCRIPT] [--journal FILE|-] [DRAWING.dxf ...]\n"
+         L"               [--play SCRIPT] [--journal FILE|-] [--trace-start FILE.json]\n"
+         L"               [--right-click-menu] [DRAWING.dxf ...]\n"
          L"       devhost --doctor [--product DIR] [--host-version 24.0] [--profile NAME] [--arx "
          L"FILE]\n"
          L"               every setting, where it comes from and what it does; starts nothing\n";

@@ -14,7 +14,10 @@ struct LaunchOptions {
   std::vector<std::wstring> modules;  // --arx, in order; empty: the product beside the program
   std::wstring script;                // --play
   std::wstring journal;               // "-" is standard output; empty: none
+  std::wstring startTrace;            // --trace-start: written at the end; empty: none
   std::vector<std::wstring> drawings;
+  // A right click in the view asks the module for its context menu first (see right_click_menu).
+  bool rightClickMenu = false;
   bool help = false;
   bool doctor = false;  // prints what the product would start with, and starts nothing
 };

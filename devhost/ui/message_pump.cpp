@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "devhost/core/start_trace.h"
 #include "rxmfcapi.h"
 
 namespace devhost {
@@ -36,6 +37,8 @@ bool MessagePump::Swallowed(MSG* message) {
 void MessagePump::Process(MSG* message) {
   if (Swallowed(message)) return;
   if (m_preTranslate && m_preTranslate(message)) return;
+  if (message->message == WM_TIMER)
+    TheStartTrace().Step("WM_TIMER", std::to_string(message->wParam));
   ::TranslateMessage(message);
   ::DispatchMessageW(message);
 }
@@ -47,6 +50,7 @@ bool MessagePump::CountsAsWork(const MSG& message) const {
 
 void MessagePump::MarkQuiet() {
   m_quiet = true;
+  TheStartTrace().Quiet();
   if (m_whenQuiet) m_whenQuiet();
 }
 
@@ -79,6 +83,7 @@ bool MessagePump::TakeOne() {
 }  // namespace devhost
 
 BOOL acedRegisterFilterWinMsg(AcedFilterWinMsgFn filter) {
+  devhost::TheStartTrace().Step("acedRegisterFilterWinMsg");
   return devhost::ThePump().AddFilter(filter);
 }
 

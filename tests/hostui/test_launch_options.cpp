@@ -27,19 +27,24 @@ TEST(LaunchOptions, NoWordsGiveTheDefaults) {
   const LaunchOptions o = Parsed({});
   EXPECT_EQ(o.hostVersion, 24.0);
   EXPECT_EQ(o.profile, L"default");
+  EXPECT_FALSE(o.rightClickMenu);
+  EXPECT_TRUE(o.startTrace.empty());
   EXPECT_TRUE(o.modules.empty() && o.drawings.empty() && o.script.empty() && o.journal.empty());
 }
 
 TEST(LaunchOptions, EveryOptionLandsInItsField) {
-  const LaunchOptions o = Parsed({L"--product", L"p", L"--host-version", L"18.2", L"--profile",
-                                  L"q", L"--arx", L"a.arx", L"--arx", L"b.arx", L"--play", L"s",
-                                  L"--journal", L"-", L"x.dxf", L"y.dxf"});
+  const LaunchOptions o =
+      Parsed({L"--product", L"p", L"--host-version", L"18.2", L"--profile", L"q", L"--arx",
+              L"a.arx", L"--arx", L"b.arx", L"--play", L"s", L"--journal", L"-", L"--trace-start",
+              L"t.json", L"--right-click-menu", L"x.dxf", L"y.dxf"});
   EXPECT_EQ(o.productFolder, L"p");
   EXPECT_EQ(o.hostVersion, 18.2);
   EXPECT_EQ(o.profile, L"q");
   EXPECT_EQ(o.modules, (Words{L"a.arx", L"b.arx"}));
   EXPECT_EQ(o.script, L"s");
   EXPECT_EQ(o.journal, L"-");
+  EXPECT_EQ(o.startTrace, L"t.json");
+  EXPECT_TRUE(o.rightClickMenu);
   EXPECT_EQ(o.drawings, (Words{L"x.dxf", L"y.dxf"}));
 }
 
@@ -61,6 +66,15 @@ TEST(LaunchOptions, MistakesAreToldWithTheWordThatIsWrong) {
   EXPECT_EQ(ErrorOf({L"--host-version", L"3"}),
             L"--host-version takes a release number such as 24.0, not 3");
   EXPECT_EQ(ErrorOf({L""}), L"a drawing has an empty name");
+}
+
+TEST(LaunchOptions, AReleaseIsANumberOfTenths) {
+  EXPECT_EQ(Parsed({L"--host-version", L"15.0"}).hostVersion, 15.0);
+  EXPECT_EQ(Parsed({L"--host-version", L"24.3"}).hostVersion, 24.3);
+  EXPECT_EQ(ErrorOf({L"--host-version", L"16.11"}),
+            L"--host-version takes a release number such as 24.0, not 16.11");
+  EXPECT_EQ(ErrorOf({L"--host-version", L"14.9"}),
+            L"--host-version takes a release number such as 24.0, not 14.9");
 }
 
 TEST(LaunchOptions, TheDoctorStandsAloneAndTakesTheSameOptions) {
