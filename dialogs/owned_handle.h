@@ -10,9 +10,18 @@
 
 namespace qvx {
 
+// All kinds together, for the shell state: 0 when the module has gone down.
+class LiveHandles {
+ public:
+  static int Count() { return s_count; }
+
+ protected:
+  inline static int s_count = 0;  // windows live on one thread, so does this
+};
+
 // A kind names the handle type and how it is freed. `alive` is shared by the whole module.
 template <class Kind>
-class OwnedHandle {
+class OwnedHandle : private LiveHandles {
  public:
   using Handle = typename Kind::Handle;
 
@@ -49,11 +58,13 @@ class OwnedHandle {
     m_handle = nullptr;
   }
   void Count(int step) {
-    if (m_handle) s_alive += step;
+    if (!m_handle) return;
+    s_alive += step;
+    s_count += step;
   }
 
   Handle m_handle = nullptr;
-  inline static int s_alive = 0;  // windows live on one thread, so does this
+  inline static int s_alive = 0;
 };
 
 template <class GdiHandle>

@@ -66,6 +66,11 @@ void HostProcess::Write(const wchar_t* name, const std::string& bytes) {
 
 void HostProcess::Remove(const wchar_t* name) { ::DeleteFileW((m_folder + L"\\" + name).c_str()); }
 
+void HostProcess::CopyProductFile(const wchar_t* name) {
+  ::CopyFileW((FolderOfProgram() + L"\\product\\" + name).c_str(),
+              (m_folder + L"\\" + name).c_str(), FALSE);
+}
+
 HWND HostProcess::ContextWindow() { return ::GetDlgItem(Frame().m_hWnd, 310); }
 
 bool HostProcess::FireTimer(UINT id) {

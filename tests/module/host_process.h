@@ -15,6 +15,8 @@ class HostProcess {
   const std::wstring& Folder() const { return m_folder; }
   void Write(const wchar_t* name, const std::string& bytes);
   void Remove(const wchar_t* name);
+  // Lays a file of the product, as it was built, into that folder.
+  void CopyProductFile(const wchar_t* name);
 
   // One firing of a timer of the module's context window; false when there is no such window.
   bool FireTimer(UINT id);

@@ -1,19 +1,15 @@
 // The module and the kernel, loaded and unloaded by the real linker of the host, again and again in
 // one process. The kernel is not linked here, so that it can really go.
-#include <gtest/gtest.h>
+#include "tests/module/module_test.h"
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
-#include "accmd.h"
-#include "devhost/core/host.h"
+#include "acstatusbar.h"
+#include "devhost/ui/message_pump.h"
 #include "rxregsvc.h"
-#include "tests/module/host_process.h"
 
 namespace {
-
-bool IsMapped(const wchar_t* file) { return ::GetModuleHandleW(file) != nullptr; }
 
 int ModuleCommands() {
   const auto& all = devhost::TheHost().commands.All();
@@ -22,67 +18,100 @@ int ModuleCommands() {
       [](const devhost::Command& command) { return command.group == L"QVX_INITSTART"; }));
 }
 
-template <class Function>
-Function Export(const wchar_t* file, const char* name) {
-  return reinterpret_cast<Function>(
-      reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(file), name)));
+BOOL CALLBACK CountTopWindow(HWND, LPARAM count) {
+  ++*reinterpret_cast<int*>(count);
+  return TRUE;
 }
 
-std::string Shell() {
-  const auto describe = Export<const char* (*)()>(L"qvx_initstart.arx", "QvxDescribeShell");
-  return describe ? describe() : "(none)";
+// Frames, tool tips and message boxes of the process, shown or not.
+int TopWindows() {
+  int count = 0;
+  ::EnumThreadWindows(::GetCurrentThreadId(), CountTopWindow, reinterpret_cast<LPARAM>(&count));
+  return count;
 }
 
-bool Contains(const std::string& text, const char* part) {
-  return text.find(part) != std::string::npos;
+int Panes() {
+  const AcApStatusBar* bar = acedGetApplicationStatusBar();
+  return bar ? bar->GetPaneCount() : -1;
 }
 
-constexpr wchar_t kProductKey[] = L"Software\\Quivera\\QVX\\R24.0\\QVX-1";
-
-void SetNumber(const wchar_t* folder, const wchar_t* name, DWORD value) {
-  const std::wstring key = std::wstring(kProductKey) + L"\\" + folder;
-  ::RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name, REG_DWORD, &value, sizeof value);
+int LispFunctions() {
+  int count = 0;
+  for (const auto& document : devhost::TheHost().documents.All())
+    count += static_cast<int>(document->lispFunctions.size());
+  return count;
 }
 
-DWORD NumberOf(const wchar_t* folder, const wchar_t* name) {
-  const std::wstring key = std::wstring(kProductKey) + L"\\" + folder;
-  DWORD value = 0, size = sizeof value;
-  ::RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_DWORD, nullptr, &value, &size);
-  return value;
+std::wstring PathOfModule() {
+  wchar_t path[512] = L"";
+  ::GetModuleFileNameW(::GetModuleHandleW(L"qvx_initstart.arx"), path, 512);
+  return path;
 }
 
-bool LoadModule() { return acrxLoadModule(L"qvx_initstart.arx", true); }
-bool UnloadModule() { return acrxUnloadModule(L"qvx_initstart.arx"); }
-
-class Module : public ::testing::Test {
- protected:
-  void SetUp() override {
-    HostProcess::Get().Write(L"qvx.qmn",
-                             "MENU_TITLE = \"T\"\r\n***SCREEN\r\n[A]^C^CTWall;\r\n[->B]\r\n"
-                             "[<-C]^C^CTDoor;\r\n[D]^C^CTWindow;\r\n");
-  }
-  void TearDown() override { UnloadModule(); }
-};
+// Whatever would still call into a module that is gone: messages through the filters, and each
+// notification of the document manager.
+void UseTheHost() {
+  MSG message{};
+  message.message = WM_NULL;
+  message.hwnd = HostProcess::Get().Frame().m_hWnd;
+  devhost::ThePump().Process(&message);
+  auto& documents = devhost::TheHost().documents;
+  devhost::Document* before = documents.Current();
+  devhost::Document* made = documents.New();
+  if (before) documents.Activate(before);
+  documents.Close(made);
+}
 
 }  // namespace
 
 TEST_F(Module, LoadsUnloadsAndLoadsAgainInOneProcess) {
-  const int windowsBefore = HostProcess::Get().ChildWindows();
+  HostProcess::Get().CopyProductFile(L"qvx.dll");
+  devhost::TheHost().documents.New();
+  const int windows = HostProcess::Get().ChildWindows(), tops = TopWindows(), panes = Panes();
   for (int round = 0; round < 5; ++round) {
-    ASSERT_TRUE(LoadModule()) << round;
+    SCOPED_TRACE(round);
+    ASSERT_TRUE(LoadModule());
     EXPECT_TRUE(IsMapped(L"qvx_initstart.arx"));
     EXPECT_TRUE(IsMapped(L"qvx_kernal.arx"));
+    EXPECT_TRUE(IsMapped(L"qvx.dll"));
     EXPECT_EQ(ModuleCommands(), 14);
-    EXPECT_TRUE(HostProcess::Get().FireTimer(20));
-    EXPECT_TRUE(HostProcess::Get().FireTimer(20));
-    EXPECT_TRUE(Contains(Shell(), "\"exists\":true")) << Shell();
-    ASSERT_TRUE(UnloadModule()) << round;
+    EXPECT_EQ(LispFunctions(), 6);
+    BringUp();
+    EXPECT_TRUE(Contains(Shell(), "\"label\":\"D\"")) << Shell();
+    UseTheHost();
+    ASSERT_TRUE(UnloadModule());
     EXPECT_FALSE(IsMapped(L"qvx_initstart.arx"));
     EXPECT_FALSE(IsMapped(L"qvx_kernal.arx"));
+    EXPECT_FALSE(IsMapped(L"qvx.dll"));
     EXPECT_EQ(ModuleCommands(), 0);
+    EXPECT_EQ(LispFunctions(), 0);
     EXPECT_EQ(HostProcess::Get().ContextWindow(), nullptr);
-    EXPECT_EQ(HostProcess::Get().ChildWindows(), windowsBefore) << round;
+    EXPECT_EQ(HostProcess::Get().ChildWindows(), windows);
+    EXPECT_EQ(TopWindows(), tops);
+    EXPECT_EQ(Panes(), panes);
+    UseTheHost();
   }
+  HostProcess::Get().Remove(L"qvx.dll");
+}
+
+// A reference of the test's own keeps the library in memory, so that it can be asked after its
+// unload what its owners still hold, and so that the next load meets whatever the last one left.
+TEST_F(Module, LeavesNoHandleBehindAndComesUpAgainWhereItStayedInMemory) {
+  for (int round = 0; round < 3; ++round) {
+    SCOPED_TRACE(round);
+    ASSERT_TRUE(LoadModule());
+    const HMODULE held = ::LoadLibraryW(PathOfModule().c_str());
+    ASSERT_NE(held, nullptr);
+    BringUp();
+    EXPECT_TRUE(Contains(Shell(), "\"exists\":true")) << Shell();
+    EXPECT_FALSE(Contains(Shell(), "\"handles\":0,")) << "the palette has fonts and brushes";
+    ASSERT_TRUE(UnloadModule());
+    EXPECT_TRUE(Contains(Shell(), "\"handles\":0,")) << Shell();
+    EXPECT_TRUE(Contains(Shell(), "\"exists\":false")) << Shell();
+    EXPECT_TRUE(Contains(Shell(), "\"recent\":[]")) << Shell();
+    ::FreeLibrary(held);
+  }
+  EXPECT_FALSE(IsMapped(L"qvx_initstart.arx"));
 }
 
 TEST_F(Module, ExportsWhatSiblingModulesCall) {
