@@ -1,0 +1,108 @@
+#include "popup/host_selection.h"
+
+#include <cstdlib>
+
+#include "acdocman.h"
+#include "adslib.h"
+#include "dbents.h"
+#include "kernel/globals.h"
+#include "kernel/logical_layers.h"
+#include "kernel/tdbconfig.h"
+
+namespace {
+
+constexpr double kFirstHostWithPreview = 16.11;
+constexpr int kPaperSpacePort = 1;
+constexpr int kSpeedMenuNeedsSelection = 2;  // of g_nSpeedMenu, from this value on
+
+class OpenedEntity {
+ public:
+  explicit OpenedEntity(const TEntitySet& entity) {
+    const AcDbObjectId id = entity.ObjectId();
+    if (!id.isNull()) acdbOpenObject(m_entity, id, AcDb::kForRead);
+  }
+  ~OpenedEntity() {
+    if (m_entity) m_entity->close();
+  }
+  OpenedEntity(const OpenedEntity&) = delete;
+  OpenedEntity& operator=(const OpenedEntity&) = delete;
+  AcDbEntity* Get() const { return m_entity; }
+
+ private:
+  AcDbEntity* m_entity = nullptr;
+};
+
+GroupValue ReadGroup(const TPickEntSet& set, size_t object, int code) {
+  const OpenedEntity entity(set[static_cast<int>(object)]);
+  return entity.Get() ? GroupValue(TEntitySet::GroupOf(*entity.Get(), code)) : GroupValue();
+}
+
+bool IsPreviewOffInDrawing() {
+  AcApDocument* current = acDocManagerPtr() ? acDocManagerPtr()->curDocument() : nullptr;
+  TDbConfig* config = current ? GetDwgGlobal(AcDb::kForRead, current->database()) : nullptr;
+  if (!config) return false;
+  const bool off = (config->Flags() & TDbConfig::kPreviewOff) != 0;
+  config->close();
+  return off;
+}
+
+}  // namespace
+
+int ShortVariable(const wchar_t* name, int byDefault) {
+  resbuf value{};
+  if (acedGetVar(name, &value) != RTNORM) return byDefault;
+  if (value.restype == RTSHORT) return value.resval.rint;
+  if (value.restype == RTSTR) std::free(value.resval.rstring);
+  return byDefault;
+}
+
+bool IsPreviewAllowed(const PreviewState& state) {
+  if (!state.isEnabled) return false;
+  if (state.hostVersion < kFirstHostWithPreview) return !state.isOffInDrawing;
+  return (state.hostVariable & 1) != 0;
+}
+
+PreviewState ReadPreviewState() {
+  return {g_dHostVersion, g_bEnableSelectPreview != 0, ShortVariable(L"SELECTIONPREVIEW", 0),
+          IsPreviewOffInDrawing()};
+}
+
+void ReadSelection(TPickEntSet& set) {
+  set.Get(L"I");
+  if (set.Length() || !IsPreviewAllowed(ReadPreviewState())) return;
+  TPickEntSet under;
+  under.GetPreSel();
+  TEntitySet& mouseOn = DocGetEntMouseOn();
+  mouseOn = under[0];
+  if (!mouseOn.IsEmpty()) set.Set(mouseOn);
+}
+
+SelectionDescription DescribeSelection(const TPickEntSet& set) {
+  SelectionDescription selection;
+  for (int i = 0, count = set.Length(); i < count; ++i) {
+    const OpenedEntity entity(set[i]);
+    if (!entity.Get())
+      selection.Add(L"", L"", ObjectState::kUnreadable);
+    else
+      selection.Add(
+          TEntitySet::TypeOf(*entity.Get()), entity.Get()->layer(),
+          AcDbViewport::cast(entity.Get()) ? ObjectState::kViewport : ObjectState::kEntity);
+  }
+  selection.SetGroupReader(
+      [&set](size_t object, int code) { return ReadGroup(set, object, code); });
+  if (!selection.Count()) selection.SetPaperSpace(ShortVariable(L"CVPORT", 0) == kPaperSpacePort);
+  return selection;
+}
+
+bool ResolveLayer(std::wstring_view key, std::wstring& layer) {
+  TWCString found;
+  if (!GetLayer(std::wstring(key).c_str(), found)) return false;
+  layer.assign(found.c_str());
+  return true;
+}
+
+int ChooseBlock(const TMenuSystem& system, const SelectionDescription& selection, int speedMenu,
+                bool force) {
+  if (!selection.Count() && speedMenu >= kSpeedMenuNeedsSelection && !force) return -1;
+  return BlockMatcher(system).Find(selection, ResolveLayer);
+}

@@ -1,0 +1,26 @@
+#include "popup/menu_line_run.h"
+
+int ExecuteMenuLine(TMenuBar& bar, int id, MenuLineHost& host) {
+  const TMenuItem* line = bar.FindItemById(id);
+  if (!line) return 0;
+  if (line->m_pSwitch) {
+    const TWCString function(line->m_pSwitch->m_strSetFn);
+    host.Lisp().Call(function);
+    host.UpdateStatusBar();
+    host.RefreshSwitches();
+    return 1;
+  }
+  if (line->m_strCommand.IsEmpty()) {
+    host.Print(line->m_strLabel);
+    return 1;
+  }
+  // The line may be an entry of the recent list, which makes a new one of it.
+  const TWCString command(line->m_strCommand);
+  if (command[0] == L'*') {
+    host.TailCommand(command.c_str() + 1);
+    return 1;
+  }
+  host.AddRecent(command);
+  host.SendToHost(command);
+  return 1;
+}
