@@ -1,8 +1,6 @@
 // The walk through a script.
 #include "devhost/play/play_runner.h"
 
-#include "devhost/play/state_path.h"
-
 namespace devhost {
 namespace {
 
@@ -54,7 +52,7 @@ std::string PlayRunner::PlayStep(const Step& step) {
     case StepKind::WaitMenu:
       return WaitUntil("a menu", &PlayRunner::IsMenuOpen);
     case StepKind::WaitPopup:
-      return WaitUntil("a pop-up of the module", &PlayRunner::IsPopupOpen);
+      return WaitUntil("a pop-up", &PlayRunner::IsPopupOpen);
     case StepKind::DumpShell:
     case StepKind::DumpWindows:
     case StepKind::DumpDatabase:
@@ -85,14 +83,6 @@ std::string PlayRunner::WaitIdle() {
   if (!problem.empty()) return problem;
   m_world.LetTimersFire();
   return WaitUntil(kWhat, &PlayRunner::IsIdle);
-}
-
-bool PlayRunner::IsPopupOpen() {
-  const Json state = Json::parse(m_world.ShellState(), nullptr, false);
-  Json open;
-  std::string problem;
-  return !state.is_discarded() && FindInState(state, "popup.open", &open, &problem) &&
-         open.is_boolean() && open.get<bool>();
 }
 
 }  // namespace devhost

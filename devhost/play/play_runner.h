@@ -27,7 +27,7 @@ class PlayRunner {
   std::string WaitUntil(const char* what, bool (PlayRunner::*ready)());
   bool IsIdle() { return m_world.IsIdle(); }
   bool IsMenuOpen() { return m_world.IsMenuOpen(); }
-  bool IsPopupOpen();
+  bool IsPopupOpen() { return m_world.IsPopupOpen(); }
 
   const std::string m_file;
   const std::vector<Step> m_steps;

@@ -20,6 +20,7 @@ class PlayWorld {
 
   virtual bool IsIdle() = 0;
   virtual bool IsMenuOpen() = 0;
+  virtual bool IsPopupOpen() = 0;  // rows of a pop-up stand on the screen
   // Returns when every window timer of up to the send delay that was armed before has had its turn.
   virtual void LetTimersFire() = 0;
   virtual std::string ShellState() = 0;  // JSON text

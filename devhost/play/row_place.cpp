@@ -42,9 +42,13 @@ class RowSearch {
   const Json* Find(const Json& rows, const std::string& path, int depth = 0) {
     if (!rows.is_array() || depth > kDeepestRow) return nullptr;
     for (const Json& row : rows) {
-      if (!row.is_object() || !row.contains("label") || !row["label"].is_string()) continue;
-      const auto& label = row["label"].get_ref<const std::string&>();
-      if (const Json* found = FindBelow(row, label, path, depth)) return found;
+      if (!row.is_object()) continue;
+      // A pop-up's row answers to its label as it was given and to what a user reads of it.
+      for (const char* member : {"label", "text"}) {
+        if (!row.contains(member) || !row[member].is_string()) continue;
+        const auto& label = row[member].get_ref<const std::string&>();
+        if (const Json* found = FindBelow(row, label, path, depth)) return found;
+      }
     }
     return nullptr;
   }
@@ -104,12 +108,10 @@ RowPlace PlaceOfScreenMenuRow(const Json& state, const std::string& path) {
   return PlaceIn(menu.contains("rows") ? menu["rows"] : Json::array(), path, RectOf(menu));
 }
 
-RowPlace PlaceOfPopupRow(const Json& state, const std::string& path) {
-  if (!state.is_object() || !state.contains("popup") || !state["popup"].is_object())
-    return {{}, "pop-ups are not built into the shell state"};
-  const Json& popup = state["popup"];
-  if (IsFalse(popup, "open")) return {{}, "no pop-up is open"};
-  return PlaceIn(popup.contains("rows") ? popup["rows"] : Json::array(), path, {});
+RowPlace PlaceOfPopupRow(const Json& popup, const std::string& path) {
+  if (!popup.is_object() || !popup.contains("rows") || IsFalse(popup, "open"))
+    return {{}, "no pop-up is open"};
+  return PlaceIn(popup["rows"], path, {});
 }
 
 }  // namespace devhost

@@ -36,6 +36,7 @@ struct RowPlace {
 
 // Labels from the outside in, joined by "/"; a label may hold a "/" of its own.
 RowPlace PlaceOfScreenMenuRow(const Json& state, const std::string& path);
-RowPlace PlaceOfPopupRow(const Json& state, const std::string& path);
+// In what DescribeLiveMenus gives of the menus on the screen.
+RowPlace PlaceOfPopupRow(const Json& popup, const std::string& path);
 
 }  // namespace devhost

@@ -4,8 +4,10 @@
 #include "drawing_child.h"
 #include "host_actions.h"
 #include "host_ui_impl.h"
+#include "live_menus.h"
 #include "main_frame.h"
 #include "message_pump.h"
+#include "pane_place.h"
 #include "window_tree.h"
 
 namespace devhost {
@@ -57,6 +59,8 @@ bool UiPortImpl::IsMenuOpen() {
   return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
 }
 
+bool UiPortImpl::IsPopupOpen() { return IsPopupMenuOpen(m_thread.Id()); }
+
 HWND UiPortImpl::Frame() { return TheFrame() ? TheFrame()->m_hWnd : nullptr; }
 
 HWND UiPortImpl::CommandLine() {
@@ -83,6 +87,10 @@ bool UiPortImpl::ButtonToScreen(const std::wstring& label, POINT* out) {
   if (!button || !::GetWindowRect(button, &r)) return false;
   *out = {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
   return true;
+}
+
+std::string UiPortImpl::PaneToScreen(const std::string& name, POINT* out) {
+  return PlaceOfPane(name, out);
 }
 
 bool UiPortImpl::OpenDrawing(const std::wstring& path) { return OpenDrawingFile(path); }
@@ -121,6 +129,8 @@ std::string UiPortImpl::DescribeShell() {
   const char* text = describe ? describe() : nullptr;
   return text ? text : "{}";
 }
+
+std::string UiPortImpl::DescribeMenus() { return DescribeLiveMenus(m_thread.Id()).dump(); }
 
 std::string UiPortImpl::DescribeWindows() { return DescribeWindowsOf(m_thread.Id()).dump(1); }
 

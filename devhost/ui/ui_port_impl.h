@@ -19,6 +19,7 @@ class UiPortImpl : public UiPort {
 
   bool IsIdle() override;
   bool IsMenuOpen() override;
+  bool IsPopupOpen() override;
 
   HWND Frame() override;
   HWND CommandLine() override;
@@ -28,6 +29,7 @@ class UiPortImpl : public UiPort {
   bool ViewToScreen(int x, int y, POINT* out) override;
   bool EntityToScreen(const std::string& handle, POINT* out) override;
   bool ButtonToScreen(const std::wstring& label, POINT* out) override;
+  std::string PaneToScreen(const std::string& name, POINT* out) override;
 
   bool OpenDrawing(const std::wstring& path) override;
   void NewDrawing() override;
@@ -39,6 +41,7 @@ class UiPortImpl : public UiPort {
   bool SetSetting(const std::wstring& name, const std::wstring& value) override;
 
   std::string DescribeShell() override;
+  std::string DescribeMenus() override;
   std::string DescribeWindows() override;
   std::string DescribeDatabase() override;
   void Quit(int exitCode) override;

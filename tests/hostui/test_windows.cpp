@@ -1,9 +1,11 @@
 // Panes on a bar, buttons found by their label, dialogs in the journal: with real windows.
 #include <gtest/gtest.h>
+#include <oleacc.h>
 
 #include "acstatusbar.h"
 #include "devhost/core/journal.h"
 #include "devhost/ui/journal_hooks.h"
+#include "devhost/ui/live_menus.h"
 #include "devhost/ui/message_pump.h"
 #include "devhost/ui/window_tree.h"
 
@@ -131,4 +133,68 @@ TEST(DialogWatch, AMessageBoxOfTheClassLibraryIsNoDialog) {
   OwnWindow box(L"#32770", L"box", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
   ::SetActiveWindow(box);
   EXPECT_EQ(CountOf("dialog"), before);
+}
+
+namespace {
+
+struct DrawnRow {
+  MSAAMENUINFO info;
+  explicit DrawnRow(const wchar_t* label)
+      : info{static_cast<DWORD>(MSAA_MENU_SIG), static_cast<DWORD>(wcslen(label)),
+             const_cast<wchar_t*>(label)} {}
+};
+
+nlohmann::ordered_json g_menus;
+bool g_menuIsOpen = false;
+
+// Looks at the menu from its own loop and closes it.
+void CALLBACK LookAtMenus(HWND window, UINT, UINT_PTR timer, DWORD) {
+  g_menuIsOpen = IsPopupMenuOpen(::GetCurrentThreadId());
+  g_menus = DescribeLiveMenus(::GetCurrentThreadId());
+  ::KillTimer(window, timer);
+  ::EndMenu();
+}
+
+}  // namespace
+
+TEST(LiveMenus, AreReadWithTheRowsThatTheirOwnerDraws) {
+  OwnWindow window(L"STATIC", L"", WS_POPUP | WS_VISIBLE);
+  ::SetForegroundWindow(window);
+  const HMENU menu = ::CreatePopupMenu(), sub = ::CreatePopupMenu();
+  DrawnRow wall(L"墙(&W)\tCtrl+W");
+  wchar_t junk[] = L"no record";
+  ::AppendMenuW(sub, MF_STRING, 7, L"inner");
+  ::AppendMenuW(menu, MF_OWNERDRAW | MF_CHECKED, 2000, reinterpret_cast<LPCWSTR>(&wall));
+  ::AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+  ::AppendMenuW(menu, MF_STRING | MF_GRAYED, 2001, L"开(&O)");
+  ::AppendMenuW(menu, MF_OWNERDRAW, 2002, junk);
+  ::AppendMenuW(menu, MF_OWNERDRAW, 2003, reinterpret_cast<LPCWSTR>(std::size_t{16}));
+  ::AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(sub), L"more");
+  ::SetTimer(window, 1, 50, LookAtMenus);
+  ::TrackPopupMenu(menu, TPM_LEFTALIGN, 20, 20, 0, window, nullptr);
+  ::DestroyMenu(menu);
+
+  EXPECT_TRUE(g_menuIsOpen);
+  ASSERT_EQ(g_menus["open"], true);
+  const auto& rows = g_menus["rows"];
+  ASSERT_EQ(rows.size(), 6u);
+  EXPECT_EQ(rows[0]["label"], "墙(&W)\tCtrl+W");
+  EXPECT_EQ(rows[0]["text"], "墙");
+  EXPECT_EQ(rows[0]["id"], 2000);
+  EXPECT_EQ(rows[0]["checked"], true);
+  EXPECT_EQ(rows[1]["separator"], true);
+  EXPECT_EQ(rows[2]["text"], "开");
+  EXPECT_EQ(rows[2]["enabled"], false);
+  EXPECT_EQ(rows[3]["label"], "");  // item data that begins with no such record
+  EXPECT_EQ(rows[4]["label"], "");  // item data that is no address at all
+  EXPECT_EQ(rows[5]["rows"][0]["label"], "inner");
+  EXPECT_TRUE(rows[5]["rows"][0]["rect"].is_null());  // its menu is not open
+  ASSERT_TRUE(rows[0]["rect"].is_array());
+  EXPECT_GE(rows[0]["rect"][1].get<int>(), 20);
+  EXPECT_LE(rows[0]["rect"][3].get<int>(), rows[1]["rect"][1].get<int>());
+}
+
+TEST(LiveMenus, WithoutOneThereIsNoneOpen) {
+  EXPECT_FALSE(IsPopupMenuOpen(::GetCurrentThreadId()));
+  EXPECT_EQ(DescribeLiveMenus(::GetCurrentThreadId())["open"], false);
 }

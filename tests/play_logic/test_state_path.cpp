@@ -121,9 +121,22 @@ TEST(RowPlace, SaysWhyThereIsNone) {
 }
 
 TEST(RowPlace, PopupRowsAreFoundTheSameWay) {
-  EXPECT_EQ(PlaceOfPopupRow(State(), "删除").point.x, 550);
-  EXPECT_EQ(PlaceOfPopupRow(Json::object(), "a").problem,
-            "pop-ups are not built into the shell state");
+  EXPECT_EQ(PlaceOfPopupRow(State()["popup"], "删除").point.x, 550);
+  EXPECT_EQ(PlaceOfPopupRow(Json::object(), "a").problem, "no pop-up is open");
+  EXPECT_EQ(PlaceOfPopupRow(Json::parse(R"({"open": false, "rows": []})"), "a").problem,
+            "no pop-up is open");
+}
+
+TEST(RowPlace, APopupRowAnswersToItsLabelAndToWhatAUserReadsOfIt) {
+  const Json popup = Json::parse(R"json({"open": true, "rows": [
+    {"label": "改层(&L)\tCtrl+L", "text": "改层", "rect": [0, 0, 20, 10], "rows": [
+      {"label": "下(&D)", "text": "下", "rect": [20, 0, 40, 10]},
+      {"label": "关着", "text": "关着", "rect": null}]}]})json");
+  EXPECT_EQ(PlaceOfPopupRow(popup, "改层").point.x, 10);
+  EXPECT_EQ(PlaceOfPopupRow(popup, "改层(&L)\tCtrl+L").point.x, 10);
+  EXPECT_EQ(PlaceOfPopupRow(popup, "改层/下").point.x, 30);
+  EXPECT_EQ(PlaceOfPopupRow(popup, "改层/关着").problem,
+            "row \"改层/关着\" has no place on the screen");
 }
 
 TEST(RowPlace, ADamagedStateIsNoPlace) {

@@ -82,16 +82,17 @@ std::string DriverWorld::PointOnMainThread(const Target& target, POINT* point) {
     *point = place.point;
     return place.problem;
   };
-  const Json state = Json::parse(m_port.DescribeShell(), nullptr, false);
   switch (target.kind) {
     case TargetKind::Row:
-      return placed(PlaceOfScreenMenuRow(state, target.text));
+      return placed(
+          PlaceOfScreenMenuRow(Json::parse(m_port.DescribeShell(), nullptr, false), target.text));
     case TargetKind::Popup:
-      return placed(PlaceOfPopupRow(state, target.text));
+      return placed(
+          PlaceOfPopupRow(Json::parse(m_port.DescribeMenus(), nullptr, false), target.text));
     case TargetKind::Tab:
       return "pressing tabs is not built: the shell state gives them no place";
     case TargetKind::Pane:
-      return "pressing panes is not built: the shell state gives them no place";
+      return m_port.PaneToScreen(target.text, point);
     case TargetKind::Button:
       return problem(m_port.ButtonToScreen(Wide(target.text), point),
                      "there is no visible button " + QuotedForScript(target.text));
@@ -220,6 +221,10 @@ bool DriverWorld::IsIdle() {
 
 bool DriverWorld::IsMenuOpen() {
   return Ask<bool>([this] { return m_port.IsMenuOpen(); });
+}
+
+bool DriverWorld::IsPopupOpen() {
+  return Ask<bool>([this] { return m_port.IsPopupOpen(); });
 }
 
 void DriverWorld::LetTimersFire() {

@@ -17,6 +17,7 @@ class DriverWorld : public PlayWorld {
   std::string Perform(const Step& step) override;
   bool IsIdle() override;
   bool IsMenuOpen() override;
+  bool IsPopupOpen() override;
   void LetTimersFire() override;
   std::string ShellState() override;
   bool Variable(const std::string& name, std::string* value) override;
