@@ -9,6 +9,7 @@
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
 #include "devhost/core/scene.h"
+#include "devhost/core/selection.h"
 #include "devhost/core/start_trace.h"
 #include "devhost/core/text_case.h"
 
@@ -75,6 +76,12 @@ std::wstring RealText(double value) {
   return buffer;
 }
 
+// What was picked lies in the other space, and so does what the view showed.
+void ShowOtherSpace(Document& document) {
+  document.view.ZoomTo(ExtentsOf(*document.database()));
+  if (!document.pickFirst.empty()) SetPickFirst(document, {});
+}
+
 // Leaving or entering paper space takes the viewport and the tab along; which space is current
 // follows from both.
 void FollowSpace(Document& document, const std::wstring& name, const std::wstring& value) {
@@ -85,7 +92,10 @@ void FollowSpace(Document& document, const std::wstring& name, const std::wstrin
   if (name != L"TILEMODE" && name != L"CVPORT") return;
   const auto tile = document.variables.find(L"TILEMODE");
   const bool paper = tile != document.variables.end() && tile->second == L"0";
-  document.database()->body().paperIsCurrent = paper && document.variables[L"CVPORT"] == L"1";
+  bool& current = document.database()->body().paperIsCurrent;
+  const bool before = current;
+  current = paper && document.variables[L"CVPORT"] == L"1";
+  if (current != before) ShowOtherSpace(document);
 }
 
 // What TILEMODE takes along is put back behind it, that is recorded before it.

@@ -1,7 +1,10 @@
 // Wild cards, filters, selection sets and the pick-first set.
 #include "devhost/core/selection.h"
 
+#include "devhost/core/scene.h"
+
 #include "host_fixture.h"
+#include "small_drawing.h"
 
 using namespace devhost;
 
@@ -168,4 +171,38 @@ TEST_F(Selection, ObjectsAreAskedForByClickAndByBox) {
   Send(L"ERASE\n");
   ASSERT_EQ(Entities().size(), 1u);
   EXPECT_STREQ(Entities()[0]->layer(), L"墙线");
+}
+
+class PaperSpace : public hosttest::HostTest {
+ protected:
+  void SetUp() override {
+    HostTest::SetUp();
+    ASSERT_NE(host.documents.Open(MakeFile("small.dxf", hosttest::SmallDrawing())), nullptr);
+  }
+  Document& Drawing() { return *host.documents.Current(); }
+};
+
+TEST_F(PaperSpace, AViewportIsPickedByItsFrameAndKnownByItsType) {
+  ASSERT_EQ(host.variables.Set(L"TILEMODE", L"0"), VarResult::Ok);
+  ASSERT_EQ(Entities().size(), 1u);
+  AcDbEntity* viewport = EntityAt(*Drawing().database(), {0, 30, 0}, 1);  // its left edge
+  ASSERT_NE(AcDbViewport::cast(viewport), nullptr);
+  EXPECT_EQ(EntityAt(*Drawing().database(), {100, 50, 0}, 1), nullptr);  // its middle is empty
+  for (const bool paper : {true, false}) {
+    resbuf* filter = acutBuildList(RTDXF0, L"VIEW*", 67, paper ? 1 : 0, RTNONE);
+    EXPECT_EQ(PassesFilter(*viewport, filter), paper);
+    acutRelRb(filter);
+  }
+}
+
+TEST_F(PaperSpace, ChangingTheSpaceDropsTheSelectionAndShowsTheOtherSpaceWhole) {
+  Drawing().view.Resize(400, 200);
+  Drawing().pickFirst = {Entities()[0]->objectId()};
+  ASSERT_EQ(host.variables.Set(L"TILEMODE", L"0"), VarResult::Ok);
+  EXPECT_TRUE(Drawing().pickFirst.empty());
+  EXPECT_EQ(ui.diary.back(), L"var TILEMODE");
+  EXPECT_NEAR(Drawing().view.ToWorld({200, 100}).x, 100, 1);  // the middle of the viewport
+  Drawing().pickFirst = {Entities()[0]->objectId()};
+  ASSERT_EQ(host.variables.Set(L"CVPORT", L"1"), VarResult::Ok);  // where it is already
+  EXPECT_EQ(Drawing().pickFirst.size(), 1u);
 }
