@@ -159,6 +159,17 @@ TEST_F(Module, SetsTheFramesTitleFromTheProductFile) {
   HostProcess::Get().Remove(L"qvx.ini");
 }
 
+TEST_F(Module, WithoutAHyphenInTheFramesTextTheReleaseNamesTheHost) {
+  HostProcess::Get().Write(L"qvx.ini", "[Product]\nTitle=Test Product\n");
+  HostProcess::Get().Frame().SetWindowText(L"Some host");
+  ASSERT_TRUE(LoadModule());
+  CString title;
+  HostProcess::Get().Frame().GetWindowText(title);
+  EXPECT_STREQ(title.GetString(), L"Test Product For AutoCAD 2013");
+  HostProcess::Get().Remove(L"qvx.ini");
+  HostProcess::Get().Frame().SetWindowText(L"AutoCAD 2021");
+}
+
 // A dialog would wait for ever here.
 TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndMovesOnByOne) {
   HostProcess::Get().Write(L"qvxtips.txt", "one\r\ntwo\r\n");

@@ -61,6 +61,22 @@ inline std::wstring TextOf(const wchar_t* folder, const wchar_t* name) {
   return text;
 }
 
+// Kernel globals of the loaded module, by name and as text.
+inline void SetKernelSetting(const wchar_t* name, const wchar_t* text) {
+  const auto set =
+      Export<int (*)(const wchar_t*, const wchar_t*)>(L"qvx_kernal.arx", "QvxSetSetting");
+  ASSERT_NE(set, nullptr);
+  EXPECT_TRUE(set(name, text));
+}
+
+inline std::wstring KernelSetting(const wchar_t* name) {
+  const auto get =
+      Export<int (*)(const wchar_t*, wchar_t*, int)>(L"qvx_kernal.arx", "QvxGetSetting");
+  wchar_t text[600] = L"";
+  if (get) get(name, text, 600);
+  return text;
+}
+
 inline bool LoadModule() { return acrxLoadModule(L"qvx_initstart.arx", true); }
 inline bool UnloadModule() { return acrxUnloadModule(L"qvx_initstart.arx"); }
 

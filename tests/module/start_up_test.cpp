@@ -12,13 +12,6 @@ std::wstring Titles() {
   return text;
 }
 
-void SetKernelSetting(const wchar_t* name, const wchar_t* text) {
-  const auto set =
-      Export<int (*)(const wchar_t*, const wchar_t*)>(L"qvx_kernal.arx", "QvxSetSetting");
-  ASSERT_NE(set, nullptr);
-  EXPECT_TRUE(set(name, text)) << name;
-}
-
 class StartUp : public Module {
  protected:
   void SetUp() override {
