@@ -10,6 +10,7 @@
 #include "frame/unbuilt_rooms.h"
 #include "screenmenu/describe_screen_menu.h"
 #include "screenmenu/shell_json.h"
+#include "statusbar/status_panes.h"
 
 namespace {
 
@@ -20,6 +21,23 @@ std::string RecentSection() {
   for (int i = 0; system && i < system->m_recent.Length(); ++i) {
     if (i) json += ",";
     json += qvx::JsonString(system->m_recent.At(i)->m_strCommand.c_str());
+  }
+  return json + "]";
+}
+
+std::string RectOf(const RECT& r) {
+  return "[" + std::to_string(r.left) + "," + std::to_string(r.top) + "," +
+         std::to_string(r.right) + "," + std::to_string(r.bottom) + "]";
+}
+
+std::string PanesSection() {
+  std::string json = "[";
+  for (const ShownPane& pane : ShownPanes()) {
+    if (json.size() > 1) json += ",";
+    json += std::string("{\"name\":\"") + pane.name + "\",\"style\":" + std::to_string(pane.style) +
+            ",\"icon\":" + std::to_string(pane.icon) +
+            ",\"tooltip\":" + qvx::JsonString(pane.toolTip) +
+            ",\"text\":" + qvx::JsonString(pane.text) + ",\"rect\":" + RectOf(pane.rect) + "}";
   }
   return json + "]";
 }
@@ -41,11 +59,11 @@ std::string UnbuiltSection() {
 // UTF-8, valid until the next call; main thread only.
 extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
   static std::string json;
-  json =
-      "{\"screenmenu\":" + DescribeScreenMenu() +
-      ",\"popup\":null,\"tabs\":null,\"panes\":null,\"editor\":null,\"recent\":" + RecentSection() +
-      ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
-      ",\"unbuilt\":" + UnbuiltSection() + "}";
+  json = "{\"screenmenu\":" + DescribeScreenMenu() +
+         ",\"popup\":null,\"tabs\":null,\"panes\":" + PanesSection() +
+         ",\"editor\":null,\"recent\":" + RecentSection() +
+         ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
+         ",\"unbuilt\":" + UnbuiltSection() + "}";
   return json.c_str();
 }
 

@@ -11,6 +11,8 @@
 #include "rxdlinkr.h"
 #include "rxregsvc.h"
 #include "screenmenu/screen_menu.h"
+#include "statusbar/cad_status_pane.h"
+#include "statusbar/status_panes.h"
 
 #define QVX_EXPORT extern "C" __declspec(dllexport)
 
@@ -20,6 +22,7 @@ std::unique_ptr<Shell> g_shell;
 
 void Load(void* packet) {
   g_shell = std::make_unique<Shell>(packet);
+  SetPaneMenuRefresh(RefreshScreenMenu);
   RunLoadSequence(*g_shell);
 }
 
@@ -80,4 +83,4 @@ QVX_EXPORT void LoadMenuForSun() {
 }
 
 QVX_EXPORT void HideTabBar(int) { unbuilt::HideTabBar(); }
-QVX_EXPORT void UpdateStatusBar() { unbuilt::UpdateStatusBar(); }
+QVX_EXPORT void UpdateStatusBar() { UpdateStatusPanes(); }

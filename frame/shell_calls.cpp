@@ -10,6 +10,8 @@
 #include "kernel/tregproperty.h"
 #include "screenmenu/host_lisp.h"
 #include "screenmenu/screen_menu.h"
+#include "statusbar/drawing_scale_change.h"
+#include "statusbar/status_panes.h"
 
 namespace {
 
@@ -72,8 +74,8 @@ void Shell::OnMenuReadiness() {
 }
 
 void Shell::ShowMenuAt(TMenuBar&, POINT, UINT) { unbuilt::ShowMenuAt(); }
-void Shell::UpdateStatusBar() { unbuilt::UpdateStatusBar(); }
-void Shell::WriteDrawingScale() { unbuilt::WriteDrawingScale(); }
-void Shell::RefreshDrawingPanes() { unbuilt::RefreshDrawingPanes(); }
-void Shell::RefreshScaleText() { unbuilt::RefreshScaleText(); }
+void Shell::UpdateStatusBar() { ::UpdateStatusPanes(); }
+void Shell::WriteDrawingScale() { qvx::WriteHatchScale(); }
+void Shell::RefreshDrawingPanes() { ::RefreshDrawingPanes(); }
+void Shell::RefreshScaleText() { ::RefreshScaleText(); }
 void Shell::ResetPreviewCounters() { unbuilt::ResetPreviewCounters(); }

@@ -22,6 +22,27 @@
 #include "rxregsvc.h"
 #include "screenmenu/screen_menu.h"
 #include "screenmenu/screen_menu_reactor.h"
+#include "statusbar/status_panes.h"
+
+namespace {
+
+qvx::SwitchPane SwitchOf(StatusPane pane) {
+  switch (pane) {
+    case StatusPane::kBaseLine:
+      return qvx::SwitchPane::kBaseLine;
+    case StatusPane::kFill:
+      return qvx::SwitchPane::kFill;
+    case StatusPane::kBoldLine:
+      return qvx::SwitchPane::kBoldLine;
+    case StatusPane::kDynDim:
+      return qvx::SwitchPane::kDynDim;
+    case StatusPane::kMakeGroup:
+      break;
+  }
+  return qvx::SwitchPane::kMakeGroup;
+}
+
+}  // namespace
 
 int Shell::CustomFlags() { return GetCustomFlag(); }
 
@@ -97,8 +118,8 @@ void Shell::CreateDocTabBar() {
   unbuilt::InitDocTabBar();
 }
 
-void Shell::InitPane(StatusPane pane, bool add) { unbuilt::InitPane(pane, add); }
-void Shell::InitScalePane(bool add) { unbuilt::InitScalePane(add); }
+void Shell::InitPane(StatusPane pane, bool add) { ::InitStatusPane(SwitchOf(pane), add); }
+void Shell::InitScalePane(bool add) { ::InitScalePane(add); }
 
 void Shell::SaveSettings() { SaveGlobalToReg(); }
 

@@ -9,11 +9,6 @@ UnbuiltStep g_steps[] = {
     {"message filter", "editor", 0},     {"CreateDocTabBar", "doctabs", 0},
     {"InitDocTabBar", "doctabs", 0},     {"DestroyDocTabBar", "doctabs", 0},
     {"tab caption timer", "doctabs", 0}, {"HideTabBar", "doctabs", 0},
-    {"TMakeGroupPane", "statusbar", 0},  {"TBaseLinePane", "statusbar", 0},
-    {"TaKhsKsj123", "statusbar", 0},     {"TBoldLinePane", "statusbar", 0},
-    {"TDynDimPane", "statusbar", 0},     {"scale pane", "statusbar", 0},
-    {"HPSCALE", "statusbar", 0},         {"per-drawing panes", "statusbar", 0},
-    {"scale text", "statusbar", 0},      {"UpdateStatusBar", "statusbar", 0},
     {"selection preview", "editor", 0},  {"ShowMenuAt", "popup", 0},
     {"TInPlaceEdit", "editor", 0},       {"TTextEditInBlock", "editor", 0},
     {"C:TDragVp", "editor", 0},
@@ -22,22 +17,6 @@ UnbuiltStep g_steps[] = {
 void Note(const char* name) {
   for (UnbuiltStep& step : g_steps)
     if (!std::strcmp(step.name, name)) ++step.calls;
-}
-
-const char* NameOf(StatusPane pane) {
-  switch (pane) {
-    case StatusPane::kMakeGroup:
-      return "TMakeGroupPane";
-    case StatusPane::kBaseLine:
-      return "TBaseLinePane";
-    case StatusPane::kFill:
-      return "TaKhsKsj123";
-    case StatusPane::kBoldLine:
-      return "TBoldLinePane";
-    case StatusPane::kDynDim:
-      return "TDynDimPane";
-  }
-  return "";
 }
 
 }  // namespace
@@ -53,15 +32,9 @@ void InitMessageFilter(bool) { Note("message filter"); }
 void CreateDocTabBar() { Note("CreateDocTabBar"); }
 void InitDocTabBar() { Note("InitDocTabBar"); }
 void DestroyDocTabBar() { Note("DestroyDocTabBar"); }
-void InitPane(StatusPane pane, bool) { Note(NameOf(pane)); }
-void InitScalePane(bool) { Note("scale pane"); }
 
 void StartTabCaptionTimer() { Note("tab caption timer"); }
-void WriteDrawingScale() { Note("HPSCALE"); }
-void RefreshDrawingPanes() { Note("per-drawing panes"); }
-void RefreshScaleText() { Note("scale text"); }
 void ResetPreviewCounters() { Note("selection preview"); }
-void UpdateStatusBar() { Note("UpdateStatusBar"); }
 
 void ShowMenuAt() { Note("ShowMenuAt"); }
 

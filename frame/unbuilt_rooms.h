@@ -3,8 +3,6 @@
 // The list is part of what QvxDescribeShell tells ("unbuilt"), so nobody has to guess.
 #pragma once
 
-#include "frame/load_sequence.h"
-
 struct UnbuiltStep {
   const char* name;  // as a user or a sibling module knows it
   const char* room;  // the folder that will hold it
@@ -20,16 +18,10 @@ void InitMessageFilter(bool add);
 void CreateDocTabBar();
 void InitDocTabBar();
 void DestroyDocTabBar();
-void InitPane(StatusPane pane, bool add);
-void InitScalePane(bool add);
 
 // Per drawing and on saving.
 void StartTabCaptionTimer();
-void WriteDrawingScale();
-void RefreshDrawingPanes();
-void RefreshScaleText();
 void ResetPreviewCounters();
-void UpdateStatusBar();
 
 // Pop-ups.
 void ShowMenuAt();

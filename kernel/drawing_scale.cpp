@@ -31,11 +31,12 @@ double ScaleOfSheet(AcDbDatabase& database) {
   return scale;
 }
 
-}  // namespace
-
+// No viewport is entered.
 bool IsInPaperSpace() {
   return ShortVariable(L"TILEMODE", 1) == 0 && ShortVariable(L"CVPORT", 2) == 1;
 }
+
+}  // namespace
 
 double DocGetPScale() {
   AcDbDatabase* database = QvxGeLib::g_pCurrentDb;

@@ -10,6 +10,3 @@ inline constexpr wchar_t kPaperScaleApplication[] = L"_QVX";
 // A sheet that never got a scale is drawn at its own size, 1; without a drawing the default of a
 // new one is answered.
 QVX_KERNEL double DocGetPScale();
-
-// TILEMODE 0 and CVPORT 1: no viewport is entered.
-QVX_KERNEL bool IsInPaperSpace();

@@ -99,9 +99,10 @@ bool HasWord(const std::string& text, const std::string& word) {
 }
 
 void CollectFile(const std::string& text, std::set<std::string>& names) {
-  for (const char* call : {"GetValue(", "SetValue(", "ScreenMenuSetting(", "acedGetVar(",
-                           "acedSetVar(", "acedPutSym(", "GetIniBuferValueByKey(", "ValueOf(",
-                           "product.Value(", "TextOf(product, ", "TPushAcadVar<int, 0> "})
+  for (const char* call :
+       {"GetValue(", "SetValue(", "ScreenMenuSetting(", "acedGetVar(", "acedSetVar(", "acedPutSym(",
+        "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "ShortVariable(",
+        "TextOf(product, ", "TPushAcadVar<int, 0> "})
     CollectCall(text, call, names);
   const std::string flag = "L\"InitStart";  // chosen by release, read by variable
   for (size_t at = text.find(flag); at != text.npos; at = text.find(flag, at + 1))

@@ -1,0 +1,80 @@
+// The scale pane's text, its menu's numbers, and which scales a drawing takes.
+#include "statusbar/scale_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <limits>
+
+using namespace qvx;
+
+namespace {
+
+TWCString TextFor(double drawing, std::initializer_list<double> scales) {
+  ScaleWalk walk;
+  for (const double scale : scales)
+    if (!walk.Take(scale)) break;
+  return ScalePaneText(drawing, walk);
+}
+
+}  // namespace
+
+TEST(ScaleMenu, EveryLineHasItsScale) {
+  const struct {
+    unsigned command;
+    double scale;
+  } kRows[] = {{40234, 0.5}, {40232, 1},   {40233, 2},   {40218, 5},   {40219, 10},  {40220, 20},
+               {40221, 25},  {40222, 30},  {40223, 50},  {40224, 100}, {40225, 150}, {40226, 200},
+               {40227, 250}, {40230, 300}, {40228, 500}, {40229, 1000}};
+  for (const auto& row : kRows) EXPECT_EQ(ScaleOfCommand(row.command), row.scale) << row.command;
+}
+
+TEST(ScaleMenu, OtherAndNoChoiceHaveNone) {
+  for (const unsigned command : {0u, 40231u, 40217u, 40235u})
+    EXPECT_FALSE(ScaleOfCommand(command)) << command;
+}
+
+TEST(ScaleText, WithoutASelectionIsTheDrawings) {
+  EXPECT_STREQ(TextFor(50, {}), L"比例 1:50");
+  EXPECT_STREQ(TextFor(0.5, {}), L"比例 1:0.5");
+}
+
+TEST(ScaleText, ObjectsOfOneScaleShowTheirsAndNotTheDrawings) {
+  EXPECT_STREQ(TextFor(50, {100, 100, 100}), L"比例 1:100");
+  EXPECT_STREQ(TextFor(50, {100}), L"比例 1:100");
+}
+
+TEST(ScaleText, ADifferenceWithinTheToleranceCountsAsOneScale) {
+  EXPECT_STREQ(TextFor(50, {100, 100.0005}), L"比例 1:100");
+  EXPECT_STREQ(TextFor(50, {0.5, 0.5009}), L"比例 1:0.5") << "on the scale itself, not its share";
+}
+
+TEST(ScaleText, ObjectsOfDifferentScalesShowStars) {
+  EXPECT_STREQ(TextFor(50, {100, 100.01}), L"比例 1:***");
+  EXPECT_STREQ(TextFor(50, {100, 100, 50}), L"比例 1:***");
+}
+
+TEST(ScaleText, EachIsComparedWithTheFirstSoThatASlowDriftIsMixed) {
+  EXPECT_STREQ(TextFor(50, {100, 100.0008, 100.0016}), L"比例 1:***");
+}
+
+TEST(ScaleText, AScaleThatIsNotAboveZeroShowsTheDrawings) {
+  EXPECT_STREQ(TextFor(50, {0, 0}), L"比例 1:50");
+  EXPECT_STREQ(TextFor(50, {-100}), L"比例 1:50");
+  EXPECT_STREQ(TextFor(50, {0, 100}), L"比例 1:***");
+}
+
+TEST(DrawingScale, TakesOnlyWhatIsAboveAFloor) {
+  EXPECT_TRUE(DrawingTakesScale(100));
+  EXPECT_TRUE(DrawingTakesScale(0.00011));
+  EXPECT_FALSE(DrawingTakesScale(0.0001));
+  EXPECT_FALSE(DrawingTakesScale(0));
+  EXPECT_FALSE(DrawingTakesScale(-1));
+  EXPECT_FALSE(DrawingTakesScale(std::numeric_limits<double>::quiet_NaN()));
+}
+
+TEST(DimRadius, ShrinksByThePaperDistanceForEachStepOfTheScale) {
+  EXPECT_EQ(DimRadiusAt(2000, 10, 150, 100), 1500);
+  EXPECT_EQ(DimRadiusAt(2000, 10, 50, 100), 2500);
+  EXPECT_EQ(DimRadiusAt(2000, 10, 100, 100), 2000);
+}
