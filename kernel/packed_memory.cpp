@@ -37,7 +37,7 @@ void PackedMemory::Refill() {
 
 void PackedMemory::StartOver(Chunk* chunk) noexcept {
   s_next = reinterpret_cast<char*>(chunk + 1);
-  s_end = reinterpret_cast<char*>(chunk) + kChunkBytes - kRoomForTheHeap;
+  s_end = reinterpret_cast<char*>(chunk) + kChunkBytes - kRoomForTheHeap - kOverrun;
   Forbid(s_next, static_cast<std::size_t>(s_end - s_next));
 }
 

@@ -23,6 +23,13 @@
 class QVX_KERNEL PackedMemory {
  public:
   static constexpr std::size_t kLargest = 4096;  // bytes of one block
+  // Bytes behind the block that was taken last that may be written until the next one is taken: so
+  // a short text is copied in one piece of fixed size.
+#if defined(QVX_WATCHED_MEMORY)
+  static constexpr std::size_t kOverrun = 0;
+#else
+  static constexpr std::size_t kOverrun = 64;
+#endif
 
   // A block of at most kLargest bytes, aligned for int. Throws std::bad_alloc.
   static void* Take(std::size_t bytes) { return Cut(RoundedUp(bytes, kUnit)); }

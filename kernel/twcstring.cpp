@@ -41,19 +41,18 @@ void TWCString::Copy(const TWCString& other) {
 
 void TWCString::Keep(const wchar_t* text, int count) {
   if (count <= 0 || !text) return Empty();
-  if (!m_bits) {
-    std::memcpy(KeepRoom(count), text, BytesOf(count));
-    return;
-  }
+  const auto copy = [=](wchar_t* out) { std::memcpy(out, text, BytesOf(count)); };
+  if (!m_bits) return KeepBy(count, copy);
   TWCString kept;  // for its own part: the source may lie inside the old text
-  std::memcpy(kept.KeepRoom(count), text, BytesOf(count));
+  kept.KeepBy(count, copy);
   std::swap(m_bits, kept.m_bits);
 }
 
 // Too long for packed memory: on the heap like any other text.
 wchar_t* TWCString::LongRoom(int count) {
-  Reserve(count);
-  SetLength(count);
+  if (count > kLargest - kOverrun) throw std::bad_alloc();
+  Reserve(count + kOverrun);
+  Head()[kLength] = count;
   return Text();
 }
 

@@ -76,15 +76,25 @@ class QVX_KERNEL TWCString {
   // The same for a text that will stay as it is: it is packed beside the other kept ones, and
   // copies of the string share it. A change later on moves it out first. Main thread only.
   void Keep(const wchar_t* text, int count);
-  // The same for `count` units that the caller writes at once; at least one.
-  wchar_t* KeepRoom(int count) {
-    if (count > kLongestKept) return LongRoom(count);
-    const std::size_t bytes = sizeof(int) + sizeof(wchar_t) * (static_cast<std::size_t>(count) + 1);
-    int* head = static_cast<int*>(PackedMemory::Take(bytes)) + 1;
-    if (m_bits) Release();
-    m_bits = reinterpret_cast<std::uintptr_t>(head) | kKept;
-    SetLength(count);
-    return Text();
+  // The same for a text of at least one unit that `write` lays down where it is told to. It may
+  // use up to kOverrun units behind the text as well.
+  static constexpr int kOverrun = static_cast<int>(PackedMemory::kOverrun / sizeof(wchar_t));
+  template <class Writer>
+  void KeepBy(int count, Writer write) {
+    wchar_t* text = KeepRoom(count);
+    write(text);
+    text[count] = 0;
+  }
+  // Keeps a text that lies outside this string and behind which kOverrun units more can be read.
+  void KeepQuickly(const wchar_t* text, int count) {
+    if (count <= 0) return Empty();
+    KeepBy(count, [=](wchar_t* room) {
+      if constexpr (kOverrun == 0)
+        std::memcpy(room, text, sizeof(wchar_t) * static_cast<std::size_t>(count));
+      else
+        for (int done = 0; done < count; done += kOverrun)
+          std::memcpy(room + done, text + done, PackedMemory::kOverrun);
+    });
   }
   void Append(const wchar_t* text, int count);
   void Reserve(int capacity) {
@@ -134,6 +144,16 @@ class QVX_KERNEL TWCString {
   void SetLength(int length) noexcept {
     Head()[kLength] = length;
     Text()[length] = 0;
+  }
+  // Without the terminator.
+  wchar_t* KeepRoom(int count) {
+    if (count > kLongestKept) return LongRoom(count);
+    const std::size_t bytes = sizeof(int) + sizeof(wchar_t) * (static_cast<std::size_t>(count) + 1);
+    int* head = static_cast<int*>(PackedMemory::Take(bytes)) + 1;
+    if (m_bits) Release();
+    m_bits = reinterpret_cast<std::uintptr_t>(head) | kKept;
+    head[kLength] = count;
+    return Text();
   }
   wchar_t* LongRoom(int count);
 

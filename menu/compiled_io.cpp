@@ -15,50 +15,72 @@ constexpr uint16_t kWideMark = 0xFFFE;
 constexpr uint16_t kLarge = 0xFFFF;
 constexpr uint32_t kShortHead = 0xFFFEFF;  // the marker as a number; the length is the byte above
 
-constexpr size_t kPiece = 65536;
 constexpr size_t kWindow = kArchiveBuffer;
-static_assert(std::endian::native == std::endian::little);
 
-// Eight at a time: those loops have a fixed length, and compilers make vector code of them.
+// Pieces of a fixed length, of which compilers make vector code. The last one may overlap the one
+// in front of it, so that only the shortest texts need a loop.
+template <size_t kUnits>
+void NarrowPiece(const wchar_t* text, unsigned char* bytes) {
+  uint16_t units[kUnits];
+  for (size_t i = 0; i < kUnits; ++i) units[i] = static_cast<uint16_t>(text[i]);
+  std::memcpy(bytes, units, sizeof units);
+}
+
+template <size_t kUnits>
+void WidenPiece(const unsigned char* bytes, wchar_t* out) {
+  uint16_t units[kUnits];
+  std::memcpy(units, bytes, sizeof units);
+  for (size_t i = 0; i < kUnits; ++i) out[i] = static_cast<wchar_t>(units[i]);
+}
+
+template <size_t kUnits, class Piece>
+void InPieces(size_t length, Piece piece) {
+  for (size_t at = 0; at + kUnits < length; at += kUnits) piece(at);
+  piece(length - kUnits);
+}
+
 void Narrow(const wchar_t* text, size_t length, unsigned char* bytes) {
-  for (; length >= 8; length -= 8, text += 8, bytes += 16) {
-    uint16_t units[8];
-    for (int i = 0; i < 8; ++i) units[i] = static_cast<uint16_t>(text[i]);
-    std::memcpy(bytes, units, sizeof units);
-  }
-  for (; length; --length, ++text, bytes += 2) {
-    bytes[0] = static_cast<unsigned char>(*text);
-    bytes[1] = static_cast<unsigned char>(*text >> 8);
+  if (length >= 8) {
+    InPieces<8>(length, [=](size_t at) { NarrowPiece<8>(text + at, bytes + 2 * at); });
+  } else if (length >= 4) {
+    InPieces<4>(length, [=](size_t at) { NarrowPiece<4>(text + at, bytes + 2 * at); });
+  } else {
+    for (size_t at = 0; at < length; ++at) NarrowPiece<1>(text + at, bytes + 2 * at);
   }
 }
 
 void Widen(const unsigned char* bytes, size_t length, wchar_t* out) {
-  for (; length >= 8; length -= 8, bytes += 16, out += 8) {
-    uint16_t units[8];
-    std::memcpy(units, bytes, sizeof units);
-    for (int i = 0; i < 8; ++i) out[i] = static_cast<wchar_t>(units[i]);
+  if (length >= 8) {
+    InPieces<8>(length, [=](size_t at) { WidenPiece<8>(bytes + 2 * at, out + at); });
+  } else {
+    for (size_t at = 0; at < length; ++at) WidenPiece<1>(bytes + 2 * at, out + at);
   }
-  if (length & 4) {
-    uint16_t units[4];
-    std::memcpy(units, bytes, sizeof units);
-    for (int i = 0; i < 4; ++i) out[i] = static_cast<wchar_t>(units[i]);
-    bytes += 8;
-    out += 4;
+}
+
+// In whole pieces where the string has room for that, which reads up to 15 units more than the text
+// has: no branch then depends on the length of a usual text.
+void WidenShort(const unsigned char* bytes, size_t length, wchar_t* out) {
+  if constexpr (TWCString::kOverrun < 16) {
+    Widen(bytes, length, out);
+  } else {
+    for (size_t at = 0; at < length; at += 16) {
+      WidenPiece<8>(bytes + 2 * at, out + at);
+      WidenPiece<8>(bytes + 2 * at + 16, out + at + 8);
+    }
   }
-  for (length &= 3; length; --length, bytes += 2)
-    *out++ = static_cast<wchar_t>(bytes[0] | bytes[1] << 8);
 }
 
 }  // namespace
 
-CompiledWriter::CompiledWriter(CArchive& ar, TMenuSystem* system) : m_ar(ar), m_bytes(kPiece) {
+CompiledWriter::CompiledWriter(CArchive& ar, TMenuSystem* system)
+    : m_ar(ar), m_bytes(std::make_unique_for_overwrite<unsigned char[]>(kPiece)) {
   if (!system) return;
   for (int i = 0; i < system->m_switches.Length(); ++i)
     m_switches.emplace(system->m_switches.At(i), i);
 }
 
 void CompiledWriter::Finish() {
-  if (m_filled) m_ar.Write(m_bytes.data(), static_cast<UINT>(m_filled));
+  if (m_filled) m_ar.Write(m_bytes.get(), static_cast<UINT>(m_filled));
   m_filled = 0;
 }
 
@@ -142,7 +164,7 @@ bool CompiledReader::GetQuickly(TWCString& out) {
   const unsigned char* text = m_at + 4;
   m_at = text + 2 * size_t{length};
   if (length)
-    Widen(text, length, out.KeepRoom(static_cast<int>(length)));
+    out.KeepBy(static_cast<int>(length), [=](wchar_t* room) { WidenShort(text, length, room); });
   else if (!out.IsEmpty())
     out.Empty();
   return true;
@@ -170,7 +192,7 @@ void CompiledReader::GetAnyString(TWCString& out) {
   if (length == 0) return out.Empty();
   const unsigned char* text = Need(wide ? 2 * size_t{length} : length);
   if (wide) {
-    Widen(text, length, out.KeepRoom(static_cast<int>(length)));
+    out.KeepBy(static_cast<int>(length), [=](wchar_t* room) { Widen(text, length, room); });
   } else {
     const TUString decoded(reinterpret_cast<const char*>(text), static_cast<int>(length));
     out.Keep(decoded, decoded.Length());

@@ -3,11 +3,11 @@
 // what the file can still hold. Both end by the archive's exceptions.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <memory>
 #include <unordered_map>
-#include <vector>
 
 #include "afx.h"
 #include "kernel/twcstring.h"
@@ -16,6 +16,9 @@ class TMenuSystem;
 class TMenuSwitchItem;
 
 constexpr int kArchiveBuffer = 409600;  // bytes; of the archives on compiled files
+
+// Numbers are copied as they lie in memory.
+static_assert(std::endian::native == std::endian::little);
 
 // Gathers what is written and hands it to the archive in large pieces; Finish hands over the rest.
 class CompiledWriter {
@@ -39,18 +42,20 @@ class CompiledWriter {
  private:
   template <class Number>
   static void LayDown(unsigned char* bytes, Number value) {
-    for (size_t i = 0; i < sizeof value; ++i) bytes[i] = static_cast<unsigned char>(value >> 8 * i);
+    std::memcpy(bytes, &value, sizeof value);
   }
   unsigned char* Room(size_t bytes) {  // small ones only
-    if (bytes > m_bytes.size() - m_filled) Finish();
-    unsigned char* room = m_bytes.data() + m_filled;
+    if (bytes > kPiece - m_filled) Finish();
+    unsigned char* room = m_bytes.get() + m_filled;
     m_filled += bytes;
     return room;
   }
   void PutLongString(const wchar_t* text, uint32_t length);
 
+  static constexpr size_t kPiece = kArchiveBuffer;  // so that the archive passes it on as it is
+
   CArchive& m_ar;
-  std::vector<unsigned char> m_bytes;
+  std::unique_ptr<unsigned char[]> m_bytes;
   size_t m_filled = 0;
   std::unordered_map<const TMenuSwitchItem*, int32_t> m_switches;
 };
@@ -88,13 +93,13 @@ class CompiledReader {
   int Grant(uint32_t claimed, int smallest);
 
  private:
-  static constexpr int kQuick = 4 + 2 * 254;  // the longest string with a one-byte length
+  // The longest string with a one-byte length, read in whole pieces.
+  static constexpr int kQuick = 4 + 2 * 256;
 
   template <class T>
   static T Number(const unsigned char* bytes) {
-    T value = 0;
-    for (size_t i = 0; i < sizeof value; ++i)
-      value = static_cast<T>(value | static_cast<T>(bytes[i]) << 8 * i);
+    T value;
+    std::memcpy(&value, bytes, sizeof value);
     return value;
   }
   // The next so many bytes; valid until the next call.

@@ -69,14 +69,15 @@ bool ParseUsualLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {
   const char* close = ansi.DecodeUntil(']', narrow.substr(1), label);
   const char* end = narrow.data() + narrow.size();
   if (!close || !bytes::IsAscii(close, end)) return false;
-  item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
+  item.m_strLabel.KeepQuickly(label.data(), static_cast<int>(label.size()));
 
   std::string_view command = TrimEnd(std::string_view(close + 1, end));
   if (command.empty()) return true;
   if (command.back() == ';') command.remove_suffix(1);
   char expanded[kLongestToken + 1];
   end = ExpandCommand(command, expanded);
-  bytes::WidenAscii(expanded, end, item.m_strCommand.KeepRoom(static_cast<int>(end - expanded)));
+  item.m_strCommand.KeepBy(static_cast<int>(end - expanded),
+                           [&](wchar_t* room) { bytes::WidenAscii(expanded, end, room); });
   return true;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "menu/byte_search.h"
 #include "menu/fold_case.h"
 #include "menu/menu_scanner.h"
 
@@ -19,18 +20,34 @@ uint64_t Mixed(uint64_t hash, uint64_t eight) {
   return hash ^ hash >> 32;
 }
 
-// `fold` is added to all bytes: kFoldEight, or 0 for a hash that tells case.
+uint64_t EightAt(const char* p) {
+  uint64_t eight;
+  std::memcpy(&eight, p, sizeof eight);
+  return eight;
+}
+
+// Up to eight characters as one number; which of them lies where is a matter of the length alone.
+uint64_t ShortAsNumber(std::string_view name) {
+  const size_t length = name.size();
+  const char* p = name.data();
+  if (length < 4) {
+    const auto byte = [p](size_t at) { return uint64_t{static_cast<unsigned char>(p[at])}; };
+    return length ? byte(0) | byte(length / 2) << 8 | byte(length - 1) << 16 : 0;
+  }
+  uint32_t first, last;
+  std::memcpy(&first, p, sizeof first);
+  std::memcpy(&last, p + length - 4, sizeof last);
+  return first | uint64_t{last} << 32;
+}
+
+// `fold` is added to all bytes: kFoldEight, or 0 for a hash that tells case. The last eight bytes
+// are taken whole; they may overlap those in front of them.
 uint32_t HashOf(std::string_view name, uint64_t seed, uint64_t fold) {
   uint64_t hash = seed ^ name.size();
-  uint64_t eight = 0;
-  size_t at = 0;
-  for (; name.size() - at >= 8; at += 8) {
-    std::memcpy(&eight, name.data() + at, 8);
-    hash = Mixed(hash, eight | fold);
-  }
-  eight = 0;
-  for (; at < name.size(); ++at) eight = eight << 8 | static_cast<unsigned char>(name[at]);
-  return static_cast<uint32_t>(Mixed(hash, eight | fold) >> 16);
+  if (name.size() <= 8) return static_cast<uint32_t>(Mixed(hash, ShortAsNumber(name) | fold) >> 16);
+  for (size_t at = 0; name.size() - at > 8; at += 8) hash = Mixed(hash, EightAt(&name[at]) | fold);
+  const uint64_t last = EightAt(name.data() + name.size() - 8);
+  return static_cast<uint32_t>(Mixed(hash, last | fold) >> 16);
 }
 
 bool EqualNoCase(std::string_view a, std::string_view b) {
@@ -40,7 +57,7 @@ bool EqualNoCase(std::string_view a, std::string_view b) {
 
 TSharedText Widened(std::string_view name) {
   wchar_t units[kLongestToken];
-  std::copy(name.begin(), name.end(), units);
+  bytes::WidenAscii(name.data(), name.data() + name.size(), units);
   return TSharedText(units, static_cast<int>(name.size()));
 }
 

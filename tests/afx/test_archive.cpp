@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <numeric>
 
 #include "afx.h"
 
@@ -191,6 +192,26 @@ TEST(Archive, TheDestructorWritesTheRest) {
   CMemFile file;
   { CArchive(&file, CArchive::store) << 1; }
   EXPECT_EQ(file.GetLength(), 4u);
+}
+
+// More than the buffer holds goes past it, in the order of the calls.
+TEST(Archive, LargeAndSmallWritesKeepTheirOrder) {
+  Bytes bytes(1000);
+  std::iota(bytes.begin(), bytes.end(), BYTE{0});
+  CMemFile file;
+  CArchive archive(&file, CArchive::store, 128);
+  size_t done = 0;
+  for (const UINT part : {1u, 300u, 127u, 128u, 256u, 129u, 59u}) {
+    archive.Write(bytes.data() + done, part);
+    done += part;
+  }
+  archive.Close();
+  ASSERT_EQ(done, bytes.size());
+  Bytes written(bytes.size());
+  file.SeekToBegin();
+  ASSERT_EQ(file.Read(written.data(), 1000), 1000u);
+  EXPECT_EQ(written, bytes);
+  EXPECT_EQ(file.GetLength(), 1000u);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <random>
 #include <string>
 #include <utility>
+#include <numeric>
 #include <vector>
 
 #include "kernel/packed_memory.h"
@@ -139,8 +140,22 @@ TEST(KeptText, LongOnesAreKeptOnTheHeap) {
   EXPECT_EQ(PackedMemory::LiveBlocks(), before);
   EXPECT_EQ(text.c_str(), longest);
   TWCString room;
-  std::fill_n(room.KeepRoom(5000), 5000, L'x');
+  room.KeepBy(5000, [](wchar_t* out) { std::fill_n(out, 5000 + TWCString::kOverrun, L'x'); });
   EXPECT_TRUE(room == text);
+}
+
+// What is written behind a text is overwritten by the next one, never the other way round.
+TEST(KeptText, QuickCopiesOfEachLengthKeepTheirNeighbours) {
+  wchar_t source[300 + TWCString::kOverrun];
+  std::iota(std::begin(source), std::end(source), L'A');
+  std::vector<TWCString> texts(301);
+  for (int i = 0; i <= 300; ++i) texts[static_cast<size_t>(i)].KeepQuickly(source, i);
+  for (int i = 0; i <= 300; ++i)
+    EXPECT_EQ(texts[static_cast<size_t>(i)].c_str(), std::wstring(source, static_cast<size_t>(i)));
+  for (int i = 0; i <= 300; ++i) texts[static_cast<size_t>(i)].KeepQuickly(source + i, 300 - i);
+  for (int i = 0; i <= 300; ++i)
+    EXPECT_EQ(texts[static_cast<size_t>(i)].c_str(),
+              std::wstring(source + i, static_cast<size_t>(300 - i)));
 }
 
 TEST(KeptText, ASharedTextOutlivesItsGiver) {

@@ -124,6 +124,27 @@ TEST(CompiledFile, StringsHaveThreeFormsOfLength) {
   }
 }
 
+TEST(CompiledFile, StringsOfEachLengthComeBackBesideTheirNeighbours) {
+  TMenuSystem system;
+  const auto text = [](int length) {
+    std::wstring text(static_cast<size_t>(length), L' ');
+    for (int i = 0; i < length; ++i)
+      text[static_cast<size_t>(i)] = static_cast<wchar_t>(0x4E00 + 7 * length + i);
+    return text;
+  };
+  for (int i = 0; i < 300; ++i)
+    system.m_resources.Append(
+        new TMenuResItem(text(i).c_str(), text(299 - i).c_str(), text(i / 7).c_str()));
+  TMenuSystem back;
+  ASSERT_EQ(LoadBytes(back, SaveBytes(system)), "");
+  ASSERT_EQ(back.m_resources.Length(), 300);
+  for (int i = 0; i < 300; ++i) {
+    EXPECT_EQ(back.m_resources.At(i)->m_strName.c_str(), text(i));
+    EXPECT_EQ(back.m_resources.At(i)->m_strImage.c_str(), text(299 - i));
+    EXPECT_EQ(back.m_resources.At(i)->m_strImage2.c_str(), text(i / 7));
+  }
+}
+
 TEST(CompiledFile, StringsWithoutTheMarkerAreOfTheCodePage) {
   const std::string longTitle(300, 'x');
   TMenuSystem system;

@@ -100,14 +100,21 @@ ULONGLONG CArchive::BytesLeft() const {
   return (length > position ? length - position : 0) + (m_end - m_at);
 }
 
+// What fills the buffer more than once goes to the file without a copy.
 void CArchive::Write(const void* buffer, UINT count) {
   RequireStoring();
   const BYTE* from = static_cast<const BYTE*>(buffer);
   while (count) {
     if (m_at == m_size) Flush();
-    const std::size_t part = std::min<std::size_t>(count, m_size - m_at);
-    std::copy_n(from, part, m_buffer.get() + m_at);
-    m_at += part;
+    const bool isDirect = m_at == 0 && count >= m_size;
+    const std::size_t part =
+        isDirect ? count - count % m_size : std::min<std::size_t>(count, m_size - m_at);
+    if (isDirect) {
+      m_pFile->Write(from, static_cast<UINT>(part));
+    } else {
+      std::copy_n(from, part, m_buffer.get() + m_at);
+      m_at += part;
+    }
     from += part;
     count -= static_cast<UINT>(part);
   }
