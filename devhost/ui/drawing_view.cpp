@@ -166,7 +166,7 @@ bool DrawingView::OnMouse(UINT message, WPARAM keys, POINT at) {
       OnWheel(static_cast<short>(HIWORD(keys)), at);
       return true;
     case WM_RBUTTONUP:  // as Enter on the command line
-      if (ShowModuleMenu(m_hWnd, at)) return true;
+      if (ShowModuleMenu(m_hWnd, at, (keys & MK_CONTROL) != 0)) return true;
       if (CommandBar* commands = Commands()) commands->EndLine();
       return true;
   }

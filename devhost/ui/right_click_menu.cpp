@@ -21,13 +21,12 @@ ShowFn ModuleMenu() {
 
 void SetRightClickMenu(bool on) { g_on = on; }
 
-bool ShowModuleMenu(HWND view, POINT at) {
+bool ShowModuleMenu(HWND view, POINT at, bool force) {
   if (!g_on || TheHost().engine.CommandRuns()) return false;
   const ShowFn show = ModuleMenu();
   if (!show) return false;
   ::ClientToScreen(view, &at);
-  show(at.x, at.y, 0);
-  return true;
+  return show(at.x, at.y, force) != 0;
 }
 
 }  // namespace devhost

@@ -8,8 +8,9 @@
 namespace devhost {
 
 void SetRightClickMenu(bool on);
-// The point is of the window. False: it is off, a command runs, or no loaded module has the export;
-// the click is the host's then.
-bool ShowModuleMenu(HWND view, POINT at);
+// The point is of the window; `force` asks for a menu also where the module would show none. False:
+// it is off, a command runs, no loaded module has the export, or the module showed no menu; the
+// click is the host's then.
+bool ShowModuleMenu(HWND view, POINT at, bool force);
 
 }  // namespace devhost

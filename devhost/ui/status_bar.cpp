@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "devhost/core/journal.h"
 
@@ -58,14 +59,18 @@ void StatusBar::ShowCoordinates(const std::wstring& text) {
 
 void StatusBar::SetMessage(const std::wstring& text) {
   if (text == m_message) return;
-  m_messageBefore = m_message;
+  if (!m_messageBefore) m_messageBefore = m_message;
   m_message = text;
   TheJournal().Record("statustext", {{"text", Utf8(text)}});
   const RECT r = Layout().message;
   ::InvalidateRect(m_hWnd, &r, FALSE);
 }
 
-void StatusBar::RestoreMessage() { SetMessage(m_messageBefore); }
+void StatusBar::RestoreMessage() {
+  if (!m_messageBefore) return;
+  SetMessage(*std::exchange(m_messageBefore, std::nullopt));
+  m_messageBefore.reset();
+}
 
 BOOL StatusBar::Insert(int index, AcPane* pane, BOOL update) {
   if (!pane || index < 0 || index > GetPaneCount() || GetIndex(pane) >= 0) return FALSE;

@@ -2,6 +2,7 @@
 // behind AcApStatusBar. It decides nothing about a pane's state; a click goes to the pane.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,8 @@ class StatusBar : public CControlBar, public AcApStatusBar {
 
   bool CreateIn(CFrameWnd* frame);
   void ShowCoordinates(const std::wstring& text);
-  void RestoreMessage();  // the text before the latest message
+  // The text that stood there before the first message since the last call.
+  void RestoreMessage();
 
   BOOL Insert(int index, AcPane* pane, BOOL update) override;
   BOOL Add(AcPane* pane, BOOL update) override;
@@ -51,7 +53,8 @@ class StatusBar : public CControlBar, public AcApStatusBar {
   void RefreshToolTips();
 
   std::vector<AcPane*> m_panes;  // not owned
-  std::wstring m_coordinates, m_message, m_messageBefore;
+  std::wstring m_coordinates, m_message;
+  std::optional<std::wstring> m_messageBefore;
   Font m_font;
   HWND m_toolTip = nullptr;  // goes with the frame
   CString m_toolText;

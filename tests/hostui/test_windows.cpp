@@ -7,6 +7,7 @@
 #include "devhost/ui/journal_hooks.h"
 #include "devhost/ui/live_menus.h"
 #include "devhost/ui/message_pump.h"
+#include "devhost/ui/status_bar.h"
 #include "devhost/ui/window_tree.h"
 
 using namespace devhost;
@@ -66,6 +67,28 @@ TEST(AcPane, ACopyHasTheSameState) {
 }
 
 TEST(StatusBar, ThereIsNoneWithoutAFrame) { EXPECT_EQ(acedGetApplicationStatusBar(), nullptr); }
+
+TEST(StatusBar, RestoresTheTextFromBeforeTheFirstMessageHoweverManyCame) {
+  auto* frame = new CFrameWnd;  // deletes itself with its window
+  ASSERT_TRUE(frame->Create(nullptr, L"frame"));
+  {
+    StatusBar bar;
+    ASSERT_TRUE(bar.CreateIn(frame));
+    const int before = TheJournal().Count();
+    bar.RestoreMessage();  // nothing was shown: nothing happens
+    for (const wchar_t* text : {L"own", L"first row", L"second row"})
+      ::SetWindowTextW(bar.m_hWnd, text);
+    bar.RestoreMessage();
+    ::SetWindowTextW(bar.m_hWnd, L"own");
+    bar.RestoreMessage();
+    std::vector<std::string> texts;
+    for (const JournalEntry& entry : TheJournal().Since(before))
+      if (entry.event == "statustext") texts.push_back(entry.fields["text"]);
+    EXPECT_EQ(texts, (std::vector<std::string>{"own", "first row", "second row", "", "own", ""}));
+    bar.DestroyWindow();
+  }
+  frame->DestroyWindow();
+}
 
 TEST(WindowTree, AMnemonicIsNoPartOfTheLabel) {
   EXPECT_EQ(WithoutMnemonic(L"确定(&O)"), L"确定");
