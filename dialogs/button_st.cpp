@@ -73,8 +73,12 @@ void CButtonST::SetDefault(COLORREF& color, int systemColor, BOOL repaint) {
   if (repaint && GetSafeHwnd()) Invalidate();
 }
 
+// A button that is owner-drawn already has nothing to change, and a thousand rows are spared a
+// repaint each while nothing shows.
 void CButtonST::PreSubclassWindow() {
-  SendMessage(BM_SETSTYLE, (GetStyle() & kKeptStyle) | BS_OWNERDRAW, TRUE);
+  const DWORD style = GetStyle();
+  const DWORD wanted = (style & kKeptStyle) | BS_OWNERDRAW;
+  if ((style & 0xFFFF) != wanted) SendMessage(BM_SETSTYLE, wanted, TRUE);
   CButton::PreSubclassWindow();
 }
 

@@ -64,8 +64,13 @@ class CMenuGroup : public CWnd {
 
   qvx::LayoutRequest RequestLayout(const CRect& client, const std::vector<int>& heights);
   void CarryScroll(const qvx::ScrollPlan& plan);
-  void PlaceRow(CSMenuItem& row, const CRect& place);
-  void PlaceChild(CMenuGroup& child, const CRect& place);
+  void SetScroll(int top, int pos);
+  CRect PlaceOf(CWnd& child) const;  // in this group's client coordinates
+  // Both add to `changed` what has to be redrawn.
+  void PlaceRow(CSMenuItem& row, const CRect& place, CRect& changed);
+  void PlaceChild(CMenuGroup& child, const CRect& place, CRect& changed);
+  static void MoveUnseen(CWnd& child, const CRect& place);
+  void BringNear(const CRect& zone, const CRect& view);
   void ShowOpenChild(bool show);
   int FindRow(UINT ctrlId) const;  // -1 when no button of this group has it
   void ClickSwitch(CSMenuItem& row);

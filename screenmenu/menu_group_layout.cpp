@@ -29,6 +29,8 @@ qvx::LayoutRequest CMenuGroup::RequestLayout(const CRect& client, const std::vec
   return request;
 }
 
+// Rows and the open group are moved without being redrawn; what changed is then redrawn in one
+// step. Moving with a repaint each would ask the window server six times for every row.
 void CMenuGroup::LayoutGroup() {
   if (!m_hWnd) return;
   CRect client;
@@ -39,13 +41,16 @@ void CMenuGroup::LayoutGroup() {
   const qvx::LayoutPlan plan = qvx::PlanLayout(RequestLayout(client, heights));
   CarryScroll(plan.scroll);
   CMenuGroup* open = OpenChild();
+  CRect changed(0, 0, 0, 0);
   for (int i = 0; i < m_items.Length(); ++i) {
     CSMenuItem& row = *m_items.At(i);
     if (row.Line()->m_pSubMenu) row.ShowArrow(i == OpenIndex());
-    PlaceRow(row, plan.rows[static_cast<std::size_t>(i)]);
-    if (open && i == OpenIndex()) PlaceChild(*open, plan.child);
+    PlaceRow(row, plan.rows[static_cast<std::size_t>(i)], changed);
+    if (open && i == OpenIndex()) PlaceChild(*open, plan.child, changed);
   }
   Invalidate();
+  if (!changed.IsRectEmpty())
+    RedrawWindow(&changed, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void CMenuGroup::CarryScroll(const qvx::ScrollPlan& plan) {
@@ -54,54 +59,111 @@ void CMenuGroup::CarryScroll(const qvx::ScrollPlan& plan) {
     return;
   }
   const CRect bar(plan.bar);
-  if (HasScrollBar())
+  if (!HasScrollBar()) {
+    if (!m_scrollBar.Create(kScrollBarStyle, bar, this, kScrollBarId)) return;
+  } else if (PlaceOf(m_scrollBar) != bar) {
     m_scrollBar.MoveWindow(&bar);
-  else if (!m_scrollBar.Create(kScrollBarStyle, bar, this, kScrollBarId))
-    return;
-  m_scrollBar.SetScrollRange(0, plan.top, TRUE);
-  if (m_scrollBar.GetScrollPos() != plan.pos) m_scrollBar.SetScrollPos(plan.pos);
+  }
+  SetScroll(plan.top, plan.pos);
 }
 
-void CMenuGroup::PlaceRow(CSMenuItem& row, const CRect& place) {
+// Range and position in one step, and none for what they are already. The bar is drawn with the
+// rest later: a group that is brought into view moves it once more before.
+void CMenuGroup::SetScroll(int top, int pos) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_POS;
+  m_scrollBar.SendMessage(SBM_GETSCROLLINFO, 0, reinterpret_cast<LPARAM>(&info));
+  if (info.nMin == 0 && info.nMax == top && info.nPos == pos) return;
+  info.nMin = 0;
+  info.nMax = top;
+  info.nPos = pos;
+  m_scrollBar.SendMessage(SBM_SETSCROLLINFO, FALSE, reinterpret_cast<LPARAM>(&info));
+  m_scrollBar.Invalidate(FALSE);
+}
+
+CRect CMenuGroup::PlaceOf(CWnd& child) const {
+  CRect place;
+  child.GetWindowRect(&place);
+  ScreenToClient(&place);
+  return place;
+}
+
+void CMenuGroup::PlaceRow(CSMenuItem& row, const CRect& place, CRect& changed) {
   if (!row.GetSafeHwnd()) return;
-  CRect present;
-  row.GetWindowRect(&present);
-  ScreenToClient(&present);
+  const CRect present = PlaceOf(row);
   if (present == place) return;
-  row.Invalidate();
-  row.MoveWindow(&place, TRUE);
+  MoveUnseen(row, place);
+  changed.UnionRect(changed, present);
+  changed.UnionRect(changed, place);
+}
+
+void CMenuGroup::MoveUnseen(CWnd& child, const CRect& place) {
+  ::SetWindowPos(child.m_hWnd, nullptr, place.left, place.top, place.Width(), place.Height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_NOCOPYBITS | SWP_DEFERERASE);
 }
 
 // A child that changes its size lays itself out as it is moved; one that does not has to be told,
 // since what is inside it may have changed. It is shown last, at its place. Windows takes a
 // negative height as zero.
-void CMenuGroup::PlaceChild(CMenuGroup& child, const CRect& place) {
+void CMenuGroup::PlaceChild(CMenuGroup& child, const CRect& place, CRect& changed) {
   if (!child.GetSafeHwnd()) return;
-  CRect present;
-  child.GetWindowRect(&present);
-  ScreenToClient(&present);
+  const CRect present = PlaceOf(child);
   CRect wanted(place);
   if (wanted.bottom < wanted.top) wanted.bottom = wanted.top;
-  if (present != wanted) child.MoveWindow(&wanted, TRUE);
+  const bool shown = (child.GetStyle() & WS_VISIBLE) != 0;
+  if (present != wanted) {
+    MoveUnseen(child, wanted);
+    if (shown) changed.UnionRect(changed, present);
+    changed.UnionRect(changed, wanted);
+  }
   if (present.Size() == wanted.Size()) child.LayoutGroup();
-  if (!(child.GetStyle() & WS_VISIBLE)) child.ShowWindow(SW_SHOW);
+  if (!shown) child.ShowWindow(SW_SHOW);
 }
 
+// Pixels are moved, and with them the windows of the rows in and near the view. Rows farther away
+// follow when they come near: moving each of a thousand rows at each step of the wheel would make
+// it stick. Until then they stand somewhere out of view, and the next layout pass puts all of them
+// where they belong.
 void CMenuGroup::ScrollGroup(UINT code, int position) {
   if (!HasScrollBar()) return;
   int low = 0, high = 0;
   m_scrollBar.GetScrollRange(&low, &high);
   const int pos = m_scrollBar.GetScrollPos();
   const int target = qvx::ScrollTarget(code, pos, position, low, high);
-  m_scrollBar.SetScrollPos(target);
-  CRect bar, client;
-  m_scrollBar.GetWindowRect(&bar);
-  ScreenToClient(&bar);
-  GetClientRect(&client);
-  const CRect area(qvx::ScrolledArea(client, g_bScrollBar > 0));
-  ScrollWindow(0, pos - target, nullptr, &area);
-  m_scrollBar.MoveWindow(&bar, FALSE);  // scrolling moved it with the rows
+  if (target != pos) {
+    m_scrollBar.SetScrollPos(target);
+    const CRect bar = PlaceOf(m_scrollBar);
+    CRect client;
+    GetClientRect(&client);
+    const CRect area(qvx::ScrolledArea(client, g_bScrollBar > 0));
+    const CRect zone(qvx::NearView(area));
+    ::ScrollWindowEx(m_hWnd, 0, pos - target, &zone, &area, nullptr, nullptr,
+                     SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+    if (PlaceOf(m_scrollBar) != bar) m_scrollBar.MoveWindow(&bar, FALSE);
+    BringNear(zone, area);
+  }
   UpdateWindow();
+}
+
+// What belongs near the view and was too far away to be moved along.
+void CMenuGroup::BringNear(const CRect& zone, const CRect& view) {
+  CRect client, changed(0, 0, 0, 0), seen;
+  GetClientRect(&client);
+  std::vector<int> heights;
+  heights.reserve(static_cast<std::size_t>(m_items.Length()));
+  for (const CSMenuItem* row : m_items) heights.push_back(row->RowHeight());
+  const qvx::LayoutPlan plan = qvx::PlanLayout(RequestLayout(client, heights));
+  for (int i = 0; i < m_items.Length(); ++i) {
+    const CRect place(plan.rows[static_cast<std::size_t>(i)]);
+    if (seen.IntersectRect(place, zone)) PlaceRow(*m_items.At(i), place, changed);
+  }
+  CMenuGroup* open = OpenChild();
+  if (open && open->GetSafeHwnd() && seen.IntersectRect(CRect(plan.child), zone) &&
+      PlaceOf(*open) != CRect(plan.child))
+    PlaceChild(*open, plan.child, changed);
+  if (seen.IntersectRect(changed, view))
+    RedrawWindow(&seen, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 int CMenuGroup::WheelGroup(UINT, short delta, CPoint) {

@@ -25,6 +25,8 @@ BEGIN_MESSAGE_MAP(CSMenuItem, CButtonST)
 ON_WM_CONTEXTMENU()
 ON_WM_CAPTURECHANGED()
 ON_WM_TIMER()
+ON_WM_ERASEBKGND()
+ON_MESSAGE(WM_GETOBJECT, OnGetObject)
 END_MESSAGE_MAP()
 
 CSMenuItem::CSMenuItem(TMenuItem* line, int ctrlId, int depth, GroupOwner* owner)
@@ -35,9 +37,13 @@ CSMenuItem::~CSMenuItem() = default;
 bool CSMenuItem::CreateRow(const qvx::RowPlan& plan, const CRect& place, CWnd* group) {
   m_nRowHeight = plan.height;
   ShowImage(plan);  // before there is a window, so that nothing has to be repainted
-  if (!Create(plan.caption, kRowStyle, place, group, static_cast<UINT>(m_nCtrlId))) return false;
-  EnableWindow(plan.enabled);
-  return true;
+  // Taken over once it stands, which spares six requests to the window server of fourteen: nobody
+  // wants to see a row's own creation messages.
+  const HWND window = ::CreateWindowExW(
+      0, L"BUTTON", plan.caption, kRowStyle | (plan.enabled ? 0 : WS_DISABLED), place.left,
+      place.top, place.Width(), place.Height(), group->GetSafeHwnd(),
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(m_nCtrlId)), AfxGetInstanceHandle(), nullptr);
+  return window && SubclassWindow(window);
 }
 
 void CSMenuItem::ShowImage(const qvx::RowPlan& plan) {
@@ -57,10 +63,12 @@ void CSMenuItem::ShowImage(const qvx::RowPlan& plan) {
 }
 
 void CSMenuItem::ShowArrow(bool open) {
+  m_bOpen = open;
   ShareBitmap(m_pOwner->Arrow(m_nDepth, open), kImageSize, kImageSize);
 }
 
 void CSMenuItem::ShowCheckMark() {
+  m_bChecked = true;
   SetBitmaps(LoadMenuBitmap(qvx::ThisModule(), MAKEINTRESOURCEW(qvx::kCheckMarkBitmap)), nullptr,
              kImageSize, kImageSize);
 }
@@ -116,3 +124,29 @@ void CSMenuItem::OnCaptureChanged(CWnd* next) {
 }
 
 void CSMenuItem::OnTimer(UINT_PTR timer) { CButtonST::OnTimer(timer); }
+
+qvx::RowFacts CSMenuItem::Facts() const {
+  CString caption;
+  GetWindowText(caption);
+  const bool pressed = (::SendMessageW(m_hWnd, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0;
+  return {static_cast<const wchar_t*>(caption),
+          m_pMenuItem->m_pSubMenu != nullptr,
+          m_bOpen,
+          caption.IsEmpty() != FALSE,
+          m_bChecked,
+          IsWindowEnabled() != FALSE,
+          IsWindowVisible() != FALSE,
+          ::GetFocus() == m_hWnd,
+          IsMouseOn(),
+          pressed};
+}
+
+std::wstring CSMenuItem::Help() const {
+  const wchar_t* help = qvx::HelpOfLine(*m_pMenuItem, m_pOwner->MenuSystem(), g_hQvxDll != nullptr);
+  return help ? help : L"";
+}
+
+LRESULT CSMenuItem::OnGetObject(WPARAM wParam, LPARAM lParam) {
+  constexpr LONG kClientObject = -4;  // the published number of a window's client object
+  return static_cast<LONG>(lParam) == kClientObject ? m_access.Answer(m_hWnd, wParam) : Default();
+}

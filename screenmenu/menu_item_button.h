@@ -4,6 +4,8 @@
 
 #include "dialogs/button_st.h"
 #include "screenmenu/group_owner.h"
+#include "screenmenu/row_access.h"
+#include "screenmenu/row_accessible.h"
 #include "screenmenu/row_look.h"
 #include "screenmenu/row_plan.h"
 
@@ -32,8 +34,14 @@ class CSMenuItem : public CButtonST {
   void ShowState();
   void ReleaseMouse();
 
+  // What screen readers are told.
+  qvx::RowFacts Facts() const;
+  std::wstring Help() const;
+
  protected:
   void OnMouseEnter() override;
+  afx_msg BOOL OnEraseBkgnd(CDC* dc);
+  afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
   afx_msg void OnContextMenu(CWnd* window, CPoint point);
   afx_msg void OnCaptureChanged(CWnd* next);
   afx_msg void OnTimer(UINT_PTR timer);
@@ -49,7 +57,10 @@ class CSMenuItem : public CButtonST {
   int m_nCtrlId;
   int m_nDepth;  // of the group that holds this row
   int m_nRowHeight = 0;
-  GroupOwner* m_pOwner;  // not owned
+  bool m_bOpen = false;     // of a header: shows the arrow of an open group
+  bool m_bChecked = false;  // shows the check mark
+  GroupOwner* m_pOwner;     // not owned
+  RowAccess m_access;
 };
 
 // The colour band of a group and of its idle rows.

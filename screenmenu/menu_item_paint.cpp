@@ -1,4 +1,6 @@
 // The painting of a row: walks the RowLook that row_look.cpp computed and puts it on the device.
+#include <algorithm>
+
 #include "kernel/globals.h"
 #include "screenmenu/menu_colors.h"
 #include "screenmenu/menu_item_button.h"
@@ -34,6 +36,16 @@ void DrawBorder(CDC& dc, const RECT& r, int upper, int lower) {
 }  // namespace
 
 COLORREF MenuColor(int depth) { return g_menuColors[qvx::ColorSlot(depth)]; }
+
+// Everything right of the inset is drawn over at once, so only the inset is filled: it belongs to
+// the group's band. Left to the window system it would be grey, and every row would flicker.
+BOOL CSMenuItem::OnEraseBkgnd(CDC* dc) {
+  CRect inset;
+  GetClientRect(&inset);
+  inset.right = std::min(inset.right, inset.left + qvx::kFaceInset);
+  dc->FillSolidRect(&inset, MenuColor(m_nDepth));
+  return TRUE;
+}
 
 void CSMenuItem::DrawItem(LPDRAWITEMSTRUCT item) {
   CDC& dc = *CDC::FromHandle(item->hDC);

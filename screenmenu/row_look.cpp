@@ -4,7 +4,6 @@
 namespace qvx {
 namespace {
 
-constexpr int kFaceInset = 3;  // the group's colour shows through left of every row
 constexpr int kTextInset = 4;
 constexpr int kImageColumn = 21;  // the text stands behind it, with an image or without
 

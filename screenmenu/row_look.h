@@ -26,6 +26,7 @@ struct RowLook {
   bool grayText;
 };
 
+constexpr int kFaceInset = 3;                 // the group's colour shows through left of every row
 constexpr COLORREF kHoverColor = 0x00AAFFFF;  // a pale yellow
 
 RowLook LookOfRow(const RECT& item, int depth, RowState state, bool hasText, SIZE image);

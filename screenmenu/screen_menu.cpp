@@ -95,7 +95,10 @@ void CScreenMenu::FitGroup() {
   GetWindowRect(&window);
   ScreenToClient(&window);
   const CRect fit(qvx::FitRootGroup(used, IsFloating() != FALSE, window.bottom));
-  m_pRootGroup->MoveWindow(&fit, TRUE);
+  CRect present;
+  m_pRootGroup->GetWindowRect(&present);
+  ScreenToClient(&present);
+  if (present != fit) m_pRootGroup->MoveWindow(&fit, TRUE);
 }
 
 // With the root's height limited only its open group scrolls. The message is taken in every case.

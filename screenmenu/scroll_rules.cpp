@@ -11,6 +11,9 @@ namespace {
 constexpr int kLineStep = 20;
 constexpr int kPageStep = 100;
 constexpr double kWheelDivisor = 3.0;
+// More than any step but the longest pulls of the thumb, and less than what would make the wheel
+// stick: some sixty rows above and below.
+constexpr int kNearReach = 1500;
 
 }  // namespace
 
@@ -57,6 +60,10 @@ RECT ScrolledArea(const RECT& client, bool barShown) {
   RECT area = client;
   if (barShown) area.right -= kScrollBarWidth;
   return area;
+}
+
+RECT NearView(const RECT& view) {
+  return {view.left, view.top - kNearReach, view.right, view.bottom + kNearReach};
 }
 
 }  // namespace qvx

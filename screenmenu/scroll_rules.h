@@ -22,4 +22,7 @@ int RevealShift(const RECT& rect, const RECT& client);
 // The part of the client area whose pixels move with a scroll.
 RECT ScrolledArea(const RECT& client, bool barShown);
 
+// The part of a group, in and around its view, whose rows are moved at every step.
+RECT NearView(const RECT& view);
+
 }  // namespace qvx

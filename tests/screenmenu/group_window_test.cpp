@@ -3,83 +3,13 @@
 // it would do is noted in a diary.
 #include <gtest/gtest.h>
 
-#include "afxwin.h"
-#include "kernel/globals.h"
-#include "menu_fixture.h"
-#include "screenmenu/menu_colors.h"
-#include "screenmenu/menu_group.h"
-#include "screenmenu/palette_settings.h"
+#include "tree_fixture.h"
 
 namespace {
 
 using namespace fixture;
 
-class Diary : public GroupOwner {
- public:
-  qvx::LispCaller& Lisp() override { return lisp; }
-  const TMenuSystem* MenuSystem() override { return &system; }
-  HBITMAP Arrow(int depth, bool open) override {
-    return reinterpret_cast<HBITMAP>(
-        static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // only compared, never drawn
-  }
-  void ArmCommand(const TWCString& command) override { Note(L"arm " + Text(command)); }
-  bool IsHostBusy() override { return busy; }
-  void ReportBusy() override { Note(L"busy"); }
-  void SwitchWasFlipped() override { Note(L"flipped"); }
-  void ShowHeaderMenu(TMenuBar& bar, const CRect&, CPoint) override {
-    Note(L"header menu " + std::to_wstring(bar.Length()));
-  }
-  void ShowLineMenu(TMenuItem& line, CPoint) override {
-    Note(L"line menu " + Text(line.m_strLabel));
-  }
-  void RestoreStatusBar() override {}
-
-  static std::wstring Text(const TWCString& text) { return text.c_str(); }
-  void Note(const std::wstring& what) { notes.push_back(what); }
-
-  FakeLisp lisp;
-  TMenuSystem system;
-  bool busy = false;
-  std::vector<std::wstring> notes;
-};
-
-class GroupWindows : public testing::Test {
- protected:
-  GroupWindows() {
-    g_iMenuRowHeight = 25;
-    g_bDefaultOpenFirst = g_bLimitHeight = g_bScrollBar = 0;
-    qvx::SaveActiveSubMenu(-1);
-    palette.CreateEx(WS_EX_TOOLWINDOW, AfxRegisterWndClass(0), L"", WS_POPUP,
-                     CRect(50, 50, 250, 350), nullptr, 0);
-  }
-  ~GroupWindows() override {
-    root.reset();
-    palette.DestroyWindow();
-  }
-
-  CMenuGroup& Build(int height = 300, bool limit = false) {
-    root =
-        std::make_unique<CMenuGroup>(&bar, CRect(0, 0, 120, height), &palette, 5000, limit, &owner);
-    palette.ShowWindow(SW_SHOWNA);
-    root->ShowWindow(SW_SHOW);
-    return *root;
-  }
-  static CRect PlaceOf(CWnd* window) {
-    CRect place;
-    window->GetWindowRect(&place);
-    ::MapWindowPoints(nullptr, ::GetParent(window->m_hWnd), reinterpret_cast<POINT*>(&place), 2);
-    return place;
-  }
-  static void Click(CMenuGroup& group, int row) { group.Row(row)->SendMessage(BM_CLICK); }
-  void Fill(int lines) {
-    for (int i = 0; i < lines; ++i) AddLine(bar, L"行", L"TLine\n");
-  }
-
-  CWnd palette;
-  TMenuBar bar;
-  Diary owner;
-  std::unique_ptr<CMenuGroup> root;
-};
+using GroupWindows = TreeWindows;
 
 TEST_F(GroupWindows, ButtonsAndNestedGroupsShareOneSequenceOfIdentifiersInEachGroup) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");

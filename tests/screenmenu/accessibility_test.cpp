@@ -1,0 +1,94 @@
+// The palette as a screen reader in another process sees it.
+#include <gtest/gtest.h>
+
+#include <objbase.h>
+
+#include <sstream>
+
+#include "kernel/globals.h"
+#include "tree_fixture.h"
+
+namespace {
+
+using namespace fixture;
+
+class Accessibility : public TreeWindows {
+ protected:
+  Accessibility() { ::CoInitialize(nullptr); }
+  ~Accessibility() override {
+    root.reset();
+    ::CoUninitialize();
+  }
+
+  // Runs the reader and handles its questions meanwhile. Its lines are name, role, state, action.
+  std::vector<std::string> ReadFromOutside() {
+    HANDLE readEnd = nullptr, writeEnd = nullptr;
+    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
+    ::CreatePipe(&readEnd, &writeEnd, &inherit, 1 << 16);
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = writeEnd;
+    start.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
+    PROCESS_INFORMATION reader{};
+    wchar_t line[MAX_PATH + 40];
+    ::GetModuleFileNameW(nullptr, line, MAX_PATH);
+    *(std::wcsrchr(line, L'\\') + 1) = 0;
+    ::swprintf(line, std::size(line), L"%lsread_accessible.exe %llx", std::wstring(line).c_str(),
+               static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(palette.m_hWnd)));
+    const BOOL made = ::CreateProcessW(nullptr, line, nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                                       &start, &reader);
+    ::CloseHandle(writeEnd);
+    EXPECT_TRUE(made);
+    if (made) PumpUntil(reader.hProcess);
+    std::string text(1 << 16, '\0');
+    DWORD got = 0;
+    ::ReadFile(readEnd, text.data(), static_cast<DWORD>(text.size()), &got, nullptr);
+    text.resize(got);
+    for (HANDLE handle : {readEnd, reader.hProcess, reader.hThread}) ::CloseHandle(handle);
+    std::vector<std::string> lines;
+    std::istringstream parts(text);
+    for (std::string one; std::getline(parts, one);) {
+      if (!one.empty() && one.back() == '\r') one.pop_back();
+      lines.push_back(one);
+    }
+    return lines;
+  }
+
+ private:
+  static void PumpUntil(HANDLE process) {
+    const ULONGLONG end = ::GetTickCount64() + 20000;
+    while (::MsgWaitForMultipleObjects(1, &process, FALSE, 500, QS_ALLINPUT) != WAIT_OBJECT_0) {
+      ASSERT_LT(::GetTickCount64(), end) << "the reader hangs";
+      MSG message;
+      while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+    }
+  }
+};
+
+TEST_F(Accessibility, NamesRolesAndFoldedStatesAreReadFromAnotherProcess) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙(&W)", L"TWall\n");
+  AddLine(bar, L"--");
+  AddLine(bar, L"没有命令");
+  TMenuItem* checked = AddLine(bar, L"正交", L"TOrtho\n");
+  checked->m_nFlags = TMenuItem::kHasCheckFn;
+  checked->m_strCheckFn = L"is-ortho";
+  owner.lisp.True(L"is-ortho");
+  Build();
+  EXPECT_EQ(
+      ReadFromOutside(),
+      (std::vector<std::string>{"墙体\t2b\t100400\t展开", "画墙(W)\t2b\t108000\t按下", "\t15\t1\t",
+                                "没有命令\t2b\t1\t按下", "正交\t2b\t100010\t按下"}));
+}
+
+TEST_F(Accessibility, AnUnfoldedHeaderIsExpandedAndItsLinesAreSeen) {
+  AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
+  Build();
+  root->ToggleSubMenu(0);
+  const std::vector<std::string> lines = ReadFromOutside();
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_EQ(lines[0].substr(0, lines[0].rfind('\t')), "墙体\t2b\t100200");
+  EXPECT_EQ(lines[1], "画墙\t2b\t100000\t按下");
+}
+
+}  // namespace

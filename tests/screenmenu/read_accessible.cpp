@@ -1,0 +1,61 @@
+// A program of its own that reads the palette from outside, as a screen reader does: for each
+// button below the window whose handle it is given, in the order of the windows, one line of name,
+// role, state and default action, parted by tabs, in UTF-8. Run by the accessibility test.
+#include <windows.h>
+// after windows.h
+#include <oleacc.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+std::string Utf8(BSTR text) {
+  if (!text) return "";
+  char buffer[1024] = "";
+  ::WideCharToMultiByte(CP_UTF8, 0, text, -1, buffer, sizeof buffer, nullptr, nullptr);
+  ::SysFreeString(text);
+  return buffer;
+}
+
+long Number(const VARIANT& value) { return value.vt == VT_I4 ? value.lVal : -1; }
+
+void PrintButton(HWND button) {
+  IAccessible* object = nullptr;
+  const HRESULT got =
+      ::AccessibleObjectFromWindow(button, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                                   reinterpret_cast<void**>(&object));
+  if (FAILED(got) || !object) {
+    std::printf("no object: %lx\n", got);
+    return;
+  }
+  VARIANT self{}, role{}, state{};
+  self.vt = VT_I4;
+  BSTR name = nullptr, action = nullptr;
+  object->get_accName(self, &name);
+  object->get_accRole(self, &role);
+  object->get_accState(self, &state);
+  object->get_accDefaultAction(self, &action);
+  const std::string nameText = Utf8(name), actionText = Utf8(action);
+  std::printf("%s\t%lx\t%lx\t%s\n", nameText.c_str(), Number(role), Number(state),
+              actionText.c_str());
+  object->Release();
+}
+
+BOOL CALLBACK Visit(HWND window, LPARAM) {
+  wchar_t name[16] = L"";
+  ::GetClassNameW(window, name, 16);
+  if (!_wcsicmp(name, L"button")) PrintButton(window);
+  return TRUE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2 || FAILED(::CoInitialize(nullptr))) return 2;
+  const auto window = reinterpret_cast<HWND>(std::strtoull(argv[1], nullptr, 16));
+  ::EnumChildWindows(window, Visit, 0);
+  ::CoUninitialize();
+  return 0;
+}
