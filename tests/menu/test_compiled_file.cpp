@@ -238,6 +238,42 @@ TEST(CompiledFile, AnySubMenuFlagButZeroMeansASubMenu) {
   EXPECT_NE(system.At(0)->At(0)->m_pSubMenu, nullptr);
 }
 
+// The reader takes the file in windows of 409600 bytes.
+TEST(CompiledFile, AFileOfOneWindowAndAFewBytesComesBackWhole) {
+  TMenuSystem system;
+  for (int i = 0; i < 22700; ++i) system.m_resources.Append(new TMenuResItem(L"a", L"b", L"c"));
+  const size_t least = SaveBytes(system).size();
+  ASSERT_LT(least, 409600u - 600u);
+  for (size_t wanted = 409600 - 6; wanted <= 409600 + 24; wanted += 2) {
+    const size_t units =
+        (wanted - least) / 2 - 1;  // the length of a long title takes two bytes more
+    system.m_strTitle = std::wstring(units, L't').c_str();
+    const std::string bytes = SaveBytes(system);
+    ASSERT_EQ(bytes.size(), wanted);
+    TMenuSystem back;
+    EXPECT_EQ(LoadBytes(back, bytes), "") << wanted;
+    EXPECT_EQ(SaveBytes(back), bytes);
+  }
+}
+
+// What was read ahead goes back to the archive.
+TEST(CompiledFile, WhatFollowsASystemInItsArchiveCanStillBeRead) {
+  Compiled compiled;
+  Compile("MENU_TITLE=\"t\"***A[a]\n***SWITCH***RESOURCE R=\"i\",\"j\"", compiled);
+  CMemFile file;
+  CArchive out(&file, CArchive::store);
+  compiled.system.Serialize(out);
+  out << 4711;
+  out.Close();
+  file.SeekToBegin();
+  CArchive in(&file, CArchive::load);
+  TMenuSystem back;
+  back.Serialize(in);
+  int next = 0;
+  in >> next;
+  EXPECT_EQ(next, 4711);
+}
+
 TEST(CompiledFile, WhatWasReadUntilAnExceptionStays) {
   Compiled compiled;
   Compile("MENU_TITLE=\"t\"***A[a]\n[b]\n***B[c]\n***SWITCH***RESOURCE R=\"i\",\"j\"", compiled);

@@ -107,6 +107,12 @@ TEST(MenuDepth, NestingTakesAtMostTwoStepsALine) {
     }
 }
 
+TEST(MenuDepth, ABlockWithoutSubMenusTakesNoStep) {
+  TMenuBar bar;
+  for (const wchar_t* label : {L"a", L"<-b", L"c->"}) bar.Append(new TMenuItem(label, L""));
+  EXPECT_EQ(NestSubMenus(bar), 0);
+}
+
 TEST(MenuDepth, ALookUpByNameComparesAFewNamesHoweverManyThereAre) {
   for (int count : {100, 20000}) {
     std::vector<std::string> names;
