@@ -31,7 +31,7 @@ void CButtonST::SetBitmaps(HBITMAP image, HBITMAP overlay, BYTE width, BYTE heig
   m_hOverlay.Reset(overlay);
   m_cxImage = width;
   m_cyImage = height;
-  RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+  if (GetSafeHwnd()) RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
 }
 
 void CButtonST::ShareBitmap(HBITMAP image, BYTE width, BYTE height) {
@@ -39,7 +39,7 @@ void CButtonST::ShareBitmap(HBITMAP image, BYTE width, BYTE height) {
   m_image.Borrow(image);
   m_cxImage = width;
   m_cyImage = height;
-  Invalidate();
+  if (GetSafeHwnd()) Invalidate();  // without a window that would redraw the whole screen
 }
 
 void CButtonST::SetTooltipText(const wchar_t* text) {

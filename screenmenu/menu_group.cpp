@@ -73,7 +73,8 @@ void CMenuGroup::BuildRows(const qvx::GroupPlan& plan, const CRect& rect) {
     row->CreateRow(plan.rows[slot], layout.rows[slot], this);
     CMenuGroup* child = nullptr;
     if (const qvx::GroupPlan* nested = plan.children[slot].get()) {
-      const CRect place = nested == open ? CRect(layout.child) : CRect(0, 0, client.right, 0);
+      const CRect place =
+          nested == open ? CRect(layout.child) : CRect(0, 0, CRect(layout.rows[slot]).Width(), 0);
       child = new CMenuGroup(*nested, place, this, static_cast<UINT>(nextId++), m_pOwner);
     }
     m_children.Append(child);

@@ -1,6 +1,7 @@
 // The hover-aware button as a real window: capture, focus, tip, drawing, handles.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <type_traits>
 
 #include "afxwin.h"
@@ -17,8 +18,13 @@ class TestButton : public CButtonST {
 class ClickCounter : public CWnd {
  public:
   int clicks = 0;
+  std::function<void()> onPaint;
 
  protected:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_PAINT && onPaint) onPaint();
+    return CWnd::WindowProc(message, wParam, lParam);
+  }
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
     if (HIWORD(wParam) == BN_CLICKED) ++clicks;
     return CWnd::OnCommand(wParam, lParam);
@@ -126,6 +132,19 @@ TEST_F(ButtonWindow, OwnsItsBitmapsAndOnlyBorrowsASharedOne) {
   button.ShareBitmap(shared.Get(), 16, 16);
   EXPECT_EQ(qvx::OwnedBitmap::Alive(), before + 1);
   EXPECT_EQ(button.ShownBitmap(), shared.Get());
+}
+
+TEST_F(ButtonWindow, AnImageGivenBeforeThereIsAWindowDoesNotRedrawTheScreen) {
+  parent.ShowWindow(SW_SHOWNOACTIVATE);
+  parent.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  ASSERT_FALSE(::GetUpdateRect(parent.m_hWnd, nullptr, FALSE));
+  int painted = 0;
+  parent.onPaint = [&painted] { ++painted; };
+  TestButton early;
+  early.SetBitmaps(nullptr, nullptr, 16, 16);
+  early.ShareBitmap(nullptr, 12, 12);
+  EXPECT_EQ(painted, 0);
+  EXPECT_FALSE(::GetUpdateRect(parent.m_hWnd, nullptr, FALSE));
 }
 
 TEST_F(ButtonWindow, ImageSizesAreHeldInEightBits) {
