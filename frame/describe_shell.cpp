@@ -8,6 +8,7 @@
 #include "frame/settings_report.h"
 #include "frame/shell.h"
 #include "frame/unbuilt_rooms.h"
+#include "popup/describe_popup.h"
 #include "screenmenu/describe_screen_menu.h"
 #include "screenmenu/shell_json.h"
 #include "statusbar/status_panes.h"
@@ -59,8 +60,8 @@ std::string UnbuiltSection() {
 // UTF-8, valid until the next call; main thread only.
 extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
   static std::string json;
-  json = "{\"screenmenu\":" + DescribeScreenMenu() +
-         ",\"popup\":null,\"tabs\":null,\"panes\":" + PanesSection() +
+  json = "{\"screenmenu\":" + DescribeScreenMenu() + ",\"popup\":" + DescribePopup() +
+         ",\"tabs\":null,\"panes\":" + PanesSection() +
          ",\"editor\":null,\"recent\":" + RecentSection() +
          ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
          ",\"unbuilt\":" + UnbuiltSection() + "}";
@@ -73,4 +74,10 @@ extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
   static std::string report;
   report = SettingsReport();
   return report.c_str();
+}
+
+// Opens the menu that a right click at this screen point would, before anything else listens for
+// right clicks. 0 when no menu was shown.
+extern "C" __declspec(dllexport) int QvxShowContextMenu(int x, int y, int force) {
+  return ShowContextMenu(CPoint(x, y), force);
 }

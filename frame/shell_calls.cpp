@@ -73,7 +73,9 @@ void Shell::OnMenuReadiness() {
   m_bringUp.StepReadiness(steps);
 }
 
-void Shell::ShowMenuAt(TMenuBar&, POINT, UINT) { unbuilt::ShowMenuAt(); }
+void Shell::ShowMenuAt(TMenuBar& bar, POINT at, UINT flags) {
+  ShowBlockMenu(bar, at.x, at.y, flags);
+}
 void Shell::UpdateStatusBar() { ::UpdateStatusPanes(); }
 void Shell::WriteDrawingScale() { qvx::WriteHatchScale(); }
 void Shell::RefreshDrawingPanes() { ::RefreshDrawingPanes(); }

@@ -16,7 +16,10 @@ TMenuSystem* ShellMenus::CurrentSystem() {
 void ShellMenus::AttachScreenBar(TMenuSystem& system) { ::AttachScreenBar(system); }
 
 void ShellMenus::AttachToolBar(TMenuSystem& system) {
-  if (CContextMenuWnd* window = TheContextWindow()) window->m_pToolBar = PrepareToolBar(system);
+  CContextMenuWnd* window = TheContextWindow();
+  if (!window) return;
+  window->m_pToolBar = PrepareToolBar(system);
+  window->MenuWasReplaced();
 }
 
 bool ShellMenus::FindFile(const wchar_t* name, wchar_t* out) {

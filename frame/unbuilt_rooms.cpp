@@ -9,9 +9,8 @@ UnbuiltStep g_steps[] = {
     {"message filter", "editor", 0},     {"CreateDocTabBar", "doctabs", 0},
     {"InitDocTabBar", "doctabs", 0},     {"DestroyDocTabBar", "doctabs", 0},
     {"tab caption timer", "doctabs", 0}, {"HideTabBar", "doctabs", 0},
-    {"selection preview", "editor", 0},  {"ShowMenuAt", "popup", 0},
-    {"TInPlaceEdit", "editor", 0},       {"TTextEditInBlock", "editor", 0},
-    {"C:TDragVp", "editor", 0},
+    {"selection preview", "editor", 0},  {"TInPlaceEdit", "editor", 0},
+    {"TTextEditInBlock", "editor", 0},   {"C:TDragVp", "editor", 0},
 };
 
 void Note(const char* name) {
@@ -35,8 +34,6 @@ void DestroyDocTabBar() { Note("DestroyDocTabBar"); }
 
 void StartTabCaptionTimer() { Note("tab caption timer"); }
 void ResetPreviewCounters() { Note("selection preview"); }
-
-void ShowMenuAt() { Note("ShowMenuAt"); }
 
 void InPlaceEdit() { Note("TInPlaceEdit"); }
 void TextEditInBlock() { Note("TTextEditInBlock"); }

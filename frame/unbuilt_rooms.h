@@ -23,9 +23,6 @@ void DestroyDocTabBar();
 void StartTabCaptionTimer();
 void ResetPreviewCounters();
 
-// Pop-ups.
-void ShowMenuAt();
-
 // Commands and LISP functions.
 void InPlaceEdit();
 void TextEditInBlock();

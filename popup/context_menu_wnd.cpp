@@ -36,11 +36,22 @@ class HostOpener : public DocumentOpener {
 
 BEGIN_MESSAGE_MAP(CContextMenuWnd, CWnd)
 ON_WM_TIMER()
+ON_WM_MEASUREITEM()
+ON_WM_MENUCHAR()
+ON_WM_MENUSELECT()
+ON_WM_EXITMENULOOP()
 END_MESSAGE_MAP()
 
+// A line of the menu may show the recent list, which would go before the line does.
+CContextMenuWnd::~CContextMenuWnd() {
+  m_isShowing = false;
+  ResetPopups();
+  m_menuSystem.EmptyLists();
+}
+
 BOOL CContextMenuWnd::CreateIn(CWnd* frame) {
-  const RECT empty = {0, 0, 0, 0};  // so a visible child shows nothing
-  if (!Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, empty, frame, kControlId)) return FALSE;
+  const RECT onePixel = {0, 0, 1, 1};
+  if (!Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, onePixel, frame, kControlId)) return FALSE;
   SetTimer(kReadinessTimer, kStartPeriod, nullptr);
   return TRUE;
 }

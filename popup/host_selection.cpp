@@ -63,8 +63,12 @@ bool IsPreviewAllowed(const PreviewState& state) {
 }
 
 PreviewState ReadPreviewState() {
-  return {g_dHostVersion, g_bEnableSelectPreview != 0, ShortVariable(L"SELECTIONPREVIEW", 0),
-          IsPreviewOffInDrawing()};
+  PreviewState state{g_dHostVersion, g_bEnableSelectPreview != 0, 0, false};
+  if (state.hostVersion < kFirstHostWithPreview)
+    state.isOffInDrawing = IsPreviewOffInDrawing();
+  else
+    state.hostVariable = ShortVariable(L"SELECTIONPREVIEW", 0);
+  return state;
 }
 
 void ReadSelection(TPickEntSet& set) {

@@ -29,7 +29,7 @@ class ContextWindow : public testing::Test {
   CountedSteps steps;
 };
 
-TEST_F(ContextWindow, IsAnEmptyChildOfTheHostFrameThatTheKernelKnows) {
+TEST_F(ContextWindow, IsAChildOfOnePixelOfTheHostFrameThatTheKernelKnows) {
   CContextMenuWnd* window = TheContextWindow();
   ASSERT_TRUE(window && window->GetSafeHwnd());
   EXPECT_EQ(::GetParent(window->m_hWnd), host.frame->m_hWnd);
@@ -38,7 +38,7 @@ TEST_F(ContextWindow, IsAnEmptyChildOfTheHostFrameThatTheKernelKnows) {
   EXPECT_EQ(window->GetStyle() & both, both);
   CRect place;
   window->GetWindowRect(&place);
-  EXPECT_EQ(place.Size(), CSize(0, 0));
+  EXPECT_EQ(place.Size(), CSize(1, 1));
   EXPECT_EQ(g_pContextMenu, window);
 }
 
