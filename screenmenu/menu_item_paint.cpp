@@ -1,23 +1,14 @@
 // The painting of a row: walks the RowLook that row_look.cpp computed and puts it on the device.
 #include <algorithm>
 
+#include "dialogs/menu_font.h"
 #include "kernel/globals.h"
 #include "screenmenu/menu_colors.h"
 #include "screenmenu/menu_item_button.h"
 
 namespace {
 
-// Without the field that later systems put behind: every system accepts this size.
-constexpr UINT kMetricsSize = 500;
 constexpr int kBitmapWidth = 16;  // of the source, whatever the bitmap's real width
-
-qvx::OwnedFont MakeMenuFont() {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = kMetricsSize;
-  if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, kMetricsSize, &metrics, 0))
-    return qvx::OwnedFont();
-  return qvx::OwnedFont(::CreateFontIndirectW(&metrics.lfMenuFont));
-}
 
 void DrawPath(CDC& dc, int systemColor, POINT from, POINT corner, POINT to) {
   const qvx::OwnedPen pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor)));
@@ -87,7 +78,7 @@ void CSMenuItem::PaintImage(CDC& dc, const qvx::RowLook& look) {
 }
 
 void CSMenuItem::PaintText(CDC& dc, const qvx::RowLook& look, const CString& text) {
-  const qvx::OwnedFont font = MakeMenuFont();
+  const qvx::OwnedFont font = qvx::MakeMenuFont();
   qvx::SelectedObject selected(
       dc.m_hDC, font ? static_cast<HGDIOBJ>(font.Get()) : ::GetStockObject(DEFAULT_GUI_FONT));
   dc.SetTextColor(m_crActiveFg);
