@@ -22,6 +22,8 @@ bool DrawingChild::CreateIn(CMDIFrameWnd* frame, const std::wstring& title) {
   RECT client{};
   ::GetClientRect(m_hWnd, &client);
   ::MoveWindow(m_view.m_hWnd, 0, 0, client.right, client.bottom, TRUE);
+  // It was given the keyboard when it was made, before there was a view to hand it on to.
+  if (::GetFocus() == m_hWnd) ::SetFocus(m_view.m_hWnd);
   return true;
 }
 

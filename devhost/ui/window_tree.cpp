@@ -45,6 +45,7 @@ Json Describe(HWND window) {
               {"enabled", ::IsWindowEnabled(window) != FALSE},
               {"rect", {r.left, r.top, r.right, r.bottom}},
               {"children", Json::array()}};
+  if (window == ::GetFocus()) out["focus"] = true;
   for (HWND child = ::GetWindow(window, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
     out["children"].push_back(Describe(child));
   return out;
