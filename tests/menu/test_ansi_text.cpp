@@ -34,6 +34,14 @@ TEST(AnsiText, RandomBytesAreDecodedAsTheKernelDoes) {
   }
 }
 
+TEST(AnsiText, TextsLongerThanATokenAreDecodedToo) {
+  AnsiText ansi;
+  for (const size_t length : {198u, 199u, 200u, 207u, 208u, 300u, 5000u}) {
+    EXPECT_TRUE(Agrees(ansi, std::string(length, 'w'))) << length;
+    EXPECT_TRUE(Agrees(ansi, std::string(length, 'w') + "\xC7\xBD")) << length;
+  }
+}
+
 TEST(AnsiText, NothingGivesNothing) {
   AnsiText ansi;
   EXPECT_TRUE(ansi.Decode("").empty());

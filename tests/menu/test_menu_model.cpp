@@ -338,6 +338,19 @@ TEST(NamePool, EqualNamesHaveOneNumberAndOneText) {
   EXPECT_STREQ(first.c_str(), L"Wall");
 }
 
+TEST(NamePool, NamesOfEachLengthAreToldApartByEachOfTheirCharacters) {
+  std::vector<std::string> names;
+  for (size_t length = 1; length <= 40; ++length)
+    for (size_t at = 0; at <= length; ++at) {
+      std::string name(length, 'n');
+      if (at < length) name[at] = 'm';
+      names.push_back(name);
+    }
+  NamePool pool;
+  for (size_t i = 0; i < names.size(); ++i) EXPECT_EQ(pool.Add(names[i]), static_cast<int>(i));
+  for (size_t i = 0; i < names.size(); ++i) EXPECT_EQ(pool.Add(names[i]), static_cast<int>(i));
+}
+
 TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
   NamePool pool;
   const int wall = pool.Add("a_very_long_name_of_a_Wall");
