@@ -11,6 +11,8 @@
 // A drawing that never held any has the defaults below; it is written at the first change.
 #pragma once
 
+#include <cmath>
+
 #include "dbmain.h"
 #include "kernel/kernel_export.h"
 
@@ -39,7 +41,9 @@ class QVX_KERNEL TDbConfig : public AcDbObject {
   void SetSolidFill(int on) { Change(&TDbConfigValues::solidFill, on); }
   void SetBoldLine(int on) { Change(&TDbConfigValues::boldLine, on); }
   void SetWallBase(int on) { Change(&TDbConfigValues::wallBase, on); }
-  void SetPScale(double scale) { Change(&TDbConfigValues::pscale, scale); }
+  void SetPScale(double scale) {  // what is no finite number changes nothing
+    if (std::isfinite(scale)) Change(&TDbConfigValues::pscale, scale);
+  }
   void SetFlags(int flags) { Change(&TDbConfigValues::flags, flags); }
 
   // Writes what was changed into the drawing and deletes the object.

@@ -53,7 +53,7 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
         size = item.resval.rreal;
         break;
       case 42:
-        m_pscale = item.resval.rreal;
+        SetPScale(item.resval.rreal);
         break;
       case 50:
         angle = item.resval.rreal * kDegree;

@@ -59,5 +59,5 @@ class QVX_KERNEL QvxDbSpace : public QvxDbEntity {  // outline; label
 };
 
 // Makes the classes known to drawings, and forgets them again before the code goes.
-void BeginQvxEntities();
-void EndQvxEntities();
+QVX_KERNEL void BeginQvxEntities();
+QVX_KERNEL void EndQvxEntities();

@@ -8,6 +8,8 @@ TEntityBase::~TEntityBase() = default;
 
 TEntityBase* TEntityBase::Cast(AcRxObject* object) { return QvxDbEntity::cast(object); }
 
-double TEntityBase::ScaleFactor() const {
-  return m_pscale > 0 && std::isfinite(m_pscale) ? m_pscale / kDefaultScale : 1;
+void TEntityBase::SetPScale(double scale) {
+  if (std::isfinite(scale)) m_pscale = scale;
 }
+
+double TEntityBase::ScaleFactor() const { return m_pscale > 0 ? m_pscale / kDefaultScale : 1; }

@@ -13,9 +13,10 @@ class QVX_KERNEL TEntityBase {
   // was read with while their module was not there.
   static TEntityBase* Cast(AcRxObject* object);
 
-  // 100 means 1:100. Any number is kept; one that is not above 0 draws as the default does.
+  // 100 means 1:100. Any finite number is kept, what is none changes nothing; one that is not above
+  // 0 draws as the default does.
   double GetPScale() const { return m_pscale; }
-  virtual void SetPScale(double scale) { m_pscale = scale; }
+  virtual void SetPScale(double scale);
 
  protected:
   // Sizes are stored as they are drawn at the default scale; this is what they are multiplied by.

@@ -2,6 +2,8 @@
 // dimensions, locks and undo.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "dbsymtb.h"
 #include "kernel/current_drawing.h"
 #include "kernel/drawing_scale.h"
@@ -86,6 +88,19 @@ TEST_F(ScaleChange, AnyNumberIsTakenByObjects) {
   qvx::SetScale(0);
   EXPECT_EQ(wall->GetPScale(), 0);
   EXPECT_EQ(Text(), L"比例 1:100") << "the drawing's, since 0 is no scale to show";
+}
+
+TEST_F(ScaleChange, WhatIsNoFiniteNumberChangesNothing) {
+  auto* wall = Add<QvxDbWall>(100);
+  for (const double scale :
+       {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+    Select({wall});
+    qvx::SetScale(scale);
+    EXPECT_EQ(wall->GetPScale(), 100);
+    Select({});
+    qvx::SetScale(scale);
+    EXPECT_EQ(DrawingsOwn(), 50);
+  }
 }
 
 TEST_F(ScaleChange, ASelectionWithoutObjectsOfTheFamilyMeansTheDrawing) {
