@@ -1,38 +1,19 @@
-// Block references, dimensions, viewports and opaque entities; see dbents.h.
+// Block references and viewports; see dbents.h.
 #include <algorithm>
 
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/block_picture.h"
 #include "devhost/core/entity_io.h"
 
 using namespace devhost;
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbBlockReference, AcDbEntity, 0, 0, 0, INSERT, host)
-ACRX_DXF_DEFINE_MEMBERS(AcDbDimension, AcDbEntity, 0, 0, 0, DIMENSION, host)
 ACRX_DXF_DEFINE_MEMBERS(AcDbViewport, AcDbEntity, 0, 0, 0, VIEWPORT, host)
 
 namespace {
 
 constexpr int kMostCopies = 10000;  // of one reference's array; a damaged file may ask for billions
-
-const AcDbBlockTableRecord* BlockNamed(const AcDbObject& from, const std::wstring& name) {
-  if (!from.database() || name.empty()) return nullptr;
-  AcDbObjectId id;
-  const auto* table = AcDbBlockTable::cast(from.database()->blockTableId().object());
-  return table->getAt(name.c_str(), id) == Acad::eOk ? AcDbBlockTableRecord::cast(id.object())
-                                                     : nullptr;
-}
-
-bool DrawParts(AcGiWorldDraw* draw, const AcDbBlockTableRecord& block, const AcGeMatrix3d& matrix) {
-  draw->geometry().pushModelTransform(matrix);
-  for (AcDbObjectId id : block.entities()) {
-    const AcDbEntity* part = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
-    // A definition of an attribute shows only while its block is edited.
-    if (part && !AcDbAttributeDefinition::cast(part) && !draw->geometry().draw(part)) break;
-  }
-  draw->geometry().popModelTransform();
-  return true;
-}
 
 }  // namespace
 
@@ -149,78 +130,6 @@ Acad::ErrorStatus AcDbBlockReference::dxfOutFields(AcDbDxfFiler* filer) const {
   filer->writeInt(71, m_rows);
   filer->writeDouble(44, m_columnGap);
   return filer->writeDouble(45, m_rowGap);
-}
-
-bool AcDbDimension::subWorldDraw(AcGiWorldDraw* draw) const {
-  const AcDbBlockTableRecord* block = BlockNamed(*this, m_block);
-  if (block && !block->entities().empty()) return DrawParts(draw, *block, AcGeMatrix3d());
-  // No picture in the file: at least the dimension line shows where it is.
-  const AcGePoint3d ends[3] = {m_first, m_line, m_second};
-  return draw->geometry().polyline(3, ends);
-}
-
-Acad::ErrorStatus AcDbDimension::subTransformBy(const AcGeMatrix3d&) {
-  return Acad::eNotImplementedYet;
-}
-
-Acad::ErrorStatus AcDbDimension::dxfInFields(AcDbDxfFiler* filer) {
-  AcDbEntity::dxfInFields(filer);
-  m_block = m_style = L"";
-  m_rotation = 0;
-  return ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 1:
-        m_text = item.resval.rstring;
-        break;
-      case 2:
-        m_block = item.resval.rstring;
-        break;
-      case 3:
-        m_style = item.resval.rstring;
-        break;
-      case 10:
-        m_line = PointOfItem(item);
-        break;
-      case 11:
-        m_textAt = PointOfItem(item);
-        break;
-      case 13:
-        m_first = PointOfItem(item);
-        break;
-      case 14:
-        m_second = PointOfItem(item);
-        break;
-      case 42:
-        m_measurement = item.resval.rreal;
-        break;
-      case 50:
-        m_rotation = item.resval.rreal * kDegree;
-        break;
-      case 70:
-        m_type = item.resval.rint;
-        break;
-      default:
-        break;
-    }
-  });
-}
-
-Acad::ErrorStatus AcDbDimension::dxfOutFields(AcDbDxfFiler* filer) const {
-  AcDbEntity::dxfOutFields(filer);
-  filer->writeString(100, L"AcDbDimension");
-  if (!m_block.empty()) filer->writeString(2, m_block.c_str());
-  filer->writePoint(10, m_line);
-  filer->writePoint(11, m_textAt);
-  filer->writeInt(70, m_type);
-  filer->writeString(1, m_text.c_str());
-  filer->writeDouble(42, m_measurement);
-  if (!m_style.empty()) filer->writeString(3, m_style.c_str());
-  filer->writeString(100, L"AcDbAlignedDimension");
-  filer->writePoint(13, m_first);
-  filer->writePoint(14, m_second);
-  if (kind() != 0) return Acad::eOk;
-  filer->writeDouble(50, m_rotation / kDegree);
-  return filer->writeString(100, L"AcDbRotatedDimension");
 }
 
 bool AcDbViewport::subWorldDraw(AcGiWorldDraw* draw) const {

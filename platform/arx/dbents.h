@@ -218,11 +218,15 @@ class AcDbBlockReference : public AcDbEntity {
   std::vector<AcDbObjectId> m_attributes;
 };
 
-// All kinds of dimensions; drawn by their block.
+// All kinds of dimensions; drawn by their block, which stays where it was made and is shifted with
+// the dimension. One that would have to be turned or scaled refuses, since nothing makes blocks
+// anew.
 class AcDbDimension : public AcDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(AcDbDimension);
-  int kind() const { return m_type & 7; }  // 0 rotated, 1 aligned, 2 angular, 3 diameter, 4 radius
+  // 0 rotated, 1 aligned, 2 angular, 3 diameter, 4 radius, 5 angular by three points, 6 ordinate
+  int kind() const { return m_type & 7; }
+  bool isAngular() const { return kind() == 2 || kind() == 5; }
   double measurement() const { return m_measurement; }
   const ACHAR* dimensionText() const { return m_text.c_str(); }
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
@@ -231,10 +235,13 @@ class AcDbDimension : public AcDbEntity {
   Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
 
  private:
+  Acad::ErrorStatus WriteKind(AcDbDxfFiler* filer) const;
+
   std::wstring m_block, m_text, m_style;
-  AcGePoint3d m_line, m_textAt, m_first, m_second;
-  int m_type = 0;
-  double m_measurement = 0, m_rotation = 0;
+  AcGePoint3d m_line, m_textAt, m_first, m_second, m_third, m_arc;
+  AcGeVector3d m_blockShift;
+  int m_type = 0, m_attachment = 0;
+  double m_measurement = 0, m_rotation = 0, m_textRotation = 0, m_leader = 0;
 };
 
 class AcDbViewport : public AcDbEntity {

@@ -274,7 +274,15 @@ TEST(ObjectState, OfEveryClassOverwritesAllThatWasReadInto) {
         {44, L"", 5},
         {45, L"", 6}}},
       {L"DIMENSION",
-       {{2, L"b", 0}, {1, L"t", 0}, {3, L"s", 0}, {10, L"", 1}, {42, L"", 7}, {50, L"", 90}}},
+       {{2, L"b", 0},
+        {1, L"t", 0},
+        {3, L"s", 0},
+        {10, L"", 1},
+        {12, L"", 4},
+        {42, L"", 7},
+        {50, L"", 90},
+        {53, L"", 5},
+        {71, L"", 5}}},
       {L"VIEWPORT", {{10, L"", 1}, {40, L"", 5}, {41, L"", 6}, {68, L"", 1}, {69, L"", 2}}},
   };
   for (const Case& c : cases) {
