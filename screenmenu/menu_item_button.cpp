@@ -9,6 +9,7 @@
 namespace {
 
 constexpr BYTE kImageSize = 16;
+const CPoint kPlaceOfKeyboard(-1, -1);
 
 // WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | BS_OWNERDRAW
 constexpr DWORD kRowStyle = 0x5001400B;
@@ -104,17 +105,19 @@ void CSMenuItem::OnMouseEnter() {
   CButtonST::OnMouseEnter();
 }
 
+// The keyboard gives no place: the pop-up then hangs below the row.
 void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
   if (!m_pOwner->MenuSystem() || !m_pMenuItem) return;
   ReleaseMouse();
   m_pOwner->RestoreStatusBar();
   ClearHover();
+  CRect button;
+  GetWindowRect(&button);
+  if (point == kPlaceOfKeyboard) point = CPoint(button.left, button.bottom);
   if (!m_pMenuItem->m_pSubMenu) {
     m_pOwner->ShowLineMenu(*m_pMenuItem, point);
     return;
   }
-  CRect button;
-  GetWindowRect(&button);
   m_pOwner->ShowHeaderMenu(*m_pMenuItem->m_pSubMenu, button, point);
 }
 

@@ -32,6 +32,10 @@ constexpr ToolId kToolIds[] = {RowOf(0x4861), RowOf(0x4862), RowOf(0x4863), RowO
 
 }  // namespace
 
+int UsableWidth(int saved, int screenWidth) {
+  return saved > 0 && saved <= screenWidth ? saved : kPaletteFirstWidth;
+}
+
 void LoadPaletteSettings(PaletteSettings& settings) {
   const TRegProperty key = PaletteKey();
   key.GetValue(L"Alignment", settings.alignment);

@@ -10,14 +10,19 @@ namespace qvx {
 constexpr int kPaletteLeastWidth = 74;
 constexpr int kPaletteLeastHeight = 200;
 constexpr int kPaletteFirstHeight = 80;
+constexpr int kPaletteFirstWidth = 76;
 
 struct PaletteSettings {
   int alignment = 1;  // 1 docks left, 0 right
-  int sizeX = 76;
+  int sizeX = kPaletteFirstWidth;
   int limitHeight = 0;
   int defaultOpenFirst = 0;
   int scrollBar = 0;
 };
+
+// A saved width that no palette can have, or that no screen has room for, counts as none: nobody
+// could take hold of such a palette to make it right again.
+int UsableWidth(int saved, int screenWidth);
 
 // In this order: Alignment, SizeX, LimitHeight, DefaultOpenFirst, ScrollBar.
 void LoadPaletteSettings(PaletteSettings& settings);

@@ -144,6 +144,7 @@ BOOL CScreenMenu::DestroyWindow() {
 }
 
 void CScreenMenu::OnDestroy() {
+  TrackCancel();
   CRect window, frameClient;
   GetWindowRect(&window);
   const CSize size = window.Size();

@@ -82,6 +82,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   void TrackBegin(int code);
   void TrackMove(CPoint point);
   void TrackEnd();
+  void TrackCancel();  // the palette goes in the middle of a drag: nothing of it stays
   void DrawTracker();
 
   qvx::PendingCommand m_pending;                      // waits for the timer

@@ -138,3 +138,10 @@ void CScreenMenu::TrackEnd() {
   DockControlBar(static_cast<UINT>(dock.dockBar), &dragged);
   if (m_pDockContext) m_pDockContext->m_dwMRUFloatStyle |= kSizedByUser;
 }
+
+void CScreenMenu::TrackCancel() {
+  if (!m_bTracking) return;
+  m_bTracking = 0;
+  ::ReleaseCapture();
+  DrawTracker();
+}

@@ -56,7 +56,8 @@ void GiveToolId() {
 
 bool CreatePalette(const qvx::PaletteSettings& settings, const qvx::DockChoice& dock, bool show) {
   const PaletteFace face = ReadPaletteFace();
-  const CRect first(0, 0, settings.sizeX, qvx::kPaletteFirstHeight);
+  const int width = qvx::UsableWidth(settings.sizeX, ::GetSystemMetrics(SM_CXVIRTUALSCREEN));
+  const CRect first(0, 0, width, qvx::kPaletteFirstHeight);
   const DWORD style = dock.barStyle | WS_CHILD | (show ? WS_VISIBLE : 0);
   if (!g_pScreenMenu->Create(face.title, style, first, acedGetAcadFrame(), kPaletteSetStyle))
     return false;

@@ -77,6 +77,14 @@ TEST_F(ButtonWindow, TakesTheMouseWhenThePointerComesAndGivesItBackWhenItGoes) {
   EXPECT_FALSE(button.IsMouseOn());
 }
 
+TEST_F(ButtonWindow, APressThatBeganElsewhereAndIsDraggedOverItDoesNotLightIt) {
+  Move(5, 5, MK_LBUTTON);
+  EXPECT_FALSE(button.IsMouseOn());
+  EXPECT_NE(::GetCapture(), button.m_hWnd);
+  Move(5, 5);
+  EXPECT_TRUE(button.IsMouseOn()) << "once the press is over, the next move does";
+}
+
 TEST_F(ButtonWindow, KeepsTheMouseWhileAPressIsCarriedOff) {
   Move(5, 5);
   Move(-5, 5, MK_LBUTTON);

@@ -172,6 +172,72 @@ TEST_F(GroupWindows, ABarOfNoWidthStillAnswersTheWheel) {
   EXPECT_EQ(PlaceOf(group.Row(0)).top, 2 - 40);
 }
 
+TEST_F(GroupWindows, ABarOfNoWidthStillBringsAnOpenedGroupIntoView) {
+  Fill(10);
+  AddLine(*AddHeader(bar, L"组"), L"行", L"x");
+  CMenuGroup& group = Build(200);
+  group.ScrollGroup(SB_BOTTOM, 0);
+  Click(group, 10);
+  EXPECT_EQ(PlaceOf(group.Child(10)).bottom, 200);
+  EXPECT_EQ(PlaceOf(group.Child(10)).right, 120);
+}
+
+TEST_F(GroupWindows, ThePointerPassesThroughASeparatorSoItNeverLights) {
+  AddLine(bar, L"--");
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  const auto under = [&group](int row) {
+    CPoint middle = PlaceOf(group.Row(row)).CenterPoint();
+    return ::RealChildWindowFromPoint(group.m_hWnd, middle) == group.Row(row)->m_hWnd &&
+           group.Row(row)->IsWindowEnabled();
+  };
+  EXPECT_FALSE(under(0));
+  EXPECT_TRUE(under(1));
+  CPoint onScreen = PlaceOf(group.Row(0)).CenterPoint();
+  group.ClientToScreen(&onScreen);
+  EXPECT_EQ(::WindowFromPoint(onScreen), group.m_hWnd);
+}
+
+TEST_F(GroupWindows, ATipIsSetAtItsFirstUseAndStaysWhenTheStateChanges) {
+  g_hQvxDll = ::GetModuleHandleW(nullptr);
+  const int shows = g_bShowMenuTip;
+  g_bShowMenuTip = 1;
+  AddResource(owner.system, L"ID_ON", L"", L"帮助一");
+  AddResource(owner.system, L"ID_OFF", L"", L"帮助二");
+  const auto made = MakeSwitch(L"get-a", L"set-a", {L"开", L"关"});
+  owner.lisp.Number(L"get-a", 1);
+  AddSwitchLine(bar, *made);
+  CMenuGroup& group = Build();
+  CSMenuItem& row = *group.Row(0);
+  const auto hover = [&row] {
+    row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(-5, 5));
+    return TipOf(row);
+  };
+  EXPECT_EQ(hover(), L"帮助一");
+  owner.lisp.Number(L"get-a", 2);
+  group.RefreshSwitches();
+  EXPECT_EQ(row.Help(), L"帮助二");
+  EXPECT_EQ(hover(), L"帮助一");
+  g_bShowMenuTip = shows;
+  g_hQvxDll = nullptr;
+}
+
+TEST_F(GroupWindows, WithoutTipsInTheSettingsARowHasNone) {
+  g_hQvxDll = ::GetModuleHandleW(nullptr);
+  const int shows = g_bShowMenuTip;
+  g_bShowMenuTip = 0;
+  AddResource(owner.system, L"ID_A", L"", L"帮助");
+  AddLine(bar, L"轴网", L"TAxis\n")->m_nIconIndex = 0;
+  CMenuGroup& group = Build();
+  group.Row(0)->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  EXPECT_TRUE(group.Row(0)->IsMouseOn());
+  EXPECT_EQ(TipOf(*group.Row(0)), L"");
+  ::ReleaseCapture();
+  g_bShowMenuTip = shows;
+  g_hQvxDll = nullptr;
+}
+
 TEST_F(GroupWindows, ScrollingMovesTheRowsAndLeavesTheBarInPlace) {
   g_bScrollBar = 1;
   Fill(40);
@@ -337,6 +403,16 @@ TEST_F(GroupWindows, ARightClickAsksForTheMenuOfTheHeaderOrOfTheLine) {
                               MAKELPARAM(60, 60));
   EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"header menu 1", L"line menu 轴网"}));
   EXPECT_EQ(group.OpenIndex(), -1) << "the fold state is left alone";
+}
+
+TEST_F(GroupWindows, TheKeyboardsMenuOfARowHangsBelowIt) {
+  AddLine(bar, L"轴网", L"TAxis\n");
+  CMenuGroup& group = Build();
+  group.Row(0)->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(group.Row(0)->m_hWnd),
+                            MAKELPARAM(-1, -1));
+  CRect row;
+  group.Row(0)->GetWindowRect(&row);
+  EXPECT_EQ(owner.menuAt, CPoint(row.left, row.bottom));
 }
 
 TEST_F(GroupWindows, ARowPaintsItsGroupsColourAndTheHoverColourUnderThePointer) {

@@ -2,10 +2,15 @@
 // after its wait, closing with and without the hint, what is kept, dragging its edge.
 #include <gtest/gtest.h>
 
+#include <windows.h>
+// after windows.h
+#include <psapi.h>
+
 #include "afxpriv.h"
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
 #include "menu_fixture.h"
+#include "refused_windows.h"
 #include "screenmenu/describe_screen_menu.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/screen_menu.h"
@@ -425,6 +430,134 @@ TEST_F(Palette, RightClicksOnPaletteOfferJumpsAndCustomising) {
   EXPECT_EQ(Root().OpenIndex(), -1) << "a jump to the open group folds it";
 }
 
+TEST_F(Palette, ARightClickOnALeafOffersHelpUnlessTheRunModeIsOn) {
+  ComeUp();
+  Attach();
+  const auto linesOffered = [this](CMenuGroup& group, int row) {
+    group.Row(row)->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(group.Row(row)->m_hWnd),
+                                MAKELPARAM(60, 60));
+    return rooms.shownLines;
+  };
+  EXPECT_EQ(linesOffered(Root(), 2), 2 + 2 + 1 + 1) << "help, jumps, customising";
+  EXPECT_EQ(linesOffered(*Root().Child(0), 0), 2 + 2 + 1 + 1) << "the jumps are the root's";
+  g_nRunMode = 1;
+  EXPECT_EQ(linesOffered(Root(), 2), 2 + 1 + 1);
+  g_nRunMode = 0;
+  g_bLimitHeight = 1;
+  EXPECT_EQ(linesOffered(Root(), 2), 2 + 1) << "no jumps";
+  g_bLimitHeight = 0;
+}
+
+TEST_F(Palette, SettingsOutOfRangeBringItUpAllTheSame) {
+  for (int odd : {0, -1, -100000, 1, 77, 65536, 0x7FFFFFFF, static_cast<int>(0x80000000)}) {
+    qvx::SavePaletteState({odd, odd, {odd, odd}, odd, odd, odd});
+    qvx::SaveActiveSubMenu(odd);
+    ComeUp();
+    ASSERT_NE(g_pScreenMenu, nullptr) << odd;
+    Attach();
+    Root().WheelGroup(0, -120, CPoint());
+    Root().ToggleSubMenu(0);
+    Root().ToggleSubMenu(1);
+    EXPECT_EQ(Root().OpenIndex(), 1) << odd;
+    EXPECT_GT(GetScreenMenuWidth(), 0) << odd;
+    EXPECT_LE(GetScreenMenuWidth(), ::GetSystemMetrics(SM_CXVIRTUALSCREEN)) << odd;
+    host.Pump();
+    InitScreenMenu(false, true);
+    g_bLimitHeight = g_bDefaultOpenFirst = 0;
+    g_bScrollBar = 1;
+  }
+}
+
+TEST_F(Palette, WithoutAWindowOfItsOwnThereIsNoPaletteAndNothingIsSaid) {
+  {
+    const RefusedWindows refused(0, true);
+    InitScreenMenu(true, true);
+  }
+  EXPECT_EQ(g_pScreenMenu, nullptr);
+  EXPECT_TRUE(host.diary.empty());
+  ComeUp();
+  EXPECT_NE(g_pScreenMenu, nullptr) << "the next attempt may do better";
+}
+
+TEST_F(Palette, WithoutAWindowForItsTreeThePaletteStaysEmptyAndWorksOn) {
+  ComeUp();
+  {
+    const RefusedWindows refused(0, true);
+    Attach();
+  }
+  g_pScreenMenu->TailCommand(L"墙体");
+  g_pScreenMenu->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0);
+  RefreshScreenMenu();
+  host.frame->SetWindowPos(nullptr, 0, 0, 900, 600, SWP_NOMOVE | SWP_NOZORDER);
+  host.Pump();
+  EXPECT_NE(DescribeScreenMenu().find("\"rows\":[]"), std::string::npos);
+  EXPECT_TRUE(host.diary.empty());
+}
+
+TEST_F(Palette, WithLimitedHeightTheWheelTurnsItsOpenGroupAndNothingWithoutOne) {
+  g_bLimitHeight = 1;
+  qvx::SavePaletteState({1, 1, {120, 80}, 1, 0, 1});
+  ComeUp();
+  auto* screen = new TMenuBar;
+  screen->m_strName = L"SCREEN";
+  TMenuBar* tall = AddHeader(*screen, L"长");
+  for (int i = 0; i < 60; ++i) AddLine(*tall, L"行", L"x");
+  rooms.system.Append(screen);
+  AttachScreenBar(rooms.system);
+  const auto turn = [] {
+    return g_pScreenMenu->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), MAKELPARAM(60, 60));
+  };
+  EXPECT_TRUE(turn());
+  Click(Root(), 0);
+  ASSERT_TRUE(Root().Child(0)->HasScrollBar());
+  EXPECT_TRUE(turn());
+  EXPECT_EQ(Root().Child(0)->ScrollBar().GetScrollPos(), 40);
+  g_bLimitHeight = 0;
+}
+
+TEST_F(Palette, GoingDownInTheMiddleOfADragGivesTheMouseBack) {
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  CRect place = PlaceOf(*g_pScreenMenu);
+  ::MapWindowPoints(nullptr, dockBar, reinterpret_cast<POINT*>(&place), 2);
+  ::SendMessageW(dockBar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.right + 1, 50));
+  ASSERT_EQ(::GetCapture(), dockBar);
+  InitScreenMenu(false, true);
+  EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(Palette, AnEdgeDragEndsWithARightPressOrWhenTheMouseIsLost) {
+  ComeUp();
+  const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
+  const auto press = [this, dockBar] {
+    CRect place = PlaceOf(*g_pScreenMenu);
+    ::MapWindowPoints(nullptr, dockBar, reinterpret_cast<POINT*>(&place), 2);
+    ::SendMessageW(dockBar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.right + 1, 50));
+    EXPECT_EQ(::GetCapture(), dockBar);
+    ::SendMessageW(dockBar, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(place.right + 21, 50));
+  };
+  press();
+  ::SendMessageW(dockBar, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 50));
+  host.Pump();
+  EXPECT_EQ(::GetCapture(), nullptr);
+  const int wider = GetScreenMenuWidth();
+  EXPECT_GT(wider, 120);
+  press();
+  ::SetCapture(host.frame->m_hWnd);
+  host.Pump();
+  EXPECT_GT(GetScreenMenuWidth(), wider);
+  ::ReleaseCapture();
+}
+
+TEST_F(Palette, F4StepsBackOnlyWhenSomethingWasEntered) {
+  ComeUp();
+  Attach();
+  MSG key{g_pScreenMenu->m_hWnd, WM_KEYDOWN, VK_F4, 0, 0, {}};
+  EXPECT_FALSE(g_pScreenMenu->PreTranslateMessage(&key));
+  EXPECT_EQ(g_pScreenMenu->StepBack(), 0);
+  EXPECT_EQ(g_pScreenMenu->RootBar()->Length(), 3);
+}
+
 TEST_F(Palette, TheShellStateShowsTheLiveRows) {
   ComeUp();
   Attach();
@@ -443,17 +576,52 @@ TEST_F(Palette, TheShellStateShowsTheLiveRows) {
             std::string::npos);
 }
 
-TEST_F(Palette, TwentyReloadsLeaveNoWindowAndNoHandle) {
+// Every window of this thread, whatever its parent.
+int WindowsOfThread() {
+  int count = 0;
+  ::EnumThreadWindows(
+      ::GetCurrentThreadId(),
+      [](HWND window, LPARAM n) -> BOOL {
+        *reinterpret_cast<int*>(n) += 1 + CountWindows(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&count));
+  return count;
+}
+
+SIZE_T PrivateBytes() {
+  PROCESS_MEMORY_COUNTERS_EX memory{};
+  memory.cb = sizeof memory;
+  ::GetProcessMemoryInfo(::GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
+                         sizeof memory);
+  return memory.PrivateUsage;
+}
+
+struct Held {
+  int windows, bitmaps, fonts, pens, brushes, icons, dcs;
+  bool operator==(const Held&) const = default;
+};
+Held HeldNow() {
+  return {WindowsOfThread(),          qvx::OwnedBitmap::Alive(), qvx::OwnedFont::Alive(),
+          qvx::OwnedPen::Alive(),     qvx::OwnedBrush::Alive(),  qvx::OwnedIcon::Alive(),
+          qvx::OwnedMemoryDc::Alive()};
+}
+
+TEST_F(Palette, AThousandReloadsLeaveWhatTheFifthLeft) {
   const auto reload = [this] {
     InitScreenMenu(false, true);
     InitScreenMenu(true, true);
     Attach();
     Click(Root(), 0);
+    Click(Root(), 2);  // a command waits while the palette goes
+    g_pScreenMenu->RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   };
-  reload();
-  const int bitmaps = qvx::OwnedBitmap::Alive();
-  for (int i = 0; i < 20; ++i) reload();
-  EXPECT_EQ(qvx::OwnedBitmap::Alive(), bitmaps);
+  for (int i = 0; i < 5; ++i) reload();
+  const Held fifth = HeldNow();
+  const SIZE_T bytes = PrivateBytes();
+  for (int i = 0; i < 995; ++i) reload();
+  EXPECT_EQ(HeldNow(), fifth);
+  EXPECT_LT(PrivateBytes(), bytes + (4 << 20));
   InitScreenMenu(false, true);
   CDockBar* bar = host.frame->GetDockBar(AFX_IDW_DOCKBAR_LEFT);
   EXPECT_EQ(::GetWindow(bar->m_hWnd, GW_CHILD), nullptr);

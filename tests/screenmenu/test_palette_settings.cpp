@@ -40,6 +40,14 @@ TEST(PaletteSettings, GoingDownWritesTheSizeAlone) {
   EXPECT_EQ(ReadValue(L"Alignment", -1), 1);
 }
 
+TEST(PaletteSettings, AWidthThatNobodyCouldTakeHoldOfIsLeftOut) {
+  EXPECT_EQ(qvx::UsableWidth(120, 1000), 120);
+  EXPECT_EQ(qvx::UsableWidth(1, 1000), 1);
+  EXPECT_EQ(qvx::UsableWidth(1000, 1000), 1000);
+  for (int odd : {0, -1, -2147483647 - 1, 1001, 2147483647})
+    EXPECT_EQ(qvx::UsableWidth(odd, 1000), 76);
+}
+
 TEST(PaletteSettings, TheOpenIndexIsKeptUnchangedWhateverItIs) {
   for (int value : {3, 0, -1, 4711}) {
     qvx::SaveActiveSubMenu(value);

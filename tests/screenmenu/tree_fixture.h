@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "afxcmn.h"
 #include "afxwin.h"
 #include "kernel/globals.h"
 #include "menu_fixture.h"
@@ -28,7 +29,8 @@ class Diary : public GroupOwner {
   void ShowHeaderMenu(TMenuBar& bar, const CRect&, CPoint) override {
     Note(L"header menu " + std::to_wstring(bar.Length()));
   }
-  void ShowLineMenu(TMenuItem& line, CPoint) override {
+  void ShowLineMenu(TMenuItem& line, CPoint at) override {
+    menuAt = at;
     Note(L"line menu " + Text(line.m_strLabel));
   }
   void RestoreStatusBar() override {}
@@ -39,6 +41,7 @@ class Diary : public GroupOwner {
   FakeLisp lisp;
   TMenuSystem system;
   bool busy = false;
+  CPoint menuAt;
   std::vector<std::wstring> notes;
 };
 
@@ -68,6 +71,32 @@ class TreeWindows : public testing::Test {
     window->GetWindowRect(&place);
     ::MapWindowPoints(nullptr, ::GetParent(window->m_hWnd), reinterpret_cast<POINT*>(&place), 2);
     return place;
+  }
+  // The text of the tip that a row made, empty without one.
+  static std::wstring TipOf(const CSMenuItem& row) {
+    struct Search {
+      HWND row;
+      std::wstring text;
+    } search{row.m_hWnd, L""};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+          auto& found = *reinterpret_cast<Search*>(parameter);
+          wchar_t text[256] = L"", name[32] = L"";
+          ::GetClassNameW(window, name, 32);
+          if (_wcsicmp(name, TOOLTIPS_CLASSW)) return TRUE;
+          TOOLINFOW tool{};
+          tool.cbSize = sizeof tool;
+          if (!::SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)))
+            return TRUE;
+          if (tool.hwnd != found.row && reinterpret_cast<HWND>(tool.uId) != found.row) return TRUE;
+          tool.lpszText = text;
+          ::SendMessageW(window, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
+          found.text = text;
+          return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.text;
   }
   static void Click(CMenuGroup& group, int row) { group.Row(row)->SendMessage(BM_CLICK); }
   void Fill(int lines) {
