@@ -92,6 +92,7 @@ TEST_F(ScaleChange, AnyNumberIsTakenByObjects) {
 
 TEST_F(ScaleChange, WhatIsNoFiniteNumberChangesNothing) {
   auto* wall = Add<QvxDbWall>(100);
+  qvx::SetScale(50);
   for (const double scale :
        {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
     Select({wall});
