@@ -64,10 +64,16 @@ CBitmapMenu::~CBitmapMenu() {
 void CBitmapMenu::MeasureItem(LPMEASUREITEMSTRUCT item) {
   const auto* record = reinterpret_cast<const CBitmapMenuItemData*>(item->itemData);
   const bool hasText = record && record->m_pMenuItem;
-  const SIZE size = MeasurePopupRow(hasText ? WidthOf(record->m_pMenuItem->m_strLabel) : 0,
-                                    ::GetSystemMetrics(SM_CYMENU));
+  const SIZE size =
+      MeasurePopupRow(hasText ? WidthOf(record->m_pMenuItem->m_strLabel) : 0, MenuHeight());
   item->itemWidth = static_cast<UINT>(size.cx);
   item->itemHeight = static_cast<UINT>(size.cy);
+}
+
+// A menu is made for one showing, and the question takes as long as measuring a row.
+int CBitmapMenu::MenuHeight() {
+  if (!m_nMenuHeight) m_nMenuHeight = ::GetSystemMetrics(SM_CYMENU);
+  return m_nMenuHeight;
 }
 
 LRESULT CBitmapMenu::MenuCharSearch(UINT character, UINT flags) const {

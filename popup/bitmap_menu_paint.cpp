@@ -68,7 +68,7 @@ void PaintImage(CDC& dc, const PopupRowLook& look, HBITMAP icon) {
     return;
   }
   const qvx::OwnedBitmap check(static_cast<HBITMAP>(::LoadImageW(
-      qvx::ThisModule(), MAKEINTRESOURCEW(IDB_CHECK), IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+      qvx::ThisModule(), MAKEINTRESOURCEW(IDB_CHECK), IMAGE_BITMAP, 0, 0, kRowBitmapFlags)));
   if (check) PaintImage(dc, look.image, check.Get());
 }
 

@@ -14,7 +14,7 @@ void AppendRow(CBitmapMenu& menu, const PopupRow& row, const std::vector<CBitmap
   record->Show(row.line, row.index);
   if (row.bitmap)
     record->m_hBitmap.Reset(static_cast<HBITMAP>(
-        ::LoadImageW(g_hQvxDll, row.bitmap, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+        ::LoadImageW(g_hQvxDll, row.bitmap, IMAGE_BITMAP, 0, 0, kRowBitmapFlags)));
   const bool leadsOn = (row.flags & kRowSubMenu) != 0;
   const UINT_PTR id =
       leadsOn ? reinterpret_cast<UINT_PTR>(menus[static_cast<size_t>(row.subMenu)]->m_hMenu)
