@@ -133,9 +133,7 @@ std::string DriverWorld::PerformMouse(const Step& step) {
   std::string problem = Point(step.target, &at);
   if (problem.empty() && step.kind == StepKind::Drag) problem = Point(step.target2, &end);
   if (!problem.empty()) return problem;
-  // First the pointer, then the keys: a pointer that comes into a window makes the window system
-  // ask the display which keys are down, and the display knows nothing of ours.
-  m_input.Move(at);
+  m_input.Move(at);  // first, since keys that are held may be lost when a pointer comes to a window
   const InputSender::Held held(m_input, step.ctrl, step.shift);
   switch (step.kind) {
     case StepKind::Click:

@@ -2,6 +2,7 @@
 #include "devhost/play/win/input_sender.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace devhost {
 namespace {
@@ -33,6 +34,7 @@ void InputSender::Move(POINT to) {
 // Every event carries its place: between two of them the pointer may have been reported elsewhere,
 // and a press would go there.
 void InputSender::Mouse(POINT at, DWORD flags, DWORD data) {
+  KeepHeld();
   INPUT input = {};
   input.type = INPUT_MOUSE;
   input.mi.dx =
@@ -43,6 +45,13 @@ void InputSender::Mouse(POINT at, DWORD flags, DWORD data) {
   input.mi.mouseData = data;
   SendInput(1, &input, sizeof input);
   m_pause(kBetween);
+}
+
+// When the keyboard or the pointer comes to a window, the window system asks the display which keys
+// are down, perhaps late; the display knows nothing of ours, and a key that is held would be up.
+void InputSender::KeepHeld() {
+  for (const auto& [key, held] : {std::pair(VK_CONTROL, m_ctrlHeld), {VK_SHIFT, m_shiftHeld}})
+    if (held && GetAsyncKeyState(key) >= 0) Key(key, false, false);
 }
 
 void InputSender::Click(POINT at, Button button, int times) {
@@ -152,11 +161,14 @@ void InputSender::Type(const std::wstring& text) {
 
 InputSender::Held::Held(InputSender& sender, bool ctrl, bool shift)
     : m_sender(sender), m_ctrl(ctrl), m_shift(shift) {
+  m_sender.m_ctrlHeld = ctrl;
+  m_sender.m_shiftHeld = shift;
   if (m_ctrl) m_sender.Key(VK_CONTROL, false, false);
   if (m_shift) m_sender.Key(VK_SHIFT, false, false);
 }
 
 InputSender::Held::~Held() {
+  m_sender.m_ctrlHeld = m_sender.m_shiftHeld = false;
   if (m_shift) m_sender.Key(VK_SHIFT, false, true);
   if (m_ctrl) m_sender.Key(VK_CONTROL, false, true);
 }

@@ -40,12 +40,14 @@ class InputSender {
 
  private:
   void KeepApart(POINT at);
+  void KeepHeld();
   void Mouse(POINT at, DWORD flags, DWORD data = 0);
   void Key(int key, bool extended, bool up);
   void TypeUnit(wchar_t unit);
   void PressKey(int key, bool shift);
 
   std::function<void(int)> m_pause;
+  bool m_ctrlHeld = false, m_shiftHeld = false;
   DWORD m_lastClick = 0;  // ticks
   POINT m_lastAt{};
 };
