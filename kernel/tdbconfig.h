@@ -29,7 +29,7 @@ struct TDbConfigValues {
 class QVX_KERNEL TDbConfig : public AcDbObject {
  public:
   ACRX_DECLARE_MEMBERS(TDbConfig);
-  static constexpr int kPreviewOff = 0x200;  // of the flags: no selection preview in this drawing
+  enum Flag { kPreviewOff = 0x200 };  // no selection preview in this drawing
 
   int SolidFill() const { return m_values.solidFill; }
   int BoldLine() const { return m_values.boldLine; }

@@ -26,8 +26,8 @@ class ScaleWalk {
     return !m_mixed;
   }
   bool IsMixed() const { return m_mixed; }
-  // The first scale of a walk that ran through; 0 when no object had one.
-  double Common() const { return m_mixed ? 0 : m_first.value_or(0); }
+  // The scale of a walk that ran through; 0 when no object had one.
+  double Common() const { return m_first.value_or(0); }
 
  private:
   std::optional<double> m_first;

@@ -8,9 +8,11 @@
 class QVX_KERNEL TDbDimension2 : public QvxDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(TDbDimension2);
-  static constexpr int kLinear = 0, kAngular = 1;
-  static constexpr int kTextAside = 1;  // of the flags: the text stands beyond the end
-  static constexpr int kTextAbove = 2;  // the text stands one row higher
+  enum Kind { kLinear = 0, kAngular = 1 };
+  enum Flag {
+    kTextAside = 1,  // the text stands beyond the end
+    kTextAbove = 2,  // the text stands one row higher
+  };
 
   TDbDimension2() { size = 10; }
 

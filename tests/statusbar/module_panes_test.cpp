@@ -22,24 +22,28 @@ Function Export(const wchar_t* file, const char* name) {
       reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(file), name)));
 }
 
-void SetCustomFlags(DWORD flags) {
-  ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Quivera\\QVX\\R24.0\\QVX-1\\Settings",
-                    L"g_nCustomFlag", REG_DWORD, &flags, sizeof flags);
+// Where the kernel of the host's default release keeps its settings.
+void Keep(const wchar_t* setting, DWORD value) {
+  ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Quivera\\QVX\\R24.0\\QVX-1\\Settings", setting,
+                    REG_DWORD, &value, sizeof value);
 }
 
 constexpr DWORD kNoTips = 0x02;
 
 class ModulePanes : public ::testing::Test {
  protected:
-  void SetUp() override { HostProcess::Get(); }
+  void SetUp() override {
+    HostProcess::Get();
+    for (const wchar_t* setting : {L"g_bMakeGroup", L"g_bDynamicCoord"}) Keep(setting, 1);
+  }
   void TearDown() override {
     Unload();
-    SetCustomFlags(kNoTips);
+    Keep(L"g_nCustomFlag", kNoTips);
     auto& documents = devhost::TheHost().documents;
     while (documents.Current()) documents.Close(documents.Current());
   }
   static void Load(DWORD flags = 0) {
-    SetCustomFlags(kNoTips | flags);
+    Keep(L"g_nCustomFlag", kNoTips | flags);
     ASSERT_TRUE(acrxLoadModule(L"qvx_initstart.arx", true));
   }
   static void Unload() { acrxUnloadModule(L"qvx_initstart.arx"); }
