@@ -17,6 +17,8 @@ class GroupOwner {
   virtual const TMenuSystem* MenuSystem() = 0;  // null with no context window
   // Kept for the palette's life; null when the bitmap did not load.
   virtual HBITMAP Arrow(int depth, bool open) = 0;
+  // The same for a bitmap of the icon library: many rows show one icon, and loading is slow.
+  virtual HBITMAP Icon(const wchar_t* name) = 0;
 
   virtual void ArmCommand(const TWCString& command) = 0;  // replaces what waits, restarts the wait
   virtual bool IsHostBusy() = 0;

@@ -14,10 +14,6 @@ const CPoint kPlaceOfKeyboard(-1, -1);
 // WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | BS_OWNERDRAW
 constexpr DWORD kRowStyle = 0x5001400B;
 
-HBITMAP LoadMenuBitmap(HINSTANCE module, const wchar_t* name) {
-  return static_cast<HBITMAP>(::LoadImageW(module, name, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS));
-}
-
 }  // namespace
 
 IMPLEMENT_DYNAMIC(CSMenuItem, CButtonST)
@@ -70,13 +66,14 @@ void CSMenuItem::ShowArrow(bool open) {
 
 void CSMenuItem::ShowCheckMark() {
   m_bChecked = true;
-  SetBitmaps(LoadMenuBitmap(qvx::ThisModule(), MAKEINTRESOURCEW(qvx::kCheckMarkBitmap)), nullptr,
-             kImageSize, kImageSize);
+  SetBitmaps(
+      static_cast<HBITMAP>(::LoadImageW(qvx::ThisModule(), MAKEINTRESOURCEW(qvx::kCheckMarkBitmap),
+                                        IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)),
+      nullptr, kImageSize, kImageSize);
 }
 
 void CSMenuItem::ShowIcon(const wchar_t* bitmap) {
-  SetBitmaps(*bitmap ? LoadMenuBitmap(g_hQvxDll, bitmap) : nullptr, nullptr, kImageSize,
-             kImageSize);
+  ShareBitmap(*bitmap ? m_pOwner->Icon(bitmap) : nullptr, kImageSize, kImageSize);
 }
 
 void CSMenuItem::ShowState() {

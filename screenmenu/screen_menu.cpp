@@ -84,6 +84,15 @@ HBITMAP CScreenMenu::Arrow(int depth, bool open) {
   return arrow.Get();
 }
 
+// The library stays loaded for as long as a palette shows its menu.
+HBITMAP CScreenMenu::Icon(const wchar_t* name) {
+  const auto [icon, isNew] = m_icons.try_emplace(name);
+  if (isNew)
+    icon->second.Reset(static_cast<HBITMAP>(
+        ::LoadImageW(g_hQvxDll, name, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+  return icon->second.Get();
+}
+
 void CScreenMenu::OnWindowPosChanged(WINDOWPOS* position) {
   CAdUiPaletteSet::OnWindowPosChanged(position);
   if (m_pRootGroup && m_pRootGroup->GetSafeHwnd()) FitGroup();

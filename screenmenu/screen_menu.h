@@ -5,7 +5,9 @@
 // screen_menu_drag.cpp the dragged edge.
 #pragma once
 
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "adui.h"
@@ -57,6 +59,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   qvx::LispCaller& Lisp() override { return m_lisp; }
   const TMenuSystem* MenuSystem() override;
   HBITMAP Arrow(int depth, bool open) override;
+  HBITMAP Icon(const wchar_t* name) override;
   void ArmCommand(const TWCString& command) override;
   bool IsHostBusy() override;
   void ReportBusy() override;
@@ -101,7 +104,8 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   WNDPROC m_pfnDockBarProc = nullptr;        // its own procedure
 
   qvx::HostLisp m_lisp;
-  qvx::OwnedBitmap m_arrows[qvx::kArrowKinds][2];  // folded, open; loaded at first use
+  qvx::OwnedBitmap m_arrows[qvx::kArrowKinds][2];    // folded, open; loaded at first use
+  std::map<std::wstring, qvx::OwnedBitmap> m_icons;  // by name, null for one that did not load
 };
 
 extern CScreenMenu* g_pScreenMenu;  // null when there is no palette

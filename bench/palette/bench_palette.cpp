@@ -13,6 +13,7 @@
 #include "kernel/globals.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/screen_menu.h"
+#include "screenmenu/screen_menu_host.h"
 #include "tests/doubles/palette_host.h"
 
 namespace {
@@ -64,6 +65,23 @@ void AttachMenu(const char* part, std::unique_ptr<TMenuBar> menu) {
   AttachScreenBar(system);
   PaintAll(*g_pScreenMenu);
 }
+
+// A menu system whose first resource is the icon of every line.
+class IconHost : public qvx::ScreenMenuHost {
+ public:
+  IconHost() { m_system.m_resources.Append(new TMenuResItem(L"WALL", L"BMP_WALL", L"")); }
+  TMenuSystem* MenuSystem() override { return &m_system; }
+  void ShowMenuAt(TMenuBar&, POINT, UINT) override {}
+  void UpdateStatusBar() override {}
+  const wchar_t* HelpFile() override { return L""; }
+  void WriteDrawingScale() override {}
+  void RefreshDrawingPanes() override {}
+  void RefreshScaleText() override {}
+  void ResetPreviewCounters() override {}
+
+ private:
+  TMenuSystem m_system;
+};
 
 // Where the root's rows stand.
 std::vector<CRect> ShownPlaces(CMenuGroup& root) {
@@ -145,6 +163,41 @@ void MeasureFolding() {
   TakeDown("folding_down");
 }
 
+// From the old palette with 600 rows to the last paint of the new one, without reading the menu.
+void MeasureReload(const char* part, int openIndex) {
+  const auto attach = [] {
+    InitScreenMenu(true, true);
+    TMenuSystem system;
+    system.Append(bench::FoldingMenu(30, 600).release());
+    AttachScreenBar(system);
+    ThePaletteHost().Pump();
+    PaintAll(*g_pScreenMenu);
+  };
+  qvx::SaveActiveSubMenu(openIndex);
+  attach();
+  {
+    const Part measured(part);
+    InitScreenMenu(false, true);
+    attach();
+  }
+  InitScreenMenu(false, true);
+  qvx::SaveActiveSubMenu(-1);
+}
+
+// The same tree with an icon on every line, out of the product's icon library.
+void MeasureIcons(const wchar_t* library) {
+  g_hQvxDll = ::LoadLibraryW(library);
+  if (!g_hQvxDll) return;
+  IconHost host;
+  qvx::SetScreenMenuHost(&host);
+  AttachMenu("icons", bench::FoldingMenu(kHeaders, kRows));
+  TakeDown("icons_down");
+  MeasureReload("reload_600_folded", -1);
+  MeasureReload("reload_600_open", 5);
+  qvx::SetScreenMenuHost(nullptr);
+  ::FreeLibrary(std::exchange(g_hQvxDll, nullptr));
+}
+
 void Settle() {
   g_iMenuRowHeight = 25;
   g_bScrollBar = 1;
@@ -165,6 +218,7 @@ int main(int argc, char** argv) {
     MeasureBare();
     MeasureFlat();
     MeasureFolding();
+    if (argc > 2) MeasureIcons(CString(argv[2]));
   }
   ThePaletteHost().CloseFrame();
   return 0;

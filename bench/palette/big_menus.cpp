@@ -34,7 +34,7 @@ std::unique_ptr<TMenuBar> FoldingMenu(int headers, int rows) {
     header->m_pSubMenu = new TMenuBar;
     const int share = h + 1 < headers ? (rows - headers) / headers : left;
     for (int i = 0; i < share; ++i)
-      AddLine(*header->m_pSubMenu, L"绘制墙体 " + std::to_wstring(i), L"TWall\n");
+      AddLine(*header->m_pSubMenu, L"绘制墙体 " + std::to_wstring(i), L"TWall\n")->m_nIconIndex = 0;
     left -= share;
   }
   return bar;

@@ -22,6 +22,10 @@ class Diary : public GroupOwner {
     return reinterpret_cast<HBITMAP>(
         static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // only compared, never drawn
   }
+  HBITMAP Icon(const wchar_t* name) override {
+    Note(L"icon " + std::wstring(name));
+    return nullptr;
+  }
   void ArmCommand(const TWCString& command) override { Note(L"arm " + Text(command)); }
   bool IsHostBusy() override { return busy; }
   void ReportBusy() override { Note(L"busy"); }
