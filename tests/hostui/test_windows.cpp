@@ -3,10 +3,13 @@
 #include <oleacc.h>
 
 #include "acstatusbar.h"
+#include "adui.h"
 #include "devhost/core/journal.h"
 #include "devhost/ui/journal_hooks.h"
 #include "devhost/ui/live_menus.h"
 #include "devhost/ui/message_pump.h"
+#include "devhost/core/start_trace.h"
+#include "devhost/ui/start_watch.h"
 #include "devhost/ui/status_bar.h"
 #include "devhost/ui/window_tree.h"
 
@@ -220,4 +223,56 @@ TEST(LiveMenus, AreReadWithTheRowsThatTheirOwnerDraws) {
 TEST(LiveMenus, WithoutOneThereIsNoneOpen) {
   EXPECT_FALSE(IsPopupMenuOpen(::GetCurrentThreadId()));
   EXPECT_EQ(DescribeLiveMenus(::GetCurrentThreadId())["open"], false);
+}
+
+namespace {
+
+std::string TextOfFile(const std::wstring& path) {
+  std::string text;
+  std::FILE* file = ::_wfopen(path.c_str(), L"rb");
+  for (int c; file && (c = std::fgetc(file)) != EOF;) text += static_cast<char>(c);
+  if (file) std::fclose(file);
+  return text;
+}
+
+}  // namespace
+
+TEST(StartWatch, TellsTheWindowsThatAreMadeAndWhenAPaletteIsFirstVisible) {
+  CWinApp* app = AfxGetApp();
+  CWinApp own;
+  ASSERT_TRUE(app ||
+              AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOW));
+  auto* frame = new CFrameWnd;  // deletes itself with its window
+  ASSERT_TRUE(frame->Create(nullptr, L"frame"));
+  frame->EnableDocking(CBRS_ALIGN_ANY);
+  const std::wstring file = L"start_watch_test.json";
+  StartWatch watch(file);
+  {
+    OwnWindow early(L"Static", L"before any module", WS_POPUP);
+    TheStartTrace().Begin("test.arx");
+    CAdUiPaletteSet palette;
+    ASSERT_TRUE(palette.Create(L"palette", WS_CHILD | WS_VISIBLE | CBRS_LEFT, CRect(0, 0, 80, 200),
+                               frame, 0));
+    EXPECT_FALSE(TheStartTrace().Shown());  // the frame around it is hidden
+    frame->ShowWindow(SW_SHOWNORMAL);
+    ::SetWindowPos(palette.m_hWnd, nullptr, 0, 0, 90, 200, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(TheStartTrace().Shown());
+    ThePump().MarkQuiet();
+    palette.DestroyWindow();
+  }
+  frame->DestroyWindow();
+  ASSERT_TRUE(watch.Write());
+  const Json trace = Json::parse(TextOfFile(file), nullptr, false);
+  ::DeleteFileW(file.c_str());
+  ASSERT_TRUE(trace.is_object());
+  EXPECT_EQ(trace["module"], "test.arx");
+  EXPECT_EQ(trace["steps"][0]["step"], "kInitAppMsg");
+  EXPECT_EQ(trace["steps"][1]["step"], "window made");
+  EXPECT_TRUE(trace["palette_shown_ms"].is_number());
+  EXPECT_TRUE(trace["idle_ms"].is_number());
+}
+
+TEST(StartWatch, AFileThatCannotBeWrittenIsTold) {
+  const StartWatch watch(L"no\\such\\folder\\trace.json");
+  EXPECT_FALSE(watch.Write());
 }
