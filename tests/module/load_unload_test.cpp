@@ -114,6 +114,39 @@ TEST_F(Module, LeavesNoHandleBehindAndComesUpAgainWhereItStayedInMemory) {
   EXPECT_FALSE(IsMapped(L"qvx_initstart.arx"));
 }
 
+// The host takes commands back itself when a module goes. Here only the module hears that it is to
+// unload, so that what it does not take back would still be there.
+TEST_F(Module, TakesBackItselfWhatItBroughtAlong) {
+  HostProcess::Get().CopyProductFile(L"qvx.dll");
+  devhost::TheHost().documents.New();
+  const int windows = HostProcess::Get().ChildWindows(), tops = TopWindows(), panes = Panes();
+  ASSERT_TRUE(LoadModule());
+  BringUp();
+  EXPECT_EQ(ModuleCommands(), 14);
+  EXPECT_GT(Panes(), panes);
+  const auto entry = Export<int (*)(int, void*)>(L"qvx_initstart.arx", "acrxEntryPoint");
+  EXPECT_EQ(entry(AcRx::kUnloadAppMsg, nullptr), AcRx::kRetOK);
+  EXPECT_EQ(ModuleCommands(), 0);
+  EXPECT_EQ(HostProcess::Get().ContextWindow(), nullptr);
+  EXPECT_EQ(HostProcess::Get().ChildWindows(), windows);
+  EXPECT_EQ(TopWindows(), tops);
+  EXPECT_EQ(Panes(), panes);
+  EXPECT_FALSE(IsMapped(L"qvx.dll"));
+  EXPECT_TRUE(Contains(Shell(), "\"handles\":0,")) << Shell();
+  EXPECT_EQ(entry(AcRx::kUnloadAppMsg, nullptr), AcRx::kRetOK) << "a second time is harmless";
+  HostProcess::Get().Remove(L"qvx.dll");
+}
+
+TEST_F(Module, AnswersEveryMessageWithFine) {
+  ASSERT_TRUE(LoadModule());
+  const auto entry = Export<int (*)(int, void*)>(L"qvx_initstart.arx", "acrxEntryPoint");
+  for (const int message :
+       std::initializer_list<int>{AcRx::kUnloadDwgMsg, AcRx::kCfgMsg, AcRx::kEndMsg, AcRx::kQuitMsg,
+                                  AcRx::kSaveMsg, AcRx::kInvkSubrMsg, 99, -1})
+    EXPECT_EQ(entry(message, nullptr), AcRx::kRetOK) << message;
+  EXPECT_NE(HostProcess::Get().ContextWindow(), nullptr) << "none of them takes it down";
+}
+
 TEST_F(Module, ExportsWhatSiblingModulesCall) {
   ASSERT_TRUE(LoadModule());
   for (const char* name :

@@ -86,6 +86,8 @@ class Module : public ::testing::Test {
     HostProcess::Get().Write(L"qvx.qmn",
                              "MENU_TITLE = \"T\"\r\n***SCREEN\r\n[A]^C^CTWall;\r\n[->B]\r\n"
                              "[<-C]^C^CTDoor;\r\n[D]^C^CTWindow;\r\n***SWITCH\r\n***RESOURCE\r\n");
+    // No tip of the day: its dialog would wait for ever for somebody.
+    SetNumber(L"Settings", L"g_nCustomFlag", 2);
     m_journalStart = devhost::TheJournal().Count();
   }
   void TearDown() override {
