@@ -75,6 +75,7 @@ class Probe : public Pane {
   }
   UINT DisplayContextMenu(CMenu& menu, CPoint) override {
     lines = LinesOf(::GetSubMenu(menu.m_hMenu, 0));
+    shown = menu.m_hMenu;
     return choice;
   }
   struct IconCall {
@@ -83,5 +84,6 @@ class Probe : public Pane {
   };
   std::vector<IconCall> icons;
   std::vector<MenuLine> lines;
+  HMENU shown = nullptr;
   UINT choice = 0;
 };

@@ -176,3 +176,15 @@ TEST_F(ModulePanes, TheBaseOfASiblingsPanesIsExportedWithCopyAndAssignment) {
     EXPECT_NE(::GetProcAddress(::GetModuleHandleW(L"qvx_initstart.arx"), member), nullptr)
         << member;
 }
+
+TEST_F(ModulePanes, ASiblingsOwnPaneWorksAcrossTheModules) {
+  Load();
+  ASSERT_TRUE(acrxLoadModule(L"sibling_pane.arx", true));
+  EXPECT_EQ(OnBar(), 7);
+  EXPECT_EQ(Panes()[6]["tooltip"], "sibling");
+  EXPECT_EQ(Panes()[6]["style"], 2);
+  Click("");
+  EXPECT_EQ(Panes()[6]["style"], 8);
+  EXPECT_TRUE(acrxUnloadModule(L"sibling_pane.arx"));
+  EXPECT_EQ(OnBar(), 6);
+}

@@ -19,6 +19,7 @@ class ScaleProbe : public TPScalePane {
   UINT DisplayPopupPaneMenu(CMenu& menu) override {
     lines = LinesOf(::GetSubMenu(menu.m_hMenu, 0));
     ++shown;
+    menuShown = menu.m_hMenu;
     return choice;
   }
   std::wstring Text() const {
@@ -29,6 +30,7 @@ class ScaleProbe : public TPScalePane {
   std::vector<MenuLine> lines;
   UINT choice = 0;
   int shown = 0;
+  HMENU menuShown = nullptr;
 };
 
 class ScalePane : public BarTest {
@@ -78,6 +80,7 @@ TEST_F(ScalePane, EitherButtonOpensTheMenu) {
   EXPECT_EQ(m_pane.lines[17], (MenuLine{L"其它比例...", 40231, false, false}));
   m_pane.OnRButtonDown(0, kAnywhere);
   EXPECT_EQ(m_pane.shown, 2);
+  EXPECT_FALSE(::IsMenu(m_pane.menuShown)) << "gone after the click";
 }
 
 TEST_F(ScalePane, AChoiceWithNothingSelectedSetsTheDrawingAndTheHatchScale) {

@@ -231,6 +231,16 @@ TEST_F(SwitchPanes, LeavingTheMenuChangesNothing) {
   EXPECT_TRUE(Journal("sent").empty());
 }
 
+TEST_F(SwitchPanes, EachMenuIsGoneAfterItsChoice) {
+  Probe<TaKhsKsj123> fill;
+  for (int i = 0; i < 1000; ++i) {
+    fill.choice = i % 3 ? 0 : 40215;
+    fill.OnRButtonDown(0, kAnywhere);
+    ASSERT_NE(fill.shown, nullptr);
+    ASSERT_FALSE(::IsMenu(fill.shown)) << i;
+  }
+}
+
 TEST_F(SwitchPanes, TheSettingsOfFillAndBoldOpenTheOptionsAtTheirPage) {
   TRegProperty key(GetRegLocation(), L"Settings\\ScreenMenu");
   key.SetTopRootKey(HKEY_CURRENT_USER);
