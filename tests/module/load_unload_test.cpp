@@ -203,6 +203,19 @@ TEST_F(Module, WithoutAHyphenInTheFramesTextTheReleaseNamesTheHost) {
   HostProcess::Get().Frame().SetWindowText(L"AutoCAD 2021");
 }
 
+TEST_F(Module, WithoutATitleInTheProductFileTheFramesTextStartsAtFor) {
+  for (const char* product : {"[Product]\nHelpFile=a.chm\n", "[Product]\n", "[Other]\nTitle=x\n"}) {
+    HostProcess::Get().Write(L"qvx.ini", product);
+    HostProcess::Get().Frame().SetWindowText(L"AutoCAD 2021 - [a.dxf]");
+    ASSERT_TRUE(LoadModule());
+    CString title;
+    HostProcess::Get().Frame().GetWindowText(title);
+    EXPECT_STREQ(title.GetString(), L" For AutoCAD 2021") << product;
+    ASSERT_TRUE(UnloadModule());
+  }
+  HostProcess::Get().Remove(L"qvx.ini");
+}
+
 // A dialog would wait for ever here.
 TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndMovesOnByOne) {
   HostProcess::Get().Write(L"qvxtips.txt", "one\r\ntwo\r\n");

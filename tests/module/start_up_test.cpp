@@ -66,6 +66,27 @@ TEST_F(StartUp, WithoutAMenuTheFirstFiringSaysSoAndStopsTheTimer) {
   EXPECT_FALSE(StopTimer(20));
 }
 
+TEST_F(StartUp, ProductSeventeenAboveSixPointNineIsNotPointedToTheLoadCommand) {
+  const struct {
+    const wchar_t *product, *version;
+    bool isLimited;
+  } rows[] = {{L"17", L"6.9", false}, {L"17", L"7", true}, {L"16", L"7", false}};
+  for (const auto& row : rows) {
+    ASSERT_TRUE(LoadModule());
+    SetKernelSetting(L"g_nProductId", row.product);
+    SetKernelSetting(L"g_nVersion", row.version);
+    HostProcess::Get().Remove(L"qvx.qmn");
+    HostProcess::Get().Remove(L"qvx.qmc");
+    StartAnew();
+    HostProcess::Get().FireTimer(20);
+    EXPECT_TRUE(Contains(Printed(), devhost::Utf8(L"\n未找到所需的qmn菜单文件!"))) << Printed();
+    EXPECT_EQ(Contains(Printed(), "QMNLOAD"), !row.isLimited) << devhost::Utf8(row.version);
+    SetKernelSetting(L"g_nProductId", L"1");
+    SetKernelSetting(L"g_nVersion", L"7");
+    ASSERT_TRUE(UnloadModule());
+  }
+}
+
 TEST_F(StartUp, AHiddenScreenMenuIsThereAndTellsNothing) {
   SetNumber(L"Settings\\ScreenMenu", L"Visible", 0);
   ASSERT_TRUE(LoadModule());
