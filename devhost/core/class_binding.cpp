@@ -49,7 +49,7 @@ void Exchange(Document& document, F replacement) {
     if (!changed) {  // whoever held ids of this drawing lets go of them first
       SetPickFirst(document, {});
       document.previousSelection.clear();
-      document.undo.clear();
+      ForgetUndo(document);
       changed = true;
     }
     AcDbObjectAccess::TakeXData(old, fresh.get());

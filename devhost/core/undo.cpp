@@ -94,6 +94,14 @@ std::wstring TakeBackLatest(Document& document) {
   return step.command;
 }
 
+void ForgetUndo(Document& document) {
+  document.undo.clear();
+  if (document.undoGroup > 0) document.undoGroup = 0;
+  if (!document.recording) return;
+  document.recording->changes.clear();
+  document.recording->kept.clear();
+}
+
 void BeginUndoGroup(Document& document) {
   EndUndoGroup(document);
   document.undoGroup = static_cast<int>(document.undo.size());

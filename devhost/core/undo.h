@@ -58,6 +58,8 @@ void WatchForUndo(Document& document);
 void KeepVariableForUndo(Document& document, const std::wstring& name);
 // Takes the latest step back, unrecorded; its command's name, empty when there was none.
 std::wstring TakeBackLatest(Document& document);
+// Drops all steps, that of what runs just now too: objects that they name are about to go.
+void ForgetUndo(Document& document);
 // From Begin to End all steps become one. A second Begin ends the first group.
 void BeginUndoGroup(Document& document);
 void EndUndoGroup(Document& document);

@@ -1,4 +1,5 @@
 // Taking commands back.
+#include "devhost/core/class_binding.h"
 #include "host_fixture.h"
 
 using namespace devhost;
@@ -227,6 +228,25 @@ TEST_F(Undo, WhatACommandChangesBehindItsOwnUndoIsAStep) {
   EXPECT_EQ(Entities().size(), 1u);
   Send(L"U\n");
   EXPECT_STREQ(g_text->textStringConst(), L"原文");
+}
+
+// Regression: the step of the running command named objects that were exchanged meanwhile.
+TEST_F(Undo, AClassThatGoesWhileACommandRunsTakesItsStepAlong) {
+  MakeText();
+  Add(L"TUnload", [] {
+    ChangeText();
+    MakeEntitiesOpaque(*AcDbText::desc());
+  });
+  Send(L"UNDO BE LINE 0,0 1,0 \nTUNLOAD\n");
+  g_text = nullptr;
+  ASSERT_EQ(Entities().size(), 2u);
+  EXPECT_NE(AcDbProxyEntity::cast(Entities().at(0)), nullptr);
+  Send(L"LINE 0,0 2,0 \nUNDO E U\n");
+  EXPECT_EQ(Entities().size(), 2u);
+  Send(L"U\n");
+  EXPECT_EQ(Entities().size(), 2u);
+  EXPECT_NE(ui.printed.find(L"所有内容都已放弃"), std::wstring::npos);
+  BindOpaqueEntities();
 }
 
 // Undo reads an object's groups into the object itself, so no class may leave standing what its
