@@ -2,21 +2,12 @@
 // one process. The kernel is not linked here, so that it can really go.
 #include "tests/module/module_test.h"
 
-#include <algorithm>
 #include <string>
 
-#include "acstatusbar.h"
 #include "devhost/ui/message_pump.h"
 #include "rxregsvc.h"
 
 namespace {
-
-int ModuleCommands() {
-  const auto& all = devhost::TheHost().commands.All();
-  return static_cast<int>(std::count_if(
-      all.begin(), all.end(),
-      [](const devhost::Command& command) { return command.group == L"QVX_INITSTART"; }));
-}
 
 BOOL CALLBACK CountTopWindow(HWND, LPARAM count) {
   ++*reinterpret_cast<int*>(count);
@@ -28,11 +19,6 @@ int TopWindows() {
   int count = 0;
   ::EnumThreadWindows(::GetCurrentThreadId(), CountTopWindow, reinterpret_cast<LPARAM>(&count));
   return count;
-}
-
-int Panes() {
-  const AcApStatusBar* bar = acedGetApplicationStatusBar();
-  return bar ? bar->GetPaneCount() : -1;
 }
 
 int LispFunctions() {

@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
+#include "acstatusbar.h"
 #include "devhost/core/host.h"
 #include "devhost/core/journal.h"
 #include "tests/module/host_process.h"
@@ -75,6 +77,18 @@ inline std::wstring KernelSetting(const wchar_t* name) {
   wchar_t text[600] = L"";
   if (get) get(name, text, 600);
   return text;
+}
+
+inline int ModuleCommands() {
+  const auto& all = devhost::TheHost().commands.All();
+  return static_cast<int>(std::count_if(
+      all.begin(), all.end(),
+      [](const devhost::Command& command) { return command.group == L"QVX_INITSTART"; }));
+}
+
+inline int Panes() {
+  const AcApStatusBar* bar = acedGetApplicationStatusBar();
+  return bar ? bar->GetPaneCount() : -1;
 }
 
 inline bool LoadModule() { return acrxLoadModule(L"qvx_initstart.arx", true); }

@@ -32,6 +32,26 @@ List OwnSteps() {
   return own;
 }
 
+// What of the module stands, and what it has kept already.
+std::string Standing() {
+  return "kept \"" + devhost::Utf8(TextOf(L"Settings", L"RecentCmd")) + "\", commands " +
+         std::to_string(ModuleCommands()) + (Panes() > 0 ? ", panes" : "") +
+         (IsMapped(L"qvx.dll") ? ", icons" : "");
+}
+
+// mutable: the diary of the windows that go while the hook is set; several in a row are one line.
+HWND g_contextWindow = nullptr;
+List g_gone;
+
+LRESULT CALLBACK NoteDestroyed(int code, WPARAM window, LPARAM details) {
+  if (code == HCBT_DESTROYWND) {
+    const bool isContext = reinterpret_cast<HWND>(window) == g_contextWindow;
+    const std::string line = (isContext ? "context window: " : "palette: ") + Standing();
+    if (g_gone.empty() || g_gone.back() != line) g_gone.push_back(line);
+  }
+  return ::CallNextHookEx(nullptr, code, window, details);
+}
+
 }  // namespace
 
 TEST_F(Module, ComesUpInTheWrittenOrder) {
@@ -60,4 +80,25 @@ TEST_F(Module, ComesUpInTheWrittenOrder) {
   SetNumber(L"Tips", L"StartUp", 1);
   acrxUnloadModule(L"qvx_design.arx");
   ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);
+}
+
+// Seen from the two windows: when each goes, what stands before it in the list has happened and
+// what stands behind it has not.
+TEST_F(Module, GoesDownInTheWrittenOrder) {
+  HostProcess::Get().CopyProductFile(L"qvx.dll");
+  SetText(L"Settings", L"RecentCmd", L"a,b,");
+  ASSERT_TRUE(LoadModule());
+  BringUp();
+  Forget(L"Settings", L"RecentCmd");
+  g_gone.clear();
+  g_contextWindow = HostProcess::Get().ContextWindow();
+  const HHOOK hook = ::SetWindowsHookExW(WH_CBT, NoteDestroyed, nullptr, ::GetCurrentThreadId());
+  Export<int (*)(int, void*)>(L"qvx_initstart.arx", "acrxEntryPoint")(AcRx::kUnloadAppMsg, nullptr);
+  ::UnhookWindowsHookEx(hook);
+  EXPECT_EQ(g_gone, (List{"palette: kept \"a,b,\", commands 14, panes, icons",
+                          "context window: kept \"a,b,\", commands 14, panes, icons"}));
+  EXPECT_EQ(Standing(), "kept \"a,b,\", commands 0");
+  ASSERT_TRUE(UnloadModule());
+  Forget(L"Settings", L"RecentCmd");
+  HostProcess::Get().Remove(L"qvx.dll");
 }
