@@ -231,10 +231,18 @@ void ToggleOrtho() {
 }  // namespace
 
 const DesignCommand kDesignCommands[] = {
-    {L"TWall", DrawWalls},      {L"TAxis", DrawAxes},           {L"TAxisNo", NumberAxis},
-    {L"TColumn", InsertColumn}, {L"TDoor", InsertDoors},        {L"TWindow", InsertWindows},
-    {L"TStair", DrawStair},     {L"TRoom", DrawRoom},           {L"TText", WriteText},
-    {L"TDim2P", Dimension},     {L"TDimAng", AngularDimension}, {L"TArea", MeasureRoom},
+    {L"TWall", DrawWalls},
+    {L"TAxis", DrawAxes},
+    {L"TAxisNo", NumberAxis},
+    {L"TColumn", InsertColumn},
+    {L"TDoor", InsertDoors},
+    {L"TWindow", InsertWindows},
+    {L"TStair", DrawStair},
+    {L"TRoom", DrawRoom},
+    {L"TText", WriteText},
+    {L"TDim2P", Dimension},
+    {L"TDimAngle", AngularDimension},
+    {L"TArea", MeasureRoom},
     {L"TOrtho", ToggleOrtho},
 };
 const int kDesignCommandCount = sizeof kDesignCommands / sizeof *kDesignCommands;
