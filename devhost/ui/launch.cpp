@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <io.h>
+#include <ole2.h>
 
 #include <atomic>
 #include <cmath>
@@ -138,6 +139,20 @@ int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDri
   return exitCode;
 }
 
+// Screen readers in other processes reach a module's windows only in a program that has COM up.
+class OleScope {
+ public:
+  OleScope() : m_up(SUCCEEDED(::OleInitialize(nullptr))) {}
+  ~OleScope() {
+    if (m_up) ::OleUninitialize();
+  }
+  OleScope(const OleScope&) = delete;
+  OleScope& operator=(const OleScope&) = delete;
+
+ private:
+  bool m_up;
+};
+
 }  // namespace
 
 int RunDevelopmentHost(const LaunchOptions& options) {
@@ -152,6 +167,7 @@ int RunDevelopmentHost(const LaunchOptions& options) {
     driver = std::make_unique<PlayDriver>();
     if (!driver->Load(options.script)) return 2;
   }
+  const OleScope ole;
   HostApp app(L"DevHost");
   AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL);
   app.InitInstance();
