@@ -305,6 +305,19 @@ TEST(CompiledFile, ALoneLineTakesItsSwitchFromTheCurrentSystem) {
   EXPECT_EQ(back.m_pSubMenu, nullptr);
 }
 
+TEST(CompiledFile, ALoneBlockLosesTheMaskThatItHad) {
+  TMenuBar plain, old;
+  old.m_objectMask.AppendShort(62, 1);
+  CMemFile file;
+  CArchive out(&file, CArchive::store);
+  plain.Serialize(out);
+  out.Close();
+  file.SeekToBegin();
+  CArchive in(&file, CArchive::load);
+  old.Serialize(in);
+  EXPECT_EQ(old.m_objectMask.Head(), nullptr);
+}
+
 // ---- files
 
 struct CompiledFileOnDisk : testing::Test {
