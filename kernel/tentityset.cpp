@@ -108,35 +108,39 @@ AcDbObjectId TEntitySet::ObjectId() const {
   return id;
 }
 
-std::wstring TEntitySet::TypeOf(const AcDbEntity& entity) {
+const wchar_t* TEntitySet::TypeOf(const AcDbEntity& entity) {
   if (const auto* proxy = AcDbProxyEntity::cast(&entity)) return proxy->originalDxfName();
   const ACHAR* name = entity.isA()->dxfName();
   return name ? name : L"";
 }
 
-TEntitySet::Value TEntitySet::GroupOf(const AcDbEntity& entity, int code) {
+void TEntitySet::GroupOf(const AcDbEntity& entity, int code, Value& out) {
+  OneGroup group(entity.database(), code);
   switch (code) {
     case 0:
-      return TypeOf(entity);
+      out = std::wstring(TypeOf(entity));
+      return;
     case 6:
-      return std::wstring(entity.linetype());
+      out = std::wstring(entity.linetype());
+      return;
     case 8:
-      return std::wstring(entity.layer());
+      out = std::wstring(entity.layer());
+      return;
     case 62:
-      return static_cast<long long>(entity.colorIndex());
+      out = static_cast<long long>(entity.colorIndex());
+      return;
     case 67:
-      return static_cast<long long>(InPaperSpace(entity));
+      out = static_cast<long long>(InPaperSpace(entity));
+      return;
     default:
-      break;
+      entity.dxfOutFields(&group);
+      out = AsKind(std::move(group.value), QvxExport::TypeOfCode(code));
   }
-  OneGroup group(entity.database(), code);
-  entity.dxfOutFields(&group);
-  return AsKind(std::move(group.value), QvxExport::TypeOfCode(code));
 }
 
 bool TEntitySet::Is(const wchar_t* type) const {
   const OpenEntity entity(ObjectId());
-  return entity.Get() && acutWcMatch(TypeOf(*entity.Get()).c_str(), type) == RTNORM;
+  return entity.Get() && acutWcMatch(TypeOf(*entity.Get()), type) == RTNORM;
 }
 
 bool TEntitySet::GetData(int code, wchar_t* out) const {
@@ -144,7 +148,8 @@ bool TEntitySet::GetData(int code, wchar_t* out) const {
   m_groups.SetHead(nullptr);
   const OpenEntity entity(ObjectId());
   if (!entity.Get()) return false;
-  const Value value = GroupOf(*entity.Get(), code);
+  Value value;
+  GroupOf(*entity.Get(), code, value);
   std::wstring text;
   if (const auto* words = std::get_if<std::wstring>(&value)) text = *words;
   if (const auto* number = std::get_if<long long>(&value)) text = std::to_wstring(*number);
@@ -158,9 +163,11 @@ bool TEntitySet::GetData(int code, wchar_t* out) const {
 bool TEntitySet::MatchBase(const TRBList& mask) const {
   const OpenEntity entity(ObjectId());
   if (!entity.Get() || mask.IsEmpty()) return false;
-  for (const TGroups* group = mask.Head(); group; group = group->Next())
-    if (!Fits(*group, GroupOf(*entity.Get(), static_cast<unsigned short>(group->restype))))
-      return false;
+  for (const TGroups* group = mask.Head(); group; group = group->Next()) {
+    Value value;
+    GroupOf(*entity.Get(), static_cast<unsigned short>(group->restype), value);
+    if (!Fits(*group, value)) return false;
+  }
   return true;
 }
 

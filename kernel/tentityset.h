@@ -38,8 +38,9 @@ class QVX_KERNEL TEntitySet {
   bool MatchBase(const TRBList& mask) const;
   void Redraw(int mode) const;  // 3 highlights, 4 takes it back
 
-  static std::wstring TypeOf(const AcDbEntity& entity);
-  static Value GroupOf(const AcDbEntity& entity, int code);
+  // The name that drawing files have for the object's class; lives as long as the object.
+  static const wchar_t* TypeOf(const AcDbEntity& entity);
+  static void GroupOf(const AcDbEntity& entity, int code, Value& out);
 
  private:
   ads_name m_name = {0, 0};

@@ -54,7 +54,7 @@ void CBitmapMenuItemData::Forget() {
 
 CBitmapMenu::~CBitmapMenu() {
   m_items.Clear();
-  DestroyMenu();
+  CMenu::DestroyMenu();
   --s_count;
   --s_alive;
 }

@@ -34,7 +34,9 @@ class OpenedEntity {
 
 GroupValue ReadGroup(const TPickEntSet& set, size_t object, int code) {
   const OpenedEntity entity(set[static_cast<int>(object)]);
-  return entity.Get() ? GroupValue(TEntitySet::GroupOf(*entity.Get(), code)) : GroupValue();
+  GroupValue value;
+  if (entity.Get()) TEntitySet::GroupOf(*entity.Get(), code, value);
+  return value;
 }
 
 bool IsPreviewOffInDrawing() {

@@ -73,7 +73,7 @@ size_t ReadOnly(const TPickEntSet& set) {
   for (int i = 0, count = set.Length(); i < count; ++i) {
     AcDbEntity* entity = nullptr;
     if (acdbOpenObject(entity, set[i].ObjectId(), AcDb::kForRead) != Acad::eOk) continue;
-    units += TEntitySet::TypeOf(*entity).size() + std::wcslen(entity->layer());
+    units += std::wcslen(TEntitySet::TypeOf(*entity)) + std::wcslen(entity->layer());
     entity->close();
   }
   return units;
