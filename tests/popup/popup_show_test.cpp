@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "afxpriv.h"
 #include "kernel/globals.h"
 #include "popup/context_menu_wnd.h"
 #include "popup/describe_popup.h"
@@ -34,6 +35,8 @@ class Rooms : public qvx::ScreenMenuHost {
   int panesUpdated = 0;
 };
 
+std::vector<std::wstring> g_statusTexts;
+
 // Runs at the menu's idle moments: everything is painted and no input waits.
 std::function<void()> g_whenIdle;
 
@@ -41,6 +44,8 @@ LRESULT CALLBACK OnSent(int code, WPARAM wParam, LPARAM lParam) {
   const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
   if (code >= 0 && sent.message == WM_ENTERIDLE && sent.wParam == MSGF_MENU && g_whenIdle)
     g_whenIdle();
+  if (code >= 0 && sent.message == WM_SETMESSAGESTRING && sent.lParam)
+    g_statusTexts.push_back(reinterpret_cast<const wchar_t*>(sent.lParam));
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
@@ -181,13 +186,32 @@ TEST_F(PopupShow, ARowsHelpStandsOnTheStatusLineWhileItIsSelected) {
   AddLine(*common, L"甲", L"A\n")->m_nIconIndex = 0;
   AddLine(*common, L"乙", L"B\n");
   g_hQvxDll = ::GetModuleHandleW(nullptr);
+  g_statusTexts.clear();
   int during = 0;
   Show({Key(VK_DOWN), Step([&] { during = Window().m_bStatusText; })});
   EXPECT_EQ(during, 1);
   EXPECT_EQ(Window().m_bStatusText, 0) << "given back as the loop ends";
+  EXPECT_EQ(g_statusTexts, Words{L"画墙"});
+  Show({Key(VK_DOWN), Key(VK_UP)});
+  EXPECT_EQ(g_statusTexts, (Words{L"画墙", L"画墙", L""})) << "no help clears the line";
   g_hQvxDll = nullptr;
   Show({Key(VK_DOWN), Step([&] { during = Window().m_bStatusText; })});
   EXPECT_EQ(during, 0) << "without an icon library there are no helps";
+}
+
+TEST_F(PopupShow, InRunModeAndInOtherBlocksThereIsNoLineOfRecentCommands) {
+  AddLine(*common, L"甲", L"A\n");
+  g_nRunMode = 1;
+  Show({});
+  EXPECT_EQ(common->Length(), 1);
+  g_nRunMode = 0;
+  common->m_strName = L"Common";
+  Show({});
+  EXPECT_EQ(common->Length(), 1) << "found whatever its case, but not the one of that very name";
+  common->m_strName = L"COMMON";
+  Show({});
+  Show({});
+  EXPECT_EQ(common->Length(), 2);
 }
 
 TEST_F(PopupShow, NoViewNoMenuAtAPointAndNoBlockNoContextMenu) {
