@@ -129,6 +129,14 @@ void CScreenMenu::GetFloatingMinSize(long* width, long* height) {
   *height = qvx::kPaletteLeastHeight;
 }
 
+void CScreenMenu::DropHover() {
+  CWnd* holder = CWnd::FromHandlePermanent(::GetCapture());
+  auto* row = holder ? DYNAMIC_DOWNCAST(CSMenuItem, holder) : nullptr;
+  if (!row) return;
+  row->ClearHover();
+  row->ReleaseMouse();
+}
+
 void CScreenMenu::CloseSilently() {
   m_bCloseHint = 0;
   OnClosing();

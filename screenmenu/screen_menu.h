@@ -36,6 +36,9 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   // A line of a pop-up that this palette built: the command without its leading "*".
   void TailCommand(const wchar_t* text);
 
+  // A row under the pointer gives the mouse back and looks idle.
+  void DropHover();
+
   // The next close says nothing.
   void CloseSilently();
   bool AutoDeletes() const { return m_bAutoDelete != FALSE; }

@@ -16,7 +16,9 @@ TScreenMenuReactor* s_reactor = nullptr;
 // after the last drawing closed comes up enabled.
 void EnableForOnlyDrawing(BOOL enable) {
   if (acDocManagerPtr()->documentCount() != 1) return;
-  if (g_pScreenMenu && g_pScreenMenu->GetSafeHwnd()) g_pScreenMenu->EnableWindow(enable);
+  if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return;
+  g_pScreenMenu->EnableWindow(enable);
+  if (!enable) g_pScreenMenu->DropHover();  // it holds the mouse and would take one more click
 }
 
 }  // namespace

@@ -442,6 +442,22 @@ TEST_F(GroupWindows, ARowPaintsItsGroupsColourAndTheHoverColourUnderThePointer) 
   ::ReleaseCapture();
 }
 
+TEST_F(GroupWindows, TheOpenGroupStandsInASunkenEdgeOfTwoPixels) {
+  AddLine(*AddHeader(bar, L"墙体"), L"行", L"x");
+  AddLine(bar, L"轴网", L"x");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  group.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+  const CRect open = PlaceOf(group.Child(0));
+  const qvx::WindowDc dc(group.m_hWnd, ::GetDCEx(group.m_hWnd, nullptr, DCX_CACHE));
+  const auto at = [&dc](int y) { return ::GetPixel(dc.Get(), 60, y); };
+  EXPECT_EQ(at(open.top - 2), ::GetSysColor(COLOR_BTNSHADOW));
+  EXPECT_EQ(at(open.top - 1), ::GetSysColor(COLOR_3DDKSHADOW));
+  EXPECT_EQ(at(open.bottom), ::GetSysColor(COLOR_3DLIGHT));
+  EXPECT_EQ(at(open.bottom + 1), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+  EXPECT_EQ(at(PlaceOf(group.Row(1)).bottom + 5), g_menuColors[0]);
+}
+
 TEST_F(GroupWindows, AHundredTreesLeaveNoHandleBehind) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   Fill(5);

@@ -317,6 +317,17 @@ TEST_F(Palette, TheFirstDrawingEnablesItAndTheLastOneDisablesIt) {
   EXPECT_EQ(rooms.order, "abcd");
 }
 
+TEST_F(Palette, ARowUnderThePointerLetsGoOfTheMouseWithTheLastDrawing) {
+  ComeUp();
+  Attach();
+  CSMenuItem& row = *Root().Row(2);
+  row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  ASSERT_EQ(::GetCapture(), row.m_hWnd);
+  TScreenMenuReactor().documentToBeDestroyed(nullptr);
+  EXPECT_EQ(::GetCapture(), nullptr);
+  EXPECT_FALSE(row.IsMouseOn());
+}
+
 TEST_F(Palette, ADrawingThatClosesBeforeThePaletteExistsIsNotRemembered) {
   TScreenMenuReactor().documentToBeDestroyed(nullptr);
   ComeUp();
