@@ -74,7 +74,10 @@ TEST_F(QmnCompile, ProductMenusGiveTheSameBytesOnBothBuilds) {
     EXPECT_EQ(Fingerprint(run.out), expected) << name;
     ++menus;
   }
-  EXPECT_EQ(menus, 3);
+  int sources = 0;
+  for (const fs::directory_entry& entry : fs::directory_iterator(ProductFolder()))
+    sources += entry.path().extension() == ".qmn";
+  EXPECT_EQ(menus, sources);
 }
 
 TEST_F(QmnCompile, WritesBesideTheInputUnlessAnOutputIsNamed) {
