@@ -77,6 +77,7 @@ class Shell : public ShellSteps, public StartupSteps, public qvx::ScreenMenuHost
   // ScreenMenuHost.
   TMenuSystem* MenuSystem() override { return m_menus.CurrentSystem(); }
   void ShowMenuAt(TMenuBar& bar, POINT at, UINT flags) override;
+  void ForgetPopups() override;
   void UpdateStatusBar() override;
   const wchar_t* HelpFile() override { return m_helpFile; }
   void WriteDrawingScale() override;

@@ -76,6 +76,9 @@ void Shell::OnMenuReadiness() {
 void Shell::ShowMenuAt(TMenuBar& bar, POINT at, UINT flags) {
   ShowBlockMenu(bar, at.x, at.y, flags);
 }
+void Shell::ForgetPopups() {
+  if (CContextMenuWnd* window = TheContextWindow()) window->ForgetLines();
+}
 void Shell::UpdateStatusBar() { ::UpdateStatusPanes(); }
 void Shell::WriteDrawingScale() { qvx::WriteHatchScale(); }
 void Shell::RefreshDrawingPanes() { ::RefreshDrawingPanes(); }

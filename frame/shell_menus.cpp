@@ -19,7 +19,7 @@ void ShellMenus::AttachToolBar(TMenuSystem& system) {
   CContextMenuWnd* window = TheContextWindow();
   if (!window) return;
   window->m_pToolBar = PrepareToolBar(system);
-  window->MenuWasReplaced();
+  window->ForgetLines();
 }
 
 bool ShellMenus::FindFile(const wchar_t* name, wchar_t* out) {

@@ -71,8 +71,8 @@ int CContextMenuWnd::IsOurMenu(const CMenu* menu) const {
   return 0;
 }
 
-void CContextMenuWnd::MenuWasReplaced() {
-  ++m_menusLoaded;
+void CContextMenuWnd::ForgetLines() {
+  ++m_linesForgotten;
   m_pBar = nullptr;
   for (CBitmapMenu* menu : m_popups)
     for (CBitmapMenuItemData* row : menu->m_items) row->Forget();
@@ -111,7 +111,9 @@ int CContextMenuWnd::Track(TMenuBar& bar, int firstId, CPoint point, UINT flags)
   bool isShown = false;
   {
     const Showing showing(m_isShowing);
-    const auto isMenuGone = [this, before = m_menusLoaded] { return m_menusLoaded != before; };
+    const auto isMenuGone = [this, before = m_linesForgotten] {
+      return m_linesForgotten != before;
+    };
     const PopupPlan plan = PlanPopup(bar, PopupIds::kRunning, firstId,
                                      {&m_lisp, &m_menuSystem, g_hQvxDll != nullptr, isMenuGone});
     isShown = !plan.menus.empty();

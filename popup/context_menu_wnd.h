@@ -43,8 +43,9 @@ class CContextMenuWnd : public CWnd, private PopupOwner {
   // Ends the pop-up of the last time. Not while one is on the screen: it does nothing then.
   void ResetPopups();
   int IsOurMenu(const CMenu* menu) const;
-  // Another menu was loaded: rows that are left lose their lines, and what shows closes.
-  void MenuWasReplaced();
+  // Lines that a pop-up may show are going, because another menu was loaded or the screen menu
+  // goes: rows that are left lose their lines, and what shows closes.
+  void ForgetLines();
 
   BOOL PreTranslateMessage(MSG* message) override;
 
@@ -76,7 +77,7 @@ class CContextMenuWnd : public CWnd, private PopupOwner {
   RecentOpening m_recentOpening;
   qvx::HostLisp m_lisp;
   bool m_isShowing = false;  // from the first question to a LISP function until the menu closes
-  int m_menusLoaded = 0;
+  int m_linesForgotten = 0;
 };
 
 // Makes the one window, or destroys it; g_pContextMenu follows. The steps are needed for making

@@ -28,6 +28,7 @@ END_MESSAGE_MAP()
 CScreenMenu::CScreenMenu() = default;
 
 CScreenMenu::~CScreenMenu() {
+  if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->ForgetPopups();
   m_pTailMenu.reset();
   m_pRootGroup.reset();
   if (::IsWindow(m_hDockBar)) RestoreDockBar();

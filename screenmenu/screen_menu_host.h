@@ -20,6 +20,9 @@ class ScreenMenuHost {
   // the next pop-up. `flags` go to the window system beside its own.
   virtual void ShowMenuAt(TMenuBar& bar, POINT at, UINT flags) = 0;
 
+  // The palette goes with all its lines: a pop-up that shows one of its bars has to let go of it.
+  virtual void ForgetPopups() {}
+
   // A switch was flipped: some panes show the same switches.
   virtual void UpdateStatusBar() = 0;
 

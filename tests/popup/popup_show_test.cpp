@@ -255,10 +255,23 @@ TEST_F(PopupShow, AMenuThatIsReplacedWhileItsPopUpShowsClosesIt) {
   AddLine(*common, L"甲", L"A\n");
   Show({Step([&] {
     System().EmptyLists();
-    Window().MenuWasReplaced();
+    Window().ForgetLines();
   })});
   EXPECT_EQ(Window().m_pBar, nullptr);
   ::SendMessageW(Window().m_hWnd, WM_COMMAND, 2000, 0);
+  EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(PopupShow, APopUpThatIsKeptLetsGoOfLinesThatGo) {
+  auto bar = std::make_unique<TMenuBar>();
+  AddLine(*bar, L"甲", L"A\n");
+  g_whenIdle = [] { ::EndMenu(); };
+  ShowBlockMenu(*bar, 300, 200, 0);
+  Window().ForgetLines();
+  bar.reset();
+  EXPECT_EQ(Window().m_pBar, nullptr);
+  EXPECT_EQ(Window().m_popups.Length(), 0);
+  ::SendMessageW(Window().m_hWnd, WM_COMMAND, 3000, 0);
   EXPECT_TRUE(Sent().empty());
 }
 
