@@ -14,12 +14,16 @@ class PlayDriver {
   PlayDriver();
   ~PlayDriver();  // waits for the thread; the port must still live
 
-  // Reads the script. False when it can't be read: what is wrong is printed on the error stream as
-  // file:line:column, and the program is to end with exit code 2.
-  bool Load(const std::wstring& path);
+  // Reads the script, of which the part behind so many restarts is to be played. False when it
+  // can't be read: what is wrong is printed on the error stream as file:line:column, and the
+  // program is to end with exit code 2.
+  bool Load(const std::wstring& path, int restarts);
 
   // Starts playing. At the end, or at the first failure, the driver calls port.Quit with 0 or 1.
   void Start(UiPort& port);
+
+  // True when the program was asked to end in order to start again and play on.
+  bool WantsRestart() const;
 
  private:
   struct Running;

@@ -32,13 +32,19 @@ std::chrono::milliseconds PlayRunner::PlannedTime(int stepNumber) const {
 int PlayRunner::Play() {
   for (m_step = 0; m_step < static_cast<int>(m_steps.size()); ++m_step) {
     const Step& step = m_steps[static_cast<std::size_t>(m_step)];
-    if (step.kind == StepKind::Quit) return 0;
+    if (step.kind == StepKind::Quit || step.kind == StepKind::Restart) return 0;
     const std::string failure = PlayStep(step);
     if (failure.empty()) continue;
     m_world.Print(Place(m_step) + "\n  " + failure);
     return 1;
   }
   return 0;
+}
+
+bool PlayRunner::EndedInRestart() const {
+  const int step = m_step;
+  return step < static_cast<int>(m_steps.size()) &&
+         m_steps[static_cast<std::size_t>(step)].kind == StepKind::Restart;
 }
 
 std::string PlayRunner::PlayStep(const Step& step) {

@@ -13,8 +13,10 @@ class PlayRunner {
   // `file` is the script's name in messages.
   PlayRunner(std::string file, std::vector<Step> steps, const Journal& journal, PlayWorld& world);
 
-  // 0 when every step went well, otherwise 1; the failure is printed.
+  // 0 when every step went well, otherwise 1; the failure is printed. Stops at `quit` and
+  // `restart`.
   int Play();
+  bool EndedInRestart() const;  // once played
 
   // For the watchdog, from any thread: which step is being played (a running number), and where.
   int StepNumber() const { return m_step; }

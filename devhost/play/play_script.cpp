@@ -116,6 +116,7 @@ class StepReader {
   bool SetVar() { return Assign(StepKind::SetVar); }
   bool Setting() { return Assign(StepKind::Setting); }
   bool Shot() { return Text(StepKind::Shot, "the file"); }
+  bool Restart() { return Is(StepKind::Restart); }
   bool Quit() { return Is(StepKind::Quit); }
 
   static const std::map<std::string_view, Rule>& Rules();
@@ -150,6 +151,7 @@ const std::map<std::string_view, StepReader::Rule>& StepReader::Rules() {
       {"expect", &StepReader::Expect},
       {"dump", &StepReader::Dump},
       {"shot", &StepReader::Shot},
+      {"restart", &StepReader::Restart},
       {"quit", &StepReader::Quit},
   };
   return rules;
@@ -333,6 +335,14 @@ bool ParsePlayScript(std::string_view text, std::vector<Step>* steps, ScriptErro
     if (!ReadLine(line, steps, error)) return false;
   }
   return true;
+}
+
+std::vector<Step> PartOfScript(std::vector<Step> steps, int restarts) {
+  auto begin = steps.begin();
+  for (; restarts > 0 && begin != steps.end(); ++begin)
+    if (begin->kind == StepKind::Restart) --restarts;
+  steps.erase(steps.begin(), begin);
+  return steps;
 }
 
 bool IsExpectation(StepKind kind) {

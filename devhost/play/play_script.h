@@ -42,6 +42,7 @@ enum class StepKind {
   DumpWindows,
   DumpDatabase,
   Shot,
+  Restart,
   Quit,
 };
 
@@ -76,6 +77,10 @@ struct Step {
 
 // Reads UTF-8 text. False with the first error.
 bool ParsePlayScript(std::string_view text, std::vector<Step>* steps, ScriptError* error);
+
+// The program ends at each `restart` and starts again, so each start plays a part: what stands
+// behind the restarts that have been. Empty when the script has fewer.
+std::vector<Step> PartOfScript(std::vector<Step> steps, int restarts);
 
 // Steps that only look; every other step acts on the program.
 bool IsExpectation(StepKind kind);

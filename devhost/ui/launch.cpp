@@ -23,6 +23,7 @@
 #include "main_frame.h"
 #include "module_loader.h"
 #include "remembered_modules.h"
+#include "restart.h"
 #include "right_click_menu.h"
 #include "start_watch.h"
 #include "ui_port_impl.h"
@@ -64,14 +65,14 @@ bool Exists(const std::wstring& path) {
 // The stream that the journal is written to, closed at the end unless it is standard output.
 class JournalFile {
  public:
-  bool Open(const std::wstring& name) {
+  bool Open(const std::wstring& name, bool goesOn) {
     if (name.empty()) return true;
     if (name == L"-") {
       ::_setmode(::_fileno(stdout), _O_BINARY);
       TheJournal().WriteTo(stdout);
       return true;
     }
-    m_stream = ::_wfopen(name.c_str(), L"wb");
+    m_stream = ::_wfopen(name.c_str(), goesOn ? L"ab" : L"wb");
     TheJournal().WriteTo(m_stream);
     return m_stream != nullptr;
   }
@@ -120,7 +121,8 @@ void EndDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
   waiting.join();
 }
 
-int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDriver> driver) {
+int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDriver> driver,
+             bool* again) {
   auto* frame = new MainFrame;  // deletes itself with its window
   app.m_pMainWnd = frame;
   if (!frame->CreateAndShow(HostTitle(options.hostVersion))) return 3;
@@ -132,6 +134,7 @@ int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDri
     OpenDrawings(options.drawings);
     LoadModules(options);
     exitCode = app.Run();
+    *again = driver && driver->WantsRestart();
     EndDriver(port, std::move(driver));
   }
   TheHost().End();
@@ -153,11 +156,10 @@ class OleScope {
   bool m_up;
 };
 
-}  // namespace
-
-int RunDevelopmentHost(const LaunchOptions& options) {
+// One start of the program. `again`: it ended only to be started once more.
+int RunOnce(const LaunchOptions& options, bool* again) {
   JournalFile journal;
-  if (!journal.Open(options.journal)) {
+  if (!journal.Open(options.journal, RestartsBefore() > 0)) {
     std::fprintf(stderr, "devhost: the journal %s can't be written\n",
                  Utf8(options.journal).c_str());
     return 2;
@@ -165,7 +167,7 @@ int RunDevelopmentHost(const LaunchOptions& options) {
   std::unique_ptr<PlayDriver> driver;
   if (!options.script.empty()) {
     driver = std::make_unique<PlayDriver>();
-    if (!driver->Load(options.script)) return 2;
+    if (!driver->Load(options.script, RestartsBefore())) return 2;
   }
   const OleScope ole;
   HostApp app(L"DevHost");
@@ -177,7 +179,7 @@ int RunDevelopmentHost(const LaunchOptions& options) {
   SetRightClickMenu(options.rightClickMenu);
   std::unique_ptr<StartWatch> watch;
   if (!options.startTrace.empty()) watch = std::make_unique<StartWatch>(options.startTrace);
-  int exitCode = RunFrame(options, app, std::move(driver));
+  int exitCode = RunFrame(options, app, std::move(driver), again);
   if (watch && !watch->Write()) {
     std::fprintf(stderr, "devhost: the trace %s can't be written\n",
                  Utf8(options.startTrace).c_str());
@@ -185,6 +187,15 @@ int RunDevelopmentHost(const LaunchOptions& options) {
   }
   AfxWinTerm();
   return exitCode;
+}
+
+}  // namespace
+
+// What the first start left behind must be on its way to disk and registry before the next begins.
+int RunDevelopmentHost(const LaunchOptions& options) {
+  bool again = false;
+  const int exitCode = RunOnce(options, &again);
+  return again && exitCode == 0 ? StartAgain() : exitCode;
 }
 
 }  // namespace devhost

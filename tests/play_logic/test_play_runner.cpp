@@ -76,6 +76,23 @@ TEST_F(PlayTest, StepsRunInOrderUntilQuit) {
   EXPECT_EQ(world.diary, "new; type \"a\"; ");
 }
 
+TEST_F(PlayTest, APartEndsAtItsRestart) {
+  const auto endsInRestart = [this](const std::string& script, int exitCode) {
+    std::vector<Step> steps;
+    ScriptError error;
+    EXPECT_TRUE(ParsePlayScript(script, &steps, &error));
+    PlayRunner runner("t.script", steps, journal, world);
+    EXPECT_EQ(runner.Play(), exitCode) << script;
+    return runner.EndedInRestart();
+  };
+  EXPECT_TRUE(endsInRestart("new\nrestart\nclose\n", 0));
+  EXPECT_EQ(world.diary, "new; ");
+  EXPECT_FALSE(endsInRestart("new\nquit\nrestart\n", 0));
+  EXPECT_FALSE(endsInRestart("new\n", 0));
+  world.problems["close"] = "there is no drawing";
+  EXPECT_FALSE(endsInRestart("close\nrestart\n", 1));
+}
+
 TEST_F(PlayTest, TheFirstFailureStopsThePlayAndIsPrintedWithItsLine) {
   world.problems["close"] = "there is no drawing";
   EXPECT_EQ(Play("new\n\nclose\nnew\n"), 1);

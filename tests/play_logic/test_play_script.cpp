@@ -75,9 +75,25 @@ TEST(PlayScript, EveryVerbHasItsKind) {
       {"dump windows", StepKind::DumpWindows},
       {"dump database", StepKind::DumpDatabase},
       {"shot \"a.png\"", StepKind::Shot},
+      {"restart", StepKind::Restart},
       {"quit", StepKind::Quit},
   };
   for (const auto& [text, kind] : verbs) EXPECT_EQ(OneStep(text).kind, kind) << text;
+}
+
+TEST(PlayScript, EachStartPlaysWhatStandsBehindTheRestartsThatHaveBeen) {
+  std::vector<Step> steps;
+  ScriptError error;
+  ASSERT_TRUE(ParsePlayScript("new\nrestart\nclose\nwait 1\nrestart\nwait 2\n", &steps, &error));
+  const auto lines = [&](int restarts) {
+    std::vector<int> found;
+    for (const Step& step : PartOfScript(steps, restarts)) found.push_back(step.line);
+    return found;
+  };
+  EXPECT_EQ(lines(0), (std::vector<int>{1, 2, 3, 4, 5, 6}));
+  EXPECT_EQ(lines(1), (std::vector<int>{3, 4, 5, 6}));
+  EXPECT_EQ(lines(2), (std::vector<int>{6}));
+  EXPECT_EQ(lines(3), (std::vector<int>{}));
 }
 
 TEST(PlayScript, TargetsKeepLabelsHandlesAndPoints) {

@@ -1,6 +1,7 @@
 // The driver's thread: reads the script, plays it, ends the program.
 #include "devhost/play/play_driver.h"
 
+#include <atomic>
 #include <cstdio>
 #include <thread>
 
@@ -44,6 +45,7 @@ struct PlayDriver::Running {
   std::vector<Step> steps;
   std::unique_ptr<DriverWorld> world;
   std::thread thread;
+  std::atomic<bool> wantsRestart{false};
 
   void Play(UiPort& port) {
     world->BringToFront();
@@ -53,6 +55,7 @@ struct PlayDriver::Running {
       const PlayWatchdog watchdog(runner, world->Frame());
       exitCode = runner.Play();
     }
+    wantsRestart = runner.EndedInRestart();
     world->CloseMenus();
     port.OnMainThread([&] { port.Quit(exitCode); });
     AwaitEnd();
@@ -75,7 +78,7 @@ PlayDriver::~PlayDriver() {
   m_running->thread.join();
 }
 
-bool PlayDriver::Load(const std::wstring& path) {
+bool PlayDriver::Load(const std::wstring& path, int restarts) {
   auto running = std::make_unique<Running>();
   running->file = Utf8(path);
   std::string text, problem;
@@ -88,9 +91,12 @@ bool PlayDriver::Load(const std::wstring& path) {
     Complain(ScriptErrorText(running->file, error));
     return false;
   }
+  running->steps = PartOfScript(std::move(running->steps), restarts);
   m_running = std::move(running);
   return true;
 }
+
+bool PlayDriver::WantsRestart() const { return m_running && m_running->wantsRestart; }
 
 void PlayDriver::Start(UiPort& port) {
   if (!m_running || m_running->thread.joinable()) return;
