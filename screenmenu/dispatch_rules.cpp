@@ -13,9 +13,14 @@ ClickKind DecideClick(const TMenuItem& line) {
 
 bool IsBusy(const HostActivity& host) { return host.active != 0 || !host.names.IsEmpty(); }
 
-SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp) {
-  if (!lisp.Call(line.m_pSwitch->m_strSetFn).called) return SwitchResult::kRefused;
-  const TSwitchStateItem* state = AskSwitch(line, lisp);
+// The name is copied: what the function does to the line is not known.
+SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch) {
+  const TWCString set(line.m_pSwitch->m_strSetFn);
+  const bool isSet = lisp.Call(set).called;
+  if (watch.IsGone()) return SwitchResult::kGone;
+  if (!isSet) return SwitchResult::kRefused;
+  const TSwitchStateItem* state = AskSwitch(line, lisp, watch);
+  if (watch.IsGone()) return SwitchResult::kGone;
   if (!state) return SwitchResult::kUnknown;
   CopyState(*state, line);
   return SwitchResult::kChanged;

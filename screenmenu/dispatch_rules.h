@@ -5,6 +5,7 @@
 
 #include "menu/menu_model.h"
 #include "screenmenu/lisp_caller.h"
+#include "screenmenu/menu_watch.h"
 
 namespace qvx {
 
@@ -32,9 +33,10 @@ enum class SwitchResult {
   kRefused,  // the set function failed: nothing else happens
   kUnknown,  // flipped, but the state could not be read: the caption stays
   kChanged,  // the line shows the new state
+  kGone,     // a function replaced the menu: the line is no more, nor is the row that was clicked
 };
 // Runs the set function, then reads the state into the line. Busy hosts are the caller's to refuse.
-SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp);
+SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch = {});
 
 // One command text or none. A click overwrites what waits, so there is never more than one.
 class PendingCommand {

@@ -6,6 +6,7 @@
 #include "afxwin.h"
 #include "menu/menu_model.h"
 #include "screenmenu/lisp_caller.h"
+#include "screenmenu/menu_watch.h"
 
 class CMenuGroup;
 
@@ -14,6 +15,8 @@ class GroupOwner {
   virtual ~GroupOwner() = default;
 
   virtual qvx::LispCaller& Lisp() = 0;
+  // Over the lines, the rows that show them and this owner: any LISP call may end them all.
+  virtual qvx::MenuWatch Watch() const = 0;
   virtual const TMenuSystem* MenuSystem() = 0;  // null with no context window
   // Kept for the palette's life; null when the bitmap did not load.
   virtual HBITMAP Arrow(int depth, bool open) = 0;

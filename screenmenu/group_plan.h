@@ -43,6 +43,7 @@ struct TreeRequest {
   int rememberedOpen;  // the root's open index as the settings keep it
   int clientHeight;    // of the root's window
 };
+// Null when a LISP function replaced the menu: bar and lines are gone then.
 std::unique_ptr<GroupPlan> PlanTree(TMenuBar& bar, const TreeRequest& request);
 
 // Where a cursor sent to `index` comes to rest in a list of `count` slots.

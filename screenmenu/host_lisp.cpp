@@ -15,10 +15,31 @@ LispAnswer::Kind KindOf(int restype) {
   return restype == RTT ? LispAnswer::Kind::kTrue : LispAnswer::Kind::kOther;
 }
 
+// A function that loads the menu whose lines call it would go on for ever: each new tree asks it
+// again. Calls inside so many others are not made; their lines show what a failing function shows.
+class Nesting {
+ public:
+  Nesting() { ++Depth(); }
+  ~Nesting() { --Depth(); }
+  Nesting(const Nesting&) = delete;
+  Nesting& operator=(const Nesting&) = delete;
+
+  bool IsTooDeep() const { return Depth() > kDeepest; }
+
+ private:
+  static constexpr int kDeepest = 8;
+  static int& Depth() {
+    static int s_depth = 0;  // over all callers of the host's one thread
+    return s_depth;
+  }
+};
+
 }  // namespace
 
 LispAnswer HostLisp::Call(const wchar_t* function) {
+  const Nesting nesting;
   LispAnswer answer;
+  if (nesting.IsTooDeep()) return answer;
   resbuf* call = acutBuildList(RTSTR, function, RTNONE);
   if (!call) return answer;
   resbuf* result = nullptr;

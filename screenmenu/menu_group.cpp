@@ -13,7 +13,8 @@ constexpr int kEdgeReach = 2;      // the sunken edge around an open group
 
 qvx::TreeRequest RequestTree(GroupOwner& owner, bool limitHeight, int clientHeight) {
   qvx::TreeRequest request{};
-  request.sources = {&owner.Lisp(), owner.MenuSystem(), g_hQvxDll != nullptr, g_iMenuRowHeight};
+  request.sources = {&owner.Lisp(), owner.MenuSystem(), g_hQvxDll != nullptr, g_iMenuRowHeight,
+                     owner.Watch()};
   request.limitHeight = limitHeight;
   request.openFirst = g_bDefaultOpenFirst != 0;
   request.rememberedOpen = request.openFirst ? qvx::kNothingOpen : qvx::LoadActiveSubMenu();
@@ -35,6 +36,7 @@ CMenuGroup::CMenuGroup(TMenuBar* bar, const CRect& rect, CWnd* parent, UINT id, 
                        GroupOwner* owner)
     : m_pBar(bar), m_pOwner(owner) {
   const auto plan = qvx::PlanTree(*bar, RequestTree(*owner, limitHeight, rect.Height()));
+  if (!plan) return;  // the menu went meanwhile, and so did the owner
   Build(*plan, rect, parent, id);
   LayoutGroup();
 }
@@ -132,15 +134,23 @@ void CMenuGroup::ShowOpenChild(bool show) {
 }
 
 // The list's cursor is the open index: children are reached by node, so that it stays where it is.
-void CMenuGroup::RefreshSwitches() {
-  for (CSMenuItem* row : m_items)
-    if (row->Line()->m_pSwitch) RefreshSwitch(*row);
-  for (auto* node = m_children.FirstNode(); node; node = m_children.NextNode(node))
-    if (node->value) node->value->RefreshSwitches();
+void CMenuGroup::RefreshSwitches() { RefreshWatched(m_pOwner->Watch()); }
+
+// Ends at once when the menu goes: this group is gone too then.
+void CMenuGroup::RefreshWatched(const qvx::MenuWatch& watch) {
+  for (CSMenuItem* row : m_items) {
+    if (row->Line()->m_pSwitch) RefreshSwitch(*row, watch);
+    if (watch.IsGone()) return;
+  }
+  for (auto* node = m_children.FirstNode(); node; node = m_children.NextNode(node)) {
+    if (node->value) node->value->RefreshWatched(watch);
+    if (watch.IsGone()) return;
+  }
 }
 
-void CMenuGroup::RefreshSwitch(CSMenuItem& row) {
-  if (qvx::RefreshSwitchLine(*row.Line(), m_pOwner->Lisp()) && row.GetSafeHwnd()) row.ShowState();
+void CMenuGroup::RefreshSwitch(CSMenuItem& row, const qvx::MenuWatch& watch) {
+  if (qvx::RefreshSwitchLine(*row.Line(), m_pOwner->Lisp(), watch) && row.GetSafeHwnd())
+    row.ShowState();
 }
 
 void CMenuGroup::OnPaint() {

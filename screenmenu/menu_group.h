@@ -14,7 +14,8 @@ class CMenuGroup : public CWnd {
   DECLARE_DYNAMIC(CMenuGroup)
  public:
   // Bar and owner outlive the group. The tree below the bar is planned and built here, unseen; the
-  // caller shows the root when it stands.
+  // caller shows the root when it stands. With the owner's menu gone meanwhile the group is empty,
+  // good for nothing but to be deleted.
   CMenuGroup(TMenuBar* bar, const CRect& rect, CWnd* parent, UINT id, bool limitHeight,
              GroupOwner* owner);
   ~CMenuGroup() override;
@@ -74,7 +75,8 @@ class CMenuGroup : public CWnd {
   void ShowOpenChild(bool show);
   int FindRow(UINT ctrlId) const;  // -1 when no button of this group has it
   void ClickSwitch(CSMenuItem& row);
-  void RefreshSwitch(CSMenuItem& row);
+  void RefreshWatched(const qvx::MenuWatch& watch);
+  void RefreshSwitch(CSMenuItem& row, const qvx::MenuWatch& watch);
 
   TMenuBar* m_pBar;                // not owned
   TDPtrList<CSMenuItem> m_items;   // one for each line, in line order

@@ -34,15 +34,17 @@ int CMenuGroup::FindRow(UINT ctrlId) const {
   return -1;
 }
 
-// A switch gives way to a running command, while a command row would cancel it.
+// A switch gives way to a running command, while a command row would cancel it. One that loads
+// another menu ends this group: the new tree has asked for all states by then.
 void CMenuGroup::ClickSwitch(CSMenuItem& row) {
   if (m_pOwner->IsHostBusy()) {
     m_pOwner->ReportBusy();
     return;
   }
   row.ReleaseMouse();
-  const qvx::SwitchResult result = qvx::FlipSwitch(*row.Line(), m_pOwner->Lisp());
-  if (result == qvx::SwitchResult::kRefused) return;
+  const qvx::SwitchResult result =
+      qvx::FlipSwitch(*row.Line(), m_pOwner->Lisp(), m_pOwner->Watch());
+  if (result == qvx::SwitchResult::kGone || result == qvx::SwitchResult::kRefused) return;
   if (result == qvx::SwitchResult::kChanged) {
     row.SetBitmaps(nullptr, nullptr, 0, 0);
     row.ShowState();

@@ -13,6 +13,12 @@ const TMenuResItem* ResourceOfLine(const TMenuItem& line, const TMenuSystem* sys
   return resources.IsValidIndex(line.m_nIconIndex) ? resources.At(line.m_nIconIndex) : nullptr;
 }
 
+// The name is copied: what the function does to the line is not known.
+LispAnswer Ask(LispCaller& lisp, const TWCString& function) {
+  const TWCString name(function);
+  return lisp.Call(name);
+}
+
 void PlanIcon(const TMenuItem& line, const RowSources& sources, RowPlan& plan) {
   const wchar_t* bitmap = IconOfLine(line, sources);
   plan.image = bitmap ? RowImage::kFromLibrary : RowImage::kNone;
@@ -26,7 +32,8 @@ RowPlan PlanRow(TMenuItem& line, const RowSources& sources) {
   if (line.m_pSubMenu) {
     plan.image = RowImage::kArrow;
   } else if (line.m_pSwitch) {
-    const TSwitchStateItem* state = AskSwitch(line, *sources.lisp);
+    const TSwitchStateItem* state = AskSwitch(line, *sources.lisp, sources.watch);
+    if (sources.watch.IsGone()) return {};
     if (state) CopyState(*state, line);
     plan.enabled = state != nullptr;
     PlanIcon(line, sources, plan);
@@ -36,10 +43,13 @@ RowPlan PlanRow(TMenuItem& line, const RowSources& sources) {
     return plan;
   } else if (line.m_nFlags & TMenuItem::kHasCheckFn) {
     plan.enabled = IsLineEnabled(line, *sources.lisp);
-    const bool checked = GivesTrue(sources.lisp->Call(line.m_strCheckFn));
+    if (sources.watch.IsGone()) return {};
+    const bool checked = GivesTrue(Ask(*sources.lisp, line.m_strCheckFn));
+    if (sources.watch.IsGone()) return {};
     plan.image = checked ? RowImage::kCheckMark : RowImage::kNone;
   } else {
     plan.enabled = IsLineEnabled(line, *sources.lisp);
+    if (sources.watch.IsGone()) return {};
     PlanIcon(line, sources, plan);
   }
   plan.caption = line.m_strLabel;
@@ -49,11 +59,12 @@ RowPlan PlanRow(TMenuItem& line, const RowSources& sources) {
 bool IsLineEnabled(const TMenuItem& line, LispCaller& lisp) {
   if (line.m_strCommand.IsEmpty()) return false;
   if (!(line.m_nFlags & TMenuItem::kHasGrayFn)) return true;
-  return !GivesTrue(lisp.Call(line.m_strGrayFn));
+  return !GivesTrue(Ask(lisp, line.m_strGrayFn));
 }
 
-TSwitchStateItem* AskSwitch(const TMenuItem& line, LispCaller& lisp) {
-  const LispAnswer answer = lisp.Call(line.m_pSwitch->m_strGetFn);
+TSwitchStateItem* AskSwitch(const TMenuItem& line, LispCaller& lisp, const MenuWatch& watch) {
+  const LispAnswer answer = Ask(lisp, line.m_pSwitch->m_strGetFn);
+  if (watch.IsGone()) return nullptr;
   return GivesNumber(answer) ? line.m_pSwitch->FindState(answer.number) : nullptr;
 }
 
@@ -63,8 +74,8 @@ void CopyState(const TSwitchStateItem& state, TMenuItem& line) {
   line.m_nIconIndex = state.m_nIconIndex;
 }
 
-bool RefreshSwitchLine(TMenuItem& line, LispCaller& lisp) {
-  const TSwitchStateItem* state = AskSwitch(line, lisp);
+bool RefreshSwitchLine(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch) {
+  const TSwitchStateItem* state = AskSwitch(line, lisp, watch);
   if (!state || state->m_nIconIndex == line.m_nIconIndex) return false;
   CopyState(*state, line);
   return true;

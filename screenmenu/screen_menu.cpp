@@ -35,12 +35,15 @@ CScreenMenu::~CScreenMenu() {
 }
 
 // A second menu on the same palette keeps the rows of the first, since nothing rebuilds a tree in
-// place; the lines that they show have to stay.
+// place; the lines that they show have to stay. With no rows yet, because a LISP function loads it
+// while the first one's are planned, the second takes its place.
 void CScreenMenu::TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title) {
-  if (m_pRootGroup && m_rootItem.m_pSubMenu)
+  if (m_pRootGroup && m_rootItem.m_pSubMenu) {
     m_pastBars.emplace_back(m_rootItem.m_pSubMenu);
-  else
+  } else {
+    m_bar.Clear();
     TMenuBar::Delete(m_rootItem.m_pSubMenu);
+  }
   m_rootItem.m_strLabel = title;
   m_rootItem.m_pSubMenu = bar.release();
   m_bar.BackTo(&m_rootItem);
@@ -49,16 +52,27 @@ void CScreenMenu::TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* ti
 
 void AttachScreenBar(TMenuSystem& system) {
   std::unique_ptr<TMenuBar> bar = qvx::DetachScreenBar(system);
+  if (g_pScreenMenu) g_pScreenMenu->MenuWasLoaded();
   if (bar && g_pScreenMenu) g_pScreenMenu->TakeScreenBar(std::move(bar), qvx::RootTitle(system));
 }
 
-// The tree is built hidden and shown once, whole.
+void CScreenMenu::MenuWasLoaded() {
+  m_menuLife.Renew();
+  if (m_rootItem.m_pSubMenu) qvx::DropSwitches(*m_rootItem.m_pSubMenu);
+}
+
+// The tree is built hidden and shown once, whole. A LISP function of the menu may load another one
+// or take the palette down meanwhile: what was begun is dropped then, and this object may be gone.
 void CScreenMenu::EnsureRootGroup() {
   CRect used;
   GetUsedRect(used);
   if (m_pRootGroup) return;
   const CRect place(qvx::FirstRootGroup(used, IsFloating() != FALSE));
-  m_pRootGroup.reset(new CMenuGroup(&m_bar, place, this, kRootGroupId, g_bLimitHeight == 1, this));
+  const qvx::MenuWatch watch = Watch();
+  std::unique_ptr<CMenuGroup> tree(
+      new CMenuGroup(&m_bar, place, this, kRootGroupId, g_bLimitHeight == 1, this));
+  if (watch.IsGone()) return;
+  m_pRootGroup = std::move(tree);
   if (m_pRootGroup->GetSafeHwnd()) m_pRootGroup->ShowWindow(SW_SHOW);
 }
 

@@ -29,6 +29,9 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   void TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title);
   void EnsureRootGroup();
 
+  // A menu was loaded, whatever is in it: the switches of the one before are gone.
+  void MenuWasLoaded();
+
   int StepBack();  // 1 if it stepped, 0 when nothing was entered
   TMenuBar* RootBar() const { return m_bar.RootBar(); }
   CMenuGroup* RootGroup() const { return m_pRootGroup.get(); }
@@ -60,6 +63,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
 
  private:
   qvx::LispCaller& Lisp() override { return m_lisp; }
+  qvx::MenuWatch Watch() const override { return m_menuLife.Watch(); }
   const TMenuSystem* MenuSystem() override;
   HBITMAP Arrow(int depth, bool open) override;
   HBITMAP Icon(const wchar_t* name) override;
@@ -107,6 +111,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   WNDPROC m_pfnDockBarProc = nullptr;        // its own procedure
 
   qvx::HostLisp m_lisp;
+  qvx::MenuLife m_menuLife;
   qvx::OwnedBitmap m_arrows[qvx::kArrowKinds][2];    // folded, open; loaded at first use
   std::map<std::wstring, qvx::OwnedBitmap> m_icons;  // by name, null for one that did not load
 };

@@ -1,6 +1,8 @@
 // See screen_menu_bar.h.
 #include "screenmenu/screen_menu_bar.h"
 
+#include <vector>
+
 TScreenMenuBar::TScreenMenuBar() : m_stack(false) { SetOwnsElements(false); }
 
 TScreenMenuBar::~TScreenMenuBar() { m_stack.Clear(); }
@@ -55,6 +57,19 @@ std::unique_ptr<TMenuBar> DetachScreenBar(TMenuSystem& system) {
     if (system.At(i)->m_strName.EqualsNoCase(L"SCREEN"))
       return std::unique_ptr<TMenuBar>(system.Detach(i));
   return nullptr;
+}
+
+// Over a list on the heap: files may nest sub-menus without bound.
+void DropSwitches(TMenuBar& bar) {
+  std::vector<TMenuBar*> bars{&bar};
+  while (!bars.empty()) {
+    TMenuBar& next = *bars.back();
+    bars.pop_back();
+    for (TMenuItem* line : next) {
+      line->m_pSwitch = nullptr;
+      if (line->m_pSubMenu) bars.push_back(line->m_pSubMenu);
+    }
+  }
 }
 
 const wchar_t* RootTitle(const TMenuSystem& system) {

@@ -47,6 +47,10 @@ namespace qvx {
 // and nothing changed, when there is none.
 std::unique_ptr<TMenuBar> DetachScreenBar(TMenuSystem& system);
 
+// Takes the switches from the lines of a bar and of all below it, because they are gone: rows that
+// still show such lines keep their captions and do nothing more.
+void DropSwitches(TMenuBar& bar);
+
 // What the root line is called: the menu's title, or the product's usual name without one.
 const wchar_t* RootTitle(const TMenuSystem& system);
 

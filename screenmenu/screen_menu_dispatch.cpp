@@ -28,10 +28,12 @@ bool CScreenMenu::IsHostBusy() { return qvx::IsBusy(qvx::AskHostActivity()); }
 
 void CScreenMenu::ReportBusy() { AfxMessageBox(L"有命令未完成"); }
 
-// Status panes show some of the same switches, and other rows may be on the same one.
+// Status panes show some of the same switches, and other rows may be on the same one. The panes ask
+// LISP functions too, which may end this palette.
 void CScreenMenu::SwitchWasFlipped() {
+  const qvx::MenuWatch watch = Watch();
   if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->UpdateStatusBar();
-  if (m_pRootGroup) m_pRootGroup->RefreshSwitches();
+  if (!watch.IsGone() && m_pRootGroup) m_pRootGroup->RefreshSwitches();
 }
 
 // The same decision for buttons directly on the palette. Nothing places any, so in use the base's
@@ -80,7 +82,7 @@ void CScreenMenu::FlipDirectly(CSMenuItem& item) {
     return;
   }
   item.ReleaseMouse();
-  if (qvx::FlipSwitch(*item.Line(), m_lisp) != qvx::SwitchResult::kChanged) return;
+  if (qvx::FlipSwitch(*item.Line(), m_lisp, Watch()) != qvx::SwitchResult::kChanged) return;
   item.SetBitmaps(nullptr, nullptr, 0, 0);
   item.ShowState();
   item.Invalidate();

@@ -2,6 +2,7 @@
 // of the screen menu's logic.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -16,6 +17,7 @@ class FakeLisp : public qvx::LispCaller {
  public:
   qvx::LispAnswer Call(const wchar_t* function) override {
     diary.push_back(function);
+    if (const auto act = actions.find(function); act != actions.end()) act->second();
     const auto found = answers.find(function);
     return found == answers.end() ? qvx::LispAnswer{} : found->second;
   }
@@ -31,6 +33,7 @@ class FakeLisp : public qvx::LispCaller {
   void Fail(const wchar_t* function) { answers.erase(function); }
 
   std::map<std::wstring, qvx::LispAnswer> answers;
+  std::map<std::wstring, std::function<void()>> actions;  // what a function does before it answers
   std::vector<std::wstring> diary;
 };
 

@@ -17,6 +17,7 @@ namespace fixture {
 class Diary : public GroupOwner {
  public:
   qvx::LispCaller& Lisp() override { return lisp; }
+  qvx::MenuWatch Watch() const override { return life.Watch(); }
   const TMenuSystem* MenuSystem() override { return &system; }
   HBITMAP Arrow(int depth, bool open) override {
     return reinterpret_cast<HBITMAP>(
@@ -43,6 +44,7 @@ class Diary : public GroupOwner {
   void Note(const std::wstring& what) { notes.push_back(what); }
 
   FakeLisp lisp;
+  qvx::MenuLife life;
   TMenuSystem system;
   bool busy = false;
   CPoint menuAt;
