@@ -2,12 +2,16 @@
 
 #include "acdocman.h"
 #include "kernel/globals.h"
+#include "kernel/recent_drawings.h"
 
 namespace {
 
 class CurrentDrawingReactor : public AcApDocManagerReactor {
  public:
-  void documentBecameCurrent(AcApDocument*) override { DocStatus(); }
+  void documentBecameCurrent(AcApDocument* document) override {
+    DocStatus();
+    if (document && g_bAutoOpenRecent) NoteRecentDrawing(g_sRecentFiles, document->fileName());
+  }
   void documentToBeDestroyed(AcApDocument* document) override {
     if (document->database() == QvxGeLib::g_pCurrentDb) QvxGeLib::g_pCurrentDb = nullptr;
   }

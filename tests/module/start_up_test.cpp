@@ -1,4 +1,6 @@
 // What the timers of the context window finish after the load, and what each drawing is told.
+#include <algorithm>
+
 #include "devhost/ui/message_pump.h"
 #include "tests/module/module_test.h"
 
@@ -128,7 +130,10 @@ TEST_F(StartUp, RecentFilesAreReopenedOneAFiring) {
   EXPECT_EQ(Titles(), L"a.dxf b.dxf ");
   EXPECT_FALSE(StopTimer(10)) << "with nothing left it stops itself";
   ASSERT_TRUE(UnloadModule());
-  EXPECT_EQ(TextOf(L"Settings", L"g_sRecentFiles"), L"") << "the list is used up";
+  const std::wstring next = TextOf(L"Settings", L"g_sRecentFiles");
+  EXPECT_EQ(std::count(next.begin(), next.end(), L','), 2) << "what was reopened is noted anew";
+  EXPECT_EQ(next.find(L"missing"), next.npos);
+  EXPECT_TRUE(next.ends_with(L"\\b.dxf,")) << devhost::Utf8(next);
 }
 
 TEST_F(StartUp, WithNoRecentFileThatIsThereNoTimerStarts) {
