@@ -22,6 +22,11 @@ std::string PlayRunner::Place(int stepNumber) const {
   return m_file + ":" + std::to_string(step.line) + ": " + step.source;
 }
 
+int PlayRunner::Line(int stepNumber) const {
+  if (stepNumber < 0 || stepNumber >= static_cast<int>(m_steps.size())) return 0;
+  return m_steps[static_cast<std::size_t>(stepNumber)].line;
+}
+
 std::chrono::milliseconds PlayRunner::PlannedTime(int stepNumber) const {
   if (stepNumber < 0 || stepNumber >= static_cast<int>(m_steps.size())) return {};
   const Step& step = m_steps[static_cast<std::size_t>(stepNumber)];

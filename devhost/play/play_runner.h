@@ -21,6 +21,7 @@ class PlayRunner {
   // For the watchdog, from any thread: which step is being played (a running number), and where.
   int StepNumber() const { return m_step; }
   std::string Place(int stepNumber) const;                      // "file:line: source"
+  int Line(int stepNumber) const;                               // 0: there is no such step
   std::chrono::milliseconds PlannedTime(int stepNumber) const;  // that the script itself asks for
 
  private:

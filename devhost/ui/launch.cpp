@@ -167,7 +167,7 @@ int RunOnce(const LaunchOptions& options, bool* again) {
   std::unique_ptr<PlayDriver> driver;
   if (!options.script.empty()) {
     driver = std::make_unique<PlayDriver>();
-    if (!driver->Load(options.script, RestartsBefore())) return 2;
+    if (!driver->Load({options.script, RestartsBefore(), options.longestWait})) return 2;
   }
   const OleScope ole;
   HostApp app(L"DevHost");

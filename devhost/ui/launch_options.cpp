@@ -18,6 +18,14 @@ bool TakeVersion(const std::wstring& text, double* out) {
   return true;
 }
 
+bool TakeSeconds(const std::wstring& text, std::optional<double>* out) {
+  wchar_t* end = nullptr;
+  const double value = std::wcstod(text.c_str(), &end);
+  if (end == text.c_str() || *end != 0 || !(value >= 0 && value <= 60)) return false;
+  *out = value;
+  return true;
+}
+
 class Reader {
  public:
   Reader(const std::vector<std::wstring>& words, LaunchOptions* out) : m_words(words), m_out(out) {}
@@ -61,7 +69,7 @@ class Reader {
 
   static bool IsKnown(const std::wstring& name) {
     for (const wchar_t* known : {L"--product", L"--host-version", L"--profile", L"--arx", L"--play",
-                                 L"--journal", L"--trace-start"})
+                                 L"--journal", L"--trace-start", L"--longest-wait"})
       if (name == known) return true;
     return false;
   }
@@ -70,6 +78,9 @@ class Reader {
     if (name == L"--host-version")
       return TakeVersion(value, &m_out->hostVersion) ||
              Fail(L"--host-version takes a release number such as 24.0, not " + value);
+    if (name == L"--longest-wait")
+      return TakeSeconds(value, &m_out->longestWait) ||
+             Fail(L"--longest-wait takes seconds from 0 to 60, not " + value);
     if (name == L"--arx") {
       m_out->modules.push_back(value);
       return true;
@@ -105,7 +116,7 @@ bool ParseLaunchOptions(const std::vector<std::wstring>& words, LaunchOptions* o
 const wchar_t* LaunchUsage() {
   return L"usage: devhost [--product DIR] [--host-version 24.0] [--profile NAME] [--arx FILE]...\n"
          L"               [--play SCRIPT] [--journal FILE|-] [--trace-start FILE.json]\n"
-         L"               [--right-click-menu] [DRAWING.dxf ...]\n"
+         L"               [--longest-wait SECONDS] [--right-click-menu] [DRAWING.dxf ...]\n"
          L"       devhost --doctor [--product DIR] [--host-version 24.0] [--profile NAME] [--arx "
          L"FILE]\n"
          L"               every setting, where it comes from and what it does; starts nothing\n";

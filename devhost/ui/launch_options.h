@@ -2,6 +2,7 @@
 // checked for existence here, so that wrong usage is told before any window appears.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@ struct LaunchOptions {
   std::wstring profile = L"default";
   std::vector<std::wstring> modules;  // --arx, in order; empty: the product beside the program
   std::wstring script;                // --play
+  std::optional<double> longestWait;  // --longest-wait, seconds: a play that waits longer fails
   std::wstring journal;               // "-" is standard output; empty: none
   std::wstring startTrace;            // --trace-start: written at the end; empty: none
   std::vector<std::wstring> drawings;

@@ -29,14 +29,32 @@ TEST(LaunchOptions, NoWordsGiveTheDefaults) {
   EXPECT_EQ(o.profile, L"default");
   EXPECT_FALSE(o.rightClickMenu);
   EXPECT_TRUE(o.startTrace.empty());
+  EXPECT_FALSE(o.longestWait);
   EXPECT_TRUE(o.modules.empty() && o.drawings.empty() && o.script.empty() && o.journal.empty());
 }
 
 TEST(LaunchOptions, EveryOptionLandsInItsField) {
-  const LaunchOptions o =
-      Parsed({L"--product", L"p", L"--host-version", L"18.2", L"--profile", L"q", L"--arx",
-              L"a.arx", L"--arx", L"b.arx", L"--play", L"s", L"--journal", L"-", L"--trace-start",
-              L"t.json", L"--right-click-menu", L"x.dxf", L"y.dxf"});
+  const LaunchOptions o = Parsed({L"--product",
+                                  L"p",
+                                  L"--host-version",
+                                  L"18.2",
+                                  L"--profile",
+                                  L"q",
+                                  L"--arx",
+                                  L"a.arx",
+                                  L"--arx",
+                                  L"b.arx",
+                                  L"--play",
+                                  L"s",
+                                  L"--journal",
+                                  L"-",
+                                  L"--trace-start",
+                                  L"t.json",
+                                  L"--longest-wait",
+                                  L"0.5",
+                                  L"--right-click-menu",
+                                  L"x.dxf",
+                                  L"y.dxf"});
   EXPECT_EQ(o.productFolder, L"p");
   EXPECT_EQ(o.hostVersion, 18.2);
   EXPECT_EQ(o.profile, L"q");
@@ -44,6 +62,7 @@ TEST(LaunchOptions, EveryOptionLandsInItsField) {
   EXPECT_EQ(o.script, L"s");
   EXPECT_EQ(o.journal, L"-");
   EXPECT_EQ(o.startTrace, L"t.json");
+  EXPECT_EQ(o.longestWait, 0.5);
   EXPECT_TRUE(o.rightClickMenu);
   EXPECT_EQ(o.drawings, (Words{L"x.dxf", L"y.dxf"}));
 }
@@ -65,6 +84,9 @@ TEST(LaunchOptions, MistakesAreToldWithTheWordThatIsWrong) {
             L"--host-version takes a release number such as 24.0, not new");
   EXPECT_EQ(ErrorOf({L"--host-version", L"3"}),
             L"--host-version takes a release number such as 24.0, not 3");
+  for (const wchar_t* wrong : {L"long", L"0.5s", L"-1", L"61", L"nan"})
+    EXPECT_EQ(ErrorOf({L"--longest-wait", wrong}),
+              std::wstring(L"--longest-wait takes seconds from 0 to 60, not ") + wrong);
   EXPECT_EQ(ErrorOf({L""}), L"a drawing has an empty name");
 }
 

@@ -8,6 +8,7 @@
 #include "afx.h"
 #include "devhost/core/journal.h"
 #include "devhost/play/win/driver_world.h"
+#include "devhost/play/win/message_probe.h"
 #include "devhost/play/win/watchdog.h"
 
 namespace devhost {
@@ -33,7 +34,7 @@ bool ReadWhole(const std::wstring& path, std::string* text, std::string* problem
   }
 }
 
-void Complain(const std::string& text) {
+void Tell(const std::string& text) {
   std::fprintf(stderr, "%s\n", text.c_str());
   std::fflush(stderr);
 }
@@ -43,6 +44,7 @@ void Complain(const std::string& text) {
 struct PlayDriver::Running {
   std::string file;
   std::vector<Step> steps;
+  std::optional<double> longestWait;
   std::unique_ptr<DriverWorld> world;
   std::thread thread;
   std::atomic<bool> wantsRestart{false};
@@ -53,7 +55,10 @@ struct PlayDriver::Running {
     int exitCode;
     {
       const PlayWatchdog watchdog(runner, world->Frame());
+      MessageProbe probe([&](const auto& work) { return port.OnMainThread(work); },
+                         [&] { return runner.StepNumber(); });
       exitCode = runner.Play();
+      if (!TellLongestWait(runner, probe.Stop()) && exitCode == 0) exitCode = 1;
     }
     wantsRestart = runner.EndedInRestart();
     world->CloseMenus();
@@ -61,11 +66,19 @@ struct PlayDriver::Running {
     AwaitEnd();
   }
 
+  // False when it is longer than the play allows.
+  bool TellLongestWait(const PlayRunner& runner, const LongestWait& longest) const {
+    const bool good = !longestWait || longest.time <= std::chrono::duration<double>(*longestWait);
+    Tell(LongestWaitText(file, longest.time, runner.Line(longest.step)) +
+         (good ? "" : ", which is longer than the play allows"));
+    return good;
+  }
+
   // The program stops the world when it ends. One that doesn't would keep its caller waiting.
   void AwaitEnd() {
     world->Pause(kLongestEnd);
     if (world->IsStopped()) return;
-    Complain(file + ": the program was asked to end 10 s ago and has not; it is ended by force");
+    Tell(file + ": the program was asked to end 10 s ago and has not; it is ended by force");
     TerminateProcess(GetCurrentProcess(), 1);
   }
 };
@@ -78,20 +91,21 @@ PlayDriver::~PlayDriver() {
   m_running->thread.join();
 }
 
-bool PlayDriver::Load(const std::wstring& path, int restarts) {
+bool PlayDriver::Load(const PlayOptions& options) {
   auto running = std::make_unique<Running>();
-  running->file = Utf8(path);
+  running->file = Utf8(options.script);
+  running->longestWait = options.longestWait;
   std::string text, problem;
-  if (!ReadWhole(path, &text, &problem)) {
-    Complain(running->file + ": error: " + problem);
+  if (!ReadWhole(options.script, &text, &problem)) {
+    Tell(running->file + ": error: " + problem);
     return false;
   }
   ScriptError error;
   if (!ParsePlayScript(text, &running->steps, &error)) {
-    Complain(ScriptErrorText(running->file, error));
+    Tell(ScriptErrorText(running->file, error));
     return false;
   }
-  running->steps = PartOfScript(std::move(running->steps), restarts);
+  running->steps = PartOfScript(std::move(running->steps), options.restarts);
   m_running = std::move(running);
   return true;
 }

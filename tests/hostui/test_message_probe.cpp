@@ -1,0 +1,60 @@
+// The measure of a thread's silence, with this thread as the one that is measured.
+#include <gtest/gtest.h>
+
+#include "devhost/play/win/message_probe.h"
+
+namespace devhost {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+bool RunHere(const std::function<void()>& work) {
+  work();
+  return true;
+}
+
+void AwaitSentMessage() {
+  while (!(HIWORD(::GetQueueStatus(QS_SENDMESSAGE)) & QS_SENDMESSAGE)) ::SwitchToThread();
+}
+
+void KeepSilent(Clock::duration time) {
+  for (const auto begin = Clock::now(); Clock::now() - begin < time;) ::SwitchToThread();
+}
+
+TEST(MessageProbe, AMessageThatHadToWaitIsMeasuredWithItsStep) {
+  std::atomic<int> step{7};
+  MessageProbe probe(&RunHere, [&] { return step.load(); });
+  AwaitSentMessage();
+  KeepSilent(60ms);
+  step = 8;
+  MSG message;
+  EXPECT_FALSE(::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) << "no program sees it";
+  const LongestWait longest = probe.Stop();
+  EXPECT_GE(longest.time, 60ms);
+  EXPECT_EQ(longest.step, 7);
+}
+
+TEST(MessageProbe, AMessageThatStillWaitsAtTheEndCounts) {
+  MessageProbe probe(&RunHere, [] { return 3; });
+  AwaitSentMessage();
+  KeepSilent(60ms);
+  const LongestWait longest = probe.Stop();
+  EXPECT_GE(longest.time, 60ms);
+  EXPECT_EQ(longest.step, 3);
+}
+
+// The last message of one play may arrive in the next, and must not be taken for an answer there.
+TEST(MessageProbe, AnAnswerToAnEarlierProbeIsNone) {
+  {
+    MessageProbe earlier(&RunHere, [] { return 1; });
+    AwaitSentMessage();
+  }
+  MessageProbe probe(&RunHere, [] { return 2; });
+  AwaitSentMessage();
+  KeepSilent(60ms);
+  EXPECT_GE(probe.Stop().time, 60ms);
+}
+
+}  // namespace
+}  // namespace devhost
