@@ -10,6 +10,7 @@
 #include "afxstr.h"
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/application_names.h"
 #include "devhost/core/database_body.h"
 #include "devhost/core/drawing_file.h"
 #include "devhost/core/dxf_filer.h"
@@ -20,6 +21,8 @@ namespace devhost {
 namespace {
 
 constexpr wchar_t kRelease[] = L"AC1021";
+constexpr wchar_t kHostApplication[] = L"ACAD";
+constexpr wchar_t kApplicationMark[] = L"AcDbRegAppTableRecord";
 
 class Writer {
  public:
@@ -34,13 +37,16 @@ class Writer {
   void Plain(short code, const std::wstring& text);
   void Section(const wchar_t* name);
   void Kept(const std::vector<KeptGroup>& groups);
+  void KeptTables();
   void Header();
   void HeaderWithoutFile();
   void Tables();
   bool HasTable(const wchar_t* name) const;
   void BeginTable(const wchar_t* name, std::size_t count);
   void NamedRecords(const wchar_t* table, const wchar_t* mark,
-                    std::initializer_list<const wchar_t*> names);
+                    const std::vector<std::wstring>& names);
+  void NamedRecord(const wchar_t* table, const wchar_t* mark, const std::wstring& name);
+  void ApplicationTable();
   void LayerTable();
   void BlockRecordTable();
   void RecordHead(const wchar_t* type, const AcDbObject& record, const wchar_t* mark);
@@ -136,24 +142,56 @@ void Writer::RecordHead(const wchar_t* type, const AcDbObject& record, const wch
 
 // Tables that a reader of other make insists on, for drawings that did not come from a file.
 void Writer::NamedRecords(const wchar_t* table, const wchar_t* mark,
-                          std::initializer_list<const wchar_t*> names) {
+                          const std::vector<std::wstring>& names) {
   if (HasTable(table)) return;
   BeginTable(table, names.size());
-  for (const wchar_t* name : names) {
-    Mark(table);
-    m_filer.WriteHandle(5, m_body.NextHandle());
-    Plain(100, L"AcDbSymbolTableRecord");
-    Plain(100, mark);
-    Plain(2, name);
-    m_filer.writeInt(70, 0);
-    if (SameName(table, L"LTYPE")) {
-      Plain(3, L"");
-      m_filer.writeInt(72, 65);
-      m_filer.writeInt(73, 0);
-      m_filer.writeDouble(40, 0);
-    }
-  }
+  for (const std::wstring& name : names) NamedRecord(table, mark, name);
   Mark(L"ENDTAB");
+}
+
+void Writer::NamedRecord(const wchar_t* table, const wchar_t* mark, const std::wstring& name) {
+  Mark(table);
+  m_filer.WriteHandle(5, m_body.NextHandle());
+  Plain(100, L"AcDbSymbolTableRecord");
+  Plain(100, mark);
+  Plain(2, name);
+  m_filer.writeInt(70, 0);
+  if (!SameName(table, L"LTYPE")) return;
+  Plain(3, L"");
+  m_filer.writeInt(72, 65);
+  m_filer.writeInt(73, 0);
+  m_filer.writeDouble(40, 0);
+}
+
+void Writer::ApplicationTable() {
+  std::vector<std::wstring> names = ApplicationsInUse(m_body);
+  std::erase_if(names, [](const std::wstring& name) { return SameName(name, kHostApplication); });
+  names.insert(names.begin(), kHostApplication);
+  NamedRecords(L"APPID", kApplicationMark, names);
+}
+
+// As they came, but a table of applications that the file brought gets the names that are new
+// since. Its count is only a hint to readers; it grows with the records.
+void Writer::KeptTables() {
+  const auto& groups = m_body.otherTables;
+  auto missing = Unregistered(groups, ApplicationsInUse(m_body));
+  std::wstring table, record;
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    const auto& [code, text] = groups[i];
+    if (code == 0) record = text;
+    if (code == 0 && text == L"TABLE" && i + 1 < groups.size()) table = groups[i + 1].text;
+    const bool applications = SameName(table, L"APPID") && !missing.empty();
+    if (applications && record == L"TABLE" && code == 70) {
+      m_filer.writeInt(70, std::max(0, static_cast<int>(std::wcstol(text.c_str(), nullptr, 10))) +
+                               static_cast<int>(missing.size()));
+      continue;
+    }
+    if (applications && record == L"ENDTAB") {
+      for (const std::wstring& name : missing) NamedRecord(L"APPID", kApplicationMark, name);
+      missing.clear();
+    }
+    Plain(code, text);
+  }
 }
 
 void Writer::LayerTable() {
@@ -182,11 +220,11 @@ void Writer::BlockRecordTable() {
 
 void Writer::Tables() {
   Section(L"TABLES");
-  Kept(m_body.otherTables);
+  KeptTables();
   NamedRecords(L"LTYPE", L"AcDbLinetypeTableRecord", {L"ByBlock", L"ByLayer", L"Continuous"});
   LayerTable();
   NamedRecords(L"STYLE", L"AcDbTextStyleTableRecord", {L"Standard"});
-  NamedRecords(L"APPID", L"AcDbRegAppTableRecord", {L"ACAD"});
+  ApplicationTable();
   BlockRecordTable();
   Mark(L"ENDSEC");
 }

@@ -17,6 +17,30 @@ class DxfWrite : public hosttest::HostTest {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
   }
+  // What the tables of applications of a written drawing name, in order.
+  static std::vector<std::string> Applications(const std::string& written) {
+    std::vector<std::string> names;
+    std::istringstream text(written);
+    std::string code, value, record;
+    while (std::getline(text, code) && std::getline(text, value)) {
+      if (code == "0") record = value;
+      if (code == "2" && record == "APPID") names.push_back(value);
+    }
+    return names;
+  }
+  static int CountOfApplications(const std::string& written) {
+    const std::size_t table = written.find("TABLE\n2\nAPPID\n");
+    const std::size_t count = written.find("\n70\n", table);
+    return table == written.npos ? -1 : std::atoi(written.c_str() + count + 4);
+  }
+  static AcDbObjectId AddMarked(AcDbDatabase& database, const wchar_t* application) {
+    auto* line = new AcDbLine({0, 0, 0}, {1, 0, 0});
+    AcDbBlockTableRecord::cast(database.currentSpaceId().object())->appendAcDbEntity(line);
+    resbuf* data = acutBuildList(1001, application, 1070, 1, RTNONE);
+    EXPECT_EQ(line->setXData(data), Acad::eOk);
+    acutRelRb(data);
+    return line->objectId();
+  }
   // Handle, type, layer and colour of every entity of all blocks, in order.
   static std::vector<std::wstring> Inventory(AcDbDatabase& database) {
     std::vector<std::wstring> lines;
@@ -119,6 +143,49 @@ TEST_F(DxfWrite, ANewDrawingIsWrittenWithTheTablesThatReadersNeed) {
   ASSERT_EQ(space->entities().size(), 1u);
   EXPECT_STREQ(AcDbText::cast(space->entities()[0].object())->textStringConst(),
                L"汉字^ 与\n换行^J^2\r\t");
+}
+
+TEST_F(DxfWrite, EveryApplicationWithExtendedDataIsRegisteredOnce) {
+  AcDbDatabase database, again;
+  ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
+  const std::string text = WrittenText(database);
+  EXPECT_EQ(Applications(text), (std::vector<std::string>{"ACAD", "_QVX", "OTHER"}));
+  EXPECT_EQ(CountOfApplications(text), 3);
+  ASSERT_EQ(ReadDrawingText(text, L"b.dxf", again).message, L"");
+  EXPECT_EQ(Applications(WrittenText(again)), (std::vector<std::string>{"ACAD", "_QVX", "OTHER"}));
+}
+
+TEST_F(DxfWrite, AnErasedObjectRegistersNothing) {
+  AcDbDatabase database;
+  AcDbObjectId id = AddMarked(database, L"GONE");
+  AddMarked(database, L"STAYS");
+  id.object()->erase();
+  EXPECT_EQ(Applications(WrittenText(database)), (std::vector<std::string>{"ACAD", "STAYS"}));
+}
+
+TEST_F(DxfWrite, ATableOfApplicationsThatTheFileBroughtGetsOnlyTheNewNames) {
+  const std::string file =
+      "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nAPPID\n5\n9\n70\n2\n"
+      "0\nAPPID\n5\n91\n2\nACAD\n70\n0\n0\nAPPID\n5\n92\n2\n_qvx\n70\n4\n"
+      "1001\nMADE_BY\n1000\nx\n0\nENDTAB\n0\nTABLE\n2\nUCS\n70\n0\n0\nENDTAB\n"
+      "0\nENDSEC\n0\nEOF\n";
+  AcDbDatabase database, again;
+  ASSERT_EQ(ReadDrawingText(file, L"a.dxf", database).message, L"");
+  EXPECT_EQ(Applications(WrittenText(database)),
+            (std::vector<std::string>{"ACAD", "_qvx", "MADE_BY"}));
+  AddMarked(database, L"_QVX");  // the same application, whatever the case
+  AddMarked(database, L"Acad");
+  AddMarked(database, L"NEW");
+  AddMarked(database, L"new");
+  const std::string text = WrittenText(database);
+  EXPECT_EQ(Applications(text), (std::vector<std::string>{"ACAD", "_qvx", "NEW", "MADE_BY"}));
+  EXPECT_EQ(CountOfApplications(text), 4);
+  EXPECT_NE(text.find("2\n_qvx\n70\n4\n1001\nMADE_BY\n"), std::string::npos) << "as it came";
+  EXPECT_NE(text.find("TABLE\n2\nUCS\n70\n0\n"), std::string::npos) << "other tables as they came";
+  ReadDrawingText(text, L"b.dxf", again);
+  EXPECT_EQ(WrittenText(again).find("TABLE\n2\nAPPID\n"),
+            WrittenText(again).rfind("TABLE\n2\nAPPID\n"));
+  EXPECT_EQ(Applications(WrittenText(again)), Applications(text));
 }
 
 TEST_F(DxfWrite, RealsReadBackToTheLastBit) {
