@@ -43,9 +43,9 @@ inline TMenuItem* AddLine(TMenuBar& bar, const wchar_t* label, const wchar_t* co
   return line;
 }
 
-inline TMenuBar* AddHeader(TMenuBar& bar, const wchar_t* label) {
+inline TMenuBar* AddHeader(TMenuBar& bar, const wchar_t* label, TMenuBar* below = new TMenuBar) {
   TMenuItem* line = AddLine(bar, label);
-  line->m_pSubMenu = new TMenuBar;
+  line->m_pSubMenu = below;
   return line->m_pSubMenu;
 }
 

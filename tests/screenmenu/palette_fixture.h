@@ -17,6 +17,13 @@ namespace fixture {
 
 using Words = std::vector<std::wstring>;
 
+// Counts those that live, to see that a palette that goes takes its menu along.
+struct CountedBar : TMenuBar {
+  CountedBar() { ++s_alive; }
+  ~CountedBar() override { --s_alive; }
+  inline static int s_alive = 0;
+};
+
 class Rooms : public qvx::ScreenMenuHost {
  public:
   TMenuSystem* MenuSystem() override { return &system; }
@@ -66,10 +73,10 @@ class Palette : public testing::Test {
   }
   // Two headers with a command each, one command beside them.
   void Attach() {
-    auto* screen = new TMenuBar;
+    auto* screen = new CountedBar;
     screen->m_strName = L"screen";
-    AddLine(*AddHeader(*screen, L"墙体"), L"绘制墙体", L"TWall\n");
-    AddLine(*AddHeader(*screen, L"门窗"), L"插入门", L"TDoor\n");
+    AddLine(*AddHeader(*screen, L"墙体", new CountedBar), L"绘制墙体", L"TWall\n");
+    AddLine(*AddHeader(*screen, L"门窗", new CountedBar), L"插入门", L"TDoor\n");
     AddLine(*screen, L"轴网", L"TAxis\n");
     rooms.system.Append(screen);
     AttachScreenBar(rooms.system);

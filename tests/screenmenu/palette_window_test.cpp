@@ -527,14 +527,47 @@ SIZE_T PrivateBytes() {
   return memory.PrivateUsage;
 }
 
+// Takes every timer from every window of this thread, whatever its parent, and says how many there
+// were. The window system tells of none; ending one tells whether it ran.
+int EndTimers() {
+  constexpr UINT_PTR kIds = 64;  // the palette's is 10, those of tips are less
+  int count = 0;
+  const auto end = [](HWND window, LPARAM n) -> BOOL {
+    for (UINT_PTR id = 0; id < kIds; ++id)
+      *reinterpret_cast<int*>(n) += ::KillTimer(window, id) != FALSE;
+    return TRUE;
+  };
+  struct Walk {
+    WNDENUMPROC end;
+    int* count;
+  } walk{end, &count};
+  ::EnumThreadWindows(
+      ::GetCurrentThreadId(),
+      [](HWND window, LPARAM parameter) -> BOOL {
+        const auto& step = *reinterpret_cast<Walk*>(parameter);
+        step.end(window, reinterpret_cast<LPARAM>(step.count));
+        ::EnumChildWindows(window, step.end, reinterpret_cast<LPARAM>(step.count));
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&walk));
+  return count;
+}
+
 struct Held {
-  int windows, bitmaps, fonts, pens, brushes, icons, dcs;
+  int timers, windows, bitmaps, fonts, pens, brushes, icons, dcs;
+  int bars;  // of the menus
   bool operator==(const Held&) const = default;
 };
 Held HeldNow() {
-  return {WindowsOfThread(),          qvx::OwnedBitmap::Alive(), qvx::OwnedFont::Alive(),
-          qvx::OwnedPen::Alive(),     qvx::OwnedBrush::Alive(),  qvx::OwnedIcon::Alive(),
-          qvx::OwnedMemoryDc::Alive()};
+  return {EndTimers(),
+          WindowsOfThread(),
+          qvx::OwnedBitmap::Alive(),
+          qvx::OwnedFont::Alive(),
+          qvx::OwnedPen::Alive(),
+          qvx::OwnedBrush::Alive(),
+          qvx::OwnedIcon::Alive(),
+          qvx::OwnedMemoryDc::Alive(),
+          CountedBar::s_alive};
 }
 
 TEST_F(Palette, AThousandReloadsLeaveWhatTheFifthLeft) {
@@ -544,6 +577,9 @@ TEST_F(Palette, AThousandReloadsLeaveWhatTheFifthLeft) {
     Attach();
     Click(Root(), 0);
     Click(Root(), 2);  // a command waits while the palette goes
+    g_pScreenMenu->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(g_pScreenMenu->m_hWnd),
+                               MAKELPARAM(60, 60));  // the pop-up's lines are the palette's
+    host.diary.clear();
     g_pScreenMenu->RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   };
   for (int i = 0; i < 5; ++i) reload();
@@ -551,8 +587,13 @@ TEST_F(Palette, AThousandReloadsLeaveWhatTheFifthLeft) {
   const SIZE_T bytes = PrivateBytes();
   for (int i = 0; i < 995; ++i) reload();
   EXPECT_EQ(HeldNow(), fifth);
+  EXPECT_EQ(fifth.timers, 1) << "that of the command that waits";
+  EXPECT_EQ(fifth.bars, 3);
   EXPECT_LT(PrivateBytes(), bytes + (4 << 20));
+  g_pScreenMenu->SetTimer(qvx::kSendTimer, qvx::kSendDelay);
   InitScreenMenu(false, true);
+  EXPECT_EQ(EndTimers(), 0);
+  EXPECT_EQ(CountedBar::s_alive, 0);
   CDockBar* bar = host.frame->GetDockBar(AFX_IDW_DOCKBAR_LEFT);
   EXPECT_EQ(::GetWindow(bar->m_hWnd, GW_CHILD), nullptr);
 }
