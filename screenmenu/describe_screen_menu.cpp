@@ -46,6 +46,7 @@ qvx::ShellRow DescribeRow(CMenuGroup& group, int index) {
 }
 
 std::vector<qvx::ShellRow> DescribeRows(CMenuGroup& group) {
+  group.SettleRows();
   std::vector<qvx::ShellRow> rows;
   for (int i = 0; i < group.RowCount(); ++i) rows.push_back(DescribeRow(group, i));
   return rows;

@@ -29,6 +29,9 @@ class CMenuGroup : public CWnd {
 
   void LayoutGroup();
   void ScrollGroup(UINT code, int position);
+  // Puts rows that the last scrolling left behind, far from the view, where they belong. For those
+  // who ask for places; changes nothing that is seen.
+  void SettleRows();
   int WheelGroup(UINT flags, short delta, CPoint point);  // 1 when it scrolled
   void RevealRect(const CRect& rect);
 
@@ -72,6 +75,7 @@ class CMenuGroup : public CWnd {
   void PlaceChild(CMenuGroup& child, const CRect& place, CRect& changed);
   static void MoveUnseen(CWnd& child, const CRect& place);
   void BringNear(const CRect& zone, const CRect& view);
+  qvx::LayoutPlan PlanNow(const CRect& client);
   void ShowOpenChild(bool show);
   int FindRow(UINT ctrlId) const;  // -1 when no button of this group has it
   void ClickSwitch(CSMenuItem& row);
@@ -84,6 +88,7 @@ class CMenuGroup : public CWnd {
   bool m_bLimitHeight = false;
   int m_nContentHeight = 0;  // row heights plus the margin
   short m_nDepth = 0;
-  CScrollBar m_scrollBar;  // its window exists only while it is needed
-  GroupOwner* m_pOwner;    // not owned
+  bool m_isScrolledPast = false;  // rows far from the view may stand where they don't belong
+  CScrollBar m_scrollBar;         // its window exists only while it is needed
+  GroupOwner* m_pOwner;           // not owned
 };

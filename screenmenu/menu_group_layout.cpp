@@ -29,17 +29,22 @@ qvx::LayoutRequest CMenuGroup::RequestLayout(const CRect& client, const std::vec
   return request;
 }
 
+qvx::LayoutPlan CMenuGroup::PlanNow(const CRect& client) {
+  std::vector<int> heights;
+  heights.reserve(static_cast<std::size_t>(m_items.Length()));
+  for (const CSMenuItem* row : m_items) heights.push_back(row->RowHeight());
+  return qvx::PlanLayout(RequestLayout(client, heights));
+}
+
 // Rows and the open group are moved without being redrawn; what changed is then redrawn in one
 // step. Moving with a repaint each would ask the window server six times for every row.
 void CMenuGroup::LayoutGroup() {
   if (!m_hWnd) return;
   CRect client;
   GetClientRect(&client);
-  std::vector<int> heights;
-  heights.reserve(static_cast<std::size_t>(m_items.Length()));
-  for (const CSMenuItem* row : m_items) heights.push_back(row->RowHeight());
-  const qvx::LayoutPlan plan = qvx::PlanLayout(RequestLayout(client, heights));
+  const qvx::LayoutPlan plan = PlanNow(client);
   CarryScroll(plan.scroll);
+  m_isScrolledPast = false;
   CMenuGroup* open = OpenChild();
   CRect changed(0, 0, 0, 0);
   for (int i = 0; i < m_items.Length(); ++i) {
@@ -123,8 +128,8 @@ void CMenuGroup::PlaceChild(CMenuGroup& child, const CRect& place, CRect& change
 
 // Pixels are moved, and with them the windows of the rows in and near the view. Rows farther away
 // follow when they come near: moving each of a thousand rows at each step of the wheel would make
-// it stick. Until then they stand somewhere out of view, and the next layout pass puts all of them
-// where they belong.
+// it stick. Until then they stand somewhere out of view; the next layout pass puts all of them
+// where they belong, and so does SettleRows for those who ask.
 void CMenuGroup::ScrollGroup(UINT code, int position) {
   if (!HasScrollBar()) return;
   int low = 0, high = 0;
@@ -142,6 +147,7 @@ void CMenuGroup::ScrollGroup(UINT code, int position) {
                      SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
     if (PlaceOf(m_scrollBar) != bar) m_scrollBar.MoveWindow(&bar, FALSE);
     BringNear(zone, area);
+    m_isScrolledPast = true;
   }
   UpdateWindow();
 }
@@ -150,10 +156,7 @@ void CMenuGroup::ScrollGroup(UINT code, int position) {
 void CMenuGroup::BringNear(const CRect& zone, const CRect& view) {
   CRect client, changed(0, 0, 0, 0), seen;
   GetClientRect(&client);
-  std::vector<int> heights;
-  heights.reserve(static_cast<std::size_t>(m_items.Length()));
-  for (const CSMenuItem* row : m_items) heights.push_back(row->RowHeight());
-  const qvx::LayoutPlan plan = qvx::PlanLayout(RequestLayout(client, heights));
+  const qvx::LayoutPlan plan = PlanNow(client);
   for (int i = 0; i < m_items.Length(); ++i) {
     const CRect place(plan.rows[static_cast<std::size_t>(i)]);
     if (seen.IntersectRect(place, zone)) PlaceRow(*m_items.At(i), place, changed);
@@ -164,6 +167,21 @@ void CMenuGroup::BringNear(const CRect& zone, const CRect& view) {
     PlaceChild(*open, plan.child, changed);
   if (seen.IntersectRect(changed, view))
     RedrawWindow(&seen, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// Only out of view, so nothing is drawn. A group that scrolls moves its own rows only: what is
+// below an open child moves with that child's window.
+void CMenuGroup::SettleRows() {
+  if (!m_isScrolledPast || !m_hWnd) return;
+  m_isScrolledPast = false;
+  CRect client, unseen(0, 0, 0, 0);
+  GetClientRect(&client);
+  const qvx::LayoutPlan plan = PlanNow(client);
+  for (int i = 0; i < m_items.Length(); ++i)
+    PlaceRow(*m_items.At(i), plan.rows[static_cast<std::size_t>(i)], unseen);
+  CMenuGroup* open = OpenChild();
+  if (open && open->GetSafeHwnd() && PlaceOf(*open) != CRect(plan.child))
+    PlaceChild(*open, plan.child, unseen);
 }
 
 int CMenuGroup::WheelGroup(UINT, short delta, CPoint) {

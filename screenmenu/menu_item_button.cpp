@@ -4,6 +4,7 @@
 
 #include "kernel/globals.h"
 #include "screenmenu/menu_colors.h"
+#include "screenmenu/menu_group.h"
 #include "dialogs/module_handle.h"
 
 namespace {
@@ -146,7 +147,18 @@ std::wstring CSMenuItem::Help() const {
   return help ? help : L"";
 }
 
+void CSMenuItem::SettlePlace() const {
+  for (HWND at = ::GetParent(m_hWnd); at; at = ::GetParent(at)) {
+    auto* group = DYNAMIC_DOWNCAST(CMenuGroup, CWnd::FromHandlePermanent(at));
+    if (!group) return;
+    group->SettleRows();
+  }
+}
+
+// Some readers take the place from the window itself once they have its object.
 LRESULT CSMenuItem::OnGetObject(WPARAM wParam, LPARAM lParam) {
   constexpr LONG kClientObject = -4;  // the published number of a window's client object
-  return static_cast<LONG>(lParam) == kClientObject ? m_access.Answer(m_hWnd, wParam) : Default();
+  if (static_cast<LONG>(lParam) != kClientObject) return Default();
+  SettlePlace();
+  return m_access.Answer(m_hWnd, wParam);
 }

@@ -37,6 +37,8 @@ class CSMenuItem : public CButtonST {
   // What screen readers are told.
   qvx::RowFacts Facts() const;
   std::wstring Help() const;
+  // Before somebody asks where the row is.
+  void SettlePlace() const;
 
  protected:
   void OnMouseEnter() override;

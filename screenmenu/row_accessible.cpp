@@ -121,6 +121,7 @@ class RowAccessible final : public IAccessible {
     return m_standard->accSelect(flags, child);
   }
   STDMETHODIMP accLocation(long* x, long* y, long* width, long* height, VARIANT child) override {
+    if (const CSMenuItem* row = Row(child)) row->SettlePlace();
     return m_standard->accLocation(x, y, width, height, child);
   }
   STDMETHODIMP accNavigate(long way, VARIANT from, VARIANT* to) override {

@@ -20,8 +20,9 @@ class Accessibility : public TreeWindows {
     ::CoUninitialize();
   }
 
-  // Runs the reader and handles its questions meanwhile. Its lines are name, role, state, action.
-  std::vector<std::string> ReadFromOutside() {
+  // Runs the reader and handles its questions meanwhile. Its lines are name, role, state, action,
+  // or name and place.
+  std::vector<std::string> ReadFromOutside(const wchar_t* what = L"") {
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
     ::CreatePipe(&readEnd, &writeEnd, &inherit, 1 << 16);
@@ -34,8 +35,9 @@ class Accessibility : public TreeWindows {
     wchar_t line[MAX_PATH + 40];
     ::GetModuleFileNameW(nullptr, line, MAX_PATH);
     *(std::wcsrchr(line, L'\\') + 1) = 0;
-    ::swprintf(line, std::size(line), L"%lsread_accessible.exe %llx", std::wstring(line).c_str(),
-               static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(palette.m_hWnd)));
+    ::swprintf(line, std::size(line), L"%lsread_accessible.exe %llx %ls",
+               std::wstring(line).c_str(),
+               static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(palette.m_hWnd)), what);
     const BOOL made = ::CreateProcessW(nullptr, line, nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                        &start, &reader);
     ::CloseHandle(writeEnd);
@@ -89,6 +91,27 @@ TEST_F(Accessibility, AnUnfoldedHeaderIsExpandedAndItsLinesAreSeen) {
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[0].substr(0, lines[0].rfind('\t')), "墙体\t2b\t100200");
   EXPECT_EQ(lines[1], "画墙\t2b\t100000\t按下");
+}
+
+// A row far from the view is not moved by scrolling; a reader is told where it belongs all the
+// same.
+TEST_F(Accessibility, RowsFarFromTheViewTellTheirPlacesAfterScrolling) {
+  for (int i = 0; i < 300; ++i) AddLine(bar, std::to_wstring(i).c_str(), L"TLine\n");
+  Build();
+  root->WheelGroup(0, -12000, CPoint());
+  ASSERT_EQ(root->ScrollBar().GetScrollPos(), 4000);
+  CRect group;
+  root->GetWindowRect(&group);
+  const std::vector<std::string> lines = ReadFromOutside(L"places");
+  ASSERT_EQ(lines.size(), 300u);
+  for (int i : {0, 1, 170, 298, 299}) {
+    std::istringstream parts(lines[static_cast<std::size_t>(i)]);
+    int name = -1, x = 0, y = 0, width = 0, height = 0;
+    parts >> name >> x >> y >> width >> height;
+    EXPECT_EQ(name, i);
+    EXPECT_EQ(y, group.top + 2 + i * 24 - 4000) << i;
+    EXPECT_EQ(height, 24) << i;
+  }
 }
 
 }  // namespace

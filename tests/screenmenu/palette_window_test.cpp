@@ -527,6 +527,40 @@ SIZE_T PrivateBytes() {
   return memory.PrivateUsage;
 }
 
+TEST_F(Palette, TheShellStateTellsThePlacesOfRowsFarFromTheViewAfterScrolling) {
+  ComeUp();
+  auto* screen = new TMenuBar;
+  screen->m_strName = L"SCREEN";
+  for (int i = 0; i < 200; ++i) AddLine(*screen, L"前", L"x");
+  TMenuBar* group = AddHeader(*screen, L"组");
+  for (int i = 0; i < 100; ++i) AddLine(*group, L"内", L"x");
+  for (int i = 0; i < 200; ++i) AddLine(*screen, L"后", L"x");
+  AddLine(*screen, L"末", L"x");
+  AddLine(*group, L"内末", L"x");
+  rooms.system.Append(screen);
+  AttachScreenBar(rooms.system);
+  Click(Root(), 200);
+  Root().WheelGroup(0, 120 * 250, CPoint());
+  Root().WheelGroup(0, -120 * 50, CPoint());
+  ASSERT_EQ(Root().ScrollBar().GetScrollPos(), 2000);
+  const std::string json = DescribeScreenMenu();
+  const int top = PlaceOf(Root()).top + 2 - 2000;
+  const auto topTold = [&json](const char* label) {
+    const std::size_t row = json.find(std::string("\"label\":\"") + label + "\"");
+    const std::size_t rect = json.find("\"rect\":[", row);
+    int left = 0, at = -1;
+    EXPECT_EQ(std::sscanf(json.c_str() + rect, "\"rect\":[%d,%d", &left, &at), 2);
+    return at;
+  };
+  EXPECT_EQ(topTold("前"), top);
+  const int inner = top + 201 * 24 + 2 + 2;
+  EXPECT_EQ(topTold("内"), inner);
+  EXPECT_EQ(topTold("内末"), inner + 100 * 24);
+  const int behind = top + 201 * 24 + 101 * 24 + 4 + 4;
+  EXPECT_EQ(topTold("后"), behind);
+  EXPECT_EQ(topTold("末"), behind + 200 * 24);
+}
+
 // Takes every timer from every window of this thread, whatever its parent, and says how many there
 // were. The window system tells of none; ending one tells whether it ran.
 int EndTimers() {

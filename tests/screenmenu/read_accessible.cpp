@@ -1,6 +1,7 @@
 // A program of its own that reads the palette from outside, as a screen reader does: for each
 // button below the window whose handle it is given, in the order of the windows, one line of name,
-// role, state and default action, parted by tabs, in UTF-8. Run by the accessibility test.
+// role, state and default action, parted by tabs, in UTF-8; with a second argument the name and the
+// four numbers of its place instead. Run by the accessibility test.
 #include <windows.h>
 // after windows.h
 #include <oleacc.h>
@@ -21,7 +22,15 @@ std::string Utf8(BSTR text) {
 
 long Number(const VARIANT& value) { return value.vt == VT_I4 ? value.lVal : -1; }
 
-void PrintButton(HWND button) {
+void PrintPlace(IAccessible& object, const std::string& name) {
+  VARIANT self{};
+  self.vt = VT_I4;
+  long x = 0, y = 0, width = 0, height = 0;
+  object.accLocation(&x, &y, &width, &height, self);
+  std::printf("%s\t%ld\t%ld\t%ld\t%ld\n", name.c_str(), x, y, width, height);
+}
+
+void PrintButton(HWND button, bool place) {
   IAccessible* object = nullptr;
   const HRESULT got =
       ::AccessibleObjectFromWindow(button, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
@@ -34,6 +43,11 @@ void PrintButton(HWND button) {
   self.vt = VT_I4;
   BSTR name = nullptr, action = nullptr;
   object->get_accName(self, &name);
+  if (place) {
+    PrintPlace(*object, Utf8(name));
+    object->Release();
+    return;
+  }
   object->get_accRole(self, &role);
   object->get_accState(self, &state);
   object->get_accDefaultAction(self, &action);
@@ -43,10 +57,10 @@ void PrintButton(HWND button) {
   object->Release();
 }
 
-BOOL CALLBACK Visit(HWND window, LPARAM) {
+BOOL CALLBACK Visit(HWND window, LPARAM place) {
   wchar_t name[16] = L"";
   ::GetClassNameW(window, name, 16);
-  if (!_wcsicmp(name, L"button")) PrintButton(window);
+  if (!_wcsicmp(name, L"button")) PrintButton(window, place != 0);
   return TRUE;
 }
 
@@ -55,7 +69,7 @@ BOOL CALLBACK Visit(HWND window, LPARAM) {
 int main(int argc, char** argv) {
   if (argc < 2 || FAILED(::CoInitialize(nullptr))) return 2;
   const auto window = reinterpret_cast<HWND>(std::strtoull(argv[1], nullptr, 16));
-  ::EnumChildWindows(window, Visit, 0);
+  ::EnumChildWindows(window, Visit, argc > 2);
   ::CoUninitialize();
   return 0;
 }
