@@ -392,6 +392,19 @@ TEST(NamePool, AgreesWithAWalkFromTheFrontForManyNames) {
     EXPECT_EQ(lookup.Find(asked[static_cast<size_t>(i)]), i < 300 ? i : -1);
 }
 
+TEST(FoldCase, OnlyTheUnitsOfTheseRangesHaveASmallerForm) {
+  const auto isCapital = [](unsigned u) {
+    const auto within = [u](unsigned first, unsigned last) { return u >= first && u <= last; };
+    return within('A', 'Z') || (within(0xC0, 0xDE) && u != 0xD7) ||
+           (within(0x391, 0x3A9) && u != 0x3A2) || within(0x400, 0x42F) || within(0xFF21, 0xFF3A);
+  };
+  for (unsigned u = 0; u < 0x10000; ++u) {
+    const auto folded = static_cast<unsigned>(FoldCase(static_cast<wchar_t>(u)));
+    const unsigned step = u >= 0x400 && u <= 0x40F ? 0x50 : 0x20;
+    ASSERT_EQ(folded, isCapital(u) ? u + step : u);
+  }
+}
+
 TEST(FoldCase, KnowsTheLettersOfTheCodePagesInUse) {
   EXPECT_TRUE(EqualNamesNoCase(L"Ωmega", L"ωMEGA"));
   EXPECT_TRUE(EqualNamesNoCase(L"Я", L"я"));
