@@ -26,19 +26,14 @@ std::string RecentSection() {
   return json + "]";
 }
 
-std::string RectOf(const RECT& r) {
-  return "[" + std::to_string(r.left) + "," + std::to_string(r.top) + "," +
-         std::to_string(r.right) + "," + std::to_string(r.bottom) + "]";
-}
-
 std::string PanesSection() {
   std::string json = "[";
   for (const ShownPane& pane : ShownPanes()) {
     if (json.size() > 1) json += ",";
-    json += std::string("{\"name\":\"") + pane.name + "\",\"style\":" + std::to_string(pane.style) +
-            ",\"icon\":" + std::to_string(pane.icon) +
-            ",\"tooltip\":" + qvx::JsonString(pane.toolTip) +
-            ",\"text\":" + qvx::JsonString(pane.text) + ",\"rect\":" + RectOf(pane.rect) + "}";
+    json +=
+        std::string("{\"name\":\"") + pane.name + "\",\"style\":" + std::to_string(pane.style) +
+        ",\"icon\":" + std::to_string(pane.icon) + ",\"tooltip\":" + qvx::JsonString(pane.toolTip) +
+        ",\"text\":" + qvx::JsonString(pane.text) + ",\"rect\":" + qvx::JsonRect(pane.rect) + "}";
   }
   return json + "]";
 }

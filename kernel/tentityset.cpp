@@ -8,6 +8,7 @@
 #include "dbents.h"
 #include "dbsymtb.h"
 #include "kernel/qvxexport.h"
+#include "kernel/tacdbobjectptr.h"
 
 namespace {
 
@@ -77,21 +78,7 @@ bool Fits(const TGroups& group, const TEntitySet::Value& value) {
   }
 }
 
-class OpenEntity {
- public:
-  explicit OpenEntity(AcDbObjectId id) {
-    if (!id.isNull()) acdbOpenObject(m_entity, id, AcDb::kForRead);
-  }
-  ~OpenEntity() {
-    if (m_entity) m_entity->close();
-  }
-  OpenEntity(const OpenEntity&) = delete;
-  OpenEntity& operator=(const OpenEntity&) = delete;
-  const AcDbEntity* Get() const { return m_entity; }
-
- private:
-  AcDbEntity* m_entity = nullptr;
-};
+using OpenEntity = TAcDbObjectPtr<AcDbEntity>;
 
 }  // namespace
 
@@ -139,14 +126,14 @@ void TEntitySet::GroupOf(const AcDbEntity& entity, int code, Value& out) {
 }
 
 bool TEntitySet::Is(const wchar_t* type) const {
-  const OpenEntity entity(ObjectId());
+  const OpenEntity entity(ObjectId(), AcDb::kForRead);
   return entity.Get() && acutWcMatch(TypeOf(*entity.Get()), type) == RTNORM;
 }
 
 bool TEntitySet::GetData(int code, wchar_t* out) const {
   out[0] = 0;
   m_groups.SetHead(nullptr);
-  const OpenEntity entity(ObjectId());
+  const OpenEntity entity(ObjectId(), AcDb::kForRead);
   if (!entity.Get()) return false;
   Value value;
   GroupOf(*entity.Get(), code, value);
@@ -161,7 +148,7 @@ bool TEntitySet::GetData(int code, wchar_t* out) const {
 }
 
 bool TEntitySet::MatchBase(const TRBList& mask) const {
-  const OpenEntity entity(ObjectId());
+  const OpenEntity entity(ObjectId(), AcDb::kForRead);
   if (!entity.Get() || mask.IsEmpty()) return false;
   for (const TGroups* group = mask.Head(); group; group = group->Next()) {
     Value value;

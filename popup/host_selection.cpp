@@ -1,12 +1,11 @@
 #include "popup/host_selection.h"
 
-#include <cstdlib>
-
 #include "acdocman.h"
-#include "adslib.h"
 #include "dbents.h"
+#include "dialogs/host_variables.h"
 #include "kernel/globals.h"
 #include "kernel/logical_layers.h"
+#include "kernel/tacdbobjectptr.h"
 #include "kernel/tdbconfig.h"
 
 namespace {
@@ -15,25 +14,10 @@ constexpr double kFirstHostWithPreview = 16.11;
 constexpr int kPaperSpacePort = 1;
 constexpr int kSpeedMenuNeedsSelection = 2;  // of g_nSpeedMenu, from this value on
 
-class OpenedEntity {
- public:
-  explicit OpenedEntity(const TEntitySet& entity) {
-    const AcDbObjectId id = entity.ObjectId();
-    if (!id.isNull()) acdbOpenObject(m_entity, id, AcDb::kForRead);
-  }
-  ~OpenedEntity() {
-    if (m_entity) m_entity->close();
-  }
-  OpenedEntity(const OpenedEntity&) = delete;
-  OpenedEntity& operator=(const OpenedEntity&) = delete;
-  AcDbEntity* Get() const { return m_entity; }
-
- private:
-  AcDbEntity* m_entity = nullptr;
-};
+using OpenedEntity = TAcDbObjectPtr<AcDbEntity>;
 
 GroupValue ReadGroup(const TPickEntSet& set, size_t object, int code) {
-  const OpenedEntity entity(set[static_cast<int>(object)]);
+  const OpenedEntity entity(set[static_cast<int>(object)].ObjectId(), AcDb::kForRead);
   GroupValue value;
   if (entity.Get()) TEntitySet::GroupOf(*entity.Get(), code, value);
   return value;
@@ -50,14 +34,6 @@ bool IsPreviewOffInDrawing() {
 
 }  // namespace
 
-int ShortVariable(const wchar_t* name, int byDefault) {
-  resbuf value{};
-  if (acedGetVar(name, &value) != RTNORM) return byDefault;
-  if (value.restype == RTSHORT) return value.resval.rint;
-  if (value.restype == RTSTR) std::free(value.resval.rstring);
-  return byDefault;
-}
-
 bool IsPreviewAllowed(const PreviewState& state) {
   if (!state.isEnabled) return false;
   if (state.hostVersion < kFirstHostWithPreview) return !state.isOffInDrawing;
@@ -69,7 +45,7 @@ PreviewState ReadPreviewState() {
   if (state.hostVersion < kFirstHostWithPreview)
     state.isOffInDrawing = IsPreviewOffInDrawing();
   else
-    state.hostVariable = ShortVariable(L"SELECTIONPREVIEW", 0);
+    state.hostVariable = qvx::ShortVariable(L"SELECTIONPREVIEW").value_or(0);
   return state;
 }
 
@@ -86,7 +62,7 @@ void ReadSelection(TPickEntSet& set) {
 SelectionDescription DescribeSelection(const TPickEntSet& set) {
   SelectionDescription selection;
   for (int i = 0, count = set.Length(); i < count; ++i) {
-    const OpenedEntity entity(set[i]);
+    const OpenedEntity entity(set[i].ObjectId(), AcDb::kForRead);
     if (!entity.Get())
       selection.Add(L"", L"", ObjectState::kUnreadable);
     else
@@ -96,7 +72,8 @@ SelectionDescription DescribeSelection(const TPickEntSet& set) {
   }
   selection.SetGroupReader(
       [&set](size_t object, int code) { return ReadGroup(set, object, code); });
-  if (!selection.Count()) selection.SetPaperSpace(ShortVariable(L"CVPORT", 0) == kPaperSpacePort);
+  if (!selection.Count())
+    selection.SetPaperSpace(qvx::ShortVariable(L"CVPORT").value_or(0) == kPaperSpacePort);
   return selection;
 }
 

@@ -28,9 +28,6 @@ SelectionDescription DescribeSelection(const TPickEntSet& set);
 // By the kernel's logical layers.
 bool ResolveLayer(std::wstring_view key, std::wstring& layer);
 
-// A short integer variable of the host; the default when it can't be read or is of another type.
-int ShortVariable(const wchar_t* name, int byDefault);
-
 // The block that a right click shows; -1 for none. With nothing selected a click shows no menu when
 // `speedMenu` is 2 or more, unless it is forced.
 int ChooseBlock(const TMenuSystem& system, const SelectionDescription& selection, int speedMenu,

@@ -6,6 +6,7 @@
 #include "acdocman.h"
 #include "adslib.h"
 #include "dbapserv.h"
+#include "dialogs/host_variables.h"
 
 namespace qvx {
 namespace {
@@ -54,10 +55,8 @@ LispAnswer HostLisp::Call(const wchar_t* function) {
 
 HostActivity AskHostActivity() {
   HostActivity host;
+  host.active = ShortVariable(L"CMDACTIVE").value_or(0);
   resbuf value{};
-  if (acedGetVar(L"CMDACTIVE", &value) == RTNORM && value.restype == RTSHORT)
-    host.active = value.resval.rint;
-  value = {};
   if (acedGetVar(L"CMDNAMES", &value) == RTNORM && value.restype == RTSTR && value.resval.rstring) {
     host.names = value.resval.rstring;
     std::free(value.resval.rstring);

@@ -24,19 +24,12 @@ void AppendEscaped(std::string& out, unsigned code) {
   }
 }
 
-const char* Word(bool value) { return value ? "true" : "false"; }
-
-std::string JsonRect(const RECT& r) {
-  return "[" + std::to_string(r.left) + "," + std::to_string(r.top) + "," +
-         std::to_string(r.right) + "," + std::to_string(r.bottom) + "]";
-}
-
 std::string JsonRows(const std::vector<ShellRow>& rows);
 
 std::string JsonRow(const ShellRow& row) {
   return "{\"label\":" + JsonString(row.label) + ",\"kind\":\"" + row.kind +
-         "\",\"enabled\":" + Word(row.enabled) + ",\"visible\":" + Word(row.visible) +
-         ",\"depth\":" + std::to_string(row.depth) + ",\"open\":" + Word(row.open) +
+         "\",\"enabled\":" + JsonWord(row.enabled) + ",\"visible\":" + JsonWord(row.visible) +
+         ",\"depth\":" + std::to_string(row.depth) + ",\"open\":" + JsonWord(row.open) +
          ",\"rect\":" + JsonRect(row.rect) + ",\"rows\":" + JsonRows(row.rows) + "}";
 }
 
@@ -92,11 +85,18 @@ std::string JsonString(const std::wstring& text) {
 }
 
 std::string ToJson(const ShellScreenMenu& menu) {
-  return std::string("{\"exists\":") + Word(menu.exists) + ",\"visible\":" + Word(menu.visible) +
-         ",\"enabled\":" + Word(menu.enabled) + ",\"floating\":" + Word(menu.floating) +
-         ",\"dock\":\"" + menu.dock + "\",\"title\":" + JsonString(menu.title) +
-         ",\"rect\":" + JsonRect(menu.rect) + ",\"scroll\":" + JsonScroll(menu.scroll) +
-         ",\"rows\":" + JsonRows(menu.rows) + "}";
+  return std::string("{\"exists\":") + JsonWord(menu.exists) +
+         ",\"visible\":" + JsonWord(menu.visible) + ",\"enabled\":" + JsonWord(menu.enabled) +
+         ",\"floating\":" + JsonWord(menu.floating) + ",\"dock\":\"" + menu.dock +
+         "\",\"title\":" + JsonString(menu.title) + ",\"rect\":" + JsonRect(menu.rect) +
+         ",\"scroll\":" + JsonScroll(menu.scroll) + ",\"rows\":" + JsonRows(menu.rows) + "}";
+}
+
+const char* JsonWord(bool value) { return value ? "true" : "false"; }
+
+std::string JsonRect(const RECT& r) {
+  return "[" + std::to_string(r.left) + "," + std::to_string(r.top) + "," +
+         std::to_string(r.right) + "," + std::to_string(r.bottom) + "]";
 }
 
 }  // namespace qvx

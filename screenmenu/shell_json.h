@@ -43,5 +43,7 @@ void AppendUtf8(std::string& out, unsigned code);
 // A JSON string with its quotes. Lone surrogates become U+FFFD, so the result is always valid
 // UTF-8.
 std::string JsonString(const std::wstring& text);
+const char* JsonWord(bool value);
+std::string JsonRect(const RECT& r);
 
 }  // namespace qvx

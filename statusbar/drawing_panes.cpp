@@ -1,12 +1,12 @@
 // The panes of the current drawing's switches: fill, bold lines, base line. Their state stands in
 // the drawing; without a drawing all are off.
 #include "adslib.h"
+#include "dialogs/host_variables.h"
 #include "kernel/drawing_switches.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "kernel/tdbconfig.h"
 #include "kernel/tregproperty.h"
-#include "statusbar/host_variables.h"
 #include "statusbar/switch_panes.h"
 
 namespace {

@@ -6,6 +6,7 @@
 #include "aced.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
+#include "dialogs/host_variables.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/entities/tdbdimension2.h"
 #include "kernel/globals.h"
@@ -13,7 +14,6 @@
 #include "kernel/tdbconfig.h"
 #include "kernel/tpickentset.h"
 #include "kernel/trblist.h"
-#include "statusbar/host_variables.h"
 #include "statusbar/scale_rules.h"
 
 namespace qvx {

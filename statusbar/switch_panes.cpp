@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "adslib.h"
+#include "dialogs/host_variables.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
 #include "statusbar/dyn_input_dialog.h"
-#include "statusbar/host_variables.h"
 #include "statusbar/pane_icons.h"
 
 namespace {
