@@ -1,6 +1,7 @@
 # What every folder's list uses: warnings, sanitizers, the header-only libraries, and the two verbs
 # qvx_module (a host module with the .arx suffix) and qvx_test (one test program).
 option(QVX_TESTS "build the tests" ON)
+option(QVX_LTO "optimise the menu engine and the kernel's texts across files" OFF)
 option(QVX_SANITIZE "address and undefined behaviour sanitizers (native only)" OFF)
 
 add_compile_options(-Wall -Wextra)

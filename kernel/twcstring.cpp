@@ -48,6 +48,17 @@ void TWCString::Keep(const wchar_t* text, int count) {
   std::swap(m_bits, kept.m_bits);
 }
 
+// In place: the length moves up in front of what is left. The block is known by any address in it.
+void TWCString::CutFront(int even) {
+  const int left = Length() - even;
+  if (!IsKept() || left == 0) {
+    const TWCString rest(c_str() + even);
+    return Assign(rest.c_str(), left);
+  }
+  m_bits += BytesOf(even);
+  Head()[kLength] = left;
+}
+
 // Too long for packed memory: on the heap like any other text.
 wchar_t* TWCString::LongRoom(int count) {
   if (count > kLargest - kOverrun) throw std::bad_alloc();

@@ -96,6 +96,9 @@ class QVX_KERNEL TWCString {
           std::memcpy(room + done, text + done, PackedMemory::kOverrun);
     });
   }
+  // Drops the first units of a text that was kept just now and that has no copies; an even number,
+  // no more than it has.
+  void CutFront(int even);
   void Append(const wchar_t* text, int count);
   void Reserve(int capacity) {
     if (capacity > Capacity()) Grow(capacity);

@@ -1,6 +1,9 @@
 #include "menu/menu_line.h"
 
-#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 #include "menu/ansi_text.h"
 #include "menu/byte_search.h"
@@ -39,22 +42,39 @@ wchar_t* ExpandCommand(std::wstring_view text, wchar_t* out) {
   return out;
 }
 
-// The same for a command in ASCII, the plain stretches of it at once.
+// Copies up to the first character that is special in a command or not in ASCII, and steps on to
+// it; false when there is none. Eight bytes in front of `end` can be read, and seven behind what is
+// written are overwritten.
+bool CopyPlain(const char*& p, const char* end, char*& out) {
+  for (;;) {
+    const bool isLast = end - p < 8;
+    const std::uint64_t eight = isLast ? bytes::LastOf(p, end) : bytes::EightAt(p);
+    std::memcpy(out, &eight, sizeof eight);
+    const std::uint64_t marks = bytes::Marks(eight, '"') | bytes::Marks(eight, ';') |
+                                bytes::Marks(eight, '^') | (eight & bytes::kHighBits);
+    const std::ptrdiff_t count = marks ? std::countr_zero(marks) / 8 : isLast ? end - p : 8;
+    p += count;
+    out += count;
+    if (marks || isLast) return marks;
+  }
+}
+
+// The same for a command in ASCII, the plain stretches of it at once. Null when it is not in ASCII.
+// Eight bytes in front of its end can be read.
 char* ExpandCommand(std::string_view text, char* out) {
   const char* p = text.data();
   const char* end = p + text.size();
   bool quoted = false;
-  for (;;) {
-    const char* special = bytes::FindAny<'"', ';', '^'>(p, end);
-    out = std::copy(p, special, out);
-    if (special == end) break;
-    p = special + 1;
-    if (*special == '"') quoted = !quoted;
-    if (*special != '^') {
-      *out++ = *special == ';' && !quoted ? '\n' : *special;
+  while (CopyPlain(p, end, out)) {
+    const char special = *p++;
+    if (special & 0x80) return nullptr;
+    if (special == '"') quoted = !quoted;
+    if (special != '^') {
+      *out++ = special == ';' && !quoted ? '\n' : special;
       continue;
     }
     if (p == end) break;
+    if (*p & 0x80) return nullptr;
     if (*p == '"') quoted = !quoted;
     if (*p == 'C' || *p == 'c') *out++ = kEscape;
     ++p;
@@ -63,21 +83,32 @@ char* ExpandCommand(std::string_view text, char* out) {
   return out;
 }
 
+// In whole pieces where the string has room for that.
+void Widen(const char* p, const char* end, wchar_t* out) {
+  if constexpr (TWCString::kOverrun < 16) {
+    bytes::WidenAscii(p, end, out);
+  } else {
+    for (; p < end; p += 16, out += 16)
+      for (int i = 0; i < 16; ++i) out[i] = static_cast<unsigned char>(p[i]);
+  }
+}
+
 // False when the line is not of the usual kind: a label of whole characters, a command in ASCII.
 bool ParseUsualLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {
   std::wstring_view label;
   const char* close = ansi.DecodeUntil(']', narrow.substr(1), label);
-  const char* end = narrow.data() + narrow.size();
-  if (!close || !bytes::IsAscii(close, end)) return false;
+  if (!close) return false;
+  std::string_view command = TrimEnd(std::string_view(close + 1, narrow.data() + narrow.size()));
+  if (!command.empty()) {
+    if (command.back() == ';') command.remove_suffix(1);
+    if (command.data() + command.size() - narrow.data() < 8) return false;
+    char expanded[kLongestToken + 1 + 16];
+    const char* end = ExpandCommand(command, expanded);
+    if (!end) return false;
+    item.m_strCommand.KeepBy(static_cast<int>(end - expanded),
+                             [&](wchar_t* room) { Widen(expanded, end, room); });
+  }
   item.m_strLabel.KeepQuickly(label.data(), static_cast<int>(label.size()));
-
-  std::string_view command = TrimEnd(std::string_view(close + 1, end));
-  if (command.empty()) return true;
-  if (command.back() == ';') command.remove_suffix(1);
-  char expanded[kLongestToken + 1];
-  end = ExpandCommand(command, expanded);
-  item.m_strCommand.KeepBy(static_cast<int>(end - expanded),
-                           [&](wchar_t* room) { bytes::WidenAscii(expanded, end, room); });
   return true;
 }
 

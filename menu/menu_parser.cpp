@@ -30,6 +30,7 @@ void MoveAll(TDPtrList<T>& from, TDPtrList<T>& to) {
 int MenuParser::Parse() {
   Advance();
   if (!QmnMenu()) return 1;
+  m_work.Settle();
   Commit();
   return 0;
 }
@@ -72,30 +73,32 @@ bool MenuParser::MenuBarList() {
 // of the first line when that line follows.
 bool MenuParser::MenuBar() {
   auto bar = std::make_unique<TMenuBar>();
-  if (!ExpectName(bar->m_strName)) return false;
+  if (!ExpectName({.text = &bar->m_strName})) return false;
   Mask mask;
   if (Is(QMN_IDENTIFIER)) {
     ExpectPendingIcon();
     if (Is(QMN_EQUAL)) {
       m_hasPendingIcon = false;
-      m_work.names.CopyTo(m_work.names.Add(m_pendingIcon), bar->m_strKind);
+      m_work.Take({.key = m_pendingIcon, .text = &bar->m_strKind});
       Advance();
       if (!ObjectMask(mask)) return false;
     }
   }
   if (!MenuItemList()) return false;
-  MoveAll(m_lines, *bar);
   bar->m_objectMask = std::move(mask.groups);
   if (mask.lost || m_barsLost)
     LoseBars();
   else
     KeepBar(std::move(bar));
-  m_labels.clear();
+  m_block.Clear();
   return true;
 }
 
 void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
-  if (m_finishes) FinishBlock(*bar, m_labels, m_work);
+  if (m_finishes)
+    FinishBlock(m_lines, *bar, m_block, m_work);
+  else
+    MoveAll(m_lines, *bar);
   m_bars.Append(bar.get());
   static_cast<void>(bar.release());
 }
@@ -105,6 +108,8 @@ void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
 void MenuParser::LoseBars() {
   m_barsLost = true;
   m_bars.Clear();
+  m_lines.Clear();
+  m_work.Forget();
   m_work.icons.clear();
   m_work.marks.clear();
 }
@@ -185,11 +190,13 @@ bool MenuParser::MenuItemList() {
 bool MenuParser::MenuItem() {
   if (!m_hasPendingIcon && Is(QMN_IDENTIFIER)) ExpectPendingIcon();
   if (!Check(QMN_MENU_ITEM)) return false;
-  if (m_hasPendingIcon) m_work.names.Approach(m_pendingIcon);
   TMenuItem& item = AppendNew(m_lines);
   ParseMenuLine(m_token.text, m_ansi, item);
   const bool hasIcon = std::exchange(m_hasPendingIcon, false);
-  NoteLine(item, hasIcon ? m_work.names.Add(m_pendingIcon) : PassWork::kNoName);
+  if (hasIcon)
+    m_work.Take(
+        {.key = m_pendingIcon, .text = &item.m_strIconName, .iconIndex = &item.m_nIconIndex});
+  if (m_finishes) m_block.Note(item, m_lines.Length() - 1, hasIcon ? &m_pendingIcon : nullptr);
   Advance();
   return true;
 }
@@ -198,14 +205,6 @@ void MenuParser::ExpectPendingIcon() {
   m_pendingIcon = m_work.names.Announce(m_token.text);
   m_hasPendingIcon = true;
   Advance();
-}
-
-void MenuParser::NoteLine(TMenuItem& item, int icon) {
-  if (icon != PassWork::kNoName) {
-    m_work.names.CopyTo(icon, item.m_strIconName);
-    m_work.icons.push_back({&item.m_nIconIndex, icon});
-  }
-  if (IsLabelWork(item)) m_labels.push_back({&item, icon});
 }
 
 // menu_switch_list : menu_switch_list menu_switch_item
@@ -223,10 +222,8 @@ bool MenuParser::MenuSwitchList() {
 bool MenuParser::MenuSwitchItem() {
   Advance();
   TMenuSwitchItem& made = AppendNew(m_switches);
-  m_work.switches.push_back(PassWork::kNoName);
-  if (!ExpectNumberedName(m_work.switches.back())) return false;
-  m_work.names.CopyTo(m_work.switches.back(), made.m_strName);
-  return ExpectFunction(QMN_GET_STATE, made.m_strGetFn) &&
+  return ExpectName({.text = &made.m_strName, .table = &m_work.switches}) &&
+         ExpectFunction(QMN_GET_STATE, made.m_strGetFn) &&
          ExpectFunction(QMN_SET_STATE, made.m_strSetFn) && SwitchStateList(made);
 }
 
@@ -245,7 +242,8 @@ bool MenuParser::SwitchStateItem(TMenuSwitchItem& owner) {
   TSwitchStateItem& state = AppendNew(owner.m_states);
   state.m_nValue = m_token.number;
   Advance();
-  return Expect(QMN_EQUAL) && ExpectIcon(state.m_strIconName, state.m_nIconIndex) &&
+  return Expect(QMN_EQUAL) &&
+         ExpectName({.text = &state.m_strIconName, .iconIndex = &state.m_nIconIndex}) &&
          Expect(QMN_COMA) && ExpectString(state.m_strLabel);
 }
 
@@ -261,14 +259,8 @@ bool MenuParser::MenuResList() {
 // menu_res_item : QMN_IDENTIFIER QMN_EQUAL QMN_STRING QMN_COMA QMN_STRING
 bool MenuParser::MenuResItem() {
   TMenuResItem& made = AppendNew(m_resources);
-  const NamePool::Key key = m_work.names.Announce(m_token.text);
-  Advance();
-  if (!Expect(QMN_EQUAL) || !ExpectString(made.m_strImage)) return false;
-  m_work.names.Approach(key);
-  if (!Expect(QMN_COMA) || !ExpectString(made.m_strImage2)) return false;
-  m_work.resources.push_back(m_work.names.Add(key));
-  m_work.names.CopyTo(m_work.resources.back(), made.m_strName);
-  return true;
+  return ExpectName({.text = &made.m_strName, .table = &m_work.resources}) && Expect(QMN_EQUAL) &&
+         ExpectString(made.m_strImage) && Expect(QMN_COMA) && ExpectString(made.m_strImage2);
 }
 
 bool MenuParser::Check(int kind) { return Is(kind) || SyntaxError(); }
@@ -286,31 +278,18 @@ bool MenuParser::ExpectString(TWCString& out) {
   return true;
 }
 
-bool MenuParser::ExpectNumberedName(int& name) {
+// An identifier; the use has everything but it.
+bool MenuParser::ExpectName(NameUse use) {
   if (!Check(QMN_IDENTIFIER)) return false;
-  name = m_work.names.Add(m_token.text);
+  use.key = m_work.names.Announce(m_token.text);
+  m_work.Take(use);
   Advance();
-  return true;
-}
-
-bool MenuParser::ExpectName(TWCString& out) {
-  int name;
-  if (!ExpectNumberedName(name)) return false;
-  m_work.names.CopyTo(name, out);
-  return true;
-}
-
-bool MenuParser::ExpectIcon(TWCString& out, int& index) {
-  int name;
-  if (!ExpectNumberedName(name)) return false;
-  m_work.names.CopyTo(name, out);
-  m_work.icons.push_back({&index, name});
   return true;
 }
 
 // keyword QMN_EQUAL QMN_IDENTIFIER
 bool MenuParser::ExpectFunction(int keyword, TWCString& out) {
-  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectName(out);
+  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectName({.text = &out});
 }
 
 bool MenuParser::SyntaxError() {

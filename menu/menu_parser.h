@@ -55,15 +55,12 @@ class MenuParser {
   bool Check(int kind);
   bool Expect(int kind);
   bool ExpectString(TWCString& out);
-  bool ExpectName(TWCString& out);
-  bool ExpectNumberedName(int& name);
-  bool ExpectIcon(TWCString& out, int& index);
+  bool ExpectName(NameUse use);
   bool ExpectFunction(int keyword, TWCString& out);
   bool SyntaxError();
   void MakeGroup(int code, TRBList& group);
   void ReportKind(int code, const wchar_t* kind);
   void ExpectPendingIcon();
-  void NoteLine(TMenuItem& item, int icon);
   void KeepBar(std::unique_ptr<TMenuBar> bar);
   void LoseBars();
   void Commit();
@@ -80,8 +77,8 @@ class MenuParser {
 
   bool m_finishes = false;  // runs the passes too
   PassWork m_work;
-  std::vector<PassWork::LabelUse> m_labels;  // of the block that is being read
-  TDPtrList<TMenuItem> m_lines;              // of the block that is being read
+  BlockWork m_block;             // of the block that is being read
+  TDPtrList<TMenuItem> m_lines;  // its lines
   TWCString m_title;
   TDPtrList<TMenuBar> m_bars;
   bool m_barsLost = false;

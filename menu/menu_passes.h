@@ -9,47 +9,130 @@
 
 #include <vector>
 
+#include "frame/containers/tdptrlist.h"
 #include "menu/name_pool.h"
 
 class TMenuSystem;
 class TMenuBar;
 class TMenuItem;
 
-struct PassWork {
+// A name in the source, what takes it and what its number is for.
+struct NameUse {
+  NamePool::Key key{};
+  TWCString* text = nullptr;          // gets the name
+  int* iconIndex = nullptr;           // gets the place of the icon, at the end of the file
+  TMenuItem* mark = nullptr;          // gets the switch, at the end of the file
+  std::vector<int>* table = nullptr;  // whose entry it is
+};
+
+class PassWork {
+ public:
   struct IconUse {
     int* index;  // of a line or a state
     int name;
   };
+  struct Mark {
+    TMenuItem* item;
+    int name;  // kNoName for none
+  };
   struct LabelUse {
     TMenuItem* item;
-    int icon;  // the name in front of the line; kNoName for none
+    bool hasIcon;
+    NamePool::Key icon;  // the name in front of the line
   };
   static constexpr int kNoName = -1;
 
   explicit PassWork(size_t sourceBytes) : names(sourceBytes) {}
 
+  // What takes the name lives until the next Settle or Forget. Look-ups are gathered, since in a
+  // large menu most of them leave the caches: many together wait for the memory once.
+  void Take(const NameUse& use) {
+    m_open[m_openCount] = use;
+    if (++m_openCount == kTogether) Settle();
+  }
+  void Settle();
+  void Forget() { m_openCount = 0; }
+
   NamePool names;
   std::vector<int> resources;  // the name of each entry
   std::vector<int> switches;
   std::vector<IconUse> icons;
-  std::vector<LabelUse> marks;  // lines that show a switch
+  std::vector<Mark> marks;  // lines that show a switch
+
+ private:
+  static constexpr size_t kTogether = 64;
+  NameUse m_open[kTogether];
+  size_t m_openCount = 0;
 };
 
-// Whether a label as it is written may be work for FinishBlock.
-bool IsLabelWork(const TMenuItem& item);
-// For a block whose lines are complete: nests them, notes the lines that show a switch and strips
-// the conditions of the others. `labels` has at least all lines with such work.
-void FinishBlock(TMenuBar& bar, const std::vector<PassWork::LabelUse>& labels, PassWork& work);
-// At the end of an accepted file: icons and switches.
-void ResolveNames(TMenuSystem& system, const PassWork& work);
-
-// Gives the number of steps: each closed a range or ended a bar, so that there are no more than two
-// a line and one.
-int NestSubMenus(TMenuBar& bar);
-void StripConditions(TMenuItem& item);
-
-// First and last line of one "->" to "<-" range while sub-menus are built.
+// First and last of one "->" to "<-" range while sub-menus are built.
 struct TItemDot {
   int first;
   int last;
 };
+
+// Hands the lines of a block out to its bar and the sub-menus below it. The arrows are noted while
+// the lines are read, so that no line without one is looked at again.
+class SubMenuNester {
+ public:
+  // For each line of the block, in their order; lines without an arrow may be left out. The label
+  // loses its arrows until HandOut says which of them stay.
+  void Note(TMenuItem& item, int line);
+  // Empties the list, which owns its lines, and forgets the arrows. Gives the number of steps: each
+  // closed a range or ended a bar, so that there are no more than two a line and one.
+  int HandOut(TDPtrList<TMenuItem>& lines, TMenuBar& bar);
+  void Clear();
+
+ private:
+  struct Arrow {
+    TMenuItem* item;
+    int line;
+    int pairs;        // leading "<-"; -1 for "->"
+    int sum;          // +1 for each opening line, -1 for each pair, with this line
+    int worn;         // pairs that it has lost to ranges
+    int end;          // arrow that closes an opening one
+    int nextOpening;  // this arrow or the first opening one behind it
+  };
+  struct Place {
+    TMenuBar* bar;
+    int begin;  // its lines in the list, begin to end
+    int end;
+    int next;  // line
+    int nextArrow;
+    int last;       // line
+    int lastArrow;  // of the last line
+  };
+  const Arrow& At(int arrow) const { return m_arrows[static_cast<size_t>(arrow)]; }
+  void Note(TMenuItem& item, int line, int pairs);
+  void FindEnds();
+  TItemDot NextRange(const Place& place) const;  // arrows
+  void Step(TDPtrList<TMenuItem>& lines);
+
+  std::vector<Arrow> m_arrows;
+  bool m_hasOpening = false;
+  int m_sum = 0;
+  int m_lowest = 0;
+  int m_highest = 0;
+  std::vector<int> m_nearest;
+  std::vector<Place> m_path;  // the bars under construction
+};
+
+// What the lines of one block leave for its end, gathered while they are read.
+struct BlockWork {
+  std::vector<PassWork::LabelUse> labels;
+  SubMenuNester nester;
+
+  void Note(TMenuItem& item, int line, const NamePool::Key* icon);
+  void Clear() {
+    labels.clear();
+    nester.Clear();
+  }
+};
+
+// For a block whose lines are complete: hands them out to the bar, notes the lines that show a
+// switch and strips the conditions of the others.
+void FinishBlock(TDPtrList<TMenuItem>& lines, TMenuBar& bar, BlockWork& block, PassWork& work);
+// At the end of an accepted file, all names settled: icons and switches.
+void ResolveNames(TMenuSystem& system, const PassWork& work);
+
+void StripConditions(TMenuItem& item);

@@ -53,24 +53,32 @@ CharClass ClassOf(char c) { return kClasses[static_cast<unsigned char>(c)]; }
 bool IsDigit(char c) { return ClassOf(c) == kDigit; }
 bool IsWord(char c) { return ClassOf(c) == kLetter || ClassOf(c) == kDigit; }
 
+struct Keyword {
+  std::string_view word;
+  int kind;
+};
+
+// By length and first letter each keyword has a place of its own.
+constexpr size_t PlaceOfWord(std::string_view word) {
+  return (word.size() * 2 + static_cast<unsigned char>(word[0])) % 16;
+}
+
+constexpr std::array<Keyword, 16> MakeKeywords() {
+  std::array<Keyword, 16> places{};
+  for (const Keyword& keyword :
+       {Keyword{"GET", QMN_GET_STATE}, Keyword{"SET", QMN_SET_STATE}, Keyword{"POP", QMN_POP},
+        Keyword{"CTRL", QMN_CTRL}, Keyword{"SWITCH", QMN_MENU_SWITCH},
+        Keyword{"RCLICK", QMN_RCLICK}, Keyword{"RESOURCE", QMN_MENU_RES},
+        Keyword{"MENU_TITLE", QMN_TITLE}})
+    places[PlaceOfWord(keyword.word)] = keyword;
+  return places;
+}
+constexpr std::array<Keyword, 16> kKeywords = MakeKeywords();
+
+// Most words are names, so that what is asked first is nearly always false.
 int KindOfWord(std::string_view word) {
-  switch (word.size()) {
-    case 3:
-      return word == "GET"   ? QMN_GET_STATE
-             : word == "SET" ? QMN_SET_STATE
-             : word == "POP" ? QMN_POP
-                             : QMN_IDENTIFIER;
-    case 4:
-      return word == "CTRL" ? QMN_CTRL : QMN_IDENTIFIER;
-    case 6:
-      return word == "SWITCH" ? QMN_MENU_SWITCH : word == "RCLICK" ? QMN_RCLICK : QMN_IDENTIFIER;
-    case 8:
-      return word == "RESOURCE" ? QMN_MENU_RES : QMN_IDENTIFIER;
-    case 10:
-      return word == "MENU_TITLE" ? QMN_TITLE : QMN_IDENTIFIER;
-    default:
-      return QMN_IDENTIFIER;
-  }
+  const Keyword& keyword = kKeywords[PlaceOfWord(word)];
+  return word == keyword.word ? keyword.kind : QMN_IDENTIFIER;
 }
 
 int SaturatedNumber(const char* begin, const char* end) {

@@ -67,8 +67,10 @@ TSharedText Widened(std::string_view name) {
 // on one slot.
 NamePool::NamePool(size_t sourceBytes)
     : m_seed(reinterpret_cast<std::uintptr_t>(this) * 0xD6E8FEB86659FD93u),
-      m_byName(sourceBytes / kBytesAName) {
+      m_heads(sourceBytes / kBytesAName),
+      m_variants(0) {
   m_names.reserve(sourceBytes / kBytesAName);
+  m_families.reserve(sourceBytes / kBytesAName);
 }
 
 NamePool::Name::Name(std::string_view name)
@@ -116,49 +118,52 @@ void NamePool::Table::Spread(size_t slots) {
 }
 
 NamePool::Key NamePool::Announce(std::string_view name) const {
-  const Key key{name, HashOf(name, m_seed, 0)};
-  m_byName.Prefetch(key.hash);
+  const Key key{name, HashOf(name, m_seed, kFoldEight)};
+  m_heads.Prefetch(key.hash);
   return key;
 }
 
 void NamePool::Approach(const Key& key) const {
-  if (const int number = m_byName.Nearest(key.hash); number != Table::kNone)
+  if (const int number = m_heads.Nearest(key.hash); number != Table::kNone)
     __builtin_prefetch(&At(number));
 }
 
 int NamePool::Add(const Key& key) {
-  const int known = m_byName.Find(key.hash, [&](int number) {
+  bool isHead = false;
+  const int family = m_heads.Find(key.hash, [&](int number) {
     ++m_comparisons;
-    return At(number).Is(key.name);
+    isHead = At(number).Is(key.name);
+    return isHead || EqualNoCase(At(number).Whole(), key.name);
+  });
+  if (isHead) return family;
+  if (family != Table::kNone) return AddVariant(key.name, family);
+  const int number = AddNew(key.name, Count());
+  m_heads.Add(key.hash, number);
+  return number;
+}
+
+// So a family may be large and its names are still found at once.
+int NamePool::AddVariant(std::string_view name, int family) {
+  const uint32_t hash = HashOf(name, m_seed, 0);
+  const int known = m_variants.Find(hash, [&](int number) {
+    ++m_comparisons;
+    return At(number).Is(name);
   });
   if (known != Table::kNone) return known;
-  m_names.emplace_back(key.name);
-  m_byName.Add(key.hash, Count() - 1);
+  m_variants.Add(hash, Count());
+  return AddNew(name, family);
+}
+
+int NamePool::AddNew(std::string_view name, int family) {
+  m_names.emplace_back(name);
+  m_families.push_back(family);
   return Count() - 1;
 }
 
-// The hashes come first, so that the places in the table can be asked for ahead of their use.
-NameFamilies::NameFamilies(const NamePool& pool) : m_families(pool.m_names.size()) {
-  constexpr size_t kAhead = 8;
-  const size_t count = m_families.size();
-  std::vector<uint32_t> hashes(count + kAhead);
-  for (size_t i = 0; i < count; ++i)
-    hashes[i] = HashOf(pool.m_names[i].Whole(), pool.m_seed, kFoldEight);
-  NamePool::Table table(count);
-  for (size_t i = 0; i < count; ++i) {
-    table.Prefetch(hashes[i + kAhead]);
-    const std::string_view name = pool.m_names[i].Whole();
-    const int known = table.Find(
-        hashes[i], [&](int number) { return EqualNoCase(pool.At(number).Whole(), name); });
-    m_families[i] = known == NamePool::Table::kNone ? static_cast<int>(i) : known;
-    if (known == NamePool::Table::kNone) table.Add(hashes[i], static_cast<int>(i));
-  }
-}
-
-NameLookup::NameLookup(const NameFamilies& families, const std::vector<int>& tableNames)
-    : m_families(families), m_entries(static_cast<size_t>(families.Count()), -1) {
+NameLookup::NameLookup(const NamePool& pool, const std::vector<int>& tableNames)
+    : m_pool(pool), m_entries(static_cast<size_t>(pool.Count()), -1) {
   for (size_t i = 0; i < tableNames.size(); ++i) {
-    int& entry = m_entries[static_cast<size_t>(families.Of(tableNames[i]))];
+    int& entry = m_entries[static_cast<size_t>(pool.FamilyOf(tableNames[i]))];
     if (entry < 0) entry = static_cast<int>(i);
   }
 }

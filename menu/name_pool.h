@@ -29,13 +29,14 @@ class NamePool {
   int Count() const { return static_cast<int>(m_names.size()); }
   void CopyTo(int number, TWCString& out) { m_names[static_cast<size_t>(number)].text.CopyTo(out); }
 
+  // Names that are equal when case is ignored are one family: the number of its first name.
+  int FamilyOf(int number) const { return m_families[static_cast<size_t>(number)]; }
+
   // How many names were compared so far; tests hold it near the number of calls.
   size_t Comparisons() const { return m_comparisons; }
 
  private:
-  friend class NameFamilies;
-
-  struct Name {
+  struct alignas(64) Name {  // one line of the cache
     explicit Name(std::string_view name);
     std::string_view Whole() const { return {begin, length}; }
     bool Is(std::string_view name) const;
@@ -43,7 +44,7 @@ class NamePool {
     TSharedText text;
     const char* begin;  // in the source
     unsigned char length;
-    char head[15];  // most names lie in the record as a whole: comparing them goes nowhere else
+    char head[39];  // nearly all names lie in the record whole: comparing them goes nowhere else
   };
 
   // Names or families by their hash, with open addressing.
@@ -74,34 +75,26 @@ class NamePool {
   };
 
   const Name& At(int number) const { return m_names[static_cast<size_t>(number)]; }
+  int AddNew(std::string_view name, int family);
+  int AddVariant(std::string_view name, int family);
 
   uint64_t m_seed;
   std::vector<Name> m_names;
-  Table m_byName;
+  std::vector<int> m_families;  // of each name
+  Table m_heads;                // the first name of each family, by a hash that ignores case
+  Table m_variants;             // all others, by a hash that does not
   size_t m_comparisons = 0;
-};
-
-// Names that are equal when case is ignored are one family.
-class NameFamilies {
- public:
-  explicit NameFamilies(const NamePool& pool);
-  // The number of the first name of the family.
-  int Of(int number) const { return m_families[static_cast<size_t>(number)]; }
-  int Count() const { return static_cast<int>(m_families.size()); }
-
- private:
-  std::vector<int> m_families;
 };
 
 // From the numbers of a table's names to the first entry of that name, case ignored.
 class NameLookup {
  public:
-  NameLookup(const NameFamilies& families, const std::vector<int>& tableNames);
+  NameLookup(const NamePool& pool, const std::vector<int>& tableNames);
   int Find(int number) const {  // -1 when there is none
-    return m_entries[static_cast<size_t>(m_families.Of(number))];
+    return m_entries[static_cast<size_t>(m_pool.FamilyOf(number))];
   }
 
  private:
-  const NameFamilies& m_families;
+  const NamePool& m_pool;
   std::vector<int> m_entries;  // by family
 };

@@ -2,27 +2,41 @@
 #include "menu/menu_passes.h"
 #include "menu/menu_system.h"
 
+void PassWork::Settle() {
+  for (size_t i = 0; i < m_openCount; ++i) names.Approach(m_open[i].key);
+  for (size_t i = 0; i < m_openCount; ++i) {
+    const NameUse& use = m_open[i];
+    const int name = names.Add(use.key);
+    if (use.text) names.CopyTo(name, *use.text);
+    if (use.iconIndex) icons.push_back({use.iconIndex, name});
+    if (use.mark) marks.push_back({use.mark, name});
+    if (use.table) use.table->push_back(name);
+  }
+  Forget();
+}
+
 // A label that is the mark of a switch only once its conditions are off shows no switch: marks are
 // told first.
-void FinishBlock(TMenuBar& bar, const std::vector<PassWork::LabelUse>& labels, PassWork& work) {
-  NestSubMenus(bar);
-  for (const PassWork::LabelUse& label : labels) {
-    if (label.item->IsSwitchMark())
-      work.marks.push_back(label);
-    else
+void FinishBlock(TDPtrList<TMenuItem>& lines, TMenuBar& bar, BlockWork& block, PassWork& work) {
+  block.nester.HandOut(lines, bar);
+  for (const PassWork::LabelUse& label : block.labels) {
+    if (!label.item->IsSwitchMark())
       StripConditions(*label.item);
+    else if (label.hasIcon)
+      work.Take({.key = label.icon, .mark = label.item});
+    else
+      work.marks.push_back({label.item, PassWork::kNoName});
   }
 }
 
 void ResolveNames(TMenuSystem& system, const PassWork& work) {
-  const NameFamilies families(work.names);
-  const NameLookup icons(families, work.resources);
+  const NameLookup icons(work.names, work.resources);
   for (const PassWork::IconUse& use : work.icons)
     if (const int found = icons.Find(use.name); found >= 0) *use.index = found;
 
-  const NameLookup switches(families, work.switches);
-  for (const PassWork::LabelUse& mark : work.marks) {
-    const int found = mark.icon == PassWork::kNoName ? -1 : switches.Find(mark.icon);
+  const NameLookup switches(work.names, work.switches);
+  for (const PassWork::Mark& mark : work.marks) {
+    const int found = mark.name == PassWork::kNoName ? -1 : switches.Find(mark.name);
     mark.item->m_pSwitch = found >= 0 ? system.m_switches.At(found) : nullptr;
   }
 }

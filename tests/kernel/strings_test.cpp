@@ -145,6 +145,32 @@ TEST(KeptText, LongOnesAreKeptOnTheHeap) {
 }
 
 // What is written behind a text is overwritten by the next one, never the other way round.
+TEST(KeptText, LosesItsFirstUnitsWithoutMoving) {
+  const std::size_t live = PackedMemory::LiveBlocks();
+  {
+    TWCString text, neighbour, whole, assigned(L"<-wall");
+    text.Keep(L"<-<-wall", 8);
+    neighbour.Keep(L"door", 4);
+    const wchar_t* rest = text.c_str() + 4;
+    text.CutFront(4);
+    EXPECT_EQ(text.c_str(), rest);
+    EXPECT_EQ(text.Length(), 4);
+    EXPECT_STREQ(text.c_str(), L"wall");
+    EXPECT_STREQ(neighbour.c_str(), L"door");
+    whole.Keep(L"->", 2);
+    whole.CutFront(2);
+    EXPECT_TRUE(whole.IsEmpty());
+    EXPECT_STREQ(whole.c_str(), L"");
+    assigned.CutFront(2);
+    EXPECT_STREQ(assigned.c_str(), L"wall");
+    const TWCString copy(text);
+    text += L"s";
+    EXPECT_STREQ(copy.c_str(), L"wall");
+    EXPECT_STREQ(text.c_str(), L"walls");
+  }
+  EXPECT_EQ(PackedMemory::LiveBlocks(), live);
+}
+
 TEST(KeptText, QuickCopiesOfEachLengthKeepTheirNeighbours) {
   wchar_t source[300 + TWCString::kOverrun];
   std::iota(std::begin(source), std::end(source), L'A');

@@ -14,6 +14,7 @@
 #include "kernel/native_file.h"
 #include "kernel/qvxexport.h"
 #include "menu/menu_compiler.h"
+#include "menu/menu_passes.h"
 
 std::string Utf8(const wchar_t* text) {
   std::u16string units;
@@ -181,6 +182,14 @@ std::string DumpTree(TMenuSystem& system) {
     text += "\n" + DumpLines(*bar, &system, 0);
   }
   return text;
+}
+
+int NestSubMenus(TMenuBar& bar) {
+  TDPtrList<TMenuItem> lines;
+  lines.TakeAll(bar);
+  SubMenuNester nester;
+  for (int i = 0; i < lines.Length(); ++i) nester.Note(*lines.At(i), i);
+  return nester.HandOut(lines, bar);
 }
 
 std::string SaveBytes(TMenuSystem& system) {

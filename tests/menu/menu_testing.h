@@ -38,6 +38,9 @@ std::string DumpTokens(const std::string& source);  // "line KIND text" for each
 std::string DumpTree(TMenuSystem& system);
 std::string DumpBar(TMenuBar& bar, int indent = 0);
 
+// Builds the sub-menus of a bar as the parser does; gives the number of steps.
+int NestSubMenus(TMenuBar& bar);
+
 std::string SaveBytes(TMenuSystem& system);
 // Empty when all went well, else the name of the exception.
 std::string LoadBytes(TMenuSystem& system, const std::string& bytes);

@@ -2,7 +2,6 @@
 // grows with the length of the file and not with its square.
 #include <gtest/gtest.h>
 
-#include "menu/menu_passes.h"
 #include "menu/name_pool.h"
 #include "tests/menu/menu_testing.h"
 
@@ -107,10 +106,11 @@ TEST(MenuDepth, NestingTakesAtMostTwoStepsALine) {
     }
 }
 
-TEST(MenuDepth, ABlockWithoutSubMenusTakesNoStep) {
+TEST(MenuDepth, ABlockWithoutSubMenusTakesOneStep) {
   TMenuBar bar;
   for (const wchar_t* label : {L"a", L"<-b", L"c->"}) bar.Append(new TMenuItem(label, L""));
-  EXPECT_EQ(NestSubMenus(bar), 0);
+  EXPECT_EQ(NestSubMenus(bar), 1);
+  EXPECT_EQ(bar.Length(), 3);
 }
 
 TEST(MenuDepth, ALookUpByNameComparesAFewNamesHoweverManyThereAre) {
@@ -123,6 +123,19 @@ TEST(MenuDepth, ALookUpByNameComparesAFewNamesHoweverManyThereAre) {
     EXPECT_EQ(pool.Count(), count);
     EXPECT_LE(pool.Comparisons(), 2 * static_cast<size_t>(count));
   }
+}
+
+TEST(MenuDepth, ANameInThousandsOfCasesIsFoundAfterAFewComparisons) {
+  constexpr size_t kLetters = 13, kCount = 1 << kLetters;
+  std::vector<std::string> names(kCount, std::string(kLetters, 'a'));
+  for (size_t i = 0; i < kCount; ++i)
+    for (size_t letter = 0; letter < kLetters; ++letter)
+      if (i >> letter & 1) names[i][letter] = 'A';
+  NamePool pool;
+  for (int round = 0; round < 2; ++round)
+    for (size_t i = 0; i < kCount; ++i) EXPECT_EQ(pool.Add(names[i]), static_cast<int>(i));
+  EXPECT_EQ(pool.FamilyOf(kCount - 1), 0);
+  EXPECT_LE(pool.Comparisons(), 5 * kCount);
 }
 
 TEST(MenuDepth, APathOfPairsOnOneLineClosesAsManyLevels) {

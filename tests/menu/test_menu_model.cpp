@@ -358,20 +358,18 @@ TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
   const int mixed = pool.Add("a_very_long_name_of_a_wALL");
   const int hall = pool.Add("a_very_long_name_of_a_hall");
   const int one = pool.Add("0P"), other = pool.Add("P0");
-  const NameFamilies families(pool);
-  EXPECT_EQ(families.Of(upper), wall);
-  EXPECT_EQ(families.Of(mixed), wall);
-  EXPECT_EQ(families.Of(hall), hall);
-  EXPECT_EQ(families.Of(one), one);
-  EXPECT_EQ(families.Of(other), other);
+  EXPECT_EQ(pool.FamilyOf(upper), wall);
+  EXPECT_EQ(pool.FamilyOf(mixed), wall);
+  EXPECT_EQ(pool.FamilyOf(hall), hall);
+  EXPECT_EQ(pool.FamilyOf(one), one);
+  EXPECT_EQ(pool.FamilyOf(other), other);
 }
 
 TEST(NamePool, ATableEntryIsFoundByItsFirstNameInAnyCase) {
   NamePool pool;
   const std::vector<int> table = {pool.Add("Wall"), pool.Add("WALL"), pool.Add("door")};
   const int lower = pool.Add("wall"), upper = pool.Add("DOOR"), none = pool.Add("window");
-  const NameFamilies families(pool);
-  const NameLookup lookup(families, table);
+  const NameLookup lookup(pool, table);
   EXPECT_EQ(lookup.Find(lower), 0);
   EXPECT_EQ(lookup.Find(upper), 2);
   EXPECT_EQ(lookup.Find(none), -1);
@@ -386,8 +384,7 @@ TEST(NamePool, AgreesWithAWalkFromTheFrontForManyNames) {
   for (int i = 0; i < 500; ++i) table.push_back(pool.Add(names[static_cast<size_t>(i)]));
   std::vector<int> asked;
   for (size_t i = 500; i < names.size(); ++i) asked.push_back(pool.Add(names[i]));
-  const NameFamilies families(pool);
-  const NameLookup lookup(families, table);
+  const NameLookup lookup(pool, table);
   for (int i = 0; i < 310; ++i)
     EXPECT_EQ(lookup.Find(asked[static_cast<size_t>(i)]), i < 300 ? i : -1);
 }

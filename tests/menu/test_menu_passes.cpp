@@ -162,6 +162,14 @@ TEST(ResolveSwitches, TakesTheFirstSwitchOfThatNameInAnyCase) {
   EXPECT_EQ(bar.At(2)->m_pSwitch, nullptr);
 }
 
+TEST(ResolveSwitches, AMarkWithoutANameInFrontShowsNone) {
+  Compiled compiled;
+  Compile(WithSections("[*SWITCH*]\nSW [*SWITCH*]\n", "**SW GET=g SET=s\n0=i,\"l\"\n", ""),
+          compiled);
+  EXPECT_EQ(compiled.system.At(0)->At(0)->m_pSwitch, nullptr);
+  EXPECT_EQ(compiled.system.At(0)->At(1)->m_pSwitch, compiled.system.m_switches.At(0));
+}
+
 TEST(ResolveSwitches, ALineWithASubMenuIsNoSwitch) {
   Compiled compiled;
   Compile(WithSections("SW [->*SWITCH*]\n[<-a]\n", "**SW GET=g SET=s\n0=i,\"l\"\n", ""), compiled);
