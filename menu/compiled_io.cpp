@@ -15,7 +15,7 @@ constexpr uint16_t kWideMark = 0xFFFE;
 constexpr uint16_t kLarge = 0xFFFF;
 constexpr uint32_t kShortHead = 0xFFFEFF;  // the marker as a number; the length is the byte above
 
-constexpr size_t kWindow = kArchiveBuffer;
+constexpr size_t kWindow = 65536;  // small enough to stay in the near caches
 
 // Pieces of a fixed length, of which compilers make vector code. The last one may overlap the one
 // in front of it, so that only the shortest texts need a loop.
@@ -142,9 +142,16 @@ void CompiledReader::Fetch(size_t count) {
   if (kept + more > m_room) MakeRoom(kept + more);
   std::copy(m_at, m_end, m_bytes.get());
   m_at = m_end = m_bytes.get();
-  m_ar.EnsureRead(m_bytes.get() + kept, more);
+  ReadOn(m_bytes.get() + kept, more);
   m_end = m_at + kept + more;
   m_left -= more;
+}
+
+// Straight from the file where nothing else reads in between.
+void CompiledReader::ReadOn(unsigned char* bytes, UINT count) {
+  if (!m_window) return static_cast<void>(m_ar.EnsureRead(bytes, count));
+  if (m_ar.GetFile()->Read(bytes, count) != count)
+    AfxThrowArchiveException(CArchiveException::endOfFile, m_ar.m_strFileName);
 }
 
 void CompiledReader::MakeRoom(size_t room) {

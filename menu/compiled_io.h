@@ -109,6 +109,7 @@ class CompiledReader {
     return m_at - count;
   }
   void Fetch(size_t count);
+  void ReadOn(unsigned char* bytes, UINT count);
   void MakeRoom(size_t room);
   bool GetQuickly(TWCString& out);
   void GetAnyString(TWCString& out);
