@@ -54,10 +54,18 @@ if(QVX_TESTS)
   set(BUILD_SHARED_LIBS ${_shared})
 endif()
 
+if(QVX_TESTS AND WIN32)
+  add_library(test_watchdog OBJECT ${CMAKE_SOURCE_DIR}/tests/doubles/watchdog.cpp)
+  target_link_libraries(test_watchdog PRIVATE gtest)
+endif()
+
 # qvx_test(NAME SOURCES file... [LIBS target...]): bin/test_NAME, found and counted by ./test.
 function(qvx_test name)
   cmake_parse_arguments(T "" "" "SOURCES;LIBS" ${ARGN})
   add_executable(test_${name} ${T_SOURCES})
   target_link_libraries(test_${name} PRIVATE ${T_LIBS} gtest gtest_main)
+  if(WIN32)
+    target_link_libraries(test_${name} PRIVATE test_watchdog)
+  endif()
   target_compile_definitions(test_${name} PRIVATE QVX_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 endfunction()

@@ -5,6 +5,28 @@ failures=()
 fail() { failed=$((failed + 1)); failures+=("$1"); echo "FAILED: $1"; }
 pass() { passed=$((passed + 1)); }
 
+# beside NAME FUNCTION ARGS: runs it at the same time, with its own counts; `join NAME` waits, shows
+# what it said and adds its counts.
+beside() {
+  local name=$1; shift
+  (
+    passed=0 failed=0 failures=()
+    trap qvx_wine_stop EXIT
+    "$@"
+    declare -p passed failed failures >"build/$name.counts"
+  ) >"build/$name.out" 2>&1 &
+  declare -g "job_$name=$!"
+}
+join() {
+  local job=job_$1 seen=$passed missed=$failed earlier=("${failures[@]}")
+  wait "${!job}"
+  cat "build/$1.out"
+  passed=0 failed=1 failures=("$1 came to no end")
+  # shellcheck disable=SC1090
+  [ ! -f "build/$1.counts" ] || . <(sed 's/^declare -[^ ]*/declare -g/' "build/$1.counts")
+  passed=$((passed + seen)) failed=$((failed + missed)) failures=("${earlier[@]}" "${failures[@]}")
+}
+
 # One test program: its own count is taken from its closing lines; a program that dies without them,
 # or takes longer than five minutes, counts as one failure that names it.
 run_program() {
@@ -40,10 +62,16 @@ run_programs() {
   done
 }
 
+run_windows_programs() {
+  qvx_wine_start build/windows 0
+  run_programs windows "$1"
+}
+
 # A play: `# args: ...` in its head gives further arguments, `# product: NAME` lays
 # tests/plays/products/NAME over a copy of the product, `# without: FILE...` takes files out of that
 # copy, `# exit: N` the expected exit code (0), `# output: TEXT` what its output must contain. The tip
-# of the day is left out of the start unless `# tips: shown` asks for it.
+# of the day is left out of the start unless `# tips: shown` asks for it. A play fails as well when
+# the host leaves a message waiting for more than half a second.
 run_play() {
   local script=$1 name rc=0 want args overlay without output
   name=$(basename "$script" .script)
@@ -61,7 +89,7 @@ run_play() {
   [ "$(head_value tips)" = shown ] || qvx_leave_out_tips
   # shellcheck disable=SC2086
   (cd "$work" && LC_ALL=zh_CN.UTF-8 timeout 90 wine ../../windows/bin/devhost.exe --product product \
-     --play play.script --journal journal.jsonl $args) >"$work/output.txt" 2>&1 || rc=$?
+     --play play.script --journal journal.jsonl --longest-wait 0.5 $args) >"$work/output.txt" 2>&1 || rc=$?
   if [ "$rc" -eq "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
     pass; printf 'play     %-28s ok\n' "$name"
   else
@@ -72,6 +100,7 @@ run_play() {
 
 run_plays() {
   local script
+  qvx_wine_start build/plays 1
   for script in tests/plays/*.script; do
     case $(basename "$script") in *"$1"*) run_play "$script" ;; esac
   done

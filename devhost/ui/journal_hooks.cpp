@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "devhost/core/journal.h"
 #include "message_pump.h"
@@ -13,23 +14,28 @@ namespace {
 
 DialogWatch* g_watch = nullptr;
 
-bool IsDialog(HWND window) {
+std::wstring ClassOf(HWND window) {
   wchar_t name[16] = L"";
   ::GetClassNameW(window, name, 16);
-  return std::wstring(name) == L"#32770" && !(::GetWindowLongW(window, GWL_STYLE) & WS_CHILD);
+  return name;
 }
+
+bool IsDialog(HWND window) {
+  return ClassOf(window) == L"#32770" && !(::GetWindowLongW(window, GWL_STYLE) & WS_CHILD);
+}
+
+// Of a dialog or of the pop-up of a menu.
+bool HasLoop(HWND window) { return ClassOf(window) == L"#32768" || IsDialog(window); }
 
 }  // namespace
 
 DialogWatch::DialogWatch() {
   g_watch = this;
   m_events = ::SetWindowsHookExW(WH_CBT, &DialogWatch::OnEvent, nullptr, ::GetCurrentThreadId());
-  m_sent =
-      ::SetWindowsHookExW(WH_CALLWNDPROC, &DialogWatch::OnSent, nullptr, ::GetCurrentThreadId());
 }
 
 DialogWatch::~DialogWatch() {
-  ::UnhookWindowsHookEx(m_sent);
+  if (m_sent) ::UnhookWindowsHookEx(m_sent);
   ::UnhookWindowsHookEx(m_events);
   g_watch = nullptr;
 }
@@ -43,6 +49,7 @@ DialogWatch::MessageBoxScope::~MessageBoxScope() {
 }
 
 LRESULT CALLBACK DialogWatch::OnEvent(int code, WPARAM wParam, LPARAM lParam) {
+  if (g_watch && code == HCBT_CREATEWND) g_watch->Created(reinterpret_cast<HWND>(wParam));
   if (g_watch && code == HCBT_ACTIVATE) g_watch->Activated(reinterpret_cast<HWND>(wParam));
   if (g_watch && code == HCBT_DESTROYWND) g_watch->Destroyed(reinterpret_cast<HWND>(wParam));
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
@@ -53,6 +60,16 @@ LRESULT CALLBACK DialogWatch::OnSent(int code, WPARAM wParam, LPARAM lParam) {
   if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lParam)->message == WM_ENTERIDLE)
     ThePump().MarkQuiet();
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// A look at every message that is sent costs the window server three requests each, so that it is
+// taken only as long as there is a loop that may wait.
+void DialogWatch::Created(HWND window) {
+  if (!HasLoop(window)) return;
+  m_loops.push_back(window);
+  if (!m_sent)
+    m_sent =
+        ::SetWindowsHookExW(WH_CALLWNDPROC, &DialogWatch::OnSent, nullptr, ::GetCurrentThreadId());
 }
 
 void DialogWatch::Activated(HWND window) {
@@ -69,6 +86,8 @@ void DialogWatch::Activated(HWND window) {
 // What called for the dialog goes on now.
 void DialogWatch::Destroyed(HWND window) {
   if (std::erase(m_known, window) > 0) ThePump().MarkBusy();
+  if (std::erase(m_loops, window) > 0 && m_loops.empty())
+    ::UnhookWindowsHookEx(std::exchange(m_sent, nullptr));
 }
 
 }  // namespace devhost

@@ -26,11 +26,14 @@ class DialogWatch {
  private:
   static LRESULT CALLBACK OnEvent(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK OnSent(int code, WPARAM wParam, LPARAM lParam);
+  void Created(HWND window);
   void Activated(HWND window);
   void Destroyed(HWND window);
 
-  HHOOK m_events, m_sent;
-  std::vector<HWND> m_known;
+  HHOOK m_events;
+  HHOOK m_sent = nullptr;     // only while m_loops has any
+  std::vector<HWND> m_loops;  // dialogs and pop-ups of menus
+  std::vector<HWND> m_known;  // dialogs that were active
   int m_messageBoxes = 0;
 };
 

@@ -121,9 +121,14 @@ TEST_F(Pump, ADialogThatWaitsForTheUserMakesItQuiet) {
   const HWND owner = ::CreateWindowExW(0, L"Static", nullptr, WS_OVERLAPPED, 0, 0, 9, 9, nullptr,
                                        nullptr, nullptr, nullptr);
   ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, 0);
+  EXPECT_FALSE(ThePump().IsQuiet()) << "no dialog is there that could have said so";
+  const HWND dialog = ::CreateWindowExW(0, L"#32770", nullptr, WS_POPUP, 0, 0, 9, 9, owner, nullptr,
+                                        nullptr, nullptr);
+  ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, 0);
   EXPECT_TRUE(ThePump().IsQuiet());
   EXPECT_TRUE(told);
   ThePump().SetWhenQuiet(nullptr);
+  ::DestroyWindow(dialog);
   ::DestroyWindow(owner);
 }
 
