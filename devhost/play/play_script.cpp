@@ -109,7 +109,7 @@ class StepReader {
   bool Close() { return Is(StepKind::Close); }
   bool Command() { return Text(StepKind::Command, "the text"); }
   bool Type() { return Text(StepKind::Type, "the text"); }
-  bool Click() { return Pointer(StepKind::Click); }
+  bool Click();
   bool RightClick() { return Pointer(StepKind::RightClick); }
   bool DoubleClick() { return Pointer(StepKind::DoubleClick); }
   bool Move() { return Is(StepKind::Move) && ReadTarget(&m_step->target); }
@@ -211,6 +211,16 @@ bool StepReader::Held() {
     ++m_at;
   }
   return true;
+}
+
+// click: target [then target] held
+bool StepReader::Click() {
+  if (!Is(StepKind::Click) || !ReadTarget(&m_step->target)) return false;
+  if (!AtEnd() && !m_words[m_at].quoted && m_words[m_at].text == "then") {
+    ++m_at;
+    if (!Is(StepKind::ClickBoth) || !ReadTarget(&m_step->target2)) return false;
+  }
+  return Held();
 }
 
 // press: chord

@@ -20,6 +20,7 @@ enum class StepKind {
   Type,
   Press,
   Click,
+  ClickBoth,
   RightClick,
   DoubleClick,
   Hold,
@@ -67,7 +68,7 @@ struct Step {
   std::string text;  // path, name, text, or the path into the shell state
   ScriptValue value;
   Target target;
-  Target target2;     // where a drag ends
+  Target target2;     // where a drag ends, or what is clicked second
   bool ctrl = false;  // held while the mouse acts
   bool shift = false;
   int number = 0;  // milliseconds of wait and hold, delta of the wheel

@@ -59,6 +59,7 @@ TEST(PlayScript, EveryVerbHasItsKind) {
       {"move view 1 2", StepKind::Move},
       {"wheel view 1 2 -120", StepKind::Wheel},
       {"drag view 1 2 view 3 4", StepKind::Drag},
+      {"click row \"a\" then row \"b\"", StepKind::ClickBoth},
       {"select none", StepKind::Select},
       {"setvar OSMODE 1", StepKind::SetVar},
       {"setting g_nRunMode 1", StepKind::Setting},
@@ -103,6 +104,11 @@ TEST(PlayScript, TargetsKeepLabelsHandlesAndPoints) {
   EXPECT_EQ(OneStep("click popup \"删除\"").target.kind, TargetKind::Popup);
   EXPECT_EQ(OneStep("click button \"确定\"").target.kind, TargetKind::Button);
   EXPECT_EQ(OneStep("click entity 2AF").target.text, "2AF");
+  const Step both = OneStep("click row \"a\" then view 3 4 Ctrl");
+  EXPECT_EQ(both.target.text, "a");
+  EXPECT_EQ(both.target2.kind, TargetKind::View);
+  EXPECT_EQ(both.target2.x, 3);
+  EXPECT_TRUE(both.ctrl);
   const Step drag = OneStep("drag world -1.5 2e3 view 10 20 Shift");
   EXPECT_EQ(drag.target.kind, TargetKind::World);
   EXPECT_EQ(drag.target.x, -1.5);
@@ -160,6 +166,7 @@ TEST(PlayScript, ErrorsHaveTheirPlaceAndSayWhatWasExpected) {
       {"press", "t.script:1:6: error: the key is missing"},
       {"click", "t.script:1:6: error: the target is missing"},
       {"click row", "t.script:1:10: error: the label in quotes is missing"},
+      {"click row \"a\" then", "t.script:1:19: error: the target is missing"},
       {"click row \"a\" Alt", "t.script:1:15: error: only Ctrl and Shift may follow, each once"},
       {"click row \"a\" Ctrl Ctrl",
        "t.script:1:20: error: only Ctrl and Shift may follow, each once"},

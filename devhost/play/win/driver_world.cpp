@@ -50,6 +50,7 @@ std::string DriverWorld::Perform(const Step& step) {
   if (m_stopped) return kGoingDown;
   switch (step.kind) {
     case StepKind::Click:
+    case StepKind::ClickBoth:
     case StepKind::RightClick:
     case StepKind::DoubleClick:
     case StepKind::Hold:
@@ -131,13 +132,17 @@ std::string DriverWorld::Point(const Target& target, POINT* point) {
 std::string DriverWorld::PerformMouse(const Step& step) {
   POINT at = {}, end = {};
   std::string problem = Point(step.target, &at);
-  if (problem.empty() && step.kind == StepKind::Drag) problem = Point(step.target2, &end);
+  const bool hasSecond = step.kind == StepKind::Drag || step.kind == StepKind::ClickBoth;
+  if (problem.empty() && hasSecond) problem = Point(step.target2, &end);
   if (!problem.empty()) return problem;
   m_input.Move(at);  // first, since keys that are held may be lost when a pointer comes to a window
   const InputSender::Held held(m_input, step.ctrl, step.shift);
   switch (step.kind) {
     case StepKind::Click:
       m_input.Click(at, InputSender::Button::Left, 1);
+      break;
+    case StepKind::ClickBoth:
+      m_input.ClickBoth(at, end);
       break;
     case StepKind::RightClick:
       m_input.Click(at, InputSender::Button::Right, 1);

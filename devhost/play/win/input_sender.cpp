@@ -2,6 +2,7 @@
 #include "devhost/play/win/input_sender.h"
 
 #include <cstdlib>
+#include <iterator>
 #include <utility>
 
 namespace devhost {
@@ -22,6 +23,20 @@ LONG Part(LONG at, int first, int count) {
                    : 0;
 }
 
+// Every event carries its place: between two of them the pointer may have been reported elsewhere,
+// and a press would go there.
+INPUT MouseInput(POINT at, DWORD flags, DWORD data = 0) {
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dx =
+      Part(at.x, GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
+  input.mi.dy =
+      Part(at.y, GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
+  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
+  input.mi.mouseData = data;
+  return input;
+}
+
 }  // namespace
 
 // The pointer itself goes along, so that whatever the window system reports of it meanwhile, say
@@ -31,18 +46,9 @@ void InputSender::Move(POINT to) {
   Mouse(to, 0);
 }
 
-// Every event carries its place: between two of them the pointer may have been reported elsewhere,
-// and a press would go there.
 void InputSender::Mouse(POINT at, DWORD flags, DWORD data) {
   KeepHeld();
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dx =
-      Part(at.x, GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
-  input.mi.dy =
-      Part(at.y, GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
-  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
-  input.mi.mouseData = data;
+  INPUT input = MouseInput(at, flags, data);
   SendInput(1, &input, sizeof input);
   m_pause(kBetween);
 }
@@ -61,6 +67,17 @@ void InputSender::Click(POINT at, Button button, int times) {
     Mouse(at, kDown[static_cast<int>(button)]);
     Mouse(at, kUp[static_cast<int>(button)]);
   }
+  m_pause(kAfter);
+}
+
+void InputSender::ClickBoth(POINT first, POINT second) {
+  Move(first);
+  KeepApart(first);
+  INPUT all[] = {MouseInput(first, MOUSEEVENTF_LEFTDOWN), MouseInput(first, MOUSEEVENTF_LEFTUP),
+                 MouseInput(second, 0), MouseInput(second, MOUSEEVENTF_LEFTDOWN),
+                 MouseInput(second, MOUSEEVENTF_LEFTUP)};
+  SendInput(static_cast<UINT>(std::size(all)), all, sizeof *all);
+  KeepApart(second);
   m_pause(kAfter);
 }
 

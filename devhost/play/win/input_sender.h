@@ -19,6 +19,8 @@ class InputSender {
 
   void Move(POINT to);
   void Click(POINT at, Button button, int times);
+  // All of it is in the queue before the program takes any, so that no timer comes in between.
+  void ClickBoth(POINT first, POINT second);
   void Hold(POINT at, Button button, int milliseconds);
   void Drag(POINT from, POINT to);
   void Wheel(POINT at, int delta);
