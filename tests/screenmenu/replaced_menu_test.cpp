@@ -157,10 +157,16 @@ TEST_F(ReplacedMenu, PanesThatReloadAfterAFlipEndTheReadingOfTheOtherRows) {
   ComeUp();
   Load();
   host.functions[L"set"] = [this] { return state = 3 - state; };
-  rooms.onPanes = [this] { Reload(); };
+  std::size_t before = 0;
+  rooms.onPanes = [&] {
+    Reload();
+    before = host.diary.size();
+  };
   Click(Root(), 1);
   rooms.onPanes = nullptr;
   EXPECT_EQ(reloads, 1);
+  for (std::size_t i = before; i < host.diary.size(); ++i)
+    EXPECT_NE(host.diary[i].substr(0, 5), L"lisp ") << "the new menu is not read a second time";
   ExpectWholeTree();
 }
 
