@@ -109,7 +109,6 @@ class SubMenuNester {
   void Step(TDPtrList<TMenuItem>& lines);
 
   std::vector<Arrow> m_arrows;
-  bool m_hasOpening = false;
   int m_sum = 0;
   int m_lowest = 0;
   int m_highest = 0;

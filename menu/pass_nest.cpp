@@ -40,7 +40,6 @@ void SubMenuNester::Note(TMenuItem& item, int line) {
 }
 
 void SubMenuNester::Note(TMenuItem& item, int line, int pairs) {
-  m_hasOpening |= pairs == kOpening;
   m_sum -= pairs;
   m_lowest = std::min(m_lowest, m_sum);
   m_highest = std::max(m_highest, m_sum);
@@ -50,7 +49,6 @@ void SubMenuNester::Note(TMenuItem& item, int line, int pairs) {
 
 void SubMenuNester::Clear() {
   m_arrows.clear();
-  m_hasOpening = false;
   m_sum = m_lowest = m_highest = 0;
 }
 
@@ -91,7 +89,7 @@ int SubMenuNester::HandOut(TDPtrList<TMenuItem>& lines, TMenuBar& bar) {
   const int lastArrow = static_cast<int>(m_arrows.size()) - 1;
   const bool isArrow = lastArrow != kNone && At(lastArrow).line == last;
   int steps = 0;
-  if (m_hasOpening) FindEnds();
+  if (!m_arrows.empty()) FindEnds();
   m_path.clear();
   m_path.push_back({&bar, 0, 0, 0, 0, last, isArrow ? lastArrow : kNone});
   for (; !m_path.empty(); ++steps) Step(lines);

@@ -184,6 +184,12 @@ std::string DumpTree(TMenuSystem& system) {
   return text;
 }
 
+std::string Repeated(const char* text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
 int NestSubMenus(TMenuBar& bar) {
   TDPtrList<TMenuItem> lines;
   lines.TakeAll(bar);

@@ -31,6 +31,8 @@ struct Compiled {
   std::string Tree();
 };
 
+std::string Repeated(const char* text, int times);
+
 // Stops at a comment without an end. The source is narrow text of code page 936.
 void Compile(const std::string& source, Compiled& into);
 

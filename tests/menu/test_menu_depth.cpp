@@ -15,12 +15,6 @@ constexpr int kDepth = 100000;
 constexpr int kFileDepth = 1000000;
 #endif
 
-std::string Repeated(const char* text, int times) {
-  std::string all;
-  for (int i = 0; i < times; ++i) all += text;
-  return all;
-}
-
 std::string InBlock(const std::string& lines) {
   return "MENU_TITLE=\"t\"\n***A\n" + lines + "***SWITCH\n***RESOURCE\n";
 }

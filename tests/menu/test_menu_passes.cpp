@@ -151,6 +151,21 @@ TEST(ResolveIcons, ReachesLinesThatAreNestedLaterAndSwitchStates) {
   EXPECT_EQ(compiled.system.m_switches.At(0)->m_states.At(0)->m_nIconIndex, 0);
 }
 
+// Many of them, so that some of the names are looked up before the block is lost and some wait.
+TEST(ResolveNames, NothingIsResolvedForBlocksThatABadMaskTakesAlong) {
+  for (int lines : {1, 70, 200}) {
+    Compiled compiled;
+    Compile("MENU_TITLE=\"t\"\n***A\n" + Repeated("SW [*SWITCH*]\nI [a]\n", lines) +
+                "***B C=0,1\n" + Repeated("SW [*SWITCH*]\nI [b]\n", lines) + "***D\n" +
+                Repeated("I [d]\n", lines) +
+                "***SWITCH\n**SW GET=g SET=s\n0=I,\"l\"\n***RESOURCE\nI=\"\",\"\"\n",
+            compiled);
+    EXPECT_EQ(compiled.result, 0);
+    EXPECT_EQ(compiled.system.Length(), 0);
+    EXPECT_EQ(compiled.system.m_switches.At(0)->m_states.At(0)->m_nIconIndex, 0);
+  }
+}
+
 TEST(ResolveSwitches, TakesTheFirstSwitchOfThatNameInAnyCase) {
   Compiled compiled;
   Compile(WithSections("[->a]\nsw [<-*switch*]\nNONE [*SWITCH*]\nSW [SWITCH]\n",
