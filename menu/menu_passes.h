@@ -78,10 +78,10 @@ class SubMenuNester {
   // For each line of the block, in their order; lines without an arrow may be left out. The label
   // loses its arrows until HandOut says which of them stay.
   void Note(TMenuItem& item, int line);
-  // Empties the list, which owns its lines, and forgets the arrows. Gives the number of steps: each
-  // closed a range or ended a bar, so that there are no more than two a line and one.
+  // Empties the list, which owns its lines. Gives the number of steps: each closed a range or ended
+  // a bar, so that there are no more than two a line and one.
   int HandOut(TDPtrList<TMenuItem>& lines, TMenuBar& bar);
-  void Clear();
+  void Clear();  // for the next block
 
  private:
   struct Arrow {

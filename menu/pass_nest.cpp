@@ -97,7 +97,6 @@ int SubMenuNester::HandOut(TDPtrList<TMenuItem>& lines, TMenuBar& bar) {
     if (const int kept = std::abs(arrow.pairs) - arrow.worn)
       PutBack(arrow.item->m_strLabel, arrow.pairs == kOpening ? L"->" : L"<-", kept);
   lines.Forget();
-  Clear();
   return steps;
 }
 

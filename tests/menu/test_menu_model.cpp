@@ -365,6 +365,18 @@ TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
   EXPECT_EQ(pool.FamilyOf(other), other);
 }
 
+TEST(NamePool, EachLetterIsOneInBothCasesAndNoOtherCharacterIs) {
+  NamePool pool;
+  for (const char* pair : {"aA", "bB", "mM", "yY", "zZ"}) {
+    const int small = pool.Add(std::string_view(pair, 1));
+    EXPECT_EQ(pool.FamilyOf(pool.Add(std::string_view(pair + 1, 1))), small);
+  }
+  for (const char* name : {"_", "0", "9"}) {
+    const int number = pool.Add(name);
+    EXPECT_EQ(pool.FamilyOf(number), number);
+  }
+}
+
 TEST(NamePool, ATableEntryIsFoundByItsFirstNameInAnyCase) {
   NamePool pool;
   const std::vector<int> table = {pool.Add("Wall"), pool.Add("WALL"), pool.Add("door")};
