@@ -423,6 +423,7 @@ TEST(FoldCase, KnowsTheLettersOfTheCodePagesInUse) {
   EXPECT_FALSE(EqualNamesNoCase(L"×", L"÷"));
   EXPECT_FALSE(EqualNamesNoCase(L"墙", L"柱"));
   EXPECT_FALSE(EqualNamesNoCase(L"a", L"ab"));
+  EXPECT_FALSE(EqualNamesNoCase(L"wall", L"walk")) << "each unit counts, not the first alone";
 }
 
 }  // namespace

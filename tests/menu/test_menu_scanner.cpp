@@ -232,6 +232,7 @@ TEST(MenuScanner, ASecondByteThatIsABackslashEscapesTheClosingQuote) {
 TEST(MenuScanner, CommentsAreSkippedAndTheirLinesCount) {
   Scan scan("a // b\n/* c\n * d **/ e /**/ f /*/ g */ h");
   EXPECT_EQ(scan.Kinds(), Kinds(4, QMN_IDENTIFIER));
+  EXPECT_EQ(scan.Text(2), "f") << "the shortest comment has four characters";
   EXPECT_EQ(scan.Text(3), "h");
   EXPECT_EQ(scan.line, 3);
 }
@@ -257,6 +258,11 @@ TEST(MenuScanner, ACommentWithoutAnEndIsFoundWhenAskedFor) {
 TEST(MenuScanner, AByteZeroReadsAsTheEndExceptInComments) {
   using namespace std::string_literals;
   EXPECT_EQ(Scan("a\0b"s).Kinds(), Kinds{QMN_IDENTIFIER});
+  const std::string source = "\0b"s;
+  CollectedMessages messages;
+  MenuToken end;
+  EXPECT_EQ(MenuScanner(source, messages).Next(end), QMN_END);
+  EXPECT_TRUE(end.text.empty()) << "the zero is no part of it";
   EXPECT_EQ(Scan("/* \0 */ // \0\na"s).Kinds(), Kinds{QMN_IDENTIFIER});
   EXPECT_EQ(Scan("\"a\0"s).messages.Text(), "1: \\n字符串没有结束, 文件就结束了!\n");
   Scan scan("[a\0b\n"s);
