@@ -120,6 +120,19 @@ TEST(MenuDepth, ALookUpByNameComparesAFewNamesHoweverManyThereAre) {
   }
 }
 
+TEST(MenuDepth, EachCharacterOfANameTellsItsPlaceInTheTable) {
+  const std::string others = "abcdefghijklmnop";
+  for (size_t length = 1; length <= 40; ++length)
+    for (size_t at = 0; at < length; ++at) {
+      std::vector<std::string> names(others.size(), std::string(length, 'z'));
+      for (size_t i = 0; i < names.size(); ++i) names[i][at] = others[i];
+      NamePool pool;
+      for (int round = 0; round < 2; ++round)
+        for (const std::string& name : names) pool.Add(name);
+      EXPECT_LE(pool.Comparisons(), names.size() + 2) << length << " characters, the one at " << at;
+    }
+}
+
 TEST(MenuDepth, ANameInThousandsOfCasesIsFoundAfterAFewComparisons) {
   constexpr size_t kLetters = 13, kCount = 1 << kLetters;
   std::vector<std::string> names(kCount, std::string(kLetters, 'a'));

@@ -237,6 +237,12 @@ TEST(MenuScanner, CommentsAreSkippedAndTheirLinesCount) {
   EXPECT_EQ(scan.line, 3);
 }
 
+TEST(MenuScanner, SignsAreTheirOwnText) {
+  Scan scan("a+b,c=d***e**f");
+  for (const auto& [at, text] : {std::pair(1, "+"), {3, ","}, {5, "="}, {7, "***"}, {9, "**"}})
+    EXPECT_EQ(scan.Text(static_cast<size_t>(at)), text);
+}
+
 TEST(MenuScanner, CommentsDoNotNest) {
   Scan scan("/* /* */ a");
   EXPECT_EQ(scan.Text(0), "a");
