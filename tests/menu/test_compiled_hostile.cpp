@@ -72,4 +72,25 @@ TEST(HostileCompiledFile, RoomIsMadeOnlyForWhatTheFileCanHold) {
   EXPECT_LE(system.m_resources.Length(), 2);
 }
 
+// As on a disk that another program cuts the file on.
+class ShrunkFile : public CMemFile {
+ public:
+  using CMemFile::CMemFile;
+  ULONGLONG GetLength() const override { return CMemFile::GetLength() + 40; }
+};
+
+TEST(HostileCompiledFile, AFileThatGetsShorterWhileItIsReadEndsAsOneThatIsCut) {
+  TMenuSystem system;
+  const std::string bytes = SaveBytes(system);
+  ShrunkFile file(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
+  CArchive ar(&file, CArchive::load);
+  try {
+    system.Serialize(ar);
+    FAIL() << "it has less than it says";
+  } catch (CArchiveException* exception) {
+    EXPECT_EQ(exception->m_cause, CArchiveException::endOfFile);
+    exception->Delete();
+  }
+}
+
 }  // namespace
