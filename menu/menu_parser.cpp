@@ -192,11 +192,12 @@ bool MenuParser::MenuItem() {
   if (!Check(QMN_MENU_ITEM)) return false;
   TMenuItem& item = AppendNew(m_lines);
   ParseMenuLine(m_token.text, m_ansi, item);
-  const bool hasIcon = std::exchange(m_hasPendingIcon, false);
-  if (hasIcon)
-    m_work.Take(
-        {.key = m_pendingIcon, .text = &item.m_strIconName, .iconIndex = &item.m_nIconIndex});
-  if (m_finishes) m_block.Note(item, m_lines.Length() - 1, hasIcon ? &m_pendingIcon : nullptr);
+  NamePool::Key icon;
+  if (std::exchange(m_hasPendingIcon, false)) {
+    icon = m_pendingIcon;
+    m_work.Take({.key = icon, .text = &item.m_strIconName, .iconIndex = &item.m_nIconIndex});
+  }
+  if (m_finishes) m_block.Note(item, m_lines.Length() - 1, icon);
   Advance();
   return true;
 }

@@ -37,8 +37,7 @@ class PassWork {
   };
   struct LabelUse {
     TMenuItem* item;
-    bool hasIcon;
-    NamePool::Key icon;  // the name in front of the line
+    NamePool::Key icon;  // the name in front of the line; empty for none
   };
   static constexpr int kNoName = -1;
 
@@ -121,7 +120,7 @@ struct BlockWork {
   std::vector<PassWork::LabelUse> labels;
   SubMenuNester nester;
 
-  void Note(TMenuItem& item, int line, const NamePool::Key* icon);
+  void Note(TMenuItem& item, int line, const NamePool::Key& icon);
   void Clear() {
     labels.clear();
     nester.Clear();

@@ -58,11 +58,11 @@ void StripConditions(TMenuItem& item) {
 
 // What may be a mark or have a condition: behind the arrows a blank, a brace or a star; or a blank
 // at the end.
-void BlockWork::Note(TMenuItem& item, int line, const NamePool::Key* icon) {
+void BlockWork::Note(TMenuItem& item, int line, const NamePool::Key& icon) {
   nester.Note(item, line);
   const int length = item.m_strLabel.Length();
   if (length == 0) return;
   const wchar_t* label = item.m_strLabel.c_str();
   if (*label == L'{' || *label == L'*' || *label == L' ' || label[length - 1] == L' ')
-    labels.push_back({&item, icon != nullptr, icon ? *icon : NamePool::Key{}});
+    labels.push_back({&item, icon});
 }

@@ -22,7 +22,7 @@ void FinishBlock(TDPtrList<TMenuItem>& lines, TMenuBar& bar, BlockWork& block, P
   for (const PassWork::LabelUse& label : block.labels) {
     if (!label.item->IsSwitchMark())
       StripConditions(*label.item);
-    else if (label.hasIcon)
+    else if (!label.icon.name.empty())
       work.Take({.key = label.icon, .mark = label.item});
     else
       work.marks.push_back({label.item, PassWork::kNoName});

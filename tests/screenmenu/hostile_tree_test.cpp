@@ -3,6 +3,7 @@
 // behind.
 #include <string>
 
+#include "tests/doubles/palette_host.h"
 #include "refused_windows.h"
 #include "screenmenu/group_plan.h"
 #include "tree_fixture.h"
@@ -26,8 +27,7 @@ class HostileTrees : public TreeWindows {
   // As a host does between two menus.
   static void TakeMessages() {
     ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+    ThePaletteHost().Pump();
   }
   // What a user does with whatever came up.
   void UseAll() {

@@ -45,6 +45,10 @@ class ReplacedMenu : public Palette {
       return state;
     };
   }
+  void ExpectNoFunctionAskedSince(std::size_t entries) {
+    for (std::size_t i = entries; i < host.diary.size(); ++i)
+      EXPECT_NE(host.diary[i].substr(0, 5), L"lisp ") << host.diary[i].c_str();
+  }
   void ExpectWholeTree() {
     host.Pump();
     ASSERT_NE(g_pScreenMenu, nullptr);
@@ -165,20 +169,18 @@ TEST_F(ReplacedMenu, PanesThatReloadAfterAFlipEndTheReadingOfTheOtherRows) {
   Click(Root(), 1);
   rooms.onPanes = nullptr;
   EXPECT_EQ(reloads, 1);
-  for (std::size_t i = before; i < host.diary.size(); ++i)
-    EXPECT_NE(host.diary[i].substr(0, 5), L"lisp ") << "the new menu is not read a second time";
+  ExpectNoFunctionAskedSince(before);
   ExpectWholeTree();
 }
 
 TEST_F(ReplacedMenu, ASecondMenuOnThePaletteTakesTheSwitchesFromTheRowsThatStay) {
   ComeUp();
   Load();
-  const int before = static_cast<int>(host.diary.size());
+  const std::size_t before = host.diary.size();
   Load();
   RefreshScreenMenu();
   Click(Root(), 1);
-  for (std::size_t i = static_cast<std::size_t>(before); i < host.diary.size(); ++i)
-    EXPECT_NE(host.diary[i].substr(0, 5), L"lisp ") << host.diary[i].c_str();
+  ExpectNoFunctionAskedSince(before);
   EXPECT_EQ(Root().RowCount(), 3);
 }
 
