@@ -5,7 +5,7 @@ option(QVX_LTO "optimise the menu engine and the kernel's texts across files" OF
 option(QVX_SANITIZE "address and undefined behaviour sanitizers (native only)" OFF)
 
 add_compile_options(-Wall -Wextra)
-include_directories(${CMAKE_SOURCE_DIR})
+include_directories(${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/standins)
 
 if(WIN32)
   enable_language(RC)
@@ -67,5 +67,12 @@ function(qvx_test name)
   if(WIN32)
     target_link_libraries(test_${name} PRIVATE test_watchdog)
   endif()
-  target_compile_definitions(test_${name} PRIVATE QVX_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  # Only for the files that read the tree: any other compiles to the same object in every checkout.
+  foreach(source ${T_SOURCES})
+    file(STRINGS ${source} reads_tree REGEX QVX_SOURCE_DIR LIMIT_COUNT 1)
+    if(reads_tree)
+      set_source_files_properties(${source} PROPERTIES COMPILE_DEFINITIONS
+                                  QVX_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    endif()
+  endforeach()
 endfunction()

@@ -1,6 +1,9 @@
 # Sourced by run and test: installs what the builds need and this machine lacks, then configures.
 # All talk goes to standard error, so that a caller's standard output stays its own.
 
+# Two checkouts share the compiler cache: paths below a checkout count as relative.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 # What only bench/run needs, on top.
 qvx_bench_packages=(flex bison rapidjson-dev libbenchmark-dev)
 
@@ -30,11 +33,11 @@ qvx_build() {
   mkdir -p build
   if [ ! -f "build/$preset/build.ninja" ]; then
     echo "configuring $preset" >&2
-    CCACHE_NOHASHDIR=1 cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$log" 2>&1 ||
+    cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$log" 2>&1 ||
       { cat "$log" >&2; return 1; }
   fi
   echo "building $preset" >&2
-  CCACHE_NOHASHDIR=1 ninja -C "build/$preset" "$@" >"$log" 2>&1 || { tail -n 60 "$log" >&2; return 1; }
+  ninja -C "build/$preset" "$@" >"$log" 2>&1 || { tail -n 60 "$log" >&2; return 1; }
   # A warning does not stop anybody's work, but it is not let in either: see test.
   if grep -q 'warning:' "$log"; then grep 'warning:' "$log" >>"build/$preset.warnings"; fi
 }
