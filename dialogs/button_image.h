@@ -2,7 +2,7 @@
 // Rectangles in, rectangles out. Called by CButtonST::DrawItem.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace qvx {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "afx.h"
-#include "dialogs/product_section.h"
+#include "ground/product_section.h"
 #include "kernel/twcstring.h"
 
 namespace qvx {

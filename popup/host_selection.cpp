@@ -2,7 +2,7 @@
 
 #include "acdocman.h"
 #include "dbents.h"
-#include "dialogs/host_variables.h"
+#include "ground/host_variables.h"
 #include "kernel/globals.h"
 #include "kernel/logical_layers.h"
 #include "kernel/tacdbobjectptr.h"

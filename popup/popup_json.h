@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 struct ShellPopupRow {
   std::wstring label;

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 // System colours, by what they are used for here.
 enum class PopupColor {

@@ -2,7 +2,7 @@
 // client coordinates. Capture, drawing of the drag bar and docking are CScreenMenu's.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace qvx {
 

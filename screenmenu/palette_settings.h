@@ -3,7 +3,7 @@
 // as it is. Called by CScreenMenu and by the root group.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace qvx {
 

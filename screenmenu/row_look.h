@@ -2,7 +2,7 @@
 // walks this record and computes nothing itself. Called by CSMenuItem::DrawItem.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace qvx {
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "menu/menu_model.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace qvx {
 

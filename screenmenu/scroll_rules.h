@@ -2,7 +2,7 @@
 // Positions in pixels of content. Called by CMenuGroup.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace qvx {
 

@@ -6,7 +6,7 @@
 #include "aced.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
-#include "dialogs/host_variables.h"
+#include "ground/host_variables.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/entities/tdbdimension2.h"
 #include "kernel/globals.h"

@@ -2,7 +2,7 @@
 // asked for again they are the same handle, and they go with the module, so nobody frees them.
 #pragma once
 
-#include "dialogs/module_handle.h"
+#include "ground/win/module_handle.h"
 
 namespace qvx {
 

@@ -6,7 +6,7 @@
 
 #include "afx.h"
 #include "kernel/kernel_export.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 class CWnd;
 class AcDbDatabase;

@@ -5,7 +5,7 @@
 
 #include "afx.h"
 #include "kernel/kernel_export.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 // Where a value lies: a root and a key path below it.
 class QVX_KERNEL TRegObject {

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/first_start.h"
-#include "frame/menu_setting.h"
-#include "frame/recent_commands.h"
+#include "frame/start/first_start.h"
+#include "frame/settings/menu_setting.h"
+#include "frame/settings/recent_commands.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "kernel/settings.h"

@@ -1,4 +1,4 @@
-#include "frame/comma_list.h"
+#include "frame/settings/comma_list.h"
 
 #include <gtest/gtest.h>
 

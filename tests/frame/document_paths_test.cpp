@@ -1,4 +1,4 @@
-#include "frame/document_paths.h"
+#include "ground/document_paths.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/host_release.h"
+#include "frame/start/host_release.h"
 
 #include <gtest/gtest.h>
 

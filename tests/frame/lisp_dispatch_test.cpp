@@ -1,10 +1,10 @@
-#include "frame/lisp_dispatch.h"
+#include "frame/commands/lisp_dispatch.h"
 
 #include <gtest/gtest.h>
 
 #include "adsdef.h"
-#include "frame/lisp_path.h"
-#include "frame/push_acad_var.h"
+#include "frame/commands/lisp_path.h"
+#include "frame/commands/push_acad_var.h"
 #include "kernel/tpushacadundo.h"
 #include "tests/doubles/host_calls.h"
 

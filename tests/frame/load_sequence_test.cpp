@@ -1,5 +1,5 @@
 // Both sequences, told as the diary that a set of steps writes.
-#include "frame/load_sequence.h"
+#include "frame/start/load_sequence.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/menu_bring_up.h"
+#include "frame/start/menu_bring_up.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/menu_commands.h"
+#include "frame/commands/menu_commands.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The index of settings against everything that could disagree with it: the sources of the rooms in
 // both directions, the kernel's table, and what a fresh start gives.
-#include "frame/settings_index.h"
+#include "frame/settings/settings_index.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +14,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/first_start.h"
-#include "frame/host_release.h"
+#include "frame/start/first_start.h"
+#include "frame/start/host_release.h"
 #include "frame/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "kernel/settings.h"
@@ -64,7 +64,7 @@ using NamesByRoom = std::map<std::string, std::set<std::string>>;
 const std::set<std::string>& ExportedGlobals() {
   static const std::set<std::string> names = [] {
     std::set<std::string> found;
-    std::istringstream lines(ReadFile(fs::path(QVX_SOURCE_DIR) / "kernel" / "globals.h"));
+    std::istringstream lines(ReadFile(fs::path(QVX_SOURCE_DIR) / "standins" / "kernel" / "globals.h"));
     for (std::string line; std::getline(lines, line);) {
       const size_t at = line.find(" g_") != line.npos ? line.find(" g_") : line.find("*g_");
       if (at == line.npos || line.find("//") < at || line.find(';') == line.npos) continue;
@@ -115,14 +115,14 @@ void CollectFile(const std::string& text, std::set<std::string>& names) {
 NamesByRoom NamesInSources() {
   NamesByRoom found;
   for (const char* room : {"frame", "menu", "screenmenu", "popup", "doctabs", "statusbar", "editor",
-                           "dialogs", "kernel"}) {
+                           "dialogs", "ground", "standins/kernel"}) {
     const fs::path folder = fs::path(QVX_SOURCE_DIR) / room;
     if (!fs::exists(folder)) continue;
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
       const std::string name = entry.path().filename().string();
       const std::string extension = entry.path().extension().string();
       if ((extension != ".cpp" && extension != ".h") || name.starts_with("settings_")) continue;
-      CollectFile(ReadFile(entry.path()), found[room]);
+      CollectFile(ReadFile(entry.path()), found[folder.filename().string()]);
     }
   }
   return found;

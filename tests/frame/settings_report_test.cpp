@@ -1,5 +1,5 @@
 // The report of all settings: each row has its line, with the value and the place it comes from.
-#include "frame/settings_report.h"
+#include "frame/settings/settings_report.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <sstream>
 #include <string>
 
-#include "frame/settings_index.h"
+#include "frame/settings/settings_index.h"
 #include "kernel/globals.h"
 #include "kernel/settings.h"
 #include "kernel/tregproperty.h"

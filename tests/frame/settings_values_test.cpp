@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <string>
 
-#include "frame/first_start.h"
-#include "frame/recent_commands.h"
+#include "frame/start/first_start.h"
+#include "frame/settings/recent_commands.h"
 #include "kernel/globals.h"
 #include "kernel/native_file.h"
 #include "kernel/tregproperty.h"

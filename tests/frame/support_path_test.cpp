@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/first_start.h"
-#include "frame/menu_setting.h"
+#include "frame/start/first_start.h"
+#include "frame/settings/menu_setting.h"
 #include "kernel/globals.h"
 #include "kernel/kernel_start.h"
 #include "kernel/qvxexport.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "gepnt3d.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

@@ -2,7 +2,7 @@
 // windows. Rectangles are in the palette's client coordinates.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 struct PaletteParts {
   RECT caption;  // the strip along the top; empty while floating, where the frame has one

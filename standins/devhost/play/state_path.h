@@ -7,7 +7,7 @@
 
 #include "devhost/core/journal.h"
 #include "devhost/play/play_script.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

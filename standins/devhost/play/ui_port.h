@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

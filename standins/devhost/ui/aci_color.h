@@ -2,7 +2,7 @@
 // window.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

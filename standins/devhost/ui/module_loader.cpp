@@ -2,7 +2,7 @@
 #include "module_loader.h"
 
 #include "shell_watch.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

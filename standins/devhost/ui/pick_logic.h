@@ -2,7 +2,7 @@
 // or all that it touches, how far a wheel notch zooms. No window here.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

@@ -3,7 +3,7 @@
 // earnest a module takes the click from the message loop itself.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

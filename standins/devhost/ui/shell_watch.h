@@ -2,7 +2,7 @@
 // table is pointed at recorders that pass each call on. The module itself is left as it is on disk.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

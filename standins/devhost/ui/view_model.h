@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "devhost/core/scene.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 #include "afxstr.h"
 
 #ifndef _WIN32

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 #ifndef _WIN32
 using TCHAR = wchar_t;

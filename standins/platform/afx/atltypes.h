@@ -3,7 +3,7 @@
 // and members that are called are here; nothing normalises a rectangle behind the caller's back.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 #include <algorithm>
 

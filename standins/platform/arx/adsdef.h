@@ -1,7 +1,7 @@
 // Values that cross the host interface: the resbuf chain node and its type codes.
 #pragma once
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 typedef double ads_real;
 typedef ads_real ads_point[3];

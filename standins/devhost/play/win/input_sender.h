@@ -6,7 +6,7 @@
 #include <string>
 
 #include "devhost/play/key_names.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

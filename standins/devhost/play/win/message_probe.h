@@ -12,7 +12,7 @@
 #include <thread>
 
 #include "devhost/play/longest_wait.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

@@ -7,7 +7,7 @@
 #include <thread>
 
 #include "devhost/play/play_runner.h"
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 namespace devhost {
 

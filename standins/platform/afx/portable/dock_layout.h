@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "wintypes.h"
+#include "ground/plain_types.h"
 
 // The sides, with the numbers of the bar styles CBRS_ALIGN_...
 enum DockSide : DWORD {

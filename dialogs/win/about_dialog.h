@@ -1,0 +1,24 @@
+// The dialog "产品版本信息": what the product file says of the product, and two links. Made with
+// the module's resources current.
+#pragma once
+
+#include "afxwin.h"
+#include "ground/win/owned_handle.h"
+#include "dialogs/product_texts.h"
+#include "kernel/win/glw_ac_ui_dialog.h"
+#include "kernel/win/hyper_link.h"
+
+class CAboutVexraDlg : public GlwCAcUiDialog {
+ public:
+  explicit CAboutVexraDlg(CWnd* parent);
+
+ protected:
+  void DoDataExchange(CDataExchange* exchange) override;
+  BOOL OnInitDialog() override;
+
+ private:
+  CStatic m_icon;
+  CHyperLink m_linkWeb, m_linkMail;  // the web link's address is its own text
+  CString m_strName, m_strGroup, m_strVersion, m_strSubVer, m_strMail;
+  qvx::OwnedIcon m_hIcon;
+};

@@ -1,0 +1,33 @@
+#include "frame/commands/win/show_bar.h"
+
+#include "aced.h"
+#include "adslib.h"
+#include "kernel/globals.h"
+#include "kernel/qvxexport.h"
+#include "popup/host_menu_files.h"
+
+namespace {
+
+class LiveHostMenus : public HostMenus {
+ public:
+  bool FindFile(const wchar_t* name, TWCString& path) override {
+    wchar_t found[QvxExport::kPathUnits];
+    if (!QvxExport::FindFile(name, found)) return false;
+    path = found;
+    return true;
+  }
+  bool IsGroupLoaded(const wchar_t* group) override { return acedIsMenuGroupLoaded(group); }
+  void Run(const wchar_t* command, const wchar_t* argument) override {
+    acedCommandS(RTSTR, command, RTSTR, argument, RTNONE);
+  }
+};
+
+// mutable: whether this run of the host has its menus anew.
+bool g_isRefreshed = false;
+
+}  // namespace
+
+void ShowBar() {
+  LiveHostMenus menus;
+  LoadHostMenuFiles(menus, g_nProductId, g_dHostVersion, g_isRefreshed);
+}

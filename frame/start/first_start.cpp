@@ -1,0 +1,52 @@
+#include "frame/start/first_start.h"
+
+#include "frame/start/host_release.h"
+#include "kernel/globals.h"
+#include "kernel/native_file.h"
+#include "kernel/qvxexport.h"
+#include "kernel/tregproperty.h"
+
+namespace {
+
+constexpr int kLongestLine = 255;  // a longer one counts as several
+
+TWCString TakeLine(const TWCString& text, int& at) {
+  const int start = at;
+  while (at < text.Length() && text.c_str()[at] != L'\n' && at - start < kLongestLine) ++at;
+  TWCString line;
+  line.Assign(text.c_str() + start, at - start);
+  if (at < text.Length() && text.c_str()[at] == L'\n') ++at;
+  return line;
+}
+
+}  // namespace
+
+bool HasStartedBefore(double release) {
+  TRegProperty flags(GetRegLocation(), L"InitFlag");
+  flags.SetTopRootKey(HKEY_LOCAL_MACHINE);
+  const wchar_t* names[2];
+  const int count = FirstStartValueNames(release, names);
+  int started = 0;
+  for (int i = 0; i < count; ++i) {
+    flags.GetValue(names[i], started);  // of two, the second decides when it is there
+    flags.SetValue(names[i], 1);
+  }
+  return started != 0;
+}
+
+void ReadFirstStartModules(const wchar_t* listPath, TWCStringList& names) {
+  std::string bytes;
+  if (!ReadWholeFile(listPath, bytes)) return;
+  const TUString text(bytes.data(), static_cast<int>(bytes.size()));
+  for (int at = 0; at < text.Length();) {
+    const TWCString line = TakeLine(text, at);
+    wchar_t name[QvxExport::kPathUnits];
+    if (QvxExport::GetStringAtIndex(line, 1, name) && QvxExport::FindFile(name, nullptr))
+      names.Add(name);
+  }
+}
+
+void FindFirstStartModules(TWCStringList& names) {
+  wchar_t path[QvxExport::kPathUnits];
+  if (QvxExport::FindFile(L"dmload.rx", path)) ReadFirstStartModules(path, names);
+}

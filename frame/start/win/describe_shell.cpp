@@ -1,0 +1,78 @@
+// The module's diagnostic exports: what its live windows show, as JSON, and its settings as text.
+// Sections whose room is not built are null, and the steps that wait for a room are listed with how
+// often they were asked for. "handles" counts the handles that owners hold; with no screen menu and
+// no dialog up it is what was left behind.
+#include <string>
+
+#include "ground/win/owned_handle.h"
+#include "frame/settings/settings_report.h"
+#include "frame/start/win/shell.h"
+#include "frame/unbuilt_rooms.h"
+#include "popup/win/describe_popup.h"
+#include "screenmenu/win/describe_screen_menu.h"
+#include "screenmenu/shell_json.h"
+#include "statusbar/win/status_panes.h"
+
+namespace {
+
+std::string RecentSection() {
+  std::string json = "[";
+  Shell* shell = TheShell();
+  TMenuSystem* system = shell ? shell->MenuSystem() : nullptr;
+  for (int i = 0; system && i < system->m_recent.Length(); ++i) {
+    if (i) json += ",";
+    json += qvx::JsonString(system->m_recent.At(i)->m_strCommand.c_str());
+  }
+  return json + "]";
+}
+
+std::string PanesSection() {
+  std::string json = "[";
+  for (const ShownPane& pane : ShownPanes()) {
+    if (json.size() > 1) json += ",";
+    json +=
+        std::string("{\"name\":\"") + pane.name + "\",\"style\":" + std::to_string(pane.style) +
+        ",\"icon\":" + std::to_string(pane.icon) + ",\"tooltip\":" + qvx::JsonString(pane.toolTip) +
+        ",\"text\":" + qvx::JsonString(pane.text) + ",\"rect\":" + qvx::JsonRect(pane.rect) + "}";
+  }
+  return json + "]";
+}
+
+std::string UnbuiltSection() {
+  std::string json = "[";
+  int count = 0;
+  const UnbuiltStep* steps = UnbuiltSteps(&count);
+  for (int i = 0; i < count; ++i) {
+    if (i) json += ",";
+    json += std::string("{\"name\":\"") + steps[i].name + "\",\"room\":\"" + steps[i].room +
+            "\",\"calls\":" + std::to_string(steps[i].calls) + "}";
+  }
+  return json + "]";
+}
+
+}  // namespace
+
+// UTF-8, valid until the next call; main thread only.
+extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
+  static std::string json;
+  json = "{\"screenmenu\":" + DescribeScreenMenu() + ",\"popup\":" + DescribePopup() +
+         ",\"tabs\":null,\"panes\":" + PanesSection() +
+         ",\"editor\":null,\"recent\":" + RecentSection() +
+         ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
+         ",\"unbuilt\":" + UnbuiltSection() + "}";
+  return json.c_str();
+}
+
+// The settings as they stand, also while the module is not started; UTF-8, valid until the next
+// call.
+extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
+  static std::string report;
+  report = SettingsReport();
+  return report.c_str();
+}
+
+// Opens the menu that a right click at this screen point would, before anything else listens for
+// right clicks. 0 when no menu was shown.
+extern "C" __declspec(dllexport) int QvxShowContextMenu(int x, int y, int force) {
+  return ShowContextMenu(CPoint(x, y), force);
+}

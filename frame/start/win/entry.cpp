@@ -1,0 +1,86 @@
+// The host's way into the module, and what the module offers to its siblings. Every message is
+// answered with "fine"; nothing is ever reported back.
+#include <memory>
+
+#include "afxwin.h"
+#include "frame/commands/win/lisp_functions.h"
+#include "frame/commands/win/live_menu_commands.h"
+#include "frame/start/win/shell.h"
+#include "frame/unbuilt_rooms.h"
+#include "kernel/globals.h"
+#include "rxdlinkr.h"
+#include "rxregsvc.h"
+#include "screenmenu/win/screen_menu.h"
+#include "statusbar/win/cad_status_pane.h"
+#include "statusbar/win/status_panes.h"
+
+#define QVX_EXPORT extern "C" __declspec(dllexport)
+
+namespace {
+
+std::unique_ptr<Shell> g_shell;
+
+void Load(void* packet) {
+  g_shell = std::make_unique<Shell>(packet);
+  SetPaneMenuRefresh(RefreshScreenMenu);
+  RunLoadSequence(*g_shell);
+}
+
+void Unload() {
+  if (!g_shell) return;
+  RunUnloadSequence(*g_shell);
+  g_shell.reset();
+}
+
+void StartDrawing() {
+  int count = 0;
+  const LispRow* rows = LispFunctions(&count);
+  DefineLispFunctions(rows, count);
+  DocStatus();
+}
+
+void RunLispFunction() {
+  int count = 0;
+  const LispRow* rows = LispFunctions(&count);
+  DispatchLisp(rows, count);
+}
+
+}  // namespace
+
+Shell* TheShell() { return g_shell.get(); }
+
+QVX_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packet) {
+  switch (message) {
+    case AcRx::kInitAppMsg:
+      Load(packet);
+      break;
+    case AcRx::kUnloadAppMsg:
+      Unload();
+      break;
+    case AcRx::kLoadDwgMsg:
+      StartDrawing();
+      break;
+    case AcRx::kInvkSubrMsg:
+      RunLispFunction();
+      break;
+    case AcRx::kSaveMsg:
+      unbuilt::StartTabCaptionTimer();
+      break;
+    default:
+      break;
+  }
+  return AcRx::kRetOK;
+}
+
+QVX_EXPORT int acrxGetApiVersion() { return ACRX_API_VERSION; }
+
+QVX_EXPORT void LoadContexMenu() { ReloadMenu(); }
+
+QVX_EXPORT void LoadMenuForSun() {
+  if (!g_shell) return;
+  g_shell->BringUpMenu();
+  ShowScreenMenu(1);
+}
+
+QVX_EXPORT void HideTabBar(int) { unbuilt::HideTabBar(); }
+QVX_EXPORT void UpdateStatusBar() { UpdateStatusPanes(); }

@@ -1,0 +1,29 @@
+#include "frame/start/win/icon_library.h"
+
+#include "afxwin.h"
+#include "ground/win/owned_handle.h"
+#include "kernel/globals.h"
+#include "kernel/qvxexport.h"
+
+namespace {
+
+struct LibraryKind {
+  using Handle = HINSTANCE;
+  static void Free(Handle handle) { ::FreeLibrary(handle); }
+};
+qvx::OwnedHandle<LibraryKind> g_library;
+
+}  // namespace
+
+void ReplaceIconLibrary(const wchar_t* name) {
+  FreeIconLibrary();
+  wchar_t path[QvxExport::kPathUnits];
+  if (!QvxExport::FindFile(name, path)) return;
+  g_library.Reset(::LoadLibraryW(path));
+  g_hQvxDll = g_library.Get();
+}
+
+void FreeIconLibrary() {
+  g_library.Reset();
+  g_hQvxDll = nullptr;
+}

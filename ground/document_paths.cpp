@@ -1,0 +1,26 @@
+#include "ground/document_paths.h"
+
+#include "kernel/qvxexport.h"
+
+TWCString ParentFolder(const wchar_t* folder) {
+  TWCString parent(folder);
+  for (int i = parent.Length() - 2; i >= 0; --i) {
+    if (parent.c_str()[i] != L'\\') continue;
+    parent.Truncate(i + 1);
+    break;
+  }
+  return parent;
+}
+
+bool FindDocument(const DocumentSearch& search, const wchar_t* tail, TWCString& found,
+                  TWCString& lastTried) {
+  TWCString first(search.parent);
+  first += tail;
+  lastTried = search.setup;
+  lastTried += L'\\';
+  lastTried += tail;
+  wchar_t path[QvxExport::kPathUnits];
+  if (!search.find(first, path) && !search.find(lastTried, path)) return false;
+  found = path;
+  return true;
+}

@@ -1,0 +1,20 @@
+// The font of the system's menus. Who draws rows asks for it at each use, so that a change of the
+// user's settings shows at once.
+#pragma once
+
+#include "ground/win/owned_handle.h"
+
+namespace qvx {
+
+// Null when the system does not tell.
+inline OwnedFont MakeMenuFont() {
+  // Without the field that later systems put behind: every system accepts this size.
+  constexpr UINT kMetricsSize = 500;
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = kMetricsSize;
+  if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, kMetricsSize, &metrics, 0))
+    return OwnedFont();
+  return OwnedFont(::CreateFontIndirectW(&metrics.lfMenuFont));
+}
+
+}  // namespace qvx

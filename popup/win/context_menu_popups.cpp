@@ -1,0 +1,178 @@
+// CContextMenuWnd: showing pop-ups, and the messages of the menu loop. The loop runs on this very
+// thread, so all of it arrives while TrackPopupMenu has not returned.
+#include "acdocman.h"
+#include "afxext.h"
+#include "kernel/globals.h"
+#include "kernel/tadsprintf.h"
+#include "popup/win/context_menu_wnd.h"
+#include "popup/host_selection.h"
+#include "popup/menu_line_run.h"
+#include "rxmfcapi.h"
+#include "screenmenu/row_plan.h"
+#include "screenmenu/win/screen_menu.h"
+#include "screenmenu/screen_menu_host.h"
+
+// What a LISP function or a message inside the loop may not start again.
+class CContextMenuWnd::Showing {
+ public:
+  explicit Showing(bool& flag) : m_flag(flag) { m_flag = true; }
+  ~Showing() { m_flag = false; }
+  Showing(const Showing&) = delete;
+  Showing& operator=(const Showing&) = delete;
+
+ private:
+  bool& m_flag;
+};
+
+namespace {
+
+class LiveLineHost : public MenuLineHost {
+ public:
+  LiveLineHost(qvx::LispCaller& lisp, TMenuStack& recent) : m_lisp(lisp), m_recent(recent) {}
+  qvx::LispCaller& Lisp() override { return m_lisp; }
+  void UpdateStatusBar() override {
+    if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->UpdateStatusBar();
+  }
+  void RefreshSwitches() override {
+    if (g_pScreenMenu && g_pScreenMenu->RootGroup()) g_pScreenMenu->RootGroup()->RefreshSwitches();
+  }
+  void Print(const wchar_t* text) override { adsout << text; }
+  void TailCommand(const wchar_t* text) override {
+    if (g_pScreenMenu) g_pScreenMenu->TailCommand(text);
+  }
+  void AddRecent(const wchar_t* command) override { m_recent.AddRecent(command); }
+  void SendToHost(const wchar_t* text) override { qvx::SendToHost(text); }
+
+ private:
+  qvx::LispCaller& m_lisp;
+  TMenuStack& m_recent;
+};
+
+}  // namespace
+
+CBitmapMenu* CContextMenuWnd::AddPopup() {
+  auto* menu = new CBitmapMenu;
+  m_popups.Append(menu);
+  menu->CreatePopupMenu();
+  return menu;
+}
+
+void CContextMenuWnd::ResetPopups() {
+  if (m_isShowing) return;
+  m_pBar = nullptr;
+  m_pMenu = nullptr;
+  for (CBitmapMenu* menu : m_popups) menu->DestroyMenu();
+  m_popups.Clear();
+}
+
+int CContextMenuWnd::IsOurMenu(const CMenu* menu) const {
+  for (const CBitmapMenu* ours : m_popups)
+    if (menu && ours->m_hMenu == menu->m_hMenu) return 1;
+  return 0;
+}
+
+void CContextMenuWnd::ForgetLines() {
+  ++m_linesForgotten;
+  m_pBar = nullptr;
+  for (CBitmapMenu* menu : m_popups)
+    for (CBitmapMenuItemData* row : menu->m_items) row->Forget();
+  if (m_isShowing)
+    ::EndMenu();
+  else
+    ResetPopups();
+}
+
+int CContextMenuWnd::FindBlock(bool force) {
+  TPickEntSet set(TPickEntSet::kOwned);
+  ReadSelection(set);
+  return ChooseBlock(m_menuSystem, DescribeSelection(set), g_nSpeedMenu, force);
+}
+
+int CContextMenuWnd::ShowContextMenu(CPoint point, int force) {
+  if (m_isShowing) return 0;
+  ResetPopups();
+  const int block = FindBlock(force != 0);
+  if (block < 0) return 0;
+  TMenuBar& bar = *m_menuSystem.At(block);
+  if (!g_nRunMode && bar.m_strName == L"COMMON") EnsureRecentLine(bar, m_menuSystem.m_recent);
+  return Track(bar, kFirstContextId, point, 0);
+}
+
+int CContextMenuWnd::ShowMenuAt(TMenuBar& bar, CPoint point, UINT flags) {
+  if (m_isShowing || !acedGetAcadDwgView()) return 0;
+  ResetPopups();
+  return Track(bar, kFirstBlockId, point, flags);
+}
+
+int CContextMenuWnd::Track(TMenuBar& bar, int firstId, CPoint point, UINT flags) {
+  m_pMenu = AddPopup();
+  m_pBar = &bar;
+  int result = 0;
+  bool isShown = false;
+  {
+    const Showing showing(m_isShowing);
+    const auto isMenuGone = [this, before = m_linesForgotten] {
+      return m_linesForgotten != before;
+    };
+    const PopupPlan plan = PlanPopup(bar, PopupIds::kRunning, firstId,
+                                     {&m_lisp, &m_menuSystem, g_hQvxDll != nullptr, isMenuGone});
+    isShown = !plan.menus.empty();
+    if (isShown) {
+      BuildPopup(plan, *m_pMenu, *this);
+      result = m_pMenu->TrackPopupMenu(flags | TPM_RIGHTBUTTON, point.x, point.y, this);
+    }
+  }
+  if (!isShown) ResetPopups();
+  return result;
+}
+
+// The choice arrives when the menu has closed; its objects are alive until the next pop-up.
+BOOL CContextMenuWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+  LiveLineHost host(m_lisp, m_menuSystem.m_recent);
+  if (HIWORD(wParam) == 0 && m_pBar && ExecuteMenuLine(*m_pBar, LOWORD(wParam), host)) return TRUE;
+  return CWnd::OnCommand(wParam, lParam);
+}
+
+// A row that opens a sub-menu has no identifier to find its menu by; the row's record says all.
+void CContextMenuWnd::OnMeasureItem(int control, LPMEASUREITEMSTRUCT item) {
+  if (item->CtlType == ODT_MENU && m_pMenu &&
+      ::IsMenu(reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item->itemID))))
+    m_pMenu->MeasureItem(item);
+  else
+    CWnd::OnMeasureItem(control, item);
+}
+
+LRESULT CContextMenuWnd::OnMenuChar(UINT character, UINT flags, CMenu* menu) {
+  if (menu && menu->IsKindOf(RUNTIME_CLASS(CBitmapMenu)) && IsOurMenu(menu))
+    return static_cast<CBitmapMenu*>(menu)->MenuCharSearch(character, flags);
+  return CWnd::OnMenuChar(character, flags, menu);
+}
+
+// A row without help clears the line, so that no other row's help stands beside it.
+void CContextMenuWnd::OnMenuSelect(UINT id, UINT flags, HMENU menu) {
+  CWnd::OnMenuSelect(id, flags, menu);
+  if (!g_hQvxDll || !m_pBar || (flags & (MF_POPUP | MF_SEPARATOR | MF_SYSMENU))) return;
+  CMDIFrameWnd* frame = acedGetAcadFrame();
+  if (!frame) return;
+  const TMenuItem* line = m_pBar->FindItemById(static_cast<int>(id));
+  const wchar_t* help = line ? qvx::HelpOfLine(*line, &m_menuSystem, true) : nullptr;
+  frame->SetMessageText(help ? help : L"");
+  m_bStatusText = 1;
+}
+
+void CContextMenuWnd::OnExitMenuLoop(BOOL isShortcut) {
+  CWnd::OnExitMenuLoop(isShortcut);
+  if (!m_bStatusText) return;
+  acedRestoreStatusBar();
+  m_bStatusText = 0;
+}
+
+int ShowContextMenu(CPoint point, int force) {
+  CContextMenuWnd* window = TheContextWindow();
+  return window ? window->ShowContextMenu(point, force) : 0;
+}
+
+int ShowBlockMenu(TMenuBar& block, int x, int y, UINT flags) {
+  CContextMenuWnd* window = TheContextWindow();
+  return window ? window->ShowMenuAt(block, CPoint(x, y), flags) : 0;
+}

@@ -1,0 +1,94 @@
+// One group of the screen menu: a column of rows, one for each line of a bar, with a nested group
+// under every header. The whole tree is built at once, hidden, from a plan; folding shows and hides
+// windows. Layout and scrolling stand in menu_group_layout.cpp, clicks in menu_group_command.cpp.
+#pragma once
+
+#include "afxwin.h"
+#include "frame/containers/tdptrlist.h"
+#include "frame/containers/tpdlist.h"
+#include "screenmenu/group_layout.h"
+#include "screenmenu/group_plan.h"
+#include "screenmenu/win/menu_item_button.h"
+
+class CMenuGroup : public CWnd {
+  DECLARE_DYNAMIC(CMenuGroup)
+ public:
+  // Bar and owner outlive the group. The tree below the bar is planned and built here, unseen; the
+  // caller shows the root when it stands. With the owner's menu gone meanwhile the group is empty,
+  // good for nothing but to be deleted.
+  CMenuGroup(TMenuBar* bar, const CRect& rect, CWnd* parent, UINT id, bool limitHeight,
+             GroupOwner* owner);
+  ~CMenuGroup() override;
+
+  // Opens the group of a header, folding the one that was open beside it, or folds it when it is
+  // the open one.
+  void ToggleSubMenu(unsigned index);
+  // Reads the state of every switch line, hidden groups included. Never changes whether a row is
+  // enabled.
+  void RefreshSwitches();
+
+  void LayoutGroup();
+  void ScrollGroup(UINT code, int position);
+  // Puts rows that the last scrolling left behind, far from the view, where they belong. For those
+  // who ask for places; changes nothing that is seen.
+  void SettleRows();
+  int WheelGroup(UINT flags, short delta, CPoint point);  // 1 when it scrolled
+  void RevealRect(const CRect& rect);
+
+  int ContentHeight();
+  CMenuGroup* ScrollHostOf();
+  CMenuGroup* ParentGroup() const;
+  CMenuGroup* OpenChild();
+  int OpenIndex() const { return m_children.GetCur(); }
+
+  bool LimitHeight() const { return m_bLimitHeight; }
+  int RowsHeight() const { return m_nContentHeight; }
+  int ClientHeight() const;
+  int Depth() const { return m_nDepth; }
+  bool HasScrollBar() const { return m_scrollBar.GetSafeHwnd() != nullptr; }
+  CScrollBar& ScrollBar() { return m_scrollBar; }
+
+  int RowCount() const { return m_items.Length(); }
+  CSMenuItem* Row(int index) const { return m_items.At(index); }
+  CMenuGroup* Child(int index);  // null for a line without sub-menu
+
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+ protected:
+  afx_msg void OnPaint();
+  afx_msg void OnSize(UINT type, int cx, int cy);
+  afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+  DECLARE_MESSAGE_MAP()
+
+ private:
+  CMenuGroup(const qvx::GroupPlan& plan, const CRect& rect, CWnd* parent, UINT id,
+             GroupOwner* owner);
+  void Build(const qvx::GroupPlan& plan, const CRect& rect, CWnd* parent, UINT id);
+  void BuildRows(const qvx::GroupPlan& plan, const CRect& rect);
+
+  qvx::LayoutRequest RequestLayout(const CRect& client, const std::vector<int>& heights);
+  void CarryScroll(const qvx::ScrollPlan& plan);
+  void SetScroll(int top, int pos);
+  CRect PlaceOf(CWnd& child) const;  // in this group's client coordinates
+  // Both add to `changed` what has to be redrawn.
+  void PlaceRow(CSMenuItem& row, const CRect& place, CRect& changed);
+  void PlaceChild(CMenuGroup& child, const CRect& place, CRect& changed);
+  static void MoveUnseen(CWnd& child, const CRect& place);
+  void BringNear(const CRect& zone, const CRect& view);
+  qvx::LayoutPlan PlanNow(const CRect& client);
+  void ShowOpenChild(bool show);
+  int FindRow(UINT ctrlId) const;  // -1 when no button of this group has it
+  void ClickSwitch(CSMenuItem& row);
+  void RefreshWatched(const qvx::MenuWatch& watch);
+  void RefreshSwitch(CSMenuItem& row, const qvx::MenuWatch& watch);
+
+  TMenuBar* m_pBar;                // not owned
+  TDPtrList<CSMenuItem> m_items;   // one for each line, in line order
+  TPDList<CMenuGroup> m_children;  // one slot for each line; its cursor is the open index
+  bool m_bLimitHeight = false;
+  int m_nContentHeight = 0;  // row heights plus the margin
+  short m_nDepth = 0;
+  bool m_isScrolledPast = false;  // rows far from the view may stand where they don't belong
+  CScrollBar m_scrollBar;         // its window exists only while it is needed
+  GroupOwner* m_pOwner;           // not owned
+};

@@ -1,0 +1,69 @@
+// One row of the screen menu: an owner-drawn button for one line. Looks and pointer answers are
+// here; a click is reported to the group by the window system and decided there.
+#pragma once
+
+#include "dialogs/win/button_st.h"
+#include "screenmenu/win/group_owner.h"
+#include "screenmenu/row_access.h"
+#include "screenmenu/win/row_accessible.h"
+#include "screenmenu/row_look.h"
+#include "screenmenu/row_plan.h"
+
+class CSMenuItem : public CButtonST {
+  DECLARE_DYNAMIC(CSMenuItem)
+ public:
+  // Line and owner outlive the row.
+  CSMenuItem(TMenuItem* line, int ctrlId, int depth, GroupOwner* owner);
+  ~CSMenuItem() override;
+
+  // Creates the button where the layout puts it. A button that could not be created stays without a
+  // window; its row remains empty.
+  bool CreateRow(const qvx::RowPlan& plan, const CRect& place, CWnd* group);
+
+  void DrawItem(LPDRAWITEMSTRUCT item) override;
+
+  TMenuItem* Line() const { return m_pMenuItem; }
+  int CtrlId() const { return m_nCtrlId; }
+  int RowHeight() const { return m_nRowHeight; }
+
+  void ShowArrow(bool open);
+  void ShowCheckMark();
+  // Loads a bitmap of the icon library; an empty name clears the image.
+  void ShowIcon(const wchar_t* bitmap);
+  // Caption and icon of a switch line after it took over another state.
+  void ShowState();
+  void ReleaseMouse();
+
+  // What screen readers are told.
+  qvx::RowFacts Facts() const;
+  std::wstring Help() const;
+  // Before somebody asks where the row is.
+  void SettlePlace() const;
+
+ protected:
+  void OnMouseEnter() override;
+  afx_msg BOOL OnEraseBkgnd(CDC* dc);
+  afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+  afx_msg void OnContextMenu(CWnd* window, CPoint point);
+  afx_msg void OnCaptureChanged(CWnd* next);
+  afx_msg void OnTimer(UINT_PTR timer);
+  DECLARE_MESSAGE_MAP()
+
+ private:
+  void ShowImage(const qvx::RowPlan& plan);
+  void PaintFace(CDC& dc, const qvx::RowLook& look);
+  void PaintImage(CDC& dc, const qvx::RowLook& look);
+  void PaintText(CDC& dc, const qvx::RowLook& look, const CString& text);
+
+  TMenuItem* m_pMenuItem;  // not owned
+  int m_nCtrlId;
+  int m_nDepth;  // of the group that holds this row
+  int m_nRowHeight = 0;
+  bool m_bOpen = false;     // of a header: shows the arrow of an open group
+  bool m_bChecked = false;  // shows the check mark
+  GroupOwner* m_pOwner;     // not owned
+  RowAccess m_access;
+};
+
+// The colour band of a group and of its idle rows.
+COLORREF MenuColor(int depth);

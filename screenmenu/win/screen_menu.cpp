@@ -1,0 +1,195 @@
+// CScreenMenu: taking a menu, fitting the tree, wheel, closing and what is kept when the window
+// goes.
+#include "screenmenu/win/screen_menu.h"
+
+#include "adslib.h"
+#include "kernel/globals.h"
+#include "rxmfcapi.h"
+#include "ground/win/module_handle.h"
+#include "screenmenu/palette_settings.h"
+#include "screenmenu/screen_menu_host.h"
+
+namespace {
+
+constexpr UINT kRootGroupId = 5000;
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CScreenMenu, CAdUiPaletteSet)
+
+BEGIN_MESSAGE_MAP(CScreenMenu, CAdUiPaletteSet)
+ON_WM_WINDOWPOSCHANGED()
+ON_WM_TIMER()
+ON_WM_DESTROY()
+ON_WM_CONTEXTMENU()
+ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+CScreenMenu::CScreenMenu() = default;
+
+CScreenMenu::~CScreenMenu() {
+  if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->ForgetPopups();
+  m_pTailMenu.reset();
+  m_pRootGroup.reset();
+  if (::IsWindow(m_hDockBar)) RestoreDockBar();
+}
+
+// A second menu on the same palette keeps the rows of the first, since nothing rebuilds a tree in
+// place; the lines that they show have to stay. With no rows yet, because a LISP function loads it
+// while the first one's are planned, the second takes its place.
+void CScreenMenu::TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title) {
+  if (m_pRootGroup && m_rootItem.m_pSubMenu) {
+    m_pastBars.emplace_back(m_rootItem.m_pSubMenu);
+  } else {
+    m_bar.Clear();
+    TMenuBar::Delete(m_rootItem.m_pSubMenu);
+  }
+  m_rootItem.m_strLabel = title;
+  m_rootItem.m_pSubMenu = bar.release();
+  m_bar.BackTo(&m_rootItem);
+  EnsureRootGroup();
+}
+
+void AttachScreenBar(TMenuSystem& system) {
+  std::unique_ptr<TMenuBar> bar = qvx::DetachScreenBar(system);
+  if (g_pScreenMenu) g_pScreenMenu->MenuWasLoaded();
+  if (bar && g_pScreenMenu) g_pScreenMenu->TakeScreenBar(std::move(bar), qvx::RootTitle(system));
+}
+
+void CScreenMenu::MenuWasLoaded() {
+  m_menuLife.Renew();
+  if (m_rootItem.m_pSubMenu) qvx::DropSwitches(*m_rootItem.m_pSubMenu);
+}
+
+// The tree is built hidden and shown once, whole. A LISP function of the menu may load another one
+// or take the palette down meanwhile: what was begun is dropped then, and this object may be gone.
+void CScreenMenu::EnsureRootGroup() {
+  CRect used;
+  GetUsedRect(used);
+  if (m_pRootGroup) return;
+  const CRect place(qvx::FirstRootGroup(used, IsFloating() != FALSE));
+  const qvx::MenuWatch watch = Watch();
+  std::unique_ptr<CMenuGroup> tree(
+      new CMenuGroup(&m_bar, place, this, kRootGroupId, g_bLimitHeight == 1, this));
+  if (watch.IsGone()) return;
+  m_pRootGroup = std::move(tree);
+  if (m_pRootGroup->GetSafeHwnd()) m_pRootGroup->ShowWindow(SW_SHOW);
+}
+
+int CScreenMenu::StepBack() {
+  TMenuItem* line = m_bar.StackTop();
+  if (!line) return 0;
+  m_bar.BackTo(line);
+  EnsureRootGroup();
+  return 1;
+}
+
+const TMenuSystem* CScreenMenu::MenuSystem() {
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  return host ? host->MenuSystem() : nullptr;
+}
+
+// Six bitmaps serve all headers of all depths.
+HBITMAP CScreenMenu::Arrow(int depth, bool open) {
+  qvx::OwnedBitmap& arrow = m_arrows[depth % qvx::kArrowKinds][open];
+  if (!arrow)
+    arrow.Reset(static_cast<HBITMAP>(::LoadImageW(qvx::ThisModule(),
+                                                  MAKEINTRESOURCEW(qvx::ArrowBitmap(depth, open)),
+                                                  IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+  return arrow.Get();
+}
+
+// The library stays loaded for as long as a palette shows its menu.
+HBITMAP CScreenMenu::Icon(const wchar_t* name) {
+  const auto [icon, isNew] = m_icons.try_emplace(name);
+  if (isNew)
+    icon->second.Reset(static_cast<HBITMAP>(
+        ::LoadImageW(g_hQvxDll, name, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+  return icon->second.Get();
+}
+
+void CScreenMenu::OnWindowPosChanged(WINDOWPOS* position) {
+  CAdUiPaletteSet::OnWindowPosChanged(position);
+  if (m_pRootGroup && m_pRootGroup->GetSafeHwnd()) FitGroup();
+}
+
+void CScreenMenu::FitGroup() {
+  CRect used, window;
+  GetUsedRect(used);
+  GetWindowRect(&window);
+  ScreenToClient(&window);
+  const CRect fit(qvx::FitRootGroup(used, IsFloating() != FALSE, window.bottom));
+  CRect present;
+  m_pRootGroup->GetWindowRect(&present);
+  ScreenToClient(&present);
+  if (present != fit) m_pRootGroup->MoveWindow(&fit, TRUE);
+}
+
+// With the root's height limited only its open group scrolls. The message is taken in every case.
+BOOL CScreenMenu::OnMouseWheel(UINT flags, short delta, CPoint point) {
+  CMenuGroup* target = m_pRootGroup.get();
+  if (target && target->LimitHeight()) target = target->OpenChild();
+  if (target && target->HasScrollBar()) target->WheelGroup(flags, delta, point);
+  return TRUE;
+}
+
+// F4 steps back as long as something was entered, and passes on to the host otherwise.
+BOOL CScreenMenu::PreTranslateMessage(MSG* message) {
+  if (message->message == WM_KEYDOWN && message->wParam == VK_F4) return StepBack();
+  return CAdUiPaletteSet::PreTranslateMessage(message);
+}
+
+void CScreenMenu::GetFloatingMinSize(long* width, long* height) {
+  *width = qvx::kPaletteLeastWidth;
+  *height = qvx::kPaletteLeastHeight;
+}
+
+void CScreenMenu::DropHover() {
+  CWnd* holder = CWnd::FromHandlePermanent(::GetCapture());
+  auto* row = holder ? DYNAMIC_DOWNCAST(CSMenuItem, holder) : nullptr;
+  if (!row) return;
+  row->ClearHover();
+  row->ReleaseMouse();
+}
+
+void CScreenMenu::CloseSilently() {
+  m_bCloseHint = 0;
+  OnClosing();
+}
+
+// A close by the program passes in silence and arms the hint; a close by the user says how to get
+// the palette back.
+bool CScreenMenu::OnClosing() {
+  if (m_bCloseHint) {
+    acutPrintf(L"热键<Ctrl +>显示屏幕菜单\n");
+    acedPostCommandPrompt();
+  }
+  m_bCloseHint = 1;
+  return CAdUiPaletteSet::OnClosing();
+}
+
+// The window system hides a window before it tells it of its end, so what the user saw is noted
+// here; a palette that goes with its frame is still shown when it is told.
+BOOL CScreenMenu::DestroyWindow() {
+  m_bShownAtEnd = IsScreenMenuVisible();
+  return CAdUiPaletteSet::DestroyWindow();
+}
+
+void CScreenMenu::OnDestroy() {
+  TrackCancel();
+  CRect window, frameClient;
+  GetWindowRect(&window);
+  const CSize size = window.Size();
+  if (CWnd* frame = acedGetAcadFrame()) {
+    frame->GetClientRect(&frameClient);
+    frame->ScreenToClient(&window);
+  }
+  qvx::SavePaletteState({m_bShownAtEnd || IsScreenMenuVisible(),
+                         qvx::AlignmentOf(window, frameClient), size, g_bLimitHeight,
+                         g_bDefaultOpenFirst, g_bScrollBar});
+  if (m_pRootGroup) {
+    qvx::SaveActiveSubMenu(m_pRootGroup->OpenIndex());
+    m_pRootGroup->DestroyWindow();
+  }
+  CAdUiPaletteSet::OnDestroy();
+}

@@ -1,0 +1,137 @@
+// The palette of the screen menu: a dockable window of the host that carries the tree of groups. It
+// comes up empty; the tree appears when a menu is attached, and lives as long as the palette. Where
+// to look: screen_menu.cpp fitting and closing, screen_menu_setup.cpp coming up and going down,
+// screen_menu_dispatch.cpp clicks and the waiting command, screen_menu_popup.cpp right clicks,
+// screen_menu_drag.cpp the dragged edge.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "adui.h"
+#include "ground/win/owned_handle.h"
+#include "screenmenu/dispatch_rules.h"
+#include "screenmenu/edge_drag.h"
+#include "screenmenu/win/host_lisp.h"
+#include "screenmenu/menu_colors.h"
+#include "screenmenu/win/menu_group.h"
+#include "screenmenu/screen_menu_bar.h"
+
+class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
+  DECLARE_DYNAMIC(CScreenMenu)
+ public:
+  CScreenMenu();
+  ~CScreenMenu() override;
+
+  // Takes the bar over as the root of the tree and builds it.
+  void TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title);
+  void EnsureRootGroup();
+
+  // A menu was loaded, whatever is in it: the switches of the one before are gone.
+  void MenuWasLoaded();
+
+  int StepBack();  // 1 if it stepped, 0 when nothing was entered
+  TMenuBar* RootBar() const { return m_bar.RootBar(); }
+  CMenuGroup* RootGroup() const { return m_pRootGroup.get(); }
+
+  // A line of a pop-up that this palette built: the command without its leading "*".
+  void TailCommand(const wchar_t* text);
+
+  // A row under the pointer gives the mouse back and looks idle.
+  void DropHover();
+
+  // The next close says nothing.
+  void CloseSilently();
+  bool AutoDeletes() const { return m_bAutoDelete != FALSE; }
+
+  BOOL PreTranslateMessage(MSG* message) override;
+  BOOL DestroyWindow() override;
+  CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
+  bool OnClosing() override;
+  void GetFloatingMinSize(long* width, long* height) override;
+  void OnContextMenu(CWnd* window, CPoint point) override;
+
+ protected:
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+  afx_msg void OnWindowPosChanged(WINDOWPOS* position);
+  afx_msg void OnTimer(UINT_PTR timer);
+  afx_msg void OnDestroy();
+  afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+  DECLARE_MESSAGE_MAP()
+
+ private:
+  qvx::LispCaller& Lisp() override { return m_lisp; }
+  qvx::MenuWatch Watch() const override { return m_menuLife.Watch(); }
+  const TMenuSystem* MenuSystem() override;
+  HBITMAP Arrow(int depth, bool open) override;
+  HBITMAP Icon(const wchar_t* name) override;
+  void ArmCommand(const TWCString& command) override;
+  bool IsHostBusy() override;
+  void ReportBusy() override;
+  void SwitchWasFlipped() override;
+  void ShowHeaderMenu(TMenuBar& bar, const CRect& button, CPoint at) override;
+  void ShowLineMenu(TMenuItem& line, CPoint at) override;
+  void RestoreStatusBar() override;
+
+  void FitGroup();
+  CSMenuItem* FindDirectItem(UINT ctrlId) const;
+  void OpenDirectly(TMenuItem& line);
+  void FlipDirectly(CSMenuItem& item);
+  TMenuBar& BuildTail(bool withHelp);
+  void ShowHelpFor(const TMenuItem& line);
+
+  static LRESULT CALLBACK DockBarProc(HWND bar, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT OnDockBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam);
+  void TakeDockBar(HWND bar);
+  void RestoreDockBar();
+  bool StandsAlone(CDockBar& bar);
+  qvx::DockGeometry MeasureDock() const;
+  SIZE LeastSize();
+  void TrackBegin(int code);
+  void TrackMove(CPoint point);
+  void TrackEnd();
+  void TrackCancel();  // the palette goes in the middle of a drag: nothing of it stays
+  void DrawTracker();
+
+  qvx::PendingCommand m_pending;                      // waits for the timer
+  TDPtrList<CSMenuItem> m_directItems;                // direct buttons; nothing places any
+  TMenuItem m_rootItem;                               // owns the bar of the screen menu
+  std::vector<std::unique_ptr<TMenuBar>> m_pastBars;  // replaced while rows still show their lines
+  TScreenMenuBar m_bar;
+  std::unique_ptr<TMenuBar> m_pTailMenu;  // the last pop-up of a right click, alive until the next
+  TMenuItem* m_pClickedItem = nullptr;    // the leaf last right-clicked, not owned
+  std::unique_ptr<CMenuGroup> m_pRootGroup;  // null until the first menu is attached
+  int m_bShownAtEnd = 0;                     // visible when it was told to go
+  int m_bCloseHint = 1;                      // say the hot key on closing
+  int m_bTracking = 0;                       // an edge drag is running
+  CRect m_rcTracker;                         // the drag bar, in the dock bar's client coordinates
+  HWND m_hDockBar = nullptr;                 // the dock bar whose window procedure is replaced
+  WNDPROC m_pfnDockBarProc = nullptr;        // its own procedure
+
+  qvx::HostLisp m_lisp;
+  qvx::MenuLife m_menuLife;
+  qvx::OwnedBitmap m_arrows[qvx::kArrowKinds][2];    // folded, open; loaded at first use
+  std::map<std::wstring, qvx::OwnedBitmap> m_icons;  // by name, null for one that did not load
+};
+
+extern CScreenMenu* g_pScreenMenu;  // null when there is no palette
+
+// Creates the palette, docks and shows it, or takes an existing one back to its dock; with false
+// saves and destroys it. A reload of the menu does both in turn.
+void InitScreenMenu(bool create, bool show);
+
+// Hands the "SCREEN" block of a menu that has just been loaded to the palette. Without such a block
+// nothing changes; without a palette the block is deleted.
+void AttachScreenBar(TMenuSystem& system);
+
+// The two commands that act on the palette.
+void RefreshScreenMenu();
+void DockFloatingScreenMenu();
+
+extern "C" {
+__declspec(dllexport) int ShowScreenMenu(int show);
+__declspec(dllexport) int IsScreenMenuVisible();
+__declspec(dllexport) int GetScreenMenuWidth();
+}

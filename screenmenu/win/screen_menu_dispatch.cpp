@@ -1,0 +1,89 @@
+// CScreenMenu: how a chosen command gets to the host. It does not start from inside the button's
+// click: it waits, cancels what runs, and hands the keyboard back to the drawing.
+#include "rxmfcapi.h"
+#include "screenmenu/row_plan.h"
+#include "screenmenu/win/screen_menu.h"
+#include "screenmenu/screen_menu_host.h"
+
+void CScreenMenu::ArmCommand(const TWCString& command) {
+  m_pending.Arm(command);
+  SetTimer(qvx::kSendTimer, qvx::kSendDelay);
+}
+
+void CScreenMenu::OnTimer(UINT_PTR timer) {
+  if (!qvx::IsSendDue(static_cast<unsigned>(timer), m_pending, qvx::HasWorkingDatabase())) {
+    CAdUiPaletteSet::OnTimer(timer);
+    return;
+  }
+  KillTimer(qvx::kSendTimer);
+  if (CWnd* view = acedGetAcadDwgView()) view->SetFocus();
+  const bool busy = IsHostBusy();
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  if (TMenuSystem* system = host ? host->MenuSystem() : nullptr)
+    system->m_recent.AddRecent(m_pending.Text());
+  qvx::SendToHost(m_pending.Take(busy));
+}
+
+bool CScreenMenu::IsHostBusy() { return qvx::IsBusy(qvx::AskHostActivity()); }
+
+void CScreenMenu::ReportBusy() { AfxMessageBox(L"有命令未完成"); }
+
+// Status panes show some of the same switches, and other rows may be on the same one. The panes ask
+// LISP functions too, which may end this palette.
+void CScreenMenu::SwitchWasFlipped() {
+  const qvx::MenuWatch watch = Watch();
+  if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->UpdateStatusBar();
+  if (!watch.IsGone() && m_pRootGroup) m_pRootGroup->RefreshSwitches();
+}
+
+// The same decision for buttons directly on the palette. Nothing places any, so in use the base's
+// result is returned.
+BOOL CScreenMenu::OnCommand(WPARAM wParam, LPARAM lParam) {
+  const BOOL handled = CAdUiDockControlBar::OnCommand(wParam, lParam);
+  if (handled || HIWORD(wParam) != 0) return handled;
+  CSMenuItem* item = lParam ? FindDirectItem(LOWORD(wParam)) : nullptr;
+  if (!item || !item->Line()) return handled;
+  switch (qvx::DecideClick(*item->Line())) {
+    case qvx::ClickKind::kFold:
+      OpenDirectly(*item->Line());
+      break;
+    case qvx::ClickKind::kSwitch:
+      FlipDirectly(*item);
+      break;
+    case qvx::ClickKind::kCommand:
+      ArmCommand(item->Line()->m_strCommand);
+      item->ReleaseMouse();
+      break;
+    case qvx::ClickKind::kNothing:
+      break;
+  }
+  return TRUE;
+}
+
+CSMenuItem* CScreenMenu::FindDirectItem(UINT ctrlId) const {
+  for (CSMenuItem* item : m_directItems)
+    if (static_cast<UINT>(item->CtrlId()) == ctrlId) return item;
+  return nullptr;
+}
+
+void CScreenMenu::OpenDirectly(TMenuItem& line) {
+  if (&line == m_bar.Current()) return;
+  if (m_bar.IsOnStack(&line))
+    m_bar.BackTo(&line);
+  else
+    m_bar.EnterSubMenu(&line);
+  EnsureRootGroup();
+}
+
+// Unlike a row of a group this tells neither the status panes nor the other rows.
+void CScreenMenu::FlipDirectly(CSMenuItem& item) {
+  if (IsHostBusy()) {
+    ReportBusy();
+    return;
+  }
+  item.ReleaseMouse();
+  if (qvx::FlipSwitch(*item.Line(), m_lisp, Watch()) != qvx::SwitchResult::kChanged) return;
+  item.SetBitmaps(nullptr, nullptr, 0, 0);
+  item.ShowState();
+  item.Invalidate();
+}

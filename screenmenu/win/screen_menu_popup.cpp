@@ -1,0 +1,65 @@
+// CScreenMenu: right clicks on rows and on the palette, what a line chosen there does, help for a
+// line. The pop-ups themselves are shown by the room that owns them.
+#include "kernel/globals.h"
+#include "kernel/qvxexport.h"
+#include "rxmfcapi.h"
+#include "screenmenu/win/screen_menu.h"
+#include "screenmenu/screen_menu_host.h"
+#include "screenmenu/tail_menu.h"
+
+#include <htmlhelp.h>
+
+TMenuBar& CScreenMenu::BuildTail(bool withHelp) {
+  m_pTailMenu = qvx::BuildTailMenu({withHelp, g_bLimitHeight != 0, RootBar(), MenuSystem(),
+                                    QvxExport::GetFullCmdName(L"TCustomize")});
+  return *m_pTailMenu;
+}
+
+void CScreenMenu::ShowLineMenu(TMenuItem& line, CPoint at) {
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  if (!host) return;
+  m_pClickedItem = &line;
+  host->ShowMenuAt(BuildTail(g_nRunMode == 0), at, 0);
+}
+
+// A header gives its own lines, without unfolding, on the side that is farther from the frame's
+// edge.
+void CScreenMenu::ShowHeaderMenu(TMenuBar& bar, const CRect& button, CPoint at) {
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  CWnd* frame = acedGetAcadFrame();
+  if (!host || !frame) return;
+  CRect frameRect;
+  frame->GetWindowRect(&frameRect);
+  host->ShowMenuAt(bar, {qvx::HeaderPopupX(button, frameRect), at.y}, 0);
+}
+
+void CScreenMenu::RestoreStatusBar() { acedRestoreStatusBar(); }
+
+void CScreenMenu::OnContextMenu(CWnd*, CPoint point) {
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  if (!host || !host->MenuSystem()) return;
+  RestoreStatusBar();
+  host->ShowMenuAt(BuildTail(false), point, 0);
+}
+
+void CScreenMenu::TailCommand(const wchar_t* text) {
+  const qvx::TailChoice choice = qvx::DecideTail(text, m_bar);
+  if (choice.kind == qvx::TailChoice::Kind::kHelp && m_pClickedItem) ShowHelpFor(*m_pClickedItem);
+  if (choice.kind == qvx::TailChoice::Kind::kToggle && m_pRootGroup)
+    m_pRootGroup->ToggleSubMenu(static_cast<unsigned>(choice.index));
+}
+
+// The help file opens, looks the label up as a keyword, and falls back to its index.
+void CScreenMenu::ShowHelpFor(const TMenuItem& line) {
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  wchar_t path[QvxExport::kPathUnits];
+  if (!host || !QvxExport::FindFile(host->HelpFile(), path)) return;
+  const TWCString label(line.m_strLabel);
+  ::HtmlHelpW(nullptr, path, HH_DISPLAY_TOPIC, 0);
+  HH_AKLINK link{};
+  link.cbStruct = sizeof link;
+  link.pszKeywords = label;
+  link.fIndexOnFail = TRUE;
+  ::HtmlHelpW(nullptr, path, HH_KEYWORD_LOOKUP, reinterpret_cast<DWORD_PTR>(&link));
+  ::HtmlHelpW(nullptr, path, HH_DISPLAY_INDEX, reinterpret_cast<DWORD_PTR>(label.c_str()));
+}

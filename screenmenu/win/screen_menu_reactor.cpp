@@ -1,0 +1,50 @@
+// See screen_menu_reactor.h.
+#include "screenmenu/win/screen_menu_reactor.h"
+
+#include <utility>
+
+#include "acstatusbar.h"
+#include "screenmenu/win/screen_menu.h"
+#include "screenmenu/screen_menu_host.h"
+
+namespace {
+
+TScreenMenuReactor* s_reactor = nullptr;
+
+// A drawing being made is counted already, one being destroyed still is: so one is the first and
+// the last in turn. Without a palette nothing is done and nothing remembered: one that is made
+// after the last drawing closed comes up enabled.
+void EnableForOnlyDrawing(BOOL enable) {
+  if (acDocManagerPtr()->documentCount() != 1) return;
+  if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return;
+  g_pScreenMenu->EnableWindow(enable);
+  if (!enable) g_pScreenMenu->DropHover();  // it holds the mouse and would take one more click
+}
+
+}  // namespace
+
+void TScreenMenuReactor::documentCreated(AcApDocument*) { EnableForOnlyDrawing(TRUE); }
+
+void TScreenMenuReactor::documentToBeDestroyed(AcApDocument*) { EnableForOnlyDrawing(FALSE); }
+
+void TScreenMenuReactor::documentActivated(AcApDocument*) {
+  AcApDocManager* documents = acDocManagerPtr();
+  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
+  if (!host || documents->documentCount() == 0 || !documents->curDocument()) return;
+  host->WriteDrawingScale();
+  host->RefreshDrawingPanes();
+  host->RefreshScaleText();
+  if (AcApStatusBar* bar = acedGetApplicationStatusBar()) bar->Update();
+  host->ResetPreviewCounters();
+}
+
+void InitScreenMenuReactor(bool add) {
+  AcApDocManager* documents = acDocManagerPtr();
+  if (add && !s_reactor) {
+    s_reactor = new TScreenMenuReactor;
+    documents->addReactor(s_reactor);
+  } else if (!add && s_reactor) {
+    documents->removeReactor(s_reactor);
+    delete std::exchange(s_reactor, nullptr);
+  }
+}

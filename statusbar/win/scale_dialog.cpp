@@ -1,0 +1,28 @@
+#include "statusbar/win/scale_dialog.h"
+
+#include "ground/win/module_resources.h"
+#include "kernel/drawing_scale.h"
+#include "resources/resource_ids.h"
+#include "rxmfcapi.h"
+#include "statusbar/drawing_scale_change.h"
+
+CPScaleDlg::CPScaleDlg(double scale, CWnd* parent)
+    : GlwCAcUiDialog(IDD_SCALE, parent), m_dScale(scale) {}
+
+void CPScaleDlg::DoDataExchange(CDataExchange* exchange) {
+  GlwCAcUiDialog::DoDataExchange(exchange);
+  DDX_Text(exchange, IDC_SCALE, m_dScale);
+}
+
+// What is no number keeps the dialog open; DDX_Text has told the user then.
+void CPScaleDlg::OnOK() {
+  if (!UpdateData(TRUE)) return;
+  qvx::SetScale(m_dScale);
+  EndDialog(IDOK);
+}
+
+bool ShowScaleDialog() {
+  const qvx::ModuleResources resources;
+  CPScaleDlg dialog(DocGetPScale(), acedGetAcadFrame());
+  return dialog.DoModal() == IDOK;
+}

@@ -1,0 +1,90 @@
+// The panes of the module's own switches, and what all with icons share; those of the drawing stand
+// in drawing_panes.cpp.
+#include "statusbar/win/switch_panes.h"
+
+#include <optional>
+
+#include "adslib.h"
+#include "ground/host_variables.h"
+#include "kernel/globals.h"
+#include "kernel/tadsprintf.h"
+#include "statusbar/win/dyn_input_dialog.h"
+#include "statusbar/pane_icons.h"
+
+namespace {
+
+void PostPromptUnlessBusy() {
+  if (qvx::ShortVariable(L"CMDACTIVE").value_or(0) == 0) acedPostCommandPrompt();
+}
+
+void WritePickStyle(int value) {
+  resbuf short_{};
+  short_.restype = RTSHORT;
+  short_.resval.rint = static_cast<short>(value);
+  acedSetVar(L"pickstyle", &short_);
+}
+
+}  // namespace
+
+void TIconPane::OnRButtonDown(UINT, CPoint point) {
+  const qvx::PaneLook& look = qvx::LookOf(m_pane);
+  ShowStateMenu(look.onMenu, look.offMenu, point);
+}
+
+// Deliberately the off icon whatever the state: until the first refresh, which the next change of
+// drawing brings, a switch that is on shows it by its style alone.
+void TIconPane::Init(bool add) {
+  CADStatusPane::Init(add);
+  if (!add) return;
+  ShowIcon(false);
+  m_strToolTip = qvx::LookOf(m_pane).toolTip;
+}
+
+void TIconPane::ShowIcon(bool on) { SetIcon(qvx::PaneIcon(qvx::IconOf(m_pane, on))); }
+
+bool TDynDimPane::IsOn() { return g_bDynamicCoord == 1; }
+
+void TDynDimPane::OnToggle() {
+  const bool on = !IsOn();
+  ShowIcon(on);
+  g_bDynamicCoord = on ? 1 : 0;
+  adsout << (on ? L"<动态标注开>" : L"<动态标注关>");
+  PostPromptUnlessBusy();
+}
+
+bool TMakeGroupPane::IsOn() { return g_bMakeGroup == 1; }
+
+void TMakeGroupPane::OnToggle() {
+  const bool on = !IsOn();
+  g_bMakeGroup = on ? 1 : 0;
+  adsout << (on ? L"<编组启动>" : L"<编组关闭>");
+  ShowIcon(on);
+  WritePickStyle(qvx::PickStyleAfterClick(qvx::ShortVariable(L"pickstyle"), on));
+  PostPromptUnlessBusy();
+}
+
+// PICKSTYLE is brought in line when the pane comes and also when it goes.
+void TMakeGroupPane::Init(bool add) {
+  TIconPane::Init(add);
+  if (add && IsOn()) ShowIcon(true);
+  WritePickStyle(qvx::PickStyleAtInit(qvx::ShortVariable(L"pickstyle"), IsOn()));
+}
+
+bool TDynPane::IsOn() { return QvxGeLib::g_bDynInput == 1; }
+
+void TDynPane::OnToggle() {
+  const bool on = !IsOn();
+  QvxGeLib::g_bDynInput = on ? 1 : 0;
+  adsout << (on ? L"<动态输入开>" : L"<动态输入关>");
+  PostPromptUnlessBusy();
+}
+
+void TDynPane::OnSetting() { ShowDynInputDialog(); }
+
+void TDynPane::Init(bool add) {
+  if (!qvx::HasDynInputPane(g_dHostVersion)) return;
+  CADStatusPane::Init(add);
+  if (!add) return;
+  SetText(L"DYN");
+  m_strToolTip = L"启动/关闭 动态输入";
+}

@@ -1,0 +1,104 @@
+// The order in which the real module comes up, as the host's side of the calls saw it, held against
+// the list of steps. The diary of load_sequence_test has the steps that cross no seam; a room that
+// is built later adds its own line here.
+#include "devhost/core/start_trace.h"
+#include "devhost/ui/start_watch.h"
+#include "tests/module/win/module_test.h"
+
+namespace {
+
+using List = std::vector<std::string>;
+
+bool Begins(const std::string& text, const char* with) { return text.rfind(with, 0) == 0; }
+
+// The steps of the module itself: what other modules do in their own start is left out, and so are
+// host variables and windows but the context window. Calls of one name in a row are one step, told
+// with how many there were.
+List OwnSteps() {
+  List own;
+  std::string inside;  // the other module that is starting
+  for (const devhost::StartStep& step : devhost::TheStartTrace().Steps()) {
+    const bool isOwn = step.detail == "qvx_initstart.arx";
+    if (step.name == "kInitAppMsg" && !isOwn) inside = step.detail;
+    if (inside.empty() && step.name != "acedGetVar" && step.name != "var" &&
+        (step.name != "window made" || Begins(step.detail, "Afx:"))) {
+      std::string text = step.name;
+      if (!step.detail.empty() && step.name != "window made") text += " " + step.detail;
+      if (step.times > 1) text += " x" + std::to_string(step.times);
+      own.push_back(text);
+    }
+    if (step.name == "kInitAppMsg done" && step.detail == inside) inside.clear();
+  }
+  return own;
+}
+
+// What of the module stands, and what it has kept already.
+std::string Standing() {
+  return "kept \"" + devhost::Utf8(TextOf(L"Settings", L"RecentCmd")) + "\", commands " +
+         std::to_string(ModuleCommands()) + (Panes() > 0 ? ", panes" : "") +
+         (IsMapped(L"qvx.dll") ? ", icons" : "");
+}
+
+// mutable: the diary of the windows that go while the hook is set; several in a row are one line.
+HWND g_contextWindow = nullptr;
+List g_gone;
+
+LRESULT CALLBACK NoteDestroyed(int code, WPARAM window, LPARAM details) {
+  if (code == HCBT_DESTROYWND) {
+    const bool isContext = reinterpret_cast<HWND>(window) == g_contextWindow;
+    const std::string line = (isContext ? "context window: " : "palette: ") + Standing();
+    if (g_gone.empty() || g_gone.back() != line) g_gone.push_back(line);
+  }
+  return ::CallNextHookEx(nullptr, code, window, details);
+}
+
+}  // namespace
+
+TEST_F(Module, ComesUpInTheWrittenOrder) {
+  ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);  // a first start
+  HostProcess::Get().Write(L"dmload.rx", "qvx_design.arx\r\n");
+  HostProcess::Get().Write(L"qvx.ini", "[Product]\nTitle=Test\n");
+  HostProcess::Get().Write(L"qvxtips.txt", "one\r\ntwo\r\n");
+  SetNumber(L"Settings", L"g_nCustomFlag", 0);
+  SetNumber(L"Tips", L"StartUp", 0);
+  {
+    const devhost::StartWatch watch(L"");
+    ASSERT_TRUE(LoadModule());
+  }
+  EXPECT_EQ(OwnSteps(),
+            (List{"kInitAppMsg qvx_initstart.arx", "module qvx_kernal.arx loaded",
+                  "unlockApplication", "registerAppMDIAware", "acedFindFile qvxtips.txt",
+                  "acedFindFile qvx.qmn x2",  // and its icon library
+                  "window made", "addCommand TShowBar x14", "addReactor",
+                  "acedFindFile dmload.rx x2",  // and the file that it names
+                  "module qvx_design.arx loaded", "acedFindFile qvx.ini",
+                  "kInitAppMsg done qvx_initstart.arx"}));
+  for (const wchar_t* name : {L"dmload.rx", L"qvx.ini", L"qvxtips.txt"})
+    HostProcess::Get().Remove(name);
+  ASSERT_TRUE(UnloadModule());  // which keeps the flags
+  SetNumber(L"Settings", L"g_nCustomFlag", 2);
+  SetNumber(L"Tips", L"StartUp", 1);
+  acrxUnloadModule(L"qvx_design.arx");
+  ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);
+}
+
+// Seen from the two windows: when each goes, what stands before it in the list has happened and
+// what stands behind it has not.
+TEST_F(Module, GoesDownInTheWrittenOrder) {
+  HostProcess::Get().CopyProductFile(L"qvx.dll");
+  SetText(L"Settings", L"RecentCmd", L"a,b,");
+  ASSERT_TRUE(LoadModule());
+  BringUp();
+  Forget(L"Settings", L"RecentCmd");
+  g_gone.clear();
+  g_contextWindow = HostProcess::Get().ContextWindow();
+  const HHOOK hook = ::SetWindowsHookExW(WH_CBT, NoteDestroyed, nullptr, ::GetCurrentThreadId());
+  Export<int (*)(int, void*)>(L"qvx_initstart.arx", "acrxEntryPoint")(AcRx::kUnloadAppMsg, nullptr);
+  ::UnhookWindowsHookEx(hook);
+  EXPECT_EQ(g_gone, (List{"palette: kept \"a,b,\", commands 14, panes, icons",
+                          "context window: kept \"a,b,\", commands 14, panes, icons"}));
+  EXPECT_EQ(Standing(), "kept \"a,b,\", commands 0");
+  ASSERT_TRUE(UnloadModule());
+  Forget(L"Settings", L"RecentCmd");
+  HostProcess::Get().Remove(L"qvx.dll");
+}

@@ -1,0 +1,81 @@
+// The context window as a real child of a real frame: where it stands, its readiness timer, the
+// request to open a drawing, and that nothing of it is left when it is told to go.
+#include <gtest/gtest.h>
+
+#include "kernel/globals.h"
+#include "popup/win/context_menu_wnd.h"
+#include "tests/doubles/win/palette_host.h"
+
+namespace {
+
+class CountedSteps : public StartupSteps {
+ public:
+  void OnMenuReadiness() override { ++firings; }
+  int firings = 0;
+};
+
+class ContextWindow : public testing::Test {
+ protected:
+  ContextWindow() : host(ThePaletteHost()) {
+    host.OpenFrame();
+    InitContextWindow(true, &steps);
+  }
+  ~ContextWindow() override {
+    InitContextWindow(false, nullptr);
+    host.CloseFrame();
+  }
+
+  PaletteHost& host;
+  CountedSteps steps;
+};
+
+TEST_F(ContextWindow, IsAChildOfOnePixelOfTheHostFrameThatTheKernelKnows) {
+  CContextMenuWnd* window = TheContextWindow();
+  ASSERT_TRUE(window && window->GetSafeHwnd());
+  EXPECT_EQ(::GetParent(window->m_hWnd), host.frame->m_hWnd);
+  EXPECT_EQ(window->GetDlgCtrlID(), 310);
+  const DWORD both = WS_CHILD | WS_VISIBLE;
+  EXPECT_EQ(window->GetStyle() & both, both);
+  CRect place;
+  window->GetWindowRect(&place);
+  EXPECT_EQ(place.Size(), CSize(1, 1));
+  EXPECT_EQ(g_pContextMenu, window);
+}
+
+TEST_F(ContextWindow, ItsReadinessTimerRunsUntilItIsStopped) {
+  CContextMenuWnd* window = TheContextWindow();
+  const auto waitForFiring = [this](DWORD limit) {
+    const int before = steps.firings;
+    for (const DWORD start = ::GetTickCount(); ::GetTickCount() - start < limit;) {
+      host.Pump();
+      if (steps.firings > before) return true;
+      ::Sleep(5);
+    }
+    return false;
+  };
+  EXPECT_TRUE(waitForFiring(5000));
+  EXPECT_TRUE(waitForFiring(5000)) << "it goes on";
+  window->StopReadinessTimer();
+  host.Pump();
+  EXPECT_FALSE(waitForFiring(300));
+}
+
+TEST_F(ContextWindow, ARequestToOpenADrawingIsSwallowedAndOtherMessagesPass) {
+  CContextMenuWnd* window = TheContextWindow();
+  MSG message{};
+  message.hwnd = window->m_hWnd;
+  message.message = 0x500;
+  EXPECT_TRUE(window->PreTranslateMessage(&message));
+  message.message = 0x501;
+  EXPECT_FALSE(window->PreTranslateMessage(&message));
+}
+
+TEST_F(ContextWindow, GoesWithItsPointerInTheKernel) {
+  const HWND window = TheContextWindow()->m_hWnd;
+  InitContextWindow(false, nullptr);
+  EXPECT_FALSE(::IsWindow(window));
+  EXPECT_EQ(TheContextWindow(), nullptr);
+  EXPECT_EQ(g_pContextMenu, nullptr);
+}
+
+}  // namespace
