@@ -11,7 +11,7 @@ qvx_bench_packages=(flex bison rapidjson-dev libbenchmark-dev)
 qvx_install_missing() {
   local packages=(g++ cmake ninja-build libgtest-dev wine wine64 g++-mingw-w64-x86-64-posix xvfb
                   xdotool x11-utils fonts-wqy-microhei fonts-wine imagemagick nlohmann-json3-dev
-                  libcli11-dev python3 ccache clang-format locales "$@")
+                  libcli11-dev python3 ccache clang-format locales universal-ctags "$@")
   local missing=() p
   for p in "${packages[@]}"; do
     [ "$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null)" = "install ok installed" ] || missing+=("$p")
@@ -26,16 +26,21 @@ qvx_install_missing() {
   locale -a | grep -qix 'zh_CN\.utf-\?8' || $sudo localedef -i zh_CN -f UTF-8 zh_CN.UTF-8 >&2
 }
 
+# qvx_configure PRESET: once.
+qvx_configure() {
+  local preset=$1
+  local log="build/$preset.log"
+  mkdir -p build
+  [ ! -f "build/$preset/build.ninja" ] || return 0
+  echo "configuring $preset" >&2
+  cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+}
+
 # qvx_build PRESET [TARGET...]: configures once and builds; quiet unless something is wrong.
 qvx_build() {
   local preset=$1; shift
   local log="build/$preset.log"
-  mkdir -p build
-  if [ ! -f "build/$preset/build.ninja" ]; then
-    echo "configuring $preset" >&2
-    cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$log" 2>&1 ||
-      { cat "$log" >&2; return 1; }
-  fi
+  qvx_configure "$preset" || return 1
   echo "building $preset" >&2
   ninja -C "build/$preset" "$@" >"$log" 2>&1 || { tail -n 60 "$log" >&2; return 1; }
   # A warning does not stop anybody's work, but it is not let in either: see test.

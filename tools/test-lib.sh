@@ -62,6 +62,30 @@ run_programs() {
   done
 }
 
+# The native test programs whose name contains $1, or, where GTEST_FILTER names a suite, those that
+# hold it.
+native_programs() {
+  local suite objects
+  suite=${GTEST_FILTER%%.*}
+  objects=$(ninja -C build/native -t targets all | sed -n 's#^tests/.*/\(test_[a-z0-9_]*\)\.dir/\(.*\)\.o: .*#\1 \2#p')
+  if [ "$suite" = "$GTEST_FILTER" ] || [ "${suite#*"*"}" != "$suite" ]; then
+    printf '%s\n' "$objects" | cut -d' ' -f1 | sort -u | grep -F -- "$1"
+    return
+  fi
+  git grep -lE "^TEST(_F|_P)?\\($suite," -- tests | sed 's#.*/##' | while read -r source; do
+    printf '%s\n' "$objects" | grep -E "[ /]$source\$" | cut -d' ' -f1
+  done | sort -u
+}
+
+run_native() {
+  local programs program
+  qvx_configure native || { fail "native build"; return; }
+  mapfile -t programs < <(native_programs "$1")
+  [ ${#programs[@]} -gt 0 ] || { fail "no native test program for: $1$GTEST_FILTER"; return; }
+  qvx_build native "${programs[@]}" || { fail "native build"; return; }
+  for program in "${programs[@]}"; do run_program native "build/native/bin/$program"; done
+}
+
 run_windows_programs() {
   qvx_wine_start build/windows 0
   run_programs windows "$1"
