@@ -4,12 +4,6 @@
 #include <filesystem>
 #include <new>
 
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <pthread.h>
-#endif
-
 #include "adsdef.h"
 #include "kernel/native_file.h"
 #include "kernel/qvxexport.h"
@@ -257,40 +251,3 @@ void DeleteFileAt(const std::wstring& path) {
   std::error_code ignored;
   std::filesystem::remove_all(path, ignored);
 }
-
-namespace {
-constexpr size_t kSmallStack = 256 * 1024;
-void (*g_work)();
-}  // namespace
-
-#ifdef _WIN32
-void OnSmallStack(void (*work)()) {
-  g_work = work;
-  HANDLE thread = CreateThread(
-      nullptr, kSmallStack,
-      [](void*) -> DWORD {
-        g_work();
-        return 0;
-      },
-      nullptr, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
-  WaitForSingleObject(thread, INFINITE);
-  CloseHandle(thread);
-}
-#else
-void OnSmallStack(void (*work)()) {
-  g_work = work;
-  pthread_attr_t attributes;
-  pthread_attr_init(&attributes);
-  pthread_attr_setstacksize(&attributes, kSmallStack);
-  pthread_t thread;
-  pthread_create(
-      &thread, &attributes,
-      [](void*) -> void* {
-        g_work();
-        return nullptr;
-      },
-      nullptr);
-  pthread_join(thread, nullptr);
-  pthread_attr_destroy(&attributes);
-}
-#endif

@@ -2,6 +2,7 @@
 // tokens and of a whole system, a compiled file as bytes and back.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -53,5 +54,6 @@ void WriteFile(const std::wstring& path, const std::string& bytes);
 std::string ReadFile(const std::wstring& path);  // "<missing>" when it can't be read
 void DeleteFileAt(const std::wstring& path);
 
-// Runs it on a thread with a stack of 256 KiB.
+// Runs it on a thread with a stack of this size.
+constexpr std::size_t kSmallStack = 256 * 1024;  // bytes
 void OnSmallStack(void (*work)());

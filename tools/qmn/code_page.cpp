@@ -8,10 +8,6 @@
 #include "afxstr.h"
 #include "kernel/qvxexport.h"
 
-#ifdef _WIN32
-#include <windows.h>
-#endif
-
 namespace {
 
 constexpr unsigned kPages[] = {874,  932,  936,  949,  950,  1250, 1251, 1252,
@@ -159,14 +155,6 @@ bool IsKnownPage(unsigned page) {
   // as one character or as two.
   const std::wstring wide = AnsiToWide("\xC4\xA3", page);
   return !wide.empty() && std::count(wide.begin(), wide.end(), wchar_t{0xFFFD}) == 0;
-}
-
-unsigned EnginePage() {
-#ifdef _WIN32
-  return GetACP();
-#else
-  return AFX_ANSI_PAGE;
-#endif
 }
 
 void PageDecoder::Decode(std::string_view narrow, TWCString& wide) {

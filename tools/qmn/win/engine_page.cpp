@@ -1,0 +1,5 @@
+#include <windows.h>
+
+#include "tools/qmn/code_page.h"
+
+unsigned EnginePage() { return GetACP(); }
