@@ -18,7 +18,7 @@ HICON FirstIcon(const wchar_t* file) {
 
 }  // namespace
 
-CAboutVexraDlg::CAboutVexraDlg(CWnd* parent) : GlwCAcUiDialog(IDD_ABOUT, parent) {
+CAboutVexraDlg::CAboutVexraDlg(CWnd* parent) : GuardedWindow(IDD_ABOUT, parent) {
   const qvx::AboutTexts texts = qvx::LoadAboutTexts(QvxExport::FindFile);
   m_strName = texts.name;
   m_strGroup = texts.group;

@@ -5,10 +5,11 @@
 #include "afxwin.h"
 #include "ground/win/owned_handle.h"
 #include "dialogs/product_texts.h"
+#include "ground/win/guarded_window.h"
 #include "kernel/win/glw_ac_ui_dialog.h"
 #include "kernel/win/hyper_link.h"
 
-class CAboutVexraDlg : public GlwCAcUiDialog {
+class CAboutVexraDlg : public qvx::GuardedWindow<GlwCAcUiDialog> {
  public:
   explicit CAboutVexraDlg(CWnd* parent);
 

@@ -83,9 +83,11 @@ void CButtonST::PreSubclassWindow() {
 }
 
 BOOL CButtonST::PreTranslateMessage(MSG* message) {
-  if (message->message == WM_MOUSEMOVE && m_pToolTip && m_pToolTip->GetSafeHwnd())
-    m_pToolTip->SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(message));
-  return CButton::PreTranslateMessage(message);
+  return qvx::GuardedOr(FALSE, [&] {
+    if (message->message == WM_MOUSEMOVE && m_pToolTip && m_pToolTip->GetSafeHwnd())
+      m_pToolTip->SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(message));
+    return CButton::PreTranslateMessage(message);
+  });
 }
 
 void CButtonST::OnMouseMove(UINT flags, CPoint point) {

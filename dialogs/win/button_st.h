@@ -8,6 +8,7 @@
 #include "afxcmn.h"
 #include "afxwin.h"
 #include "dialogs/button_pointer.h"
+#include "ground/win/guarded_window.h"
 #include "ground/win/owned_handle.h"
 
 // A bitmap on a button: the button's own, or one that somebody else keeps for many buttons.
@@ -28,7 +29,7 @@ class CButtonImage {
   HBITMAP m_shown = nullptr;
 };
 
-class CButtonST : public CButton {
+class CButtonST : public qvx::GuardedWindow<CButton> {
   DECLARE_DYNAMIC(CButtonST)
  public:
   CButtonST();

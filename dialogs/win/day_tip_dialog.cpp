@@ -58,7 +58,7 @@ ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 CDayTipDlg::CDayTipDlg(CWnd* parent)
-    : GlwCAcUiDialog(IDD_DAY_TIP, parent), TipOfTheDay(TipPath().Get(), kMessages) {}
+    : GuardedWindow(IDD_DAY_TIP, parent), TipOfTheDay(TipPath().Get(), kMessages) {}
 
 void CDayTipDlg::DoDataExchange(CDataExchange* exchange) {
   GlwCAcUiDialog::DoDataExchange(exchange);

@@ -6,9 +6,10 @@
 #include "afxwin.h"
 #include "ground/win/owned_handle.h"
 #include "dialogs/tip_of_the_day.h"
+#include "ground/win/guarded_window.h"
 #include "kernel/win/glw_ac_ui_dialog.h"
 
-class CDayTipDlg : public GlwCAcUiDialog, public qvx::TipOfTheDay {
+class CDayTipDlg : public qvx::GuardedWindow<GlwCAcUiDialog>, public qvx::TipOfTheDay {
  public:
   explicit CDayTipDlg(CWnd* parent);
 

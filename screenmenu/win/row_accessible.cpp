@@ -8,6 +8,7 @@
 #include <atomic>
 
 #include "screenmenu/win/menu_item_button.h"
+#include "ground/guard.h"
 #include "screenmenu/row_access.h"
 
 namespace {
@@ -65,34 +66,39 @@ class RowAccessible final : public IAccessible {
   }
 
   STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
-    const CSMenuItem* row = Row(child);
-    return row ? GiveText(qvx::AccessName(row->Facts().caption), name) : E_INVALIDARG;
+    return Ask(child, [name](const CSMenuItem& row) {
+      return GiveText(qvx::AccessName(row.Facts().caption), name);
+    });
   }
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
-    const CSMenuItem* row = Row(child);
-    return row ? GiveNumber(qvx::AccessRole(row->Facts()), role) : E_INVALIDARG;
+    return Ask(child, [role](const CSMenuItem& row) {
+      return GiveNumber(qvx::AccessRole(row.Facts()), role);
+    });
   }
   STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override {
-    const CSMenuItem* row = Row(child);
-    return row ? GiveNumber(qvx::AccessStates(row->Facts()), state) : E_INVALIDARG;
+    return Ask(child, [state](const CSMenuItem& row) {
+      return GiveNumber(qvx::AccessStates(row.Facts()), state);
+    });
   }
   STDMETHODIMP get_accHelp(VARIANT child, BSTR* help) override {
-    const CSMenuItem* row = Row(child);
-    return row ? GiveText(row->Help(), help) : E_INVALIDARG;
+    return Ask(child, [help](const CSMenuItem& row) { return GiveText(row.Help(), help); });
   }
   STDMETHODIMP get_accKeyboardShortcut(VARIANT child, BSTR* key) override {
-    const CSMenuItem* row = Row(child);
-    return row ? GiveText(qvx::AccessKey(row->Facts().caption), key) : E_INVALIDARG;
+    return Ask(child, [key](const CSMenuItem& row) {
+      return GiveText(qvx::AccessKey(row.Facts().caption), key);
+    });
   }
   STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
-    const CSMenuItem* row = Row(child);
-    return row ? GiveText(qvx::AccessAction(row->Facts()), action) : E_INVALIDARG;
+    return Ask(child, [action](const CSMenuItem& row) {
+      return GiveText(qvx::AccessAction(row.Facts()), action);
+    });
   }
-  // Posted, since a click may open a box that would keep the reader waiting.
+  // Posted: a click may open a box, and the reader would wait until it closes.
   STDMETHODIMP accDoDefaultAction(VARIANT child) override {
-    const CSMenuItem* row = Row(child);
-    if (!row || !row->Facts().enabled) return E_INVALIDARG;
-    return ::PostMessageW(m_row, BM_CLICK, 0, 0) ? S_OK : E_FAIL;
+    return Ask(child, [this](const CSMenuItem& row) -> HRESULT {
+      if (!row.Facts().enabled) return E_INVALIDARG;
+      return ::PostMessageW(m_row, BM_CLICK, 0, 0) ? S_OK : E_FAIL;
+    });
   }
 
   STDMETHODIMP get_accParent(IDispatch** parent) override {
@@ -121,7 +127,10 @@ class RowAccessible final : public IAccessible {
     return m_standard->accSelect(flags, child);
   }
   STDMETHODIMP accLocation(long* x, long* y, long* width, long* height, VARIANT child) override {
-    if (const CSMenuItem* row = Row(child)) row->SettlePlace();
+    Ask(child, [](const CSMenuItem& row) {
+      row.SettlePlace();
+      return S_OK;
+    });
     return m_standard->accLocation(x, y, width, height, child);
   }
   STDMETHODIMP accNavigate(long way, VARIANT from, VARIANT* to) override {
@@ -139,6 +148,15 @@ class RowAccessible final : public IAccessible {
   const CSMenuItem* Row(const VARIANT& child) const {
     if (!IsSelf(child)) return nullptr;
     return DYNAMIC_DOWNCAST(CSMenuItem, CWnd::FromHandlePermanent(m_row));
+  }
+
+  // The answer of the row; E_INVALIDARG for another child or a row that is gone.
+  template <class Answer>
+  HRESULT Ask(const VARIANT& child, Answer answer) const {
+    return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY}, [&]() -> HRESULT {
+      const CSMenuItem* row = Row(child);
+      return row ? answer(*row) : E_INVALIDARG;
+    });
   }
 
   std::atomic<ULONG> m_references{1};

@@ -1,5 +1,6 @@
 #include "statusbar/win/cad_status_pane.h"
 
+#include "ground/guard.h"
 #include "ground/win/module_resources.h"
 #include "kernel/qvxexport.h"
 #include "resources/resource_ids.h"
@@ -17,21 +18,25 @@ CADStatusPane& CADStatusPane::operator=(const CADStatusPane& other) = default;
 CADStatusPane::~CADStatusPane() = default;
 
 BOOL CADStatusPane::GetToolTipText(CString& text) const {
-  text = m_strToolTip;
-  return TRUE;
+  return qvx::GuardedOr(FALSE, [&] {
+    text = m_strToolTip;
+    return TRUE;
+  });
 }
 
 void CADStatusPane::OnLButtonDown(UINT, CPoint) {
-  OnToggle();
-  Check(true);
-  if (m_bRefreshMenu && s_refreshMenu) s_refreshMenu();
+  qvx::Guarded([this] {
+    OnToggle();
+    Check(true);
+    if (m_bRefreshMenu && s_refreshMenu) s_refreshMenu();
+  });
 }
 
 // A double click is a second click: a user who clicks twice is where he began.
 void CADStatusPane::OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
 
 void CADStatusPane::OnRButtonDown(UINT, CPoint point) {
-  ShowStateMenu(IDR_PANE_ON, IDR_PANE_OFF, point);
+  qvx::Guarded([&] { ShowStateMenu(IDR_PANE_ON, IDR_PANE_OFF, point); });
 }
 
 void CADStatusPane::ShowStateMenu(int onMenu, int offMenu, CPoint point) {
@@ -53,21 +58,27 @@ void CADStatusPane::ShowStateMenu(int onMenu, int offMenu, CPoint point) {
   }
 }
 
-void CADStatusPane::OnSetting() { QvxExport::PostCommand(L"_Options\n", 0); }
+void CADStatusPane::OnSetting() {
+  qvx::Guarded([] { QvxExport::PostCommand(L"_Options\n", 0); });
+}
 
 void CADStatusPane::Check(bool update) {
-  AcPane::SetStyle(qvx::StyleOf(IsOn()));
-  AcApStatusBar* bar = update ? acedGetApplicationStatusBar() : nullptr;
-  if (bar) bar->Update();
+  qvx::Guarded([&] {
+    AcPane::SetStyle(qvx::StyleOf(IsOn()));
+    AcApStatusBar* bar = update ? acedGetApplicationStatusBar() : nullptr;
+    if (bar) bar->Update();
+  });
 }
 
 void CADStatusPane::Init(bool add) {
-  AcApStatusBar* bar = acedGetApplicationStatusBar();
-  if (!bar) return;
-  if (!add) {
-    bar->Remove(this, TRUE);
-    return;
-  }
-  bar->Add(this, TRUE);
-  Check(true);
+  qvx::Guarded([&] {
+    AcApStatusBar* bar = acedGetApplicationStatusBar();
+    if (!bar) return;
+    if (!add) {
+      bar->Remove(this, TRUE);
+      return;
+    }
+    bar->Add(this, TRUE);
+    Check(true);
+  });
 }

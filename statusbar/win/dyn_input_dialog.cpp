@@ -7,7 +7,7 @@
 #include "statusbar/pane_rules.h"
 
 CDynInputDlg::CDynInputDlg(CWnd* parent)
-    : GlwCAcUiDialog(IDD_DYN_INPUT, parent),
+    : GuardedWindow(IDD_DYN_INPUT, parent),
       m_nChoice(qvx::ChoiceOfFields(QvxGeLib::g_iMaxDynDimNum)) {}
 
 void CDynInputDlg::DoDataExchange(CDataExchange* exchange) {

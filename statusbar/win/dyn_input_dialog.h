@@ -1,9 +1,10 @@
 // The dialog "动态输入设置": how many input fields are shown at a time.
 #pragma once
 
+#include "ground/win/guarded_window.h"
 #include "kernel/win/glw_ac_ui_dialog.h"
 
-class CDynInputDlg : public GlwCAcUiDialog {
+class CDynInputDlg : public qvx::GuardedWindow<GlwCAcUiDialog> {
  public:
   explicit CDynInputDlg(CWnd* parent);
 

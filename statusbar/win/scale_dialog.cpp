@@ -7,7 +7,7 @@
 #include "statusbar/drawing_scale_change.h"
 
 CPScaleDlg::CPScaleDlg(double scale, CWnd* parent)
-    : GlwCAcUiDialog(IDD_SCALE, parent), m_dScale(scale) {}
+    : GuardedWindow(IDD_SCALE, parent), m_dScale(scale) {}
 
 void CPScaleDlg::DoDataExchange(CDataExchange* exchange) {
   GlwCAcUiDialog::DoDataExchange(exchange);

@@ -1,9 +1,10 @@
 // The dialog "设置当前比例": one number, which OK sets as SetScale does.
 #pragma once
 
+#include "ground/win/guarded_window.h"
 #include "kernel/win/glw_ac_ui_dialog.h"
 
-class CPScaleDlg : public GlwCAcUiDialog {
+class CPScaleDlg : public qvx::GuardedWindow<GlwCAcUiDialog> {
  public:
   CPScaleDlg(double scale, CWnd* parent);
 

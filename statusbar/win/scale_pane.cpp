@@ -1,5 +1,6 @@
 #include "statusbar/win/scale_pane.h"
 
+#include "ground/guard.h"
 #include "ground/win/module_resources.h"
 #include "resources/resource_ids.h"
 #include "statusbar/drawing_scale_change.h"
@@ -12,11 +13,17 @@ constexpr int kStyleWithMenu = ACSBPS_POPUP;
 }
 
 BOOL TPScalePane::GetToolTipText(CString& text) const {
-  text = L"单击改变当前比例";
-  return TRUE;
+  return qvx::GuardedOr(FALSE, [&] {
+    text = L"单击改变当前比例";
+    return TRUE;
+  });
 }
 
 void TPScalePane::OnLButtonDown(UINT, CPoint) {
+  qvx::Guarded([this] { ShowScaleMenu(); });
+}
+
+void TPScalePane::ShowScaleMenu() {
   CMenu menu;
   {
     const qvx::ModuleResources resources;

@@ -15,5 +15,6 @@ class TPScalePane : public AcPane {
   void RefreshText();
 
  private:
+  void ShowScaleMenu();
   bool ChooseScale(UINT command);  // false: nothing was set
 };

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "adslib.h"
+#include "ground/guard.h"
 #include "ground/host_variables.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
@@ -27,8 +28,10 @@ void WritePickStyle(int value) {
 }  // namespace
 
 void TIconPane::OnRButtonDown(UINT, CPoint point) {
-  const qvx::PaneLook& look = qvx::LookOf(m_pane);
-  ShowStateMenu(look.onMenu, look.offMenu, point);
+  qvx::Guarded([&] {
+    const qvx::PaneLook& look = qvx::LookOf(m_pane);
+    ShowStateMenu(look.onMenu, look.offMenu, point);
+  });
 }
 
 // Deliberately the off icon whatever the state: until the first refresh, which the next change of

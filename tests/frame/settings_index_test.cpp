@@ -64,7 +64,8 @@ using NamesByRoom = std::map<std::string, std::set<std::string>>;
 const std::set<std::string>& ExportedGlobals() {
   static const std::set<std::string> names = [] {
     std::set<std::string> found;
-    std::istringstream lines(ReadFile(fs::path(QVX_SOURCE_DIR) / "standins" / "kernel" / "globals.h"));
+    std::istringstream lines(
+        ReadFile(fs::path(QVX_SOURCE_DIR) / "standins" / "kernel" / "globals.h"));
     for (std::string line; std::getline(lines, line);) {
       const size_t at = line.find(" g_") != line.npos ? line.find(" g_") : line.find("*g_");
       if (at == line.npos || line.find("//") < at || line.find(';') == line.npos) continue;
