@@ -11,8 +11,8 @@
 
 #include "dbents.h"
 #include "dbsymtb.h"
-#include "devhost/core/host.h"
-#include "devhost/core/selection.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/selection/selection.h"
 #include "menu/menu_model.h"
 #include "popup/host_selection.h"
 #include "tests/doubles/silent_ui.h"

@@ -1,5 +1,5 @@
 // The parts of a palette and the moments when a floating one rolls up or out.
-#include "devhost/palette/palette_layout.h"
+#include "devhost/ui/palette/palette_layout.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "devhost/core/host.h"
+#include "devhost/core/host/host.h"
 
 class SilentUi : public devhost::HostUi {
  public:

@@ -1,9 +1,9 @@
 #include "tests/fuzz/drawing_fuzz.h"
 
 #include "dbsymtb.h"
-#include "devhost/core/drawing_file.h"
-#include "devhost/core/host.h"
-#include "devhost/core/scene.h"
+#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/view/scene.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <random>
 
-#include "devhost/core/journal.h"
+#include "devhost/core/base/journal.h"
 #include "tests/fuzz/drawing_fuzz.h"
 #include "tests/hostcore/small_drawing.h"
 

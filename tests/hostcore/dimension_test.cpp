@@ -2,8 +2,8 @@
 // moves its picture.
 #include <sstream>
 
-#include "devhost/core/drawing_file.h"
-#include "devhost/core/scene.h"
+#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/view/scene.h"
 #include "host_fixture.h"
 
 using namespace devhost;

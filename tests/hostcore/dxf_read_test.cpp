@@ -6,10 +6,10 @@
 
 #include "dbents.h"
 #include "dbsymtb.h"
-#include "devhost/core/database_body.h"
-#include "devhost/core/drawing_file.h"
-#include "devhost/core/host.h"
-#include "devhost/core/scene.h"
+#include "devhost/core/drawing/database_body.h"
+#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/view/scene.h"
 #include "small_drawing.h"
 
 using namespace devhost;

@@ -2,9 +2,9 @@
 // are not at hand.
 #include <chrono>
 
-#include "devhost/core/database_body.h"
-#include "devhost/core/drawing_file.h"
-#include "devhost/core/scene.h"
+#include "devhost/core/drawing/database_body.h"
+#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/view/scene.h"
 #include "host_fixture.h"
 
 using namespace devhost;

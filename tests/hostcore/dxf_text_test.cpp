@@ -1,7 +1,7 @@
 // Groups, numbers and text of drawing files.
 #include <gtest/gtest.h>
 
-#include "devhost/core/dxf_text.h"
+#include "devhost/core/dxf/dxf_text.h"
 
 using namespace devhost;
 

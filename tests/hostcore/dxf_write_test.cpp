@@ -1,6 +1,6 @@
 // Writing drawings: what was read comes back, known or not.
-#include "devhost/core/database_body.h"
-#include "devhost/core/drawing_file.h"
+#include "devhost/core/drawing/database_body.h"
+#include "devhost/core/dxf/drawing_file.h"
 #include <sstream>
 
 #include "host_fixture.h"

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "adslib.h"
-#include "devhost/core/lisp_value.h"
+#include "devhost/core/lisp/lisp_value.h"
 
 using namespace devhost;
 

@@ -1,10 +1,10 @@
 // What a drawing looks like as shapes, and what is found in it.
-#include "devhost/core/scene.h"
+#include "devhost/core/view/scene.h"
 
 #include <cmath>
 
-#include "devhost/core/drawing_file.h"
-#include "devhost/core/text_codes.h"
+#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/base/text_codes.h"
 #include "host_fixture.h"
 
 using namespace devhost;

@@ -1,7 +1,7 @@
 // Wild cards, filters, selection sets and the pick-first set.
-#include "devhost/core/selection.h"
+#include "devhost/core/selection/selection.h"
 
-#include "devhost/core/scene.h"
+#include "devhost/core/view/scene.h"
 
 #include "host_fixture.h"
 #include "small_drawing.h"

@@ -1,5 +1,5 @@
 // The trace of the start: when it begins and ends, what is one step, and how it is written.
-#include "devhost/core/start_trace.h"
+#include "devhost/core/base/start_trace.h"
 
 #include "host_fixture.h"
 

@@ -1,5 +1,5 @@
 // Taking commands back.
-#include "devhost/core/class_binding.h"
+#include "devhost/core/modules/class_binding.h"
 #include "host_fixture.h"
 
 using namespace devhost;

@@ -1,7 +1,7 @@
 // The command line of the development host: what each word means and which mistake is told how.
 #include <gtest/gtest.h>
 
-#include "devhost/ui/launch_options.h"
+#include "devhost/ui/launch/launch_options.h"
 
 using devhost::LaunchOptions;
 using Words = std::vector<std::wstring>;

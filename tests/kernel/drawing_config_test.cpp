@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "dbsymtb.h"
-#include "devhost/core/drawing_file.h"
+#include "devhost/core/dxf/drawing_file.h"
 #include "kernel/current_drawing.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/drawing_switches.h"

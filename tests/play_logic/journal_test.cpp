@@ -5,7 +5,7 @@
 #include <memory>
 #include <thread>
 
-#include "devhost/core/journal.h"
+#include "devhost/core/base/journal.h"
 
 namespace devhost {
 namespace {

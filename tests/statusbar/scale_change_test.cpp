@@ -10,7 +10,7 @@
 #include "kernel/entities/tdbdimension2.h"
 #include "kernel/globals.h"
 #include "kernel/tdbconfig.h"
-#include "devhost/core/selection.h"
+#include "devhost/core/selection/selection.h"
 #include "statusbar/drawing_scale_change.h"
 #include "tests/hostcore/host_fixture.h"
 

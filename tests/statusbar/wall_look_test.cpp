@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "dbsymtb.h"
-#include "devhost/core/scene.h"
+#include "devhost/core/view/scene.h"
 #include "kernel/current_drawing.h"
 #include "kernel/drawing_switches.h"
 #include "kernel/entities/qvx_entity.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "devhost/core/journal.h"
-#include "devhost/ui/doctor.h"
-#include "devhost/ui/launch.h"
+#include "devhost/core/base/journal.h"
+#include "devhost/ui/launch/doctor.h"
+#include "devhost/ui/launch/launch.h"
 
 int wmain(int count, wchar_t** words) {
   devhost::LaunchOptions options;

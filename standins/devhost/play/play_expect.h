@@ -7,7 +7,7 @@
 // (sent, printed) forward, so two expectations never share one entry.
 #pragma once
 
-#include "devhost/core/journal.h"
+#include "devhost/core/base/journal.h"
 #include "devhost/play/play_world.h"
 
 namespace devhost {

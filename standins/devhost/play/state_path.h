@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "devhost/core/journal.h"
+#include "devhost/core/base/journal.h"
 #include "devhost/play/play_script.h"
 #include "ground/plain_types.h"
 

@@ -3,7 +3,7 @@
 
 #include <cwchar>
 
-#include "devhost/palette/palette_store.h"
+#include "devhost/ui/palette/palette_store.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <objbase.h>
 
 #include "acui.h"
-#include "devhost/palette/palette_layout.h"
-#include "devhost/palette/palette_store.h"
+#include "devhost/ui/palette/palette_layout.h"
+#include "devhost/ui/palette/palette_store.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "frame/commands/win/lisp_functions.h"
 
 #include "afxwin.h"
-#include "devhost/core/lisp_calls.h"
+#include "devhost/core/lisp/lisp_calls.h"
 #include "frame/commands/win/live_menu_commands.h"
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"

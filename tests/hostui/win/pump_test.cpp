@@ -4,9 +4,9 @@
 #include <string>
 #include <thread>
 
-#include "devhost/ui/journal_hooks.h"
-#include "devhost/ui/main_thread.h"
-#include "devhost/ui/message_pump.h"
+#include "devhost/ui/messages/dialog_watch.h"
+#include "devhost/ui/messages/main_thread.h"
+#include "devhost/ui/messages/message_pump.h"
 #include "rxmfcapi.h"
 
 using devhost::MainThread;

@@ -1,11 +1,11 @@
 #include "tests/module/win/host_process.h"
 
-#include "devhost/core/host.h"
-#include "devhost/core/journal.h"
-#include "devhost/ui/host_app.h"
-#include "devhost/ui/host_ui_impl.h"
-#include "devhost/ui/main_frame.h"
-#include "devhost/ui/module_loader.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/base/journal.h"
+#include "devhost/ui/launch/host_app.h"
+#include "devhost/ui/frame/host_ui_impl.h"
+#include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/modules/module_loader.h"
 
 namespace {
 

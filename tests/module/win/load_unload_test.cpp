@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "devhost/ui/message_pump.h"
+#include "devhost/ui/messages/message_pump.h"
 #include "rxregsvc.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // The order in which the real module comes up, as the host's side of the calls saw it, held against
 // the list of steps. The diary of load_sequence_test has the steps that cross no seam; a room that
 // is built later adds its own line here.
-#include "devhost/core/start_trace.h"
-#include "devhost/ui/start_watch.h"
+#include "devhost/core/base/start_trace.h"
+#include "devhost/ui/messages/start_watch.h"
 #include "tests/module/win/module_test.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // What the timers of the context window finish after the load, and what each drawing is told.
 #include <algorithm>
 
-#include "devhost/ui/message_pump.h"
+#include "devhost/ui/messages/message_pump.h"
 #include "tests/module/win/module_test.h"
 
 namespace {

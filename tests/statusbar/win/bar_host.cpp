@@ -1,9 +1,9 @@
 #include "tests/statusbar/win/bar_host.h"
 
 #include "dbsymtb.h"
-#include "devhost/core/host.h"
-#include "devhost/core/journal.h"
-#include "devhost/core/selection.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/base/journal.h"
+#include "devhost/core/selection/selection.h"
 #include "kernel/current_drawing.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/globals.h"

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "acstatusbar.h"
-#include "devhost/core/document.h"
+#include "devhost/core/documents/document.h"
 #include "statusbar/win/cad_status_pane.h"
 
 struct MenuLine {

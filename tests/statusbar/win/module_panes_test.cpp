@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "acstatusbar.h"
-#include "devhost/core/host.h"
+#include "devhost/core/host/host.h"
 #include "rxregsvc.h"
 #include "tests/module/win/host_process.h"
 

@@ -1,5 +1,5 @@
 // The two dialogs of the panes as real windows: controls, what OK and cancel do, what is no number.
-#include "devhost/core/host.h"
+#include "devhost/core/host/host.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/globals.h"
 #include "resources/resource_ids.h"

@@ -2,7 +2,7 @@
 // hatch scale.
 #include "statusbar/win/scale_pane.h"
 
-#include "devhost/core/host.h"
+#include "devhost/core/host/host.h"
 #include "kernel/entities/qvx_entity.h"
 #include "statusbar/win/status_panes.h"
 #include "tests/statusbar/win/bar_host.h"

@@ -1,7 +1,7 @@
 // The panes of the switches on the real bar: coming and going, clicks, menus, the order of steps.
 #include "statusbar/win/switch_panes.h"
 
-#include "devhost/core/host.h"
+#include "devhost/core/host/host.h"
 #include "kernel/drawing_switches.h"
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"

@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "afx.h"
-#include "devhost/core/journal.h"
+#include "devhost/core/base/journal.h"
 #include "devhost/play/win/driver_world.h"
 #include "devhost/play/win/message_probe.h"
 #include "devhost/play/win/watchdog.h"

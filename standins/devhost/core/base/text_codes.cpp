@@ -1,0 +1,144 @@
+// Codes inside drawing texts; see the header.
+#include "devhost/core/base/text_codes.h"
+
+#include <cwctype>
+
+namespace devhost {
+
+std::wstring ShownText(const std::wstring& text) {
+  std::wstring out;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != L'%' || i + 2 >= text.size() || text[i + 1] != L'%') {
+      out += text[i];
+      continue;
+    }
+    const wchar_t code = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(text[i + 2])));
+    i += 2;
+    if (code == L'd')
+      out += L'°';
+    else if (code == L'p')
+      out += L'±';
+    else if (code == L'c')
+      out += L'Φ';
+    else if (code == L'%')
+      out += L'%';
+    else if (std::iswdigit(static_cast<wint_t>(code))) {
+      int number = 0, digits = 0;
+      for (; digits < 3 && i < text.size() && std::iswdigit(static_cast<wint_t>(text[i]));
+           ++digits, ++i)
+        number = number * 10 + (text[i] - L'0');
+      --i;
+      if (number >= 32) out += static_cast<wchar_t>(number);
+    }
+  }
+  return out;
+}
+
+namespace {
+double LengthOf(wchar_t c) { return c >= 0x2E80 ? 1.0 : 0.6; }
+}  // namespace
+
+double TextLength(const std::wstring& text) {
+  double length = 0;
+  for (wchar_t c : text) length += LengthOf(c);
+  return length;
+}
+
+namespace {
+
+// Skips a code that ends in a semicolon, such as \H2.5x; or \fArial|b0;
+std::size_t SkipToSemicolon(const std::wstring& text, std::size_t at) {
+  const std::size_t end = text.find(L';', at);
+  return end == std::wstring::npos ? text.size() - 1 : end;
+}
+
+void Wrap(std::vector<std::wstring>& lines, const std::wstring& line, double width) {
+  if (width <= 0 || TextLength(line) <= width) {
+    lines.push_back(line);
+    return;
+  }
+  std::wstring part;
+  double length = 0;  // of the part, kept along: a damaged file may hold one line of a megabyte
+  for (wchar_t c : line) {
+    if (!part.empty() && length + LengthOf(c) > width) {
+      const std::size_t blank = part.rfind(L' ');
+      std::wstring rest;
+      if (c < 0x2E80 && blank != std::wstring::npos && blank > 0) {
+        rest = part.substr(blank + 1);
+        part.resize(blank);
+      }
+      lines.push_back(part);
+      part = rest;
+      length = TextLength(part);
+    }
+    part += c;
+    length += LengthOf(c);
+  }
+  if (!part.empty()) lines.push_back(part);
+}
+
+}  // namespace
+
+std::vector<std::wstring> MTextLines(const std::wstring& text, double width) {
+  std::vector<std::wstring> lines;
+  std::wstring line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const wchar_t c = text[i];
+    if (c == L'{' || c == L'}') continue;
+    if (c != L'\\' || i + 1 >= text.size()) {
+      line += c;
+      continue;
+    }
+    const wchar_t code = text[++i];
+    switch (code) {
+      case L'P':
+      case L'N':
+      case L'X':
+        Wrap(lines, ShownText(line), width);
+        line.clear();
+        break;
+      case L'~':
+        line += L' ';
+        break;
+      case L'\\':
+      case L'{':
+      case L'}':
+        line += code;
+        break;
+      case L'L':
+      case L'l':
+      case L'O':
+      case L'o':
+      case L'K':
+      case L'k':
+        break;
+      case L'S': {  // a stacked fraction: shown in one line
+        const std::size_t end = SkipToSemicolon(text, i);
+        for (std::size_t k = i + 1; k < end; ++k)
+          line += text[k] == L'^' || text[k] == L'#' ? L'/' : text[k];
+        i = end;
+        break;
+      }
+      case L'H':
+      case L'h':
+      case L'F':
+      case L'f':
+      case L'C':
+      case L'c':
+      case L'T':
+      case L'Q':
+      case L'W':
+      case L'A':
+      case L'p':
+        i = SkipToSemicolon(text, i);
+        break;
+      default:
+        line += code;
+        break;
+    }
+  }
+  Wrap(lines, ShownText(line), width);
+  return lines;
+}
+
+}  // namespace devhost

@@ -1,0 +1,274 @@
+// The command engine; see the header.
+#include "devhost/core/commands/command_engine.h"
+
+#include <memory>
+
+#include "devhost/core/host/host.h"
+#include "devhost/core/base/journal.h"
+#include "devhost/core/lisp/lisp_calls.h"
+#include "devhost/core/base/text_case.h"
+
+namespace devhost {
+namespace {
+
+constexpr int kDeepest = 16;  // commands inside commands; a transparent one inside itself ends here
+constexpr wchar_t kIdlePrompt[] = L"命令: ";
+
+Document* Current() { return TheHost().documents.Current(); }
+
+LispValue ValueOf(Document& document, const std::wstring& text, std::wstring* error) {
+  ++document.locks;  // an expression may change the drawing as a command may
+  LispValue value = Evaluate(document, text[0] == L'!' ? text.substr(1) : text, error);
+  --document.locks;  // still there: a drawing with a lock on it is closed later
+  return value;
+}
+
+// What an expression says to a question: a string as it is, a list of two or three numbers as the
+// point that it means, anything else as it is printed.
+std::wstring AnswerOf(Document& document, const std::wstring& text) {
+  std::wstring error;
+  const LispValue value = ValueOf(document, text, &error);
+  if (value.kind == LispValue::Kind::String) return value.text;
+  if (value.kind != LispValue::Kind::List || value.items.size() < 2 || value.items.size() > 3)
+    return Printed(value);
+  std::wstring point;
+  for (const LispValue& item : value.items) point += (point.empty() ? L"" : L",") + Printed(item);
+  return point;
+}
+
+}  // namespace
+
+bool CommandEngine::TextWaits() const {
+  const Document* document = Current();
+  return document && m_depth == 0 &&
+         (document->input.HasItem() || TheHost().documents.AnyCloseWaits());
+}
+
+void CommandEngine::ShowPrompt() {
+  TheHost().SetPrompt(m_asking == Asking::Nothing ? kIdlePrompt : m_question);
+}
+
+bool CommandEngine::RunWaiting() {
+  Document* document = Current();
+  if (!document || m_depth > 0) return false;
+  m_cancelAll = false;
+  if (TheHost().documents.CloseWaiting()) return true;
+  const InputQueue::Item item = document->input.Take(false);
+  switch (item.kind) {
+    case InputQueue::Kind::None:
+      return false;
+    case InputQueue::Kind::Escape:
+      return true;  // nothing runs: an ESC ahead of a command is spent
+    case InputQueue::Kind::Token:
+      break;
+  }
+  // Enter alone repeats the last command; a blank that only ended the token before it does not.
+  if (item.text.empty() && document->lastCommand.empty()) return true;
+  Execute(*document, item.text.empty() ? document->lastCommand : item.text);
+  if (TheHost().documents.Current()) ShowPrompt();
+  return true;
+}
+
+void CommandEngine::Execute(Document& document, const std::wstring& text) {
+  TheHost().Print(L"\n" + std::wstring(kIdlePrompt) + text + L"\n");
+  if (text[0] == L'(' || text[0] == L'!') {
+    std::wstring error;
+    ++m_depth;
+    const LispValue value = ValueOf(document, text, &error);
+    --m_depth;
+    TheHost().Print(error.empty() ? Printed(value) + L"\n" : L"; 错误: " + error + L"\n");
+    return;
+  }
+  if (!ExecuteCommand(document, text, false))
+    TheHost().Print(L"未知命令“" + UpperCase(text) + L"”。按 F1 查看帮助。\n");
+}
+
+bool CommandEngine::ExecuteCommand(Document& document, std::wstring name, bool asTransparent) {
+  bool hostOnly = false;
+  while (!name.empty() &&
+         (name[0] == L'\'' || name[0] == L'_' || name[0] == L'.' || name[0] == L'-')) {
+    hostOnly |= name[0] == L'.';
+    name.erase(0, 1);
+  }
+  const Command* found = TheHost().commands.Find(name, hostOnly);
+  if (!found) {
+    // A LISP function named C:NAME is a command too.
+    const std::wstring function = L"C:" + UpperCase(name);
+    if (!document.lispFunctions.count(function)) return false;
+    ++m_depth;
+    document.commands.push_back(UpperCase(name));
+    TheJournal().Record("command", {{"phase", "start"}, {"name", Utf8(UpperCase(name))}});
+    LispValue result;
+    bool failed = false;
+    CallLispFunction(document, function, {}, &result, &failed);
+    document.commands.pop_back();
+    --m_depth;
+    TheJournal().Record(
+        "command",
+        {{"phase", "end"}, {"name", Utf8(UpperCase(name))}, {"result", failed ? "failed" : "ok"}});
+    return true;
+  }
+  const Command command = *found;  // a command may unregister itself
+  if (asTransparent && !(command.flags & ACRX_CMD_TRANSPARENT)) {
+    TheHost().Print(L"** 命令不能透明使用 **\n");
+    return true;
+  }
+  if (m_depth >= kDeepest) {
+    TheHost().Print(L"** 命令嵌套太深 **\n");
+    return true;
+  }
+  if (!asTransparent) document.lastCommand = command.globalName;
+  Call(document, command);
+  return true;
+}
+
+void CommandEngine::Call(Document& document, const Command& command) {
+  const bool keepsPickSet = (command.flags & (ACRX_CMD_USEPICKSET | ACRX_CMD_TRANSPARENT)) != 0;
+  const Asking asking = std::exchange(m_asking, Asking::Nothing);
+  const std::optional<AcGePoint3d> rubber = std::exchange(m_rubberFrom, std::nullopt);
+  const std::wstring question = m_question;
+  const bool blanks = m_blanks;
+  ++m_depth;
+  const bool outerCancelled = std::exchange(m_cancelled, false);
+  document.commands.push_back(command.globalName);
+  auto recording = std::make_unique<UndoRecording>(document, command.globalName);
+  TheJournal().Record("command", {{"phase", "start"}, {"name", Utf8(command.globalName)}});
+
+  LoadedModule* before = TheHost().modules.Running();
+  TheHost().modules.SetRunning(command.module);
+  Document* self = &document;
+  command.function();
+  TheHost().modules.SetRunning(before);
+
+  --m_depth;
+  TheJournal().Record("command", {{"phase", "end"},
+                                  {"name", Utf8(command.globalName)},
+                                  {"result", m_cancelled ? "cancelled" : "ok"}});
+  m_cancelled = outerCancelled;
+  m_asking = asking;
+  m_rubberFrom = rubber;
+  m_question = question;
+  m_blanks = blanks;
+  if (!TheHost().documents.Known(self)) return;  // CLOSE has destroyed it
+  if (!self->commands.empty()) self->commands.pop_back();
+  recording.reset();
+  if (!keepsPickSet && !self->pickFirst.empty() && m_depth == 0) {
+    self->pickFirst.clear();
+    TheHost().Ui().SelectionChanged(*self);
+  }
+  TheHost().Ui().PictureChanged(*self);
+}
+
+std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool blanksAllowed) {
+  InputAnswer answer;
+  if (m_cancelAll) return answer;
+  if (m_givenPoint) {
+    answer.kind = InputAnswer::Kind::Point;
+    answer.point = *std::exchange(m_givenPoint, std::nullopt);
+    return answer;
+  }
+  const InputQueue::Item item = document.input.Take(blanksAllowed);
+  if (item.kind == InputQueue::Kind::Escape) return answer;
+  if (item.kind != InputQueue::Kind::Token) return std::nullopt;
+  if (!item.text.empty() && item.text[0] == L'\'' && !blanksAllowed) {
+    if (!ExecuteCommand(document, item.text, true))
+      TheHost().Print(L"未知命令“" + UpperCase(item.text.substr(1)) + L"”。\n");
+    if (!TheHost().documents.Known(&document)) return answer;
+    ShowPrompt();
+    return TakeAnswer(document, blanksAllowed);  // what waits behind it is for the question
+  }
+  if (!item.text.empty() && !blanksAllowed && (item.text[0] == L'(' || item.text[0] == L'!')) {
+    answer.kind = InputAnswer::Kind::Text;
+    answer.text = AnswerOf(document, item.text);
+    return answer;
+  }
+  answer.kind = item.text.empty() ? InputAnswer::Kind::Enter : InputAnswer::Kind::Text;
+  answer.text = item.text;
+  return answer;
+}
+
+InputAnswer CommandEngine::Ask(Asking what, const std::wstring& prompt, bool blanksAllowed,
+                               const AcGePoint3d* rubberFrom) {
+  Document* document = Current();
+  if (!document || m_depth == 0) return {};
+  m_question = prompt;
+  m_asking = what;
+  m_blanks = blanksAllowed;
+  m_rubberFrom = rubberFrom ? std::optional(*rubberFrom) : std::nullopt;
+  m_givenPoint.reset();
+  ShowPrompt();
+  std::optional<InputAnswer> answer;
+  while (!(answer = TakeAnswer(*document, blanksAllowed))) {
+    if (!TheHost().Ui().PumpWhileWaiting()) m_cancelAll = true;
+    if (!TheHost().documents.Known(document)) return {};
+  }
+  m_asking = Asking::Nothing;
+  m_rubberFrom.reset();
+  switch (answer->kind) {
+    case InputAnswer::Kind::Cancelled:
+      m_cancelled = true;
+      TheHost().Print(prompt + L"*取消*\n");
+      break;
+    case InputAnswer::Kind::Point:
+      TheHost().Print(prompt + L"\n");
+      break;
+    default:
+      TheHost().Print(prompt + answer->text + L"\n");
+      break;
+  }
+  return *answer;
+}
+
+void CommandEngine::TypeLine(const std::wstring& line) {
+  if (Document* document = Current()) document->input.Append(line + L"\n");
+}
+
+void CommandEngine::PressEscape() {
+  Document* document = Current();
+  if (!document) return;
+  document->input.Clear();  // the key is pressed now: what waits behind other input is gone too
+  if (m_depth > 0) {
+    document->input.Append(L"\x1b");
+    return;
+  }
+  TheHost().Print(L"\n命令: *取消*\n");
+  if (document->pickFirst.empty()) return;
+  document->pickFirst.clear();
+  TheHost().Ui().SelectionChanged(*document);
+}
+
+void CommandEngine::GivePoint(const AcGePoint3d& point) {
+  if (WaitsForPoint()) m_givenPoint = point;
+}
+
+bool CommandEngine::RunNested(const std::wstring& name, const std::vector<std::wstring>& input) {
+  Document* document = Current();
+  if (!document) return false;
+  InputQueue kept = std::exchange(document->input, InputQueue());
+  std::wstring text;
+  for (const std::wstring& token : input) text += token + L"\n";
+  document->input.Append(text + L"\x1b");  // whatever asks beyond its input is cancelled
+  const bool ran = ExecuteCommand(*document, name, false);
+  if (TheHost().documents.Known(document)) document->input = std::move(kept);
+  return ran;
+}
+
+int CommandEngine::CommandActive() const {
+  const Document* document = Current();
+  if (!document || document->commands.empty()) return 0;
+  return document->commands.size() > 1 ? 3 : 1;  // 1 an ordinary command, 2 a transparent one in it
+}
+
+std::wstring CommandEngine::CommandNames() const {
+  std::wstring names;
+  if (const Document* document = Current())
+    for (const std::wstring& name : document->commands)
+      names += (names.empty() ? L"" : L"'") + name;
+  return names;
+}
+
+void CommandEngine::CancelAll(Document& document) {
+  if (m_depth > 0 && !document.commands.empty()) m_cancelAll = true;
+}
+
+}  // namespace devhost

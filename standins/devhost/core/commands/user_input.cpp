@@ -1,0 +1,240 @@
+// The published input functions, over the engine's one question. Points are typed as "x,y",
+// "@dx,dy" or "@length<angle"; keywords may be shortened to their capitals.
+#include <cmath>
+#include <cwchar>
+#include <cwctype>
+#include <numbers>
+#include <optional>
+#include <sstream>
+#include <vector>
+#include <utility>
+
+#include "adslib.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/view/scene.h"
+#include "devhost/core/selection/selection.h"
+#include "devhost/core/base/text_case.h"
+
+using namespace devhost;
+
+namespace {
+
+// What acedInitGet said for the next question.
+struct NextQuestion {
+  int flags = 0;
+  std::wstring keywords;
+};
+NextQuestion& Next() {
+  static NextQuestion next;
+  return next;
+}
+std::wstring& LastKeyword() {
+  static std::wstring keyword;
+  return keyword;
+}
+AcGePoint3d& LastPoint() {
+  static AcGePoint3d point;
+  return point;
+}
+
+constexpr int kNoEmpty = 1, kNoZero = 2, kNoNegative = 4, kArbitrary = 128;
+
+std::vector<std::wstring> WordsOf(const std::wstring& keywords) {
+  std::vector<std::wstring> words;
+  std::wistringstream text(keywords);
+  for (std::wstring word; text >> word;) words.push_back(word);
+  return words;
+}
+
+std::wstring CapitalsOf(const std::wstring& word) {
+  std::wstring capitals;
+  for (wchar_t c : word)
+    if (std::iswupper(static_cast<wint_t>(c))) capitals += c;
+  return capitals;
+}
+
+// A word typed whole or by its capitals is that word; otherwise the first one that begins so.
+std::optional<std::wstring> MatchKeyword(const std::wstring& keywords, std::wstring typed) {
+  if (!typed.empty() && typed[0] == L'_') typed.erase(0, 1);  // the language-neutral form
+  typed = UpperCase(typed);
+  if (typed.empty()) return std::nullopt;
+  const std::vector<std::wstring> words = WordsOf(keywords);
+  for (const std::wstring& word : words)
+    if (typed == UpperCase(word) || typed == CapitalsOf(word)) return word;
+  for (const std::wstring& word : words)
+    if (typed.size() >= CapitalsOf(word).size() && UpperCase(word).starts_with(typed)) return word;
+  return std::nullopt;
+}
+
+bool ReadNumber(const wchar_t*& at, double* value) {
+  wchar_t* end = nullptr;
+  *value = std::wcstod(at, &end);
+  if (end == at || !std::isfinite(*value)) return false;
+  at = end;
+  return true;
+}
+
+std::optional<AcGePoint3d> ReadPoint(const std::wstring& text, const AcGePoint3d& base) {
+  const wchar_t* at = text.c_str();
+  const bool relative = *at == L'@';
+  if (relative && !*++at) return base;
+  double a = 0, b = 0, z = 0;
+  if (!ReadNumber(at, &a)) return std::nullopt;
+  AcGePoint3d p;
+  if (*at == L'<') {
+    if (!ReadNumber(++at, &b) || *at) return std::nullopt;
+    const double angle = b * std::numbers::pi / 180;
+    p = {a * std::cos(angle), a * std::sin(angle), 0};
+  } else {
+    if (*at != L',' || !ReadNumber(++at, &b)) return std::nullopt;
+    if (*at == L',' && !ReadNumber(++at, &z)) return std::nullopt;
+    if (*at) return std::nullopt;
+    p = {a, b, z};
+  }
+  return relative ? AcGePoint3d(base.x + p.x, base.y + p.y, base.z + p.z) : p;
+}
+
+AcGePoint3d FromAds(const ads_point p) { return {p[0], p[1], p[2]}; }
+void ToAds(const AcGePoint3d& p, ads_point out) {
+  out[0] = p.x;
+  out[1] = p.y;
+  out[2] = p.z;
+}
+
+// Asks until `read` takes the answer. RTNORM, RTNONE, RTKWORD or RTCAN.
+template <class Read>
+int AskFor(Asking what, const ACHAR* prompt, bool blanks, const AcGePoint3d* base,
+           const wchar_t* complaint, Read read) {
+  const NextQuestion question = std::exchange(Next(), NextQuestion());
+  const std::wstring text = prompt ? prompt : L"";
+  for (;;) {
+    const InputAnswer answer = TheHost().engine.Ask(what, text, blanks, base);
+    if (answer.kind == InputAnswer::Kind::Cancelled) return RTCAN;
+    if (answer.kind == InputAnswer::Kind::Enter && !blanks) {
+      if (!(question.flags & kNoEmpty)) return RTNONE;
+    } else if (answer.kind == InputAnswer::Kind::Text && !blanks) {
+      if (auto word = MatchKeyword(question.keywords, answer.text)) {
+        LastKeyword() = *word;
+        return RTKWORD;
+      }
+    }
+    if (read(answer, question.flags)) return RTNORM;
+    if (answer.kind == InputAnswer::Kind::Text && (question.flags & kArbitrary)) {
+      LastKeyword() = answer.text;
+      return RTKWORD;
+    }
+    TheHost().Print(complaint);
+  }
+}
+
+int AskPoint(Asking what, const ads_point base, const ACHAR* prompt, ads_point result) {
+  const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
+  return AskFor(what, prompt, false, base ? &from : nullptr, L"\n点无效。\n",
+                [&](const InputAnswer& answer, int) {
+                  std::optional<AcGePoint3d> p;
+                  if (answer.kind == InputAnswer::Kind::Point)
+                    p = answer.point;
+                  else
+                    p = ReadPoint(answer.text, base ? from : LastPoint());
+                  if (!p) return false;
+                  LastPoint() = *p;
+                  ToAds(*p, result);
+                  return true;
+                });
+}
+
+int AskReal(const AcGePoint3d* base, const ACHAR* prompt, bool angle, ads_real* result) {
+  return AskFor(base ? Asking::Point : Asking::Text, prompt, false, base, L"\n需要数值。\n",
+                [&](const InputAnswer& answer, int flags) {
+                  double value = 0;
+                  if (answer.kind == InputAnswer::Kind::Point) {
+                    if (!base) return false;
+                    const AcGeVector3d way = answer.point - *base;
+                    value = angle ? std::atan2(way.y, way.x) : way.length();
+                  } else {
+                    const wchar_t* at = answer.text.c_str();
+                    if (!ReadNumber(at, &value) || *at) return false;
+                    if (angle) value *= std::numbers::pi / 180;
+                  }
+                  if (((flags & kNoZero) && value == 0) || ((flags & kNoNegative) && value < 0))
+                    return false;
+                  *result = value;
+                  return true;
+                });
+}
+
+}  // namespace
+
+int acedInitGet(int flags, const ACHAR* keywords) {
+  Next() = {flags, keywords ? keywords : L""};
+  return RTNORM;
+}
+
+int acedGetPoint(const ads_point base, const ACHAR* prompt, ads_point result) {
+  return AskPoint(Asking::Point, base, prompt, result);
+}
+int acedGetCorner(const ads_point base, const ACHAR* prompt, ads_point result) {
+  return AskPoint(Asking::Corner, base, prompt, result);
+}
+
+int acedGetDist(const ads_point base, const ACHAR* prompt, ads_real* result) {
+  const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
+  return AskReal(base ? &from : nullptr, prompt, false, result);
+}
+int acedGetAngle(const ads_point base, const ACHAR* prompt, ads_real* result) {
+  const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
+  return AskReal(base ? &from : nullptr, prompt, true, result);
+}
+int acedGetReal(const ACHAR* prompt, ads_real* result) {
+  return AskReal(nullptr, prompt, false, result);
+}
+
+int acedGetInt(const ACHAR* prompt, int* result) {
+  return AskFor(Asking::Text, prompt, false, nullptr, L"\n需要整数。\n",
+                [&](const InputAnswer& answer, int flags) {
+                  wchar_t* end = nullptr;
+                  const long value = std::wcstol(answer.text.c_str(), &end, 10);
+                  if (answer.text.empty() || *end || value < -32768 || value > 32767) return false;
+                  if (((flags & kNoZero) && !value) || ((flags & kNoNegative) && value < 0))
+                    return false;
+                  *result = static_cast<int>(value);
+                  return true;
+                });
+}
+
+int acedGetString(int blanks, const ACHAR* prompt, ACHAR* result) {
+  constexpr std::size_t kLongest = 132;
+  Next() = {};
+  const InputAnswer answer =
+      TheHost().engine.Ask(Asking::Text, prompt ? prompt : L"", blanks != 0, nullptr);
+  if (answer.kind == InputAnswer::Kind::Cancelled) return RTCAN;
+  std::wcscpy(result, answer.text.substr(0, kLongest).c_str());
+  return RTNORM;
+}
+
+int acedGetKword(const ACHAR* prompt, ACHAR* result) {
+  const int status = AskFor(Asking::Keyword, prompt, false, nullptr, L"\n关键字无效。\n",
+                            [](const InputAnswer&, int) { return false; });
+  if (status != RTKWORD) return status;
+  std::wcscpy(result, LastKeyword().c_str());
+  return RTNORM;
+}
+
+int acedGetInput(ACHAR* keyword) {
+  if (!keyword) return RTERROR;
+  std::wcscpy(keyword, LastKeyword().c_str());
+  return RTNORM;
+}
+
+int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point) {
+  ads_point at{};
+  const int status = acedGetPoint(nullptr, prompt ? prompt : L"\n选择对象: ", at);
+  if (status != RTNORM) return status;
+  Document* document = TheHost().documents.Current();
+  AcDbEntity* hit =
+      document ? EntityAt(*document->database(), FromAds(at), 6 / document->view.PixelsPerUnit())
+               : nullptr;
+  if (!hit) return RTERROR;
+  if (point) ToAds(FromAds(at), point);
+  return acdbGetAdsName(entity, hit->objectId()) == Acad::eOk ? RTNORM : RTERROR;
+}

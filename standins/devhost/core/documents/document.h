@@ -1,0 +1,65 @@
+// One open drawing: its database, view, input, LISP functions and symbols, pick-first set, undo
+// steps.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "acdocman.h"
+#include "dbmain.h"
+#include "devhost/core/commands/input_queue.h"
+#include "devhost/core/lisp/lisp_value.h"
+#include "devhost/core/undo/undo.h"
+#include "devhost/core/view/view_transform.h"
+
+namespace devhost {
+
+struct LoadedModule;
+
+struct LispFunction {
+  LoadedModule* module;  // whose entry point is called
+  int code;
+};
+
+class Document : public AcApDocument {
+ public:
+  explicit Document(std::wstring path);
+  ~Document() override;
+
+  const ACHAR* fileName() const override { return m_path.c_str(); }
+  const ACHAR* docTitle() const override { return m_title.c_str(); }
+  AcDbDatabase* database() const override { return m_database.get(); }
+  bool isQuiescent() const override { return commands.empty(); }
+  AcAp::DocLockMode lockMode() const override;
+
+  const std::wstring& Title() const { return m_title; }  // file name with extension
+  std::wstring Name() const;                             // file name without extension
+  void SetPath(const std::wstring& path);
+  bool HasFile() const { return m_hasFile; }
+  void SetHasFile() { m_hasFile = true; }
+
+  InputQueue input;
+  ViewTransform view;
+  std::vector<std::wstring> commands;                  // running, the outermost first
+  std::map<std::wstring, LispFunction> lispFunctions;  // by upper-case name
+  std::map<std::wstring, LispValue> lispSymbols;       // by upper-case name
+  std::map<std::wstring, std::wstring> variables;      // values that belong to this drawing
+  std::vector<AcDbObjectId> pickFirst;
+  std::vector<AcDbObjectId> previousSelection;
+  std::vector<UndoStep> undo;
+  UndoStep* recording = nullptr;
+  int undoGroup = -1;  // how many steps there were when the open group began; -1: none is open
+  int locks = 0;
+  std::unique_ptr<UndoRecording> lockStep;  // open while a lock outside all commands lasts
+  bool closeWaits = false;                  // it is to be closed as soon as nothing runs in it
+  std::wstring lastCommand;
+
+ private:
+  std::wstring m_path, m_title;
+  std::unique_ptr<AcDbDatabase> m_database;
+  bool m_hasFile = false;
+};
+
+}  // namespace devhost

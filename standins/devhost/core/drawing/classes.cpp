@@ -1,0 +1,64 @@
+// Run-time classes; see rxobject.h.
+#include <map>
+#include <string>
+
+#include "devhost/core/modules/class_binding.h"
+#include "devhost/core/base/text_case.h"
+#include "rxobject.h"
+
+namespace {
+
+// Classes that drawings can name. A module's classes join at acrxBuildClassHierarchy and leave with
+// deleteAcRxClass, before its code goes.
+std::map<std::wstring, AcRxClass*>& ByDxfName() {
+  static auto* classes = new std::map<std::wstring, AcRxClass*>;
+  return *classes;
+}
+
+}  // namespace
+
+AcRxClass::AcRxClass(const ACHAR* name, AcRxClass* parent, AcRxMakeObject make,
+                     const ACHAR* dxfName)
+    : m_name(name), m_parent(parent), m_make(make), m_dxfName(dxfName) {
+  if (dxfName && make) ByDxfName()[devhost::UpperCase(dxfName)] = this;
+}
+
+AcRxClass::~AcRxClass() {
+  if (!m_dxfName) return;
+  const auto at = ByDxfName().find(devhost::UpperCase(m_dxfName));
+  if (at != ByDxfName().end() && at->second == this) ByDxfName().erase(at);
+}
+
+bool AcRxClass::isDerivedFrom(const AcRxClass* base) const {
+  for (const AcRxClass* c = this; c; c = c->m_parent)
+    if (c == base) return true;
+  return false;
+}
+
+AcRxClass* AcRxObject::desc() {
+  static AcRxClass* cls = new AcRxClass(L"AcRxObject", nullptr, nullptr, nullptr);
+  return cls;
+}
+AcRxClass* AcRxObject::isA() const { return desc(); }
+bool AcRxObject::isKindOf(const AcRxClass* base) const { return isA()->isDerivedFrom(base); }
+AcRxObject* AcRxObject::cast(const AcRxObject* object) { return const_cast<AcRxObject*>(object); }
+
+AcRxClass* AcRxClass::desc() {
+  static AcRxClass* cls = new AcRxClass(L"AcRxClass", AcRxObject::desc(), nullptr, nullptr);
+  return cls;
+}
+AcRxClass* AcRxClass::isA() const { return desc(); }
+
+// Parents are linked as the classes are made; what is left is to give open drawings their objects.
+void acrxBuildClassHierarchy() { devhost::BindOpaqueEntities(); }
+
+void deleteAcRxClass(AcRxClass* cls) {
+  if (!cls) return;
+  devhost::MakeEntitiesOpaque(*cls);
+  delete cls;
+}
+
+AcRxClass* acrxClassOfDxfName(const ACHAR* dxfName) {
+  const auto at = ByDxfName().find(devhost::UpperCase(dxfName ? dxfName : L""));
+  return at == ByDxfName().end() ? nullptr : at->second;
+}

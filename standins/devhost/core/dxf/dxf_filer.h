@@ -1,0 +1,80 @@
+// The road of one object's own groups in and out of a drawing file; what entity classes see as
+// AcDbDxfFiler. Groups that all objects share (handle, owner, layer ...) are the reader's and the
+// writer's matter and do not pass here on the way in.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "dbfiler.h"
+#include "devhost/core/dxf/dxf_text.h"
+
+namespace devhost {
+
+class DxfInFiler : public AcDbDxfFiler {
+ public:
+  DxfInFiler(AcDbDatabase& database, const DxfDecoder& decoder, std::span<const DxfGroup> groups)
+      : m_database(database), m_decoder(decoder), m_groups(groups) {}
+
+  AcDbDatabase* database() const override { return &m_database; }
+  // Three groups of a point come as one item under the code of the first.
+  Acad::ErrorStatus readItem(resbuf* item) override;
+  void pushBackItem() override { m_at = m_before; }
+
+  // The line of the first value that is no number though its group asks for one; 0: all were well.
+  int BadLine() const { return m_badLine; }
+
+  Acad::ErrorStatus writeString(short, const ACHAR*) override { return Acad::eNotApplicable; }
+  Acad::ErrorStatus writeDouble(short, double) override { return Acad::eNotApplicable; }
+  Acad::ErrorStatus writeInt(short, int) override { return Acad::eNotApplicable; }
+  Acad::ErrorStatus writePoint(short, const AcGePoint3d&) override { return Acad::eNotApplicable; }
+
+ private:
+  double RealOf(const DxfGroup& group);
+  long long IntegerOf(const DxfGroup& group);
+  void ReadPoint(const DxfGroup& first, resbuf* item);
+
+  AcDbDatabase& m_database;
+  const DxfDecoder& m_decoder;
+  std::span<const DxfGroup> m_groups;
+  std::size_t m_at = 0, m_before = 0;
+  std::wstring m_text;  // what the latest item's string points to
+  int m_badLine = 0;
+};
+
+// Writes groups as UTF-8 text, reals in the shortest form that reads back.
+class DxfOutFiler : public AcDbDxfFiler {
+ public:
+  DxfOutFiler(AcDbDatabase& database, std::string& out) : m_database(database), m_out(out) {}
+
+  AcDbDatabase* database() const override { return &m_database; }
+  Acad::ErrorStatus writeString(short code, const ACHAR* value) override;
+  Acad::ErrorStatus writeDouble(short code, double value) override;
+  Acad::ErrorStatus writeInt(short code, int value) override;
+  Acad::ErrorStatus writePoint(short code, const AcGePoint3d& value) override;
+  void WriteMark(const std::wstring& type);  // a group 0 without the handle that parts get
+  void WriteHandle(short code, unsigned long long handle);
+
+  // Runs once, before the next group 0 that an object writes: what it has behind its own groups
+  // must stand before its sub-entities.
+  void BeforeNextObject(std::function<void()> work) { m_before = std::move(work); }
+  void RunPending();
+
+  Acad::ErrorStatus readItem(resbuf*) override { return Acad::eEndOfFile; }
+  void pushBackItem() override {}
+
+ private:
+  void Group(short code, std::string_view value);
+
+  AcDbDatabase& m_database;
+  std::string& m_out;
+  std::function<void()> m_before;
+};
+
+// The extended data of an object as a chain for setXData, one chain an application.
+std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDecoder& decoder);
+void WriteXData(DxfOutFiler& filer, const resbuf* chain);
+
+}  // namespace devhost

@@ -1,0 +1,207 @@
+// Texts and attributes; see dbents.h.
+#include <algorithm>
+
+#include "dbents.h"
+#include "devhost/core/entities/entity_io.h"
+#include "devhost/core/base/text_codes.h"
+
+using namespace devhost;
+
+ACRX_DXF_DEFINE_MEMBERS(AcDbText, AcDbEntity, 0, 0, 0, TEXT, host)
+ACRX_DXF_DEFINE_MEMBERS(AcDbAttribute, AcDbText, 0, 0, 0, ATTRIB, host)
+ACRX_DXF_DEFINE_MEMBERS(AcDbAttributeDefinition, AcDbText, 0, 0, 0, ATTDEF, host)
+ACRX_DXF_DEFINE_MEMBERS(AcDbMText, AcDbEntity, 0, 0, 0, MTEXT, host)
+
+AcDbText::AcDbText(const AcGePoint3d& at, const ACHAR* text, double height, double rotation)
+    : m_at(at),
+      m_alignment(at),
+      m_text(text ? text : L""),
+      m_height(height),
+      m_rotation(rotation) {}
+
+Acad::ErrorStatus AcDbText::setTextString(const ACHAR* text) {
+  if (!text) return Acad::eInvalidInput;
+  m_text = text;
+  return Acad::eOk;
+}
+
+bool AcDbText::subWorldDraw(AcGiWorldDraw* draw) const {
+  // A definition shows its tag, an invisible attribute nothing.
+  const bool definition = AcDbAttributeDefinition::cast(this) != nullptr;
+  if (AcDbAttribute::cast(this) && (m_flags & 1)) return false;
+  const std::wstring shown = ShownText(definition ? m_tag : m_text);
+  if (shown.empty() || m_height <= 0) return false;
+  AcGePoint3d at = m_at;
+  const AcGeVector3d along(std::cos(m_rotation), std::sin(m_rotation), 0), up(-along.y, along.x, 0);
+  // Files keep the lower left corner too, but a program that aligns may have left it at zero.
+  if ((m_horizontal || m_vertical) && m_horizontal != 5 && m_horizontal != 3) {
+    const double length = TextLength(shown) * m_height * m_width;
+    const double dx = m_horizontal == 1 || m_horizontal == 4 ? -0.5 : m_horizontal == 2 ? -1 : 0;
+    const double dy = m_horizontal == 4 || m_vertical == 2 ? -0.5 : m_vertical == 3 ? -1 : 0;
+    at = m_alignment + along * (dx * length) + up * (dy * m_height);
+  }
+  return draw->geometry().text(at, AcGeVector3d::kZAxis, along, m_height, m_width, 0,
+                               shown.c_str());
+}
+
+Acad::ErrorStatus AcDbText::subTransformBy(const AcGeMatrix3d& m) {
+  m_at = m * m_at;
+  m_alignment = m * m_alignment;
+  m_height *= m.scale();
+  m_rotation += m.rotation();
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::dxfInFields(AcDbDxfFiler* filer) {
+  AcDbEntity::dxfInFields(filer);
+  m_text = m_style = m_tag = L"";
+  m_at = m_alignment = {};
+  m_height = m_rotation = 0;
+  m_width = 1;
+  m_horizontal = m_vertical = m_flags = 0;
+  return ForEachItem(filer, [&](const resbuf& item) {
+    switch (item.restype) {
+      case 1:
+        m_text = item.resval.rstring;
+        break;
+      case 2:
+        m_tag = item.resval.rstring;
+        break;
+      case 7:
+        m_style = item.resval.rstring;
+        break;
+      case 10:
+        m_at = PointOfItem(item);
+        break;
+      case 11:
+        m_alignment = PointOfItem(item);
+        break;
+      case 40:
+        m_height = item.resval.rreal;
+        break;
+      case 41:
+        m_width = std::clamp(item.resval.rreal, 0.01, 100.0);
+        break;
+      case 50:
+        m_rotation = item.resval.rreal * kDegree;
+        break;
+      case 70:
+        m_flags = item.resval.rint;
+        break;
+      case 72:
+        m_horizontal = item.resval.rint;
+        break;
+      case 73:
+      case 74:
+        m_vertical = item.resval.rint;
+        break;
+      default:
+        break;
+    }
+  });
+}
+
+Acad::ErrorStatus AcDbText::dxfOutFields(AcDbDxfFiler* filer) const {
+  AcDbEntity::dxfOutFields(filer);
+  filer->writeString(100, L"AcDbText");
+  filer->writePoint(10, m_at);
+  filer->writeDouble(40, m_height);
+  filer->writeString(1, m_text.c_str());
+  if (m_width != 1) filer->writeDouble(41, m_width);
+  if (m_rotation != 0) filer->writeDouble(50, m_rotation / kDegree);
+  if (!m_style.empty()) filer->writeString(7, m_style.c_str());
+  if (m_horizontal || m_vertical) {
+    filer->writeInt(72, m_horizontal);
+    filer->writePoint(11, m_alignment);
+  }
+  const bool attribute = AcDbAttribute::cast(this),
+             definition = AcDbAttributeDefinition::cast(this);
+  if (attribute || definition) {
+    filer->writeString(100, attribute ? L"AcDbAttribute" : L"AcDbAttributeDefinition");
+    filer->writeString(2, m_tag.c_str());
+    filer->writeInt(70, m_flags);
+    return m_vertical ? filer->writeInt(74, m_vertical) : Acad::eOk;
+  }
+  return m_vertical ? filer->writeInt(73, m_vertical) : Acad::eOk;
+}
+
+bool AcDbMText::subWorldDraw(AcGiWorldDraw* draw) const {
+  const std::vector<std::wstring> lines = MTextLines(m_text, m_height > 0 ? m_width / m_height : 0);
+  if (lines.empty() || m_height <= 0) return false;
+  const AcGeVector3d along(std::cos(m_rotation), std::sin(m_rotation), 0), up(-along.y, along.x, 0);
+  const double step = m_height * 5 / 3,
+               total = m_height + step * static_cast<double>(lines.size() - 1);
+  const int row = (m_attachment - 1) / 3, column = (m_attachment - 1) % 3;
+  const double top = row == 0 ? 0 : row == 1 ? total / 2 : total;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const double length = TextLength(lines[i]) * m_height;
+    const AcGePoint3d at = m_at + along * (-length * column / 2) +
+                           up * (top - m_height - step * static_cast<double>(i));
+    draw->geometry().text(at, AcGeVector3d::kZAxis, along, m_height, 1, 0, lines[i].c_str());
+  }
+  return true;
+}
+
+Acad::ErrorStatus AcDbMText::subTransformBy(const AcGeMatrix3d& m) {
+  m_at = m * m_at;
+  m_height *= m.scale();
+  m_width *= m.scale();
+  m_rotation += m.rotation();
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbMText::dxfInFields(AcDbDxfFiler* filer) {
+  AcDbEntity::dxfInFields(filer);
+  m_style = L"";
+  m_rotation = 0;
+  std::wstring text;  // long contents come in pieces of group 3, the last in group 1
+  const Acad::ErrorStatus status = ForEachItem(filer, [&](const resbuf& item) {
+    switch (item.restype) {
+      case 1:
+      case 3:
+        text += item.resval.rstring;
+        break;
+      case 7:
+        m_style = item.resval.rstring;
+        break;
+      case 10:
+        m_at = PointOfItem(item);
+        break;
+      case 11:
+        m_rotation = std::atan2(item.resval.rpoint[1], item.resval.rpoint[0]);
+        break;
+      case 40:
+        m_height = item.resval.rreal;
+        break;
+      case 41:
+        m_width = item.resval.rreal;
+        break;
+      case 50:
+        m_rotation = item.resval.rreal * kDegree;
+        break;
+      case 71:
+        m_attachment = std::clamp<int>(item.resval.rint, 1, 9);
+        break;
+      default:
+        break;
+    }
+  });
+  m_text = text;
+  return status;
+}
+
+Acad::ErrorStatus AcDbMText::dxfOutFields(AcDbDxfFiler* filer) const {
+  AcDbEntity::dxfOutFields(filer);
+  filer->writeString(100, L"AcDbMText");
+  filer->writePoint(10, m_at);
+  filer->writeDouble(40, m_height);
+  filer->writeDouble(41, m_width);
+  filer->writeInt(71, m_attachment);
+  constexpr std::size_t kPiece = 250;
+  std::size_t at = 0;
+  for (; m_text.size() - at > kPiece; at += kPiece)
+    filer->writeString(3, m_text.substr(at, kPiece).c_str());
+  filer->writeString(1, m_text.substr(at).c_str());
+  if (!m_style.empty()) filer->writeString(7, m_style.c_str());
+  return m_rotation != 0 ? filer->writeDouble(50, m_rotation / kDegree) : Acad::eOk;
+}

@@ -1,0 +1,43 @@
+// See the header. Pane classes have no run-time class of the class library; the compiler's own name
+// of the class is all that tells them apart, and it has the length in front.
+#include "devhost/ui/bars/pane_place.h"
+
+#include <typeinfo>
+
+#include "devhost/core/base/journal.h"
+#include "devhost/ui/bars/status_bar.h"
+
+namespace devhost {
+namespace {
+
+std::string ClassOf(const AcPane& pane) {
+  const std::string name = typeid(pane).name();
+  return name.substr(name.find_first_not_of("0123456789"));
+}
+
+std::string TextOf(const AcPane& pane) {
+  CString text;
+  pane.GetText(text);
+  return Utf8(static_cast<LPCTSTR>(text));
+}
+
+}  // namespace
+
+std::string PlaceOfPane(const std::string& name, POINT* out) {
+  StatusBar* bar = TheStatusBar();
+  if (!bar) return "there is no status bar";
+  std::string names;
+  for (int i = 0; i < bar->GetPaneCount(); ++i) {
+    AcPane& pane = *bar->GetPane(i);
+    names += (names.empty() ? "" : ", ") + ClassOf(pane);
+    if (ClassOf(pane) != name && TextOf(pane) != name) continue;
+    RECT r{};
+    if (!bar->GetRect(&pane, r)) return "pane \"" + name + "\" has no place on the bar";
+    *out = {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
+    ::ClientToScreen(bar->GetWindow(), out);
+    return {};
+  }
+  return "there is no pane \"" + name + "\"; there are " + (names.empty() ? "none" : names);
+}
+
+}  // namespace devhost

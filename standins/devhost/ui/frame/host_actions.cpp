@@ -1,0 +1,106 @@
+// Calls into the host core for menus, dropped files and play scripts; see the header.
+#include "devhost/ui/frame/host_actions.h"
+
+#include <nlohmann/json.hpp>
+
+#include "dbsymtb.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/base/journal.h"
+
+namespace devhost {
+namespace {
+
+// A name means a file of the working folder first; the core looks for it along the support path.
+std::wstring FullPath(const std::wstring& path) {
+  wchar_t full[1024] = L"";
+  const DWORD length = ::GetFullPathNameW(path.c_str(), 1024, full, nullptr);
+  const bool there =
+      length > 0 && length < 1024 && ::GetFileAttributesW(full) != INVALID_FILE_ATTRIBUTES;
+  return there ? std::wstring(full) : path;
+}
+
+AcDbEntity* EntityOf(Document& document, const std::string& handle) {
+  char* end = nullptr;
+  const AcDbHandle value(std::strtoull(handle.c_str(), &end, 16));
+  AcDbObjectId id;
+  if (end == handle.c_str() || *end != 0 ||
+      document.database()->getAcDbObjectId(id, false, value) != Acad::eOk || id.isErased())
+    return nullptr;
+  return AcDbEntity::cast(id.object());
+}
+
+Json DescribeEntity(AcDbEntity& entity) {
+  ACHAR handle[17] = L"";
+  entity.handle().getIntoAsciiBuffer(handle);
+  const ACHAR* dxfName = entity.isA()->dxfName();
+  Json out = {{"handle", Utf8(handle)},
+              {"type", Utf8(dxfName ? dxfName : entity.isA()->name())},
+              {"layer", Utf8(entity.layer())},
+              {"color", entity.colorIndex()}};
+  AcDbExtents extents;
+  if (entity.getGeomExtents(extents) == Acad::eOk)
+    out["extents"] = {extents.minPoint().x, extents.minPoint().y, extents.maxPoint().x,
+                      extents.maxPoint().y};
+  return out;
+}
+
+}  // namespace
+
+std::string DescribeActiveDatabase() {
+  Document* document = TheHost().documents.Current();
+  if (!document) return "{}";
+  Json entities = Json::array(), picked = Json::array();
+  const AcDbObjectId space = document->database()->currentSpaceId();
+  if (const auto* record = AcDbBlockTableRecord::cast(space.object()))
+    for (const AcDbObjectId& id : record->entities())
+      if (AcDbEntity* entity = id.isErased() ? nullptr : AcDbEntity::cast(id.object()))
+        entities.push_back(DescribeEntity(*entity));
+  for (const AcDbObjectId& id : document->pickFirst) {
+    ACHAR handle[17] = L"";
+    id.handle().getIntoAsciiBuffer(handle);
+    picked.push_back(Utf8(handle));
+  }
+  const Json out = {
+      {"drawing", Utf8(document->fileName())}, {"selected", picked}, {"entities", entities}};
+  return out.dump(1);
+}
+
+bool OpenDrawingFile(const std::wstring& path) {
+  return TheHost().documents.Open(FullPath(path)) != nullptr;
+}
+
+Document* MakeNewDrawing() { return TheHost().documents.New(); }
+
+bool ActivateDrawingNamed(const std::wstring& name) {
+  Document* document = TheHost().documents.FindByName(name);
+  if (document) TheHost().documents.Activate(document);
+  return document != nullptr;
+}
+
+void CloseActiveDrawing() {
+  if (Document* document = TheHost().documents.Current()) TheHost().documents.Close(document);
+}
+
+bool SelectByHandles(const std::vector<std::string>& handles) {
+  Document* document = TheHost().documents.Current();
+  if (!document) return false;
+  std::vector<AcDbObjectId> picked;
+  for (const std::string& handle : handles) {
+    AcDbEntity* entity = EntityOf(*document, handle);
+    if (!entity) return false;
+    picked.push_back(entity->objectId());
+  }
+  document->pickFirst = std::move(picked);
+  TheHost().Ui().SelectionChanged(*document);
+  return true;
+}
+
+bool SetVariableText(const std::wstring& name, const std::wstring& value) {
+  return TheHost().variables.Set(name, value) == VarResult::Ok;
+}
+
+bool GetVariableText(const std::wstring& name, std::wstring* value) {
+  return TheHost().variables.Get(name, value) == VarResult::Ok;
+}
+
+}  // namespace devhost

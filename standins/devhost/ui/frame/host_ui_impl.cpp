@@ -1,0 +1,143 @@
+// The windows' side of the host core; see the header.
+#include "devhost/ui/frame/host_ui_impl.h"
+
+#include <algorithm>
+
+#include "devhost/core/host/host.h"
+#include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/messages/message_pump.h"
+
+namespace devhost {
+namespace {
+
+class CountUp {
+ public:
+  explicit CountUp(int& count) : m_count(count) { ++m_count; }
+  ~CountUp() { --m_count; }
+  CountUp(const CountUp&) = delete;
+  CountUp& operator=(const CountUp&) = delete;
+
+ private:
+  int& m_count;
+};
+
+}  // namespace
+
+HostUiImpl& TheHostUi() {
+  static HostUiImpl ui;
+  return ui;
+}
+
+DrawingChild* HostUiImpl::ChildOf(const Document& document) const {
+  for (const auto& child : m_children)
+    if (&child->GetDocument() == &document) return child.get();
+  return nullptr;
+}
+
+DrawingChild* HostUiImpl::ActiveChild() const {
+  Document* current = TheHost().documents.Current();
+  return current ? ChildOf(*current) : nullptr;
+}
+
+CommandBar::Listener HostUiImpl::CommandListener() {
+  return {[](const std::wstring& line) { TheHost().engine.TypeLine(line); },
+          [] { TheHost().engine.PressEscape(); },
+          [] { return TheHost().engine.TextMayHoldBlanks(); }};
+}
+
+bool HostUiImpl::CloseWaiting() {
+  if (m_toClose.empty() || TheHost().engine.CommandRuns()) return false;
+  Document* document = m_toClose.front();
+  m_toClose.erase(m_toClose.begin());
+  if (TheHost().documents.Known(document)) TheHost().documents.Close(document);
+  return true;
+}
+
+bool HostUiImpl::RunWaiting() {
+  m_gone.clear();
+  if (CloseWaiting()) return true;
+  return !TheHost().engine.CommandRuns() && TheHost().engine.RunWaiting();
+}
+
+bool HostUiImpl::TextWaits() const { return !m_toClose.empty() || TheHost().engine.TextWaits(); }
+
+void HostUiImpl::UserActivated(DrawingChild& child) {
+  if (m_fromCore == 0) TheHost().documents.Activate(&child.GetDocument());
+}
+
+void HostUiImpl::UserCloses(DrawingChild& child) {
+  if (TheHost().engine.CommandRuns()) TheHost().engine.PressEscape();
+  m_toClose.push_back(&child.GetDocument());
+}
+
+void HostUiImpl::DocumentCreated(Document& document) {
+  if (!TheFrame()) return;
+  CountUp guard(m_fromCore);
+  auto child = std::make_unique<DrawingChild>(document);
+  m_children.push_back(std::move(child));
+  m_children.back()->CreateIn(TheFrame(), document.Title());
+}
+
+void HostUiImpl::DocumentActivated(Document* document) {
+  DrawingChild* child = document ? ChildOf(*document) : nullptr;
+  if (!child) return;
+  CountUp guard(m_fromCore);
+  child->Activate();
+  // The frame takes over the title of a maximized child when that title is set, not when the child
+  // comes to the front.
+  DocumentTitled(*document);
+}
+
+void HostUiImpl::DocumentDestroyed(Document& document) {
+  CountUp guard(m_fromCore);
+  const auto found = std::find_if(m_children.begin(), m_children.end(), [&](const auto& child) {
+    return &child->GetDocument() == &document;
+  });
+  if (found == m_children.end()) return;
+  std::erase(m_toClose, &document);
+  std::unique_ptr<DrawingChild> child = std::move(*found);
+  m_children.erase(found);
+  child->DestroyForGood();
+  m_gone.push_back(std::move(child));
+}
+
+void HostUiImpl::DocumentTitled(Document& document) {
+  if (DrawingChild* child = ChildOf(document))
+    ::SetWindowTextW(child->m_hWnd, document.Title().c_str());
+}
+
+void HostUiImpl::PictureChanged(Document& document) {
+  DrawingChild* child = ChildOf(document);
+  if (!child) return;
+  child->View().Model().EntitiesChanged();
+  child->View().PictureChanged();
+}
+
+void HostUiImpl::SelectionChanged(Document& document) {
+  if (DrawingChild* child = ChildOf(document)) child->View().PictureChanged();
+}
+
+void HostUiImpl::Print(const std::wstring& text) {
+  if (TheFrame()) TheFrame()->Commands().Print(text);
+}
+
+void HostUiImpl::PromptChanged(const std::wstring& prompt) {
+  if (!TheFrame()) return;
+  TheFrame()->Commands().SetPrompt(prompt);
+  if (DrawingChild* child = ActiveChild()) child->View().SelectionChanged();
+}
+
+void HostUiImpl::VariableChanged(const std::wstring& name) {
+  Document* current = TheHost().documents.Current();
+  if (current && (name == L"TILEMODE" || name == L"CVPORT")) PictureChanged(*current);
+}
+
+void HostUiImpl::Alert(const std::wstring& text) { AfxMessageBox(text.c_str()); }
+
+bool HostUiImpl::PumpWhileWaiting() { return ThePump().RunOnce(); }
+
+void HostUiImpl::EndProgram() {
+  if (TheFrame()) ::PostMessageW(TheFrame()->m_hWnd, WM_CLOSE, 0, 0);
+}
+
+}  // namespace devhost

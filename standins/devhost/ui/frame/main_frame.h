@@ -1,0 +1,39 @@
+// The frame of the development host: menu, command line, status bar, dock bars and the MDI area. It
+// carries out menu commands by calling the host core; drawings' windows are drawing_child's.
+#pragma once
+
+#include "afxext.h"
+#include "afxwin.h"
+#include "devhost/ui/bars/command_bar.h"
+#include "devhost/ui/bars/status_bar.h"
+
+namespace devhost {
+
+class MainFrame : public CMDIFrameWnd {
+ public:
+  MainFrame();
+  ~MainFrame() override;
+
+  bool CreateAndShow(const std::wstring& title);
+  CommandBar& Commands() { return m_commands; }
+  StatusBar& Status() { return m_status; }
+
+ protected:
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+  BOOL PreTranslateMessage(MSG* message) override;
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool RunMenuCommand(UINT id);
+  void AskAndOpen();
+  void OpenDropped(HDROP drop);
+
+  CommandBar m_commands;
+  StatusBar m_status;
+  HMENU m_windowMenu = nullptr;  // part of the menu bar, which the window owns
+  HACCEL m_keys = nullptr;       // given back in the destructor
+};
+
+MainFrame* TheFrame();  // null before creation and after the window went
+
+}  // namespace devhost

@@ -1,0 +1,201 @@
+// Start and end of the development host; see the header.
+#include "devhost/ui/launch/launch.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <ole2.h>
+
+#include <atomic>
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <thread>
+
+#include "dbapserv.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/base/journal.h"
+#include "devhost/ui/palette/palette_store.h"
+#include "devhost/play/play_driver.h"
+#include "devhost/ui/frame/host_actions.h"
+#include "devhost/ui/launch/host_app.h"
+#include "devhost/ui/launch/host_title.h"
+#include "devhost/ui/frame/host_ui_impl.h"
+#include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/modules/module_loader.h"
+#include "devhost/ui/modules/remembered_modules.h"
+#include "devhost/ui/launch/restart.h"
+#include "devhost/ui/modules/right_click_menu.h"
+#include "devhost/ui/messages/start_watch.h"
+#include "devhost/ui/port/ui_port_impl.h"
+
+namespace devhost {
+
+const wchar_t kProductModule[] = L"qvx_initstart.arx";
+
+std::wstring ProgramFolder() {
+  wchar_t path[1024] = L"";
+  ::GetModuleFileNameW(nullptr, path, 1024);
+  std::wstring folder = path;
+  return folder.substr(0, folder.find_last_of(L"\\/"));
+}
+
+HostOptions OptionsForCore(const LaunchOptions& options) {
+  HostOptions out;
+  out.major = static_cast<int>(options.hostVersion);
+  out.minor = static_cast<int>(std::lround((options.hostVersion - out.major) * 10));
+  out.profile = options.profile;
+  if (!options.productFolder.empty()) out.supportPath.push_back(options.productFolder);
+  out.supportPath.push_back(ProgramFolder());
+  return out;
+}
+
+namespace {
+
+// What a profile keeps of its own in the user's registry.
+std::wstring PaletteKeyOf(const std::wstring& profile) {
+  std::wstring key = acdbHostApplicationServices()->getMachineRegistryProductRootKey();
+  if (!profile.empty()) key += L"\\Profiles\\" + profile;
+  return key + L"\\Palettes";
+}
+
+bool Exists(const std::wstring& path) {
+  return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// The stream that the journal is written to, closed at the end unless it is standard output.
+class JournalFile {
+ public:
+  bool Open(const std::wstring& name, bool goesOn) {
+    if (name.empty()) return true;
+    if (name == L"-") {
+      ::_setmode(::_fileno(stdout), _O_BINARY);
+      TheJournal().WriteTo(stdout);
+      return true;
+    }
+    m_stream = ::_wfopen(name.c_str(), goesOn ? L"ab" : L"wb");
+    TheJournal().WriteTo(m_stream);
+    return m_stream != nullptr;
+  }
+  ~JournalFile() {
+    TheJournal().WriteTo(nullptr);
+    if (m_stream) std::fclose(m_stream);
+  }
+
+ private:
+  std::FILE* m_stream = nullptr;
+};
+
+void OpenDrawings(const std::vector<std::wstring>& names) {
+  for (const std::wstring& name : names) OpenDrawingFile(name);
+  if (TheHost().documents.documentCount() == 0) MakeNewDrawing();
+}
+
+void LoadModules(const LaunchOptions& options) {
+  TheHost().modules.OnLoadedForGood(RememberModule);
+  std::vector<std::wstring> modules = options.modules;
+  const std::wstring product = ProgramFolder() + L"\\" + kProductModule;
+  if (modules.empty() && Exists(product)) modules.push_back(product);
+  for (const std::wstring& module : modules)
+    TheHost().modules.loadModule(module.c_str(), true, false);
+  for (const std::wstring& module : RememberedModules())
+    TheHost().modules.loadModule(module.c_str(), true, false);
+}
+
+// The driver's thread may stand in a call to the main thread, which therefore answers messages
+// until that thread has ended.
+void EndDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
+  if (!driver) return;
+  port.Refuse();
+  const DWORD mainThread = ::GetCurrentThreadId();
+  std::atomic<bool> ended = false;
+  std::thread waiting([&] {
+    driver.reset();
+    ended = true;
+    ::PostThreadMessageW(mainThread, WM_NULL, 0, 0);
+  });
+  while (!ended) {
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_ALLINPUT);
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+  }
+  waiting.join();
+}
+
+int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDriver> driver,
+             bool* again) {
+  auto* frame = new MainFrame;  // deletes itself with its window
+  app.m_pMainWnd = frame;
+  if (!frame->CreateAndShow(HostTitle(options.hostVersion))) return 3;
+  int exitCode = 0;
+  {
+    // A module may show a box while it is loaded, which a script can answer.
+    UiPortImpl port;
+    if (driver) driver->Start(port);
+    OpenDrawings(options.drawings);
+    LoadModules(options);
+    exitCode = app.Run();
+    *again = driver && driver->WantsRestart();
+    EndDriver(port, std::move(driver));
+  }
+  TheHost().End();
+  if (TheFrame()) TheFrame()->DestroyWindow();
+  return exitCode;
+}
+
+// Screen readers in other processes reach a module's windows only in a program that has COM up.
+class OleScope {
+ public:
+  OleScope() : m_up(SUCCEEDED(::OleInitialize(nullptr))) {}
+  ~OleScope() {
+    if (m_up) ::OleUninitialize();
+  }
+  OleScope(const OleScope&) = delete;
+  OleScope& operator=(const OleScope&) = delete;
+
+ private:
+  bool m_up;
+};
+
+// One start of the program. `again`: it ended only to be started once more.
+int RunOnce(const LaunchOptions& options, bool* again) {
+  JournalFile journal;
+  if (!journal.Open(options.journal, RestartsBefore() > 0)) {
+    std::fprintf(stderr, "devhost: the journal %s can't be written\n",
+                 Utf8(options.journal).c_str());
+    return 2;
+  }
+  std::unique_ptr<PlayDriver> driver;
+  if (!options.script.empty()) {
+    driver = std::make_unique<PlayDriver>();
+    if (!driver->Load({options.script, RestartsBefore(), options.longestWait})) return 2;
+  }
+  const OleScope ole;
+  HostApp app(L"DevHost");
+  AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL);
+  app.InitInstance();
+  ModuleLoader loader;
+  TheHost().Begin(OptionsForCore(options), &TheHostUi(), &loader);
+  SetPaletteStoreKey(PaletteKeyOf(options.profile).c_str());
+  SetRightClickMenu(options.rightClickMenu);
+  std::unique_ptr<StartWatch> watch;
+  if (!options.startTrace.empty()) watch = std::make_unique<StartWatch>(options.startTrace);
+  int exitCode = RunFrame(options, app, std::move(driver), again);
+  if (watch && !watch->Write()) {
+    std::fprintf(stderr, "devhost: the trace %s can't be written\n",
+                 Utf8(options.startTrace).c_str());
+    exitCode = exitCode ? exitCode : 2;
+  }
+  AfxWinTerm();
+  return exitCode;
+}
+
+}  // namespace
+
+// What the first start left behind must be on its way to disk and registry before the next begins.
+int RunDevelopmentHost(const LaunchOptions& options) {
+  bool again = false;
+  const int exitCode = RunOnce(options, &again);
+  return again && exitCode == 0 ? StartAgain() : exitCode;
+}
+
+}  // namespace devhost

@@ -1,0 +1,92 @@
+// The pump itself and the two calls by which modules add and remove filters.
+#include "devhost/ui/messages/message_pump.h"
+
+#include <algorithm>
+
+#include "devhost/core/base/start_trace.h"
+#include "rxmfcapi.h"
+
+namespace devhost {
+
+MessagePump& ThePump() {
+  static MessagePump pump;
+  return pump;
+}
+
+bool MessagePump::AddFilter(Filter filter) {
+  if (!filter || std::find(m_filters.begin(), m_filters.end(), filter) != m_filters.end())
+    return false;
+  m_filters.push_back(filter);
+  return true;
+}
+
+bool MessagePump::RemoveFilter(Filter filter) {
+  const auto found = std::find(m_filters.begin(), m_filters.end(), filter);
+  if (found == m_filters.end()) return false;
+  m_filters.erase(found);
+  return true;
+}
+
+// A filter may remove itself or others while it runs, so each step looks at the list anew.
+bool MessagePump::Swallowed(MSG* message) {
+  for (size_t left = m_filters.size(); left > 0; left = std::min(left - 1, m_filters.size()))
+    if (m_filters[left - 1](message)) return true;
+  return false;
+}
+
+void MessagePump::Process(MSG* message) {
+  if (Swallowed(message)) return;
+  if (m_preTranslate && m_preTranslate(message)) return;
+  if (message->message == WM_TIMER)
+    TheStartTrace().Step("WM_TIMER", std::to_string(message->wParam));
+  ::TranslateMessage(message);
+  ::DispatchMessageW(message);
+}
+
+bool MessagePump::CountsAsWork(const MSG& message) const {
+  return message.message != WM_TIMER && message.message != WM_PAINT &&
+         message.message != 0x118 /* the blinking caret */ && message.message != WM_NULL;
+}
+
+void MessagePump::MarkQuiet() {
+  m_quiet = true;
+  TheStartTrace().Quiet();
+  if (m_whenQuiet) m_whenQuiet();
+}
+
+void MessagePump::RunIdle() {
+  MSG message;
+  while (m_idleDue && !::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+    if (m_idleWork && m_idleWork()) continue;
+    m_idleDue = false;
+    MarkQuiet();
+  }
+}
+
+bool MessagePump::RunOnce() {
+  RunIdle();
+  return TakeOne();
+}
+
+bool MessagePump::TakeOne() {
+  MSG message{};
+  if (::GetMessageW(&message, nullptr, 0, 0) <= 0) {
+    ::PostQuitMessage(static_cast<int>(message.wParam));
+    return false;
+  }
+  if (CountsAsWork(message)) m_quiet = false;
+  m_idleDue = true;
+  Process(&message);
+  return true;
+}
+
+}  // namespace devhost
+
+BOOL acedRegisterFilterWinMsg(AcedFilterWinMsgFn filter) {
+  devhost::TheStartTrace().Step("acedRegisterFilterWinMsg");
+  return devhost::ThePump().AddFilter(filter);
+}
+
+BOOL acedRemoveFilterWinMsg(AcedFilterWinMsgFn filter) {
+  return devhost::ThePump().RemoveFilter(filter);
+}

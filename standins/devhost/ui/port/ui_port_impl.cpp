@@ -1,0 +1,141 @@
+// The port of the play driver; see the header. Windows are answered here, all else by host_actions.
+#include "devhost/ui/port/ui_port_impl.h"
+
+#include "devhost/ui/view/drawing_child.h"
+#include "devhost/ui/frame/host_actions.h"
+#include "devhost/ui/frame/host_ui_impl.h"
+#include "devhost/ui/port/live_menus.h"
+#include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/messages/message_pump.h"
+#include "devhost/ui/bars/pane_place.h"
+#include "devhost/ui/port/window_tree.h"
+
+namespace devhost {
+namespace {
+
+DrawingView* View() {
+  DrawingChild* child = TheHostUi().ActiveChild();
+  return child ? &child->View() : nullptr;
+}
+
+bool OnScreen(std::optional<POINT> pixel, POINT* out) {
+  if (!pixel) return false;
+  *out = *pixel;
+  return ::ClientToScreen(View()->m_hWnd, out) != FALSE;
+}
+
+bool Waits(UINT kinds) { return HIWORD(::GetQueueStatus(kinds)) & kinds; }
+
+}  // namespace
+
+UiPortImpl::UiPortImpl() : m_ready(::CreateEventW(nullptr, TRUE, FALSE, nullptr)) {
+  ThePump().SetWhenQuiet([this] { ::SetEvent(m_ready); });
+}
+
+UiPortImpl::~UiPortImpl() {
+  ThePump().SetWhenQuiet(nullptr);
+  ::CloseHandle(m_ready);
+}
+
+bool UiPortImpl::OnMainThread(const std::function<void()>& work) {
+  ::WaitForSingleObject(m_ready, INFINITE);
+  return m_thread.Run(work);
+}
+
+void UiPortImpl::Refuse() {
+  m_thread.Refuse();
+  ::SetEvent(m_ready);
+}
+
+bool UiPortImpl::IsIdle() {
+  return ThePump().IsQuiet() && !TheHostUi().TextWaits() &&
+         !Waits(QS_INPUT | QS_POSTMESSAGE | QS_PAINT);
+}
+
+bool UiPortImpl::IsMenuOpen() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  ::GetGUIThreadInfo(m_thread.Id(), &info);
+  return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+}
+
+bool UiPortImpl::IsPopupOpen() { return IsPopupMenuOpen(m_thread.Id()); }
+
+HWND UiPortImpl::Frame() { return TheFrame() ? TheFrame()->m_hWnd : nullptr; }
+
+HWND UiPortImpl::CommandLine() {
+  return TheFrame() ? TheFrame()->Commands().EditWindow() : nullptr;
+}
+
+HWND UiPortImpl::ActiveView() { return View() ? View()->m_hWnd : nullptr; }
+
+bool UiPortImpl::WorldToScreen(double x, double y, POINT* out) {
+  return View() && OnScreen(View()->Model().PixelOf(x, y), out);
+}
+
+bool UiPortImpl::ViewToScreen(int x, int y, POINT* out) {
+  return View() && OnScreen(POINT{x, y}, out);
+}
+
+bool UiPortImpl::EntityToScreen(const std::string& handle, POINT* out) {
+  return View() && OnScreen(View()->Model().PixelOnEntity(handle), out);
+}
+
+bool UiPortImpl::ButtonToScreen(const std::wstring& label, POINT* out) {
+  const HWND button = FindButton(m_thread.Id(), label);
+  RECT r{};
+  if (!button || !::GetWindowRect(button, &r)) return false;
+  *out = {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
+  return true;
+}
+
+std::string UiPortImpl::PaneToScreen(const std::string& name, POINT* out) {
+  return PlaceOfPane(name, out);
+}
+
+bool UiPortImpl::OpenDrawing(const std::wstring& path) { return OpenDrawingFile(path); }
+void UiPortImpl::NewDrawing() { MakeNewDrawing(); }
+bool UiPortImpl::ActivateDrawing(const std::wstring& name) { return ActivateDrawingNamed(name); }
+void UiPortImpl::CloseDrawing() { CloseActiveDrawing(); }
+
+bool UiPortImpl::SelectEntities(const std::vector<std::string>& handles) {
+  return SelectByHandles(handles);
+}
+
+bool UiPortImpl::SetVariable(const std::wstring& name, const std::wstring& value) {
+  return SetVariableText(name, value);
+}
+
+bool UiPortImpl::GetVariable(const std::wstring& name, std::wstring* value) {
+  return GetVariableText(name, value);
+}
+
+// The kernel module is looked up by name: the host is not built against it.
+bool UiPortImpl::SetSetting(const std::wstring& name, const std::wstring& value) {
+  using SetFn = int (*)(const wchar_t*, const wchar_t*);
+  const HMODULE kernel = ::GetModuleHandleW(L"qvx_kernal.arx");
+  const auto set = kernel ? reinterpret_cast<SetFn>(
+                                reinterpret_cast<void*>(::GetProcAddress(kernel, "QvxSetSetting")))
+                          : nullptr;
+  return set && set(name.c_str(), value.c_str()) != 0;
+}
+
+std::string UiPortImpl::DescribeShell() {
+  using DescribeFn = const char* (*)();
+  const HMODULE shell = ::GetModuleHandleW(L"qvx_initstart.arx");
+  const auto describe = shell ? reinterpret_cast<DescribeFn>(reinterpret_cast<void*>(
+                                    ::GetProcAddress(shell, "QvxDescribeShell")))
+                              : nullptr;
+  const char* text = describe ? describe() : nullptr;
+  return text ? text : "{}";
+}
+
+std::string UiPortImpl::DescribeMenus() { return DescribeLiveMenus(m_thread.Id()).dump(); }
+
+std::string UiPortImpl::DescribeWindows() { return DescribeWindowsOf(m_thread.Id()).dump(1); }
+
+std::string UiPortImpl::DescribeDatabase() { return DescribeActiveDatabase(); }
+
+void UiPortImpl::Quit(int exitCode) { ::PostQuitMessage(exitCode); }
+
+}  // namespace devhost

@@ -1,0 +1,54 @@
+// The running user interface as the play driver sees it. Calls come on the main thread, carried
+// there by OnMainThread, which alone may be called from another.
+#pragma once
+
+#include "devhost/play/ui_port.h"
+#include "devhost/ui/messages/main_thread.h"
+
+namespace devhost {
+
+class UiPortImpl : public UiPort {
+ public:
+  UiPortImpl();  // before the first drawing: a call waits until the program waits for input
+  ~UiPortImpl() override;
+  UiPortImpl(const UiPortImpl&) = delete;
+  UiPortImpl& operator=(const UiPortImpl&) = delete;
+
+  bool OnMainThread(const std::function<void()>& work) override;
+  void Refuse();  // the program ends: the driver is told so by each call
+
+  bool IsIdle() override;
+  bool IsMenuOpen() override;
+  bool IsPopupOpen() override;
+
+  HWND Frame() override;
+  HWND CommandLine() override;
+  HWND ActiveView() override;
+
+  bool WorldToScreen(double x, double y, POINT* out) override;
+  bool ViewToScreen(int x, int y, POINT* out) override;
+  bool EntityToScreen(const std::string& handle, POINT* out) override;
+  bool ButtonToScreen(const std::wstring& label, POINT* out) override;
+  std::string PaneToScreen(const std::string& name, POINT* out) override;
+
+  bool OpenDrawing(const std::wstring& path) override;
+  void NewDrawing() override;
+  bool ActivateDrawing(const std::wstring& name) override;
+  void CloseDrawing() override;
+  bool SelectEntities(const std::vector<std::string>& handles) override;
+  bool SetVariable(const std::wstring& name, const std::wstring& value) override;
+  bool GetVariable(const std::wstring& name, std::wstring* value) override;
+  bool SetSetting(const std::wstring& name, const std::wstring& value) override;
+
+  std::string DescribeShell() override;
+  std::string DescribeMenus() override;
+  std::string DescribeWindows() override;
+  std::string DescribeDatabase() override;
+  void Quit(int exitCode) override;
+
+ private:
+  MainThread m_thread;
+  HANDLE m_ready;  // an event: set when the main thread first waits for input, or refuses
+};
+
+}  // namespace devhost

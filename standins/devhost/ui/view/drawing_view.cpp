@@ -1,0 +1,268 @@
+// The drawing window; see the header. The scene is painted once into a bitmap; moving the pointer
+// only copies from it and paints what lies over it.
+#include "devhost/ui/view/drawing_view.h"
+
+#include <windowsx.h>
+
+#include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/view/pick_logic.h"
+#include "devhost/ui/modules/right_click_menu.h"
+
+namespace devhost {
+namespace {
+
+constexpr UINT kViewId = 0xE900;  // where a frame looks for its one pane
+
+CommandBar* Commands() { return TheFrame() ? &TheFrame()->Commands() : nullptr; }
+
+bool IsTypingKey(WPARAM key) {
+  return key == VK_UP || key == VK_DOWN || key == VK_LEFT || key == VK_RIGHT || key == VK_HOME ||
+         key == VK_END;
+}
+
+}  // namespace
+
+bool DrawingView::CreateIn(CWnd* parent) {
+  const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW));
+  return CWnd::Create(windowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
+                      CRect(0, 0, 0, 0), parent, kViewId) != FALSE;
+}
+
+void DrawingView::PictureChanged() {
+  m_sceneDirty = true;
+  SelectionChanged();
+}
+
+void DrawingView::SelectionChanged() {
+  if (m_hWnd) ::InvalidateRect(m_hWnd, nullptr, FALSE);
+}
+
+void DrawingView::ZoomAt(POINT pixel, double factor) {
+  m_model.ZoomAt(pixel, factor);
+  PictureChanged();
+}
+
+void DrawingView::ZoomExtents() {
+  m_model.ZoomExtents();
+  PictureChanged();
+}
+
+// The first real size shows the whole drawing; later ones keep the scale.
+void DrawingView::OnResize(int width, int height) {
+  if (width <= 0 || height <= 0) return;
+  m_model.Resize(width, height);
+  if (!m_sized) m_model.ZoomExtents();
+  m_sized = true;
+  PictureChanged();
+}
+
+void DrawingView::MoveCursor(std::optional<POINT> at) {
+  const bool wide = m_boxFrom || (at && m_model.RubberFrom());
+  if (wide) {
+    ::InvalidateRect(m_hWnd, nullptr, FALSE);
+  } else {
+    for (const std::optional<POINT>& place : {m_cursor, at}) {
+      if (!place) continue;
+      const RECT r = CrosshairBounds(*place);
+      ::InvalidateRect(m_hWnd, &r, FALSE);
+    }
+  }
+  m_cursor = at;
+}
+
+void DrawingView::BeginPan(POINT at) {
+  m_panFrom = at;
+  ::SetCapture(m_hWnd);
+  ::SetCursor(::LoadCursorW(nullptr, IDC_SIZEALL));
+}
+
+void DrawingView::EndPan() {
+  if (!m_panFrom) return;
+  m_panFrom.reset();
+  if (::GetCapture() == m_hWnd) ::ReleaseCapture();
+}
+
+void DrawingView::OnMove(WPARAM keys, POINT at) {
+  if (m_panFrom) {
+    m_model.PanBy(at.x - m_panFrom->x, at.y - m_panFrom->y);
+    m_panFrom = at;
+    PictureChanged();
+  }
+  if (m_press && !m_boxFrom && (keys & MK_LBUTTON) && IsDrag(*m_press, at) &&
+      !m_model.WaitsForPoint())
+    m_boxFrom = m_press;
+  MoveCursor(at);
+  TRACKMOUSEEVENT leave = {sizeof leave, TME_LEAVE, m_hWnd, 0};
+  ::TrackMouseEvent(&leave);
+  if (MainFrame* frame = TheFrame()) frame->Status().ShowCoordinates(m_model.CoordinatesAt(at));
+}
+
+// A click gives a point to the command that waits for one. Otherwise it picks what lies there; on
+// empty ground it opens a selection box, which a second click or the release of a drag closes.
+void DrawingView::OnPress(WPARAM keys, POINT at) {
+  ::SetFocus(m_hWnd);
+  if (m_model.CommandIsActive()) m_boxFrom.reset();  // a command came in between
+  if (m_model.WaitsForPoint()) {
+    m_model.GivePoint(at);
+    return;
+  }
+  if (m_boxFrom) {
+    PickBox(keys, *m_boxFrom, at);
+    return;
+  }
+  if (m_model.CommandIsActive()) return;
+  m_press = at;
+  if (m_model.PickAt(at, (keys & MK_SHIFT) != 0)) {
+    m_press.reset();
+    SelectionChanged();
+    return;
+  }
+  m_boxFrom = at;
+  SelectionChanged();
+}
+
+void DrawingView::OnRelease(WPARAM keys, POINT at) {
+  const bool dragged = m_press && IsDrag(*m_press, at);
+  if (dragged && m_boxFrom) PickBox(keys, *m_boxFrom, at);
+  m_press.reset();
+}
+
+void DrawingView::PickBox(WPARAM keys, POINT from, POINT to) {
+  m_boxFrom.reset();
+  m_press.reset();
+  m_model.PickIn(BoxOf(from, to), IsCrossing(from, to), (keys & MK_SHIFT) != 0);
+  SelectionChanged();
+}
+
+void DrawingView::OnWheel(int delta, POINT screen) {
+  ::ScreenToClient(m_hWnd, &screen);
+  ZoomAt(screen, WheelZoom(delta));
+}
+
+bool DrawingView::OnMouse(UINT message, WPARAM keys, POINT at) {
+  switch (message) {
+    case WM_MOUSEMOVE:
+      OnMove(keys, at);
+      return true;
+    case WM_LBUTTONDOWN:
+      OnPress(keys, at);
+      return true;
+    case WM_LBUTTONUP:
+      OnRelease(keys, at);
+      return true;
+    case WM_LBUTTONDBLCLK:
+      OnPress(keys, at);
+      return true;
+    case WM_MBUTTONDOWN:
+      BeginPan(at);
+      return true;
+    case WM_MBUTTONUP:
+      EndPan();
+      return true;
+    case WM_MBUTTONDBLCLK:
+      ZoomExtents();
+      return true;
+    case WM_MOUSEWHEEL:
+      OnWheel(static_cast<short>(HIWORD(keys)), at);
+      return true;
+    case WM_RBUTTONUP:  // as Enter on the command line
+      if (ShowModuleMenu(m_hWnd, at, (keys & MK_CONTROL) != 0)) return true;
+      if (CommandBar* commands = Commands()) commands->EndLine();
+      return true;
+  }
+  return false;
+}
+
+void DrawingView::OnKey(WPARAM key) {
+  if (key == VK_ESCAPE) {
+    m_boxFrom.reset();
+    m_press.reset();
+    if (CommandBar* commands = Commands()) commands->Escape();
+    SelectionChanged();
+  } else if (IsTypingKey(key)) {
+    if (CommandBar* commands = Commands()) commands->PassKey(key);
+  } else if (key == VK_DELETE) {
+    if (CommandBar* commands = Commands()) commands->PassKey(key);
+  }
+}
+
+ViewOverlay DrawingView::Overlay() const {
+  ViewOverlay overlay;
+  overlay.cursor = m_panFrom ? std::nullopt : m_cursor;
+  overlay.pickBox = !m_model.WaitsForPoint();
+  overlay.grips = m_model.Grips();
+  if (m_model.WaitsForCorner()) {
+    overlay.boxFrom = m_model.RubberFrom();
+  } else {
+    if (!m_model.CommandIsActive()) overlay.boxFrom = m_boxFrom;
+    overlay.rubberFrom = m_model.RubberFrom();
+  }
+  if (const std::optional<POINT> origin = m_model.Origin()) {
+    overlay.origin = *origin;
+    overlay.originShown = true;
+  }
+  return overlay;
+}
+
+void DrawingView::PaintScene(HDC like, const RECT& client) {
+  if (!m_scene || m_sceneSize.cx != client.right || m_sceneSize.cy != client.bottom) {
+    m_scene = Bitmap(::CreateCompatibleBitmap(like, client.right, client.bottom));
+    m_sceneSize = {client.right, client.bottom};
+    m_sceneDirty = true;
+  }
+  const HDC memory = ::CreateCompatibleDC(like);
+  {
+    Selected bitmap(memory, m_scene.Get());
+    if (m_sceneDirty) {
+      Brush ground(::CreateSolidBrush(ViewBackground()));
+      ::FillRect(memory, &client, ground.Get());
+      m_model.PaintScene(memory, client);
+      m_sceneDirty = false;
+    }
+    ::BitBlt(like, 0, 0, client.right, client.bottom, memory, 0, 0, SRCCOPY);
+  }
+  ::DeleteDC(memory);
+}
+
+void DrawingView::Paint() {
+  PaintScope dc(m_hWnd);
+  if (dc.Client().right <= 0 || dc.Client().bottom <= 0) return;
+  PaintScene(dc, dc.Client());
+  PaintOverlay(dc, dc.Client(), Overlay());
+}
+
+LRESULT DrawingView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST &&
+      OnMouse(message, wParam, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))
+    return 0;
+  switch (message) {
+    case WM_PAINT:
+      Paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_SIZE:
+      OnResize(LOWORD(lParam), HIWORD(lParam));
+      break;
+    case WM_MOUSELEAVE:
+      MoveCursor(std::nullopt);
+      break;
+    case WM_CAPTURECHANGED:
+      m_panFrom.reset();
+      break;
+    case WM_KEYDOWN:
+      OnKey(wParam);
+      break;
+    case WM_CHAR:
+      if (CommandBar* commands = Commands(); commands && wParam != VK_ESCAPE)
+        commands->PassChar(static_cast<wchar_t>(wParam));
+      return 0;
+    case WM_SETCURSOR:
+      if (LOWORD(lParam) != HTCLIENT) break;
+      ::SetCursor(m_panFrom ? ::LoadCursorW(nullptr, IDC_SIZEALL) : nullptr);
+      return TRUE;
+  }
+  return CWnd::WindowProc(message, wParam, lParam);
+}
+
+}  // namespace devhost

@@ -1,0 +1,54 @@
+// The window that shows one drawing: it paints the core's picture, zooms and pans, turns clicks
+// into points for a running command or into a selection, and hands keys to the command line. What
+// lies under a pixel, what is selected and where the view stands is the core's.
+#pragma once
+
+#include <optional>
+
+#include "afxwin.h"
+#include "devhost/ui/painting/gdi.h"
+#include "devhost/ui/view/view_model.h"
+#include "devhost/ui/view/view_overlay.h"
+
+namespace devhost {
+
+class DrawingView : public CWnd {
+ public:
+  explicit DrawingView(Document& document) : m_model(document) {}
+
+  bool CreateIn(CWnd* parent);
+  void PictureChanged();    // the database or the view transform changed: paint anew
+  void SelectionChanged();  // only what lies over the picture changed
+  void ZoomAt(POINT pixel, double factor);
+  void ZoomExtents();
+  ViewModel& Model() { return m_model; }
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool OnMouse(UINT message, WPARAM keys, POINT at);
+  void OnMove(WPARAM keys, POINT at);
+  void OnPress(WPARAM keys, POINT at);
+  void OnRelease(WPARAM keys, POINT at);
+  void OnWheel(int delta, POINT screen);
+  void OnResize(int width, int height);
+  void OnKey(WPARAM key);
+  void BeginPan(POINT at);
+  void EndPan();
+  void Pick(WPARAM keys, POINT at);
+  void PickBox(WPARAM keys, POINT from, POINT to);
+  void MoveCursor(std::optional<POINT> at);
+  ViewOverlay Overlay() const;
+  void Paint();
+  void PaintScene(HDC like, const RECT& client);
+
+  ViewModel m_model;
+  Bitmap m_scene;  // the drawing without what lies over it
+  SIZE m_sceneSize{};
+  bool m_sceneDirty = true;
+  bool m_sized = false;
+  std::optional<POINT> m_cursor, m_press, m_boxFrom, m_panFrom;
+};
+
+}  // namespace devhost

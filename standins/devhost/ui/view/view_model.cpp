@@ -1,0 +1,143 @@
+// Between the window of a drawing and the core; see the header.
+#include "devhost/ui/view/view_model.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <set>
+
+#include "devhost/core/host/host.h"
+#include "devhost/ui/view/pick_logic.h"
+#include "devhost/ui/painting/scene_painter.h"
+
+namespace devhost {
+namespace {
+
+constexpr size_t kMostGripped = 100;  // entities; with more selected no grips are shown
+constexpr size_t kMostCorners = 8;    // of one line; above it both ends and the middle
+
+void AddGrips(const std::vector<AcGePoint3d>& points, std::vector<AcGePoint3d>* out) {
+  if (points.size() <= kMostCorners) {
+    out->insert(out->end(), points.begin(), points.end());
+  } else {
+    for (size_t i : {size_t{0}, points.size() / 2, points.size() - 1}) out->push_back(points[i]);
+  }
+}
+
+AcDbEntity* EntityOfHandle(Document& document, const std::string& handle) {
+  const AcDbHandle value(std::strtoull(handle.c_str(), nullptr, 16));
+  AcDbObjectId id;
+  if (document.database()->getAcDbObjectId(id, false, value) != Acad::eOk || id.isErased())
+    return nullptr;
+  return AcDbEntity::cast(id.object());
+}
+
+}  // namespace
+
+void ViewModel::Resize(int width, int height) { m_document.view.Resize(width, height); }
+
+void ViewModel::ZoomAt(POINT pixel, double factor) { m_document.view.ZoomAt(pixel, factor); }
+
+void ViewModel::ZoomExtents() { m_document.view.ZoomTo(ExtentsOf(*m_document.database())); }
+
+void ViewModel::PanBy(int dx, int dy) { m_document.view.PanBy(dx, dy); }
+
+// Arcs are broken into lines for a scale; a picture that is much larger or smaller needs new ones.
+void ViewModel::BuildShapes() {
+  const double scale = m_document.view.PixelsPerUnit();
+  if (!m_shapesStale && scale < m_shapesScale * 2 && scale > m_shapesScale / 4) return;
+  m_shapes = BuildScene(*m_document.database(), scale);
+  m_shapesScale = scale;
+  m_shapesStale = false;
+}
+
+void ViewModel::PaintScene(HDC dc, const RECT& client) {
+  BuildShapes();
+  std::set<const AcDbObject*> picked;
+  for (const AcDbObjectId& id : m_document.pickFirst) picked.insert(id.object());
+  ScenePainter painter(dc, client, m_document.view);
+  for (const Shape& shape : m_shapes) painter.Paint(shape, picked.count(shape.entity) != 0);
+}
+
+std::optional<POINT> ViewModel::PixelOf(double x, double y) const {
+  return m_document.view.ToPixel({x, y, 0});
+}
+
+std::optional<POINT> ViewModel::PixelOnEntity(const std::string& handle) const {
+  AcDbEntity* entity = EntityOfHandle(m_document, handle);
+  AcGePoint3d at;
+  if (!entity || !PointOn(*entity, &at)) return std::nullopt;
+  return m_document.view.ToPixel(at);
+}
+
+std::wstring ViewModel::CoordinatesAt(POINT pixel) const {
+  const AcGePoint3d at = m_document.view.ToWorld(pixel);
+  wchar_t text[96];
+  std::swprintf(text, 96, L"%.4f, %.4f, 0.0000", at.x, at.y);
+  return text;
+}
+
+std::optional<POINT> ViewModel::Origin() const { return PixelOf(0, 0); }
+
+bool ViewModel::WaitsForPoint() const { return TheHost().engine.WaitsForPoint(); }
+
+bool ViewModel::WaitsForCorner() const { return TheHost().engine.Waiting() == Asking::Corner; }
+
+bool ViewModel::CommandIsActive() const { return TheHost().engine.CommandRuns(); }
+
+std::optional<POINT> ViewModel::RubberFrom() const {
+  const std::optional<AcGePoint3d> from = TheHost().engine.RubberFrom();
+  if (!from || !WaitsForPoint()) return std::nullopt;
+  return m_document.view.ToPixel(*from);
+}
+
+void ViewModel::GivePoint(POINT pixel) {
+  TheHost().engine.GivePoint(m_document.view.ToWorld(pixel));
+}
+
+std::vector<POINT> ViewModel::Grips() const {
+  std::vector<POINT> grips;
+  if (m_document.pickFirst.size() > kMostGripped) return grips;
+  for (const AcDbObjectId& id : m_document.pickFirst) {
+    AcDbEntity* entity = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
+    if (!entity) continue;
+    std::vector<AcGePoint3d> points;
+    const std::vector<Shape> shapes = ShapesOf(*entity, m_document.view.PixelsPerUnit());
+    for (size_t i = 0; i < shapes.size() && i < kMostCorners; ++i)
+      AddGrips(shapes[i].points, &points);
+    for (const AcGePoint3d& point : points) grips.push_back(m_document.view.ToPixel(point));
+  }
+  return grips;
+}
+
+bool ViewModel::IsPicked(const AcDbObject* entity) const {
+  return std::any_of(m_document.pickFirst.begin(), m_document.pickFirst.end(),
+                     [entity](const AcDbObjectId& id) { return id.object() == entity; });
+}
+
+bool ViewModel::PickAt(POINT pixel, bool remove) {
+  const double reach = kPickBox / m_document.view.PixelsPerUnit();
+  AcDbEntity* entity = EntityAt(*m_document.database(), m_document.view.ToWorld(pixel), reach);
+  if (!entity) return false;
+  TakePicked({entity}, remove);
+  return true;
+}
+
+void ViewModel::PickIn(const RECT& box, bool crossing, bool remove) {
+  const AcGePoint3d a = m_document.view.ToWorld({box.left, box.top});
+  const AcGePoint3d b = m_document.view.ToWorld({box.right, box.bottom});
+  TakePicked(EntitiesIn(*m_document.database(), a, b, crossing), remove);
+}
+
+// What was chosen joins the pick-first set, or leaves it.
+void ViewModel::TakePicked(const std::vector<AcDbEntity*>& entities, bool remove) {
+  for (AcDbEntity* entity : entities) {
+    const bool there = IsPicked(entity);
+    if (remove && there)
+      std::erase_if(m_document.pickFirst,
+                    [entity](const AcDbObjectId& id) { return id.object() == entity; });
+    if (!remove && !there) m_document.pickFirst.push_back(entity->objectId());
+  }
+  TheHost().Ui().SelectionChanged(m_document);
+}
+
+}  // namespace devhost
