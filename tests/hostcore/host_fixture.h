@@ -16,8 +16,8 @@
 #include "dbapserv.h"
 #include "dbents.h"
 #include "dbsymtb.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
+#include "devhost/core/host/host.h"
 
 namespace hosttest {
 

@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-#include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/base/text_codes.h"
+#include "devhost/core/dxf/drawing_file.h"
 #include "host_fixture.h"
 
 using namespace devhost;

@@ -1,8 +1,9 @@
 // Wild cards, filters, selection sets and the pick-first set.
 #include "devhost/core/selection/selection.h"
 
+#include "devhost/core/selection/selection_filter.h"
+#include "devhost/core/selection/wild_match.h"
 #include "devhost/core/view/scene.h"
-
 #include "host_fixture.h"
 #include "small_drawing.h"
 

@@ -1,10 +1,10 @@
 // The plain decisions of the host's windows: status bar fields, picking, command line keys.
 #include <gtest/gtest.h>
 
-#include "devhost/ui/painting/aci_color.h"
 #include "devhost/ui/bars/command_history.h"
-#include "devhost/ui/launch/host_title.h"
 #include "devhost/ui/bars/pane_layout.h"
+#include "devhost/ui/launch/host_title.h"
+#include "devhost/ui/painting/aci_color.h"
 #include "devhost/ui/view/pick_logic.h"
 
 using namespace devhost;

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <random>
 
-#include "devhost/core/selection/selection.h"
+#include "devhost/core/selection/wild_match.h"
 #include "menu/menu_model.h"
 #include "popup/object_match.h"
 

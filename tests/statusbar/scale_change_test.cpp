@@ -5,12 +5,12 @@
 #include <limits>
 
 #include "dbsymtb.h"
+#include "devhost/core/selection/selection.h"
 #include "kernel/current_drawing.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/entities/tdbdimension2.h"
 #include "kernel/globals.h"
 #include "kernel/tdbconfig.h"
-#include "devhost/core/selection/selection.h"
 #include "statusbar/drawing_scale_change.h"
 #include "tests/hostcore/host_fixture.h"
 

@@ -5,12 +5,12 @@
 #include "acstatusbar.h"
 #include "adui.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/ui/messages/dialog_watch.h"
-#include "devhost/ui/port/live_menus.h"
-#include "devhost/ui/messages/message_pump.h"
 #include "devhost/core/base/start_trace.h"
-#include "devhost/ui/messages/start_watch.h"
 #include "devhost/ui/bars/status_bar.h"
+#include "devhost/ui/messages/dialog_watch.h"
+#include "devhost/ui/messages/message_pump.h"
+#include "devhost/ui/messages/start_watch.h"
+#include "devhost/ui/port/live_menus.h"
 #include "devhost/ui/port/window_tree.h"
 
 using namespace devhost;

@@ -1,10 +1,10 @@
 #include "tests/module/win/host_process.h"
 
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/ui/launch/host_app.h"
+#include "devhost/core/host/host.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/launch/host_app.h"
 #include "devhost/ui/modules/module_loader.h"
 
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "acstatusbar.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
+#include "devhost/core/host/host.h"
 #include "tests/module/win/host_process.h"
 
 constexpr wchar_t kProductKey[] = L"Software\\Quivera\\QVX\\R24.0\\QVX-1";

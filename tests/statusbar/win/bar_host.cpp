@@ -1,8 +1,8 @@
 #include "tests/statusbar/win/bar_host.h"
 
 #include "dbsymtb.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
+#include "devhost/core/host/host.h"
 #include "devhost/core/selection/selection.h"
 #include "kernel/current_drawing.h"
 #include "kernel/entities/qvx_entity.h"

@@ -3,10 +3,10 @@
 
 #include <memory>
 
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/core/lisp/lisp_calls.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/lisp/lisp_calls.h"
 
 namespace devhost {
 namespace {

@@ -1,8 +1,8 @@
 // One open drawing; see the header.
 #include "devhost/core/documents/document.h"
 
-#include "devhost/core/drawing/database_body.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/drawing/database_body.h"
 
 namespace devhost {
 
@@ -25,7 +25,3 @@ AcAp::DocLockMode Document::lockMode() const {
 }
 
 }  // namespace devhost
-
-// The published class descriptors of the document interfaces.
-ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocument, AcRxObject)
-ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocManager, AcRxObject)

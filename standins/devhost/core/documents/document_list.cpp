@@ -3,13 +3,14 @@
 
 #include <algorithm>
 
-#include "devhost/core/dxf/drawing_file.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/core/lisp/lisp_calls.h"
-#include "devhost/core/view/scene.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/documents/document_scope.h"
+#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/variables/header_variables.h"
+#include "devhost/core/view/scene.h"
 
 namespace devhost {
 namespace {
@@ -238,12 +239,3 @@ void DocumentList::removeReactor(AcApDocManagerReactor* reactor) {
 }
 
 }  // namespace devhost
-
-AcApDocManager* acDocManagerPtr() { return &devhost::TheHost().documents; }
-
-AcAxDocLock::AcAxDocLock() : AcAxDocLock(acDocManagerPtr()->curDocument()) {}
-AcAxDocLock::AcAxDocLock(AcApDocument* document)
-    : m_document(document), m_status(acDocManagerPtr()->lockDocument(document)) {}
-AcAxDocLock::~AcAxDocLock() {
-  if (m_status == Acad::eOk) acDocManagerPtr()->unlockDocument(m_document);
-}

@@ -2,7 +2,6 @@
 #include <map>
 #include <string>
 
-#include "devhost/core/modules/class_binding.h"
 #include "devhost/core/base/text_case.h"
 #include "rxobject.h"
 
@@ -48,15 +47,6 @@ AcRxClass* AcRxClass::desc() {
   return cls;
 }
 AcRxClass* AcRxClass::isA() const { return desc(); }
-
-// Parents are linked as the classes are made; what is left is to give open drawings their objects.
-void acrxBuildClassHierarchy() { devhost::BindOpaqueEntities(); }
-
-void deleteAcRxClass(AcRxClass* cls) {
-  if (!cls) return;
-  devhost::MakeEntitiesOpaque(*cls);
-  delete cls;
-}
 
 AcRxClass* acrxClassOfDxfName(const ACHAR* dxfName) {
   const auto at = ByDxfName().find(devhost::UpperCase(dxfName ? dxfName : L""));

@@ -2,8 +2,8 @@
 #include "dbsymtb.h"
 
 #include "dbents.h"
-#include "devhost/core/drawing/database_body.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/drawing/database_body.h"
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbSymbolTableRecord, AcDbObject)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord)

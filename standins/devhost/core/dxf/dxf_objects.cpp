@@ -6,9 +6,9 @@
 
 #include "adslib.h"
 #include "dbents.h"
+#include "devhost/core/base/text_case.h"
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/dxf_filer.h"
-#include "devhost/core/base/text_case.h"
 
 namespace devhost {
 namespace {

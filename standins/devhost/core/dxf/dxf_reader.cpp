@@ -8,11 +8,11 @@
 
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/base/text_case.h"
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/dxf/dxf_objects.h"
 #include "devhost/core/dxf/dxf_text.h"
-#include "devhost/core/base/text_case.h"
 
 namespace devhost {
 namespace {

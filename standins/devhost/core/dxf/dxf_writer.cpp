@@ -10,12 +10,12 @@
 #include "afxstr.h"
 #include "dbents.h"
 #include "dbsymtb.h"
-#include "devhost/core/dxf/application_names.h"
+#include "devhost/core/base/text_case.h"
 #include "devhost/core/drawing/database_body.h"
+#include "devhost/core/dxf/application_names.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/dxf/dxf_filer.h"
-#include "devhost/core/selection/selection.h"
-#include "devhost/core/base/text_case.h"
+#include "devhost/core/entities/dxf_name.h"
 
 namespace devhost {
 namespace {

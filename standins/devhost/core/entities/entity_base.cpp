@@ -5,9 +5,9 @@
 #include "adslib.h"
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/base/text_case.h"
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/view/scene.h"
-#include "devhost/core/base/text_case.h"
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbEntity, AcDbObject)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbCurve, AcDbEntity)

@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "dbents.h"
-#include "devhost/core/entities/entity_io.h"
 #include "devhost/core/base/text_codes.h"
+#include "devhost/core/entities/entity_io.h"
 
 using namespace devhost;
 

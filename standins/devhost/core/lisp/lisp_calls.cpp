@@ -2,18 +2,14 @@
 #include "devhost/core/lisp/lisp_calls.h"
 
 #include "adslib.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/documents/document_scope.h"
+#include "devhost/core/host/host.h"
 
 namespace devhost {
 namespace {
-
-std::vector<Document*>& Scopes() {
-  static std::vector<Document*> scopes;
-  return scopes;
-}
 
 // One call of a module's function: what it was given and what it answered.
 struct RunningCall {
@@ -29,13 +25,6 @@ std::vector<RunningCall*>& Calls() {
 constexpr int kDeepestCall = 64;
 
 }  // namespace
-
-DocumentScope::DocumentScope(Document* document) : m_before(nullptr) {
-  Scopes().push_back(document ? document : ScopedDocument());
-}
-DocumentScope::~DocumentScope() { Scopes().pop_back(); }
-
-Document* ScopedDocument() { return Scopes().empty() ? nullptr : Scopes().back(); }
 
 bool CallLispFunction(Document& document, const std::wstring& name,
                       const std::vector<LispValue>& arguments, LispValue* result, bool* failed) {

@@ -9,19 +9,6 @@ namespace devhost {
 
 class Document;
 
-// Makes a drawing the current one for the time of a message to a module, without activating it.
-class DocumentScope {
- public:
-  explicit DocumentScope(Document* document);
-  ~DocumentScope();
-  DocumentScope(const DocumentScope&) = delete;
-  DocumentScope& operator=(const DocumentScope&) = delete;
-
- private:
-  Document* m_before;
-};
-Document* ScopedDocument();  // the innermost scope's, or null
-
 // Calls a module's function; false when the drawing has none of that name.
 bool CallLispFunction(Document& document, const std::wstring& name,
                       const std::vector<LispValue>& arguments, LispValue* result, bool* failed);

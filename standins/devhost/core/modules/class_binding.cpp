@@ -6,11 +6,12 @@
 
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/base/journal.h"
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/dxf_filer.h"
 #include "devhost/core/dxf/dxf_objects.h"
+#include "devhost/core/entities/dxf_name.h"
 #include "devhost/core/host/host.h"
-#include "devhost/core/base/journal.h"
 #include "devhost/core/selection/selection.h"
 
 namespace devhost {
@@ -76,3 +77,12 @@ void MakeEntitiesOpaque(const AcRxClass& cls) {
 }
 
 }  // namespace devhost
+
+// Parents are linked as the classes are made; what is left is to give open drawings their objects.
+void acrxBuildClassHierarchy() { devhost::BindOpaqueEntities(); }
+
+void deleteAcRxClass(AcRxClass* cls) {
+  if (!cls) return;
+  devhost::MakeEntitiesOpaque(*cls);
+  delete cls;
+}

@@ -1,11 +1,11 @@
 // Loaded modules; see the header.
 #include "devhost/core/modules/module_list.h"
 
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/core/lisp/lisp_calls.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/documents/document_scope.h"
+#include "devhost/core/host/host.h"
 
 namespace devhost {
 

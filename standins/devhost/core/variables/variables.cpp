@@ -1,17 +1,13 @@
-// System variables; see the header. Also acedGetVar and acedSetVar.
+// System variables; see the header.
 #include "devhost/core/variables/variables.h"
 
-#include <cstring>
 #include <cwchar>
 
-#include "adslib.h"
-#include "devhost/core/drawing/database_body.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/core/view/scene.h"
-#include "devhost/core/selection/selection.h"
-#include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/variables/space_variables.h"
+#include "devhost/core/variables/variable_values.h"
 
 namespace devhost {
 namespace {
@@ -64,82 +60,11 @@ constexpr VariableInfo kVariables[] = {
     {L"VIEWSIZE", VarType::Real, true, true, 1, 0, L""},
 };
 
-std::wstring PointText(const AcGePoint3d& p) {
-  wchar_t buffer[96];
-  std::swprintf(buffer, 96, L"%.8g,%.8g,%.8g", p.x, p.y, p.z);
-  return buffer;
-}
-
-std::wstring RealText(double value) {
-  wchar_t buffer[40];
-  std::swprintf(buffer, 40, L"%.17g", value);
-  return buffer;
-}
-
-// What was picked lies in the other space, and so does what the view showed.
-void ShowOtherSpace(Document& document) {
-  document.view.ZoomTo(ExtentsOf(*document.database()));
-  if (!document.pickFirst.empty()) SetPickFirst(document, {});
-}
-
-// Leaving or entering paper space takes the viewport and the tab along; which space is current
-// follows from both.
-void FollowSpace(Document& document, const std::wstring& name, const std::wstring& value) {
-  if (name == L"TILEMODE") {
-    document.variables[L"CVPORT"] = value == L"0" ? L"1" : L"2";
-    document.variables[L"CTAB"] = value == L"0" ? L"Layout1" : L"Model";
-  }
-  if (name != L"TILEMODE" && name != L"CVPORT") return;
-  const auto tile = document.variables.find(L"TILEMODE");
-  const bool paper = tile != document.variables.end() && tile->second == L"0";
-  bool& current = document.database()->body().paperIsCurrent;
-  const bool before = current;
-  current = paper && document.variables[L"CVPORT"] == L"1";
-  if (current != before) ShowOtherSpace(document);
-}
-
 // What TILEMODE takes along is put back behind it, that is recorded before it.
 void KeepForUndo(Document& document, const std::wstring& name) {
   if (name == L"TILEMODE")
     for (const wchar_t* follower : {L"CVPORT", L"CTAB"}) KeepVariableForUndo(document, follower);
   KeepVariableForUndo(document, name);
-}
-
-// Variables whose value is the state itself; false for the stored ones.
-bool Computed(const std::wstring& name, const Document* document, std::wstring* value) {
-  Host& host = TheHost();
-  if (name == L"CMDACTIVE")
-    *value = std::to_wstring(host.engine.CommandActive());
-  else if (name == L"CMDNAMES")
-    *value = host.engine.CommandNames();
-  else if (name == L"CPROFILE")
-    *value = host.Options().profile;
-  else if (name == L"ACADVER")
-    *value = std::to_wstring(host.Options().major) + L"." + std::to_wstring(host.Options().minor);
-  else if (!document)
-    return false;
-  else if (name == L"DWGNAME")
-    *value = document->Title();
-  else if (name == L"DWGTITLED")
-    *value = document->HasFile() ? L"1" : L"0";
-  else if (name == L"DBMOD")
-    *value = std::to_wstring(document->database()->body().modified);
-  else if (name == L"SCREENSIZE")
-    *value = PointText({1.0 * document->view.Width(), 1.0 * document->view.Height(), 0});
-  else if (name == L"VIEWCTR")
-    *value = PointText(
-        document->view.ToWorld({document->view.Width() / 2, document->view.Height() / 2}));
-  else if (name == L"VIEWSIZE")
-    *value = RealText(document->view.Height() / document->view.PixelsPerUnit());
-  else if (name == L"DWGPREFIX") {
-    const std::wstring path = document->fileName();
-    *value = path.substr(0, path.size() - document->Title().size());
-  } else if (name == L"EXTMIN" || name == L"EXTMAX") {
-    const AcDbExtents e = ExtentsOf(*document->database());
-    *value = e.isValid() ? PointText(name == L"EXTMIN" ? e.minPoint() : e.maxPoint()) : L"0,0,0";
-  } else
-    return false;
-  return true;
 }
 
 Document* VariableDocument() {
@@ -207,101 +132,4 @@ void PutBackVariable(Document& document, const std::wstring& name,
   TheHost().Ui().VariableChanged(name);
 }
 
-void LoadHeaderVariables(Document& document) {
-  const std::vector<KeptGroup>& groups = document.database()->body().header;
-  for (std::size_t i = 0; i + 1 < groups.size(); ++i) {
-    if (groups[i].code != 9 || groups[i].text.size() < 2) continue;
-    const VariableInfo* info = TheHost().variables.Find(groups[i].text.substr(1));
-    if (!info || !info->ofDrawing || info->readOnly || info->type == VarType::Point) continue;
-    std::wstring value = groups[i + 1].text;
-    if (info->type != VarType::Text) {
-      wchar_t* end = nullptr;
-      const double number = std::wcstod(value.c_str(), &end);
-      if (end == value.c_str() || number < info->low ||
-          (info->low <= info->high && number > info->high))
-        continue;
-      value = info->type == VarType::Short ? std::to_wstring(static_cast<int>(number))
-                                           : RealText(number);
-    }
-    document.variables[info->name] = value;
-    FollowSpace(document, info->name, value);
-  }
-}
-
-void SaveHeaderVariables(Document& document) {
-  std::vector<KeptGroup>& groups = document.database()->body().header;
-  for (std::size_t i = 0; i + 1 < groups.size(); ++i) {
-    if (groups[i].code != 9 || groups[i].text.size() < 2) continue;
-    const auto at = document.variables.find(UpperCase(groups[i].text.substr(1)));
-    if (at != document.variables.end()) groups[i + 1].text = at->second;
-  }
-}
-
 }  // namespace devhost
-
-using namespace devhost;
-
-int acedGetVar(const ACHAR* name, resbuf* result) {
-  if (name) TheStartTrace().Step("acedGetVar", Utf8(name));
-  std::wstring value;
-  if (!name || !result || TheHost().variables.Get(name, &value) != VarResult::Ok) return RTERROR;
-  std::memset(result, 0, sizeof *result);
-  switch (TheHost().variables.Find(name)->type) {
-    case VarType::Short:
-      result->restype = RTSHORT;
-      result->resval.rint = static_cast<short>(std::wcstol(value.c_str(), nullptr, 10));
-      break;
-    case VarType::Real:
-      result->restype = RTREAL;
-      result->resval.rreal = std::wcstod(value.c_str(), nullptr);
-      break;
-    case VarType::Text:
-      result->restype = RTSTR;
-      acutNewString(value.c_str(), result->resval.rstring);
-      break;
-    case VarType::Point: {
-      result->restype = RT3DPOINT;
-      const wchar_t* at = value.c_str();
-      for (int i = 0; i < 3; ++i) {
-        wchar_t* end = nullptr;
-        result->resval.rpoint[i] = std::wcstod(at, &end);
-        at = *end == L',' ? end + 1 : end;
-      }
-      break;
-    }
-  }
-  return RTNORM;
-}
-
-int acedSetVar(const ACHAR* name, const resbuf* value) {
-  if (!name || !value) return RTERROR;
-  const VariableInfo* info = TheHost().variables.Find(name);
-  if (!info) return RTERROR;
-  std::wstring text;
-  switch (value->restype) {
-    case RTSHORT:
-      text = std::to_wstring(value->resval.rint);
-      break;
-    case RTLONG:
-      text = std::to_wstring(value->resval.rlong);
-      break;
-    case RTREAL:
-      text = RealText(value->resval.rreal);
-      break;
-    case RTSTR:
-      text = value->resval.rstring ? value->resval.rstring : L"";
-      break;
-    default:
-      return RTERROR;
-  }
-  if ((info->type == VarType::Text) != (value->restype == RTSTR)) return RTERROR;
-  switch (TheHost().variables.Set(name, text)) {
-    case VarResult::Ok:
-      return RTNORM;
-    case VarResult::ReadOnly:
-    case VarResult::OutOfRange:
-      return RTREJ;
-    default:
-      return RTERROR;
-  }
-}

@@ -33,10 +33,6 @@ class VariableTable {
 };
 
 class Document;
-// Between the variables of a drawing and the header that its file has; names that the host does not
-// know stay in the header as they came.
-void LoadHeaderVariables(Document& document);
-void SaveHeaderVariables(Document& document);
 // For undo: the value that the variable had; none: its initial one.
 void PutBackVariable(Document& document, const std::wstring& name,
                      const std::optional<std::wstring>& value);

@@ -1,23 +1,11 @@
 // A drawing as plain shapes in world coordinates, for painting, hit tests and extents.
 #pragma once
 
-#include <string>
 #include <vector>
 
-#include "dbmain.h"
+#include "devhost/core/view/shape.h"
 
 namespace devhost {
-
-struct Shape {
-  enum class Kind { Polyline, Polygon, Text };
-  Kind kind = Kind::Polyline;
-  int color = 7;                    // 1 to 255, resolved
-  std::vector<AcGePoint3d> points;  // of a text: its lower left corner
-  std::wstring text;
-  double height = 0, rotation = 0, widthFactor = 1;
-  AcDbObject* entity = nullptr;  // the top-level entity that it belongs to
-  bool dashed = false;
-};
 
 // Everything on shown layers of the current space, in drawing order. Arcs come as polylines fine
 // enough for `pixelsPerUnit`.

@@ -8,8 +8,8 @@
 
 #include "acstatusbar.h"
 #include "afxext.h"
-#include "devhost/ui/painting/gdi.h"
 #include "devhost/ui/bars/pane_layout.h"
+#include "devhost/ui/painting/gdi.h"
 
 namespace devhost {
 

@@ -4,8 +4,8 @@
 #include <nlohmann/json.hpp>
 
 #include "dbsymtb.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
+#include "devhost/core/host/host.h"
 
 namespace devhost {
 namespace {

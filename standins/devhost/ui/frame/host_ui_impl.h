@@ -6,8 +6,8 @@
 #include <memory>
 #include <vector>
 
-#include "devhost/ui/bars/command_bar.h"
 #include "devhost/core/host/host_ui.h"
+#include "devhost/ui/bars/command_bar.h"
 #include "devhost/ui/view/drawing_child.h"
 
 namespace devhost {

@@ -4,10 +4,10 @@
 #include <commdlg.h>
 #include <shellapi.h>
 
-#include "devhost/ui/view/drawing_child.h"
 #include "devhost/ui/frame/host_actions.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_menu.h"
+#include "devhost/ui/view/drawing_child.h"
 
 namespace devhost {
 namespace {

@@ -2,9 +2,9 @@
 #include "rxmfcapi.h"
 
 #include "devhost/core/host/host.h"
-#include "devhost/ui/view/drawing_child.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/view/drawing_child.h"
 
 using devhost::DrawingChild;
 using devhost::TheFrame;

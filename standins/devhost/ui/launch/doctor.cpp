@@ -6,8 +6,8 @@
 #include <cstdio>
 
 #include "devhost/core/base/journal.h"
-#include "devhost/ui/launch/host_app.h"
 #include "devhost/ui/frame/host_ui_impl.h"
+#include "devhost/ui/launch/host_app.h"
 #include "devhost/ui/launch/launch.h"
 #include "devhost/ui/modules/module_loader.h"
 

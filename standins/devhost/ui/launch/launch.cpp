@@ -12,20 +12,20 @@
 #include <thread>
 
 #include "dbapserv.h"
-#include "devhost/core/host/host.h"
 #include "devhost/core/base/journal.h"
-#include "devhost/ui/palette/palette_store.h"
+#include "devhost/core/host/host.h"
 #include "devhost/play/play_driver.h"
 #include "devhost/ui/frame/host_actions.h"
-#include "devhost/ui/launch/host_app.h"
-#include "devhost/ui/launch/host_title.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/launch/host_app.h"
+#include "devhost/ui/launch/host_title.h"
+#include "devhost/ui/launch/restart.h"
+#include "devhost/ui/messages/start_watch.h"
 #include "devhost/ui/modules/module_loader.h"
 #include "devhost/ui/modules/remembered_modules.h"
-#include "devhost/ui/launch/restart.h"
 #include "devhost/ui/modules/right_click_menu.h"
-#include "devhost/ui/messages/start_watch.h"
+#include "devhost/ui/palette/palette_store.h"
 #include "devhost/ui/port/ui_port_impl.h"
 
 namespace devhost {

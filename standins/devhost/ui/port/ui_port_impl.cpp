@@ -1,14 +1,14 @@
 // The port of the play driver; see the header. Windows are answered here, all else by host_actions.
 #include "devhost/ui/port/ui_port_impl.h"
 
-#include "devhost/ui/view/drawing_child.h"
+#include "devhost/ui/bars/pane_place.h"
 #include "devhost/ui/frame/host_actions.h"
 #include "devhost/ui/frame/host_ui_impl.h"
-#include "devhost/ui/port/live_menus.h"
 #include "devhost/ui/frame/main_frame.h"
 #include "devhost/ui/messages/message_pump.h"
-#include "devhost/ui/bars/pane_place.h"
+#include "devhost/ui/port/live_menus.h"
 #include "devhost/ui/port/window_tree.h"
+#include "devhost/ui/view/drawing_child.h"
 
 namespace devhost {
 namespace {

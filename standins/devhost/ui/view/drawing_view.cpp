@@ -5,8 +5,8 @@
 #include <windowsx.h>
 
 #include "devhost/ui/frame/main_frame.h"
-#include "devhost/ui/view/pick_logic.h"
 #include "devhost/ui/modules/right_click_menu.h"
+#include "devhost/ui/view/pick_logic.h"
 
 namespace devhost {
 namespace {

@@ -6,8 +6,8 @@
 #include <set>
 
 #include "devhost/core/host/host.h"
-#include "devhost/ui/view/pick_logic.h"
 #include "devhost/ui/painting/scene_painter.h"
+#include "devhost/ui/view/pick_logic.h"
 
 namespace devhost {
 namespace {

@@ -2,100 +2,20 @@
 // and an evaluator for the few forms that are of use there (setq, quote, list, getvar, setvar,
 // command, princ, progn, + and -) besides the functions that modules define. No defun, no loops.
 #include <cwchar>
-#include <cwctype>
 
 #include "devhost/core/host/host.h"
 #include "devhost/core/lisp/lisp_calls.h"
-#include "devhost/core/base/text_case.h"
+#include "devhost/core/lisp/lisp_reader.h"
 
 namespace devhost {
 namespace {
-
-constexpr int kDeepest = 100;
-
-class Reader {
- public:
-  explicit Reader(const std::wstring& text) : m_at(text.c_str()) {}
-
-  bool Read(LispValue* value, std::wstring* error, int depth = 0) {
-    SkipBlanks();
-    if (!*m_at) return Fail(error, L"表达式没有结束");
-    if (depth > kDeepest) return Fail(error, L"括号嵌套太深");
-    if (*m_at == L'\'') {
-      ++m_at;
-      LispValue quoted;
-      if (!Read(&quoted, error, depth + 1)) return false;
-      *value = LispValue::List({LispValue::Symbol(L"QUOTE"), std::move(quoted)});
-      return true;
-    }
-    if (*m_at == L'(') return ReadList(value, error, depth);
-    if (*m_at == L')') return Fail(error, L"多余的右括号");
-    if (*m_at == L'"') return ReadString(value, error);
-    ReadAtom(value);
-    return true;
-  }
-  bool AtEnd() {
-    SkipBlanks();
-    return !*m_at;
-  }
-
- private:
-  static bool Fail(std::wstring* error, const wchar_t* why) {
-    *error = why;
-    return false;
-  }
-  void SkipBlanks() {
-    while (*m_at && std::iswspace(static_cast<wint_t>(*m_at))) ++m_at;
-  }
-  bool ReadList(LispValue* value, std::wstring* error, int depth) {
-    ++m_at;
-    std::vector<LispValue> items;
-    for (SkipBlanks(); *m_at && *m_at != L')'; SkipBlanks()) {
-      items.emplace_back();
-      if (!Read(&items.back(), error, depth + 1)) return false;
-    }
-    if (!*m_at) return Fail(error, L"列表没有结束");
-    ++m_at;
-    *value = LispValue::List(std::move(items));
-    return true;
-  }
-  bool ReadString(LispValue* value, std::wstring* error) {
-    std::wstring text;
-    for (++m_at; *m_at && *m_at != L'"'; ++m_at) {
-      if (*m_at != L'\\' || !m_at[1]) {
-        text += *m_at;
-        continue;
-      }
-      ++m_at;
-      text += *m_at == L'n' ? L'\n' : *m_at == L't' ? L'\t' : *m_at == L'e' ? L'\x1b' : *m_at;
-    }
-    if (!*m_at) return Fail(error, L"字符串没有结束");
-    ++m_at;
-    *value = LispValue::String(std::move(text));
-    return true;
-  }
-  void ReadAtom(LispValue* value) {
-    std::wstring text;
-    while (*m_at && !std::iswspace(static_cast<wint_t>(*m_at)) && !std::wcschr(L"()\"'", *m_at))
-      text += *m_at++;
-    wchar_t* end = nullptr;
-    const long long integer = std::wcstoll(text.c_str(), &end, 10);
-    if (!*end) return void(*value = LispValue::Integer(integer));
-    const double real = std::wcstod(text.c_str(), &end);
-    const bool number =
-        std::iswdigit(static_cast<wint_t>(text[0])) || text[0] == L'-' || text[0] == L'+';
-    if (!*end && number) return void(*value = LispValue::Real(real));
-    *value = LispValue::Symbol(UpperCase(text));
-  }
-  const wchar_t* m_at;
-};
 
 class Evaluator {
  public:
   Evaluator(Document& document, std::wstring* error) : m_document(document), m_error(error) {}
 
   LispValue Value(const LispValue& form, int depth = 0) {
-    if (depth > kDeepest) return Fail(L"嵌套太深");
+    if (depth > kDeepestExpression) return Fail(L"嵌套太深");
     if (form.kind == LispValue::Kind::Symbol) return SymbolValue(form.text);
     if (form.kind != LispValue::Kind::List) return form;
     if (form.items.empty()) return LispValue::Nil();
@@ -191,7 +111,7 @@ class Evaluator {
 }  // namespace
 
 LispValue Evaluate(Document& document, const std::wstring& expression, std::wstring* error) {
-  Reader reader(expression);
+  LispReader reader(expression);
   LispValue form;
   if (!reader.Read(&form, error)) return LispValue::Nil();
   if (!reader.AtEnd()) {

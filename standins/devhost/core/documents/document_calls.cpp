@@ -1,0 +1,25 @@
+// The published document interfaces: the document manager, document locks, painting an entity.
+#include "acdocman.h"
+#include "devhost/core/host/host.h"
+
+// The published class descriptors of the document interfaces.
+ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocument, AcRxObject)
+ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocManager, AcRxObject)
+
+AcApDocManager* acDocManagerPtr() { return &devhost::TheHost().documents; }
+
+AcAxDocLock::AcAxDocLock() : AcAxDocLock(acDocManagerPtr()->curDocument()) {}
+AcAxDocLock::AcAxDocLock(AcApDocument* document)
+    : m_document(document), m_status(acDocManagerPtr()->lockDocument(document)) {}
+AcAxDocLock::~AcAxDocLock() {
+  if (m_status == Acad::eOk) acDocManagerPtr()->unlockDocument(m_document);
+}
+
+// A view paints whole drawings, so there is nothing smaller to ask for.
+Acad::ErrorStatus AcDbEntity::draw() {
+  auto& documents = devhost::TheHost().documents;
+  devhost::Document* document = documents.Known(documents.document(database()));
+  if (!document) return Acad::eNoDocument;
+  devhost::TheHost().Ui().PictureChanged(*document);
+  return Acad::eOk;
+}

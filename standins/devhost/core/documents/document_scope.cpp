@@ -1,0 +1,23 @@
+// Scopes of drawings; see the header.
+#include "devhost/core/documents/document_scope.h"
+
+#include <vector>
+
+namespace devhost {
+namespace {
+
+std::vector<Document*>& Scopes() {
+  static std::vector<Document*> scopes;
+  return scopes;
+}
+
+}  // namespace
+
+DocumentScope::DocumentScope(Document* document) : m_before(nullptr) {
+  Scopes().push_back(document ? document : ScopedDocument());
+}
+DocumentScope::~DocumentScope() { Scopes().pop_back(); }
+
+Document* ScopedDocument() { return Scopes().empty() ? nullptr : Scopes().back(); }
+
+}  // namespace devhost

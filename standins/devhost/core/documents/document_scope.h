@@ -1,0 +1,21 @@
+// The drawing for which a message is sent to a module.
+#pragma once
+
+namespace devhost {
+
+class Document;
+
+// Makes a drawing the current one for the time of a message to a module, without activating it.
+class DocumentScope {
+ public:
+  explicit DocumentScope(Document* document);
+  ~DocumentScope();
+  DocumentScope(const DocumentScope&) = delete;
+  DocumentScope& operator=(const DocumentScope&) = delete;
+
+ private:
+  Document* m_before;
+};
+Document* ScopedDocument();  // the innermost scope's, or null
+
+}  // namespace devhost

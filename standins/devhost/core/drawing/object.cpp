@@ -1,0 +1,139 @@
+// Objects of a database: handles, opening, erasing; see dbmain.h. Erasing only marks, so that undo
+// can bring objects back.
+#include <cstdlib>
+#include <cwchar>
+
+#include "acdocman.h"
+#include "adslib.h"
+#include "dbsymtb.h"
+#include "devhost/core/drawing/database_body.h"
+
+ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
+
+namespace {
+
+// A change needs the drawing's lock: a running command holds it, code outside one takes it by
+// itself.
+bool MayWrite(const AcDbDatabase* database) {
+  const AcApDocument* document = acDocManagerPtr()->document(database);
+  return !document || document->lockMode() != AcAp::kNotLocked;
+}
+
+}  // namespace
+
+bool AcDbHandle::getIntoAsciiBuffer(ACHAR* buffer) const {
+  std::swprintf(buffer, 17, L"%llX", static_cast<unsigned long long>(m_value));
+  return true;
+}
+
+bool AcDbObjectId::isErased() const { return m_object && m_object->isErased(); }
+AcDbHandle AcDbObjectId::handle() const { return m_object ? m_object->handle() : AcDbHandle(); }
+AcDbDatabase* AcDbObjectId::database() const { return m_object ? m_object->database() : nullptr; }
+
+AcDbObject::~AcDbObject() { acutRelRb(m_xdata); }
+
+Acad::ErrorStatus AcDbObject::close() {
+  if (m_openCount == 0) return Acad::eNotApplicable;
+  --m_openCount;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::upgradeOpen() {
+  if (m_openCount == 0) return Acad::eNotOpenForWrite;
+  if (!MayWrite(m_database)) return Acad::eLockViolation;
+  AcDbObjectAccess::TellChanging(*this);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::downgradeOpen() {
+  return m_openCount > 0 ? Acad::eOk : Acad::eNotOpenForWrite;
+}
+
+Acad::ErrorStatus AcDbObject::erase(bool erasing) {
+  if (m_erased == erasing) return erasing ? Acad::eWasErased : Acad::eNotApplicable;
+  m_erased = erasing;
+  if (erasing && m_database && m_database->body().onErased) m_database->body().onErased(this);
+  return Acad::eOk;
+}
+
+void AcDbObjectAccess::ClearLinetype(AcDbEntity& entity) {
+  acutDelString(entity.m_linetype);
+  entity.m_linetype = nullptr;
+}
+
+void AcDbObjectAccess::TellChanging(AcDbObject& object) {
+  if (object.m_database && object.m_database->body().onChanging)
+    object.m_database->body().onChanging(&object);
+}
+
+Acad::ErrorStatus AcDbObject::dxfInFields(AcDbDxfFiler*) { return Acad::eOk; }
+Acad::ErrorStatus AcDbObject::dxfOutFields(AcDbDxfFiler*) const { return Acad::eOk; }
+
+void AcDbObjectAccess::Adopt(AcDbDatabase& database, AcDbObject* object, AcDbHandle wanted) {
+  AcDbDatabase::Body& body = database.body();
+  std::uint64_t handle = wanted.value();
+  if (!handle || body.byHandle.count(handle)) handle = body.NextHandle();
+  if (handle >= body.nextHandle && handle < (std::uint64_t{1} << 62)) body.nextHandle = handle + 1;
+  object->m_handle = AcDbHandle(handle);
+  object->m_database = &database;
+  body.byHandle[handle] = object;
+  body.objects.emplace_back(object);
+}
+
+bool AcDbObjectAccess::ChangeHandle(AcDbObject* object, AcDbHandle wanted) {
+  if (!object->m_database || wanted.isNull()) return false;
+  AcDbDatabase::Body& body = object->m_database->body();
+  if (!body.byHandle.emplace(wanted.value(), object).second)
+    return object->m_handle.value() == wanted.value();
+  body.byHandle.erase(object->m_handle.value());
+  object->m_handle = wanted;
+  return true;
+}
+
+std::vector<KeptGroup>& AcDbObjectAccess::CommonGroups(AcDbEntity& entity) {
+  if (!entity.m_commonGroups) entity.m_commonGroups = new std::vector<KeptGroup>;
+  return *entity.m_commonGroups;
+}
+
+void AcDbObjectAccess::Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held,
+                               AcDbObject* fresh) {
+  fresh->m_handle = held->m_handle;
+  fresh->m_database = held->m_database;
+  fresh->m_owner = held->m_owner;
+  fresh->m_erased = held->m_erased;
+  body.byHandle[fresh->m_handle.value()] = fresh;
+  if (auto* block = AcDbBlockTableRecord::cast(fresh->m_owner.object()))
+    for (AcDbObjectId& id : block->m_entities)
+      if (id == held->objectId()) id = fresh->objectId();
+  held.reset(fresh);
+}
+
+Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,
+                                     bool openErased) {
+  object = nullptr;
+  if (id.isNull()) return Acad::eNullObjectId;
+  if (id.isErased() && !openErased) return Acad::eWasErased;
+  if (mode == AcDb::kForWrite && !MayWrite(id.database())) return Acad::eLockViolation;
+  object = id.object();
+  AcDbObjectAccess::CountOpen(object);
+  if (mode == AcDb::kForWrite) AcDbObjectAccess::TellChanging(*object);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, AcDbObjectId id, AcDb::OpenMode mode,
+                                     bool openErased) {
+  return acdbOpenObject(entity, id, mode, openErased);
+}
+
+Acad::ErrorStatus acdbGetAdsName(ads_name name, AcDbObjectId id) {
+  if (id.isNull()) return Acad::eNullObjectId;
+  name[0] = static_cast<long long>(reinterpret_cast<std::uintptr_t>(id.object()));
+  name[1] = 0;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus acdbGetObjectId(AcDbObjectId& id, const ads_name name) {
+  if (!name || !name[0]) return Acad::eInvalidInput;
+  id = AcDbObjectId(reinterpret_cast<AcDbObject*>(static_cast<std::uintptr_t>(name[0])));
+  return Acad::eOk;
+}

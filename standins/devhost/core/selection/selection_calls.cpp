@@ -1,0 +1,185 @@
+// The published functions for selections.
+#include <algorithm>
+
+#include "dbsymtb.h"
+#include "devhost/core/base/text_case.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/selection/selection.h"
+#include "devhost/core/selection/selection_filter.h"
+#include "devhost/core/view/scene.h"
+
+using namespace devhost;
+
+namespace {
+
+std::vector<AcDbObjectId> AllOf(Document& document) {
+  std::vector<AcDbObjectId> ids;
+  AcDbBlockTable* table = nullptr;
+  if (document.database()->getBlockTable(table, AcDb::kForRead) != Acad::eOk) return ids;
+  for (const wchar_t* space : {ACDB_MODEL_SPACE, ACDB_PAPER_SPACE}) {
+    AcDbObjectId id;
+    if (table->getAt(space, id) != Acad::eOk) continue;
+    for (AcDbObjectId e : AcDbBlockTableRecord::cast(id.object())->entities())
+      if (!e.isErased()) ids.push_back(e);
+  }
+  table->close();
+  return ids;
+}
+
+void AddAll(std::vector<AcDbObjectId>& set, const std::vector<AcDbEntity*>& found,
+            const resbuf* filter) {
+  for (AcDbEntity* e : found)
+    if (PassesFilter(*e, filter) && std::find(set.begin(), set.end(), e->objectId()) == set.end())
+      set.push_back(e->objectId());
+}
+
+constexpr double kPickReach = 6;  // pixels
+
+// Asks for objects until Enter: a click takes one, "ALL" everything, "P" the previous ones, "L" the
+// latest, and a click beside all of them begins a box.
+int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObjectId>& set) {
+  for (;;) {
+    acedInitGet(0, L"ALL Previous Last");
+    ads_point at{};
+    const int status = acedGetPoint(nullptr, L"\n选择对象: ", at);
+    if (status == RTCAN) return RTCAN;
+    if (status == RTNONE) return RTNORM;
+    if (status == RTKWORD) {
+      ACHAR word[40];
+      acedGetInput(word);
+      std::vector<AcDbObjectId> source =
+          word[0] == L'P' ? document.previousSelection : AllOf(document);
+      if (word[0] == L'L' && !source.empty()) source = {source.back()};
+      std::vector<AcDbEntity*> found;
+      for (AcDbObjectId id : source)
+        if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
+      AddAll(set, found, filter);
+    } else if (AcDbEntity* hit = EntityAt(*document.database(), {at[0], at[1], 0},
+                                          kPickReach / document.view.PixelsPerUnit())) {
+      AddAll(set, {hit}, filter);
+    } else {
+      ads_point other{};
+      const int second = acedGetCorner(at, L"\n指定对角点: ", other);
+      if (second == RTCAN) return RTCAN;
+      if (second == RTNORM)
+        AddAll(set,
+               EntitiesIn(*document.database(), {at[0], at[1], 0}, {other[0], other[1], 0},
+                          other[0] < at[0]),
+               filter);
+    }
+    TheHost().Print(L"找到 " + std::to_wstring(set.size()) + L" 个\n");
+  }
+}
+
+}  // namespace
+
+int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
+              ads_name set) {
+  Document* document = TheHost().documents.Known(TheHost().documents.curDocument());
+  if (!document || !set) return RTERROR;
+  const std::wstring how = mode ? UpperCase(mode) : L"";
+  std::vector<AcDbObjectId> ids, source;
+  if (how.empty() && first) {
+    const double* at = static_cast<const double*>(first);
+    if (AcDbEntity* hit = EntityAt(*document->database(), {at[0], at[1], 0},
+                                   kPickReach / document->view.PixelsPerUnit()))
+      AddAll(ids, {hit}, filter);
+  } else if (how.empty()) {
+    source = document->pickFirst;
+    if (source.empty()) {
+      const int status = AskForObjects(*document, filter, ids);
+      if (status != RTNORM) return status;
+    }
+  } else if (how == L"I" || how == L"_I") {
+    source = document->pickFirst;
+  } else if (how == L"P" || how == L"_P") {
+    source = document->previousSelection;
+  } else if (how == L"L" || how == L"_L") {
+    source = AllOf(*document);
+    if (!source.empty()) source = {source.back()};
+  } else if (how == L"X" || how == L"_X" || how == L"A" || how == L"_A") {
+    source = AllOf(*document);
+  } else if ((how == L"C" || how == L"_C" || how == L"W" || how == L"_W") && first && second) {
+    const double* a = static_cast<const double*>(first);
+    const double* b = static_cast<const double*>(second);
+    AddAll(ids,
+           EntitiesIn(*document->database(), {a[0], a[1], 0}, {b[0], b[1], 0}, how.back() == L'C'),
+           filter);
+  } else {
+    return RTERROR;
+  }
+  for (AcDbObjectId id : source) {
+    const AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
+    if (e && PassesFilter(*e, filter)) ids.push_back(id);
+  }
+  if (ids.empty()) return RTERROR;
+  document->previousSelection = ids;
+  NewSet(std::move(ids), set);
+  return RTNORM;
+}
+
+int acedSSFree(const ads_name set) { return ForgetSet(set) ? RTNORM : RTERROR; }
+
+int acedSSLength(const ads_name set, int* length) {
+  const auto* ids = SetOf(set);
+  if (!ids || !length) return RTERROR;
+  *length = static_cast<int>(ids->size());
+  return RTNORM;
+}
+
+int acedSSName(const ads_name set, int index, ads_name entity) {
+  const auto* ids = SetOf(set);
+  if (!ids || index < 0 || index >= static_cast<int>(ids->size())) return RTERROR;
+  return acdbGetAdsName(entity, (*ids)[index]) == Acad::eOk ? RTNORM : RTERROR;
+}
+
+int acedSSAdd(const ads_name entity, const ads_name set, ads_name result) {
+  AcDbObjectId id;
+  if (entity && acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
+  if (!set || !SetOf(set)) {
+    NewSet(id.isNull() ? std::vector<AcDbObjectId>() : std::vector<AcDbObjectId>{id}, result);
+    return RTNORM;
+  }
+  auto* ids = SetOf(set);
+  if (!id.isNull() && std::find(ids->begin(), ids->end(), id) == ids->end()) ids->push_back(id);
+  if (result) {
+    result[0] = set[0];
+    result[1] = set[1];
+  }
+  return RTNORM;
+}
+
+int acedSSDel(const ads_name entity, const ads_name set) {
+  AcDbObjectId id;
+  auto* ids = SetOf(set);
+  if (!ids || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
+  return std::erase(*ids, id) ? RTNORM : RTERROR;
+}
+
+int acedSSMemb(const ads_name entity, const ads_name set) {
+  AcDbObjectId id;
+  const auto* ids = SetOf(set);
+  if (!ids || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
+  return std::find(ids->begin(), ids->end(), id) != ids->end() ? RTNORM : RTERROR;
+}
+
+int acedSSGetFirst(resbuf** grips, resbuf** pickFirst) {
+  Document* document = TheHost().documents.Known(TheHost().documents.curDocument());
+  if (grips) *grips = nullptr;
+  if (pickFirst) *pickFirst = nullptr;
+  if (!document || document->pickFirst.empty()) return RTERROR;
+  for (resbuf** out : {grips, pickFirst}) {
+    if (!out) continue;
+    *out = acutNewRb(RTPICKS);
+    NewSet(document->pickFirst, (*out)->resval.rlname);
+  }
+  return RTNORM;
+}
+
+int acedSSSetFirst(const ads_name pickFirst, const ads_name) {
+  Document* document = TheHost().documents.Known(TheHost().documents.curDocument());
+  if (!document) return RTERROR;
+  const auto* ids = pickFirst ? SetOf(pickFirst) : nullptr;
+  SetPickFirst(*document, ids ? *ids : std::vector<AcDbObjectId>());
+  return RTNORM;
+}

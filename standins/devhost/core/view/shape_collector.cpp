@@ -1,0 +1,126 @@
+// Storing what entities draw; see the header.
+#include "devhost/core/view/shape_collector.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cwchar>
+#include <numbers>
+
+#include "devhost/core/base/text_case.h"
+
+namespace devhost {
+namespace {
+
+constexpr int kDeepestBlock = 24;  // references inside references; a block may name itself
+constexpr std::size_t kMostShapes =
+    2000000;  // of one drawing: small blocks in large arrays multiply
+
+}  // namespace
+
+void ShapeCollector::DrawTop(AcDbEntity& entity) {
+  m_entity = &entity;
+  Draw(entity);
+}
+
+void ShapeCollector::Draw(const AcDbEntity& entity) {
+  const auto at = m_looks.find(UpperCase(entity.layer()));
+  const LayerLook look = at == m_looks.end() ? LayerLook() : at->second;
+  if (!look.shown) return;
+  const Frame before = m_frame;
+  const int own = entity.colorIndex();
+  const bool onZero = m_depth > 0 && !std::wcscmp(entity.layer(), L"0");
+  // Layer 0 and "by block" inside a block take the look of the reference.
+  m_layerColor = onZero ? before.color : look.color;
+  m_blockColor = before.color;
+  m_frame.color = own == 256 ? m_layerColor : own == 0 ? before.color : own;
+  m_frame.dashed = onZero ? before.dashed : look.dashed;
+  m_frame.filled = false;
+  entity.subWorldDraw(this);
+  m_frame = before;
+}
+
+void ShapeCollector::setColor(short index) {
+  m_frame.color = index == 256 ? m_layerColor : index == 0 ? m_blockColor : index;
+}
+
+bool ShapeCollector::Full() const { return m_out.size() >= kMostShapes; }
+
+bool ShapeCollector::Add(Shape::Kind kind, unsigned count, const AcGePoint3d* points) {
+  if (Full() || count == 0) return false;
+  Shape shape;
+  shape.kind = kind;
+  shape.color = m_frame.color;
+  shape.dashed = m_frame.dashed;
+  shape.entity = m_entity;
+  shape.points.reserve(count);
+  for (unsigned i = 0; i < count; ++i) shape.points.push_back(Matrix() * points[i]);
+  m_out.push_back(std::move(shape));
+  return true;
+}
+
+bool ShapeCollector::polyline(unsigned count, const AcGePoint3d* points) {
+  return Add(Shape::Kind::Polyline, count, points);
+}
+
+bool ShapeCollector::polygon(unsigned count, const AcGePoint3d* points) {
+  return Add(Shape::Kind::Polygon, count, points);
+}
+
+bool ShapeCollector::circle(const AcGePoint3d& center, double radius, const AcGeVector3d& normal) {
+  return circularArc(center, radius, normal, AcGeVector3d::kXAxis, 2 * std::numbers::pi);
+}
+
+bool ShapeCollector::circularArc(const AcGePoint3d& center, double radius, const AcGeVector3d&,
+                                 const AcGeVector3d& start, double sweep) {
+  if (!(radius > 0) || !std::isfinite(radius) || !std::isfinite(sweep)) return false;
+  const double seen = std::min(radius * Matrix().scale() * m_pixels, 1e6);
+  const int whole = std::clamp(static_cast<int>(std::sqrt(seen) * 5), 12, 360);
+  const int steps =
+      std::max(2, static_cast<int>(whole * std::fabs(sweep) / (2 * std::numbers::pi)) + 1);
+  const double from = std::atan2(start.y, start.x);
+  std::vector<AcGePoint3d> points;
+  for (int i = 0; i <= steps; ++i) {
+    const double t = from + sweep * i / steps;
+    points.emplace_back(center.x + radius * std::cos(t), center.y + radius * std::sin(t), 0);
+  }
+  return polyline(static_cast<unsigned>(points.size()), points.data());
+}
+
+bool ShapeCollector::text(const AcGePoint3d& position, const AcGeVector3d&,
+                          const AcGeVector3d& direction, double height, double width, double,
+                          const ACHAR* text) {
+  if (Full() || !(height > 0)) return false;
+  Shape shape;
+  shape.kind = Shape::Kind::Text;
+  shape.color = m_frame.color;
+  shape.entity = m_entity;
+  shape.points = {Matrix() * position};
+  shape.text = text;
+  shape.height = height * Matrix().scale();
+  const AcGeVector3d along = Matrix() * direction;
+  shape.rotation = std::atan2(along.y, along.x);
+  shape.widthFactor = width;
+  m_out.push_back(std::move(shape));
+  return true;
+}
+
+bool ShapeCollector::pushModelTransform(const AcGeMatrix3d& matrix) {
+  m_matrices.push_back(Matrix() * matrix);
+  return true;
+}
+
+bool ShapeCollector::popModelTransform() {
+  if (m_matrices.size() > 1) m_matrices.pop_back();
+  return true;
+}
+
+bool ShapeCollector::draw(const AcDbEntity* part) {
+  if (!part || Full()) return false;
+  if (m_depth >= kDeepestBlock) return false;
+  ++m_depth;
+  Draw(*part);
+  --m_depth;
+  return true;
+}
+
+}  // namespace devhost
