@@ -76,43 +76,19 @@ Acad::ErrorStatus AcDbBlockReference::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
   m_columns = m_rows = 1;
   m_columnGap = m_rowGap = 0;
-  return ForEachItem(filer, [&](const resbuf& item) {
-    const double real = item.resval.rreal;
-    switch (item.restype) {
-      case 2:
-        m_block = item.resval.rstring;
-        break;
-      case 10:
-        m_at = PointOfItem(item);
-        break;
-      case 41:
-        m_sx = real;
-        break;
-      case 42:
-        m_sy = real;
-        break;
-      case 43:
-        m_sz = real;
-        break;
-      case 44:
-        m_columnGap = real;
-        break;
-      case 45:
-        m_rowGap = real;
-        break;
-      case 50:
-        m_rotation = real * kDegree;
-        break;
-      case 70:
-        m_columns = std::max<int>(item.resval.rint, 1);
-        break;
-      case 71:
-        m_rows = std::max<int>(item.resval.rint, 1);
-        break;
-      default:
-        break;
-    }
-  });
+  const Acad::ErrorStatus status = ReadFields(filer, {{2, &m_block},
+                                                      {10, &m_at},
+                                                      {41, &m_sx},
+                                                      {42, &m_sy},
+                                                      {43, &m_sz},
+                                                      {44, &m_columnGap},
+                                                      {45, &m_rowGap},
+                                                      {50, &m_rotation, kDegree},
+                                                      {70, &m_columns},
+                                                      {71, &m_rows}});
+  m_columns = std::max(m_columns, 1);
+  m_rows = std::max(m_rows, 1);
+  return status;
 }
 
 Acad::ErrorStatus AcDbBlockReference::dxfOutFields(AcDbDxfFiler* filer) const {
@@ -150,33 +126,13 @@ Acad::ErrorStatus AcDbViewport::subTransformBy(const AcGeMatrix3d& m) {
 
 Acad::ErrorStatus AcDbViewport::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  return ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 10:
-        m_center = PointOfItem(item);
-        break;
-      case 12:
-        m_viewCenter = PointOfItem(item);
-        break;
-      case 40:
-        m_width = item.resval.rreal;
-        break;
-      case 41:
-        m_height = item.resval.rreal;
-        break;
-      case 45:
-        m_viewHeight = item.resval.rreal;
-        break;
-      case 68:
-        m_status = item.resval.rint;
-        break;
-      case 69:
-        m_number = item.resval.rint;
-        break;
-      default:
-        break;
-    }
-  });
+  return ReadFields(filer, {{10, &m_center},
+                            {12, &m_viewCenter},
+                            {40, &m_width},
+                            {41, &m_height},
+                            {45, &m_viewHeight},
+                            {68, &m_status},
+                            {69, &m_number}});
 }
 
 Acad::ErrorStatus AcDbViewport::dxfOutFields(AcDbDxfFiler* filer) const {

@@ -25,10 +25,7 @@ Acad::ErrorStatus AcDbLine::subTransformBy(const AcGeMatrix3d& m) {
 }
 Acad::ErrorStatus AcDbLine::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  return ForEachItem(filer, [&](const resbuf& item) {
-    if (item.restype == 10) m_start = PointOfItem(item);
-    if (item.restype == 11) m_end = PointOfItem(item);
-  });
+  return ReadFields(filer, {{10, &m_start}, {11, &m_end}});
 }
 Acad::ErrorStatus AcDbLine::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);
@@ -47,10 +44,7 @@ Acad::ErrorStatus AcDbCircle::subTransformBy(const AcGeMatrix3d& m) {
 }
 Acad::ErrorStatus AcDbCircle::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  return ForEachItem(filer, [&](const resbuf& item) {
-    if (item.restype == 10) m_center = PointOfItem(item);
-    if (item.restype == 40) m_radius = item.resval.rreal;
-  });
+  return ReadFields(filer, {{10, &m_center}, {40, &m_radius}});
 }
 Acad::ErrorStatus AcDbCircle::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);
@@ -70,24 +64,8 @@ Acad::ErrorStatus AcDbArc::subTransformBy(const AcGeMatrix3d& m) {
 }
 Acad::ErrorStatus AcDbArc::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  return ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 10:
-        m_center = PointOfItem(item);
-        break;
-      case 40:
-        m_radius = item.resval.rreal;
-        break;
-      case 50:
-        m_from = item.resval.rreal * kDegree;
-        break;
-      case 51:
-        m_to = item.resval.rreal * kDegree;
-        break;
-      default:
-        break;
-    }
-  });
+  return ReadFields(
+      filer, {{10, &m_center}, {40, &m_radius}, {50, &m_from, kDegree}, {51, &m_to, kDegree}});
 }
 Acad::ErrorStatus AcDbArc::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbCircle::dxfOutFields(filer);
@@ -113,27 +91,8 @@ Acad::ErrorStatus AcDbEllipse::subTransformBy(const AcGeMatrix3d& m) {
 }
 Acad::ErrorStatus AcDbEllipse::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  return ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 10:
-        m_center = PointOfItem(item);
-        break;
-      case 11:
-        m_major = PointOfItem(item) - AcGePoint3d();
-        break;
-      case 40:
-        m_ratio = item.resval.rreal;
-        break;
-      case 41:
-        m_from = item.resval.rreal;
-        break;
-      case 42:
-        m_to = item.resval.rreal;
-        break;
-      default:
-        break;
-    }
-  });
+  return ReadFields(filer,
+                    {{10, &m_center}, {11, &m_major}, {40, &m_ratio}, {41, &m_from}, {42, &m_to}});
 }
 Acad::ErrorStatus AcDbEllipse::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);
@@ -155,9 +114,7 @@ Acad::ErrorStatus AcDbPoint::subTransformBy(const AcGeMatrix3d& m) {
 }
 Acad::ErrorStatus AcDbPoint::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  return ForEachItem(filer, [&](const resbuf& item) {
-    if (item.restype == 10) m_at = PointOfItem(item);
-  });
+  return ReadFields(filer, {{10, &m_at}});
 }
 Acad::ErrorStatus AcDbPoint::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);

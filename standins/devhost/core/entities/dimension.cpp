@@ -34,60 +34,22 @@ Acad::ErrorStatus AcDbDimension::dxfInFields(AcDbDxfFiler* filer) {
   m_blockShift = {};
   m_type = m_attachment = 0;
   m_measurement = m_rotation = m_textRotation = m_leader = 0;
-  return ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 1:
-        m_text = item.resval.rstring;
-        break;
-      case 2:
-        m_block = item.resval.rstring;
-        break;
-      case 3:
-        m_style = item.resval.rstring;
-        break;
-      case 10:
-        m_line = PointOfItem(item);
-        break;
-      case 11:
-        m_textAt = PointOfItem(item);
-        break;
-      case 12:
-        m_blockShift = PointOfItem(item) - AcGePoint3d();
-        break;
-      case 13:
-        m_first = PointOfItem(item);
-        break;
-      case 14:
-        m_second = PointOfItem(item);
-        break;
-      case 15:
-        m_third = PointOfItem(item);
-        break;
-      case 16:
-        m_arc = PointOfItem(item);
-        break;
-      case 40:
-        m_leader = item.resval.rreal;
-        break;
-      case 42:
-        m_measurement = item.resval.rreal;
-        break;
-      case 50:
-        m_rotation = item.resval.rreal * kDegree;
-        break;
-      case 53:
-        m_textRotation = item.resval.rreal;
-        break;
-      case 70:
-        m_type = item.resval.rint;
-        break;
-      case 71:
-        m_attachment = item.resval.rint;
-        break;
-      default:
-        break;
-    }
-  });
+  return ReadFields(filer, {{1, &m_text},
+                            {2, &m_block},
+                            {3, &m_style},
+                            {10, &m_line},
+                            {11, &m_textAt},
+                            {12, &m_blockShift},
+                            {13, &m_first},
+                            {14, &m_second},
+                            {15, &m_third},
+                            {16, &m_arc},
+                            {40, &m_leader},
+                            {42, &m_measurement},
+                            {50, &m_rotation, kDegree},
+                            {53, &m_textRotation},
+                            {70, &m_type},
+                            {71, &m_attachment}});
 }
 
 Acad::ErrorStatus AcDbDimension::dxfOutFields(AcDbDxfFiler* filer) const {

@@ -1,9 +1,12 @@
-// Small helpers of the host's entity classes: reading points out of groups, closing arcs.
+// Helpers of the entity classes: reading groups into members, sweeps of arcs, bulges of polylines.
 #pragma once
 
 #include <cmath>
+#include <functional>
+#include <initializer_list>
 #include <numbers>
 #include <string>
+#include <variant>
 
 #include "dbmain.h"
 
@@ -30,6 +33,17 @@ Acad::ErrorStatus ForEachItem(AcDbDxfFiler* filer, F each) {
   while (filer->readItem(&item) == Acad::eOk) each(item);
   return Acad::eOk;
 }
+
+// The member that takes the value of a group. Reals are multiplied by the factor.
+struct Field {
+  short code;
+  std::variant<std::wstring*, int*, double*, AcGePoint3d*, AcGeVector3d*> target;
+  double factor = 1;
+};
+
+// Reads every item of a filer. Groups without a field go to `other`.
+Acad::ErrorStatus ReadFields(AcDbDxfFiler* filer, std::initializer_list<Field> fields,
+                             const std::function<void(const resbuf&)>& other = nullptr);
 
 // Points of a polyline segment with a bulge, without its first point.
 template <class Add>

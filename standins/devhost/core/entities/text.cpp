@@ -59,46 +59,20 @@ Acad::ErrorStatus AcDbText::dxfInFields(AcDbDxfFiler* filer) {
   m_height = m_rotation = 0;
   m_width = 1;
   m_horizontal = m_vertical = m_flags = 0;
-  return ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 1:
-        m_text = item.resval.rstring;
-        break;
-      case 2:
-        m_tag = item.resval.rstring;
-        break;
-      case 7:
-        m_style = item.resval.rstring;
-        break;
-      case 10:
-        m_at = PointOfItem(item);
-        break;
-      case 11:
-        m_alignment = PointOfItem(item);
-        break;
-      case 40:
-        m_height = item.resval.rreal;
-        break;
-      case 41:
-        m_width = std::clamp(item.resval.rreal, 0.01, 100.0);
-        break;
-      case 50:
-        m_rotation = item.resval.rreal * kDegree;
-        break;
-      case 70:
-        m_flags = item.resval.rint;
-        break;
-      case 72:
-        m_horizontal = item.resval.rint;
-        break;
-      case 73:
-      case 74:
-        m_vertical = item.resval.rint;
-        break;
-      default:
-        break;
-    }
-  });
+  const Acad::ErrorStatus status = ReadFields(filer, {{1, &m_text},
+                                                      {2, &m_tag},
+                                                      {7, &m_style},
+                                                      {10, &m_at},
+                                                      {11, &m_alignment},
+                                                      {40, &m_height},
+                                                      {41, &m_width},
+                                                      {50, &m_rotation, kDegree},
+                                                      {70, &m_flags},
+                                                      {72, &m_horizontal},
+                                                      {73, &m_vertical},
+                                                      {74, &m_vertical}});
+  m_width = std::clamp(m_width, 0.01, 100.0);
+  return status;
 }
 
 Acad::ErrorStatus AcDbText::dxfOutFields(AcDbDxfFiler* filer) const {
@@ -155,37 +129,20 @@ Acad::ErrorStatus AcDbMText::dxfInFields(AcDbDxfFiler* filer) {
   m_style = L"";
   m_rotation = 0;
   std::wstring text;  // long contents come in pieces of group 3, the last in group 1
-  const Acad::ErrorStatus status = ForEachItem(filer, [&](const resbuf& item) {
-    switch (item.restype) {
-      case 1:
-      case 3:
-        text += item.resval.rstring;
-        break;
-      case 7:
-        m_style = item.resval.rstring;
-        break;
-      case 10:
-        m_at = PointOfItem(item);
-        break;
-      case 11:
-        m_rotation = std::atan2(item.resval.rpoint[1], item.resval.rpoint[0]);
-        break;
-      case 40:
-        m_height = item.resval.rreal;
-        break;
-      case 41:
-        m_width = item.resval.rreal;
-        break;
-      case 50:
-        m_rotation = item.resval.rreal * kDegree;
-        break;
-      case 71:
-        m_attachment = std::clamp<int>(item.resval.rint, 1, 9);
-        break;
-      default:
-        break;
-    }
-  });
+  const Acad::ErrorStatus status =
+      ReadFields(filer,
+                 {{7, &m_style},
+                  {10, &m_at},
+                  {40, &m_height},
+                  {41, &m_width},
+                  {50, &m_rotation, kDegree},
+                  {71, &m_attachment}},
+                 [&](const resbuf& item) {
+                   if (item.restype == 1 || item.restype == 3) text += item.resval.rstring;
+                   if (item.restype == 11)
+                     m_rotation = std::atan2(item.resval.rpoint[1], item.resval.rpoint[0]);
+                 });
+  m_attachment = std::clamp(m_attachment, 1, 9);
   m_text = text;
   return status;
 }
