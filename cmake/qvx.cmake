@@ -38,6 +38,10 @@ endforeach()
 add_library(header_packages INTERFACE)
 target_include_directories(header_packages SYSTEM INTERFACE ${_hdr})
 
+# Linked statically, so that no library has to lie beside the programs.
+set(ZLIB_USE_STATIC_LIBS ON)
+find_package(ZLIB REQUIRED)
+
 # qvx_module(NAME SOURCES...): a module that the host loads. Only what is marked for export leaves it.
 function(qvx_module name)
   add_library(${name} SHARED ${ARGN})

@@ -1,5 +1,5 @@
-// Pictures as PNG bytes, for the screenshots of play scripts. Written here because nothing that the
-// host may link brings an encoder; it knows one form only, 24 bits without transparency.
+// Pictures as PNG bytes, for the screenshots of play scripts. One form only: 24 bits a pixel, no
+// transparency. Compression and checksums are zlib's.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +11,10 @@ namespace devhost {
 struct Picture {
   int width = 0;
   int height = 0;
-  std::vector<std::uint8_t> rgb;  // rows from the top, three bytes a point, no padding
+  std::vector<std::uint8_t> rgb;  // rows from the top, three bytes a pixel, no padding
 };
 
-// Empty when the picture's numbers don't fit together.
+// Empty when the picture's numbers do not fit together.
 std::string EncodePng(const Picture& picture);
 
 }  // namespace devhost
