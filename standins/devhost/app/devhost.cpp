@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/ui/launch/doctor.h"
 #include "devhost/ui/launch/launch.h"
 

@@ -19,7 +19,7 @@ std::string TextOf(const JournalEntry& entry) {
 std::string Shown(const std::string& text) {
   if (text.size() <= kLongestQuote) return QuotedForScript(text);
   std::size_t from = text.size() - kLongestQuote;
-  while (from < text.size() && (text[from] & 0xC0) == 0x80) ++from;
+  while (from < text.size() && IsUtf8Continuation(text[from])) ++from;
   return "..." + QuotedForScript(text.substr(from));
 }
 
@@ -148,7 +148,7 @@ std::string PlayExpectations::State(const Step& step) {
       came = problem;
       return false;
     }
-    came = "it is " + value.dump(-1, ' ', false, Json::error_handler_t::replace);
+    came = "it is " + JsonText(value);
     return ValueMatches(value, step.value);
   });
   if (met) return {};

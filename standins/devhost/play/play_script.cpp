@@ -5,7 +5,7 @@
 #include <cmath>
 #include <map>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/play/state_path.h"
 
 namespace devhost {

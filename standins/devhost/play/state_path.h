@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/json.h"
 #include "devhost/play/play_script.h"
 #include "ground/plain_types.h"
 

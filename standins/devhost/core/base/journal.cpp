@@ -15,8 +15,7 @@ std::string LineOf(const JournalEntry& entry) {
   line["ms"] = entry.milliseconds;
   line["event"] = entry.event;
   for (const auto& [name, value] : entry.fields.items()) line[name] = value;
-  // Bytes that are no UTF-8 are replaced rather than refused: the journal must not stop a program.
-  return line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+  return JsonText(line) + "\n";
 }
 
 }  // namespace

@@ -12,17 +12,10 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
+#include "devhost/core/base/json.h"
+#include "devhost/core/base/utf8.h"
 
 namespace devhost {
-
-using Json = nlohmann::ordered_json;
-
-// UTF-8 of wide text (UTF-16 on Windows, one code unit or code point per wchar_t elsewhere), and
-// back. Lone surrogates become U+FFFD.
-std::string Utf8(const wchar_t* text);
-std::string Utf8(const std::wstring& text);
-std::wstring Wide(const std::string& utf8);
 
 struct JournalEntry {
   int number;         // from 1

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/json.h"
 
 namespace devhost {
 namespace {
@@ -74,7 +74,7 @@ std::string StartTrace::Json() const {
                                {"palette_shown_ms", TimeOrNull(m_shown)},
                                {"idle_ms", TimeOrNull(m_idle)},
                                {"steps", steps}};
-  return trace.dump(1, ' ', false, devhost::Json::error_handler_t::replace);
+  return JsonText(trace, 1);
 }
 
 StartTrace& TheStartTrace() {

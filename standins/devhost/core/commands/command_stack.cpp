@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "devhost/core/base/journal.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/core/host/host.h"
 
 const AcRxResourceInstance AcRxResourceInstance::empty;

@@ -7,14 +7,12 @@
 #include <utility>
 
 #include "adslib.h"
-#include "afxstr.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/drawing/dxf_groups.h"
 
 namespace devhost {
 namespace {
-
-constexpr unsigned kUtf8 = 65001;
 
 // A line end inside a value would tear the file apart.
 std::string OneLine(const std::wstring& value) {
@@ -33,7 +31,7 @@ std::string OneLine(const std::wstring& value) {
     else if (c != 0)
       text += c;
   }
-  return WideToAnsi(text, kUtf8);
+  return Utf8(text);
 }
 
 }  // namespace
@@ -138,7 +136,7 @@ Acad::ErrorStatus DxfOutFiler::writePoint(short code, const AcGePoint3d& value) 
 void DxfOutFiler::WriteHandle(short code, unsigned long long handle) {
   ACHAR text[17];
   AcDbHandle(handle).getIntoAsciiBuffer(text);
-  Group(code, WideToAnsi(text, kUtf8));
+  Group(code, Utf8(text));
 }
 
 std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDecoder& decoder) {

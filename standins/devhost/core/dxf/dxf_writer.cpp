@@ -7,7 +7,6 @@
 #include <system_error>
 
 #include "adslib.h"
-#include "afxstr.h"
 #include "dbents.h"
 #include "dbsymtb.h"
 #include "devhost/core/base/text_case.h"

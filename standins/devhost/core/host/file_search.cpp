@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 
 namespace devhost {
 namespace {

@@ -3,8 +3,8 @@
 
 #include "aced.h"
 #include "dbapserv.h"
-#include "devhost/core/base/journal.h"
 #include "devhost/core/base/start_trace.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/core/host/host.h"
 
 using devhost::TheHost;

@@ -6,7 +6,7 @@
 
 #include "dbents.h"
 #include "dbsymtb.h"
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/dxf_filer.h"
 #include "devhost/core/dxf/dxf_objects.h"

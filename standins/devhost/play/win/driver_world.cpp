@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <thread>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/play/state_path.h"
 #include "devhost/play/win/screen_capture.h"
 #include "devhost/play/win/timer_turn.h"

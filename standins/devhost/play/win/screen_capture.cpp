@@ -2,7 +2,7 @@
 #include "devhost/play/win/screen_capture.h"
 
 #include "afx.h"
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/play/script_text.h"
 
 namespace devhost {

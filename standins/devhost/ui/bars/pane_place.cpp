@@ -4,7 +4,7 @@
 
 #include <typeinfo>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/ui/bars/status_bar.h"
 
 namespace devhost {

@@ -1,10 +1,9 @@
 // Calls into the host core for menus, dropped files and play scripts; see the header.
 #include "devhost/ui/frame/host_actions.h"
 
-#include <nlohmann/json.hpp>
-
 #include "dbsymtb.h"
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/json.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/core/host/host.h"
 
 namespace devhost {
@@ -62,7 +61,7 @@ std::string DescribeActiveDatabase() {
   }
   const Json out = {
       {"drawing", Utf8(document->fileName())}, {"selected", picked}, {"entities", entities}};
-  return out.dump(1);
+  return JsonText(out, 1);
 }
 
 bool OpenDrawingFile(const std::wstring& path) {

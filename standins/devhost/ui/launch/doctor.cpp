@@ -5,7 +5,7 @@
 
 #include <cstdio>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/launch/host_app.h"
 #include "devhost/ui/launch/launch.h"

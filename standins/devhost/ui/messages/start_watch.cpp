@@ -4,8 +4,8 @@
 #include <cstdio>
 
 #include "aduipaletteset.h"
-#include "devhost/core/base/journal.h"
 #include "devhost/core/base/start_trace.h"
+#include "devhost/core/base/utf8.h"
 
 namespace devhost {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 #include "devhost/ui/port/window_tree.h"
 
 namespace devhost {
@@ -119,7 +119,7 @@ bool IsInside(HMENU outer, HMENU wanted, int depth) {
 
 }  // namespace
 
-nlohmann::ordered_json DescribeLiveMenus(DWORD thread) {
+Json DescribeLiveMenus(DWORD thread) {
   const std::vector<OpenMenu> open = OpenMenus(thread);
   const auto outermost = std::find_if(open.begin(), open.end(), [&](const OpenMenu& one) {
     return std::none_of(open.begin(), open.end(), [&](const OpenMenu& other) {

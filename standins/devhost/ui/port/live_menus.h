@@ -4,8 +4,7 @@
 // while it stands in a menu's own loop.
 #pragma once
 
-#include <nlohmann/json.hpp>
-
+#include "devhost/core/base/json.h"
 #include "ground/plain_types.h"
 
 namespace devhost {
@@ -14,7 +13,7 @@ namespace devhost {
 // the row's text as it was given; `text` is what a user reads of it, without mnemonic and without
 // what stands behind a tab. `rect` is null for what can't be seen, also for rows of a sub-menu that
 // is not open; `rows` is there for a row with a sub-menu. The outermost menu counts.
-nlohmann::ordered_json DescribeLiveMenus(DWORD thread);
+Json DescribeLiveMenus(DWORD thread);
 
 bool IsPopupMenuOpen(DWORD thread);
 

@@ -130,9 +130,9 @@ std::string UiPortImpl::DescribeShell() {
   return text ? text : "{}";
 }
 
-std::string UiPortImpl::DescribeMenus() { return DescribeLiveMenus(m_thread.Id()).dump(); }
+std::string UiPortImpl::DescribeMenus() { return JsonText(DescribeLiveMenus(m_thread.Id())); }
 
-std::string UiPortImpl::DescribeWindows() { return DescribeWindowsOf(m_thread.Id()).dump(1); }
+std::string UiPortImpl::DescribeWindows() { return JsonText(DescribeWindowsOf(m_thread.Id()), 1); }
 
 std::string UiPortImpl::DescribeDatabase() { return DescribeActiveDatabase(); }
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "devhost/core/base/journal.h"
+#include "devhost/core/base/utf8.h"
 
 namespace devhost {
 namespace {
@@ -81,7 +81,7 @@ std::wstring WithoutMnemonic(const std::wstring& text) {
   return out;
 }
 
-nlohmann::ordered_json DescribeWindowsOf(DWORD thread) {
+Json DescribeWindowsOf(DWORD thread) {
   Json out = Json::array();
   for (HWND window : TopLevelWindows(thread)) out.push_back(Describe(window));
   return out;

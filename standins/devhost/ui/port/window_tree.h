@@ -4,14 +4,13 @@
 
 #include <string>
 
-#include <nlohmann/json.hpp>
-
+#include "devhost/core/base/json.h"
 #include "ground/plain_types.h"
 
 namespace devhost {
 
 // {"class","text","id","visible","enabled","rect","children":[...]} for each top-level window.
-nlohmann::ordered_json DescribeWindowsOf(DWORD thread);
+Json DescribeWindowsOf(DWORD thread);
 
 // The visible, enabled push button with this label; a mnemonic in the window's text does not count.
 HWND FindButton(DWORD thread, const std::wstring& label);
