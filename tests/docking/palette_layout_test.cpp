@@ -66,14 +66,14 @@ TEST(PaletteParts, TheCloseBoxWinsOverTheCaption) {
 
 TEST(RollUp, ThePaletteRollsUpAfterThePointerHasBeenAwayForAWhile) {
   int ticks = 0;
-  for (int i = 1; i < kRollPatience; ++i)
+  for (int i = 1; i < kRollDelayTicks; ++i)
     EXPECT_EQ(NextRollStep(false, false, false, &ticks), RollStep::kStay);
   EXPECT_EQ(NextRollStep(false, false, false, &ticks), RollStep::kRollUp);
 }
 
 TEST(RollUp, AVisitOfThePointerStartsTheWaitAnew) {
   int ticks = 0;
-  for (int i = 1; i < kRollPatience; ++i) NextRollStep(false, false, false, &ticks);
+  for (int i = 1; i < kRollDelayTicks; ++i) NextRollStep(false, false, false, &ticks);
   EXPECT_EQ(NextRollStep(false, true, false, &ticks), RollStep::kStay);
   EXPECT_EQ(NextRollStep(false, false, false, &ticks), RollStep::kStay);
 }
@@ -85,7 +85,7 @@ TEST(RollUp, ARolledUpPaletteOpensAsSoonAsThePointerComes) {
 }
 
 TEST(RollUp, NothingMovesWhileAMouseButtonHoldsThePalette) {
-  int ticks = kRollPatience;
+  int ticks = kRollDelayTicks;
   EXPECT_EQ(NextRollStep(false, false, true, &ticks), RollStep::kStay);
   EXPECT_EQ(ticks, 0);
   EXPECT_EQ(NextRollStep(true, true, true, &ticks), RollStep::kStay);

@@ -1,4 +1,4 @@
-// Commands, the waiting input, and what CMDACTIVE and CMDNAMES say meanwhile.
+// Commands, the input queue, CMDACTIVE and CMDNAMES.
 #include "host_fixture.h"
 
 using namespace devhost;
@@ -50,7 +50,7 @@ class Commands : public hosttest::HostTest {
   }
 };
 
-TEST_F(Commands, SentTextRunsTheCommandThatItNames) {
+TEST_F(Commands, SentTextRunsTheNamedCommand) {
   Send(L"tlook\n");
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"1 TLOOK"});
   EXPECT_EQ(Var(L"CMDACTIVE"), L"0");
@@ -64,27 +64,27 @@ TEST_F(Commands, ABlankEndsATokenToo) {
   EXPECT_EQ(g_seen.size(), 2u);
 }
 
-TEST_F(Commands, TextWithoutAnEndWaitsForMore) {
+TEST_F(Commands, AnUnfinishedTokenIsNotRun) {
   Send(L"TLo");
   EXPECT_TRUE(g_seen.empty());
-  EXPECT_FALSE(host.engine.TextWaits());
+  EXPECT_FALSE(host.engine.HasPendingInput());
   Send(L"ok\n");
   EXPECT_EQ(g_seen.size(), 1u);
 }
 
-TEST_F(Commands, AnUnknownCommandIsToldAndTheNextOneRuns) {
+TEST_F(Commands, AnUnknownCommandIsReportedAndTheNextOneRuns) {
   Send(L"Nonsense\nTLook\n");
   EXPECT_NE(ui.printed.find(L"未知命令“NONSENSE”"), std::wstring::npos);
   EXPECT_EQ(g_seen.size(), 1u);
 }
 
-TEST_F(Commands, EnterAloneRepeatsTheLastOne) {
+TEST_F(Commands, EnterAloneRepeatsTheLastCommand) {
   Send(L"TLook\n");
   Send(L"\n");
   EXPECT_EQ(g_seen.size(), 2u);
 }
 
-TEST_F(Commands, EscapeCancelsTheCommandThatWaitsAndTheNextTextRuns) {
+TEST_F(Commands, EscapeCancelsTheWaitingCommandAndTheNextTextRuns) {
   Then([&] { host.documents.Current()->input.Append(L"\x1b\x1bTLook\n"); });
   Send(L"TAskPoint\n");
   EXPECT_EQ(g_seen, (std::vector<std::wstring>{L"status -5002", L"1 TLOOK"}));
@@ -97,48 +97,48 @@ TEST_F(Commands, InputBeforeAnEscapeIsUsedBeforeItCancels) {
   EXPECT_EQ(g_seen.size(), 1u);
 }
 
-TEST_F(Commands, HalfAWordGoesWithItsEscape) {
+TEST_F(Commands, AnUnfinishedTokenIsDiscardedByEscape) {
   Send(L"TAs\x1bTLook\n");
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"1 TLOOK"});
   EXPECT_EQ(ui.printed.find(L"未知命令"), std::wstring::npos);
 }
 
-TEST_F(Commands, TextWithBlanksReachesAQuestionForText) {
+TEST_F(Commands, TextWithBlanksAnswersARequestForText) {
   Send(L"TAsk\nhello big world\n");
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"said hello big world"});
 }
 
-TEST_F(Commands, ATextInBracketsIsTextWhereBlanksAreAllowed) {
+TEST_F(Commands, ATextInBracketsIsNotAnExpressionWhereBlanksAreAllowed) {
   Send(L"TAsk\n(see (below\n");
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"said (see (below"});
 }
 
-TEST_F(Commands, APointComesByTypingByClickOrNotAtAll) {
+TEST_F(Commands, APointIsTypedClickedOrOmitted) {
   Send(L"TAskPoint 12,5\n");
-  Then([&] { host.engine.GivePoint({7, 8, 0}); });
+  Then([&] { host.engine.EnterPoint({7, 8, 0}); });
   Send(L"TAskPoint\n");
   Send(L"TAskPoint\n\n");
   EXPECT_EQ(g_seen, (std::vector<std::wstring>{L"point 12", L"point 7", L"status 5000"}));
 }
 
-TEST_F(Commands, WhatIsNoPointIsAskedAgain) {
+TEST_F(Commands, AnInvalidPointIsRequestedAgain) {
   Send(L"TAskPoint nonsense 3,4\n");
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"point 3"});
   EXPECT_NE(ui.printed.find(L"点无效"), std::wstring::npos);
 }
 
-TEST_F(Commands, ATransparentCommandRunsInsideOneThatWaits) {
+TEST_F(Commands, ATransparentCommandRunsInsideAWaitingCommand) {
   Send(L"TAskPoint 'TLookThrough 3,4\n");
   EXPECT_EQ(g_seen, (std::vector<std::wstring>{L"3 TASKPOINT'TLOOKTHROUGH", L"point 3"}));
 }
 
-TEST_F(Commands, AModalOneMayNotBeUsedThatWay) {
+TEST_F(Commands, AModalCommandIsNotTransparent) {
   Send(L"TAskPoint 'TLook 3,4\n");
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"point 3"});
   EXPECT_NE(ui.printed.find(L"不能透明使用"), std::wstring::npos);
 }
 
-TEST_F(Commands, ACancelledTransparentOneLeavesTheOtherUncancelled) {
+TEST_F(Commands, CancellingATransparentCommandDoesNotCancelTheOuterOne) {
   Add(L"TAskThrough", ACRX_CMD_TRANSPARENT, AskPoint);
   Send(
       L"TAskPoint 'TAskThrough \x1b"
@@ -147,7 +147,7 @@ TEST_F(Commands, ACancelledTransparentOneLeavesTheOtherUncancelled) {
   EXPECT_EQ(Journal("command").back(), "end TASKPOINT ok");
 }
 
-TEST_F(Commands, OnlyThoseThatUseItKeepThePickFirstSet) {
+TEST_F(Commands, OnlyCommandsThatUseThePickFirstSetKeepIt) {
   Send(L"LINE 0,0 10,0 \n");
   host.documents.Current()->pickFirst = {Entities()[0]->objectId()};
   Send(L"TKeep\n");
@@ -156,20 +156,20 @@ TEST_F(Commands, OnlyThoseThatUseItKeepThePickFirstSet) {
   EXPECT_TRUE(host.documents.Current()->pickFirst.empty());
 }
 
-TEST_F(Commands, TheSameNameTwiceInOneGroupIsRefused) {
+TEST_F(Commands, ADuplicateNameInAGroupIsRejected) {
   auto& stack = static_cast<AcEdCommandStack&>(host.commands);
   EXPECT_EQ(stack.addCommand(L"TEST", L"TLOOK", L"TLOOK", 0, Look), Acad::eDuplicateKey);
   EXPECT_EQ(stack.removeGroup(L"NOGROUP"), Acad::eKeyNotFound);
 }
 
-TEST_F(Commands, TheRegistryKnowsTheStackByItsPublishedName) {
+TEST_F(Commands, TheRegistryHasTheStackUnderItsPublishedName) {
   AcRxObject* found = acrxSysRegistry()->at(ACRX_CMDS);
   ASSERT_NE(found, nullptr);
   EXPECT_TRUE(found->isA()->isDerivedFrom(AcEdCommandStack::desc()));
   EXPECT_EQ(acrxSysRegistry()->at(L"Nothing"), nullptr);
 }
 
-TEST_F(Commands, ACommandWithItsInputRunsFromInsideAnother) {
+TEST_F(Commands, ACommandWithInputRunsInsideAnother) {
   Add(
       L"TNest", ACRX_CMD_MODAL, +[] {
         acedCommandS(RTSTR, L"_LINE", RTSTR, L"0,0", RTSTR, L"5,5", RTSTR, L"", RTNONE);
@@ -180,7 +180,7 @@ TEST_F(Commands, ACommandWithItsInputRunsFromInsideAnother) {
   EXPECT_EQ(g_seen, std::vector<std::wstring>{std::to_wstring(RTERROR)});
 }
 
-TEST_F(Commands, InputThatANestedCommandMissesCancelsItAndLeavesTheRest) {
+TEST_F(Commands, MissingInputCancelsANestedCommandOnly) {
   Add(
       L"TNest", ACRX_CMD_MODAL, +[] { acedCommandS(RTSTR, L"_LINE", RTSTR, L"0,0", RTNONE); });
   Send(L"TNest\nTLook\n");
@@ -188,7 +188,7 @@ TEST_F(Commands, InputThatANestedCommandMissesCancelsItAndLeavesTheRest) {
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"1 TLOOK"});
 }
 
-TEST_F(Commands, KeywordsMayBeShortenedToTheirCapitals) {
+TEST_F(Commands, KeywordsMayBeAbbreviatedToTheirCapitals) {
   static int status;
   static std::wstring word;
   Add(
@@ -205,8 +205,8 @@ TEST_F(Commands, KeywordsMayBeShortenedToTheirCapitals) {
   EXPECT_EQ(word, L"Layout");
 }
 
-TEST_F(Commands, TheEndOfTheProgramCancelsWhatWaits) {
-  Send(L"TAskPoint\n");  // no round left: the pump says that the program ends
+TEST_F(Commands, TheEndOfTheProgramCancelsTheWaitingCommand) {
+  Send(L"TAskPoint\n");  // no round left: the pump reports the end of the program
   EXPECT_EQ(g_seen, std::vector<std::wstring>{L"status -5002"});
 }
 
@@ -215,13 +215,13 @@ TEST_F(Commands, QuitEndsTheProgram) {
   EXPECT_TRUE(ui.ended);
 }
 
-TEST_F(Commands, PrintedStringsAreWideWhateverTheFormatSays) {
+TEST_F(Commands, PrintedStringsAreWideForEveryFormat) {
   acutPrintf(L"%s %ls %d%%|%5s", L"墙体", L"门窗", 3, L"x");
   EXPECT_EQ(ui.printed, L"墙体 门窗 3%|    x");
   EXPECT_EQ(Journal("printed"), std::vector<std::string>{"墙体 门窗 3%|    x"});
 }
 
-TEST_F(Commands, ALongTextIsPrintedWhole) {
+TEST_F(Commands, ALongTextIsPrintedCompletely) {
   const std::wstring text(5000, L'长');
   acutPrintf(L"%s", text.c_str());
   EXPECT_TRUE(ui.printed == text) << ui.printed.size();

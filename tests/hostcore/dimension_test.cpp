@@ -1,5 +1,4 @@
-// Dimensions of every kind: what is read comes back under the marks of its kind, and moving one
-// moves its picture.
+// Dimensions of every kind: reading, writing, moving.
 #include <sstream>
 
 #include "devhost/core/dxf/drawing_file.h"
@@ -39,7 +38,7 @@ class Dimensions : public hosttest::HostTest {
   }
 };
 
-TEST_F(Dimensions, OfEveryKindKeepTheirGroupsUnderTheirMark) {
+TEST_F(Dimensions, EveryKindKeepsItsGroupsUnderItsMark) {
   struct Case {
     int type;
     bool angular;
@@ -68,7 +67,7 @@ TEST_F(Dimensions, OfEveryKindKeepTheirGroupsUnderTheirMark) {
   }
 }
 
-TEST_F(Dimensions, MovingOneMovesItsPictureAndUndoBringsItBack) {
+TEST_F(Dimensions, MovingMovesTheBlockAndUndoRestoresIt) {
   AcDbDimension* dimension = Open(Dimension(34, "*D1", "13\n1.5\n23\n0.5\n"));
   ASSERT_NE(dimension, nullptr);
   Send(L"MOVE ALL \n0,0 10,20\n");
@@ -85,7 +84,7 @@ TEST_F(Dimensions, MovingOneMovesItsPictureAndUndoBringsItBack) {
   EXPECT_EQ(Written().find("\n12\n"), std::string::npos);
 }
 
-TEST_F(Dimensions, TurningOneIsRefused) {
+TEST_F(Dimensions, RotatingIsRejected) {
   AcDbDimension* dimension = Open(Dimension(34, "*D1", ""));
   ASSERT_NE(dimension, nullptr);
   EXPECT_EQ(dimension->transformBy(AcGeMatrix3d::insertion({}, 1, 1, 1, {})),

@@ -1,11 +1,11 @@
-// Drawings: coming, going, contexts, locks and what reactors hear.
+// Drawings: opening, closing, contexts, locks and notifications.
 #include "host_fixture.h"
 
 using namespace devhost;
 
 namespace {
 
-class Diary : public AcApDocManagerReactor {
+class ReactorLog : public AcApDocManagerReactor {
  public:
   std::vector<std::wstring> lines;
   bool removeItself = false;
@@ -37,22 +37,22 @@ class Diary : public AcApDocManagerReactor {
 class Documents : public hosttest::HostTest {
  protected:
   void TearDown() override {
-    acDocManager->removeReactor(&diary);
+    acDocManager->removeReactor(&log);
     HostTest::TearDown();
   }
-  Diary diary;
+  ReactorLog log;
 };
 
-TEST_F(Documents, AReactorHearsOfComingAndGoingInOrderWithTheDrawingStillCounted) {
-  acDocManager->addReactor(&diary);
+TEST_F(Documents, AReactorIsNotifiedInOrderWhileTheDrawingIsStillCounted) {
+  acDocManager->addReactor(&log);
   Document& drawing = NewDrawing();
   const std::wstring name = drawing.Title();
   host.documents.Close(&drawing);
-  EXPECT_EQ(diary.lines, (std::vector<std::wstring>{
-                             L"create started", L"created " + name + L" of 1",
-                             L"to be activated " + name + L" of 1", L"current " + name + L" of 1",
-                             L"activated " + name + L" of 1", L"to be destroyed " + name + L" of 1",
-                             L"destroyed " + name}));
+  EXPECT_EQ(log.lines, (std::vector<std::wstring>{
+                           L"create started", L"created " + name + L" of 1",
+                           L"to be activated " + name + L" of 1", L"current " + name + L" of 1",
+                           L"activated " + name + L" of 1", L"to be destroyed " + name + L" of 1",
+                           L"destroyed " + name}));
 }
 
 TEST_F(Documents, ClosingTheActiveOneActivatesTheOneUsedBefore) {
@@ -66,16 +66,16 @@ TEST_F(Documents, ClosingTheActiveOneActivatesTheOneUsedBefore) {
   EXPECT_EQ(acDocManager->documentCount(), 2);
 }
 
-TEST_F(Documents, AReactorMayRemoveItselfWhileItIsTold) {
-  diary.removeItself = true;
-  acDocManager->addReactor(&diary);
+TEST_F(Documents, AReactorMayRemoveItselfDuringANotification) {
+  log.removeItself = true;
+  acDocManager->addReactor(&log);
   NewDrawing();
-  const std::size_t heard = diary.lines.size();
+  const std::size_t notified = log.lines.size();
   NewDrawing();
-  EXPECT_EQ(diary.lines.size(), heard);
+  EXPECT_EQ(log.lines.size(), notified);
 }
 
-TEST_F(Documents, EachPhaseIsInTheJournal) {
+TEST_F(Documents, EachPhaseIsRecordedInTheJournal) {
   Document& drawing = NewDrawing();
   const std::string name = Utf8(drawing.Title());
   host.documents.Close(&drawing);
@@ -83,13 +83,13 @@ TEST_F(Documents, EachPhaseIsInTheJournal) {
                                                            "destroyed " + name}));
 }
 
-TEST_F(Documents, WithoutADrawingThereIsNoneCurrentAndTextIsRefused) {
+TEST_F(Documents, WithoutADrawingNoneIsCurrentAndTextIsRejected) {
   EXPECT_EQ(acDocManager->curDocument(), nullptr);
   EXPECT_EQ(acdbHostApplicationServices()->workingDatabase(), nullptr);
   EXPECT_NE(acDocManager->sendStringToExecute(nullptr, L"LINE "), Acad::eOk);
 }
 
-TEST_F(Documents, AFileThatIsOpenIsOnlyActivated) {
+TEST_F(Documents, AnOpenFileIsOnlyActivated) {
   MakeFile("plan.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
   Document* first = host.documents.Open(L"plan.dxf");
   ASSERT_NE(first, nullptr);
@@ -99,12 +99,12 @@ TEST_F(Documents, AFileThatIsOpenIsOnlyActivated) {
   EXPECT_EQ(acDocManager->documentCount(), 2);
 }
 
-TEST_F(Documents, AFileThatIsNotThereIsToldAndNothingOpens) {
-  acDocManager->addReactor(&diary);
+TEST_F(Documents, AMissingFileIsReportedAndNothingOpens) {
+  acDocManager->addReactor(&log);
   EXPECT_EQ(acDocManager->appContextOpenDocument(L"nowhere.dxf"), Acad::eFileNotFound);
   EXPECT_NE(ui.printed.find(L"nowhere.dxf"), std::wstring::npos);
   EXPECT_EQ(acDocManager->documentCount(), 0);
-  EXPECT_EQ(diary.lines.back(), L"create cancelled");
+  EXPECT_EQ(log.lines.back(), L"create cancelled");
 }
 
 TEST_F(Documents, CommandsRunInDocumentContextAndTheMessageLoopOutsideIt) {
@@ -132,7 +132,7 @@ TEST_F(Documents, CommandsRunInDocumentContextAndTheMessageLoopOutsideIt) {
   EXPECT_EQ(opened, Acad::eNotApplicable);
 }
 
-TEST_F(Documents, WritingNeedsTheLock) {
+TEST_F(Documents, WritingRequiresTheLock) {
   Document& drawing = NewDrawing();
   const AcDbObjectId space = drawing.database()->currentSpaceId();
   AcDbBlockTableRecord* record = nullptr;
@@ -150,12 +150,12 @@ TEST_F(Documents, WritingNeedsTheLock) {
   EXPECT_EQ(drawing.lockMode(), AcAp::kNotLocked);
 }
 
-TEST_F(Documents, ALockWithoutADrawingSaysSo) {
+TEST_F(Documents, ALockWithoutADrawingFails) {
   AcAxDocLock lock;
   EXPECT_EQ(lock.lockStatus(), Acad::eNoDocument);
 }
 
-TEST_F(Documents, ActivatingAnotherCancelsTheCommandThatWaits) {
+TEST_F(Documents, ActivatingAnotherDrawingCancelsTheWaitingCommand) {
   Document& first = NewDrawing();
   Document& second = NewDrawing();
   Then([&] { host.documents.Activate(&first); });
@@ -165,7 +165,7 @@ TEST_F(Documents, ActivatingAnotherCancelsTheCommandThatWaits) {
   EXPECT_EQ(Journal("command").back(), "end LINE cancelled");
 }
 
-TEST_F(Documents, ClosingUnderARunningCommandWaitsForItsEnd) {
+TEST_F(Documents, ClosingDuringACommandWaitsForItsEnd) {
   Document& drawing = NewDrawing();
   Then([&] { host.documents.Close(&drawing); });
   Send(L"LINE 0,0\n");
@@ -183,7 +183,7 @@ TEST_F(Documents, CloseAndCloseAllAreCommands) {
   EXPECT_EQ(acDocManager->documentCount(), 0);
 }
 
-TEST_F(Documents, TheIteratorGivesAllInTheOrderTheyCame) {
+TEST_F(Documents, TheIteratorVisitsAllInOrderOfCreation) {
   Document& a = NewDrawing();
   Document& b = NewDrawing();
   std::unique_ptr<AcApDocumentIterator> all(acDocManager->newAcApDocumentIterator());
@@ -192,7 +192,7 @@ TEST_F(Documents, TheIteratorGivesAllInTheOrderTheyCame) {
   EXPECT_EQ(seen, (std::vector<AcApDocument*>{&a, &b}));
 }
 
-TEST_F(Documents, SavingUnderANameGivesTheDrawingItsFile) {
+TEST_F(Documents, SavingUnderANameSetsTheFileOfTheDrawing) {
   NewDrawing();
   Send(L"LINE 0,0 10,5 \n");
   EXPECT_EQ(Var(L"DBMOD"), L"1");
@@ -206,7 +206,7 @@ TEST_F(Documents, SavingUnderANameGivesTheDrawingItsFile) {
   EXPECT_EQ(Entities().size(), 1u);
 }
 
-TEST_F(Documents, ASaveThatFailsIsToldAndLeavesTheDrawingChanged) {
+TEST_F(Documents, AFailedSaveIsReportedAndTheDrawingStaysModified) {
   NewDrawing();
   Send(L"LINE 0,0 10,5 \n");
   Send(L"SAVEAS " + (folder / "no_folder" / "x.dxf").wstring() + L"\n");
@@ -215,7 +215,7 @@ TEST_F(Documents, ASaveThatFailsIsToldAndLeavesTheDrawingChanged) {
   EXPECT_EQ(Var(L"DWGTITLED"), L"0");
 }
 
-TEST_F(Documents, VariablesOfTheHeaderComeAndGoWithTheFile) {
+TEST_F(Documents, VariablesOfTheHeaderAreLoadedAndSaved) {
   MakeFile("head.dxf",
            "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1021\n9\n$ORTHOMODE\n70\n1\n9\n$LTSCALE\n40\n"
            "2.5\n9\n$CLAYER\n8\n墙\n9\n$PICKSTYLE\n70\n9\n0\nENDSEC\n0\nEOF\n");
@@ -223,7 +223,7 @@ TEST_F(Documents, VariablesOfTheHeaderComeAndGoWithTheFile) {
   EXPECT_EQ(Var(L"ORTHOMODE"), L"1");
   EXPECT_EQ(Var(L"LTSCALE"), L"2.5");
   EXPECT_EQ(Var(L"CLAYER"), L"墙");
-  EXPECT_EQ(Var(L"PICKSTYLE"), L"1");  // the program's own, whatever the file says
+  EXPECT_EQ(Var(L"PICKSTYLE"), L"1");  // a variable of the program, not of the file
   host.variables.Set(L"LTSCALE", L"4");
   Send(L"QSAVE\n");
   host.documents.Close(host.documents.Current());

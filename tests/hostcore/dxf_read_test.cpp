@@ -1,4 +1,4 @@
-// Reading drawings: what comes out of a good file, and what is told of a damaged one.
+// Reading drawings, intact and damaged.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -18,7 +18,7 @@ using hosttest::SmallDrawing;
 
 namespace {
 
-// A database filled from text; the host is there so that its classes are known.
+// A database read from text; the host registers its classes.
 class Read {
  public:
   explicit Read(const std::string& text) {
@@ -50,7 +50,7 @@ std::string Entities(const std::string& lines) {
 
 }  // namespace
 
-TEST(DxfRead, AGoodFileHasNothingToTell) {
+TEST(DxfRead, AnIntactFileGivesNoMessage) {
   const Read r(SmallDrawing());
   EXPECT_TRUE(r.report.readAnything);
   EXPECT_EQ(r.report.message, L"");
@@ -77,7 +77,7 @@ TEST(DxfRead, EntitiesKeepTheirHandlesClassesAndCommonGroups) {
   EXPECT_EQ(r.As<AcDbViewport>(0x3E)->number(), 2);
 }
 
-TEST(DxfRead, EntitiesLieInTheSpaceThatTheyName) {
+TEST(DxfRead, EntitiesBelongToTheSpaceThatTheyName) {
   Read r(SmallDrawing());
   EXPECT_EQ(r.InSpace(ACDB_MODEL_SPACE), 10u);
   EXPECT_EQ(r.InSpace(ACDB_PAPER_SPACE), 1u);
@@ -95,7 +95,7 @@ TEST(DxfRead, AReferenceHasItsBlockAndItsAttributes) {
   EXPECT_EQ(block->entities().size(), 2u);
 }
 
-TEST(DxfRead, ExtendedDataComesApartByApplication) {
+TEST(DxfRead, ExtendedDataIsSeparatedByApplication) {
   Read r(SmallDrawing());
   resbuf* data = r.At(0x30)->xData(L"_QVX");
   ASSERT_NE(data, nullptr);
@@ -121,7 +121,7 @@ TEST(DxfRead, AnUnknownClassIsKeptWithItsGroups) {
   ASSERT_NE(thing, nullptr);
   EXPECT_STREQ(thing->originalDxfName(), L"THING");
   EXPECT_STREQ(thing->layer(), L"墙线");
-  EXPECT_EQ(thing->colorIndex(), 256);  // its group 62 is its own
+  EXPECT_EQ(thing->colorIndex(), 256);  // group 62 belongs to the class
   ASSERT_EQ(thing->groups().size(), 7u);
   EXPECT_EQ(thing->groups()[1].text, L"1.50");
   EXPECT_EQ(thing->groups()[3].text, L" 7");
@@ -139,7 +139,7 @@ TEST(DxfRead, LayersKeepColourLinetypeAndState) {
   EXPECT_EQ(r.As<AcDbLayerTableRecord>(0x10)->colorIndex(), 7);
 }
 
-TEST(DxfRead, LayersOfTheOldestReleaseHaveTheirColourToo) {
+TEST(DxfRead, LayersOfTheOldestReleaseHaveTheirColour) {
   Read r(Lines({"0", "SECTION", "2",     "TABLES", "0", "TABLE",  "2", "LAYER", "70",
                 "1", "0",       "LAYER", "2",      "A", "70",     "0", "62",    "5",
                 "6", "HIDDEN",  "0",     "ENDTAB", "0", "ENDSEC", "0", "EOF"}));
@@ -149,7 +149,7 @@ TEST(DxfRead, LayersOfTheOldestReleaseHaveTheirColourToo) {
   EXPECT_STREQ(AcDbLayerTableRecord::cast(id.object())->linetype(), L"HIDDEN");
 }
 
-TEST(DxfRead, ANewerFileIsUnicodeWhateverPageItNames) {
+TEST(DxfRead, ANewerFileIsUnicodeForAnyCodePage) {
   Read r(Lines({"0",  "SECTION",
                 "2",  "HEADER",
                 "9",  "$DWGCODEPAGE",
@@ -171,7 +171,7 @@ TEST(DxfRead, ANewerFileIsUnicodeWhateverPageItNames) {
   EXPECT_STREQ(r.As<AcDbText>(0x40)->textStringConst(), L"墙");
 }
 
-TEST(DxfRead, AModulesClassTakesPartByItsName) {
+TEST(DxfRead, AModulesClassIsFoundByItsName) {
   class Column : public AcDbEntity {
    public:
     Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override {
@@ -193,14 +193,14 @@ TEST(DxfRead, AModulesClassTakesPartByItsName) {
                         "100", "AcDbEntity",  "8",  "0",     "100", "TestColumn",  "40", "-1.0"})));
     ASSERT_NE(r.At(0x40), nullptr);
     EXPECT_EQ(static_cast<Column*>(r.At(0x40))->size, 600);
-    EXPECT_NE(r.As<AcDbProxyEntity>(0x41), nullptr);  // its class would not have it
+    EXPECT_NE(r.As<AcDbProxyEntity>(0x41), nullptr);  // rejected by its class
   }
   deleteAcRxClass(cls);
   Read r(Entities(Lines({"0", "TEST_COLUMN", "5", "40", "8", "0"})));
-  EXPECT_NE(r.As<AcDbProxyEntity>(0x40), nullptr);  // the module has gone, its class too
+  EXPECT_NE(r.As<AcDbProxyEntity>(0x40), nullptr);  // the module and its class are unloaded
 }
 
-TEST(DxfRead, AHandleThatIsTakenOrBadIsReplaced) {
+TEST(DxfRead, DuplicateAndInvalidHandlesAreReplaced) {
   Read r(Entities(Lines({"0", "LINE", "5", "40",  "8", "0", "10", "1",    "20", "1",
                          "0", "LINE", "5", "40",  "8", "0", "10", "2",    "20", "2",
                          "0", "LINE", "5", "xyz", "8", "0", "0",  "LINE", "5",  "FFFFFFFFFFFFFFFF",
@@ -210,7 +210,7 @@ TEST(DxfRead, AHandleThatIsTakenOrBadIsReplaced) {
   EXPECT_EQ(r.report.message, L"");
 }
 
-TEST(DxfRead, ANumberThatIsNoneCostsItsEntityAndIsTold) {
+TEST(DxfRead, AnInvalidNumberDropsItsEntityAndIsReported) {
   Read r(Entities(Lines({"0", "CIRCLE", "5", "40", "8", "0", "10", "1", "20", "1", "40", "big",
                          "0", "CIRCLE", "5", "41", "8", "0", "10", "1", "20", "1", "40", "2"})));
   EXPECT_EQ(r.At(0x40), nullptr);
@@ -218,7 +218,7 @@ TEST(DxfRead, ANumberThatIsNoneCostsItsEntityAndIsTold) {
   EXPECT_EQ(r.report.message, L"t.dxf(16): 应为数值，该图元未读入");
 }
 
-TEST(DxfRead, AFileThatIsCutKeepsWhatWasWhole) {
+TEST(DxfRead, ATruncatedFileKeepsCompleteEntities) {
   const std::string good = SmallDrawing();
   const std::size_t at = good.find("CIRCLE\n5\n31");
   Read r(good.substr(0, at + 40));
@@ -228,7 +228,7 @@ TEST(DxfRead, AFileThatIsCutKeepsWhatWasWhole) {
   EXPECT_NE(r.report.message.find(L"t.dxf("), std::wstring::npos);
 }
 
-TEST(DxfRead, AWrongCodeEndsTheReadingAndKeepsWhatWasBefore) {
+TEST(DxfRead, AnInvalidCodeEndsReadingAndKeepsEarlierEntities) {
   std::string text = SmallDrawing();
   text.replace(text.find("\n0\nARC\n") + 1, 1, "oops");
   Read r(text);
@@ -237,7 +237,7 @@ TEST(DxfRead, AWrongCodeEndsTheReadingAndKeepsWhatWasBefore) {
   EXPECT_NE(r.report.message.find(L"组码不是整数"), std::wstring::npos);
 }
 
-TEST(DxfRead, WhatIsNoDrawingIsSaidToBeNone) {
+TEST(DxfRead, OtherFilesAreReported) {
   for (const std::string& text :
        {std::string(), std::string("hello\nworld\n"), std::string("0\nEOF\n"),
         std::string(1000, '\0'), std::string("1\n2\n3\n4\n")}) {
@@ -250,20 +250,20 @@ TEST(DxfRead, WhatIsNoDrawingIsSaidToBeNone) {
   EXPECT_NE(binary.report.message.find(L"二进制"), std::wstring::npos);
 }
 
-TEST(DxfRead, WhatCanBeNoEntityIsSkipped) {
+TEST(DxfRead, InvalidEntityNamesAreSkipped) {
   Read r(Entities(Lines({"0", "ENDBLK", "5", "40", "8",  "0", "0",    "A B", "5",  "41", "8",
                          "0", "0",      "",  "5",  "42", "0", "LINE", "5",   "43", "8",  "0"})));
   EXPECT_EQ(r.InSpace(ACDB_MODEL_SPACE), 1u);
   EXPECT_EQ(r.report.message, L"t.dxf(5): 此处不应有这样的对象，已跳过 (另有 2 处问题)");
 }
 
-TEST(DxfRead, SeveralProblemsAreToldInOneLine) {
+TEST(DxfRead, SeveralProblemsAreReportedInOneLine) {
   const Read r(Entities(
       Lines({"0", "CIRCLE", "40", "x", "0", "CIRCLE", "40", "y", "0", "VERTEX", "8", "0"})));
   EXPECT_EQ(r.report.message, L"t.dxf(8): 应为数值，该图元未读入 (另有 2 处问题)");
 }
 
-TEST(DxfRead, OfTwoBlocksOfOneNameTheFirstCounts) {
+TEST(DxfRead, OfTwoBlocksWithOneNameTheFirstIsUsed) {
   const std::string block = Lines({"0", "BLOCK", "8", "0", "2", "B", "10", "0", "20", "0", "0",
                                    "LINE", "8", "0", "0", "ENDBLK", "8", "0"});
   Read r(Lines({"0", "SECTION", "2", "BLOCKS"}) + block + block +
@@ -272,7 +272,7 @@ TEST(DxfRead, OfTwoBlocksOfOneNameTheFirstCounts) {
   EXPECT_NE(r.report.message.find(L"同名的块"), std::wstring::npos);
 }
 
-TEST(DxfRead, EveryPrefixIsReadWithoutHarmAndToldUnlessWhole) {
+TEST(DxfRead, EveryPrefixIsReadSafelyAndReportedUnlessComplete) {
   const std::string good = SmallDrawing();
   for (std::size_t length = 0; length + 1 < good.size(); ++length) {
     Read r(good.substr(0, length));
@@ -280,7 +280,7 @@ TEST(DxfRead, EveryPrefixIsReadWithoutHarmAndToldUnlessWhole) {
   }
 }
 
-TEST(DxfRead, RandomDamageIsReadWithoutHarm) {
+TEST(DxfRead, RandomDamageIsReadSafely) {
   const std::string good = SmallDrawing();
   std::mt19937 random(20240607);
   const std::string_view bits[] = {"\n",
@@ -325,7 +325,7 @@ TEST(DxfRead, RandomDamageIsReadWithoutHarm) {
   }
 }
 
-TEST(DxfRead, TimeGrowsWithTheLengthAndNotFaster) {
+TEST(DxfRead, TimeIsLinearInTheLength) {
   std::string many;
   for (int i = 0; i < 20000; ++i)
     many += Lines({"0", "LINE", "8", "0", "10", "1.5", "20", "2.5", "11", "3.5", "21", "4.5"});
@@ -334,5 +334,6 @@ TEST(DxfRead, TimeGrowsWithTheLengthAndNotFaster) {
   const auto spent = std::chrono::steady_clock::now() - start;
   EXPECT_EQ(r.InSpace(ACDB_MODEL_SPACE), 20000u);
   EXPECT_LT(spent, std::chrono::seconds(
-                       10));  // far above what the sanitizers cost; quadratic would be minutes
+                       // A multiple of the time under sanitizers; quadratic time would be minutes.
+                       10));
 }

@@ -1,5 +1,5 @@
-// Drawings that other programs wrote. They lie beside the tree and are skipped, visibly, where they
-// are not at hand.
+// Drawings that other programs wrote. They are stored beside the tree; tests are skipped if they
+// are missing.
 #include <chrono>
 
 #include "devhost/core/drawing/database_body.h"
@@ -13,8 +13,8 @@ namespace {
 
 struct RealFile {
   const char* name;
-  std::size_t atLeast;  // entities in model space
-  const wchar_t* told;  // part of the message; null: nothing to tell
+  std::size_t atLeast;     // minimum number of entities in model space
+  const wchar_t* message;  // part of the message; null: no message
 };
 
 const RealFile kFiles[] = {
@@ -47,7 +47,7 @@ class RealDrawings : public hosttest::HostTest {
   std::filesystem::path drawings;
 };
 
-TEST_F(RealDrawings, AllOpenAndWhatIsWrongIsToldWithFileAndLine) {
+TEST_F(RealDrawings, AllOpenAndProblemsAreReportedWithFileAndLine) {
   for (const RealFile& file : kFiles) {
     SCOPED_TRACE(file.name);
     ui.printed.clear();
@@ -57,12 +57,12 @@ TEST_F(RealDrawings, AllOpenAndWhatIsWrongIsToldWithFileAndLine) {
     AcDbBlockTable::cast(document->database()->blockTableId().object())
         ->getAt(ACDB_MODEL_SPACE, model);
     EXPECT_GE(AcDbBlockTableRecord::cast(model.object())->entities().size(), file.atLeast);
-    if (!file.told) {
+    if (!file.message) {
       EXPECT_EQ(ui.printed, L"");
     } else {
       EXPECT_NE(ui.printed.find(std::filesystem::path(file.name).wstring() + L"("),
                 std::wstring::npos);
-      EXPECT_NE(ui.printed.find(file.told), std::wstring::npos);
+      EXPECT_NE(ui.printed.find(file.message), std::wstring::npos);
     }
     const bool paper = document->database()->body().paperIsCurrent;
     EXPECT_TRUE(file.atLeast == 0 || paper || ExtentsOf(*document->database()).isValid());
@@ -70,12 +70,12 @@ TEST_F(RealDrawings, AllOpenAndWhatIsWrongIsToldWithFileAndLine) {
   }
 }
 
-TEST_F(RealDrawings, ABinaryOneIsRefusedWithAClearLine) {
+TEST_F(RealDrawings, ABinaryDrawingIsRejectedWithAMessage) {
   EXPECT_EQ(host.documents.Open((drawings / "bin_dxf_r2000.dxf").wstring()), nullptr);
   EXPECT_NE(ui.printed.find(L"bin_dxf_r2000.dxf(1): 这是二进制图形交换文件"), std::wstring::npos);
 }
 
-TEST_F(RealDrawings, EachIsSavedAndOpenedAgainWithAllItsEntities) {
+TEST_F(RealDrawings, EachIsSavedAndReopenedWithAllEntities) {
   for (const RealFile& file : kFiles) {
     SCOPED_TRACE(file.name);
     AcDbDatabase first, second;
@@ -95,7 +95,7 @@ TEST_F(RealDrawings, EachIsSavedAndOpenedAgainWithAllItsEntities) {
   }
 }
 
-TEST_F(RealDrawings, TheLargestOpensWhileAUserLooksOn) {
+TEST_F(RealDrawings, TheLargestOpensWithinSeconds) {
   AcDbDatabase database;
   const auto start = std::chrono::steady_clock::now();
   ReadDrawing((drawings / "floorplan.dxf").wstring(), database);
@@ -103,10 +103,10 @@ TEST_F(RealDrawings, TheLargestOpensWhileAUserLooksOn) {
   RecordProperty(
       "milliseconds",
       static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(spent).count()));
-  EXPECT_LT(spent, std::chrono::seconds(5));  // under sanitizers and beside other work
+  EXPECT_LT(spent, std::chrono::seconds(5));  // with sanitizers on a busy machine
 }
 
-TEST_F(RealDrawings, CutAnywhereTheyKeepWhatWasReadable) {
+TEST_F(RealDrawings, TruncatedFilesKeepReadableEntities) {
   std::ifstream file(drawings / "blocks2.dxf", std::ios::binary);
   const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   for (std::size_t length = 0; length + 2 < text.size(); length += 97) {

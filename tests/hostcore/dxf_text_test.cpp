@@ -5,7 +5,7 @@
 
 using namespace devhost;
 
-TEST(DxfText, PairsComeWithTheLineOfTheirCode) {
+TEST(DxfText, PairsHaveTheLineOfTheirCode) {
   const DxfScan scan = ScanDxf("  0\nSECTION\n  2\r\nHEADER\r\n0\nEOF\n");
   ASSERT_EQ(scan.groups.size(), 3u);
   EXPECT_EQ(scan.groups[1].code, 2);
@@ -14,34 +14,34 @@ TEST(DxfText, PairsComeWithTheLineOfTheirCode) {
   EXPECT_EQ(scan.damage, DxfDamage::None);
 }
 
-TEST(DxfText, CommentsAreLeftOut) {
+TEST(DxfText, CommentsAreOmitted) {
   const DxfScan scan = ScanDxf("999\nmade by hand\n0\nEOF\n");
   ASSERT_EQ(scan.groups.size(), 1u);
   EXPECT_EQ(scan.groups[0].line, 3);
 }
 
-TEST(DxfText, ACodeThatIsNoNumberEndsTheReadingAtItsLine) {
+TEST(DxfText, ANonNumericCodeEndsReadingAtItsLine) {
   const DxfScan scan = ScanDxf("0\nSECTION\nabc\nHEADER\n0\nEOF\n");
   EXPECT_EQ(scan.groups.size(), 1u);
   EXPECT_EQ(scan.damage, DxfDamage::BadCode);
   EXPECT_EQ(scan.line, 3);
 }
 
-TEST(DxfText, ACodeWithoutAValueIsACut) {
+TEST(DxfText, ACodeWithoutAValueIsATruncation) {
   const DxfScan scan = ScanDxf("0\nSECTION\n2\n");
-  EXPECT_EQ(scan.damage, DxfDamage::CutOff);
+  EXPECT_EQ(scan.damage, DxfDamage::Truncated);
   EXPECT_EQ(scan.line, 3);
 }
 
-TEST(DxfText, AFileWithoutItsEndMarkIsTold) {
-  EXPECT_EQ(ScanDxf("0\nSECTION\n").damage, DxfDamage::NoEnd);
-  EXPECT_EQ(ScanDxf("0\nSECTION\n\n  \n").damage, DxfDamage::NoEnd);
-  EXPECT_EQ(ScanDxf("").damage, DxfDamage::NoEnd);
+TEST(DxfText, AMissingEndMarkIsReported) {
+  EXPECT_EQ(ScanDxf("0\nSECTION\n").damage, DxfDamage::NoEndMark);
+  EXPECT_EQ(ScanDxf("0\nSECTION\n\n  \n").damage, DxfDamage::NoEndMark);
+  EXPECT_EQ(ScanDxf("").damage, DxfDamage::NoEndMark);
 }
 
-TEST(DxfText, DataBehindTheEndMarkIsToldWithItsLine) {
+TEST(DxfText, DataAfterTheEndMarkIsReportedWithItsLine) {
   const DxfScan scan = ScanDxf("0\nEOF\n\nmore\n");
-  EXPECT_EQ(scan.damage, DxfDamage::BehindEnd);
+  EXPECT_EQ(scan.damage, DxfDamage::DataAfterEnd);
   EXPECT_EQ(scan.line, 4);
   EXPECT_EQ(ScanDxf("0\nEOF\n\n\x1a\n").damage, DxfDamage::None);
 }
@@ -52,7 +52,7 @@ TEST(DxfText, ABinaryFileIsRecognised) {
   EXPECT_TRUE(scan.groups.empty());
 }
 
-TEST(DxfText, NumbersAreReadWholeOrNotAtAll) {
+TEST(DxfText, NumbersAreReadCompletelyOrNotAtAll) {
   EXPECT_EQ(DxfReal(" 1.5 "), 1.5);
   EXPECT_EQ(DxfReal("+2"), 2.0);
   EXPECT_EQ(DxfReal("-1e3"), -1000.0);

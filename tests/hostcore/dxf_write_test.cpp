@@ -1,4 +1,4 @@
-// Writing drawings: what was read comes back, known or not.
+// Writing drawings: everything that was read is written, also unknown groups.
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include <sstream>
@@ -17,7 +17,7 @@ class DxfWrite : public hosttest::HostTest {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
   }
-  // What the tables of applications of a written drawing name, in order.
+  // The names in the application tables of a written drawing, in order.
   static std::vector<std::string> Applications(const std::string& written) {
     std::vector<std::string> names;
     std::istringstream text(written);
@@ -65,7 +65,7 @@ class DxfWrite : public hosttest::HostTest {
   }
 };
 
-TEST_F(DxfWrite, WhatWasReadIsReadAgain) {
+TEST_F(DxfWrite, AWrittenDrawingReadsBack) {
   AcDbDatabase first, second;
   ASSERT_EQ(ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", first).message, L"");
   const std::string text = WrittenText(first);
@@ -74,7 +74,7 @@ TEST_F(DxfWrite, WhatWasReadIsReadAgain) {
   EXPECT_EQ(Inventory(first).size(), 13u);
 }
 
-TEST_F(DxfWrite, OpaqueEntitiesAndUnreadSectionsGoOutAsTheyCame) {
+TEST_F(DxfWrite, OpaqueEntitiesAndUnreadSectionsAreWrittenUnchanged) {
   AcDbDatabase database;
   ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
   const std::string text = WrittenText(database);
@@ -89,7 +89,7 @@ TEST_F(DxfWrite, OpaqueEntitiesAndUnreadSectionsGoOutAsTheyCame) {
   EXPECT_NE(text.find("370\n50\n"), std::string::npos);
 }
 
-TEST_F(DxfWrite, ExtendedDataOfAPolylineStandsBeforeItsVertices) {
+TEST_F(DxfWrite, ExtendedDataOfAPolylinePrecedesItsVertices) {
   AcDbDatabase database, again;
   ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
   const std::string text = WrittenText(database);
@@ -105,7 +105,7 @@ TEST_F(DxfWrite, ExtendedDataOfAPolylineStandsBeforeItsVertices) {
   acutRelRb(chain);
 }
 
-TEST_F(DxfWrite, NoHandleIsGivenTwice) {
+TEST_F(DxfWrite, HandlesAreUnique) {
   AcDbDatabase database;
   ReadDrawingText(hosttest::SmallDrawing(), L"a.dxf", database);
   std::map<std::string, int> handles;
@@ -131,7 +131,7 @@ TEST_F(DxfWrite, ErasedEntitiesAreNotWritten) {
   EXPECT_NE(again.getAcDbObjectId(id, false, AcDbHandle(0x31)), Acad::eOk);
 }
 
-TEST_F(DxfWrite, ANewDrawingIsWrittenWithTheTablesThatReadersNeed) {
+TEST_F(DxfWrite, ANewDrawingHasTheTablesThatOtherProgramsRequire) {
   AcDbDatabase database, again;
   AcDbBlockTableRecord::cast(database.currentSpaceId().object())
       ->appendAcDbEntity(new AcDbText({1, 2, 0}, L"汉字^ 与\n换行^J^2\r\t", 3));
@@ -163,7 +163,7 @@ TEST_F(DxfWrite, AnErasedObjectRegistersNothing) {
   EXPECT_EQ(Applications(WrittenText(database)), (std::vector<std::string>{"ACAD", "STAYS"}));
 }
 
-TEST_F(DxfWrite, ATableOfApplicationsThatTheFileBroughtGetsOnlyTheNewNames) {
+TEST_F(DxfWrite, AnExistingApplicationTableGetsOnlyTheNewNames) {
   const std::string file =
       "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nAPPID\n5\n9\n70\n2\n"
       "0\nAPPID\n5\n91\n2\nACAD\n70\n0\n0\nAPPID\n5\n92\n2\n_qvx\n70\n4\n"
@@ -173,7 +173,7 @@ TEST_F(DxfWrite, ATableOfApplicationsThatTheFileBroughtGetsOnlyTheNewNames) {
   ASSERT_EQ(ReadDrawingText(file, L"a.dxf", database).message, L"");
   EXPECT_EQ(Applications(WrittenText(database)),
             (std::vector<std::string>{"ACAD", "_qvx", "MADE_BY"}));
-  AddMarked(database, L"_QVX");  // the same application, whatever the case
+  AddMarked(database, L"_QVX");  // the same application, ignoring case
   AddMarked(database, L"Acad");
   AddMarked(database, L"NEW");
   AddMarked(database, L"new");
@@ -188,7 +188,7 @@ TEST_F(DxfWrite, ATableOfApplicationsThatTheFileBroughtGetsOnlyTheNewNames) {
   EXPECT_EQ(Applications(WrittenText(again)), Applications(text));
 }
 
-TEST_F(DxfWrite, RealsReadBackToTheLastBit) {
+TEST_F(DxfWrite, RealsReadBackExactly) {
   AcDbDatabase database, again;
   const double odd = 0.1 + 0.2, huge = 1.2345678901234567e300;
   AcDbBlockTableRecord::cast(database.currentSpaceId().object())
@@ -201,13 +201,13 @@ TEST_F(DxfWrite, RealsReadBackToTheLastBit) {
   EXPECT_EQ(line->endPoint().x, 1e-300);
 }
 
-TEST_F(DxfWrite, AFileThatCannotBeReplacedStaysAsItWas) {
+TEST_F(DxfWrite, AFileThatCannotBeReplacedIsUnchanged) {
   AcDbDatabase database;
   std::wstring why;
   EXPECT_FALSE(WriteDrawing((folder / "none" / "x.dxf").wstring(), database, &why));
   EXPECT_NE(why.find(L"无法写入文件"), std::wstring::npos);
   std::filesystem::create_directories(folder / "taken.dxf" /
-                                      "inside");  // a folder in the file's place
+                                      "inside");  // a folder with the name of the file
   EXPECT_FALSE(WriteDrawing((folder / "taken.dxf").wstring(), database, &why));
   EXPECT_TRUE(std::filesystem::is_directory(folder / "taken.dxf"));
   EXPECT_FALSE(std::filesystem::exists(folder / "taken.dxf.tmp"));

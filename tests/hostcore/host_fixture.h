@@ -1,5 +1,5 @@
-// The host over a user interface that answers from a list and modules that are plain functions.
-// Each test has the host for itself: drawings and modules of the one before are gone.
+// A host with a scripted user interface and modules that are functions. Before each test all
+// drawings and modules are removed.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,28 +21,26 @@
 
 namespace hosttest {
 
-class ListedUi : public devhost::HostUi {
+class ScriptedUi : public devhost::HostUi {
  public:
   std::wstring printed, alerts;
-  std::vector<std::wstring> diary;           // documents and pictures, as they were told
-  std::deque<std::function<void()>> rounds;  // what the user does in each turn of the pump
+  std::vector<std::wstring> log;             // notifications about documents and pictures
+  std::deque<std::function<void()>> rounds;  // user actions, one for each round of the pump
   bool ended = false;
 
-  void DocumentCreated(devhost::Document& d) override { diary.push_back(L"created " + d.Name()); }
+  void DocumentCreated(devhost::Document& d) override { log.push_back(L"created " + d.Name()); }
   void DocumentActivated(devhost::Document* d) override {
-    diary.push_back(d ? L"activated " + d->Name() : L"activated none");
+    log.push_back(d ? L"activated " + d->Name() : L"activated none");
   }
-  void DocumentDestroyed(devhost::Document& d) override {
-    diary.push_back(L"destroyed " + d.Name());
-  }
-  void DocumentTitled(devhost::Document& d) override { diary.push_back(L"titled " + d.Name()); }
+  void DocumentDestroyed(devhost::Document& d) override { log.push_back(L"destroyed " + d.Name()); }
+  void DocumentTitled(devhost::Document& d) override { log.push_back(L"titled " + d.Name()); }
   void PictureChanged(devhost::Document&) override {}
-  void SelectionChanged(devhost::Document&) override { diary.push_back(L"selection"); }
+  void SelectionChanged(devhost::Document&) override { log.push_back(L"selection"); }
   void Print(const std::wstring& text) override { printed += text; }
   void PromptChanged(const std::wstring&) override {}
-  void VariableChanged(const std::wstring& name) override { diary.push_back(L"var " + name); }
+  void VariableChanged(const std::wstring& name) override { log.push_back(L"var " + name); }
   void Alert(const std::wstring& text) override { alerts += text; }
-  // With nothing left to do the program ends: a test that asks for more than it gives can't hang.
+  // Without actions the program ends, so that a test cannot hang.
   bool PumpWhileWaiting() override {
     if (rounds.empty()) return false;
     const auto next = rounds.front();
@@ -102,7 +100,7 @@ class HostTest : public ::testing::Test {
   }
   devhost::Document& NewDrawing() { return *host.documents.New(); }
 
-  // Runs everything that waits, as the idle time of the message loop does.
+  // Runs all waiting input, as at idle time.
   void RunAll() {
     while (host.engine.RunWaiting()) {
     }
@@ -118,7 +116,7 @@ class HostTest : public ::testing::Test {
     std::wstring value;
     return host.variables.Get(name, &value) == devhost::VarResult::Ok ? value : L"(none)";
   }
-  // The entities of the current space that are not erased.
+  // The entities of the current space, without erased ones.
   std::vector<AcDbEntity*> Entities() {
     std::vector<AcDbEntity*> out;
     const auto* space =
@@ -127,7 +125,7 @@ class HostTest : public ::testing::Test {
       if (!id.isErased()) out.push_back(AcDbEntity::cast(id.object()));
     return out;
   }
-  // Journal entries of this test, one text each: event and the values in order.
+  // Journal entries of this test as texts: event and values in order.
   std::vector<std::string> Journal(const std::string& event) {
     std::vector<std::string> out;
     for (const devhost::JournalEntry& entry : devhost::TheJournal().Since(journalStart)) {
@@ -142,7 +140,7 @@ class HostTest : public ::testing::Test {
   }
 
   devhost::Host& host = devhost::TheHost();
-  ListedUi ui;
+  ScriptedUi ui;
   FunctionModules modules;
   std::filesystem::path folder;
   int journalStart = 0;

@@ -7,7 +7,7 @@ namespace {
 
 std::vector<std::wstring> g_calls;
 
-// A module with four functions: one echoes its arguments, one fails, one is a command, one adds a
+// A module with four functions: one returns its arguments, one fails, one is a command, one adds a
 // line.
 int Entry(int message, void* packet) {
   switch (message) {
@@ -59,7 +59,7 @@ class Lisp : public hosttest::HostTest {
     NewDrawing();
     ASSERT_TRUE(acrxLoadModule(L"lisp.arx", false));
   }
-  // What the command line shows for an expression.
+  // The output of the command line for an expression.
   std::wstring Shown(const std::wstring& expression) {
     ui.printed.clear();
     Send(expression + L"\n");
@@ -77,18 +77,18 @@ class Lisp : public hosttest::HostTest {
   }
 };
 
-TEST_F(Lisp, AModulesFunctionIsReachedThroughItsEntryPoint) {
+TEST_F(Lisp, AModulesFunctionIsCalledThroughItsEntryPoint) {
   resbuf* result = nullptr;
   ASSERT_EQ(Invoke(L"draws", &result), RTNORM);
   ASSERT_NE(result, nullptr);
   EXPECT_EQ(result->restype, RTNIL);
   acutRelRb(result);
   EXPECT_EQ(g_calls, std::vector<std::wstring>{L"3"});
-  EXPECT_EQ(Entities().size(), 1u);  // the call may write, also from the message loop
+  EXPECT_EQ(Entities().size(), 1u);  // the call may write, also in the message loop
   EXPECT_EQ(Journal("lisp"), std::vector<std::string>{"DRAWS nil"});
 }
 
-TEST_F(Lisp, AMissingFunctionAndOneThatFailsAreErrors) {
+TEST_F(Lisp, AMissingFunctionAndAFailingOneAreErrors) {
   resbuf* result = nullptr;
   EXPECT_EQ(Invoke(L"nosuch", &result), RTERROR);
   EXPECT_EQ(result, nullptr);
@@ -102,7 +102,7 @@ TEST_F(Lisp, OutsideACallThereIsNoFunctionCode) {
   EXPECT_EQ(acedGetArgs(), nullptr);
 }
 
-TEST_F(Lisp, ANameWithItsPrefixIsACommand) {
+TEST_F(Lisp, AFunctionWithTheCommandPrefixIsACommand) {
   Send(L"tgo\n");
   EXPECT_EQ(g_calls, std::vector<std::wstring>{L"2"});
   EXPECT_EQ(Journal("command"), (std::vector<std::string>{"start TGO", "end TGO ok"}));
@@ -113,7 +113,7 @@ TEST_F(Lisp, FunctionsAndSymbolsBelongToOneDrawing) {
   Document* first = host.documents.Current();
   NewDrawing();
   EXPECT_EQ(Shown(L"!a"), L"nil");
-  EXPECT_EQ(Shown(L"(echo 1 2)"), L"(1 2)");  // defined there too, when the drawing came
+  EXPECT_EQ(Shown(L"(echo 1 2)"), L"(1 2)");  // also defined in the new drawing
   host.documents.Activate(first);
   EXPECT_EQ(Shown(L"!a"), L"5");
 }
@@ -132,7 +132,7 @@ TEST_F(Lisp, SymbolsPassBetweenModulesAndExpressions) {
   EXPECT_EQ(Shown(L"!n"), L"nil");
 }
 
-TEST_F(Lisp, ExpressionsAreReadAndAnswered) {
+TEST_F(Lisp, ExpressionsAreEvaluated) {
   EXPECT_EQ(Shown(L"(setq a 1)"), L"1");
   EXPECT_EQ(Shown(L"(list a 2 \"x y\" 'sym)"), L"(1 2 \"x y\" SYM)");
   EXPECT_EQ(Shown(L"(quote (1 (2 3)))"), L"(1 (2 3))");
@@ -142,38 +142,38 @@ TEST_F(Lisp, ExpressionsAreReadAndAnswered) {
   EXPECT_EQ(Var(L"TEXTSIZE"), L"3.5");
 }
 
-TEST_F(Lisp, WhatIsWrongWithAnExpressionIsTold) {
+TEST_F(Lisp, ErrorsInExpressionsAreReported) {
   EXPECT_EQ(Shown(L"(nosuch 1)"), L"; 错误: 没有函数定义: NOSUCH");
   EXPECT_EQ(Shown(L"(fails)"), L"; 错误: FAILS 失败");
   EXPECT_EQ(Shown(L"(setq 1 2)"), L"; 错误: setq 需要符号");
   EXPECT_EQ(Shown(L"(+ \"a\" 1)"), L"; 错误: 参数类型错误");
 }
 
-TEST_F(Lisp, AnExpressionMayRunOverSeveralLines) { EXPECT_EQ(Shown(L"(list 1\n2)"), L"(1 2)"); }
+TEST_F(Lisp, AnExpressionMaySpanSeveralLines) { EXPECT_EQ(Shown(L"(list 1\n2)"), L"(1 2)"); }
 
-TEST_F(Lisp, AnExpressionAnswersACommandsQuestion) {
+TEST_F(Lisp, AnExpressionAnswersARequestForInput) {
   Send(L"(setq r \"7,7\") LINE 0,0 !r (list 3 4.5) \x1b");
   ASSERT_EQ(Entities().size(), 2u);
   EXPECT_EQ(AcDbLine::cast(Entities()[0])->endPoint().x, 7);
   EXPECT_EQ(AcDbLine::cast(Entities()[1])->endPoint().y, 4.5);
 }
 
-TEST_F(Lisp, CommandRunsOneInside) {
+TEST_F(Lisp, TheFormCommandRunsACommand) {
   Send(L"(command \"_LINE\" \"0,0\" \"2,2\" \"\")\n");
   EXPECT_EQ(Entities().size(), 1u);
 }
 
-TEST_F(Lisp, ClosingTheDrawingInsideAnExpressionWaitsForItsEnd) {
+TEST_F(Lisp, ClosingTheDrawingInAnExpressionWaitsForItsEnd) {
   Send(L"(progn (command \"_CLOSE\") (setq a 1))\n");
   EXPECT_EQ(acDocManager->documentCount(), 0);
 }
 
-TEST_F(Lisp, BracketsAThousandDeepAreRefused) {
+TEST_F(Lisp, AThousandNestedBracketsAreRejected) {
   const std::wstring deep = std::wstring(1000, L'(') + std::wstring(1000, L')');
   EXPECT_EQ(Shown(deep), L"; 错误: 括号嵌套太深");
 }
 
-TEST_F(Lisp, UndefiningTakesTheFunctionAway) {
+TEST_F(Lisp, UndefiningRemovesTheFunction) {
   EXPECT_EQ(acedUndef(L"ECHO", 7), RTERROR);
   EXPECT_EQ(acedUndef(L"ECHO", 0), RTNORM);
   EXPECT_EQ(Shown(L"(echo 1)"), L"; 错误: 没有函数定义: ECHO");

@@ -1,4 +1,4 @@
-// The host's menu groups: MENULOAD, MENUUNLOAD and what modules are told of them.
+// Menu groups: MENULOAD, MENUUNLOAD and the published query.
 #include "afx.h"
 #include "host_fixture.h"
 
@@ -17,7 +17,7 @@ class MenuGroupTest : public hosttest::HostTest {
   }
 };
 
-TEST_F(MenuGroupTest, AFileNamesItsGroup) {
+TEST_F(MenuGroupTest, TheFileNamesTheGroup) {
   const std::wstring path =
       WriteMenu("a menu.mns", L"// 菜单\r\n***MENUGROUP=奇维快捷菜单 \r\n***POP0\r\n");
   EXPECT_FALSE(acedIsMenuGroupLoaded(L"奇维快捷菜单"));
@@ -28,13 +28,13 @@ TEST_F(MenuGroupTest, AFileNamesItsGroup) {
   EXPECT_FALSE(acedIsMenuGroupLoaded(L"奇维快捷菜单"));
 }
 
-TEST_F(MenuGroupTest, AFileWithoutANameGivesItsOwnInAnyCase) {
+TEST_F(MenuGroupTest, AFileWithoutAGroupNameUsesTheFileNameInAnyCase) {
   const std::wstring path = WriteMenu("quivera.cuix", L"PK");
   Send(L"menuload\n" + path + L"\n");
   EXPECT_TRUE(acedIsMenuGroupLoaded(L"QUIVERA"));
 }
 
-TEST_F(MenuGroupTest, WhatIsNotThereIsToldAndChangesNothing) {
+TEST_F(MenuGroupTest, AMissingFileIsReportedAndChangesNothing) {
   Send(L"menuload\nmissing.mns\n");
   Send(L"menuunload\nnobody\n");
   EXPECT_FALSE(acedIsMenuGroupLoaded(L"missing"));

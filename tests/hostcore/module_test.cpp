@@ -1,4 +1,4 @@
-// Modules: loading, what their entry points hear, unloading.
+// Modules: loading, messages to their entry points, unloading.
 #include "host_fixture.h"
 
 using namespace devhost;
@@ -39,14 +39,14 @@ class Modules : public hosttest::HostTest {
   }
 };
 
-TEST_F(Modules, LoadingTellsTheModuleOfEveryOpenDrawing) {
+TEST_F(Modules, LoadingSendsAMessageForEveryOpenDrawing) {
   const std::wstring a = NewDrawing().Title(), b = NewDrawing().Title();
   ASSERT_TRUE(acrxLoadModule(L"good.arx", true));
   EXPECT_EQ(g_heard, (std::vector<std::wstring>{L"1 in " + b, L"3 in " + a, L"3 in " + b}));
   EXPECT_EQ(Journal("module"), std::vector<std::string>{"loaded good.arx"});
 }
 
-TEST_F(Modules, ADrawingThatComesLaterIsToldBeforeItIsActivated) {
+TEST_F(Modules, ALaterDrawingIsAnnouncedBeforeItIsActivated) {
   ASSERT_TRUE(acrxLoadModule(L"good.arx", true));
   const std::wstring name = NewDrawing().Title();
   EXPECT_EQ(g_heard.back(), L"3 in " + name);
@@ -60,7 +60,7 @@ TEST_F(Modules, LoadingTwiceLoadsOnce) {
   EXPECT_EQ(modules.live, 1);
 }
 
-TEST_F(Modules, AFileThatIsNoModuleIsToldAndNothingStays) {
+TEST_F(Modules, AFileThatIsNotAModuleIsReportedAndUnloaded) {
   EXPECT_FALSE(acrxLoadModule(L"bad.arx", true));
   EXPECT_NE(ui.printed.find(L"bad.arx: 不是模块"), std::wstring::npos);
   EXPECT_FALSE(acrxLoadModule(L"missing.arx", true));
@@ -68,12 +68,12 @@ TEST_F(Modules, AFileThatIsNoModuleIsToldAndNothingStays) {
   EXPECT_EQ(acedArxLoaded(), nullptr);
 }
 
-TEST_F(Modules, AMissingFileIsNotToldWhenNobodyAsksForPrinting) {
+TEST_F(Modules, AMissingFileIsNotPrintedUnlessRequested) {
   EXPECT_FALSE(acrxLoadModule(L"missing.arx", false));
   EXPECT_TRUE(ui.printed.empty());
 }
 
-TEST_F(Modules, UnloadingTakesCommandsAndFunctionsAlong) {
+TEST_F(Modules, UnloadingRemovesCommandsAndFunctions) {
   Document& drawing = NewDrawing();
   ASSERT_TRUE(acrxLoadModule(L"good.arx", true));
   EXPECT_NE(host.commands.Find(L"TMOD", false), nullptr);
@@ -83,17 +83,17 @@ TEST_F(Modules, UnloadingTakesCommandsAndFunctionsAlong) {
   EXPECT_EQ(host.commands.Find(L"TMOD", false), nullptr);
   EXPECT_TRUE(drawing.lispFunctions.empty());
   EXPECT_EQ(modules.live, 0);
-  EXPECT_TRUE(acrxLoadModule(L"good.arx", true));  // and again in one process
+  EXPECT_TRUE(acrxLoadModule(L"good.arx", true));  // loaded again in the same process
 }
 
-TEST_F(Modules, ALockedModuleStays) {
+TEST_F(Modules, ALockedModuleIsNotUnloaded) {
   g_unlock = false;
   ASSERT_TRUE(acrxLoadModule(L"good.arx", true));
   EXPECT_FALSE(acrxUnloadModule(L"good.arx"));
   EXPECT_EQ(modules.live, 1);
 }
 
-TEST_F(Modules, TheNamesOfLoadedModulesAreAList) {
+TEST_F(Modules, TheNamesOfLoadedModulesAreListed) {
   ASSERT_TRUE(acrxLoadModule(L"good.arx", true));
   resbuf* names = acedArxLoaded();
   ASSERT_NE(names, nullptr);
@@ -116,7 +116,7 @@ TEST_F(Modules, FilesAreFoundAlongTheSupportPath) {
   EXPECT_EQ(acedFindFile(L"nowhere.txt", path), RTERROR);
 }
 
-TEST_F(Modules, AModulesCommandHidesTheHostsAndADotFindsThatAgain) {
+TEST_F(Modules, AModulesCommandHidesTheHostsAndADotSelectsTheHosts) {
   static int ran;
   ran = 0;
   modules.entries[L"line.arx"] = [](int message, void* packet) -> int {
@@ -172,7 +172,7 @@ AcRxClass* Column::cls = nullptr;
 
 }  // namespace
 
-TEST_F(Modules, EntitiesTakeTheirClassWhenItComesAndKeepAllTheyHoldWhenItGoes) {
+TEST_F(Modules, EntitiesChangeToAndFromTheirClassWithoutLosingData) {
   MakeFile(
       "columns.dxf",
       "0\nSECTION\n2\nENTITIES\n0\nTEST_COLUMN\n5\n40\n100\nAcDbEntity\n8\nZ1\n62\n3\n370\n50\n"
@@ -197,7 +197,7 @@ TEST_F(Modules, EntitiesTakeTheirClassWhenItComesAndKeepAllTheyHoldWhenItGoes) {
       L"TEST_COLUMN");
   acrxBuildClassHierarchy();
   ASSERT_EQ(Entities().at(0)->isA(), Column::cls);
-  EXPECT_TRUE(document->pickFirst.empty());  // ids of what was exchanged are let go
+  EXPECT_TRUE(document->pickFirst.empty());  // ids of replaced entities are dropped
   const auto* column = static_cast<const Column*>(Entities()[0]);
   EXPECT_EQ(column->size, 600.5);
   EXPECT_EQ(column->kind, 7);

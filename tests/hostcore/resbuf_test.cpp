@@ -1,4 +1,4 @@
-// Value chains of the published interface, and how LISP values travel in them.
+// Resbuf chains and their conversion from and to LISP values.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -10,7 +10,7 @@ using namespace devhost;
 
 namespace {
 
-// A chain that is released with its owner.
+// A chain that is released with this object.
 class Chain {
  public:
   explicit Chain(resbuf* head) : m_head(head) {}
@@ -28,7 +28,7 @@ class Chain {
 
 }  // namespace
 
-TEST(Resbuf, AListOfTypesAndValuesBecomesAChain) {
+TEST(Resbuf, TypesAndValuesBecomeAChain) {
   const ads_point point = {1, 2, 3};
   const Chain chain(acutBuildList(RTSTR, L"墙", RTSHORT, 7, RTREAL, 2.5, RT3DPOINT, point, RTNONE));
   ASSERT_NE(chain.get(), nullptr);
@@ -50,7 +50,7 @@ TEST(Resbuf, AFilterListBeginsWithGroupZeroAndEndsWithZero) {
 
 TEST(Resbuf, ReleasingNothingIsAnError) { EXPECT_EQ(acutRelRb(nullptr), RTERROR); }
 
-TEST(Resbuf, NestedListsTravelThereAndBack) {
+TEST(Resbuf, NestedListsConvertBothWays) {
   const LispValue list =
       LispValue::List({LispValue::Integer(1), LispValue::String(L"二"),
                        LispValue::List({LispValue::Real(3.5), LispValue::True()})});
@@ -65,7 +65,7 @@ TEST(Resbuf, NilIsOneNode) {
   EXPECT_TRUE(FromResbuf(nullptr).IsNil());
 }
 
-TEST(Resbuf, IntegersThatDoNotFitAShortTravelAsLongs) {
+TEST(Resbuf, LargeIntegersBecomeLongs) {
   const Chain small(ToResbuf(LispValue::Integer(32767))),
       large(ToResbuf(LispValue::Integer(40000)));
   EXPECT_EQ(small->restype, RTSHORT);

@@ -1,4 +1,4 @@
-// What a drawing looks like as shapes, and what is found in it.
+// Drawings as shapes, and hit tests.
 #include "devhost/core/view/scene.h"
 
 #include <cmath>
@@ -24,7 +24,7 @@ AcDbBlockTableRecord& MakeBlock(AcDbDatabase& database, const wchar_t* name) {
 
 }  // namespace
 
-TEST(Scene, ALineIsTwoPointsInItsLayersColour) {
+TEST(Scene, ALineHasTwoPointsAndItsLayersColour) {
   AcDbDatabase database;
   auto* layer = new AcDbLayerTableRecord;
   layer->setName(L"墙线");
@@ -42,7 +42,7 @@ TEST(Scene, ALineIsTwoPointsInItsLayersColour) {
   EXPECT_EQ(BuildScene(database, 1)[0].color, 1);
 }
 
-TEST(Scene, ACircleStaysOnItsRadiusAndIsClosed) {
+TEST(Scene, ACircleIsClosedAndOnItsRadius) {
   AcDbDatabase database;
   Space(database).appendAcDbEntity(new AcDbCircle({5, 5, 0}, 2));
   const Shape circle = BuildScene(database, 10).at(0);
@@ -50,7 +50,7 @@ TEST(Scene, ACircleStaysOnItsRadiusAndIsClosed) {
   EXPECT_NEAR(circle.points.front().distanceTo(circle.points.back()), 0, 1e-9);
 }
 
-TEST(Scene, AReferenceShowsItsBlockMovedTurnedAndScaled) {
+TEST(Scene, AReferenceTransformsItsBlock) {
   AcDbDatabase database;
   AcDbBlockTableRecord& block = MakeBlock(database, L"门");
   block.setOrigin({1, 0, 0});
@@ -66,7 +66,7 @@ TEST(Scene, AReferenceShowsItsBlockMovedTurnedAndScaled) {
   EXPECT_NEAR(shape.points[1].y, 2, 1e-9);
 }
 
-TEST(Scene, ABlockThatHoldsItselfEnds) {
+TEST(Scene, ARecursiveBlockEnds) {
   AcDbDatabase database;
   AcDbBlockTableRecord& block = MakeBlock(database, L"环");
   block.appendAcDbEntity(new AcDbLine({0, 0, 0}, {1, 0, 0}));
@@ -76,7 +76,7 @@ TEST(Scene, ABlockThatHoldsItselfEnds) {
   EXPECT_GT(BuildScene(database, 1).size(), 1u);
 }
 
-TEST(Scene, BlocksThatMultiplyAreCutAtALimit) {
+TEST(Scene, NestedBlockArraysAreLimited) {
   AcDbDatabase database;
   AcDbBlockTableRecord* inner = &MakeBlock(database, L"B0");
   for (int i = 0; i < 10; ++i) inner->appendAcDbEntity(new AcDbLine({0, 0, 0}, {1, 1, 0}));
@@ -87,7 +87,7 @@ TEST(Scene, BlocksThatMultiplyAreCutAtALimit) {
     inner = &outer;
   }
   Space(database).appendAcDbEntity(new AcDbBlockReference({0, 0, 0}, inner->objectId()));
-  EXPECT_LE(BuildScene(database, 1).size(), 2000000u);  // a thousand million without the limit
+  EXPECT_LE(BuildScene(database, 1).size(), 2000000u);  // 1e9 without the limit
 }
 
 TEST(Scene, AFrozenLayerIsNotShown) {
@@ -113,10 +113,10 @@ TEST(Scene, TheNearestEntityWithinReachIsFound) {
   Space(database).appendAcDbEntity(circle);
   EXPECT_EQ(EntityAt(database, {5, 0.5, 0}, 1), line);
   EXPECT_EQ(EntityAt(database, {7.2, 5, 0}, 1), circle);
-  EXPECT_EQ(EntityAt(database, {5, 5, 0}, 1), nullptr);  // inside a circle is beside it
+  EXPECT_EQ(EntityAt(database, {5, 5, 0}, 1), nullptr);  // the inside of a circle is not hit
 }
 
-TEST(Scene, ATextIsHitOnItsWholeField) {
+TEST(Scene, ATextIsHitAnywhereInItsRectangle) {
   AcDbDatabase database;
   auto* text = new AcDbText({0, 0, 0}, L"ABCDE", 10);
   Space(database).appendAcDbEntity(text);
@@ -127,7 +127,7 @@ TEST(Scene, ATextIsHitOnItsWholeField) {
   EXPECT_EQ(EntityAt(database, at, 0.1), text);
 }
 
-TEST(Scene, ExtentsHoldAllThatIsDrawn) {
+TEST(Scene, ExtentsIncludeAllShapes) {
   AcDbDatabase database;
   EXPECT_FALSE(ExtentsOf(database).isValid());
   Space(database).appendAcDbEntity(new AcDbLine({-3, 2, 0}, {10, 7, 0}));
@@ -151,12 +151,12 @@ TEST(Scene, ViewPixelsAndWorldPointsAreInverse) {
   EXPECT_NEAR(view.ToWorld({200, 100}).x, before.x, 1e-9);
   view.PanBy(30, -20);
   EXPECT_NEAR(view.ToWorld({230, 80}).y, before.y, 1e-9);
-  EXPECT_GT(view.ToPixel({1e300, 0, 0}).x, 1000000);  // far away stays a number
+  EXPECT_GT(view.ToPixel({1e300, 0, 0}).x, 1000000);  // clamped, not overflowed
 }
 
-TEST(Scene, CodesInTextsAreShownAsWhatTheyMean) {
-  EXPECT_EQ(ShownText(L"%%c100 %%p0.000 45%%d %%u下划"), L"Φ100 ±0.000 45° 下划");
-  EXPECT_EQ(ShownText(L"100%"), L"100%");
+TEST(Scene, CodesInTextsAreReplaced) {
+  EXPECT_EQ(DisplayText(L"%%c100 %%p0.000 45%%d %%u下划"), L"Φ100 ±0.000 45° 下划");
+  EXPECT_EQ(DisplayText(L"100%"), L"100%");
   EXPECT_EQ(MTextLines(L"{\\fArial|b1;粗}体\\P第二行\\H2.5x;高", 0),
             (std::vector<std::wstring>{L"粗体", L"第二行高"}));
   EXPECT_EQ(MTextLines(L"aaa bbb ccc", 4.5).size(), 2u);

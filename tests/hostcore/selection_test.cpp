@@ -18,7 +18,7 @@ struct WildCase {
 
 }  // namespace
 
-TEST(WildCards, MatchAsTheHostDefinesThem) {
+TEST(WildCards, MatchAsDefinedByTheHost) {
   const WildCase cases[] = {
       {L"QVX_WALL", L"QVX_*", true},
       {L"qvx_wall", L"QVX_*", true},
@@ -54,7 +54,7 @@ TEST(WildCards, MatchAsTheHostDefinesThem) {
         << Utf8(c.text) << " with " << Utf8(c.pattern);
 }
 
-TEST(WildCards, ManyStarsDoNotTakeForEver) {
+TEST(WildCards, ManyStarsDoNotTakeExponentialTime) {
   std::wstring pattern;
   for (int i = 0; i < 200; ++i) pattern += L"*a";
   EXPECT_FALSE(WildMatch(std::wstring(5000, L'a') + L"b", pattern));
@@ -68,7 +68,7 @@ class Selection : public hosttest::HostTest {
     Send(L"LAYER 墙线\nLINE 0,0 10,0 \nLAYER 0\nCIRCLE 5,5 2 LINE 20,20 30,30 \n");
     ASSERT_EQ(Entities().size(), 3u);
   }
-  // How many a filter finds in the whole drawing; -1 when the call fails.
+  // The number of entities that a filter finds in the drawing; -1 if the call fails.
   int Count(resbuf* filter, const wchar_t* mode = L"X") {
     ads_name set{};
     int length = -1;
@@ -95,7 +95,7 @@ TEST_F(Selection, FiltersNestWithOperators) {
   EXPECT_EQ(Count(acutBuildList(-4, L"<AND", RTDXF0, L"LINE", 8, L"0", -4, L"AND>", RTNONE)), 1);
 }
 
-TEST_F(Selection, AnUnclosedOrUnknownOperatorEndsWithoutHarm) {
+TEST_F(Selection, UnclosedAndUnknownOperatorsAreHarmless) {
   EXPECT_EQ(Count(acutBuildList(-4, L"<OR", RTDXF0, L"CIRCLE", RTNONE)), 1);
   EXPECT_EQ(Count(acutBuildList(-4, L"<OR", RTNONE)), -1);
 }
@@ -105,7 +105,7 @@ TEST_F(Selection, TheImpliedSetIsThePickFirstSet) {
   host.documents.Current()->pickFirst = {Entities()[1]->objectId(), Entities()[2]->objectId()};
   EXPECT_EQ(Count(nullptr, L"_I"), 2);
   EXPECT_EQ(Count(acutBuildList(0, L"LINE", 0), L"I"), 1);
-  EXPECT_EQ(Count(nullptr, L"P"), 1);  // what the latest call found
+  EXPECT_EQ(Count(nullptr, L"P"), 1);  // the result of the latest call
   EXPECT_EQ(Count(nullptr, L"Q?"), -1);
 }
 
@@ -116,7 +116,7 @@ TEST_F(Selection, ThePickFirstSetIsReadAndWrittenThroughSets) {
   ASSERT_EQ(acedSSGet(L"X", nullptr, nullptr, nullptr, set), RTNORM);
   EXPECT_EQ(acedSSSetFirst(set, set), RTNORM);
   EXPECT_EQ(host.documents.Current()->pickFirst.size(), 3u);
-  EXPECT_EQ(ui.diary.back(), L"selection");
+  EXPECT_EQ(ui.log.back(), L"selection");
   ASSERT_EQ(acedSSGetFirst(&grips, &picked), RTNORM);
   EXPECT_EQ(picked->restype, RTPICKS);
   int length = 0;
@@ -131,7 +131,7 @@ TEST_F(Selection, ThePickFirstSetIsReadAndWrittenThroughSets) {
   EXPECT_TRUE(host.documents.Current()->pickFirst.empty());
 }
 
-TEST_F(Selection, SetsGrowShrinkAndKnowTheirMembers) {
+TEST_F(Selection, MembersAreAddedRemovedAndFound) {
   ads_name set{}, entity{}, other{};
   ASSERT_EQ(acdbGetAdsName(entity, Entities()[0]->objectId()), Acad::eOk);
   ASSERT_EQ(acdbGetAdsName(other, Entities()[1]->objectId()), Acad::eOk);
@@ -153,7 +153,7 @@ TEST_F(Selection, SetsGrowShrinkAndKnowTheirMembers) {
   EXPECT_EQ(acedSSLength(set, &length), RTERROR);
 }
 
-TEST_F(Selection, ABoxTakesWhatLiesInsideOrAllThatItTouches) {
+TEST_F(Selection, ABoxSelectsInsideOrCrossing) {
   const ads_point a = {-1, -1, 0}, b = {6, 6, 0};
   ads_name set{};
   int length = 0;
@@ -164,11 +164,11 @@ TEST_F(Selection, ABoxTakesWhatLiesInsideOrAllThatItTouches) {
   acedSSFree(set);
 }
 
-TEST_F(Selection, ObjectsAreAskedForByClickAndByBox) {
-  Then([&] { host.engine.GivePoint({7, 5, 0}); });    // on the circle
-  Then([&] { host.engine.GivePoint({15, 15, 0}); });  // beside all: a box begins
-  Then([&] { host.engine.GivePoint({40, 40, 0}); });
-  Then([&] { host.engine.TypeLine(L""); });
+TEST_F(Selection, ObjectsAreSelectedByClickAndByBox) {
+  Then([&] { host.engine.EnterPoint({7, 5, 0}); });    // on the circle
+  Then([&] { host.engine.EnterPoint({15, 15, 0}); });  // empty space: a box begins
+  Then([&] { host.engine.EnterPoint({40, 40, 0}); });
+  Then([&] { host.engine.EnterLine(L""); });
   Send(L"ERASE\n");
   ASSERT_EQ(Entities().size(), 1u);
   EXPECT_STREQ(Entities()[0]->layer(), L"墙线");
@@ -183,7 +183,7 @@ class PaperSpace : public hosttest::HostTest {
   Document& Drawing() { return *host.documents.Current(); }
 };
 
-TEST_F(PaperSpace, AViewportIsPickedByItsFrameAndKnownByItsType) {
+TEST_F(PaperSpace, AViewportIsPickedByItsFrameAndFilteredByItsType) {
   ASSERT_EQ(host.variables.Set(L"TILEMODE", L"0"), VarResult::Ok);
   ASSERT_EQ(Entities().size(), 1u);
   AcDbEntity* viewport = EntityAt(*Drawing().database(), {0, 30, 0}, 1);  // its left edge
@@ -196,14 +196,14 @@ TEST_F(PaperSpace, AViewportIsPickedByItsFrameAndKnownByItsType) {
   }
 }
 
-TEST_F(PaperSpace, ChangingTheSpaceDropsTheSelectionAndShowsTheOtherSpaceWhole) {
+TEST_F(PaperSpace, ChangingTheSpaceClearsTheSelectionAndZoomsToTheExtents) {
   Drawing().view.Resize(400, 200);
   Drawing().pickFirst = {Entities()[0]->objectId()};
   ASSERT_EQ(host.variables.Set(L"TILEMODE", L"0"), VarResult::Ok);
   EXPECT_TRUE(Drawing().pickFirst.empty());
-  EXPECT_EQ(ui.diary.back(), L"var TILEMODE");
+  EXPECT_EQ(ui.log.back(), L"var TILEMODE");
   EXPECT_NEAR(Drawing().view.ToWorld({200, 100}).x, 100, 1);  // the middle of the viewport
   Drawing().pickFirst = {Entities()[0]->objectId()};
-  ASSERT_EQ(host.variables.Set(L"CVPORT", L"1"), VarResult::Ok);  // where it is already
+  ASSERT_EQ(host.variables.Set(L"CVPORT", L"1"), VarResult::Ok);  // the current value
   EXPECT_EQ(Drawing().pickFirst.size(), 1u);
 }

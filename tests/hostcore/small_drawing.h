@@ -1,5 +1,5 @@
-// A drawing in the exchange format that holds one of everything the reader knows, built by hand, so
-// that tests can cut and damage it.
+// A hand-written drawing with one object of every kind that the reader knows, for tests that
+// truncate and damage it.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// The trace of the start: when it begins and ends, what is one step, and how it is written.
+// The trace of a start: begin, end, steps, JSON.
 #include "devhost/core/base/start_trace.h"
 
 #include "host_fixture.h"
@@ -21,17 +21,17 @@ class StartTraceTest : public ::testing::Test {
   StartTrace trace{[this] { return now; }};
 };
 
-TEST_F(StartTraceTest, NothingIsKeptUnlessItIsAsked) {
+TEST_F(StartTraceTest, NothingIsRecordedUnlessArmed) {
   trace.Begin("a.arx");
   trace.Step("addCommand", "TOne");
-  trace.PaletteShown();
+  trace.MarkPaletteShown();
   EXPECT_TRUE(trace.Steps().empty());
-  EXPECT_FALSE(trace.Shown());
+  EXPECT_FALSE(trace.IsPaletteShown());
 }
 
-TEST_F(StartTraceTest, TheClockBeginsWithTheFirstModuleAndStaysThereForTheNext) {
+TEST_F(StartTraceTest, TimesAreRelativeToTheFirstModule) {
   trace.Arm();
-  trace.Step("command line");  // before any module: not of its start
+  trace.Step("command line");  // before any module, so not recorded
   trace.Begin("a.arx");
   now += 1500;
   trace.Begin("kernel.arx");
@@ -41,7 +41,7 @@ TEST_F(StartTraceTest, TheClockBeginsWithTheFirstModuleAndStaysThereForTheNext) 
   EXPECT_EQ(trace.Steps()[1].detail, "kernel.arx");
 }
 
-TEST_F(StartTraceTest, AsManyStepsOfOneNameInARowAreOneWithTheFirstDetail) {
+TEST_F(StartTraceTest, ConsecutiveStepsOfOneNameAreOneStepWithTheFirstDetail) {
   trace.Arm();
   trace.Begin("a.arx");
   for (const char* name : {"TOne", "TTwo", "TThree"}) {
@@ -56,17 +56,17 @@ TEST_F(StartTraceTest, AsManyStepsOfOneNameInARowAreOneWithTheFirstDetail) {
   EXPECT_EQ(trace.Steps()[1].detail, "TOne");
 }
 
-TEST_F(StartTraceTest, IdleTimeEndsItOnlyBehindThePalette) {
+TEST_F(StartTraceTest, IdleTimeEndsTheTraceOnlyAfterThePalette) {
   trace.Arm();
   trace.Begin("a.arx");
-  trace.Quiet();
-  EXPECT_TRUE(trace.Runs());
+  trace.MarkIdle();
+  EXPECT_TRUE(trace.IsRunning());
   now += 2000;
-  trace.PaletteShown();
+  trace.MarkPaletteShown();
   now += 1000;
-  trace.PaletteShown();  // it is shown again while it is laid out
-  trace.Quiet();
-  EXPECT_FALSE(trace.Runs());
+  trace.MarkPaletteShown();  // shown again during layout
+  trace.MarkIdle();
+  EXPECT_FALSE(trace.IsRunning());
   trace.Step("late");
   EXPECT_EQ(Names(trace),
             (std::vector<std::string>{"kInitAppMsg", "idle", "palette shown", "idle"}));
@@ -78,7 +78,7 @@ TEST_F(StartTraceTest, IdleTimeEndsItOnlyBehindThePalette) {
   EXPECT_EQ(written["steps"][3]["took"], 0.0);
 }
 
-TEST_F(StartTraceTest, WhatWasNotReachedIsNull) {
+TEST_F(StartTraceTest, TimesNotReachedAreNull) {
   trace.Arm();
   trace.Begin("a.arx");
   const Json written = Json::parse(trace.Json());

@@ -1,4 +1,4 @@
-// Taking commands back.
+// Undo.
 #include "devhost/core/modules/class_binding.h"
 #include "host_fixture.h"
 
@@ -8,7 +8,8 @@ namespace {
 
 AcDbText* g_text = nullptr;
 
-// What a module's command does to a drawing: opened by the published calls, changed, closed.
+// What a command of a module does: opens an object with the published functions, changes and closes
+// it.
 void ChangeText() {
   AcDbText* text = nullptr;
   if (acdbOpenObject(text, g_text->objectId(), AcDb::kForWrite) != Acad::eOk) return;
@@ -82,7 +83,7 @@ class Undo : public hosttest::HostTest {
   double FirstX() { return static_cast<AcDbLine*>(Entities().at(0))->startPoint().x; }
 };
 
-TEST_F(Undo, OneStepTakesBackOneCommandWhole) {
+TEST_F(Undo, OneStepRevertsOneWholeCommand) {
   Send(L"LINE 0,0 1,0 2,0 3,0 \n");
   EXPECT_EQ(Entities().size(), 3u);
   Send(L"U\n");
@@ -91,17 +92,17 @@ TEST_F(Undo, OneStepTakesBackOneCommandWhole) {
   EXPECT_NE(ui.printed.find(L"所有内容都已放弃"), std::wstring::npos);
 }
 
-TEST_F(Undo, WhatWasErasedComesBackAndStaysBackAtTheNextStep) {
+TEST_F(Undo, ErasedObjectsAreRestoredAndStayAtTheNextStep) {
   Send(L"LINE 0,0 1,0 \n");
   Send(L"ERASE ALL \n");
   EXPECT_TRUE(Entities().empty());
   Send(L"U\n");
   EXPECT_EQ(Entities().size(), 1u);
   Send(L"U\n");
-  EXPECT_TRUE(Entities().empty());  // the line itself, not the erasing again
+  EXPECT_TRUE(Entities().empty());  // undoes the line, not the erasing again
 }
 
-TEST_F(Undo, WhatWasMovedGoesBack) {
+TEST_F(Undo, MovedObjectsAreMovedBack) {
   Send(L"LINE 5,0 6,0 \n");
   Send(L"MOVE ALL \n0,0 10,0\n");
   EXPECT_EQ(FirstX(), 15);
@@ -109,7 +110,7 @@ TEST_F(Undo, WhatWasMovedGoesBack) {
   EXPECT_EQ(FirstX(), 5);
 }
 
-TEST_F(Undo, AnAttributedReferenceGoesBackOnce) {
+TEST_F(Undo, AReferenceWithAttributesIsMovedBackOnce) {
   AcDbDatabase& database = *host.documents.Current()->database();
   auto* space = AcDbBlockTableRecord::cast(database.currentSpaceId().object());
   auto* reference = new AcDbBlockReference({1, 1, 0}, database.currentSpaceId());
@@ -124,7 +125,7 @@ TEST_F(Undo, AnAttributedReferenceGoesBackOnce) {
   EXPECT_EQ(attribute->position().x, 0);
 }
 
-TEST_F(Undo, SeveralStepsAndGroups) {
+TEST_F(Undo, SeveralStepsAndGroupsAreReverted) {
   for (int i = 0; i < 5; ++i) Send(L"LINE 0,0 1,0 \n");
   Send(L"UNDO 2\n");
   EXPECT_EQ(Entities().size(), 3u);
@@ -143,7 +144,7 @@ TEST_F(Undo, StepsBelongToTheirDrawing) {
   EXPECT_EQ(Entities().size(), 1u);
 }
 
-TEST_F(Undo, DataOfAnObjectThatACommandOpenedForWritingComeBack) {
+TEST_F(Undo, DataOfAnObjectOpenedForWritingAreRestored) {
   MakeText();
   Send(L"TCHANGE\n");
   EXPECT_STREQ(g_text->textStringConst(), L"原文+");
@@ -154,13 +155,13 @@ TEST_F(Undo, DataOfAnObjectThatACommandOpenedForWritingComeBack) {
   EXPECT_EQ(g_text->colorIndex(), 256);
 }
 
-TEST_F(Undo, AnObjectOpenedForReadingAndUpgradedComesBackToo) {
+TEST_F(Undo, DataOfAnUpgradedObjectAreRestored) {
   MakeText();
   Send(L"TCHANGEUP\nU\n");
   EXPECT_STREQ(g_text->textStringConst(), L"原文");
 }
 
-TEST_F(Undo, AGroupOfCommandsThatChangedMovedAndErasedOneObjectIsTakenBackAtOnce) {
+TEST_F(Undo, AGroupThatChangedMovedAndErasedOneObjectIsRevertedAtOnce) {
   MakeText();
   Send(L"UNDO BE TCHANGE\nMOVE ALL \n0,0 10,0\nTCHANGE\nERASE ALL \nUNDO E ");
   EXPECT_TRUE(Entities().empty());
@@ -169,10 +170,10 @@ TEST_F(Undo, AGroupOfCommandsThatChangedMovedAndErasedOneObjectIsTakenBackAtOnce
   EXPECT_STREQ(g_text->textStringConst(), L"原文");
   EXPECT_EQ(g_text->position().x, 0);
   Send(L"U\n");
-  EXPECT_TRUE(Entities().empty());  // the text itself
+  EXPECT_TRUE(Entities().empty());  // undoes the text
 }
 
-TEST_F(Undo, ACommandThatSendsBeginAndEndItselfIsStillOneStep) {
+TEST_F(Undo, ACommandThatSendsBeginAndEndIsOneStep) {
   MakeText();
   Add(L"TGrouped", [] {
     acedCommandS(RTSTR, L"UNDO", RTSTR, L"BE", RTNONE);
@@ -205,20 +206,20 @@ TEST_F(Undo, ALockOutsideAllCommandsIsOneStep) {
   EXPECT_EQ(ScaleOfSpace(), 0);
 }
 
-TEST_F(Undo, VariablesOfTheDrawingComeBackWithTheSpaceThatTheyMean) {
+TEST_F(Undo, VariablesOfTheDrawingAreRestoredWithTheirSpace) {
   Send(L"SETVAR TILEMODE 0\nSETVAR CVPORT 3\n");
   Send(L"SETVAR TILEMODE 1\nSETVAR PICKSTYLE 3\n");
   Send(L"U\n");
   EXPECT_EQ(Var(L"TILEMODE"), L"0");
   EXPECT_EQ(Var(L"CVPORT"), L"3");
   EXPECT_EQ(Var(L"CTAB"), L"Layout1");
-  EXPECT_EQ(Var(L"PICKSTYLE"), L"3");  // the program's, not the drawing's: nothing to take back
+  EXPECT_EQ(Var(L"PICKSTYLE"), L"3");  // a variable of the program: not undone
   Send(L"U\nU\n");
   EXPECT_EQ(Var(L"TILEMODE"), L"1");
   EXPECT_EQ(Var(L"CVPORT"), L"2");
 }
 
-TEST_F(Undo, WhatACommandChangesBehindItsOwnUndoIsAStep) {
+TEST_F(Undo, ChangesAfterAnUndoInTheSameCommandAreAStep) {
   MakeText();
   Add(L"TBackAndOn", [] {
     acedCommandS(RTSTR, L"U", RTNONE);
@@ -230,8 +231,8 @@ TEST_F(Undo, WhatACommandChangesBehindItsOwnUndoIsAStep) {
   EXPECT_STREQ(g_text->textStringConst(), L"原文");
 }
 
-// Regression: the step of the running command named objects that were exchanged meanwhile.
-TEST_F(Undo, AClassThatGoesWhileACommandRunsTakesItsStepAlong) {
+// Regression: the step of the running command referred to entities that had been replaced.
+TEST_F(Undo, UnloadingAClassDuringACommandDiscardsItsStep) {
   MakeText();
   Add(L"TUnload", [] {
     ChangeText();
@@ -249,9 +250,9 @@ TEST_F(Undo, AClassThatGoesWhileACommandRunsTakesItsStepAlong) {
   BindOpaqueEntities();
 }
 
-// Undo reads an object's groups into the object itself, so no class may leave standing what its
-// earlier groups don't mention.
-TEST(ObjectState, OfEveryClassOverwritesAllThatWasReadInto) {
+// Undo reads groups into the existing object, so a class must reset members whose groups are
+// missing.
+TEST(ObjectState, RestoringOverwritesAllDataInEveryClass) {
   struct Case {
     const wchar_t* dxfName;
     std::vector<UndoItem> full;
@@ -316,9 +317,9 @@ TEST(ObjectState, OfEveryClassOverwritesAllThatWasReadInto) {
     const std::string full = Groups(*object);
     EXPECT_NE(full, bare) << Utf8(c.dxfName);
     const ObjectState after(*object);
-    before.PutBack(*object);
+    before.Restore(*object);
     EXPECT_EQ(Groups(*object), bare) << Utf8(c.dxfName);
-    after.PutBack(*object);
+    after.Restore(*object);
     EXPECT_EQ(Groups(*object), full) << Utf8(c.dxfName);
   }
 }

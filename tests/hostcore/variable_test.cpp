@@ -1,4 +1,4 @@
-// System variables as modules see them.
+// System variables through the published functions.
 #include "host_fixture.h"
 
 using namespace devhost;
@@ -27,7 +27,7 @@ TEST_F(Variables, NamesAreFoundInAnyCase) {
   EXPECT_EQ(rb.resval.rint, 1);
 }
 
-TEST_F(Variables, ReadOnlyOnesAndValuesOutOfRangeAreRejected) {
+TEST_F(Variables, ReadOnlyVariablesAndValuesOutOfRangeAreRejected) {
   NewDrawing();
   EXPECT_EQ(SetShort(L"CMDACTIVE", 1), RTREJ);
   EXPECT_EQ(SetShort(L"PICKSTYLE", 4), RTREJ);
@@ -36,14 +36,14 @@ TEST_F(Variables, ReadOnlyOnesAndValuesOutOfRangeAreRejected) {
   ASSERT_EQ(SetShort(L"PICKSTYLE", 1), RTNORM);
 }
 
-TEST_F(Variables, AStringInANumbersPlaceIsAnError) {
+TEST_F(Variables, AStringForANumberIsAnError) {
   resbuf rb{};
   rb.restype = RTSTR;
   rb.resval.rstring = const_cast<wchar_t*>(L"1");
   EXPECT_EQ(acedSetVar(L"CMDECHO", &rb), RTERROR);
 }
 
-TEST_F(Variables, RealsAreKeptWhole) {
+TEST_F(Variables, RealsAreStoredExactly) {
   resbuf rb{};
   rb.restype = RTREAL;
   rb.resval.rreal = 0.1 + 0.2;
@@ -54,7 +54,7 @@ TEST_F(Variables, RealsAreKeptWhole) {
   EXPECT_EQ(back.resval.rreal, 0.1 + 0.2);
 }
 
-TEST_F(Variables, StringsAreTheCallersToFree) {
+TEST_F(Variables, StringsAreFreedByTheCaller) {
   NewDrawing();
   resbuf rb{};
   ASSERT_EQ(acedGetVar(L"DWGNAME", &rb), RTNORM);
@@ -63,14 +63,14 @@ TEST_F(Variables, StringsAreTheCallersToFree) {
   free(rb.resval.rstring);
 }
 
-TEST_F(Variables, WritingIsRecordedAndToldToTheWindows) {
+TEST_F(Variables, WritingIsRecordedAndReportedToTheWindows) {
   NewDrawing();
   ASSERT_EQ(SetShort(L"GRIDMODE", 1), RTNORM);
   EXPECT_EQ(Journal("var"), std::vector<std::string>{"GRIDMODE 1"});
-  EXPECT_EQ(ui.diary.back(), L"var GRIDMODE");
+  EXPECT_EQ(ui.log.back(), L"var GRIDMODE");
 }
 
-TEST_F(Variables, ThoseOfADrawingGoWithIt) {
+TEST_F(Variables, VariablesOfADrawingBelongToIt) {
   Document& first = NewDrawing();
   ASSERT_EQ(SetShort(L"ORTHOMODE", 1), RTNORM);
   NewDrawing();
@@ -79,7 +79,7 @@ TEST_F(Variables, ThoseOfADrawingGoWithIt) {
   EXPECT_EQ(Var(L"ORTHOMODE"), L"1");
 }
 
-TEST_F(Variables, WithoutADrawingOnlyThoseOfTheProgramAnswer) {
+TEST_F(Variables, WithoutADrawingOnlyVariablesOfTheProgramExist) {
   EXPECT_EQ(Var(L"CPROFILE"), L"测试");
   EXPECT_EQ(Var(L"ACADVER"), L"24.0");
   resbuf rb{};
@@ -94,13 +94,13 @@ TEST_F(Variables, LeavingTheModelTabChangesSpaceViewportAndTab) {
   EXPECT_EQ(Var(L"CVPORT"), L"1");
   EXPECT_EQ(Var(L"CTAB"), L"Layout1");
   EXPECT_NE(drawing.database()->currentSpaceId(), model);
-  ASSERT_EQ(SetShort(L"CVPORT", 2), RTNORM);  // into a viewport: the model again
+  ASSERT_EQ(SetShort(L"CVPORT", 2), RTNORM);  // enters a viewport: model space again
   EXPECT_EQ(drawing.database()->currentSpaceId(), model);
   ASSERT_EQ(SetShort(L"TILEMODE", 1), RTNORM);
   EXPECT_EQ(Var(L"CVPORT"), L"2");
 }
 
-TEST_F(Variables, PointsAnswerAsPoints) {
+TEST_F(Variables, PointsAreReturnedAsPoints) {
   NewDrawing();
   host.documents.Current()->view.Resize(640, 480);
   resbuf rb{};

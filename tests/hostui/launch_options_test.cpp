@@ -1,4 +1,4 @@
-// The command line of the development host: what each word means and which mistake is told how.
+// The command line: every option and every error message.
 #include <gtest/gtest.h>
 
 #include "devhost/ui/launch/launch_options.h"
@@ -23,7 +23,7 @@ LaunchOptions Parsed(const Words& words) {
 
 }  // namespace
 
-TEST(LaunchOptions, NoWordsGiveTheDefaults) {
+TEST(LaunchOptions, WithoutWordsTheDefaultsApply) {
   const LaunchOptions o = Parsed({});
   EXPECT_EQ(o.hostVersion, 24.0);
   EXPECT_EQ(o.profile, L"default");
@@ -33,7 +33,7 @@ TEST(LaunchOptions, NoWordsGiveTheDefaults) {
   EXPECT_TRUE(o.modules.empty() && o.drawings.empty() && o.script.empty() && o.journal.empty());
 }
 
-TEST(LaunchOptions, EveryOptionLandsInItsField) {
+TEST(LaunchOptions, EveryOptionSetsItsField) {
   const LaunchOptions o = Parsed({L"--product",
                                   L"p",
                                   L"--host-version",
@@ -67,15 +67,15 @@ TEST(LaunchOptions, EveryOptionLandsInItsField) {
   EXPECT_EQ(o.drawings, (Words{L"x.dxf", L"y.dxf"}));
 }
 
-TEST(LaunchOptions, AValueMayStandBehindAnEqualsSign) {
+TEST(LaunchOptions, AValueMayFollowAnEqualsSign) {
   EXPECT_EQ(Parsed({L"--journal=out.jsonl"}).journal, L"out.jsonl");
 }
 
-TEST(LaunchOptions, BehindTwoHyphensEveryWordIsADrawing) {
+TEST(LaunchOptions, AfterTwoHyphensEveryWordIsADrawing) {
   EXPECT_EQ(Parsed({L"--", L"--play"}).drawings, Words{L"--play"});
 }
 
-TEST(LaunchOptions, MistakesAreToldWithTheWordThatIsWrong) {
+TEST(LaunchOptions, MistakesAreReportedWithTheWrongWord) {
   EXPECT_EQ(ErrorOf({L"--wrong"}), L"unknown option --wrong");
   EXPECT_EQ(ErrorOf({L"-x"}), L"unknown option -x");
   EXPECT_EQ(ErrorOf({L"--play"}), L"--play needs a value");
@@ -90,7 +90,7 @@ TEST(LaunchOptions, MistakesAreToldWithTheWordThatIsWrong) {
   EXPECT_EQ(ErrorOf({L""}), L"a drawing has an empty name");
 }
 
-TEST(LaunchOptions, AReleaseIsANumberOfTenths) {
+TEST(LaunchOptions, AReleaseHasOneDecimal) {
   EXPECT_EQ(Parsed({L"--host-version", L"15.0"}).hostVersion, 15.0);
   EXPECT_EQ(Parsed({L"--host-version", L"24.3"}).hostVersion, 24.3);
   EXPECT_EQ(ErrorOf({L"--host-version", L"16.11"}),
@@ -99,7 +99,7 @@ TEST(LaunchOptions, AReleaseIsANumberOfTenths) {
             L"--host-version takes a release number such as 24.0, not 14.9");
 }
 
-TEST(LaunchOptions, TheDoctorStandsAloneAndTakesTheSameOptions) {
+TEST(LaunchOptions, TheDoctorTakesTheSameOptions) {
   LaunchOptions options;
   std::wstring error;
   ASSERT_TRUE(ParseLaunchOptions({L"--doctor", L"--product", L"p"}, &options, &error));

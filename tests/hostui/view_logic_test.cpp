@@ -1,4 +1,4 @@
-// The plain decisions of the host's windows: status bar fields, picking, command line keys.
+// Decisions of the host's windows: status bar layout, picking, command line keys.
 #include <gtest/gtest.h>
 
 #include "devhost/ui/bars/command_history.h"
@@ -16,7 +16,7 @@ LONG Width(const RECT& r) { return r.right - r.left; }
 
 }  // namespace
 
-TEST(StatusLayout, PanesStandAtTheRightAndTheMessageTakesTheRest) {
+TEST(StatusLayout, PanesAreRightAlignedAndTheMessageFillsTheRest) {
   const StatusLayout l = LayOutStatusBar({500, 22}, 100, 2, {Pane(30), Pane(40)});
   EXPECT_EQ(l.coordinates.right, 100);
   EXPECT_EQ(l.panes[0].left, 500 - 30 - 40 - 4);
@@ -26,27 +26,27 @@ TEST(StatusLayout, PanesStandAtTheRightAndTheMessageTakesTheRest) {
   EXPECT_EQ(l.message.right, l.panes[0].left);
 }
 
-TEST(StatusLayout, LeastAndGreatestWidthHold) {
+TEST(StatusLayout, WidthsAreLimited) {
   const StatusLayout l = LayOutStatusBar({500, 22}, 100, 0, {{10, 50, 0, true}, {90, 0, 60, true}});
   EXPECT_EQ(Width(l.panes[0]), 50);
   EXPECT_EQ(Width(l.panes[1]), 60);
 }
 
-TEST(StatusLayout, AHiddenPaneTakesNoRoomAndIsNeverHit) {
+TEST(StatusLayout, AHiddenPaneHasNoRectangleAndIsNeverHit) {
   const StatusLayout l =
       LayOutStatusBar({500, 22}, 100, 2, {Pane(30), {40, 0, 0, false}, Pane(20)});
   EXPECT_EQ(Width(l.panes[1]), 0);
   EXPECT_EQ(l.panes[2].left, l.panes[0].right + 2);
 }
 
-TEST(StatusLayout, PanesWithoutRoomAreLeftOutWholeFromTheEnd) {
+TEST(StatusLayout, PanesThatDoNotFitAreOmittedFromTheEnd) {
   const StatusLayout l = LayOutStatusBar({150, 22}, 100, 0, {Pane(30), Pane(30), Pane(5)});
   EXPECT_EQ(Width(l.panes[0]), 30);
   EXPECT_EQ(Width(l.panes[1]), 0);
   EXPECT_EQ(Width(l.panes[2]), 0);
 }
 
-TEST(StatusLayout, APointFindsThePaneUnderIt) {
+TEST(StatusLayout, HitTestingFindsThePane) {
   const StatusLayout l = LayOutStatusBar({500, 22}, 100, 2, {Pane(30), Pane(40)});
   EXPECT_EQ(HitTestPane(l, {l.panes[0].left, 5}), 0);
   EXPECT_EQ(HitTestPane(l, {l.panes[0].right, 5}), -1) << "the gap belongs to no pane";
@@ -54,13 +54,13 @@ TEST(StatusLayout, APointFindsThePaneUnderIt) {
   EXPECT_EQ(HitTestPane(l, {50, 5}), -1);
 }
 
-TEST(PickLogic, ABoxDrawnToTheLeftCrosses) {
+TEST(PickLogic, ABoxDrawnToTheLeftIsCrossing) {
   EXPECT_TRUE(IsCrossing({100, 0}, {99, 50}));
   EXPECT_FALSE(IsCrossing({100, 0}, {100, 50}));
   EXPECT_FALSE(IsCrossing({100, 0}, {140, -50}));
 }
 
-TEST(PickLogic, AHandThatTremblesIsNotADrag) {
+TEST(PickLogic, SmallMovementsAreNotADrag) {
   EXPECT_FALSE(IsDrag({10, 10}, {14, 6}));
   EXPECT_TRUE(IsDrag({10, 10}, {15, 10}));
   EXPECT_TRUE(IsDrag({10, 10}, {10, 5}));
@@ -74,19 +74,19 @@ TEST(PickLogic, ABoxHasItsSidesInOrder) {
   EXPECT_EQ(r.bottom, 60);
 }
 
-TEST(PickLogic, ANotchForwardAndBackEndsWhereItBegan) {
+TEST(PickLogic, ANotchForwardAndBackRestoresTheScale) {
   EXPECT_DOUBLE_EQ(WheelZoom(120) * WheelZoom(-120), 1.0);
   EXPECT_GT(WheelZoom(120), 1.0);
 }
 
-TEST(PickLogic, TheNearestGripWins) {
+TEST(PickLogic, TheNearestGripIsHit) {
   const POINT spots[] = {{0, 0}, {6, 0}, {100, 100}};
   EXPECT_EQ(NearestSpot(spots, 3, {4, 0}, 5), 1);
   EXPECT_EQ(NearestSpot(spots, 3, {1, 1}, 5), 0);
   EXPECT_EQ(NearestSpot(spots, 3, {50, 50}, 5), -1);
 }
 
-TEST(CommandHistory, TheUpArrowWalksBackAndTheDownArrowReturnsToWhatWasTyped) {
+TEST(CommandHistory, TheUpArrowRecallsLinesAndTheDownArrowReturnsToTheInput) {
   CommandHistory h;
   h.Add(L"LINE");
   h.Add(L"ZOOM");
@@ -98,7 +98,7 @@ TEST(CommandHistory, TheUpArrowWalksBackAndTheDownArrowReturnsToWhatWasTyped) {
   EXPECT_EQ(h.Newer(L"half"), L"half");
 }
 
-TEST(CommandHistory, RepeatsAndEmptyLinesAreNotKept) {
+TEST(CommandHistory, RepeatsAndEmptyLinesAreNotStored) {
   CommandHistory h;
   h.Add(L"LINE");
   h.Add(L"");
@@ -108,13 +108,13 @@ TEST(CommandHistory, RepeatsAndEmptyLinesAreNotKept) {
   EXPECT_EQ(h.Newer(L""), L"");
 }
 
-TEST(CommandHistory, WithNothingTypedYetTheArrowsKeepTheText) {
+TEST(CommandHistory, WithAnEmptyHistoryTheArrowsKeepTheText) {
   CommandHistory h;
   EXPECT_EQ(h.Older(L"abc"), L"abc");
   EXPECT_EQ(h.Newer(L"abc"), L"abc");
 }
 
-TEST(BlankEndsLine, SaveInTextQuotesAndOpenParentheses) {
+TEST(BlankEndsLine, ExceptInTextQuotesAndOpenParentheses) {
   EXPECT_TRUE(BlankEndsLine(L"LINE", false));
   EXPECT_FALSE(BlankEndsLine(L"some text", true));
   EXPECT_FALSE(BlankEndsLine(L"(setq a", false));
@@ -122,7 +122,7 @@ TEST(BlankEndsLine, SaveInTextQuotesAndOpenParentheses) {
   EXPECT_FALSE(BlankEndsLine(L"(princ \")", false));
 }
 
-TEST(AciColor, TheNamedColoursAndTheContrastToTheGround) {
+TEST(AciColor, NamedColoursAndTheContrastToTheBackground) {
   EXPECT_EQ(ColorOfAci(1, true), RGB(255, 0, 0));
   EXPECT_EQ(ColorOfAci(5, true), RGB(0, 0, 255));
   EXPECT_EQ(ColorOfAci(7, true), RGB(255, 255, 255));
@@ -130,7 +130,7 @@ TEST(AciColor, TheNamedColoursAndTheContrastToTheGround) {
   EXPECT_EQ(ColorOfAci(256, true), RGB(255, 255, 255)) << "no colour of its own";
 }
 
-TEST(AciColor, HuesGoRoundInTensAndFadeByTheLastDigit) {
+TEST(AciColor, TensSelectTheHueAndTheLastDigitTheStrength) {
   EXPECT_EQ(ColorOfAci(10, true), RGB(255, 0, 0));
   EXPECT_EQ(ColorOfAci(11, true), RGB(255, 128, 128)) << "odd numbers are pale";
   EXPECT_EQ(ColorOfAci(50, true), RGB(255, 255, 0));

@@ -1,6 +1,5 @@
-// The entry for a fuzzer: any bytes are a script or an error with a place, and nothing else
-// happens. Built alone with a fuzzing engine, or called by test_play_script.cpp with bytes of a
-// fixed seed.
+// The entry point for a fuzzer: any bytes are a script or an error with a place. Built with a
+// fuzzing engine, or called by test_play_script.cpp with random bytes of a fixed seed.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

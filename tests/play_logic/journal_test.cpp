@@ -24,7 +24,7 @@ std::string Written(const std::function<void(Journal&)>& record) {
   return text;
 }
 
-TEST(Journal, NumbersItsEntriesFromOne) {
+TEST(Journal, EntriesAreNumberedFromOne) {
   Journal journal;
   EXPECT_EQ(journal.Count(), 0);
   journal.Record("sent", {{"text", "a"}});
@@ -52,14 +52,14 @@ TEST(Journal, WritesOneLineAnEntry) {
   EXPECT_EQ(Json::parse(text.substr(end + 1))["phase"], "start");
 }
 
-TEST(Journal, BrokenTextIsReplacedNotRefused) {
+TEST(Journal, InvalidTextIsReplaced) {
   const std::string text = Written([](Journal& journal) {
     journal.Record("sent", {{"text", "a\xFFz"}});
   });
   EXPECT_NE(text.find("a\xEF\xBF\xBDz"), std::string::npos);
 }
 
-TEST(Journal, WaitingEndsWithTheEntry) {
+TEST(Journal, WaitForReturnsWithTheEntry) {
   Journal journal;
   journal.Record("sent", {{"text", "early"}});
   std::thread other([&] { journal.Record("sent", {{"text", "late"}}); });
@@ -69,21 +69,21 @@ TEST(Journal, WaitingEndsWithTheEntry) {
   EXPECT_TRUE(came);
 }
 
-TEST(Journal, WaitingLooksOnlyBehindTheNumber) {
+TEST(Journal, WaitForExaminesOnlyEntriesAfterTheNumber) {
   Journal journal;
   journal.Record("sent", {{"text", "a"}});
   EXPECT_TRUE(journal.WaitFor(0, 0ms, [](const JournalEntry&) { return true; }));
   EXPECT_FALSE(journal.WaitFor(1, 1ms, [](const JournalEntry&) { return true; }));
 }
 
-TEST(Utf8, ComesAndGoes) {
+TEST(Utf8, ConvertsBothWays) {
   for (const char* text : {"", "a", "é", "墙体", "\xF0\x9F\x8F\xA0"})
     EXPECT_EQ(Utf8(Wide(text)), text);
   EXPECT_EQ(Utf8(L"墙"), "\xE5\xA2\x99");
   EXPECT_EQ(Utf8(static_cast<const wchar_t*>(nullptr)), "");
 }
 
-TEST(Utf8, AHighCharacterIsTwoUnits) {
+TEST(Utf8, ACharacterAboveTheFirstPlaneIsTwoUnits) {
   const std::wstring wide = Wide("\xF0\x9F\x8F\xA0");
   ASSERT_EQ(wide.size(), 2u);
   EXPECT_EQ(static_cast<unsigned>(wide[0]), 0xD83Cu);
@@ -97,7 +97,7 @@ void ExpectOnlyReplacements(const std::string& broken) {
   EXPECT_EQ(wide.find_first_not_of(L'\xFFFD'), std::wstring::npos);
 }
 
-TEST(Utf8, BrokenTextBecomesTheReplacementCharacter) {
+TEST(Utf8, InvalidTextBecomesTheReplacementCharacter) {
   EXPECT_EQ(Wide("a\xFFz"), L"a\xFFFDz");
   ExpectOnlyReplacements("\xC0\x80");      // a longer form than needed
   ExpectOnlyReplacements("\xE5\xA2");      // cut off

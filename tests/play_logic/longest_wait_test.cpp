@@ -1,4 +1,4 @@
-// What a play remembers and tells of the program's longest silence.
+// The longest wait of a play and its text.
 #include <gtest/gtest.h>
 
 #include "devhost/play/longest_wait.h"
@@ -8,7 +8,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(LongestWait, TheLongestStaysWithTheStepInWhichItWas) {
+TEST(LongestWait, TheLongestWaitIsStoredWithItsStep) {
   LongestWait wait;
   EXPECT_EQ(wait.step, -1);
   wait.Note(0us, 0);
@@ -20,7 +20,7 @@ TEST(LongestWait, TheLongestStaysWithTheStepInWhichItWas) {
   EXPECT_EQ(wait.step, 3);
 }
 
-TEST(LongestWait, ItIsToldInSecondsWithItsLine) {
+TEST(LongestWait, TheTextHasSecondsAndTheLine) {
   EXPECT_EQ(LongestWaitText("a.script", 120400us, 14), "a.script: longest wait 0.120 s (line 14)");
   EXPECT_EQ(LongestWaitText("a.script", 2s, 0), "a.script: longest wait 2.000 s");
 }

@@ -1,4 +1,4 @@
-// The walk through a script and its expectations, in a world with a clock of its own.
+// Playing steps and checking expectations, with a simulated clock.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -11,20 +11,20 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Keeps a diary of what was performed, and lets things happen at set times.
+// Logs performed steps and adds journal entries at set times.
 class DiaryWorld : public PlayWorld {
  public:
   explicit DiaryWorld(Journal& journal) : m_journal(journal) {}
 
   std::string Perform(const Step& step) override {
-    diary += step.source + "; ";
+    log += step.source + "; ";
     if (on.contains(step.source)) on[step.source]();
     return problems.contains(step.source) ? problems[step.source] : "";
   }
   bool IsIdle() override { return m_now >= idleFrom; }
   bool IsMenuOpen() override { return m_now >= menuFrom; }
   bool IsPopupOpen() override { return m_now >= popupFrom; }
-  void LetTimersFire() override { Pause(200ms); }
+  void WaitForTimers() override { Pause(200ms); }
   std::string ShellState() override { return state; }
   bool Variable(const std::string& name, std::string* value) override {
     if (!variables.contains(name)) return false;
@@ -47,7 +47,7 @@ class DiaryWorld : public PlayWorld {
   }
   void PrintText(const std::string& text) { m_journal.Record("printed", {{"text", text}}); }
 
-  std::string diary, printed, state = "{}";
+  std::string log, printed, state = "{}";
   std::map<std::string, std::function<void()>> on;
   std::map<std::string, std::string> problems, variables;
   std::multimap<Milliseconds, std::function<void()>> later;
@@ -73,10 +73,10 @@ class PlayTest : public testing::Test {
 
 TEST_F(PlayTest, StepsRunInOrderUntilQuit) {
   EXPECT_EQ(Play("new\ntype \"a\"\nquit\nclose\n"), 0);
-  EXPECT_EQ(world.diary, "new; type \"a\"; ");
+  EXPECT_EQ(world.log, "new; type \"a\"; ");
 }
 
-TEST_F(PlayTest, APartEndsAtItsRestart) {
+TEST_F(PlayTest, APartEndsAtARestart) {
   const auto endsInRestart = [this](const std::string& script, int exitCode) {
     std::vector<Step> steps;
     ScriptError error;
@@ -86,7 +86,7 @@ TEST_F(PlayTest, APartEndsAtItsRestart) {
     return runner.EndedInRestart();
   };
   EXPECT_TRUE(endsInRestart("new\nrestart\nclose\n", 0));
-  EXPECT_EQ(world.diary, "new; ");
+  EXPECT_EQ(world.log, "new; ");
   EXPECT_FALSE(endsInRestart("new\nquit\nrestart\n", 0));
   EXPECT_FALSE(endsInRestart("new\n", 0));
   world.problems["close"] = "there is no drawing";
@@ -96,11 +96,11 @@ TEST_F(PlayTest, APartEndsAtItsRestart) {
 TEST_F(PlayTest, TheFirstFailureStopsThePlayAndIsPrintedWithItsLine) {
   world.problems["close"] = "there is no drawing";
   EXPECT_EQ(Play("new\n\nclose\nnew\n"), 1);
-  EXPECT_EQ(world.diary, "new; close; ");
+  EXPECT_EQ(world.log, "new; close; ");
   EXPECT_EQ(world.printed, "t.script:3: close\n  there is no drawing");
 }
 
-TEST_F(PlayTest, AnExpectedTextMayStillBeOnItsWay) {
+TEST_F(PlayTest, AnExpectedTextMayArriveLater) {
   world.on["new"] = [this] { world.SendAfter(150ms, "LINE\n"); };
   EXPECT_EQ(Play("new\nexpect sent \"LINE\\n\"\n"), 0);
   EXPECT_LT(world.Now(), 1s);
@@ -114,19 +114,19 @@ TEST_F(PlayTest, AnExpectedTextMustBeExact) {
       "t.script:2: expect sent \"LINE\\n\"\n  expected to be sent: \"LINE\\n\"; sent: \"LINE\"");
 }
 
-TEST_F(PlayTest, OneEntryMeetsOneExpectation) {
+TEST_F(PlayTest, OneEntryMatchesOneExpectation) {
   world.on["new"] = [this] { world.Send("A"); };
   EXPECT_EQ(Play("new\nexpect sent \"A\"\nexpect sent \"A\"\n"), 1);
 }
 
-TEST_F(PlayTest, ExpectationsInARowLookAtTheStepsBeforeThem) {
+TEST_F(PlayTest, ConsecutiveExpectationsExamineTheStepsBeforeThem) {
   world.on["new"] = [this] { world.Send("A"); };
   world.on["close"] = [this] { world.Send("B"); };
   EXPECT_EQ(Play("new\nclose\nexpect sent \"A\"\nexpect sent \"B\"\n"), 0);
 }
 
-// A text sent before an earlier expectation once met a later one.
-TEST_F(PlayTest, WhatCameBeforeTheLastExpectationDoesNotCount) {
+// Regression: a text sent before an earlier expectation matched a later one.
+TEST_F(PlayTest, EntriesBeforeTheLastExpectationDoNotCount) {
   world.on["new"] = [this] {
     world.Send("A");
     world.Send("B");
@@ -134,7 +134,7 @@ TEST_F(PlayTest, WhatCameBeforeTheLastExpectationDoesNotCount) {
   EXPECT_EQ(Play("new\nexpect sent \"A\"\nclose\nexpect sent \"B\"\n"), 1);
 }
 
-TEST_F(PlayTest, WaitingIsNoActingStep) {
+TEST_F(PlayTest, WaitingIsNotAnActingStep) {
   world.on["new"] = [this] { world.Send("A"); };
   EXPECT_EQ(Play("new\nexpect sent \"A\"\nwait idle\nshot \"a\"\nexpect nothing sent\n"), 0);
   EXPECT_EQ(Play("new\nwait idle\nexpect nothing sent\n"), 1);
@@ -147,7 +147,7 @@ TEST_F(PlayTest, NothingSentWaitsForTheSendDelay) {
             "t.script:2: expect nothing sent\n  expected nothing to be sent; sent: \"LATE\"");
 }
 
-TEST_F(PlayTest, WaitingForIdleLetsArmedTimersFireFirst) {
+TEST_F(PlayTest, WaitingForIdleWaitsForPendingTimers) {
   world.state = R"({"menu":"coming"})";
   world.on["new"] = [this] {
     world.later.emplace(world.Now() + 150ms, [this] { world.state = R"({"menu":"up"})"; });
@@ -158,7 +158,7 @@ TEST_F(PlayTest, WaitingForIdleLetsArmedTimersFireFirst) {
   EXPECT_EQ(seen, R"({"menu":"up"})");
 }
 
-TEST_F(PlayTest, NothingSentNeedsAProgramThatBecomesIdle) {
+TEST_F(PlayTest, NothingSentRequiresAnIdleProgram) {
   world.idleFrom = 1h;
   EXPECT_EQ(Play("expect nothing sent\n"), 1);
   EXPECT_NE(world.printed.find("does not become idle"), std::string::npos);
@@ -172,20 +172,20 @@ TEST_F(PlayTest, PrintedTextIsFoundAcrossEntries) {
   EXPECT_EQ(Play("new\nexpect printed \"选择墙体\"\n"), 0);
 }
 
-// What the program printed while it started may be expected by a script's first line.
-TEST_F(PlayTest, WhatCameBeforeTheScriptCounts) {
+// The first line of a script may expect output of the program's start.
+TEST_F(PlayTest, TextPrintedBeforeTheScriptCounts) {
   world.PrintText("hello");
   EXPECT_EQ(Play("expect printed \"hello\"\n"), 0);
 }
 
-TEST_F(PlayTest, PrintedTextMeetsOneExpectation) {
+TEST_F(PlayTest, PrintedTextMatchesOneExpectation) {
   world.on["new"] = [this] { world.PrintText("墙体: "); };
   EXPECT_EQ(Play("new\nexpect printed \"墙体\"\nexpect printed \"墙体:\"\n"), 1);
   EXPECT_NE(world.printed.find("expected to be printed: \"墙体:\"; printed: \"\""),
             std::string::npos);
 }
 
-TEST_F(PlayTest, SentAndPrintedHaveMarksOfTheirOwn) {
+TEST_F(PlayTest, SentAndPrintedAreMatchedSeparately) {
   world.on["new"] = [this] {
     world.PrintText("one");
     world.Send("A");
@@ -204,14 +204,14 @@ TEST_F(PlayTest, VariablesAreComparedAsTextOrNumber) {
   EXPECT_NE(world.printed.find("there is no such variable"), std::string::npos);
 }
 
-TEST_F(PlayTest, AStateIsWaitedFor) {
+TEST_F(PlayTest, AnExpectedStateMayArriveLater) {
   world.state = R"({"tabs": {"active": 1}})";
   world.later.emplace(700ms, [this] { world.state = R"({"tabs": {"active": 2}})"; });
   EXPECT_EQ(Play("expect state tabs.active 2\n"), 0);
   EXPECT_LT(world.Now(), 1s);
 }
 
-TEST_F(PlayTest, AStateThatNeverComesIsTold) {
+TEST_F(PlayTest, AStateThatNeverArrivesIsReported) {
   world.state = R"({"tabs": {"active": 1}})";
   EXPECT_EQ(Play("expect state tabs.active 2\n"), 1);
   EXPECT_EQ(
@@ -222,7 +222,7 @@ TEST_F(PlayTest, AStateThatNeverComesIsTold) {
   EXPECT_NE(world.printed.find("to be \"a\"; the shell state is no JSON"), std::string::npos);
 }
 
-TEST_F(PlayTest, WaitsEndWhenTheirTimeComes) {
+TEST_F(PlayTest, WaitsTakeTheirTime) {
   world.idleFrom = 300ms;
   world.menuFrom = 900ms;
   world.popupFrom = 2s;
@@ -230,12 +230,12 @@ TEST_F(PlayTest, WaitsEndWhenTheirTimeComes) {
   EXPECT_GE(world.Now(), 2040ms);
 }
 
-TEST_F(PlayTest, AWaitInVainSaysForWhat) {
+TEST_F(PlayTest, ATimeoutNamesWhatWasExpected) {
   EXPECT_EQ(Play("wait popup\n"), 1);
   EXPECT_EQ(world.printed, "t.script:1: wait popup\n  waited 20 s in vain for a pop-up");
 }
 
-TEST(PlayRunner, KnowsTheStepItIsAt) {
+TEST(PlayRunner, ReportsTheCurrentStep) {
   Journal journal;
   DiaryWorld world(journal);
   std::vector<Step> steps;

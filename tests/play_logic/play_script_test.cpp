@@ -1,4 +1,4 @@
-// Play scripts as text: every step, and every way to be wrong with its exact message.
+// Parsing play scripts: every step, and every error with its message.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -25,7 +25,7 @@ std::string ErrorOf(const std::string& text) {
   return ScriptErrorText("t.script", error);
 }
 
-TEST(PlayScript, BlankLinesAndCommentsAreNoSteps) {
+TEST(PlayScript, BlankLinesAndCommentsAreNotSteps) {
   std::vector<Step> steps;
   ScriptError error;
   ASSERT_TRUE(
@@ -59,7 +59,7 @@ TEST(PlayScript, EveryVerbHasItsKind) {
       {"move view 1 2", StepKind::Move},
       {"wheel view 1 2 -120", StepKind::Wheel},
       {"drag view 1 2 view 3 4", StepKind::Drag},
-      {"click row \"a\" then row \"b\"", StepKind::ClickBoth},
+      {"click row \"a\" then row \"b\"", StepKind::ClickTwo},
       {"select none", StepKind::Select},
       {"setvar OSMODE 1", StepKind::SetVar},
       {"setting g_nRunMode 1", StepKind::Setting},
@@ -82,7 +82,7 @@ TEST(PlayScript, EveryVerbHasItsKind) {
   for (const auto& [text, kind] : verbs) EXPECT_EQ(OneStep(text).kind, kind) << text;
 }
 
-TEST(PlayScript, EachStartPlaysWhatStandsBehindTheRestartsThatHaveBeen) {
+TEST(PlayScript, EachStartPlaysThePartAfterEarlierRestarts) {
   std::vector<Step> steps;
   ScriptError error;
   ASSERT_TRUE(ParsePlayScript("new\nrestart\nclose\nwait 1\nrestart\nwait 2\n", &steps, &error));
@@ -97,7 +97,7 @@ TEST(PlayScript, EachStartPlaysWhatStandsBehindTheRestartsThatHaveBeen) {
   EXPECT_EQ(lines(3), (std::vector<int>{}));
 }
 
-TEST(PlayScript, TargetsKeepLabelsHandlesAndPoints) {
+TEST(PlayScript, TargetsHaveLabelsHandlesAndPoints) {
   EXPECT_EQ(OneStep("click row \"墙体/绘制墙体\"").target.text, "墙体/绘制墙体");
   EXPECT_EQ(OneStep("click tab \"plan\"").target.kind, TargetKind::Tab);
   EXPECT_EQ(OneStep("click pane \"TMakeGroupPane\"").target.kind, TargetKind::Pane);
@@ -143,14 +143,14 @@ TEST(PlayScript, SelectTakesHandlesUntilTheLineEnds) {
   EXPECT_TRUE(OneStep("select none").handles.empty());
 }
 
-TEST(PlayScript, ValuesKnowWhetherTheyWereQuoted) {
+TEST(PlayScript, ValuesRecordWhetherTheyWereQuoted) {
   const Step text = OneStep("expect state tabs.active \"1\"");
   EXPECT_EQ(text.text, "tabs.active");
   EXPECT_TRUE(text.value.quoted);
   EXPECT_FALSE(OneStep("expect var HPSCALE 100").value.quoted);
 }
 
-TEST(PlayScript, ErrorsHaveTheirPlaceAndSayWhatWasExpected) {
+TEST(PlayScript, ErrorsHaveAPlaceAndNameWhatWasExpected) {
   const std::pair<const char*, const char*> cases[] = {
       {"\n\nclick rwo \"a\"", "t.script:3:7: error: there is no target \"rwo\""},
       {"clik row \"a\"", "t.script:1:1: error: there is no step \"clik\""},
@@ -194,7 +194,7 @@ TEST(PlayScript, ErrorsHaveTheirPlaceAndSayWhatWasExpected) {
   for (const auto& [text, message] : cases) EXPECT_EQ(ErrorOf(text), message);
 }
 
-TEST(PlayScript, ShownTextIsWhatAScriptWouldWrite) {
+TEST(PlayScript, QuotedTextIsWrittenAsInAScript) {
   EXPECT_EQ(QuotedForScript("\x1B"
                             "a\n\t\"\\"),
             R"("\ea\n\t\"\\")");

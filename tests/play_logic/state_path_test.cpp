@@ -1,4 +1,4 @@
-// Values and rows of the shell state.
+// Values and rows in the shell state.
 #include <gtest/gtest.h>
 
 #include "devhost/play/state_path.h"
@@ -58,7 +58,7 @@ TEST(StatePath, NamesThePartThatIsMissing) {
   EXPECT_EQ(Found("panes[none].text"), "there is no [none] in panes[none].text");
 }
 
-TEST(StatePath, RefusesWhatIsNoPath) {
+TEST(StatePath, RejectsInvalidPaths) {
   for (const char* path :
        {"", ".a", "a.", "a..b", "a[", "a[]", "a[1", "a]b", "[0]", "a[0]b", "a[99999999]"}) {
     std::vector<PathPart> parts;
@@ -68,14 +68,14 @@ TEST(StatePath, RefusesWhatIsNoPath) {
   }
 }
 
-TEST(StateValue, QuotedTextIsTextOnly) {
+TEST(StateValue, QuotedTextMatchesOnlyStrings) {
   EXPECT_TRUE(ValueMatches("plan", {"plan", true}));
   EXPECT_TRUE(ValueMatches("1", {"1", true}));
   EXPECT_FALSE(ValueMatches(1, {"1", true}));
   EXPECT_FALSE(ValueMatches(true, {"true", true}));
 }
 
-TEST(StateValue, UnquotedTextTakesTheTypeOfWhatItMeets) {
+TEST(StateValue, UnquotedTextHasTheTypeOfTheActualValue) {
   EXPECT_TRUE(ValueMatches(1, {"1", false}));
   EXPECT_TRUE(ValueMatches(0.5, {"5e-1", false}));
   EXPECT_FALSE(ValueMatches(1, {"one", false}));
@@ -86,7 +86,7 @@ TEST(StateValue, UnquotedTextTakesTheTypeOfWhatItMeets) {
   EXPECT_FALSE(ValueMatches(nullptr, {"0", false}));
 }
 
-TEST(StateValue, ListsAreComparedWhole) {
+TEST(StateValue, ListsAreComparedCompletely) {
   EXPECT_TRUE(ValueMatches(Json::array({2, 1}), {"[2, 1]", true}));
   EXPECT_FALSE(ValueMatches(Json::array({2, 1}), {"[1, 2]", true}));
   EXPECT_FALSE(ValueMatches(Json::array({2, 1}), {"no list", false}));
@@ -99,16 +99,16 @@ TEST(RowPlace, IsTheMiddleOfTheRow) {
   EXPECT_EQ(place.point.y, 150);
 }
 
-TEST(RowPlace, ALabelMayHoldASlash) {
+TEST(RowPlace, ALabelMayContainASlash) {
   EXPECT_EQ(PlaceOfScreenMenuRow(State(), "墙体/单/双线").point.y, 170);
   EXPECT_EQ(PlaceOfScreenMenuRow(State(), "墙体/别的").point.y, 210);
 }
 
-TEST(RowPlace, OnlyTheSeenPartOfARowIsPressed) {
+TEST(RowPlace, OnlyTheVisiblePartOfARowIsClicked) {
   EXPECT_EQ(PlaceOfScreenMenuRow(State(), "墙体/半露").point.y, 295);
 }
 
-TEST(RowPlace, SaysWhyThereIsNone) {
+TEST(RowPlace, ErrorsNameTheReason) {
   const auto problem = [](const char* path) { return PlaceOfScreenMenuRow(State(), path).problem; };
   EXPECT_EQ(problem("墙体/远处"), "row \"墙体/远处\" is scrolled out of the window");
   EXPECT_EQ(problem("墙体/隐藏"), "row \"墙体/隐藏\" is not visible");
@@ -127,7 +127,7 @@ TEST(RowPlace, PopupRowsAreFoundTheSameWay) {
             "no pop-up is open");
 }
 
-TEST(RowPlace, APopupRowAnswersToItsLabelAndToWhatAUserReadsOfIt) {
+TEST(RowPlace, APopupRowIsFoundByItsLabelAndItsVisibleText) {
   const Json popup = Json::parse(R"json({"open": true, "rows": [
     {"label": "改层(&L)\tCtrl+L", "text": "改层", "rect": [0, 0, 20, 10], "rows": [
       {"label": "下(&D)", "text": "下", "rect": [20, 0, 40, 10]},
@@ -139,7 +139,7 @@ TEST(RowPlace, APopupRowAnswersToItsLabelAndToWhatAUserReadsOfIt) {
             "row \"改层/关着\" has no place on the screen");
 }
 
-TEST(RowPlace, ADamagedStateIsNoPlace) {
+TEST(RowPlace, ADamagedStateGivesNoPlace) {
   for (const char* text :
        {"[]", "3", R"({"screenmenu": {"rows": 5}})",
         R"({"screenmenu": {"rows": [1, {"label": 2}, {"label": "a", "rect": "x"}]}})"})

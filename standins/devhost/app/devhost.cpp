@@ -1,6 +1,6 @@
-// The development host's program: reads the command line and runs. All else is in the host library,
-// which modules share. Exit codes: what the play script gave, 0 without one, 2 for wrong usage,
-// 3 when the doctor finds no product.
+// The development host's program: reads the command line and runs the host library, which modules
+// share. Exit codes: that of the play script, 0 without one, 2 for wrong usage, 3 when the doctor
+// finds no product.
 #include <cstdio>
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-// The table of key names. A modifier may also stand alone as the key itself.
+// The table of key names. A modifier may also be the key itself.
 #include "devhost/play/key_names.h"
 
 #include <cctype>

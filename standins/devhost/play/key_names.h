@@ -1,4 +1,4 @@
-// Names of keys as play scripts write them, to Windows' virtual key numbers.
+// Names of keys in play scripts and their virtual key codes.
 #pragma once
 
 #include <string>
@@ -9,12 +9,11 @@ struct KeyChord {
   bool ctrl = false;
   bool shift = false;
   bool alt = false;
-  int key = 0;  // virtual key number
-  bool extended =
-      false;  // one of the keys that the keyboard marks as extended (arrows, Delete, ...)
+  int key = 0;            // virtual key code
+  bool extended = false;  // an extended key (arrows, Delete, ...)
 };
 
-// "Ctrl+Shift+Minus", "F1", "A". Case does not matter. False for a name that is no key.
+// Parses "Ctrl+Shift+Minus", "F1", "A", ignoring case. False: unknown key.
 bool ParseKeyChord(const std::string& text, KeyChord* chord);
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// What a play tells about the program's silence.
+// The longest wait of a play; see the header.
 #include "devhost/play/longest_wait.h"
 
 #include <cstdio>

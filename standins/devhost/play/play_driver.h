@@ -1,5 +1,5 @@
-// The play driver: reads a script and plays it on a thread of its own, with real mouse and keys,
-// while the main thread runs as always. Windows only; the program's entry calls it.
+// Plays a script on its own thread, with real mouse and keyboard input, while the main thread runs.
+// Windows only.
 #pragma once
 
 #include <memory>
@@ -12,24 +12,24 @@ namespace devhost {
 
 struct PlayOptions {
   std::wstring script;
-  int restarts = 0;  // the part behind so many restarts is played
-  // In seconds. A play whose main thread lets a message wait longer has failed.
+  int restarts = 0;  // plays the part after this many restarts
+  // In seconds. A play in which a message waits longer fails.
   std::optional<double> longestWait;
 };
 
 class PlayDriver {
  public:
   PlayDriver();
-  ~PlayDriver();  // waits for the thread; the port must still live
+  ~PlayDriver();  // waits for the thread; the port must still exist
 
-  // Reads the script. False when it can't be read: what is wrong is printed on the error stream as
-  // file:line:column, and the program is to end with exit code 2.
+  // Reads the script. False if it cannot be read; the error is printed as file:line:column, and the
+  // program is to exit with code 2.
   bool Load(const PlayOptions& options);
 
-  // Starts playing. At the end, or at the first failure, the driver calls port.Quit with 0 or 1.
+  // Starts the thread. At the end or the first failure it calls port.Quit with 0 or 1.
   void Start(UiPort& port);
 
-  // True when the program was asked to end in order to start again and play on.
+  // True if the script ended with `restart`.
   bool WantsRestart() const;
 
  private:

@@ -1,4 +1,4 @@
-// The expectations of play scripts.
+// Expectations of play scripts; see the header.
 #include "devhost/play/play_expect.h"
 
 #include <functional>
@@ -8,17 +8,17 @@
 namespace devhost {
 namespace {
 
-constexpr std::size_t kLongestQuote = 400;  // of what came, in bytes
+constexpr std::size_t kMaxQuote = 400;  // of actual text in messages, in bytes
 
 std::string TextOf(const JournalEntry& entry) {
   const auto text = entry.fields.find("text");
   return text != entry.fields.end() && text->is_string() ? text->get<std::string>() : "";
 }
 
-// The end of a long text: what came last is what explains most.
+// The end of a long text, which usually explains a failure best.
 std::string Shown(const std::string& text) {
-  if (text.size() <= kLongestQuote) return QuotedForScript(text);
-  std::size_t from = text.size() - kLongestQuote;
+  if (text.size() <= kMaxQuote) return QuotedForScript(text);
+  std::size_t from = text.size() - kMaxQuote;
   while (from < text.size() && IsUtf8Continuation(text[from])) ++from;
   return "..." + QuotedForScript(text.substr(from));
 }
@@ -36,12 +36,12 @@ std::string TextsOf(const std::vector<JournalEntry>& entries) {
   return texts.empty() ? "nothing" : texts;
 }
 
-// Asks again and again until the answer is yes or the patience is over; the last answer counts.
+// Polls until `ask` is true or the time is over; returns the last result.
 bool WaitFor(PlayWorld& world, const std::function<bool()>& ask) {
-  const auto end = world.Now() + PlayExpectations::kPatience;
+  const auto end = world.Now() + PlayExpectations::kTimeout;
   while (!ask()) {
     if (world.Now() >= end) return false;
-    world.Pause(PlayExpectations::kPoll);
+    world.Pause(PlayExpectations::kPollInterval);
   }
   return true;
 }
@@ -51,7 +51,7 @@ bool WaitFor(PlayWorld& world, const std::function<bool()>& ask) {
 PlayExpectations::PlayExpectations(const Journal& journal, PlayWorld& world)
     : m_journal(journal), m_world(world) {}
 
-void PlayExpectations::StepBegins() {
+void PlayExpectations::BeginStep() {
   if (m_expecting) m_sentFrom = m_printedFrom = m_journal.Count();
   m_expecting = false;
 }
@@ -93,11 +93,10 @@ bool PlayExpectations::WaitUntilIdle() {
   return WaitFor(m_world, [this] { return m_world.IsIdle(); });
 }
 
-// A press is sent some time after it, by a timer: only when those had their turn and the program is
-// quiet again has nothing been sent.
+// A press is sent later, by a timer. So pending timers must fire and the program become idle again.
 std::string PlayExpectations::NothingSent() {
   WaitUntilIdle();
-  m_world.LetTimersFire();
+  m_world.WaitForTimers();
   const bool idle = WaitUntilIdle();
   const std::vector<JournalEntry> came = EntriesOf(m_journal, m_sentFrom, "sent");
   if (!came.empty()) return "expected nothing to be sent; sent: " + TextsOf(came);

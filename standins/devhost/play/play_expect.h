@@ -1,10 +1,8 @@
-// What a script expects of the program, checked against the journal, the variables and the shell
-// state. An expectation waits for what is still on its way; one that isn't met says what came
-// instead.
+// Checks the expectations of a script against journal, variables and shell state. An expectation
+// waits for events that are still to come; a failure names the actual value.
 //
-// Which entries count: expectations in a row look at the same stretch of the journal, which begins
-// at the first acting step after the expectation before. Within it each match moves its own kind
-// (sent, printed) forward, so two expectations never share one entry.
+// Consecutive expectations examine the journal from the first acting step after the previous group.
+// Each match advances its own kind (sent, printed), so two expectations never match one entry.
 #pragma once
 
 #include "devhost/core/base/journal.h"
@@ -16,15 +14,15 @@ class PlayExpectations {
  public:
   PlayExpectations(const Journal& journal, PlayWorld& world);
 
-  // Before each step that acts.
-  void StepBegins();
+  // Call before each acting step.
+  void BeginStep();
 
-  // Gives the failure, or nothing.
+  // Returns the failure, or nothing.
   std::string Check(const Step& step);
 
-  // How long an expectation waits for what is on its way.
-  static constexpr std::chrono::milliseconds kPatience{5000};
-  static constexpr std::chrono::milliseconds kPoll{20};
+  // How long an expectation waits, and how often it checks.
+  static constexpr std::chrono::milliseconds kTimeout{5000};
+  static constexpr std::chrono::milliseconds kPollInterval{20};
 
  private:
   std::string Sent(const std::string& text);
@@ -36,8 +34,8 @@ class PlayExpectations {
 
   const Journal& m_journal;
   PlayWorld& m_world;
-  bool m_expecting = false;  // an expectation was checked since the last acting step
-  int m_sentFrom = 0;        // the last entry that doesn't count any more
+  bool m_expecting = false;  // an expectation was checked after the last acting step
+  int m_sentFrom = 0;        // number of the last entry that is not examined
   int m_printedFrom = 0;
 };
 

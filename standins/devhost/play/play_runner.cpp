@@ -1,11 +1,12 @@
-// The walk through a script.
+// Playing the steps; see the header.
 #include "devhost/play/play_runner.h"
 
 namespace devhost {
 namespace {
 
-// `wait idle`, `wait menu` and `wait popup` give up before the watchdog does, to say it better.
-constexpr std::chrono::milliseconds kLongestReadiness{20000};
+// `wait idle`, `wait menu` and `wait popup` fail before the watchdog ends the program, with a
+// better message.
+constexpr std::chrono::milliseconds kReadyTimeout{20000};
 
 }  // namespace
 
@@ -70,29 +71,29 @@ std::string PlayRunner::PlayStep(const Step& step) {
     case StepKind::Shot:
       return m_world.Perform(step);
     default:
-      m_expectations.StepBegins();
+      m_expectations.BeginStep();
       return m_world.Perform(step);
   }
 }
 
 std::string PlayRunner::WaitUntil(const char* what, bool (PlayRunner::*ready)()) {
-  const auto end = m_world.Now() + kLongestReadiness;
+  const auto end = m_world.Now() + kReadyTimeout;
   while (!(this->*ready)()) {
     if (m_world.Now() >= end)
-      return std::string("waited ") + std::to_string(kLongestReadiness.count() / 1000) +
+      return std::string("waited ") + std::to_string(kReadyTimeout.count() / 1000) +
              " s in vain for " + what;
-    m_world.Pause(PlayExpectations::kPoll);
+    m_world.Pause(PlayExpectations::kPollInterval);
   }
   return {};
 }
 
-// A program that only waits for its own short timers is not idle for a user: the menu comes up from
-// one at the start, and a pressed row is sent by one. They have their turn before it counts.
+// Pending short timers of the program must fire first: the menu is shown at the start by one, and a
+// pressed row is sent by one.
 std::string PlayRunner::WaitIdle() {
   constexpr char kWhat[] = "the program to be idle";
   std::string problem = WaitUntil(kWhat, &PlayRunner::IsIdle);
   if (!problem.empty()) return problem;
-  m_world.LetTimersFire();
+  m_world.WaitForTimers();
   return WaitUntil(kWhat, &PlayRunner::IsIdle);
 }
 

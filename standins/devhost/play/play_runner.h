@@ -1,5 +1,5 @@
-// Plays the steps of a script one after the other and stops at the first that fails. Decides
-// nothing about windows: the world it is given does.
+// Plays the steps of a script in order and stops at the first failure. Windows are accessed through
+// PlayWorld.
 #pragma once
 
 #include <atomic>
@@ -10,19 +10,19 @@ namespace devhost {
 
 class PlayRunner {
  public:
-  // `file` is the script's name in messages.
+  // `file` is the name of the script in messages.
   PlayRunner(std::string file, std::vector<Step> steps, const Journal& journal, PlayWorld& world);
 
-  // 0 when every step went well, otherwise 1; the failure is printed. Stops at `quit` and
-  // `restart`.
+  // Returns 0 if every step succeeded, otherwise prints the failure and returns 1. Stops at `quit`
+  // and `restart`.
   int Play();
-  bool EndedInRestart() const;  // once played
+  bool EndedInRestart() const;  // after Play
 
-  // For the watchdog, from any thread: which step is being played (a running number), and where.
+  // For the watchdog, from any thread: the index of the current step, and its place in the script.
   int StepNumber() const { return m_step; }
   std::string Place(int stepNumber) const;                      // "file:line: source"
-  int Line(int stepNumber) const;                               // 0: there is no such step
-  std::chrono::milliseconds PlannedTime(int stepNumber) const;  // that the script itself asks for
+  int Line(int stepNumber) const;                               // 0: no such step
+  std::chrono::milliseconds PlannedTime(int stepNumber) const;  // duration given in the script
 
  private:
   std::string PlayStep(const Step& step);

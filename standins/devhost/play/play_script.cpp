@@ -1,4 +1,4 @@
-// The parser of play scripts: one line, one step. Each function opens with the rule it reads.
+// The parser of play scripts: one step a line. Each function begins with its grammar rule.
 #include "devhost/play/play_script.h"
 
 #include <charconv>
@@ -11,8 +11,8 @@
 namespace devhost {
 namespace {
 
-constexpr int kLongestWait = 600000;  // ms; a longer one is a slip of the hand
-constexpr int kLargestWheel = 32767;  // the wheel's delta has 16 bits
+constexpr int kMaxWait = 600000;  // ms; longer waits are assumed to be mistakes
+constexpr int kMaxWheel = 32767;  // the delta has 16 bits
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 class StepReader {
@@ -218,7 +218,7 @@ bool StepReader::Click() {
   if (!Is(StepKind::Click) || !ReadTarget(&m_step->target)) return false;
   if (!AtEnd() && !m_words[m_at].quoted && m_words[m_at].text == "then") {
     ++m_at;
-    if (!Is(StepKind::ClickBoth) || !ReadTarget(&m_step->target2)) return false;
+    if (!Is(StepKind::ClickTwo) || !ReadTarget(&m_step->target2)) return false;
   }
   return Held();
 }
@@ -232,14 +232,14 @@ bool StepReader::Press() {
 
 // hold: MS target held
 bool StepReader::HoldButton() {
-  return Is(StepKind::Hold) && Integer(&m_step->number, 0, kLongestWait, "the time") &&
+  return Is(StepKind::Hold) && Integer(&m_step->number, 0, kMaxWait, "the time") &&
          ReadTarget(&m_step->target) && Held();
 }
 
 // wheel: target DELTA
 bool StepReader::Wheel() {
   return Is(StepKind::Wheel) && ReadTarget(&m_step->target) &&
-         Integer(&m_step->number, -kLargestWheel, kLargestWheel, "the delta");
+         Integer(&m_step->number, -kMaxWheel, kMaxWheel, "the delta");
 }
 
 // drag: target target
@@ -272,7 +272,7 @@ bool StepReader::Wait() {
                                           : StepKind::Wait;
   Is(kind);
   if (kind == StepKind::Wait)
-    return Integer(&m_step->number, 0, kLongestWait, "the time, or idle, menu, popup,");
+    return Integer(&m_step->number, 0, kMaxWait, "the time, or idle, menu, popup,");
   ++m_at;
   return true;
 }

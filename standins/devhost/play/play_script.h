@@ -1,5 +1,5 @@
-// A play script as a list of steps. The whole script is read before anything is played, so a slip
-// in its last line is told at once. The steps themselves stand in docs/play-scripts.md.
+// A play script as a list of steps. The whole script is parsed before it is played, so errors are
+// reported at once. docs/play-scripts.md describes the steps.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ enum class StepKind {
   Type,
   Press,
   Click,
-  ClickBoth,
+  ClickTwo,
   RightClick,
   DoubleClick,
   Hold,
@@ -55,7 +55,8 @@ struct Target {
   double x = 0, y = 0;
 };
 
-// A value to compare with: quoted text is text, anything else takes the type of what it meets.
+// An expected value. Quoted text is a string; unquoted text has the type of the value that it is
+// compared with.
 struct ScriptValue {
   std::string text;
   bool quoted = false;
@@ -63,27 +64,27 @@ struct ScriptValue {
 
 struct Step {
   int line = 0;
-  std::string source;  // the line as it was written, without blanks at its ends
+  std::string source;  // the line without blanks at its ends
   StepKind kind = StepKind::Quit;
-  std::string text;  // path, name, text, or the path into the shell state
+  std::string text;  // path, name, text, or path in the shell state
   ScriptValue value;
   Target target;
-  Target target2;     // where a drag ends, or what is clicked second
-  bool ctrl = false;  // held while the mouse acts
+  Target target2;     // end of a drag, or the second click
+  bool ctrl = false;  // keys held during mouse input
   bool shift = false;
-  int number = 0;  // milliseconds of wait and hold, delta of the wheel
+  int number = 0;  // milliseconds of wait and hold, or wheel delta
   KeyChord chord;
   std::vector<std::string> handles;
 };
 
-// Reads UTF-8 text. False with the first error.
+// Parses UTF-8 text. False with the first error.
 bool ParsePlayScript(std::string_view text, std::vector<Step>* steps, ScriptError* error);
 
-// The program ends at each `restart` and starts again, so each start plays a part: what stands
-// behind the restarts that have been. Empty when the script has fewer.
+// The part of a script that a start of the program plays: the steps after `restarts` restarts.
+// Empty if the script has fewer.
 std::vector<Step> PartOfScript(std::vector<Step> steps, int restarts);
 
-// Steps that only look; every other step acts on the program.
+// Whether a step only examines the program.
 bool IsExpectation(StepKind kind);
 
 }  // namespace devhost

@@ -1,5 +1,5 @@
-// Rows by their labels, and the point to press. A row that can't be pressed is told apart by why:
-// it isn't there, it is folded away, or it is scrolled out.
+// Finding rows by their labels, and the point to click. Errors distinguish rows that do not exist,
+// are folded, or are scrolled out.
 #include "devhost/play/state_path.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 namespace devhost {
 namespace {
 
-constexpr int kDeepestRow = 32;  // no menu nests so far; a state that does is damaged
+constexpr int kMaxRowDepth = 32;  // far above any menu; deeper states are damaged
 
 std::optional<RECT> RectOf(const Json& object) {
   if (!object.is_object() || !object.contains("rect")) return {};
@@ -35,15 +35,15 @@ bool IsFalse(const Json& row, const char* member) {
   return row.contains(member) && row[member].is_boolean() && !row[member].get<bool>();
 }
 
-// Finds the row whose label begins the path and goes on into its rows. Every label is tried,
-// because a label that holds a "/" may begin like another one.
+// Finds a row by its path. All labels are tried, because a label with "/" may begin like another
+// label.
 class RowSearch {
  public:
   const Json* Find(const Json& rows, const std::string& path, int depth = 0) {
-    if (!rows.is_array() || depth > kDeepestRow) return nullptr;
+    if (!rows.is_array() || depth > kMaxRowDepth) return nullptr;
     for (const Json& row : rows) {
       if (!row.is_object()) continue;
-      // A pop-up's row answers to its label as it was given and to what a user reads of it.
+      // A row of a pop-up is found by its label and by the text that a user sees.
       for (const char* member : {"label", "text"}) {
         if (!row.contains(member) || !row[member].is_string()) continue;
         const auto& label = row[member].get_ref<const std::string&>();
@@ -63,7 +63,7 @@ class RowSearch {
     return row.contains("rows") ? Find(row["rows"], path.substr(label.size() + 1), depth + 1)
                                 : nullptr;
   }
-  std::string m_deepest;  // the longest label that was found on the way
+  std::string m_deepest;  // the longest label that matched
 };
 
 std::string LabelsOf(const Json& rows) {

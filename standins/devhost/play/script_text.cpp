@@ -1,4 +1,4 @@
-// Words, escapes and messages of play scripts.
+// Words, escapes and messages of play scripts; see the header.
 #include "devhost/play/script_text.h"
 
 namespace devhost {

@@ -1,5 +1,5 @@
-// The smallest parts of a play script: the words of a line, quoted text, and the way a place and a
-// text are shown in messages. Used by the script's parser and by everything that reports to a user.
+// Lexical parts of play scripts: words, quoted text, error messages. Used by the parser and by all
+// messages to the user.
 #pragma once
 
 #include <string>
@@ -14,19 +14,19 @@ struct ScriptError {
 };
 
 struct ScriptWord {
-  std::string text;  // without quotes, escapes resolved
+  std::string text;  // without quotes and escapes
   bool quoted = false;
   int column = 0;
 };
 
-// The words of one line, up to a comment. False, with column and message of `error` filled, for an
-// open quote, an unknown escape, or text glued to a quote.
+// Splits a line into words, up to a comment. False with column and message for an open quote, an
+// unknown escape, or text next to a quote.
 bool SplitScriptLine(const std::string& line, std::vector<ScriptWord>* words, ScriptError* error);
 
 // "file:line:column: error: message"
 std::string ScriptErrorText(const std::string& file, const ScriptError& error);
 
-// Text as a script would have to write it.
+// Text as it is written in a script.
 std::string QuotedForScript(const std::string& text);
 
 }  // namespace devhost

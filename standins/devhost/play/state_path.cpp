@@ -1,4 +1,4 @@
-// Paths into the shell state, and the comparison of a value with what a script says.
+// Paths in the shell state and comparison of values; see the header.
 #include "devhost/play/state_path.h"
 
 #include <charconv>

@@ -1,5 +1,5 @@
-// Questions to the shell state, the JSON that describes the module's live windows: a value by its
-// path, and the place of a row by its labels. Plain functions; whoever asks brings the JSON.
+// Queries of the shell state, the JSON description of the module's windows: values by path, places
+// of rows by labels.
 #pragma once
 
 #include <string>
@@ -11,32 +11,32 @@
 
 namespace devhost {
 
-// One part of a path: `name`, `[3]`, or `[text]`, which takes the element whose label, name or text
-// is that. `count` behind a list is its length.
+// A part of a path: `name`, `[3]`, or `[text]`, which selects the element with that label, name or
+// text. `count` after a list is its length.
 struct PathPart {
   enum Kind { Member, Index, Named } kind = Member;
   std::string name;
   std::size_t index = 0;
 };
 
-// path: name { "." name | "[" index-or-text "]" }. False with a message.
+// path: name { "." name | "[" index-or-text "]" }. False with an error message.
 bool ParseStatePath(const std::string& path, std::vector<PathPart>* parts, std::string* problem);
 
-// The value at the path, or null with a message that names the part which isn't there.
+// The value at a path. False with a message that names the missing part.
 bool FindInState(const Json& state, const std::string& path, Json* value, std::string* problem);
 
-// Quoted text equals text; text in quotes that is a JSON list or object equals that one. An
-// unquoted value is compared as what it meets: number, true, false, null, or text.
+// Compares a value. Quoted text equals a string, or a list or object as JSON; unquoted text is
+// compared with the type of the actual value: number, true, false, null, or string.
 bool ValueMatches(const Json& actual, const ScriptValue& expected);
 
 struct RowPlace {
-  POINT point = {};     // where to press: the middle of what can be seen of the row
-  std::string problem;  // why there is no such place; empty when there is one
+  POINT point = {};     // the middle of the visible part of the row
+  std::string problem;  // empty: the row was found
 };
 
-// Labels from the outside in, joined by "/"; a label may hold a "/" of its own.
+// `path` are labels from the outermost group on, joined by "/"; a label may contain "/".
 RowPlace PlaceOfScreenMenuRow(const Json& state, const std::string& path);
-// In what DescribeLiveMenus gives of the menus on the screen.
+// `popup` is the result of UiPort::DescribeMenus.
 RowPlace PlaceOfPopupRow(const Json& popup, const std::string& path);
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// Design commands that draw; see the header.
+// The design commands; see the header.
 #include "design_commands.h"
 
 #include <algorithm>
@@ -16,7 +16,8 @@
 
 namespace {
 
-constexpr double kDimensionOff = 10;  // mm on paper between a dimension's line and what it measures
+// mm on paper between the dimension line and the measured points
+constexpr double kDimensionOff = 10;
 
 AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
 
@@ -107,7 +108,7 @@ void InsertColumn() {
     Add(Make<QvxDbColumn>(Of(at), 400, 400), L"COLUMN", 9);
 }
 
-// The wall whose axis is nearest, when the point is within it or close by.
+// The wall with the nearest axis within reach, and the nearest point on it.
 const QvxDbWall* WallNear(const AcGePoint3d& p, AcGePoint3d* foot) {
   constexpr double kReach = 400;
   const QvxDbWall* best = nullptr;
@@ -117,8 +118,8 @@ const QvxDbWall* WallNear(const AcGePoint3d& p, AcGePoint3d* foot) {
     if (!wall) continue;
     const double length = wall->start.distanceTo(wall->end);
     if (length <= 0) continue;
-    const AcGeVector3d along = (wall->end - wall->start).normal(), way = p - wall->start;
-    const double t = std::clamp(way.x * along.x + way.y * along.y, 0.0, length);
+    const AcGeVector3d along = (wall->end - wall->start).normal(), offset = p - wall->start;
+    const double t = std::clamp(offset.x * along.x + offset.y * along.y, 0.0, length);
     const AcGePoint3d at = wall->start + along * t;
     if (p.distanceTo(at) > nearest) continue;
     nearest = p.distanceTo(at);
@@ -184,8 +185,9 @@ void Dimension() {
   if (acedGetPoint(nullptr, L"\n起点: ", a) != RTNORM) return;
   if (acedGetPoint(a, L"\n终点: ", b) != RTNORM) return;
   if (acedGetPoint(b, L"\n尺寸线位置: ", line) != RTNORM) return;
-  const AcGeVector3d along = (Of(b) - Of(a)).normal(), way = Of(line) - Of(a);
-  auto dimension = Make<TDbDimension2>(Of(a), along.x * way.y - along.y * way.x, kDimensionOff);
+  const AcGeVector3d along = (Of(b) - Of(a)).normal(), offset = Of(line) - Of(a);
+  auto dimension =
+      Make<TDbDimension2>(Of(a), along.x * offset.y - along.y * offset.x, kDimensionOff);
   dimension->end = Of(b);
   Add(std::move(dimension), L"DIM", 3);
 }

@@ -1,6 +1,5 @@
-// The design commands that the sample module registers, each a function without arguments as the
-// command stack wants it. Rows of the menu that are not here are unknown commands, and the host
-// says so.
+// The commands that the sample module registers. Other commands of the menu are unknown to the
+// host, which reports them.
 #pragma once
 
 struct DesignCommand {

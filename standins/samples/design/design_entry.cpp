@@ -1,4 +1,4 @@
-// The host's way into the sample design module.
+// The entry point of the sample design module.
 #include "aced.h"
 #include "design_commands.h"
 #include "design_lisp.h"
@@ -16,7 +16,7 @@ void Register() {
                       kDesignCommands[i].run);
 }
 
-void Answer() {
+void InvokeFunction() {
   const int code = acedGetFunCode();
   if (code >= 0 && code < kDesignFunctionCount) kDesignFunctions[code].run();
 }
@@ -38,7 +38,7 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
       for (int i = 0; i < kDesignFunctionCount; ++i) acedDefun(kDesignFunctions[i].name, i);
       break;
     case AcRx::kInvkSubrMsg:
-      Answer();
+      InvokeFunction();
       break;
     default:
       break;

@@ -1,5 +1,5 @@
-// States behind the menu's switches; see the header. Orthogonal drawing is the host's, grouping and
-// dynamic dimensions are the kernel's settings, and the looks of walls are the drawing's own.
+// LISP functions of the sample module; see the header. Orthogonal mode is a host variable; grouping
+// and dynamic dimensions are settings of the kernel; wall styles are stored in the drawing.
 #include "design_lisp.h"
 
 #include "aced.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-// A switch of the current drawing; 0 without one.
+// A switch of the current drawing; 0 without a drawing.
 template <int (TDbConfig::*Switch)() const>
 int SwitchOfDrawing() {
   TDbConfig* config = GetDwgGlobal(AcDb::kForRead, QvxGeLib::g_pCurrentDb);

@@ -1,5 +1,5 @@
-// The LISP functions that the menu's switches and conditions call. Each answers the running call
-// itself.
+// LISP functions for the switches and conditions of the menu. Each sets the result of the running
+// call.
 #pragma once
 
 struct DesignFunction {

@@ -1,4 +1,4 @@
-// The measure of a thread's silence, with this thread as the one that is measured.
+// Measuring how long this thread processes no messages.
 #include <gtest/gtest.h>
 
 #include "devhost/play/win/message_probe.h"
@@ -22,7 +22,7 @@ void KeepSilent(Clock::duration time) {
   for (const auto begin = Clock::now(); Clock::now() - begin < time;) ::SwitchToThread();
 }
 
-TEST(MessageProbe, AMessageThatHadToWaitIsMeasuredWithItsStep) {
+TEST(MessageProbe, ADelayedMessageIsMeasuredWithItsStep) {
   std::atomic<int> step{7};
   MessageProbe probe(&RunHere, [&] { return step.load(); });
   AwaitSentMessage();
@@ -35,7 +35,7 @@ TEST(MessageProbe, AMessageThatHadToWaitIsMeasuredWithItsStep) {
   EXPECT_EQ(longest.step, 7);
 }
 
-TEST(MessageProbe, AMessageThatStillWaitsAtTheEndCounts) {
+TEST(MessageProbe, AMessageThatWaitsAtTheEndCounts) {
   MessageProbe probe(&RunHere, [] { return 3; });
   AwaitSentMessage();
   KeepSilent(60ms);
@@ -44,8 +44,8 @@ TEST(MessageProbe, AMessageThatStillWaitsAtTheEndCounts) {
   EXPECT_EQ(longest.step, 3);
 }
 
-// The last message of one play may arrive in the next, and must not be taken for an answer there.
-TEST(MessageProbe, AnAnswerToAnEarlierProbeIsNone) {
+// The last message of a play may arrive during the next one and must not count there.
+TEST(MessageProbe, AnswersToAnEarlierProbeAreIgnored) {
   {
     MessageProbe earlier(&RunHere, [] { return 1; });
     AwaitSentMessage();

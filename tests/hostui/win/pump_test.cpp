@@ -1,4 +1,4 @@
-// The message pump with real messages: who sees a message, in which order, and when it is quiet.
+// The message pump with real messages: order of processing, idle state.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -61,13 +61,13 @@ class Pump : public testing::Test {
 
 }  // namespace
 
-TEST_F(Pump, TheNewestFilterIsAskedFirstAndTranslationComesLast) {
+TEST_F(Pump, TheLatestFilterRunsFirstAndTranslationLast) {
   EXPECT_TRUE(acedRegisterFilterWinMsg(&First));
   EXPECT_TRUE(acedRegisterFilterWinMsg(&Second));
   EXPECT_EQ(Pumped(WM_APP), "21t");
 }
 
-TEST_F(Pump, AFilterThatSwallowsKeepsTheMessageFromAllOthers) {
+TEST_F(Pump, AFilterThatTakesAMessageStopsItsProcessing) {
   acedRegisterFilterWinMsg(&First);
   acedRegisterFilterWinMsg(&Second);
   g_swallow = WM_APP + 1;
@@ -91,7 +91,7 @@ TEST_F(Pump, AFilterMayRemoveItselfWhileItRuns) {
   EXPECT_EQ(Pumped(WM_APP), "1t");
 }
 
-TEST_F(Pump, IdleWorkRunsBeforeItWaitsAndUntilThereIsNoMore) {
+TEST_F(Pump, IdleWorkRunsUntilNoneIsLeftBeforeWaiting) {
   int turns = 0;
   ThePump().SetIdleWork([&] {
     if (++turns == 3) ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP, 0, 0);
@@ -102,52 +102,52 @@ TEST_F(Pump, IdleWorkRunsBeforeItWaitsAndUntilThereIsNoMore) {
   EXPECT_EQ(g_seen, "t");
 }
 
-TEST_F(Pump, IsQuietAfterIdleAndBusyAfterAMessage) {
+TEST_F(Pump, IsIdleAfterIdleWorkAndBusyAfterAMessage) {
   ThePump().SetIdleWork([&] {
-    EXPECT_FALSE(ThePump().IsQuiet());
+    EXPECT_FALSE(ThePump().IsIdle());
     ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP, 0, 0);
     return false;
   });
   EXPECT_TRUE(ThePump().RunOnce());
-  EXPECT_FALSE(ThePump().IsQuiet()) << "a message came after the idle time";
+  EXPECT_FALSE(ThePump().IsIdle()) << "a message came after the idle time";
 }
 
-TEST_F(Pump, ADialogThatWaitsForTheUserMakesItQuiet) {
+TEST_F(Pump, ADialogThatWaitsForTheUserMakesItIdle) {
   devhost::DialogWatch watch;
   EXPECT_EQ(Pumped(WM_APP), "t");
-  EXPECT_FALSE(ThePump().IsQuiet());
-  bool told = false;
-  ThePump().SetWhenQuiet([&] { told = true; });
+  EXPECT_FALSE(ThePump().IsIdle());
+  bool called = false;
+  ThePump().SetIdleCallback([&] { called = true; });
   const HWND owner = ::CreateWindowExW(0, L"Static", nullptr, WS_OVERLAPPED, 0, 0, 9, 9, nullptr,
                                        nullptr, nullptr, nullptr);
   ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, 0);
-  EXPECT_FALSE(ThePump().IsQuiet()) << "no dialog is there that could have said so";
+  EXPECT_FALSE(ThePump().IsIdle()) << "no dialog is there that could have said so";
   const HWND dialog = ::CreateWindowExW(0, L"#32770", nullptr, WS_POPUP, 0, 0, 9, 9, owner, nullptr,
                                         nullptr, nullptr);
   ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, 0);
-  EXPECT_TRUE(ThePump().IsQuiet());
-  EXPECT_TRUE(told);
-  ThePump().SetWhenQuiet(nullptr);
+  EXPECT_TRUE(ThePump().IsIdle());
+  EXPECT_TRUE(called);
+  ThePump().SetIdleCallback(nullptr);
   ::DestroyWindow(dialog);
   ::DestroyWindow(owner);
 }
 
 TEST_F(Pump, TheQuitMessageEndsEveryLoop) {
   ::PostQuitMessage(7);
-  EXPECT_FALSE(ThePump().TakeOne());
-  EXPECT_FALSE(ThePump().TakeOne()) << "the loop further out sees it too";
+  EXPECT_FALSE(ThePump().PumpOne());
+  EXPECT_FALSE(ThePump().PumpOne()) << "the loop further out sees it too";
   MSG message{};
   EXPECT_TRUE(::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
   EXPECT_EQ(message.wParam, 7u);
 }
 
-TEST(MainThread, RunsWorkOfAnotherThreadHereAndRefusesWhenTold) {
+TEST(MainThread, RunsWorkOfAnotherThreadUntilCallsAreRejected) {
   MainThread mainThread;
   DWORD ranOn = 0;
   bool first = false, second = true;
   std::thread other([&] {
     first = mainThread.Run([&] { ranOn = ::GetCurrentThreadId(); });
-    mainThread.Run([&] { mainThread.Refuse(); });
+    mainThread.Run([&] { mainThread.RejectCalls(); });
     second = mainThread.Run([&] { ADD_FAILURE() << "ran although it was to refuse"; });
     ::PostThreadMessageW(mainThread.Id(), WM_APP, 0, 0);
   });

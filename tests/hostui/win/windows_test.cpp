@@ -1,4 +1,4 @@
-// Panes on a bar, buttons found by their label, dialogs in the journal: with real windows.
+// Status bar panes, buttons, menus, dialogs and start events, with real windows.
 #include <gtest/gtest.h>
 #include <oleacc.h>
 
@@ -39,7 +39,7 @@ int CountOf(const char* event) {
 
 }  // namespace
 
-TEST(AcPane, KeepsWhatItIsGiven) {
+TEST(AcPane, StoresItsProperties) {
   AcPane pane;
   CString text;
   EXPECT_EQ(pane.GetStyle(), ACSBPS_NORMAL);
@@ -69,16 +69,16 @@ TEST(AcPane, ACopyHasTheSameState) {
   EXPECT_FALSE(copy.IsEnabled());
 }
 
-TEST(StatusBar, ThereIsNoneWithoutAFrame) { EXPECT_EQ(acedGetApplicationStatusBar(), nullptr); }
+TEST(StatusBar, IsNullWithoutAFrame) { EXPECT_EQ(acedGetApplicationStatusBar(), nullptr); }
 
-TEST(StatusBar, RestoresTheTextFromBeforeTheFirstMessageHoweverManyCame) {
+TEST(StatusBar, RestoresTheTextFromBeforeTheFirstMessage) {
   auto* frame = new CFrameWnd;  // deletes itself with its window
   ASSERT_TRUE(frame->Create(nullptr, L"frame"));
   {
     StatusBar bar;
     ASSERT_TRUE(bar.CreateIn(frame));
     const int before = TheJournal().Count();
-    bar.RestoreMessage();  // nothing was shown: nothing happens
+    bar.RestoreMessage();  // no message was shown: no effect
     for (const wchar_t* text : {L"own", L"first row", L"second row"})
       ::SetWindowTextW(bar.m_hWnd, text);
     bar.RestoreMessage();
@@ -93,7 +93,7 @@ TEST(StatusBar, RestoresTheTextFromBeforeTheFirstMessageHoweverManyCame) {
   frame->DestroyWindow();
 }
 
-TEST(WindowTree, AMnemonicIsNoPartOfTheLabel) {
+TEST(WindowTree, AMnemonicIsNotPartOfTheLabel) {
   EXPECT_EQ(WithoutMnemonic(L"确定(&O)"), L"确定");
   EXPECT_EQ(WithoutMnemonic(L"&OK"), L"OK");
   EXPECT_EQ(WithoutMnemonic(L"A && B"), L"A & B");
@@ -141,18 +141,18 @@ TEST(DialogWatch, ADialogIsRecordedOnceWithItsTitle) {
   EXPECT_EQ(last.fields["title"], "选项");
 }
 
-TEST(DialogWatch, ThePumpIsQuietWhileABoxIsUpAndBusyWhenItHasGone) {
+TEST(DialogWatch, ThePumpIsIdleDuringAMessageBoxAndBusyAfterIt) {
   DialogWatch watch;
   ThePump().MarkBusy();
   {
     OwnWindow box(L"#32770", L"box", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
     ::SetActiveWindow(box);
-    EXPECT_TRUE(ThePump().IsQuiet());
+    EXPECT_TRUE(ThePump().IsIdle());
   }
-  EXPECT_FALSE(ThePump().IsQuiet());
+  EXPECT_FALSE(ThePump().IsIdle());
 }
 
-TEST(DialogWatch, AMessageBoxOfTheClassLibraryIsNoDialog) {
+TEST(DialogWatch, AMessageBoxOfTheClassLibraryIsNotADialog) {
   DialogWatch watch;
   const int before = CountOf("dialog");
   DialogWatch::MessageBoxScope scope;
@@ -173,7 +173,7 @@ struct DrawnRow {
 nlohmann::ordered_json g_menus;
 bool g_menuIsOpen = false;
 
-// Looks at the menu from its own loop and closes it.
+// Describes the menu inside its loop and closes it.
 void CALLBACK LookAtMenus(HWND window, UINT, UINT_PTR timer, DWORD) {
   g_menuIsOpen = IsPopupMenuOpen(::GetCurrentThreadId());
   g_menus = DescribeLiveMenus(::GetCurrentThreadId());
@@ -183,7 +183,7 @@ void CALLBACK LookAtMenus(HWND window, UINT, UINT_PTR timer, DWORD) {
 
 }  // namespace
 
-TEST(LiveMenus, AreReadWithTheRowsThatTheirOwnerDraws) {
+TEST(LiveMenus, OwnerDrawnRowsAreDescribed) {
   OwnWindow window(L"STATIC", L"", WS_POPUP | WS_VISIBLE);
   ::SetForegroundWindow(window);
   const HMENU menu = ::CreatePopupMenu(), sub = ::CreatePopupMenu();
@@ -211,16 +211,16 @@ TEST(LiveMenus, AreReadWithTheRowsThatTheirOwnerDraws) {
   EXPECT_EQ(rows[1]["separator"], true);
   EXPECT_EQ(rows[2]["text"], "开");
   EXPECT_EQ(rows[2]["enabled"], false);
-  EXPECT_EQ(rows[3]["label"], "");  // item data that begins with no such record
-  EXPECT_EQ(rows[4]["label"], "");  // item data that is no address at all
+  EXPECT_EQ(rows[3]["label"], "");  // item data without the record
+  EXPECT_EQ(rows[4]["label"], "");  // item data that is not an address
   EXPECT_EQ(rows[5]["rows"][0]["label"], "inner");
-  EXPECT_TRUE(rows[5]["rows"][0]["rect"].is_null());  // its menu is not open
+  EXPECT_TRUE(rows[5]["rows"][0]["rect"].is_null());  // its menu is closed
   ASSERT_TRUE(rows[0]["rect"].is_array());
   EXPECT_GE(rows[0]["rect"][1].get<int>(), 20);
   EXPECT_LE(rows[0]["rect"][3].get<int>(), rows[1]["rect"][1].get<int>());
 }
 
-TEST(LiveMenus, WithoutOneThereIsNoneOpen) {
+TEST(LiveMenus, WithoutAMenuNoneIsOpen) {
   EXPECT_FALSE(IsPopupMenuOpen(::GetCurrentThreadId()));
   EXPECT_EQ(DescribeLiveMenus(::GetCurrentThreadId())["open"], false);
 }
@@ -237,7 +237,7 @@ std::string TextOfFile(const std::wstring& path) {
 
 }  // namespace
 
-TEST(StartWatch, TellsTheWindowsThatAreMadeAndWhenAPaletteIsFirstVisible) {
+TEST(StartWatch, RecordsWindowCreationAndWhenAPaletteIsFirstVisible) {
   CWinApp* app = AfxGetApp();
   CWinApp own;
   ASSERT_TRUE(app ||
@@ -253,11 +253,11 @@ TEST(StartWatch, TellsTheWindowsThatAreMadeAndWhenAPaletteIsFirstVisible) {
     CAdUiPaletteSet palette;
     ASSERT_TRUE(palette.Create(L"palette", WS_CHILD | WS_VISIBLE | CBRS_LEFT, CRect(0, 0, 80, 200),
                                frame, 0));
-    EXPECT_FALSE(TheStartTrace().Shown());  // the frame around it is hidden
+    EXPECT_FALSE(TheStartTrace().IsPaletteShown());  // its frame is hidden
     frame->ShowWindow(SW_SHOWNORMAL);
     ::SetWindowPos(palette.m_hWnd, nullptr, 0, 0, 90, 200, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_TRUE(TheStartTrace().Shown());
-    ThePump().MarkQuiet();
+    EXPECT_TRUE(TheStartTrace().IsPaletteShown());
+    ThePump().MarkIdle();
     palette.DestroyWindow();
   }
   frame->DestroyWindow();
@@ -272,7 +272,7 @@ TEST(StartWatch, TellsTheWindowsThatAreMadeAndWhenAPaletteIsFirstVisible) {
   EXPECT_TRUE(trace["idle_ms"].is_number());
 }
 
-TEST(StartWatch, AFileThatCannotBeWrittenIsTold) {
+TEST(StartWatch, AFileThatCannotBeWrittenIsReported) {
   const StartWatch watch(L"no\\such\\folder\\trace.json");
   EXPECT_FALSE(watch.Write());
 }

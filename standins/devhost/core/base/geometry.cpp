@@ -1,4 +1,4 @@
-// Plane transforms and boxes; see gepnt3d.h.
+// Plane transforms and extents; see gepnt3d.h.
 #include "gepnt3d.h"
 
 #include <algorithm>

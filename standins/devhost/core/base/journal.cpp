@@ -1,5 +1,5 @@
-// The journal in memory and on its stream. A line is whole before the next begins, and flushed, so
-// that a run that ends badly leaves everything up to its end.
+// The journal; see the header. Every line is flushed, so that a crashed program leaves a complete
+// journal.
 #include "devhost/core/base/journal.h"
 
 #include <algorithm>
@@ -27,9 +27,10 @@ void Journal::WriteTo(std::FILE* stream) {
 
 namespace {
 
-// Only what the main thread records; the other threads' entries are none of a start.
-void TellTrace(const char* event, const Json& fields) {
-  if (!TheStartTrace().Runs()) return;
+// Adds an entry to the trace of a start. Entries of other threads come only from plays, not from a
+// start.
+void TraceStep(const char* event, const Json& fields) {
+  if (!TheStartTrace().IsRunning()) return;
   std::string detail;
   for (const char* name : {"name", "function", "text", "file", "title"})
     if (detail.empty() && fields.contains(name) && fields[name].is_string())
@@ -42,7 +43,7 @@ void TellTrace(const char* event, const Json& fields) {
 }  // namespace
 
 void Journal::Record(const char* event, Json fields) {
-  TellTrace(event, fields);
+  TraceStep(event, fields);
   const auto elapsed = std::chrono::steady_clock::now() - m_start;
   const auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count();
   {

@@ -1,7 +1,6 @@
-// The journal: everything that crosses the seam between host and modules and that a user would
-// notice, in the order in which it happened. Entries are kept in memory, where play scripts look
-// for what they expect, and are written as JSON lines (UTF-8) when a file is given. Any thread may
-// call.
+// The journal: every call between host and modules that has an effect a user can see, in order.
+// Entries are kept in memory, where play scripts look for what they expect, and written as JSON
+// lines (UTF-8) when a file is given. Any thread may call.
 #pragma once
 
 #include <chrono>
@@ -23,20 +22,20 @@ struct JournalEntry {
   std::string event;  // "sent", "printed", "prompt", "command", "lisp", "var", "messagebox",
                       // "dialog", "shell", "help", "document", "module", "menugroup",
                       // "statustext"
-  Json fields;        // an object; what each event holds stands in docs/play-scripts.md
+  Json fields;        // an object; docs/play-scripts.md lists the fields of each event
 };
 
 class Journal {
  public:
-  // Writes to this stream from now on, one line an entry, flushed; null stops writing. Not owned.
+  // Sets the stream: one line an entry, flushed. Null stops writing. Not owned.
   void WriteTo(std::FILE* stream);
 
   void Record(const char* event, Json fields);
 
-  int Count() const;  // number of the latest entry, 0 when there is none
+  int Count() const;                                  // number of the latest entry; 0: none
   std::vector<JournalEntry> Since(int number) const;  // entries with a number above this one
 
-  // Waits until an entry above `number` fulfils the test, or the time is over.
+  // Waits until an entry with a number above `number` passes the test. False after `limit`.
   bool WaitFor(int number, std::chrono::milliseconds limit,
                const std::function<bool(const JournalEntry&)>& test) const;
 

@@ -1,6 +1,7 @@
-// The trace of the start; see the header.
+// Recording and writing the trace; see the header.
 #include "devhost/core/base/start_trace.h"
 
+#include <chrono>
 #include <cmath>
 
 #include "devhost/core/base/json.h"
@@ -32,11 +33,11 @@ void StartTrace::Begin(const std::string& module) {
     m_from = m_clock();
     m_module = module;
   }
-  if (Runs()) m_steps.push_back({Now(), "kInitAppMsg", module, 1});
+  if (IsRunning()) m_steps.push_back({Now(), "kInitAppMsg", module, 1});
 }
 
 void StartTrace::Step(const char* name, const std::string& detail) {
-  if (!Runs()) return;
+  if (!IsRunning()) return;
   if (!m_steps.empty() && m_steps.back().name == name) {
     ++m_steps.back().times;
     return;
@@ -44,16 +45,16 @@ void StartTrace::Step(const char* name, const std::string& detail) {
   m_steps.push_back({Now(), name, detail, 1});
 }
 
-void StartTrace::PaletteShown() {
-  if (!Runs() || Shown()) return;
+void StartTrace::MarkPaletteShown() {
+  if (!IsRunning() || IsPaletteShown()) return;
   m_shown = Now();
   Step("palette shown");
 }
 
-void StartTrace::Quiet() {
-  if (!Runs()) return;
+void StartTrace::MarkIdle() {
+  if (!IsRunning()) return;
   Step("idle");
-  if (!Shown()) return;
+  if (!IsPaletteShown()) return;
   m_idle = m_steps.back().milliseconds;
   m_state = State::Ended;
 }

@@ -1,10 +1,8 @@
-// The trace of a module's start (--trace-start): every step that crosses the seam between host and
-// module, with milliseconds from the first kInitAppMsg on. The host's side of the calls tells the
-// steps; a module knows nothing of it. Nothing is kept, and a call costs a test, until it is armed.
-// Main thread only.
+// The trace of a module's start (--trace-start): the calls between host and module, with
+// milliseconds since the first kInitAppMsg. Recorded on the host's side of the calls. Until it is
+// armed nothing is stored and a call costs one comparison. Main thread only.
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -14,28 +12,29 @@ namespace devhost {
 struct StartStep {
   double milliseconds;  // since kInitAppMsg
   std::string name;
-  std::string detail;  // of the first one, where several of a name in a row are one step
+  std::string detail;  // of the first call, where consecutive calls of one name are one step
   int times = 1;
 };
 
 class StartTrace {
  public:
-  using Microseconds = std::function<long long()>;  // a clock; the steady one where none is given
+  using Microseconds = std::function<long long()>;  // a clock; the steady clock if empty
 
   explicit StartTrace(Microseconds clock = nullptr);
 
   void Arm() { m_state = State::Armed; }
-  bool Runs() const { return m_state == State::Running; }
+  bool IsRunning() const { return m_state == State::Running; }
 
-  void Begin(const std::string& module);  // kInitAppMsg is about to be sent; counts when armed
+  // before kInitAppMsg is sent; starts the trace if it is armed
+  void Begin(const std::string& module);
   void Step(const char* name, const std::string& detail = {});
-  void PaletteShown();  // the first time counts
-  void Quiet();         // the program waits for input; behind the palette that ends the trace
+  void MarkPaletteShown();  // the first call counts
+  void MarkIdle();  // the program waits for input; ends the trace once the palette was shown
 
-  bool Shown() const { return m_shown >= 0; }
+  bool IsPaletteShown() const { return m_shown >= 0; }
   const std::vector<StartStep>& Steps() const { return m_steps; }
-  // {"module","palette_shown_ms","idle_ms","steps":[{"ms","took","step","detail","times"}]}; what
-  // was not reached is null. "took" is the time up to the next step.
+  // {"module","palette_shown_ms","idle_ms","steps":[{"ms","took","step","detail","times"}]}. Times
+  // that were not reached are null. "took" is the time to the next step.
   std::string Json() const;
 
  private:

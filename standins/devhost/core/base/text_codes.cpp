@@ -1,11 +1,12 @@
-// Codes inside drawing texts; see the header.
+// Codes in drawing texts; see the header.
 #include "devhost/core/base/text_codes.h"
 
 #include <cwctype>
+#include <string_view>
 
 namespace devhost {
 
-std::wstring ShownText(const std::wstring& text) {
+std::wstring DisplayText(const std::wstring& text) {
   std::wstring out;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] != L'%' || i + 2 >= text.size() || text[i + 1] != L'%') {
@@ -35,12 +36,12 @@ std::wstring ShownText(const std::wstring& text) {
 }
 
 namespace {
-double LengthOf(wchar_t c) { return c >= 0x2E80 ? 1.0 : 0.6; }
+double CharWidth(wchar_t c) { return c >= 0x2E80 ? 1.0 : 0.6; }
 }  // namespace
 
 double TextLength(const std::wstring& text) {
   double length = 0;
-  for (wchar_t c : text) length += LengthOf(c);
+  for (wchar_t c : text) length += CharWidth(c);
   return length;
 }
 
@@ -58,9 +59,10 @@ void Wrap(std::vector<std::wstring>& lines, const std::wstring& line, double wid
     return;
   }
   std::wstring part;
-  double length = 0;  // of the part, kept along: a damaged file may hold one line of a megabyte
+  // Counted along: measuring the part anew would be quadratic for a line of a megabyte.
+  double length = 0;
   for (wchar_t c : line) {
-    if (!part.empty() && length + LengthOf(c) > width) {
+    if (!part.empty() && length + CharWidth(c) > width) {
       const std::size_t blank = part.rfind(L' ');
       std::wstring rest;
       if (c < 0x2E80 && blank != std::wstring::npos && blank > 0) {
@@ -72,9 +74,31 @@ void Wrap(std::vector<std::wstring>& lines, const std::wstring& line, double wid
       length = TextLength(part);
     }
     part += c;
-    length += LengthOf(c);
+    length += CharWidth(c);
   }
   if (!part.empty()) lines.push_back(part);
+}
+
+// Reads the code after the backslash at `at - 1`. Returns the index of its last character; `line`
+// takes what it shows. \P and \N are the caller's.
+std::size_t ReadFormat(const std::wstring& text, std::size_t at, std::wstring* line) {
+  const wchar_t code = text[at];
+  constexpr std::wstring_view kWithoutArgument = L"LlOoKk", kWithArgument = L"HhFfCcTQWAp";
+  if (kWithoutArgument.find(code) != kWithoutArgument.npos) return at;
+  if (kWithArgument.find(code) != kWithArgument.npos) return SkipToSemicolon(text, at);
+  if (code == L'~') {
+    *line += L' ';
+    return at;
+  }
+  if (code != L'S') {
+    *line += code;
+    return at;
+  }
+  // A stacked fraction, shown on one line.
+  const std::size_t end = SkipToSemicolon(text, at);
+  for (std::size_t k = at + 1; k < end; ++k)
+    *line += text[k] == L'^' || text[k] == L'#' ? L'/' : text[k];
+  return end;
 }
 
 }  // namespace
@@ -89,55 +113,15 @@ std::vector<std::wstring> MTextLines(const std::wstring& text, double width) {
       line += c;
       continue;
     }
-    const wchar_t code = text[++i];
-    switch (code) {
-      case L'P':
-      case L'N':
-      case L'X':
-        Wrap(lines, ShownText(line), width);
-        line.clear();
-        break;
-      case L'~':
-        line += L' ';
-        break;
-      case L'\\':
-      case L'{':
-      case L'}':
-        line += code;
-        break;
-      case L'L':
-      case L'l':
-      case L'O':
-      case L'o':
-      case L'K':
-      case L'k':
-        break;
-      case L'S': {  // a stacked fraction: shown in one line
-        const std::size_t end = SkipToSemicolon(text, i);
-        for (std::size_t k = i + 1; k < end; ++k)
-          line += text[k] == L'^' || text[k] == L'#' ? L'/' : text[k];
-        i = end;
-        break;
-      }
-      case L'H':
-      case L'h':
-      case L'F':
-      case L'f':
-      case L'C':
-      case L'c':
-      case L'T':
-      case L'Q':
-      case L'W':
-      case L'A':
-      case L'p':
-        i = SkipToSemicolon(text, i);
-        break;
-      default:
-        line += code;
-        break;
+    ++i;
+    if (text[i] == L'P' || text[i] == L'N' || text[i] == L'X') {
+      Wrap(lines, DisplayText(line), width);
+      line.clear();
+    } else {
+      i = ReadFormat(text, i, &line);
     }
   }
-  Wrap(lines, ShownText(line), width);
+  Wrap(lines, DisplayText(line), width);
   return lines;
 }
 

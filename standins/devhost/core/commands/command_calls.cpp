@@ -7,7 +7,7 @@
 #include "aced.h"
 #include "devhost/core/host/host.h"
 
-// Pairs of a type and a value: the command's name, then its input. RTNONE ends them.
+// Arguments are pairs of a type and a value: the command's name, then its input. RTNONE ends them.
 int acedCommandS(int type, ...) {
   va_list args;
   va_start(args, type);

@@ -11,20 +11,20 @@
 namespace devhost {
 namespace {
 
-constexpr int kDeepest = 16;  // commands inside commands; a transparent one inside itself ends here
+constexpr int kMaxDepth = 16;  // nested commands; a transparent command may start itself
 constexpr wchar_t kIdlePrompt[] = L"命令: ";
 
 Document* Current() { return TheHost().documents.Current(); }
 
 LispValue ValueOf(Document& document, const std::wstring& text, std::wstring* error) {
-  ++document.locks;  // an expression may change the drawing as a command may
+  ++document.locks;  // an expression may change the drawing, as a command may
   LispValue value = Evaluate(document, text[0] == L'!' ? text.substr(1) : text, error);
-  --document.locks;  // still there: a drawing with a lock on it is closed later
+  --document.locks;  // a locked drawing is not closed, so the reference is valid
   return value;
 }
 
-// What an expression says to a question: a string as it is, a list of two or three numbers as the
-// point that it means, anything else as it is printed.
+// The answer that an expression gives: a string unquoted, a list of two or three numbers as a
+// point, any other value as printed.
 std::wstring AnswerOf(Document& document, const std::wstring& text) {
   std::wstring error;
   const LispValue value = ValueOf(document, text, &error);
@@ -38,31 +38,31 @@ std::wstring AnswerOf(Document& document, const std::wstring& text) {
 
 }  // namespace
 
-bool CommandEngine::TextWaits() const {
+bool CommandEngine::HasPendingInput() const {
   const Document* document = Current();
   return document && m_depth == 0 &&
-         (document->input.HasItem() || TheHost().documents.AnyCloseWaits());
+         (document->input.HasItem() || TheHost().documents.HasPendingClose());
 }
 
 void CommandEngine::ShowPrompt() {
-  TheHost().SetPrompt(m_asking == Asking::Nothing ? kIdlePrompt : m_question);
+  TheHost().SetPrompt(m_request == InputRequest::Nothing ? kIdlePrompt : m_requestPrompt);
 }
 
 bool CommandEngine::RunWaiting() {
   Document* document = Current();
   if (!document || m_depth > 0) return false;
   m_cancelAll = false;
-  if (TheHost().documents.CloseWaiting()) return true;
+  if (TheHost().documents.ClosePending()) return true;
   const InputQueue::Item item = document->input.Take(false);
   switch (item.kind) {
     case InputQueue::Kind::None:
       return false;
     case InputQueue::Kind::Escape:
-      return true;  // nothing runs: an ESC ahead of a command is spent
+      return true;  // no command runs: the ESC is ignored
     case InputQueue::Kind::Token:
       break;
   }
-  // Enter alone repeats the last command; a blank that only ended the token before it does not.
+  // Enter alone repeats the last command.
   if (item.text.empty() && document->lastCommand.empty()) return true;
   Execute(*document, item.text.empty() ? document->lastCommand : item.text);
   if (TheHost().documents.Current()) ShowPrompt();
@@ -92,7 +92,7 @@ bool CommandEngine::ExecuteCommand(Document& document, std::wstring name, bool a
   }
   const Command* found = TheHost().commands.Find(name, hostOnly);
   if (!found) {
-    // A LISP function named C:NAME is a command too.
+    // A LISP function named C:NAME is also a command.
     const std::wstring function = L"C:" + UpperCase(name);
     if (!document.lispFunctions.count(function)) return false;
     ++m_depth;
@@ -113,7 +113,7 @@ bool CommandEngine::ExecuteCommand(Document& document, std::wstring name, bool a
     TheHost().Print(L"** 命令不能透明使用 **\n");
     return true;
   }
-  if (m_depth >= kDeepest) {
+  if (m_depth >= kMaxDepth) {
     TheHost().Print(L"** 命令嵌套太深 **\n");
     return true;
   }
@@ -124,9 +124,9 @@ bool CommandEngine::ExecuteCommand(Document& document, std::wstring name, bool a
 
 void CommandEngine::Call(Document& document, const Command& command) {
   const bool keepsPickSet = (command.flags & (ACRX_CMD_USEPICKSET | ACRX_CMD_TRANSPARENT)) != 0;
-  const Asking asking = std::exchange(m_asking, Asking::Nothing);
+  const InputRequest request = std::exchange(m_request, InputRequest::Nothing);
   const std::optional<AcGePoint3d> rubber = std::exchange(m_rubberFrom, std::nullopt);
-  const std::wstring question = m_question;
+  const std::wstring prompt = m_requestPrompt;
   const bool blanks = m_blanks;
   ++m_depth;
   const bool outerCancelled = std::exchange(m_cancelled, false);
@@ -145,11 +145,11 @@ void CommandEngine::Call(Document& document, const Command& command) {
                                   {"name", Utf8(command.globalName)},
                                   {"result", m_cancelled ? "cancelled" : "ok"}});
   m_cancelled = outerCancelled;
-  m_asking = asking;
+  m_request = request;
   m_rubberFrom = rubber;
-  m_question = question;
+  m_requestPrompt = prompt;
   m_blanks = blanks;
-  if (!TheHost().documents.Known(self)) return;  // CLOSE has destroyed it
+  if (!TheHost().documents.FindDocument(self)) return;  // closed by the command
   if (!self->commands.empty()) self->commands.pop_back();
   recording.reset();
   if (!keepsPickSet && !self->pickFirst.empty() && m_depth == 0) {
@@ -173,9 +173,10 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
   if (!item.text.empty() && item.text[0] == L'\'' && !blanksAllowed) {
     if (!ExecuteCommand(document, item.text, true))
       TheHost().Print(L"未知命令“" + UpperCase(item.text.substr(1)) + L"”。\n");
-    if (!TheHost().documents.Known(&document)) return answer;
+    if (!TheHost().documents.FindDocument(&document)) return answer;
     ShowPrompt();
-    return TakeAnswer(document, blanksAllowed);  // what waits behind it is for the question
+    // the text after the transparent command answers the request
+    return TakeAnswer(document, blanksAllowed);
   }
   if (!item.text.empty() && !blanksAllowed && (item.text[0] == L'(' || item.text[0] == L'!')) {
     answer.kind = InputAnswer::Kind::Text;
@@ -187,12 +188,12 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
   return answer;
 }
 
-InputAnswer CommandEngine::Ask(Asking what, const std::wstring& prompt, bool blanksAllowed,
+InputAnswer CommandEngine::Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
                                const AcGePoint3d* rubberFrom) {
   Document* document = Current();
   if (!document || m_depth == 0) return {};
-  m_question = prompt;
-  m_asking = what;
+  m_requestPrompt = prompt;
+  m_request = what;
   m_blanks = blanksAllowed;
   m_rubberFrom = rubberFrom ? std::optional(*rubberFrom) : std::nullopt;
   m_givenPoint.reset();
@@ -200,9 +201,9 @@ InputAnswer CommandEngine::Ask(Asking what, const std::wstring& prompt, bool bla
   std::optional<InputAnswer> answer;
   while (!(answer = TakeAnswer(*document, blanksAllowed))) {
     if (!TheHost().Ui().PumpWhileWaiting()) m_cancelAll = true;
-    if (!TheHost().documents.Known(document)) return {};
+    if (!TheHost().documents.FindDocument(document)) return {};
   }
-  m_asking = Asking::Nothing;
+  m_request = InputRequest::Nothing;
   m_rubberFrom.reset();
   switch (answer->kind) {
     case InputAnswer::Kind::Cancelled:
@@ -219,14 +220,14 @@ InputAnswer CommandEngine::Ask(Asking what, const std::wstring& prompt, bool bla
   return *answer;
 }
 
-void CommandEngine::TypeLine(const std::wstring& line) {
+void CommandEngine::EnterLine(const std::wstring& line) {
   if (Document* document = Current()) document->input.Append(line + L"\n");
 }
 
 void CommandEngine::PressEscape() {
   Document* document = Current();
   if (!document) return;
-  document->input.Clear();  // the key is pressed now: what waits behind other input is gone too
+  document->input.Clear();  // discards the text that was entered before the key
   if (m_depth > 0) {
     document->input.Append(L"\x1b");
     return;
@@ -237,7 +238,7 @@ void CommandEngine::PressEscape() {
   TheHost().Ui().SelectionChanged(*document);
 }
 
-void CommandEngine::GivePoint(const AcGePoint3d& point) {
+void CommandEngine::EnterPoint(const AcGePoint3d& point) {
   if (WaitsForPoint()) m_givenPoint = point;
 }
 
@@ -247,16 +248,17 @@ bool CommandEngine::RunNested(const std::wstring& name, const std::vector<std::w
   InputQueue kept = std::exchange(document->input, InputQueue());
   std::wstring text;
   for (const std::wstring& token : input) text += token + L"\n";
-  document->input.Append(text + L"\x1b");  // whatever asks beyond its input is cancelled
+  document->input.Append(text + L"\x1b");  // requests beyond the given input are cancelled
   const bool ran = ExecuteCommand(*document, name, false);
-  if (TheHost().documents.Known(document)) document->input = std::move(kept);
+  if (TheHost().documents.FindDocument(document)) document->input = std::move(kept);
   return ran;
 }
 
 int CommandEngine::CommandActive() const {
   const Document* document = Current();
   if (!document || document->commands.empty()) return 0;
-  return document->commands.size() > 1 ? 3 : 1;  // 1 an ordinary command, 2 a transparent one in it
+  // 1: an ordinary command; 2: a transparent one inside it
+  return document->commands.size() > 1 ? 3 : 1;
 }
 
 std::wstring CommandEngine::CommandNames() const {

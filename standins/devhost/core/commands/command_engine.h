@@ -1,6 +1,6 @@
-// Reads the waiting input of the current drawing and runs what it names: commands, LISP
-// expressions, transparent commands inside others. While a command asks for input, the engine pumps
-// messages through HostUi until text, a point or a cancel comes.
+// Reads the input queue of the current drawing and runs commands, LISP expressions and transparent
+// commands. While a command waits for input, the engine pumps messages through HostUi until text, a
+// point or a cancel arrives.
 #pragma once
 
 #include <optional>
@@ -15,8 +15,9 @@ namespace devhost {
 struct Command;
 class Document;
 
-// What a command waits for just now; the view draws a crosshair or a rubber band by it.
-enum class Asking { Nothing, Point, Corner, Selection, Text, Keyword };
+// The kind of input for which a command waits. The view shows a crosshair or a rubber band for
+// points.
+enum class InputRequest { Nothing, Point, Corner, Text, Keyword };
 
 struct InputAnswer {
   enum class Kind { Cancelled, Enter, Text, Point } kind = Kind::Cancelled;
@@ -26,38 +27,40 @@ struct InputAnswer {
 
 class CommandEngine {
  public:
-  // Runs one waiting command or expression of the current drawing. False: nothing could be run, and
-  // until new text comes nothing will be. Called from the idle time of the message loop.
+  // Runs one command or expression of the current drawing's queue. False: the queue has no complete
+  // item. Called from the idle time of the message loop.
   bool RunWaiting();
 
-  bool TextWaits() const;  // a token waits and no command is there to read it as input
+  bool HasPendingInput() const;  // an item is in the queue and no command will read it as input
 
-  // From the windows ------------------------------------------------------------------------------
-  void TypeLine(const std::wstring& line);  // a line from the command line, without its Enter
-  void PressEscape();  // cancels what runs; clears the pick-first set when idle
-  void GivePoint(const AcGePoint3d& point);  // a click in the view while a point is asked for
+  // Called by the windows.
+  void EnterLine(const std::wstring& line);  // a line of the command line, without its Enter
+  void PressEscape();  // cancels the running command; clears the pick-first set when idle
+  void EnterPoint(const AcGePoint3d& point);  // a click in the view while a point is requested
 
-  // From the published input functions
-  // -----------------------------------------------------------------
-  InputAnswer Ask(Asking what, const std::wstring& prompt, bool blanksAllowed,
+  // Called by the published input functions. Returns when an answer or a cancel arrives.
+  InputAnswer Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
                   const AcGePoint3d* rubberFrom);
 
-  Asking Waiting() const { return m_asking; }
-  bool WaitsForPoint() const { return m_asking == Asking::Point || m_asking == Asking::Corner; }
-  std::optional<AcGePoint3d> RubberFrom() const { return m_rubberFrom; }
-  bool TextMayHoldBlanks() const { return m_asking == Asking::Text && m_blanks; }
+  InputRequest Request() const { return m_request; }
+  bool WaitsForPoint() const {
+    return m_request == InputRequest::Point || m_request == InputRequest::Corner;
+  }
+  std::optional<AcGePoint3d> RubberBandStart() const { return m_rubberFrom; }
+  bool AcceptsBlanks() const { return m_request == InputRequest::Text && m_blanks; }
 
-  // True while module code runs on behalf of a document; false in the message loop, also in the one
-  // that a waiting command turns.
-  bool InDocumentContext() const { return m_depth > 0 && m_asking == Asking::Nothing; }
-  bool CommandRuns() const { return m_depth > 0; }
+  // True while a command or LISP function of a drawing runs; false in the message loop, also in the
+  // one of a command that waits for input.
+  bool InDocumentContext() const { return m_depth > 0 && m_request == InputRequest::Nothing; }
+  bool IsCommandRunning() const { return m_depth > 0; }
 
-  // One whole command with its input, from inside another (acedCommandS). False: no such command.
+  // Runs a command with its input inside another (acedCommandS). False: unknown command.
   bool RunNested(const std::wstring& name, const std::vector<std::wstring>& input);
 
-  int CommandActive() const;           // CMDACTIVE of the current drawing
-  std::wstring CommandNames() const;   // CMDNAMES
-  void CancelAll(Document& document);  // everything that runs there ends as soon as it asks
+  int CommandActive() const;          // CMDACTIVE of the current drawing
+  std::wstring CommandNames() const;  // CMDNAMES
+  // everything running there is cancelled at its next input request
+  void CancelAll(Document& document);
 
  private:
   void Execute(Document& document, const std::wstring& text);
@@ -67,13 +70,13 @@ class CommandEngine {
   std::optional<InputAnswer> TakeAnswer(Document& document, bool blanksAllowed);
 
   int m_depth = 0;
-  Asking m_asking = Asking::Nothing;
+  InputRequest m_request = InputRequest::Nothing;
   bool m_blanks = false;
   bool m_cancelAll = false;
   std::optional<AcGePoint3d> m_rubberFrom;
   std::optional<AcGePoint3d> m_givenPoint;
-  std::wstring m_question;
-  bool m_cancelled = false;  // the running command was told so at its last question
+  std::wstring m_requestPrompt;
+  bool m_cancelled = false;  // the last input request of the running command was cancelled
 };
 
 }  // namespace devhost

@@ -1,8 +1,6 @@
 // Registered commands; see the header.
 #include "devhost/core/commands/command_stack.h"
 
-#include <algorithm>
-
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"
 #include "devhost/core/base/utf8.h"

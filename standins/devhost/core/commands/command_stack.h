@@ -1,4 +1,4 @@
-// The registered commands, in groups. Names are kept in upper case and compared so.
+// The registered commands, in groups. Names are stored and compared in upper case.
 #pragma once
 
 #include <string>
@@ -14,13 +14,13 @@ struct Command {
   std::wstring group, globalName, localName;
   int flags = 0;
   AcRxFunctionPtr function = nullptr;
-  LoadedModule* module = nullptr;  // null: the host's own
+  LoadedModule* module = nullptr;  // null: a command of the host
 };
 
 class CommandStack : public AcEdCommandStack {
  public:
-  // The latest registration wins. A leading "_" asks for the global name and a leading "." for the
-  // host's own command; the caller has cut both off and tells.
+  // The command of the latest registration. The prefixes "_" (global name) and "." (host command)
+  // have been removed by the caller; `hostOnly` is the latter.
   const Command* Find(const std::wstring& name, bool hostOnly) const;
   const std::vector<Command>& All() const { return m_commands; }
 
@@ -32,7 +32,7 @@ class CommandStack : public AcEdCommandStack {
   Acad::ErrorStatus removeGroup(const ACHAR* group) override;
   void RemoveModule(const LoadedModule* module);
   void AddNative(const wchar_t* name, int flags,
-                 AcRxFunctionPtr function);  // at start, before any module
+                 AcRxFunctionPtr function);  // before any module is loaded
 
  private:
   std::vector<Command> m_commands;

@@ -1,4 +1,4 @@
-// The commands that draw: LINE, CIRCLE, PLINE, TEXT.
+// Commands that add entities: LINE, CIRCLE, PLINE, TEXT.
 #include <algorithm>
 #include <cwchar>
 #include <memory>

@@ -1,4 +1,4 @@
-// The commands that change what is drawn: ERASE, MOVE, U, UNDO, LAYER, SETVAR.
+// Commands that change entities and settings: ERASE, MOVE, U, UNDO, LAYER, SETVAR.
 #include "aced.h"
 #include "dbents.h"
 #include "dbsymtb.h"
@@ -9,16 +9,16 @@
 namespace devhost {
 namespace {
 
-Document* Here() { return TheHost().documents.Current(); }
+Document* CurrentDocument() { return TheHost().documents.Current(); }
 
 AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
 
-// Runs over what is selected, or asks for it.
+// Calls `each` for every selected entity; prompts for a selection if there is none.
 template <class F>
 int ForSelected(F each) {
   ads_name set{};
   if (acedSSGet(nullptr, nullptr, nullptr, nullptr, set) != RTNORM) return 0;
-  const std::vector<AcDbObjectId> ids = *SetOf(set);
+  const std::vector<AcDbObjectId> ids = *FindSet(set);
   acedSSFree(set);
   int count = 0;
   for (AcDbObjectId id : ids)
@@ -30,7 +30,7 @@ int ForSelected(F each) {
 }
 
 void Erase() {
-  Document* document = Here();
+  Document* document = CurrentDocument();
   ForSelected([](AcDbEntity& entity) { entity.erase(); });
   SetPickFirst(*document, {});
 }
@@ -41,7 +41,7 @@ void Move() {
   if (acedSSGet(nullptr, nullptr, nullptr, nullptr, set) != RTNORM) return;
   if (acedGetPoint(nullptr, L"指定基点: ", from) == RTNORM &&
       acedGetPoint(from, L"指定第二个点: ", to) == RTNORM)
-    for (AcDbObjectId id : *SetOf(set))
+    for (AcDbObjectId id : *FindSet(set))
       if (AcDbEntity* entity = AcDbEntity::cast(id.object()))
         entity->transformBy(AcGeMatrix3d::translation(Of(to) - Of(from)));
   acedSSFree(set);
@@ -50,7 +50,7 @@ void Move() {
 void Layer() {
   ACHAR name[140];
   if (acedGetString(0, L"输入图层名: ", name) != RTNORM || !*name) return;
-  auto* table = AcDbLayerTable::cast(Here()->database()->layerTableId().object());
+  auto* table = AcDbLayerTable::cast(CurrentDocument()->database()->layerTableId().object());
   if (!table->has(name)) {
     auto* layer = new AcDbLayerTableRecord;
     layer->setName(name);
@@ -81,24 +81,24 @@ void SetVar() {
   }
 }
 
-void TakeBackSteps(Document& document, int count) {
+void UndoSteps(Document& document, int count) {
   for (int i = 0; i < count; ++i) {
-    const std::wstring command = TakeBackLatest(document);
+    const std::wstring command = UndoLatestStep(document);
     TheHost().Print(command.empty() ? L"所有内容都已放弃。\n" : command + L"\n");
     if (command.empty()) break;
   }
   SetPickFirst(document, {});
 }
 
-void UndoOne() { TakeBackSteps(*Here(), 1); }
+void UndoOne() { UndoSteps(*CurrentDocument(), 1); }
 
 void Undo() {
-  Document* document = Here();
+  Document* document = CurrentDocument();
   int count = 1;
   ACHAR word[40];
   acedInitGet(6, L"Begin End");
   const int status = acedGetInt(L"输入要放弃的操作数目或 [开始(BE)/结束(E)] <1>: ", &count);
-  if (status == RTNORM || status == RTNONE) return TakeBackSteps(*document, count);
+  if (status == RTNORM || status == RTNONE) return UndoSteps(*document, count);
   if (status != RTKWORD) return;
   acedGetInput(word);
   word[0] == L'B' ? BeginUndoGroup(*document) : EndUndoGroup(*document);

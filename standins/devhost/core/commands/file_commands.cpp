@@ -1,4 +1,4 @@
-// The commands for drawings, menu groups and the program: NEW, OPEN, SAVE, CLOSE, MENULOAD, QUIT.
+// Commands for drawings, menu groups and the program: NEW, OPEN, SAVE, CLOSE, MENULOAD, QUIT.
 #include <filesystem>
 
 #include "aced.h"
@@ -10,7 +10,7 @@
 namespace devhost {
 namespace {
 
-Document* Here() { return TheHost().documents.Current(); }
+Document* CurrentDocument() { return TheHost().documents.Current(); }
 
 void New() { TheHost().documents.New(); }
 
@@ -21,14 +21,14 @@ void Open() {
 }
 
 void Close() {
-  Document* document = Here();
-  // Alone on the drawing's stack this command may take it away; inside another it waits for that.
+  Document* document = CurrentDocument();
+  // CLOSE itself does not delay the closing; an enclosing command does.
   if (document->commands.size() == 1) document->commands.clear();
   TheHost().documents.Close(document);
 }
 
 void CloseAll() {
-  if (Here()->commands.size() == 1) Here()->commands.clear();
+  if (CurrentDocument()->commands.size() == 1) CurrentDocument()->commands.clear();
   std::vector<Document*> open;
   for (const auto& document : TheHost().documents.All()) open.push_back(document.get());
   for (Document* document : open) TheHost().documents.Close(document);
@@ -48,7 +48,7 @@ void SaveTo(Document& document, const std::wstring& path) {
 }
 
 void SaveAs() {
-  Document* document = Here();
+  Document* document = CurrentDocument();
   ACHAR path[140];
   if (acedGetString(1, L"输入图形文件名: ", path) != RTNORM || !*path) return;
   std::error_code error;
@@ -56,7 +56,7 @@ void SaveAs() {
 }
 
 void Save() {
-  Document* document = Here();
+  Document* document = CurrentDocument();
   if (document->HasFile())
     SaveTo(*document, document->fileName());
   else

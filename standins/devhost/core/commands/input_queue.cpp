@@ -1,7 +1,5 @@
-// The waiting input; see the header.
+// The input queue; see the header.
 #include "devhost/core/commands/input_queue.h"
-
-#include <algorithm>
 
 namespace devhost {
 namespace {
@@ -12,10 +10,11 @@ bool EndsToken(wchar_t c, bool blanksAllowed) {
   return c == L'\n' || c == L'\r' || (!blanksAllowed && (c == L' ' || c == L'\t'));
 }
 
-// How many characters the item at the front has, its end not counted; -1 when it is not whole yet.
-// Inside a LISP expression blanks, newlines and brackets in strings belong to it.
+// The length of the first item without its end; -1 if it is incomplete. Inside a LISP expression,
+// blanks, newlines and brackets in strings are part of it.
 int ItemLength(const std::deque<wchar_t>& text, bool blanksAllowed) {
-  const bool lisp = !blanksAllowed && !text.empty() && text[0] == L'(';  // else a text of brackets
+  // with blanks allowed, "(" is plain text
+  const bool lisp = !blanksAllowed && !text.empty() && text[0] == L'(';
   int depth = 0;
   bool quoted = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -66,10 +65,9 @@ InputQueue::Item InputQueue::Take(bool blanksAllowed) {
   item.text.assign(m_text.begin(), m_text.begin() + length);
   m_text.erase(m_text.begin(), m_text.begin() + length);
   if (m_text.empty() || m_text[0] == kEscape) return item;
-  // The end goes with the token; a CR LF pair is one end.
+  // Removes the end of the token; CR LF is one end.
   if (EndsToken(m_text[0], blanksAllowed)) {
     const wchar_t end = m_text[0];
-    item.endedByNewline = end == L'\n' || end == L'\r';
     m_text.pop_front();
     if (end == L'\r' && !m_text.empty() && m_text[0] == L'\n') m_text.pop_front();
   }

@@ -1,5 +1,4 @@
-// The host's own commands: enough for a drawing program. They use the published interface as
-// modules do.
+// The host's own commands. They use the published interface, as modules do.
 #pragma once
 
 #include <span>

@@ -30,7 +30,7 @@ std::wstring CapitalsOf(const std::wstring& word) {
 }  // namespace
 
 std::optional<std::wstring> MatchKeyword(const std::wstring& keywords, std::wstring typed) {
-  if (!typed.empty() && typed[0] == L'_') typed.erase(0, 1);  // the language-neutral form
+  if (!typed.empty() && typed[0] == L'_') typed.erase(0, 1);  // prefix of the language-neutral form
   typed = UpperCase(typed);
   if (typed.empty()) return std::nullopt;
   const std::vector<std::wstring> words = WordsOf(keywords);

@@ -1,5 +1,5 @@
-// What a typed answer means: keywords, numbers and points. Points are typed as "x,y", "@dx,dy" or
-// "@length<angle"; keywords may be shortened to their capitals.
+// Parsing of typed answers: keywords, numbers and points. Points are "x,y", "@dx,dy" or
+// "@length<angle"; keywords may be abbreviated to their capitals.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,8 @@
 
 namespace devhost {
 
-// A word typed whole or by its capitals is that word; otherwise the first one that begins so.
+// A keyword equal to the text or with these capitals; otherwise the first that begins with the
+// text.
 std::optional<std::wstring> MatchKeyword(const std::wstring& keywords, std::wstring typed);
 
 bool ReadNumber(const wchar_t*& at, double* value);

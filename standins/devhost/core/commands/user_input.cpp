@@ -1,4 +1,4 @@
-// The published input functions, over the engine's one question.
+// The published input functions, based on CommandEngine::Ask.
 #include <cmath>
 #include <cwchar>
 #include <numbers>
@@ -14,13 +14,13 @@ using namespace devhost;
 
 namespace {
 
-// What acedInitGet said for the next question.
-struct NextQuestion {
+// Flags and keywords of acedInitGet, valid for the next request.
+struct RequestOptions {
   int flags = 0;
   std::wstring keywords;
 };
-NextQuestion& Next() {
-  static NextQuestion next;
+RequestOptions& NextOptions() {
+  static RequestOptions next;
   return next;
 }
 std::wstring& LastKeyword() {
@@ -41,33 +41,33 @@ void ToAds(const AcGePoint3d& p, ads_point out) {
   out[2] = p.z;
 }
 
-// Asks until `read` takes the answer. RTNORM, RTNONE, RTKWORD or RTCAN.
+// Asks until `read` accepts the answer. Returns RTNORM, RTNONE, RTKWORD or RTCAN.
 template <class Read>
-int AskFor(Asking what, const ACHAR* prompt, bool blanks, const AcGePoint3d* base,
-           const wchar_t* complaint, Read read) {
-  const NextQuestion question = std::exchange(Next(), NextQuestion());
+int AskFor(InputRequest what, const ACHAR* prompt, bool blanks, const AcGePoint3d* base,
+           const wchar_t* rejection, Read read) {
+  const RequestOptions options = std::exchange(NextOptions(), RequestOptions());
   const std::wstring text = prompt ? prompt : L"";
   for (;;) {
     const InputAnswer answer = TheHost().engine.Ask(what, text, blanks, base);
     if (answer.kind == InputAnswer::Kind::Cancelled) return RTCAN;
     if (answer.kind == InputAnswer::Kind::Enter && !blanks) {
-      if (!(question.flags & kNoEmpty)) return RTNONE;
+      if (!(options.flags & kNoEmpty)) return RTNONE;
     } else if (answer.kind == InputAnswer::Kind::Text && !blanks) {
-      if (auto word = MatchKeyword(question.keywords, answer.text)) {
+      if (auto word = MatchKeyword(options.keywords, answer.text)) {
         LastKeyword() = *word;
         return RTKWORD;
       }
     }
-    if (read(answer, question.flags)) return RTNORM;
-    if (answer.kind == InputAnswer::Kind::Text && (question.flags & kArbitrary)) {
+    if (read(answer, options.flags)) return RTNORM;
+    if (answer.kind == InputAnswer::Kind::Text && (options.flags & kArbitrary)) {
       LastKeyword() = answer.text;
       return RTKWORD;
     }
-    TheHost().Print(complaint);
+    TheHost().Print(rejection);
   }
 }
 
-int AskPoint(Asking what, const ads_point base, const ACHAR* prompt, ads_point result) {
+int AskPoint(InputRequest what, const ads_point base, const ACHAR* prompt, ads_point result) {
   const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
   return AskFor(what, prompt, false, base ? &from : nullptr, L"\n点无效。\n",
                 [&](const InputAnswer& answer, int) {
@@ -84,13 +84,13 @@ int AskPoint(Asking what, const ads_point base, const ACHAR* prompt, ads_point r
 }
 
 int AskReal(const AcGePoint3d* base, const ACHAR* prompt, bool angle, ads_real* result) {
-  return AskFor(base ? Asking::Point : Asking::Text, prompt, false, base, L"\n需要数值。\n",
-                [&](const InputAnswer& answer, int flags) {
+  return AskFor(base ? InputRequest::Point : InputRequest::Text, prompt, false, base,
+                L"\n需要数值。\n", [&](const InputAnswer& answer, int flags) {
                   double value = 0;
                   if (answer.kind == InputAnswer::Kind::Point) {
                     if (!base) return false;
-                    const AcGeVector3d way = answer.point - *base;
-                    value = angle ? std::atan2(way.y, way.x) : way.length();
+                    const AcGeVector3d offset = answer.point - *base;
+                    value = angle ? std::atan2(offset.y, offset.x) : offset.length();
                   } else {
                     const wchar_t* at = answer.text.c_str();
                     if (!ReadNumber(at, &value) || *at) return false;
@@ -106,15 +106,15 @@ int AskReal(const AcGePoint3d* base, const ACHAR* prompt, bool angle, ads_real* 
 }  // namespace
 
 int acedInitGet(int flags, const ACHAR* keywords) {
-  Next() = {flags, keywords ? keywords : L""};
+  NextOptions() = {flags, keywords ? keywords : L""};
   return RTNORM;
 }
 
 int acedGetPoint(const ads_point base, const ACHAR* prompt, ads_point result) {
-  return AskPoint(Asking::Point, base, prompt, result);
+  return AskPoint(InputRequest::Point, base, prompt, result);
 }
 int acedGetCorner(const ads_point base, const ACHAR* prompt, ads_point result) {
-  return AskPoint(Asking::Corner, base, prompt, result);
+  return AskPoint(InputRequest::Corner, base, prompt, result);
 }
 
 int acedGetDist(const ads_point base, const ACHAR* prompt, ads_real* result) {
@@ -130,7 +130,7 @@ int acedGetReal(const ACHAR* prompt, ads_real* result) {
 }
 
 int acedGetInt(const ACHAR* prompt, int* result) {
-  return AskFor(Asking::Text, prompt, false, nullptr, L"\n需要整数。\n",
+  return AskFor(InputRequest::Text, prompt, false, nullptr, L"\n需要整数。\n",
                 [&](const InputAnswer& answer, int flags) {
                   wchar_t* end = nullptr;
                   const long value = std::wcstol(answer.text.c_str(), &end, 10);
@@ -144,16 +144,16 @@ int acedGetInt(const ACHAR* prompt, int* result) {
 
 int acedGetString(int blanks, const ACHAR* prompt, ACHAR* result) {
   constexpr std::size_t kLongest = 132;
-  Next() = {};
+  NextOptions() = {};
   const InputAnswer answer =
-      TheHost().engine.Ask(Asking::Text, prompt ? prompt : L"", blanks != 0, nullptr);
+      TheHost().engine.Ask(InputRequest::Text, prompt ? prompt : L"", blanks != 0, nullptr);
   if (answer.kind == InputAnswer::Kind::Cancelled) return RTCAN;
   std::wcscpy(result, answer.text.substr(0, kLongest).c_str());
   return RTNORM;
 }
 
 int acedGetKword(const ACHAR* prompt, ACHAR* result) {
-  const int status = AskFor(Asking::Keyword, prompt, false, nullptr, L"\n关键字无效。\n",
+  const int status = AskFor(InputRequest::Keyword, prompt, false, nullptr, L"\n关键字无效。\n",
                             [](const InputAnswer&, int) { return false; });
   if (status != RTKWORD) return status;
   std::wcscpy(result, LastKeyword().c_str());

@@ -1,4 +1,4 @@
-// The commands that move the view: ZOOM, PAN, REGEN.
+// Commands that change the view: ZOOM, PAN, REGEN.
 #include <cwchar>
 
 #include "aced.h"
@@ -10,12 +10,12 @@
 namespace devhost {
 namespace {
 
-Document* Here() { return TheHost().documents.Current(); }
+Document* CurrentDocument() { return TheHost().documents.Current(); }
 
 AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
 
 void Zoom() {
-  Document* document = Here();
+  Document* document = CurrentDocument();
   ACHAR word[40] = L"";
   ads_real factor = 0;
   acedInitGet(128, L"All Extents");
@@ -40,7 +40,7 @@ void Zoom() {
 
 void Pan() {
   ads_point from{}, to{};
-  Document* document = Here();
+  Document* document = CurrentDocument();
   if (acedGetPoint(nullptr, L"指定基点: ", from) != RTNORM ||
       acedGetPoint(from, L"指定第二点: ", to) != RTNORM)
     return;
@@ -51,7 +51,7 @@ void Pan() {
 
 void Regen() {
   TheHost().Print(L"正在重生成模型。\n");
-  TheHost().Ui().PictureChanged(*Here());
+  TheHost().Ui().PictureChanged(*CurrentDocument());
 }
 
 constexpr NativeCommand kView[] = {

@@ -8,7 +8,7 @@ namespace devhost {
 
 Document::Document(std::wstring path) : m_database(std::make_unique<AcDbDatabase>()) {
   SetPath(std::move(path));
-  WatchForUndo(*this);
+  ConnectUndo(*this);
 }
 
 Document::~Document() = default;

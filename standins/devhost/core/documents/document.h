@@ -1,4 +1,4 @@
-// One open drawing: its database, view, input, LISP functions and symbols, pick-first set, undo
+// One open drawing: database, view, input queue, LISP functions and symbols, selections, undo
 // steps.
 #pragma once
 
@@ -19,7 +19,7 @@ namespace devhost {
 struct LoadedModule;
 
 struct LispFunction {
-  LoadedModule* module;  // whose entry point is called
+  LoadedModule* module;  // its entry point is called
   int code;
 };
 
@@ -42,18 +42,18 @@ class Document : public AcApDocument {
 
   InputQueue input;
   ViewTransform view;
-  std::vector<std::wstring> commands;                  // running, the outermost first
+  std::vector<std::wstring> commands;                  // running commands, the outermost first
   std::map<std::wstring, LispFunction> lispFunctions;  // by upper-case name
   std::map<std::wstring, LispValue> lispSymbols;       // by upper-case name
-  std::map<std::wstring, std::wstring> variables;      // values that belong to this drawing
+  std::map<std::wstring, std::wstring> variables;      // variables stored with the drawing
   std::vector<AcDbObjectId> pickFirst;
   std::vector<AcDbObjectId> previousSelection;
   std::vector<UndoStep> undo;
   UndoStep* recording = nullptr;
-  int undoGroup = -1;  // how many steps there were when the open group began; -1: none is open
+  int undoGroup = -1;  // number of steps when the open group began; -1: no open group
   int locks = 0;
-  std::unique_ptr<UndoRecording> lockStep;  // open while a lock outside all commands lasts
-  bool closeWaits = false;                  // it is to be closed as soon as nothing runs in it
+  std::unique_ptr<UndoRecording> lockStep;  // open during a lock outside of all commands
+  bool closePending = false;                // is closed as soon as no command runs in it
   std::wstring lastCommand;
 
  private:

@@ -2,7 +2,7 @@
 #include "acdocman.h"
 #include "devhost/core/host/host.h"
 
-// The published class descriptors of the document interfaces.
+// Class descriptors.
 ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocument, AcRxObject)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocManager, AcRxObject)
 
@@ -15,10 +15,10 @@ AcAxDocLock::~AcAxDocLock() {
   if (m_status == Acad::eOk) acDocManagerPtr()->unlockDocument(m_document);
 }
 
-// A view paints whole drawings, so there is nothing smaller to ask for.
+// Views paint whole drawings, not single entities.
 Acad::ErrorStatus AcDbEntity::draw() {
   auto& documents = devhost::TheHost().documents;
-  devhost::Document* document = documents.Known(documents.document(database()));
+  devhost::Document* document = documents.FindDocument(documents.document(database()));
   if (!document) return Acad::eNoDocument;
   devhost::TheHost().Ui().PictureChanged(*document);
   return Acad::eOk;

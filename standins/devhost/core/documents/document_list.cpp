@@ -37,10 +37,10 @@ DocumentList::DocumentList() = default;
 DocumentList::~DocumentList() = default;
 
 template <class F>
-void DocumentList::Notify(F tell) {
-  const std::vector<AcApDocManagerReactor*> listeners = m_reactors;
-  for (AcApDocManagerReactor* reactor : listeners)
-    if (std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end()) tell(reactor);
+void DocumentList::Notify(F call) {
+  const std::vector<AcApDocManagerReactor*> reactors = m_reactors;
+  for (AcApDocManagerReactor* reactor : reactors)
+    if (std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end()) call(reactor);
 }
 
 Document* DocumentList::Adopt(std::unique_ptr<Document> made) {
@@ -102,26 +102,26 @@ void DocumentList::Activate(Document* document) {
   TheHost().SetPrompt(L"命令: ");
 }
 
-bool DocumentList::CloseWaiting() {
+bool DocumentList::ClosePending() {
   for (const auto& document : m_documents)
-    if (document->closeWaits && document->commands.empty() && document->locks == 0) {
+    if (document->closePending && document->commands.empty() && document->locks == 0) {
       Close(document.get());
       return true;
     }
   return false;
 }
 
-bool DocumentList::AnyCloseWaits() const {
+bool DocumentList::HasPendingClose() const {
   return std::any_of(m_documents.begin(), m_documents.end(),
-                     [](const auto& document) { return document->closeWaits; });
+                     [](const auto& document) { return document->closePending; });
 }
 
 void DocumentList::Close(Document* document) {
-  if (!document || !Known(document)) return;
+  if (!document || !FindDocument(document)) return;
   TheHost().engine.CancelAll(*document);
   if (!document->commands.empty() || document->locks > 0) {
-    // A command or a call of this drawing is still on the stack: it ends first.
-    document->closeWaits = true;
+    // A command or call of this drawing is on the stack and must end first.
+    document->closePending = true;
     return;
   }
   Notify([&](AcApDocManagerReactor* r) { r->documentToBeDestroyed(document); });
@@ -147,7 +147,7 @@ Document* DocumentList::FindByName(const std::wstring& name) const {
   return nullptr;
 }
 
-Document* DocumentList::Known(const AcApDocument* document) const {
+Document* DocumentList::FindDocument(const AcApDocument* document) const {
   for (const auto& d : m_documents)
     if (d.get() == document) return d.get();
   return nullptr;
@@ -188,23 +188,23 @@ Acad::ErrorStatus DocumentList::appContextNewDocument(const ACHAR*) {
 }
 
 Acad::ErrorStatus DocumentList::activateDocument(AcApDocument* document, bool) {
-  Document* known = Known(document);
+  Document* known = FindDocument(document);
   if (!known) return Acad::eNoDocument;
   Activate(known);
   return Acad::eOk;
 }
 
 Acad::ErrorStatus DocumentList::closeDocument(AcApDocument* document) {
-  Document* known = Known(document);
+  Document* known = FindDocument(document);
   if (!known) return Acad::eNoDocument;
   Close(known);
   return Acad::eOk;
 }
 
-// What code outside all commands writes under its lock is one undo step.
+// Everything written under one lock is one undo step.
 Acad::ErrorStatus DocumentList::lockDocument(AcApDocument* document, AcAp::DocLockMode,
                                              const ACHAR* command, const ACHAR*, bool) {
-  Document* known = Known(document);
+  Document* known = FindDocument(document);
   if (!known) return Acad::eNoDocument;
   if (known->locks++ == 0)
     known->lockStep = std::make_unique<UndoRecording>(*known, command ? command : L"GROUP");
@@ -212,7 +212,7 @@ Acad::ErrorStatus DocumentList::lockDocument(AcApDocument* document, AcAp::DocLo
 }
 
 Acad::ErrorStatus DocumentList::unlockDocument(AcApDocument* document) {
-  Document* known = Known(document);
+  Document* known = FindDocument(document);
   if (!known || known->locks == 0) return Acad::eNoDocument;
   if (--known->locks == 0) known->lockStep.reset();
   return Acad::eOk;
@@ -220,7 +220,7 @@ Acad::ErrorStatus DocumentList::unlockDocument(AcApDocument* document) {
 
 Acad::ErrorStatus DocumentList::sendStringToExecute(AcApDocument* document, const ACHAR* text,
                                                     bool activate, bool, bool) {
-  Document* known = Known(document);
+  Document* known = FindDocument(document);
   if (!known || !text) return Acad::eNoDocument;
   TheJournal().Record("sent", {{"text", Utf8(text)}});
   if (activate && known != m_current) Activate(known);

@@ -1,5 +1,5 @@
-// The open drawings, which of them is current, and everything that happens to them. This is the
-// document manager that modules see.
+// The open drawings and the current one. Implements the document manager of the published
+// interface.
 #pragma once
 
 #include <memory>
@@ -20,16 +20,17 @@ class DocumentList : public AcApDocManager {
   Document* Current() const { return m_current; }
   const std::vector<std::unique_ptr<Document>>& All() const { return m_documents; }
 
-  // A new empty drawing ("Drawing1.dwg", counting up), current afterwards.
+  // Creates and activates an empty drawing ("Drawing1.dwg", counting up).
   Document* New();
-  // Reads a file; a file that is open already is only activated. What was wrong is printed with
-  // file and line; null when nothing at all could be read.
+  // Opens a drawing; one that is already open is only activated. Problems are printed with file and
+  // line. Null if nothing could be read.
   Document* Open(const std::wstring& path);
   void Activate(Document* document);
-  // Ends what runs in it, tells reactors and modules, destroys it. The one before becomes current.
+  // Notifies reactors and modules and destroys the drawing, then activates the one used before. If
+  // a command runs in it, it is cancelled and the drawing is closed later by ClosePending.
   void Close(Document* document);
-  bool CloseWaiting();  // closes one that had to wait for the end of what ran in it; false: none
-  bool AnyCloseWaits() const;
+  bool ClosePending();  // closes one drawing whose commands have ended; false: none
+  bool HasPendingClose() const;
   Document* FindByName(
       const std::wstring& name) const;  // file name without extension, case ignored
 
@@ -52,15 +53,15 @@ class DocumentList : public AcApDocManager {
   void addReactor(AcApDocManagerReactor* reactor) override;
   void removeReactor(AcApDocManagerReactor* reactor) override;
 
-  Document* Known(const AcApDocument* document) const;  // null for one that is not open
+  Document* FindDocument(const AcApDocument* document) const;  // null if it is not open
 
  private:
   template <class F>
-  void Notify(F tell);  // survives reactors that remove themselves or others
+  void Notify(F call);  // reactors may remove themselves and others
   Document* Adopt(std::unique_ptr<Document> document);
 
   std::vector<std::unique_ptr<Document>> m_documents;
-  std::vector<Document*> m_order;  // by last use, the latest last
+  std::vector<Document*> m_order;  // by last use, the current one last
   std::vector<AcApDocManagerReactor*> m_reactors;
   Document* m_current = nullptr;
   int m_created = 0;

@@ -1,4 +1,4 @@
-// Scopes of drawings; see the header.
+// Nested scopes; see the header.
 #include "devhost/core/documents/document_scope.h"
 
 #include <vector>

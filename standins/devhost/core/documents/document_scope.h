@@ -1,11 +1,11 @@
-// The drawing for which a message is sent to a module.
+// The current drawing of a message to a module.
 #pragma once
 
 namespace devhost {
 
 class Document;
 
-// Makes a drawing the current one for the time of a message to a module, without activating it.
+// Makes a drawing the current one for its lifetime, without activating it.
 class DocumentScope {
  public:
   explicit DocumentScope(Document* document);

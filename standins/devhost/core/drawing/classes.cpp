@@ -7,8 +7,8 @@
 
 namespace {
 
-// Classes that drawings can name. A module's classes join at acrxBuildClassHierarchy and leave with
-// deleteAcRxClass, before its code goes.
+// Classes by DXF name. A module's classes are added by their constructors and removed by
+// deleteAcRxClass, before the module is unloaded.
 std::map<std::wstring, AcRxClass*>& ByDxfName() {
   static auto* classes = new std::map<std::wstring, AcRxClass*>;
   return *classes;

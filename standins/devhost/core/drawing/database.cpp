@@ -1,4 +1,4 @@
-// The database of a drawing; see dbmain.h. Objects live until their database goes.
+// The database of a drawing; see dbmain.h. Objects live as long as their database.
 #include "devhost/core/drawing/database_body.h"
 
 #include "dbsymtb.h"
@@ -29,7 +29,7 @@ AcDbDatabase::~AcDbDatabase() {
 
 Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObjectId& id, AcDbObject* object) {
   if (!object || object->m_database) return Acad::eInvalidInput;
-  AcDbObjectAccess::Adopt(*this, object, AcDbHandle());
+  AcDbObjectAccess::AddObject(*this, object, AcDbHandle());
   id = object->objectId();
   return Acad::eOk;
 }

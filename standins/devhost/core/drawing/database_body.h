@@ -1,4 +1,4 @@
-// What stands behind AcDbDatabase, and the host's own way to the private parts of objects.
+// The private parts of AcDbDatabase and of objects, for the host's own code.
 #pragma once
 
 #include <functional>
@@ -9,46 +9,48 @@
 
 #include "dbmain.h"
 
-// A group of a drawing file that the host does not understand and writes as it came.
+// A group of a drawing file that the host does not interpret and writes back unchanged.
 struct KeptGroup {
   short code;
   std::wstring text;
 };
 
 struct AcDbDatabase::Body {
-  std::vector<std::unique_ptr<AcDbObject>> objects;  // in the order in which they came
+  std::vector<std::unique_ptr<AcDbObject>> objects;  // in the order of insertion
   std::unordered_map<std::uint64_t, AcDbObject*> byHandle;
   std::uint64_t nextHandle = 0x20;
   AcDbObjectId blockTable, layerTable;
-  std::vector<KeptGroup> header;         // the header section: names (code 9) and what follows them
-  std::vector<KeptGroup> classes;        // the section of classes
-  std::vector<KeptGroup> otherTables;    // tables but those of layers and block records, each whole
-  std::vector<KeptGroup> otherSections;  // sections that nobody here reads, each whole
+  std::vector<KeptGroup> header;         // the header section: names (code 9) and their values
+  std::vector<KeptGroup> classes;        // the CLASSES section
+  std::vector<KeptGroup> otherTables;    // tables other than layers and block records, complete
+  std::vector<KeptGroup> otherSections;  // sections that the host does not read, complete
   bool paperIsCurrent = false;
   int modified = 0;
-  // Undo recording; the document sets them.
+  // Callbacks for undo recording, set by the document.
   std::function<void(AcDbObject*)> onErased, onAdded;
-  std::function<void(AcDbObject*)> onChanging;  // its data may change from now on
+  std::function<void(AcDbObject*)> onChanging;  // before its data changes
   std::function<void(AcDbEntity*, const AcGeMatrix3d&)> onMoved;
 
   std::uint64_t NextHandle();
 };
 
 struct AcDbObjectAccess {
-  static void Adopt(AcDbDatabase& database, AcDbObject* object, AcDbHandle wanted);  // takes it
-  // Puts `fresh` in the place of a held object, under its handle and in its block; the old one
-  // goes.
+  static void AddObject(AcDbDatabase& database, AcDbObject* object,
+                        AcDbHandle wanted);  // owns it from now on
+  // Replaces a held object by `fresh`, with the same handle and place in its block. Deletes the old
+  // object.
   static void Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held,
                       AcDbObject* fresh);
-  static void TakeXData(AcDbObject* from, AcDbObject* to) { std::swap(from->m_xdata, to->m_xdata); }
+  static void SwapXData(AcDbObject* from, AcDbObject* to) { std::swap(from->m_xdata, to->m_xdata); }
   static void CountOpen(AcDbObject* object) { ++object->m_openCount; }
-  // Gives an object that is in the database another handle; one that is taken already is refused.
+  // Changes the handle of an object in the database. False if the handle is taken.
   static bool ChangeHandle(AcDbObject* object, AcDbHandle wanted);
-  // Groups of an entity's common part that have no member, such as line weight and true colour.
+  // Shared groups of an entity that have no member, such as line weight and true colour.
   static std::vector<KeptGroup>& CommonGroups(AcDbEntity& entity);
   static const resbuf* XData(const AcDbObject& object) { return object.m_xdata; }
-  static void SetXData(AcDbObject& object, const resbuf* all);  // all applications at once; copied
+  // replaces all applications; copies the chain
+  static void SetXData(AcDbObject& object, const resbuf* all);
   static bool HasLinetype(const AcDbEntity& entity) { return entity.m_linetype != nullptr; }
   static void ClearLinetype(AcDbEntity& entity);
-  static void TellChanging(AcDbObject& object);
+  static void NotifyChanging(AcDbObject& object);
 };

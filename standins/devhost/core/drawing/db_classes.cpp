@@ -1,5 +1,5 @@
-// Every class of the host's database by name; see the header. Kept in one place so that a class
-// that is missing here is a class that drawings can't find.
+// The list of all database classes of the host. A class that is missing here is read from drawings
+// as opaque entities.
 #include "devhost/core/drawing/db_classes.h"
 
 #include "dbents.h"

@@ -1,4 +1,4 @@
-// Makes the host's own database classes known, so that drawings find them by their DXF names.
+// Registers the host's database classes, so that drawings find them by their DXF names.
 #pragma once
 
 namespace devhost {

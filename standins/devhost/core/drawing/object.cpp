@@ -1,6 +1,5 @@
-// Objects of a database: handles, opening, erasing; see dbmain.h. Erasing only marks, so that undo
-// can bring objects back.
-#include <cstdlib>
+// Objects of a database: handles, opening, erasing; see dbmain.h. Erasing only sets a flag, so that
+// undo can restore the object.
 #include <cwchar>
 
 #include "acdocman.h"
@@ -12,9 +11,9 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 
 namespace {
 
-// A change needs the drawing's lock: a running command holds it, code outside one takes it by
-// itself.
-bool MayWrite(const AcDbDatabase* database) {
+// Writing requires a lock of the drawing: a running command holds one, other code takes it with
+// lockDocument.
+bool IsWritable(const AcDbDatabase* database) {
   const AcApDocument* document = acDocManagerPtr()->document(database);
   return !document || document->lockMode() != AcAp::kNotLocked;
 }
@@ -40,8 +39,8 @@ Acad::ErrorStatus AcDbObject::close() {
 
 Acad::ErrorStatus AcDbObject::upgradeOpen() {
   if (m_openCount == 0) return Acad::eNotOpenForWrite;
-  if (!MayWrite(m_database)) return Acad::eLockViolation;
-  AcDbObjectAccess::TellChanging(*this);
+  if (!IsWritable(m_database)) return Acad::eLockViolation;
+  AcDbObjectAccess::NotifyChanging(*this);
   return Acad::eOk;
 }
 
@@ -61,7 +60,7 @@ void AcDbObjectAccess::ClearLinetype(AcDbEntity& entity) {
   entity.m_linetype = nullptr;
 }
 
-void AcDbObjectAccess::TellChanging(AcDbObject& object) {
+void AcDbObjectAccess::NotifyChanging(AcDbObject& object) {
   if (object.m_database && object.m_database->body().onChanging)
     object.m_database->body().onChanging(&object);
 }
@@ -69,7 +68,7 @@ void AcDbObjectAccess::TellChanging(AcDbObject& object) {
 Acad::ErrorStatus AcDbObject::dxfInFields(AcDbDxfFiler*) { return Acad::eOk; }
 Acad::ErrorStatus AcDbObject::dxfOutFields(AcDbDxfFiler*) const { return Acad::eOk; }
 
-void AcDbObjectAccess::Adopt(AcDbDatabase& database, AcDbObject* object, AcDbHandle wanted) {
+void AcDbObjectAccess::AddObject(AcDbDatabase& database, AcDbObject* object, AcDbHandle wanted) {
   AcDbDatabase::Body& body = database.body();
   std::uint64_t handle = wanted.value();
   if (!handle || body.byHandle.count(handle)) handle = body.NextHandle();
@@ -113,10 +112,10 @@ Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb:
   object = nullptr;
   if (id.isNull()) return Acad::eNullObjectId;
   if (id.isErased() && !openErased) return Acad::eWasErased;
-  if (mode == AcDb::kForWrite && !MayWrite(id.database())) return Acad::eLockViolation;
+  if (mode == AcDb::kForWrite && !IsWritable(id.database())) return Acad::eLockViolation;
   object = id.object();
   AcDbObjectAccess::CountOpen(object);
-  if (mode == AcDb::kForWrite) AcDbObjectAccess::TellChanging(*object);
+  if (mode == AcDb::kForWrite) AcDbObjectAccess::NotifyChanging(*object);
   return Acad::eOk;
 }
 

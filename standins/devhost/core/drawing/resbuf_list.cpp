@@ -1,4 +1,4 @@
-// Resbuf chains of the published interface: making, releasing, building from arguments.
+// Resbuf chains: allocation, release, building from arguments.
 #include <cstdarg>
 #include <cstdlib>
 #include <cstring>
@@ -9,47 +9,47 @@
 
 namespace {
 
-// What a type code holds; both the RT codes and DXF group codes appear in lists.
-enum class Holds { Nothing, Short, Long, Real, Point, String, Name };
+// The kind of value of a type code. RT codes and DXF group codes both appear in lists.
+enum class ValueKind { Nothing, Short, Long, Real, Point, String, Name };
 
-Holds WhatHolds(int type) {
+ValueKind ValueKindOf(int type) {
   switch (type) {
     case RTSHORT:
-      return Holds::Short;
+      return ValueKind::Short;
     case RTLONG:
-      return Holds::Long;
+      return ValueKind::Long;
     case RTREAL:
     case RTANG:
     case RTORINT:
-      return Holds::Real;
+      return ValueKind::Real;
     case RTPOINT:
     case RT3DPOINT:
-      return Holds::Point;
+      return ValueKind::Point;
     case RTSTR:
-      return Holds::String;
+      return ValueKind::String;
     case RTENAME:
     case RTPICKS:
-      return Holds::Name;
+      return ValueKind::Name;
     default:
       break;
   }
-  if (type >= 5000 || type == -4) return type == -4 ? Holds::String : Holds::Nothing;
+  if (type >= 5000 || type == -4) return type == -4 ? ValueKind::String : ValueKind::Nothing;
   using devhost::GroupKind;
   switch (devhost::KindOfGroup(type)) {
     case GroupKind::String:
-      return Holds::String;
+      return ValueKind::String;
     case GroupKind::Point:
-      return Holds::Point;
+      return ValueKind::Point;
     case GroupKind::Real:
-      return Holds::Real;
+      return ValueKind::Real;
     case GroupKind::Short:
-      return Holds::Short;
+      return ValueKind::Short;
     case GroupKind::Long:
-      return Holds::Long;
+      return ValueKind::Long;
     case GroupKind::None:
       break;
   }
-  return Holds::Nothing;
+  return ValueKind::Nothing;
 }
 
 ACHAR* Copy(const ACHAR* text) {
@@ -71,7 +71,7 @@ int acutRelRb(resbuf* chain) {
   if (!chain) return RTERROR;
   while (chain) {
     resbuf* next = chain->rbnext;
-    if (WhatHolds(chain->restype) == Holds::String) std::free(chain->resval.rstring);
+    if (ValueKindOf(chain->restype) == ValueKind::String) std::free(chain->resval.rstring);
     std::free(chain);
     chain = next;
   }
@@ -93,36 +93,36 @@ resbuf* acutBuildList(int type, ...) {
   va_start(args, type);
   resbuf* head = nullptr;
   resbuf** tail = &head;
-  // 0 ends a list except at its start, where it is the group of an entity's type.
+  // 0 ends the list, except as its first code, where it is the group of an entity's type.
   for (bool first = true; type != RTNONE && !(type == 0 && !first); first = false) {
-    // Group 0 in the middle of a list has a code of its own there, and is group 0 in the chain.
+    // Inside a list, RTDXF0 stands for group 0.
     if (type == RTDXF0) type = 0;
     resbuf* node = acutNewRb(type);
     if (!node) break;
     *tail = node;
     tail = &node->rbnext;
-    switch (WhatHolds(type)) {
-      case Holds::Short:
+    switch (ValueKindOf(type)) {
+      case ValueKind::Short:
         node->resval.rint = static_cast<short>(va_arg(args, int));
         break;
-      case Holds::Long:
+      case ValueKind::Long:
         node->resval.rlong = va_arg(args, int);
         break;
-      case Holds::Real:
+      case ValueKind::Real:
         node->resval.rreal = va_arg(args, double);
         break;
-      case Holds::Point:
+      case ValueKind::Point:
         std::memcpy(node->resval.rpoint, va_arg(args, double*), sizeof(ads_point));
         break;
-      case Holds::String: {
+      case ValueKind::String: {
         const ACHAR* text = va_arg(args, const ACHAR*);
         node->resval.rstring = Copy(text ? text : L"");
         break;
       }
-      case Holds::Name:
+      case ValueKind::Name:
         std::memcpy(node->resval.rlname, va_arg(args, long long*), sizeof(ads_name));
         break;
-      case Holds::Nothing:
+      case ValueKind::Nothing:
         break;
     }
     type = va_arg(args, int);

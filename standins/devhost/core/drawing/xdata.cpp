@@ -34,10 +34,10 @@ resbuf* AcDbObject::xData(const ACHAR* application) const {
   return CopyChain(m_xdata, &wanted);
 }
 
-// Replaces the data of the applications named in the chain and leaves that of others.
+// Replaces the data of the application that the chain names; the data of others is unchanged.
 Acad::ErrorStatus AcDbObject::setXData(const resbuf* data) {
   if (!data || data->restype != 1001 || !data->resval.rstring) return Acad::eInvalidInput;
-  AcDbObjectAccess::TellChanging(*this);
+  AcDbObjectAccess::NotifyChanging(*this);
   const std::wstring application = data->resval.rstring;
   resbuf* kept = nullptr;
   resbuf** tail = &kept;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr short kApplication = 1001;
 
-// Keeps the order and passes over what it has had.
+// Collects names in order, without duplicates.
 class Names {
  public:
   void Add(const std::wstring& name) {
@@ -43,7 +43,7 @@ std::vector<std::wstring> ApplicationsInUse(const AcDbDatabase::Body& body) {
   return names.Take();
 }
 
-std::vector<std::wstring> Unregistered(const std::vector<KeptGroup>& tables,
+std::vector<std::wstring> MissingNames(const std::vector<KeptGroup>& tables,
                                        const std::vector<std::wstring>& names) {
   std::set<std::wstring> known;
   std::wstring record;

@@ -1,5 +1,5 @@
-// The names of applications that have extended data in a drawing. A reader of other make refuses
-// extended data whose application stands in no APPID table, so the writer registers them all.
+// The names of applications with extended data in a drawing. Other programs reject extended data
+// whose application is not in the APPID table, so the writer registers all of them.
 #pragma once
 
 #include <string>
@@ -9,12 +9,12 @@
 
 namespace devhost {
 
-// Each name once, whatever its case, in the order in which the objects came; those of erased
-// objects are left out. Parts of the file that are kept as they came count too.
+// Each name once, ignoring case, in the order of the objects. Erased objects are skipped; groups
+// that the host stores unread are included.
 std::vector<std::wstring> ApplicationsInUse(const AcDbDatabase::Body& body);
 
-// Those of them that a table of kept groups does not name yet.
-std::vector<std::wstring> Unregistered(const std::vector<KeptGroup>& tables,
+// The names that have no APPID record in a table of stored groups.
+std::vector<std::wstring> MissingNames(const std::vector<KeptGroup>& tables,
                                        const std::vector<std::wstring>& names);
 
 }  // namespace devhost

@@ -1,6 +1,6 @@
-// Reading and writing drawings in the text form of the exchange format, releases R12 to 2018. What
-// a class does not understand is kept as an opaque entity with its groups. Damage is told with file
-// and line; what was readable until there stays.
+// Reading and writing drawings in the text form of the exchange format, releases R12 to 2018.
+// Unknown classes become opaque entities with all their groups. Damage is reported with file and
+// line; everything readable is kept.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace devhost {
 
 struct DrawingReport {
   bool readAnything = false;
-  std::wstring message;  // empty when nothing was wrong
+  std::wstring message;  // empty if the file is intact
 };
 
 DrawingReport ReadDrawing(const std::wstring& path, AcDbDatabase& database);

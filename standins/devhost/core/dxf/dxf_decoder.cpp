@@ -1,4 +1,4 @@
-// Text of drawing files; see dxf_text.h.
+// Decoding texts of drawing files; see dxf_text.h.
 #include <algorithm>
 #include <cctype>
 #include <charconv>
@@ -19,10 +19,10 @@ constexpr NamedPage kNamedPages[] = {
     {"ISO88591", 28591}, {"ISO8859-1", 28591},
 };
 
-// The digit of \M+nXXXX names the code page of the two bytes behind it.
+// The digit n of \M+nXXXX selects the code page of the two bytes.
 constexpr unsigned kMultiBytePages[] = {932, 950, 949, 1361, 936};
 
-// The value of `count` hexadecimal digits at a place; nothing when one of them is none.
+// The value of `count` hexadecimal digits, or nothing.
 std::optional<unsigned> HexAt(const std::wstring& text, std::size_t at, std::size_t count) {
   if (text.size() - at < count) return std::nullopt;
   unsigned value = 0;
@@ -34,13 +34,12 @@ std::optional<unsigned> HexAt(const std::wstring& text, std::size_t at, std::siz
   return value;
 }
 
-// A page that the system does not have, or in which the marks of the format are written otherwise,
-// is as good as none named.
+// Code pages that the system lacks, or in which the ASCII characters of the format differ, are
+// ignored.
 bool IsUsable(unsigned page) {
   if (page == 65001) return true;
   if (page == 1200 || page == 1201 || page == 12000 || page == 12001) return false;  // wide units
-  const std::wstring high =
-      AnsiToWide("\xB0\xC4", page);  // a character or two in every page of the format
+  const std::wstring high = AnsiToWide("\xB0\xC4", page);  // valid in every code page of the format
   return AnsiToWide("A0\\", page) == L"A0\\" && !high.empty() &&
          high.find(L'\xFFFD') == std::wstring::npos;
 }
@@ -50,7 +49,7 @@ std::wstring TwoBytes(unsigned value, unsigned page) {
   return AnsiToWide(std::string_view(bytes, 2), page);
 }
 
-// A code at a backslash; how many characters it has, 0 when there is none.
+// Reads a code at a backslash. Returns its length; 0: there is none.
 std::size_t TakeCode(const std::wstring& text, std::size_t at, std::wstring* out) {
   if (text.size() - at < 3 || text[at + 2] != L'+') return 0;
   if (text[at + 1] == L'U') {
@@ -69,8 +68,7 @@ std::size_t TakeCode(const std::wstring& text, std::size_t at, std::wstring* out
   return 0;
 }
 
-// "^J" is a newline, "^I" a tab, "^ " the caret itself. Carets before other characters stay:
-// stacked fractions of paragraph texts are written with them.
+// "^J" is a newline, "^I" a tab, "^ " a caret. Other carets are kept: stacked fractions use them.
 std::size_t TakeCaret(const std::wstring& text, std::size_t at, std::wstring* out) {
   if (at + 1 >= text.size()) return 0;
   switch (text[at + 1]) {
@@ -96,7 +94,7 @@ std::size_t TakeCaret(const std::wstring& text, std::size_t at, std::wstring* ou
 std::wstring DxfDecoder::Text(std::string_view value) const {
   std::wstring text = AnsiToWide(value, m_page);
   std::replace(text.begin(), text.end(), L'\0',
-               L'\xFFFD');  // or the text would end here for others
+               L'\xFFFD');  // C strings would end there
   if (text.find_first_of(L"\\^") == std::wstring::npos) return text;
   std::wstring out;
   out.reserve(text.size());

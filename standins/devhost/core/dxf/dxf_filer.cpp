@@ -1,4 +1,4 @@
-// Groups of one object, in and out; see the header.
+// Groups of one object; see the header.
 #include "devhost/core/dxf/dxf_filer.h"
 
 #include <charconv>
@@ -14,7 +14,7 @@
 namespace devhost {
 namespace {
 
-// A line end inside a value would tear the file apart.
+// Control characters are written with a caret: a line end would end the value.
 std::string OneLine(const std::wstring& value) {
   constexpr std::wstring_view kMeantAfterCaret = L" JIM";
   std::wstring text;
@@ -110,7 +110,7 @@ Acad::ErrorStatus DxfOutFiler::writeString(short code, const ACHAR* value) {
   return Acad::eOk;
 }
 
-void DxfOutFiler::WriteMark(const std::wstring& type) { Group(0, OneLine(type)); }
+void DxfOutFiler::WriteType(const std::wstring& type) { Group(0, OneLine(type)); }
 
 Acad::ErrorStatus DxfOutFiler::writeDouble(short code, double value) {
   char digits[40];
@@ -149,7 +149,7 @@ std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDeco
       tail = &chains.back();
     }
     const GroupKind kind = KindOfGroup(group.code);
-    // Other groups behind the first application's name have no business there.
+    // Groups below 1000 are not extended data.
     if (!tail || kind == GroupKind::None || group.code < 1000) continue;
     resbuf* node = acutNewRb(group.code);
     if (!node) continue;

@@ -1,6 +1,5 @@
-// The road of one object's own groups in and out of a drawing file; what entity classes see as
-// AcDbDxfFiler. Groups that all objects share (handle, owner, layer ...) are the reader's and the
-// writer's matter and do not pass here on the way in.
+// Reads and writes the groups of one object: what entity classes see as AcDbDxfFiler. When reading,
+// shared groups (handle, owner, layer ...) have been removed before; see SplitObject.
 #pragma once
 
 #include <functional>
@@ -19,11 +18,11 @@ class DxfInFiler : public AcDbDxfFiler {
       : m_database(database), m_decoder(decoder), m_groups(groups) {}
 
   AcDbDatabase* database() const override { return &m_database; }
-  // Three groups of a point come as one item under the code of the first.
+  // The three groups of a point are one item with the code of the first.
   Acad::ErrorStatus readItem(resbuf* item) override;
   void pushBackItem() override { m_at = m_before; }
 
-  // The line of the first value that is no number though its group asks for one; 0: all were well.
+  // The line of the first value that should be a number and is not; 0: none.
   int BadLine() const { return m_badLine; }
 
   Acad::ErrorStatus writeString(short, const ACHAR*) override { return Acad::eNotApplicable; }
@@ -40,11 +39,11 @@ class DxfInFiler : public AcDbDxfFiler {
   const DxfDecoder& m_decoder;
   std::span<const DxfGroup> m_groups;
   std::size_t m_at = 0, m_before = 0;
-  std::wstring m_text;  // what the latest item's string points to
+  std::wstring m_text;  // string value of the latest item
   int m_badLine = 0;
 };
 
-// Writes groups as UTF-8 text, reals in the shortest form that reads back.
+// Writes groups as UTF-8 text, reals in the shortest form that reads back unchanged.
 class DxfOutFiler : public AcDbDxfFiler {
  public:
   DxfOutFiler(AcDbDatabase& database, std::string& out) : m_database(database), m_out(out) {}
@@ -54,11 +53,11 @@ class DxfOutFiler : public AcDbDxfFiler {
   Acad::ErrorStatus writeDouble(short code, double value) override;
   Acad::ErrorStatus writeInt(short code, int value) override;
   Acad::ErrorStatus writePoint(short code, const AcGePoint3d& value) override;
-  void WriteMark(const std::wstring& type);  // a group 0 without the handle that parts get
+  void WriteType(const std::wstring& type);  // a group 0 without the handle that sub-entities get
   void WriteHandle(short code, unsigned long long handle);
 
-  // Runs once, before the next group 0 that an object writes: what it has behind its own groups
-  // must stand before its sub-entities.
+  // Sets work that runs once before the next group 0: groups that follow the object's own groups
+  // must precede its sub-entities.
   void BeforeNextObject(std::function<void()> work) { m_before = std::move(work); }
   void RunPending();
 
@@ -73,7 +72,7 @@ class DxfOutFiler : public AcDbDxfFiler {
   std::function<void()> m_before;
 };
 
-// The extended data of an object as a chain for setXData, one chain an application.
+// The extended data of an object, one chain an application, each for setXData.
 std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDecoder& decoder);
 void WriteXData(DxfOutFiler& filer, const resbuf* chain);
 

@@ -1,4 +1,4 @@
-// Objects out of groups; see the header.
+// Objects from groups; see the header.
 #include "devhost/core/dxf/dxf_objects.h"
 
 #include <algorithm>
@@ -15,9 +15,9 @@ namespace {
 
 bool IsSharedMark(std::string_view value) { return TrimBlanks(value) == "AcDbEntity"; }
 
-// How many groups from the start belong to the part that all objects share: up to the first mark of
-// the class itself. Files of R12 have no marks, and everything may stand anywhere.
-std::size_t SharedPart(std::span<const DxfGroup> groups) {
+// The number of groups in the shared part: up to the first subclass mark of the class. Files of R12
+// have no marks; there shared groups may be anywhere.
+std::size_t SharedGroupCount(std::span<const DxfGroup> groups) {
   for (std::size_t i = 1; i < groups.size(); ++i)
     if (groups[i].code == 100 && !IsSharedMark(groups[i].value)) return i;
   const bool marks =
@@ -25,7 +25,7 @@ std::size_t SharedPart(std::span<const DxfGroup> groups) {
   return marks ? groups.size() : 0;
 }
 
-bool TakeShared(DxfObject& object, const DxfGroup& group) {
+bool ReadSharedGroup(DxfObject& object, const DxfGroup& group) {
   switch (group.code) {
     case 5:
       object.handle = DxfHandle(group.value).value_or(0);
@@ -64,7 +64,7 @@ std::wstring DxfProblems::Message(const std::wstring& fileName) const {
   return message;
 }
 
-DxfObject TakeApart(std::span<const DxfGroup> groups, DxfObjectKind kind) {
+DxfObject SplitObject(std::span<const DxfGroup> groups, DxfObjectKind kind) {
   DxfObject object;
   object.type = TrimBlanks(groups[0].value);
   object.line = groups[0].line;
@@ -72,13 +72,13 @@ DxfObject TakeApart(std::span<const DxfGroup> groups, DxfObjectKind kind) {
                                   [](const DxfGroup& g) { return g.code == 1001; });
   const std::size_t end = static_cast<std::size_t>(xdata - groups.begin());
   object.xdata = groups.subspan(end);
-  const std::size_t shared = SharedPart(groups.first(end));
+  const std::size_t shared = SharedGroupCount(groups.first(end));
   bool inBraces = false, owner = false;
   for (std::size_t i = 1; i < end; ++i) {
     const DxfGroup& group = groups[i];
     const bool plain = shared == 0 || (i < shared && !inBraces);
     if (shared > 0 && i < shared) {
-      // Lists of reactors and the extension dictionary stand in braces; their 330 is no owner.
+      // Reactors and the extension dictionary are lists in braces; a 330 in them is not the owner.
       if (group.code == 102) inBraces = TrimBlanks(group.value).substr(0, 1) == "{";
       if (!inBraces && group.code == 330 && !owner) {
         owner = true;
@@ -87,7 +87,7 @@ DxfObject TakeApart(std::span<const DxfGroup> groups, DxfObjectKind kind) {
       if (group.code == 100) continue;
     }
     const bool shares = kind == DxfObjectKind::Entity || group.code == 5;
-    if (plain && shares && TakeShared(object, group)) continue;
+    if (plain && shares && ReadSharedGroup(object, group)) continue;
     (i < shared ? object.common : object.own).push_back(group);
   }
   return object;
@@ -105,7 +105,7 @@ std::unique_ptr<AcDbEntity> DxfObjectMaker::MakeKnown(const DxfObject& object) {
     m_refused = true;
     return nullptr;
   }
-  if (!read) return nullptr;  // its class will not have it: it stays opaque
+  if (!read) return nullptr;  // rejected by its class: becomes opaque
   made.release();
   SetShared(*entity, object);
   return std::unique_ptr<AcDbEntity>(entity);
@@ -142,8 +142,8 @@ AcDbEntity* DxfObjectMaker::MakeEntity(const DxfObject& object) {
   std::unique_ptr<AcDbEntity> made = MakeKnown(object);
   if (!made && m_refused) return nullptr;
   if (!made) made = MakeOpaque(object);
-  AcDbEntity* entity = made.release();  // the database's from here on
-  AcDbObjectAccess::Adopt(m_database, entity, AcDbHandle(object.handle));
+  AcDbEntity* entity = made.release();  // owned by the database from here on
+  AcDbObjectAccess::AddObject(m_database, entity, AcDbHandle(object.handle));
   FillXData(*entity, object);
   return entity;
 }

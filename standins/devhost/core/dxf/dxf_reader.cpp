@@ -1,6 +1,5 @@
-// Reading drawings: the sections of a file, one object after the other; see drawing_file.h.
-// Whatever is damaged costs the object that it stands in and is told once; an object that the file
-// breaks off in is left out, because nobody knows what it was going to be.
+// Reading drawings, section by section and object by object; see drawing_file.h. Damage costs the
+// object in which it is and is reported once. An object at which the file ends is dropped.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -19,17 +18,17 @@ namespace {
 
 constexpr unsigned kUtf8 = 65001;
 
-const wchar_t* WordsFor(DxfDamage damage) {
+const wchar_t* DamageMessage(DxfDamage damage) {
   switch (damage) {
     case DxfDamage::NotText:
       return L"这是二进制图形交换文件，只能读取文本格式";
     case DxfDamage::BadCode:
       return L"组码不是整数，其后的内容未读入";
-    case DxfDamage::CutOff:
+    case DxfDamage::Truncated:
       return L"组码之后没有值，文件在此中断";
-    case DxfDamage::NoEnd:
+    case DxfDamage::NoEndMark:
       return L"文件在此中断，没有结束标记 EOF";
-    case DxfDamage::BehindEnd:
+    case DxfDamage::DataAfterEnd:
       return L"结束标记 EOF 之后还有数据，已忽略";
     case DxfDamage::None:
       break;
@@ -37,9 +36,8 @@ const wchar_t* WordsFor(DxfDamage damage) {
   return L"";
 }
 
-// Parts of other objects and marks of the file's own structure are no entities, nor is what has no
-// name that could be written again.
-bool MayBeEntity(std::string_view type) {
+// Sub-entities and structure marks are not entities; nor are names that cannot be written back.
+bool CanBeEntity(std::string_view type) {
   for (std::string_view mark :
        {"VERTEX", "SEQEND", "ATTRIB", "BLOCK", "ENDBLK", "TABLE", "ENDTAB", "CLASS"})
     if (type == mark) return false;
@@ -57,7 +55,7 @@ class Reader {
         m_problems(problems),
         m_maker(database, m_decoder, problems) {}
 
-  bool Read();  // false: there was no section at all
+  bool Read();  // false: there is no section
 
  private:
   using Groups = std::span<const DxfGroup>;
@@ -66,10 +64,10 @@ class Reader {
     return at < m_groups.size() && m_groups[at].code == code &&
            TrimBlanks(m_groups[at].value) == value;
   }
-  std::size_t NextObject(std::size_t at) const;  // the next group 0 behind this one
-  // The groups of the object at a place; empty when the file ends inside it.
+  std::size_t NextObject(std::size_t at) const;  // the next group 0 after this one
+  // The groups of the object at an index; empty if the file ends inside it.
   Groups ObjectAt(std::size_t at) const;
-  void MakeRoomForHandles();
+  void ReserveHandles();
 
   std::size_t ReadSection(std::size_t at);
   void ReadHeader(std::size_t from, std::size_t to);
@@ -78,12 +76,18 @@ class Reader {
   void ReadLayer(Groups groups);
   void ReadBlockRecord(Groups groups);
   void ReadBlocks(std::size_t from, std::size_t to);
+  struct BlockHead {
+    std::wstring name;
+    AcGePoint3d origin;
+    int flags = 0;
+  };
+  BlockHead ReadBlockHead(const DxfObject& object) const;
   std::size_t ReadBlock(std::size_t at, std::size_t to);
   std::size_t ReadEntities(std::size_t from, std::size_t to, AcDbBlockTableRecord* block);
   std::size_t ReadEntity(std::size_t at, std::size_t to, AcDbBlockTableRecord* block);
   std::size_t AddVertices(std::size_t at, std::size_t to, DxfObject& polyline) const;
   std::size_t ReadAttributes(std::size_t at, std::size_t to, AcDbBlockReference& reference);
-  void Keep(std::size_t from, std::size_t to, std::vector<KeptGroup>& where) const;
+  void StoreGroups(std::size_t from, std::size_t to, std::vector<KeptGroup>& where) const;
   AcDbBlockTableRecord* BlockNamed(std::wstring name, bool* existed);
 
   const std::vector<DxfGroup>& m_groups;
@@ -106,8 +110,8 @@ Reader::Groups Reader::ObjectAt(std::size_t at) const {
   return Groups(m_groups).subspan(at, end - at);
 }
 
-// What every database is born with must not take the handles that the file's objects have.
-void Reader::MakeRoomForHandles() {
+// Moves the handles of the database's own objects above all handles of the file.
+void Reader::ReserveHandles() {
   unsigned long long highest = 0;
   for (const DxfGroup& group : m_groups)
     if (group.code == 5 || group.code == 105) {
@@ -120,7 +124,7 @@ void Reader::MakeRoomForHandles() {
 }
 
 bool Reader::Read() {
-  MakeRoomForHandles();
+  ReserveHandles();
   bool any = false, outside = false;
   for (std::size_t at = 0; at < m_groups.size();) {
     if (Is(at, 0, "EOF")) break;
@@ -152,7 +156,7 @@ std::size_t Reader::ReadSection(std::size_t at) {
   if (name == "HEADER")
     ReadHeader(from, to);
   else if (name == "CLASSES")
-    Keep(from, to, m_body.classes);
+    StoreGroups(from, to, m_body.classes);
   else if (name == "TABLES")
     ReadTables(from, to);
   else if (name == "BLOCKS")
@@ -160,13 +164,13 @@ std::size_t Reader::ReadSection(std::size_t at) {
   else if (name == "ENTITIES") {
     for (std::size_t next = from; next < to;) next = ReadEntities(next, to, nullptr);
   } else if (to < m_groups.size()) {
-    Keep(at, to, m_body.otherSections);
+    StoreGroups(at, to, m_body.otherSections);
     m_body.otherSections.push_back({0, L"ENDSEC"});
   }
   return Is(to, 0, "ENDSEC") ? to + 1 : to;
 }
 
-void Reader::Keep(std::size_t from, std::size_t to, std::vector<KeptGroup>& where) const {
+void Reader::StoreGroups(std::size_t from, std::size_t to, std::vector<KeptGroup>& where) const {
   for (std::size_t i = from; i < to; ++i)
     where.push_back(
         {m_groups[i].code, m_decoder.Text(m_groups[i].code == 0 ? TrimBlanks(m_groups[i].value)
@@ -176,7 +180,7 @@ void Reader::Keep(std::size_t from, std::size_t to, std::vector<KeptGroup>& wher
 void Reader::ReadHeader(std::size_t from, std::size_t to) {
   for (std::size_t i = from; i + 1 < to; ++i)
     if (m_groups[i].code == 9) ReadHeaderVariable(TrimBlanks(m_groups[i].value), m_groups[i + 1]);
-  Keep(from, to, m_body.header);
+  StoreGroups(from, to, m_body.header);
 }
 
 void Reader::ReadHeaderVariable(std::string_view name, const DxfGroup& value) {
@@ -207,7 +211,7 @@ void Reader::ReadTables(std::size_t from, std::size_t to) {
       if (name == "BLOCK_RECORD") ReadBlockRecord(groups);
     }
     if (end < to && name != "LAYER" && name != "BLOCK_RECORD") {
-      Keep(at, end, m_body.otherTables);
+      StoreGroups(at, end, m_body.otherTables);
       m_body.otherTables.push_back({0, L"ENDTAB"});
     }
     at = end + 1;
@@ -215,23 +219,23 @@ void Reader::ReadTables(std::size_t from, std::size_t to) {
 }
 
 void Reader::ReadLayer(Groups groups) {
-  const DxfObject object = TakeApart(groups, DxfObjectKind::Record);
+  const DxfObject object = SplitObject(groups, DxfObjectKind::Record);
   auto record = std::make_unique<AcDbLayerTableRecord>();
   m_maker.FillRecord(*record, object);
   auto* table = AcDbLayerTable::cast(m_body.layerTable.object());
   AcDbObjectId id;
-  if (table->getAt(record->getName(), id) == Acad::eOk) {  // layer 0 is there from the start
+  if (table->getAt(record->getName(), id) == Acad::eOk) {  // layer 0 always exists
     m_maker.FillRecord(*id.object(), object);
     AcDbObjectAccess::ChangeHandle(id.object(), AcDbHandle(object.handle));
     return;
   }
   AcDbLayerTableRecord* layer = record.release();
-  AcDbObjectAccess::Adopt(m_database, layer, AcDbHandle(object.handle));
+  AcDbObjectAccess::AddObject(m_database, layer, AcDbHandle(object.handle));
   table->add(layer);
 }
 
 AcDbBlockTableRecord* Reader::BlockNamed(std::wstring name, bool* existed) {
-  // R12 calls the spaces by a dollar sign.
+  // R12 writes the spaces with a dollar sign.
   if (SameName(name, L"$MODEL_SPACE")) name = ACDB_MODEL_SPACE;
   if (SameName(name, L"$PAPER_SPACE")) name = ACDB_PAPER_SPACE;
   auto* table = AcDbBlockTable::cast(m_body.blockTable.object());
@@ -240,13 +244,13 @@ AcDbBlockTableRecord* Reader::BlockNamed(std::wstring name, bool* existed) {
   if (*existed) return AcDbBlockTableRecord::cast(id.object());
   auto* block = new AcDbBlockTableRecord;
   block->setName(name.c_str());
-  AcDbObjectAccess::Adopt(m_database, block, AcDbHandle());
+  AcDbObjectAccess::AddObject(m_database, block, AcDbHandle());
   table->add(block);
   return block;
 }
 
 void Reader::ReadBlockRecord(Groups groups) {
-  const DxfObject object = TakeApart(groups, DxfObjectKind::Record);
+  const DxfObject object = SplitObject(groups, DxfObjectKind::Record);
   std::wstring name;
   for (const DxfGroup& group : object.own)
     if (group.code == 2) name = m_decoder.Text(group.value);
@@ -269,47 +273,48 @@ void Reader::ReadBlocks(std::size_t from, std::size_t to) {
   }
 }
 
-std::size_t Reader::ReadBlock(std::size_t at, std::size_t to) {
-  const Groups groups = ObjectAt(at);
-  if (groups.empty()) return to;
-  const DxfObject object = TakeApart(groups);
-  std::wstring name;
-  AcGePoint3d origin;
-  int flags = 0;
+Reader::BlockHead Reader::ReadBlockHead(const DxfObject& object) const {
+  BlockHead head;
   for (const DxfGroup& group : object.own) switch (group.code) {
       case 2:
-        name = m_decoder.Text(TrimBlanks(group.value));
+        head.name = m_decoder.Text(TrimBlanks(group.value));
         break;
       case 10:
-        origin.x = DxfReal(group.value).value_or(0);
+        head.origin.x = DxfReal(group.value).value_or(0);
         break;
       case 20:
-        origin.y = DxfReal(group.value).value_or(0);
+        head.origin.y = DxfReal(group.value).value_or(0);
         break;
       case 30:
-        origin.z = DxfReal(group.value).value_or(0);
+        head.origin.z = DxfReal(group.value).value_or(0);
         break;
       case 70:
-        flags = static_cast<int>(DxfInteger(group.value).value_or(0));
+        head.flags = static_cast<int>(DxfInteger(group.value).value_or(0));
         break;
       default:
         break;
     }
+  return head;
+}
+
+std::size_t Reader::ReadBlock(std::size_t at, std::size_t to) {
+  const Groups groups = ObjectAt(at);
+  if (groups.empty()) return to;
+  const DxfObject object = SplitObject(groups);
+  const BlockHead head = ReadBlockHead(object);
   bool existed = false;
-  AcDbBlockTableRecord* block = BlockNamed(name, &existed);
-  // Of two blocks of one name the first counts; what the second holds would draw twice.
-  const bool second = existed && !block->entities().empty() && !name.starts_with(L'*');
+  AcDbBlockTableRecord* block = BlockNamed(head.name, &existed);
+  // Of two blocks with one name the first is used; with both, the entities would be drawn twice.
+  const bool second = existed && !block->entities().empty() && !head.name.starts_with(L'*');
   if (second) m_problems.Add(object.line, L"同名的块已经存在，已跳过");
-  block->setOrigin(origin);
-  block->setFlags(flags);
+  block->setOrigin(head.origin);
+  block->setFlags(head.flags);
   std::size_t next = NextObject(at);
   while (next < to && !Is(next, 0, "ENDBLK") && !Is(next, 0, "BLOCK"))
     next = second ? NextObject(next) : ReadEntity(next, to, block);
-  if (!Is(next, 0, "ENDBLK")) {
-    if (next < m_groups.size()) m_problems.Add(m_groups[next].line, L"块没有结束 (ENDBLK)");
-    return next;
-  }
-  return NextObject(next);
+  if (Is(next, 0, "ENDBLK")) return NextObject(next);
+  if (next < m_groups.size()) m_problems.Add(m_groups[next].line, L"块没有结束 (ENDBLK)");
+  return next;
 }
 
 std::size_t Reader::ReadEntities(std::size_t from, std::size_t to, AcDbBlockTableRecord* block) {
@@ -318,13 +323,13 @@ std::size_t Reader::ReadEntities(std::size_t from, std::size_t to, AcDbBlockTabl
   return NextObject(from);
 }
 
-// Reads one entity with all that follows it as a part of it; gives the place behind.
+// Reads one entity with its sub-entities. Returns the index after them.
 std::size_t Reader::ReadEntity(std::size_t at, std::size_t to, AcDbBlockTableRecord* block) {
   const Groups groups = ObjectAt(at);
   std::size_t next = NextObject(at);
   if (groups.empty() || next > to) return to;
-  DxfObject object = TakeApart(groups);
-  if (!MayBeEntity(object.type)) {
+  DxfObject object = SplitObject(groups);
+  if (!CanBeEntity(object.type)) {
     m_problems.Add(object.line, L"此处不应有这样的对象，已跳过");
     return next;
   }
@@ -344,7 +349,7 @@ std::size_t Reader::AddVertices(std::size_t at, std::size_t to, DxfObject& polyl
   while (at < to && Is(at, 0, "VERTEX")) {
     const Groups groups = ObjectAt(at);
     if (groups.empty()) return to;
-    const DxfObject vertex = TakeApart(groups);
+    const DxfObject vertex = SplitObject(groups);
     polyline.own.push_back(groups[0]);
     polyline.own.insert(polyline.own.end(), vertex.own.begin(), vertex.own.end());
     at = NextObject(at);
@@ -356,7 +361,7 @@ std::size_t Reader::ReadAttributes(std::size_t at, std::size_t to, AcDbBlockRefe
   while (at < to && Is(at, 0, "ATTRIB")) {
     const Groups groups = ObjectAt(at);
     if (groups.empty()) return to;
-    if (auto* attribute = AcDbAttribute::cast(m_maker.MakeEntity(TakeApart(groups))))
+    if (auto* attribute = AcDbAttribute::cast(m_maker.MakeEntity(SplitObject(groups))))
       reference.appendAttribute(attribute);
     at = NextObject(at);
   }
@@ -372,7 +377,7 @@ DrawingReport ReadDrawingText(std::string_view bytes, const std::wstring& shownN
   Reader reader(scan.groups, database, problems);
   DrawingReport report;
   report.readAnything = reader.Read();
-  if (scan.damage != DxfDamage::None) problems.Add(scan.line, WordsFor(scan.damage));
+  if (scan.damage != DxfDamage::None) problems.Add(scan.line, DamageMessage(scan.damage));
   if (!report.readAnything && scan.damage != DxfDamage::NotText) {
     problems = DxfProblems();
     problems.Add(1, L"这不是图形交换文件");

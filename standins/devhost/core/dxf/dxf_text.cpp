@@ -1,4 +1,4 @@
-// Lines and numbers of drawing files; see the header. Text decoding is in dxf_decoder.cpp.
+// Lines and numbers of drawing files; see the header. Decoding is in dxf_decoder.cpp.
 #include "devhost/core/dxf/dxf_text.h"
 
 #include <charconv>
@@ -34,8 +34,8 @@ class Lines {
   int m_number = 0;
 };
 
-// The line on which something other than blanks stands behind the end mark; 0 when nothing does.
-int LineBehindEnd(Lines& lines) {
+// The line with data after the end mark; 0: none.
+int LineAfterEnd(Lines& lines) {
   std::string_view line;
   while (lines.Next(&line))
     if (!TrimBlanks(line).empty() && TrimBlanks(line) != "\x1a") return lines.Number();
@@ -51,18 +51,18 @@ void ReadPairs(Lines& lines, DxfScan& scan) {
   while (lines.Next(&code)) {
     const int at = lines.Number();
     const std::string_view digits = TrimBlanks(code);
-    // Blank lines at the end of a file without its end mark are no damage of their own.
+    // Blank lines at the end count as no end mark, not as a bad code.
     if (digits.empty() && TrimBlanks(lines.Rest()).empty()) break;
     const std::optional<long long> number = DxfInteger(digits);
     if (!number || *number < -32768 || *number > 32767) return damaged(DxfDamage::BadCode, at);
-    if (!lines.Next(&value)) return damaged(DxfDamage::CutOff, at);
+    if (!lines.Next(&value)) return damaged(DxfDamage::Truncated, at);
     if (*number == 999) continue;
     scan.groups.push_back({static_cast<short>(*number), value, at});
     if (*number != 0 || TrimBlanks(value) != "EOF") continue;
-    if (const int behind = LineBehindEnd(lines)) damaged(DxfDamage::BehindEnd, behind);
+    if (const int behind = LineAfterEnd(lines)) damaged(DxfDamage::DataAfterEnd, behind);
     return;
   }
-  damaged(DxfDamage::NoEnd, lines.Number());
+  damaged(DxfDamage::NoEndMark, lines.Number());
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-// Writing drawings: release 2007 text, which is UTF-8; see drawing_file.h. Known entities write
-// their own groups; sections, tables and entities that nobody here understands go out as they came
-// in.
+// Writing drawings: release 2007 text, which is UTF-8; see drawing_file.h. Entities write their own
+// groups; sections, tables and entities that the host does not interpret are written as they were
+// read.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -31,12 +31,12 @@ class Writer {
   const std::string& Write();
 
  private:
-  // Group 0 without the handle that the filer gives to parts of objects.
-  void Mark(const wchar_t* type) { Plain(0, type); }
-  void Plain(short code, const std::wstring& text);
+  // A group 0 without the handle that sub-entities get.
+  void WriteType(const wchar_t* type) { WriteGroup(0, type); }
+  void WriteGroup(short code, const std::wstring& text);
   void Section(const wchar_t* name);
-  void Kept(const std::vector<KeptGroup>& groups);
-  void KeptTables();
+  void WriteGroups(const std::vector<KeptGroup>& groups);
+  void WriteOtherTables();
   void Header();
   void HeaderWithoutFile();
   void Tables();
@@ -67,30 +67,30 @@ bool IsMainSpace(const AcDbBlockTableRecord& block) {
   return SameName(block.getName(), ACDB_MODEL_SPACE) || SameName(block.getName(), ACDB_PAPER_SPACE);
 }
 
-void Writer::Plain(short code, const std::wstring& text) {
+void Writer::WriteGroup(short code, const std::wstring& text) {
   if (code == 0)
-    m_filer.WriteMark(text);
+    m_filer.WriteType(text);
   else
     m_filer.writeString(code, text.c_str());
 }
 
 void Writer::Section(const wchar_t* name) {
-  Mark(L"SECTION");
-  Plain(2, name);
+  WriteType(L"SECTION");
+  WriteGroup(2, name);
 }
 
-void Writer::Kept(const std::vector<KeptGroup>& groups) {
-  for (const KeptGroup& group : groups) Plain(group.code, group.text);
+void Writer::WriteGroups(const std::vector<KeptGroup>& groups) {
+  for (const KeptGroup& group : groups) WriteGroup(group.code, group.text);
 }
 
 void Writer::HeaderWithoutFile() {
-  Plain(9, L"$ACADVER");
-  Plain(1, kRelease);
-  Plain(9, L"$DWGCODEPAGE");
-  Plain(3, L"ANSI_936");
-  Plain(9, L"$HANDSEED");
+  WriteGroup(9, L"$ACADVER");
+  WriteGroup(1, kRelease);
+  WriteGroup(9, L"$DWGCODEPAGE");
+  WriteGroup(3, L"ANSI_936");
+  WriteGroup(9, L"$HANDSEED");
   m_filer.WriteHandle(5, m_body.nextHandle + 0x10000);
-  Plain(9, L"$TILEMODE");
+  WriteGroup(9, L"$TILEMODE");
   m_filer.writeInt(70, m_body.paperIsCurrent ? 0 : 1);
 }
 
@@ -101,18 +101,18 @@ void Writer::Header() {
   for (const KeptGroup& group : m_body.header) {
     if (group.code == 9) name = group.text;
     if (group.code == 9)
-      Plain(9, name);
+      WriteGroup(9, name);
     else if (SameName(name, L"$ACADVER"))
-      Plain(1, kRelease);
-    // Objects made while writing take handles too; the seed lies well above them.
+      WriteGroup(1, kRelease);
+    // Parts get handles during writing, so the seed is well above the next handle.
     else if (SameName(name, L"$HANDSEED"))
       m_filer.WriteHandle(5, m_body.nextHandle + 0x10000);
     else if (SameName(name, L"$TILEMODE"))
       m_filer.writeInt(70, m_body.paperIsCurrent ? 0 : 1);
     else
-      Plain(group.code, group.text);
+      WriteGroup(group.code, group.text);
   }
-  Mark(L"ENDSEC");
+  WriteType(L"ENDSEC");
 }
 
 bool Writer::HasTable(const wchar_t* name) const {
@@ -124,39 +124,39 @@ bool Writer::HasTable(const wchar_t* name) const {
 }
 
 void Writer::BeginTable(const wchar_t* name, std::size_t count) {
-  Mark(L"TABLE");
-  Plain(2, name);
+  WriteType(L"TABLE");
+  WriteGroup(2, name);
   m_filer.WriteHandle(5, m_body.NextHandle());
-  Plain(330, L"0");
-  Plain(100, L"AcDbSymbolTable");
+  WriteGroup(330, L"0");
+  WriteGroup(100, L"AcDbSymbolTable");
   m_filer.writeInt(70, static_cast<int>(count));
 }
 
 void Writer::RecordHead(const wchar_t* type, const AcDbObject& record, const wchar_t* mark) {
-  Mark(type);
+  WriteType(type);
   m_filer.WriteHandle(5, record.handle().value());
-  Plain(100, L"AcDbSymbolTableRecord");
-  Plain(100, mark);
+  WriteGroup(100, L"AcDbSymbolTableRecord");
+  WriteGroup(100, mark);
 }
 
-// Tables that a reader of other make insists on, for drawings that did not come from a file.
+// Tables that other programs require, for drawings that were not read from a file.
 void Writer::NamedRecords(const wchar_t* table, const wchar_t* mark,
                           const std::vector<std::wstring>& names) {
   if (HasTable(table)) return;
   BeginTable(table, names.size());
   for (const std::wstring& name : names) NamedRecord(table, mark, name);
-  Mark(L"ENDTAB");
+  WriteType(L"ENDTAB");
 }
 
 void Writer::NamedRecord(const wchar_t* table, const wchar_t* mark, const std::wstring& name) {
-  Mark(table);
+  WriteType(table);
   m_filer.WriteHandle(5, m_body.NextHandle());
-  Plain(100, L"AcDbSymbolTableRecord");
-  Plain(100, mark);
-  Plain(2, name);
+  WriteGroup(100, L"AcDbSymbolTableRecord");
+  WriteGroup(100, mark);
+  WriteGroup(2, name);
   m_filer.writeInt(70, 0);
   if (!SameName(table, L"LTYPE")) return;
-  Plain(3, L"");
+  WriteGroup(3, L"");
   m_filer.writeInt(72, 65);
   m_filer.writeInt(73, 0);
   m_filer.writeDouble(40, 0);
@@ -169,11 +169,11 @@ void Writer::ApplicationTable() {
   NamedRecords(L"APPID", kApplicationMark, names);
 }
 
-// As they came, but a table of applications that the file brought gets the names that are new
-// since. Its count is only a hint to readers; it grows with the records.
-void Writer::KeptTables() {
+// Writes stored tables unchanged, except that an APPID table gets the missing names. Its count,
+// only a hint to readers, is increased.
+void Writer::WriteOtherTables() {
   const auto& groups = m_body.otherTables;
-  auto missing = Unregistered(groups, ApplicationsInUse(m_body));
+  auto missing = MissingNames(groups, ApplicationsInUse(m_body));
   std::wstring table, record;
   for (std::size_t i = 0; i < groups.size(); ++i) {
     const auto& [code, text] = groups[i];
@@ -189,7 +189,7 @@ void Writer::KeptTables() {
       for (const std::wstring& name : missing) NamedRecord(L"APPID", kApplicationMark, name);
       missing.clear();
     }
-    Plain(code, text);
+    WriteGroup(code, text);
   }
 }
 
@@ -202,7 +202,7 @@ void Writer::LayerTable() {
     id.object()->dxfOutFields(&m_filer);
     WriteXData(m_filer, AcDbObjectAccess::XData(*id.object()));
   }
-  Mark(L"ENDTAB");
+  WriteType(L"ENDTAB");
 }
 
 void Writer::BlockRecordTable() {
@@ -214,22 +214,22 @@ void Writer::BlockRecordTable() {
     id.object()->dxfOutFields(&m_filer);
     WriteXData(m_filer, AcDbObjectAccess::XData(*id.object()));
   }
-  Mark(L"ENDTAB");
+  WriteType(L"ENDTAB");
 }
 
 void Writer::Tables() {
   Section(L"TABLES");
-  KeptTables();
+  WriteOtherTables();
   NamedRecords(L"LTYPE", L"AcDbLinetypeTableRecord", {L"ByBlock", L"ByLayer", L"Continuous"});
   LayerTable();
   NamedRecords(L"STYLE", L"AcDbTextStyleTableRecord", {L"Standard"});
   ApplicationTable();
   BlockRecordTable();
-  Mark(L"ENDSEC");
+  WriteType(L"ENDSEC");
 }
 
 void Writer::Entity(const AcDbEntity& entity, const AcDbObject& owner) {
-  Mark(DxfNameOf(entity));
+  WriteType(DxfNameOf(entity));
   m_filer.WriteHandle(5, entity.handle().value());
   m_filer.WriteHandle(330, owner.handle().value());
   m_filer.BeforeNextObject([&] { WriteXData(m_filer, AcDbObjectAccess::XData(entity)); });
@@ -240,8 +240,8 @@ void Writer::Entity(const AcDbEntity& entity, const AcDbObject& owner) {
   for (AcDbObjectId id : reference->attributes())
     if (!id.isErased()) Entity(*AcDbEntity::cast(id.object()), entity);
   m_filer.writeString(0, L"SEQEND");
-  Plain(100, L"AcDbEntity");
-  Plain(8, entity.layer());
+  WriteGroup(100, L"AcDbEntity");
+  WriteGroup(8, entity.layer());
 }
 
 void Writer::EntitiesOf(const AcDbBlockTableRecord& block) {
@@ -256,22 +256,22 @@ void Writer::Blocks() {
     if (id.isErased()) continue;
     m_filer.writeString(0, L"BLOCK");
     m_filer.WriteHandle(330, block.handle().value());
-    Plain(100, L"AcDbEntity");
-    Plain(8, L"0");
-    Plain(100, L"AcDbBlockBegin");
-    Plain(2, block.getName());
+    WriteGroup(100, L"AcDbEntity");
+    WriteGroup(8, L"0");
+    WriteGroup(100, L"AcDbBlockBegin");
+    WriteGroup(2, block.getName());
     m_filer.writeInt(70, block.flags());
     m_filer.writePoint(10, block.origin());
-    Plain(3, block.getName());
-    Plain(1, L"");
+    WriteGroup(3, block.getName());
+    WriteGroup(1, L"");
     if (!IsMainSpace(block)) EntitiesOf(block);
     m_filer.writeString(0, L"ENDBLK");
     m_filer.WriteHandle(330, block.handle().value());
-    Plain(100, L"AcDbEntity");
-    Plain(8, L"0");
-    Plain(100, L"AcDbBlockEnd");
+    WriteGroup(100, L"AcDbEntity");
+    WriteGroup(8, L"0");
+    WriteGroup(100, L"AcDbBlockEnd");
   }
-  Mark(L"ENDSEC");
+  WriteType(L"ENDSEC");
 }
 
 const AcDbBlockTableRecord& Writer::Space(const wchar_t* name) const {
@@ -284,17 +284,17 @@ const std::string& Writer::Write() {
   Header();
   if (!m_body.classes.empty()) {
     Section(L"CLASSES");
-    Kept(m_body.classes);
-    Mark(L"ENDSEC");
+    WriteGroups(m_body.classes);
+    WriteType(L"ENDSEC");
   }
   Tables();
   Blocks();
   Section(L"ENTITIES");
   EntitiesOf(Space(ACDB_MODEL_SPACE));
   EntitiesOf(Space(ACDB_PAPER_SPACE));
-  Mark(L"ENDSEC");
-  Kept(m_body.otherSections);
-  Mark(L"EOF");
+  WriteType(L"ENDSEC");
+  WriteGroups(m_body.otherSections);
+  WriteType(L"EOF");
   return m_out;
 }
 
@@ -305,12 +305,12 @@ bool Fail(std::wstring* why, const std::wstring& path) {
 
 }  // namespace
 
-// Writing hands out handles to parts of objects, which is all that it changes.
+// The database changes only in its next handle.
 std::string DrawingText(const AcDbDatabase& database) {
   return Writer(const_cast<AcDbDatabase&>(database)).Write();
 }
 
-// Written beside and renamed, so that a disk that fills up leaves the old drawing as it was.
+// Written to a temporary file and renamed, so that a full disk does not destroy the old drawing.
 bool WriteDrawing(const std::wstring& path, const AcDbDatabase& database, std::wstring* why) {
   const std::filesystem::path target(path), beside(path + L".tmp");
   {

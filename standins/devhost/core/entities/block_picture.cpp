@@ -1,4 +1,4 @@
-// Pictures in blocks; see the header.
+// Drawing by blocks; see the header.
 #include "devhost/core/entities/block_picture.h"
 
 namespace devhost {
@@ -15,7 +15,7 @@ bool DrawParts(AcGiWorldDraw* draw, const AcDbBlockTableRecord& block, const AcG
   draw->geometry().pushModelTransform(matrix);
   for (AcDbObjectId id : block.entities()) {
     const AcDbEntity* part = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
-    // A definition of an attribute shows only while its block is edited.
+    // Attribute definitions are visible only while their block is edited.
     if (part && !AcDbAttributeDefinition::cast(part) && !draw->geometry().draw(part)) break;
   }
   draw->geometry().popModelTransform();

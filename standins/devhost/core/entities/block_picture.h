@@ -1,5 +1,4 @@
-// Drawing an entity by the block that holds its picture. For the entities of the host that are
-// drawn so: references to blocks, dimensions.
+// Drawing an entity by a block: references to blocks and dimensions.
 #pragma once
 
 #include <string>
@@ -9,7 +8,7 @@
 
 namespace devhost {
 
-// The block of that name in the drawing of `from`; null when there is none.
+// The block of that name in the drawing of `from`, or null.
 const AcDbBlockTableRecord* BlockNamed(const AcDbObject& from, const std::wstring& name);
 bool DrawParts(AcGiWorldDraw* draw, const AcDbBlockTableRecord& block, const AcGeMatrix3d& matrix);
 

@@ -13,7 +13,7 @@ ACRX_DXF_DEFINE_MEMBERS(AcDbViewport, AcDbEntity, 0, 0, 0, VIEWPORT, host)
 
 namespace {
 
-constexpr int kMostCopies = 10000;  // of one reference's array; a damaged file may ask for billions
+constexpr int kMaxCopies = 10000;  // of one reference: a damaged file may ask for billions
 
 }  // namespace
 
@@ -49,7 +49,7 @@ bool AcDbBlockReference::subWorldDraw(AcGiWorldDraw* draw) const {
     const double c = std::cos(m_rotation), s = std::sin(m_rotation);
     int copies = 0;
     for (int row = 0; row < m_rows; ++row)
-      for (int column = 0; column < m_columns && copies < kMostCopies; ++column, ++copies) {
+      for (int column = 0; column < m_columns && copies < kMaxCopies; ++column, ++copies) {
         const double dx = column * m_columnGap, dy = row * m_rowGap;
         const AcGePoint3d at(m_at.x + dx * c - dy * s, m_at.y + dx * s + dy * c, m_at.z);
         DrawParts(draw, *block,
@@ -109,7 +109,7 @@ Acad::ErrorStatus AcDbBlockReference::dxfOutFields(AcDbDxfFiler* filer) const {
 }
 
 bool AcDbViewport::subWorldDraw(AcGiWorldDraw* draw) const {
-  if (m_number == 1) return false;  // the paper itself
+  if (m_number == 1) return false;  // viewport 1 is the sheet of paper
   const double w = m_width / 2, h = m_height / 2;
   const AcGePoint3d frame[5] = {{m_center.x - w, m_center.y - h, 0},
                                 {m_center.x + w, m_center.y - h, 0},

@@ -1,6 +1,4 @@
-// Lines, circles, arcs, ellipses, points and filled corners; see dbents.h.
-#include <algorithm>
-
+// Lines, circles, arcs, ellipses, points, solids and faces; see dbents.h.
 #include "dbents.h"
 #include "devhost/core/entities/entity_io.h"
 
@@ -122,7 +120,7 @@ Acad::ErrorStatus AcDbPoint::dxfOutFields(AcDbDxfFiler* filer) const {
   return filer->writePoint(10, m_at);
 }
 
-// The file gives the corners of a SOLID in a Z; those of a 3DFACE run round.
+// The corners of a SOLID are stored in the order of a Z, those of a 3DFACE around the outline.
 bool AcDbTrace::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGePoint3d round[5] = {m_corner[0], m_corner[1], m_corner[filled() ? 3 : 2],
                                 m_corner[filled() ? 2 : 3], m_corner[0]};

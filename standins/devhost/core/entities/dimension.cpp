@@ -1,6 +1,4 @@
 // Dimensions; see dbents.h.
-#include <cmath>
-
 #include "dbents.h"
 #include "devhost/core/entities/block_picture.h"
 #include "devhost/core/entities/entity_io.h"
@@ -13,7 +11,7 @@ bool AcDbDimension::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcDbBlockTableRecord* block = BlockNamed(*this, m_block);
   if (block && !block->entities().empty())
     return DrawParts(draw, *block, AcGeMatrix3d::translation(m_blockShift));
-  // No picture in the file: at least the dimension line shows where it is.
+  // Without a block in the file the dimension line shows the place.
   const AcGePoint3d ends[3] = {m_first, m_line, m_second};
   return draw->geometry().polyline(3, ends);
 }
@@ -68,7 +66,7 @@ Acad::ErrorStatus AcDbDimension::dxfOutFields(AcDbDxfFiler* filer) const {
   return WriteKind(filer);
 }
 
-// Each kind has groups of its own under a mark of its own.
+// Each kind writes its own groups after its own subclass mark.
 Acad::ErrorStatus AcDbDimension::WriteKind(AcDbDxfFiler* filer) const {
   switch (kind()) {
     case 2:

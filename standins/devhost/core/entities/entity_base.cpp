@@ -1,6 +1,5 @@
-// What all entities share; see dbmain.h: layer, colour, linetype, space, extended data.
-#include <cstdlib>
-#include <cwchar>
+// Layer, colour, linetype and extents of entities; see dbmain.h.
+#include <cmath>
 
 #include "adslib.h"
 #include "dbents.h"
@@ -70,8 +69,8 @@ Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& extents) const {
   return extents.isValid() ? Acad::eOk : Acad::eNullExtents;
 }
 
-// The reader hands over the common groups apart (see entity_groups in the drawing reader); a class
-// calls this first, as the published interface asks, and finds its own groups behind.
+// The reader sets the shared groups itself (see SplitObject); derived classes call this before they
+// read their own groups, as the published interface requires.
 Acad::ErrorStatus AcDbEntity::dxfInFields(AcDbDxfFiler*) { return Acad::eOk; }
 
 Acad::ErrorStatus AcDbEntity::dxfOutFields(AcDbDxfFiler* filer) const {

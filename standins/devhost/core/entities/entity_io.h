@@ -18,7 +18,7 @@ inline AcGePoint3d PointOfItem(const resbuf& item) {
   return {item.resval.rpoint[0], item.resval.rpoint[1], item.resval.rpoint[2]};
 }
 
-// The angle from `from` to `to` counter-clockwise, above 0 and at most a full turn.
+// The counter-clockwise angle from `from` to `to`, above 0 and at most a full turn.
 inline double Sweep(double from, double to) {
   double sweep = std::fmod(to - from, 2 * std::numbers::pi);
   if (!std::isfinite(sweep)) return 0;
@@ -26,7 +26,7 @@ inline double Sweep(double from, double to) {
   return sweep;
 }
 
-// Every item of a filer in turn.
+// Calls `each` for every item of a filer.
 template <class F>
 Acad::ErrorStatus ForEachItem(AcDbDxfFiler* filer, F each) {
   resbuf item{};
@@ -45,7 +45,7 @@ struct Field {
 Acad::ErrorStatus ReadFields(AcDbDxfFiler* filer, std::initializer_list<Field> fields,
                              const std::function<void(const resbuf&)>& other = nullptr);
 
-// Points of a polyline segment with a bulge, without its first point.
+// The points of a polyline segment with a bulge, without its first point.
 template <class Add>
 void AddBulge(const AcGePoint3d& a, const AcGePoint3d& b, double bulge, Add add) {
   if (std::fabs(bulge) < 1e-9 || !std::isfinite(bulge)) return add(b);

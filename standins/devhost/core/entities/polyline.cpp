@@ -1,4 +1,4 @@
-// Polylines, the light and the older form; see dbents.h.
+// Polylines, LWPOLYLINE and POLYLINE; see dbents.h.
 #include "dbents.h"
 #include "devhost/core/entities/entity_io.h"
 
@@ -52,8 +52,7 @@ Acad::ErrorStatus AcDbPolyline::dxfOutFields(AcDbDxfFiler* filer) const {
   return Acad::eOk;
 }
 
-// The reader gives the groups of the vertices behind those of the polyline, each begun by a group
-// 0.
+// The groups of the vertices follow those of the polyline; each vertex begins with a group 0.
 Acad::ErrorStatus AcDb2dPolyline::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
   m_vertices.clear();
@@ -75,7 +74,7 @@ Acad::ErrorStatus AcDb2dPolyline::dxfInFields(AcDbDxfFiler* filer) {
     }
     if (item.restype == 10) m_vertices.back().point = PointOfItem(item);
     if (item.restype == 42) m_vertices.back().bulge = item.resval.rreal;
-    // Control points of a spline frame and face records are no points of the curve.
+    // Spline control points and face records are not points of the curve.
     if (item.restype == 70 && ((vertexFlags = item.resval.rint) & 16))
       m_vertices.pop_back(), inVertex = false;
     if (item.restype == 70 && (vertexFlags & 128) && !(vertexFlags & 64))

@@ -1,5 +1,5 @@
-// Entities of classes that nobody here knows; see dbents.h. The drawing reader hands their groups
-// over as text, without reading numbers, so that saving writes what came.
+// Entities of unknown classes; see dbents.h. Their groups are kept as text, so that a drawing is
+// saved as it was read.
 #include "dbents.h"
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbProxyEntity, AcDbEntity)

@@ -26,14 +26,14 @@ Acad::ErrorStatus AcDbText::setTextString(const ACHAR* text) {
 }
 
 bool AcDbText::subWorldDraw(AcGiWorldDraw* draw) const {
-  // A definition shows its tag, an invisible attribute nothing.
+  // A definition shows its tag; an invisible attribute shows nothing.
   const bool definition = AcDbAttributeDefinition::cast(this) != nullptr;
   if (AcDbAttribute::cast(this) && (m_flags & 1)) return false;
-  const std::wstring shown = ShownText(definition ? m_tag : m_text);
+  const std::wstring shown = DisplayText(definition ? m_tag : m_text);
   if (shown.empty() || m_height <= 0) return false;
   AcGePoint3d at = m_at;
   const AcGeVector3d along(std::cos(m_rotation), std::sin(m_rotation), 0), up(-along.y, along.x, 0);
-  // Files keep the lower left corner too, but a program that aligns may have left it at zero.
+  // Files store the lower left corner too, but some programs leave it at zero for aligned texts.
   if ((m_horizontal || m_vertical) && m_horizontal != 5 && m_horizontal != 3) {
     const double length = TextLength(shown) * m_height * m_width;
     const double dx = m_horizontal == 1 || m_horizontal == 4 ? -0.5 : m_horizontal == 2 ? -1 : 0;
@@ -128,7 +128,7 @@ Acad::ErrorStatus AcDbMText::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
   m_style = L"";
   m_rotation = 0;
-  std::wstring text;  // long contents come in pieces of group 3, the last in group 1
+  std::wstring text;  // long contents are split into groups 3, the last part is group 1
   const Acad::ErrorStatus status =
       ReadFields(filer,
                  {{7, &m_style},

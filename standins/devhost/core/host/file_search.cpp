@@ -10,9 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A path of the script or the product may come with either slash.
-// Where paths are bytes they are UTF-8, whatever the locale: a path's own conversion would throw at
-// a name that the locale lacks.
+// Paths may contain either slash. On systems with narrow paths they are UTF-8 in any locale; the
+// conversion of fs::path would throw for characters that the locale lacks.
 fs::path PathOf(std::wstring text) {
 #ifdef _WIN32
   return fs::path(text);
@@ -52,8 +51,7 @@ std::wstring FindFileIn(const std::vector<std::wstring>& supportPath, const std:
     const std::wstring found = Existing(fs::absolute(PathOf(folder), error) / wanted);
     if (!found.empty()) return found;
   }
-  const std::wstring here = Existing(fs::absolute(wanted, error));
-  return here;
+  return Existing(fs::absolute(wanted, error));
 }
 
 }  // namespace devhost

@@ -6,7 +6,7 @@
 
 namespace devhost {
 
-// The file along the support path (the name itself first when it has a folder); empty: not found.
+// Finds a file in the support path; a name with a folder is tried first as it is. Empty: not found.
 std::wstring FindFileIn(const std::vector<std::wstring>& supportPath, const std::wstring& name);
 
 }  // namespace devhost

@@ -9,8 +9,8 @@
 namespace devhost {
 namespace {
 
-// When nobody has given windows: prints nowhere, asks nobody.
-class NoUi : public HostUi {
+// Used without windows: output is discarded, input is cancelled.
+class NullUi : public HostUi {
   void DocumentCreated(Document&) override {}
   void DocumentActivated(Document*) override {}
   void DocumentDestroyed(Document&) override {}
@@ -24,11 +24,11 @@ class NoUi : public HostUi {
   bool PumpWhileWaiting() override { return false; }
   void EndProgram() override {}
 };
-NoUi noUi;
+NullUi nullUi;
 
 }  // namespace
 
-Host::Host() : m_ui(&noUi) {
+Host::Host() : m_ui(&nullUi) {
   RegisterDatabaseClasses();
   RegisterNativeCommands(commands);
 }
@@ -37,7 +37,7 @@ Host::~Host() = default;
 
 void Host::Begin(const HostOptions& options, HostUi* ui, ModuleSource* source) {
   m_options = options;
-  m_ui = ui ? ui : &noUi;
+  m_ui = ui ? ui : &nullUi;
   modules.SetSource(source);
 }
 
@@ -50,7 +50,7 @@ void Host::End() {
   }
   modules.UnloadAll();
   menuGroups.Clear();
-  m_ui = &noUi;
+  m_ui = &nullUi;
   modules.SetSource(nullptr);
 }
 
@@ -71,7 +71,8 @@ void Host::SetPrompt(const std::wstring& prompt) {
 }
 
 Host& TheHost() {
-  static Host* host = new Host;  // lives to the end of the process: modules' statics may still call
+  // never deleted: static objects of modules may still call it at exit
+  static Host* host = new Host;
   return *host;
 }
 

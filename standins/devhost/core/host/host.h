@@ -1,9 +1,8 @@
-// The drawing program without its windows: documents, commands, variables, modules, settings of the
-// run. One object for the life of the process, reached by TheHost(); the published interface
-// (platform/arx) is implemented over it. Main thread only.
+// The drawing program without windows: documents, commands, variables, modules, options. One object
+// for the lifetime of the process; the published interface (platform/arx) is implemented with it.
+// Main thread only.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,9 +18,9 @@
 namespace devhost {
 
 struct HostOptions {
-  int major = 24, minor = 0;              // the release that the host says it is
+  int major = 24, minor = 0;              // the release number of the host
   std::wstring profile;                   // CPROFILE; may be empty
-  std::vector<std::wstring> supportPath;  // folders, searched in order; file names may be relative
+  std::vector<std::wstring> supportPath;  // folders in search order; file names may be relative
 };
 
 class Host {
@@ -29,21 +28,21 @@ class Host {
   Host();
   ~Host();
 
-  // Before anything else. The ui and the module source outlive the host.
+  // Call first. `ui` and `modules` must outlive the host.
   void Begin(const HostOptions& options, HostUi* ui, ModuleSource* modules);
-  // Closes all drawings, unloads all modules.
+  // Closes all drawings and unloads all modules.
   void End();
 
   const HostOptions& Options() const { return m_options; }
   HostUi& Ui() const { return *m_ui; }
 
-  // The file along the support path (the name itself first when it has a folder); empty: not found.
+  // Finds a file in the support path; a name with a folder is tried first as it is. Empty: not
+  // found.
   std::wstring FindFile(const std::wstring& name) const;
 
-  // Text for the command line, recorded as "printed".
+  // Prints on the command line; recorded as "printed".
   void Print(const std::wstring& text);
   void SetPrompt(const std::wstring& prompt);
-  const std::wstring& Prompt() const { return m_prompt; }
 
   DocumentList documents;
   CommandStack commands;

@@ -1,4 +1,4 @@
-// The published services of the host: the system registry, the application services, files, redraw.
+// Published services: system registry, application services, file search, redraw.
 #include <cwchar>
 
 #include "aced.h"

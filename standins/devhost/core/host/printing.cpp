@@ -9,8 +9,8 @@ using devhost::TheHost;
 
 namespace {
 
-// Strings and characters in a format are wide here, as they are for modules of the host; the C
-// library of neither build takes %s so in its wide form.
+// Converts %s and %c to their wide forms %ls and %lc: in the published interface they are wide, in
+// the C libraries of both builds narrow.
 std::wstring WithWideStrings(const wchar_t* format) {
   std::wstring out;
   while (*format) {
@@ -36,7 +36,7 @@ int acutPrintf(const ACHAR* narrowFormat, ...) {
   const std::wstring format = WithWideStrings(narrowFormat);
   std::wstring text(1024, L'\0');
   int length = -1;
-  // The widest line that a caller may print at once; longer ones are cut, as the host cuts them.
+  // The host truncates longer texts.
   for (std::size_t limit : {std::size_t{1024}, std::size_t{65536}}) {
     text.assign(limit, L'\0');
     va_list args;
@@ -44,7 +44,7 @@ int acutPrintf(const ACHAR* narrowFormat, ...) {
     length = std::vswprintf(text.data(), limit, format.c_str(), args);
     va_end(args);
     if (length >= 0 && static_cast<std::size_t>(length) < limit) break;
-    length = -1;  // some libraries answer what would have been needed, others that it failed
+    length = -1;  // some libraries return the required size, others -1
   }
   text.resize(length < 0 ? std::wcslen(text.c_str()) : static_cast<std::size_t>(length));
   TheHost().Print(text);

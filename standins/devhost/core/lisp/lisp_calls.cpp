@@ -1,4 +1,4 @@
-// LISP functions of modules; see the header. The published calls stand at the end.
+// LISP functions of modules; see the header. The published functions are at the end.
 #include "devhost/core/lisp/lisp_calls.h"
 
 #include "adslib.h"
@@ -11,7 +11,7 @@
 namespace devhost {
 namespace {
 
-// One call of a module's function: what it was given and what it answered.
+// A running call of a module's function: its arguments and its result.
 struct RunningCall {
   int code;
   const std::vector<LispValue>* arguments;
@@ -22,7 +22,7 @@ std::vector<RunningCall*>& Calls() {
   return calls;
 }
 
-constexpr int kDeepestCall = 64;
+constexpr int kMaxCallDepth = 64;
 
 }  // namespace
 
@@ -31,7 +31,7 @@ bool CallLispFunction(Document& document, const std::wstring& name,
   const auto at = document.lispFunctions.find(UpperCase(name));
   if (at == document.lispFunctions.end()) return false;
   *failed = true;
-  if (static_cast<int>(Calls().size()) >= kDeepestCall) return true;
+  if (static_cast<int>(Calls().size()) >= kMaxCallDepth) return true;
   const LispFunction function = at->second;
   RunningCall call{function.code, &arguments, {}};
   Calls().push_back(&call);
@@ -40,7 +40,7 @@ bool CallLispFunction(Document& document, const std::wstring& name,
   {
     DocumentScope scope(&document);
     UndoRecording recording(document, UpperCase(name));
-    ++document.locks;  // the call may change the drawing wherever it comes from
+    ++document.locks;  // a LISP function may change the drawing without a command
     *failed = function.module->entry(AcRx::kInvkSubrMsg, function.module) != AcRx::kRetOK;
     --document.locks;
   }
@@ -58,9 +58,11 @@ using namespace devhost;
 
 namespace {
 
-Document* LispDocument() { return TheHost().documents.Known(TheHost().documents.curDocument()); }
+Document* LispDocument() {
+  return TheHost().documents.FindDocument(TheHost().documents.curDocument());
+}
 
-int Answer(LispValue value) {
+int SetResult(LispValue value) {
   if (Calls().empty()) return RTERROR;
   Calls().back()->result = std::move(value);
   return RTNORM;
@@ -99,13 +101,13 @@ resbuf* acedGetArgs() {
   return head;
 }
 
-int acedRetVoid() { return Answer(LispValue::Nil()); }
-int acedRetNil() { return Answer(LispValue::Nil()); }
-int acedRetT() { return Answer(LispValue::True()); }
-int acedRetInt(int value) { return Answer(LispValue::Integer(value)); }
-int acedRetReal(ads_real value) { return Answer(LispValue::Real(value)); }
-int acedRetStr(const ACHAR* value) { return Answer(LispValue::String(value ? value : L"")); }
-int acedRetList(const resbuf* value) { return Answer(FromResbuf(value)); }
+int acedRetVoid() { return SetResult(LispValue::Nil()); }
+int acedRetNil() { return SetResult(LispValue::Nil()); }
+int acedRetT() { return SetResult(LispValue::True()); }
+int acedRetInt(int value) { return SetResult(LispValue::Integer(value)); }
+int acedRetReal(ads_real value) { return SetResult(LispValue::Real(value)); }
+int acedRetStr(const ACHAR* value) { return SetResult(LispValue::String(value ? value : L"")); }
+int acedRetList(const resbuf* value) { return SetResult(FromResbuf(value)); }
 
 int acedInvoke(const resbuf* call, resbuf** result) {
   if (result) *result = nullptr;

@@ -1,4 +1,4 @@
-// LISP functions of modules and the call that runs just now; expressions typed on the command line.
+// Calls of the LISP functions of modules, and evaluation of expressions typed on the command line.
 #pragma once
 
 #include <string>
@@ -9,12 +9,11 @@ namespace devhost {
 
 class Document;
 
-// Calls a module's function; false when the drawing has none of that name.
+// Calls a function; false if the drawing has none of that name.
 bool CallLispFunction(Document& document, const std::wstring& name,
                       const std::vector<LispValue>& arguments, LispValue* result, bool* failed);
 
-// Reads and runs one expression such as (setq a 1) or (tcmdavi "x"). What is wrong with it comes as
-// text in `error`, empty when all went well.
+// Evaluates one expression such as (setq a 1) or (tcmdavi "x"). `error` is empty on success.
 LispValue Evaluate(Document& document, const std::wstring& expression, std::wstring* error);
 
 }  // namespace devhost

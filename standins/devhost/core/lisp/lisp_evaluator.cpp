@@ -1,6 +1,5 @@
-// Expressions typed on the command line: a reader for numbers, strings, symbols, lists and quotes,
-// and an evaluator for the few forms that are of use there (setq, quote, list, getvar, setvar,
-// command, princ, progn, + and -) besides the functions that modules define. No defun, no loops.
+// Evaluates expressions typed on the command line: the forms setq, quote, list, getvar, setvar,
+// command, princ, progn, + and -, and the functions that modules define. No defun, no loops.
 #include <cwchar>
 
 #include "devhost/core/host/host.h"
@@ -15,7 +14,7 @@ class Evaluator {
   Evaluator(Document& document, std::wstring* error) : m_document(document), m_error(error) {}
 
   LispValue Value(const LispValue& form, int depth = 0) {
-    if (depth > kDeepestExpression) return Fail(L"嵌套太深");
+    if (depth > kMaxExpressionDepth) return Fail(L"嵌套太深");
     if (form.kind == LispValue::Kind::Symbol) return SymbolValue(form.text);
     if (form.kind != LispValue::Kind::List) return form;
     if (form.items.empty()) return LispValue::Nil();

@@ -19,7 +19,7 @@ bool Fail(std::wstring* error, const wchar_t* why) {
 bool LispReader::Read(LispValue* value, std::wstring* error, int depth) {
   SkipBlanks();
   if (!*m_at) return Fail(error, L"表达式没有结束");
-  if (depth > kDeepestExpression) return Fail(error, L"括号嵌套太深");
+  if (depth > kMaxExpressionDepth) return Fail(error, L"括号嵌套太深");
   if (*m_at == L'\'') {
     ++m_at;
     LispValue quoted;

@@ -7,7 +7,7 @@
 
 namespace devhost {
 
-constexpr int kDeepestExpression = 100;
+constexpr int kMaxExpressionDepth = 100;
 
 class LispReader {
  public:

@@ -1,4 +1,4 @@
-// A LISP value as the host passes it: nil, T, integer, real, string, point, entity, symbol or list.
+// A LISP value: nil, T, integer, real, string, point, entity, selection set, symbol or list.
 #pragma once
 
 #include <array>
@@ -14,9 +14,9 @@ struct LispValue {
   Kind kind = Kind::Nil;
   long long integer = 0;
   double real = 0;
-  std::wstring text;  // of a string or a symbol
+  std::wstring text;  // string or symbol
   std::array<double, 3> point{};
-  std::array<long long, 2> name{};  // of an entity or a selection set
+  std::array<long long, 2> name{};  // entity or selection set
   std::vector<LispValue> items;
 
   static LispValue Nil() { return {}; }
@@ -29,11 +29,11 @@ struct LispValue {
   bool IsNil() const { return kind == Kind::Nil || (kind == Kind::List && items.empty()); }
 };
 
-// The chain holds one value, or a list with its brackets (RTLB ... RTLE); several values in a row
-// become a list. Null and an empty chain are nil.
+// The value of a chain: one value, or a list in RTLB ... RTLE. Several consecutive values become a
+// list; null and an empty chain are nil.
 LispValue FromResbuf(const resbuf* chain);
-// A chain for a value, to be released with acutRelRb; nil is one RTNIL node.
+// A chain for a value, to be released with acutRelRb. nil is one RTNIL node.
 resbuf* ToResbuf(const LispValue& value);
-std::wstring Printed(const LispValue& value);  // as the command line shows it
+std::wstring Printed(const LispValue& value);  // as printed on the command line
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// Objects change their class with its module; see the header.
+// Replacing objects; see the header.
 #include "devhost/core/modules/class_binding.h"
 
 #include <memory>
@@ -17,11 +17,10 @@
 namespace devhost {
 namespace {
 
-enum class Into { RealOne, OpaqueOne };
+enum class Result { Real, Opaque };
 
-// A new object with all that the old one would write to a file; null when the class will not have
-// it.
-std::unique_ptr<AcDbEntity> Remade(const AcDbEntity& old, Into into) {
+// A new object with the file data of the old one; null if the class rejects the data.
+std::unique_ptr<AcDbEntity> Recreate(const AcDbEntity& old, Result result) {
   AcDbDatabase& database = *old.database();
   std::string text = "0\n";
   DxfOutFiler out(database, text);
@@ -34,26 +33,26 @@ std::unique_ptr<AcDbEntity> Remade(const AcDbEntity& old, Into into) {
   decoder.SetPage(65001);
   DxfProblems problems;
   DxfObjectMaker maker(database, decoder, problems);
-  const DxfObject object = TakeApart(groups.first(groups.size() - 1));
-  return into == Into::RealOne ? maker.MakeKnown(object) : maker.MakeOpaque(object);
+  const DxfObject object = SplitObject(groups.first(groups.size() - 1));
+  return result == Result::Real ? maker.MakeKnown(object) : maker.MakeOpaque(object);
 }
 
-// `replacement` gives the new object of one that has to change, or null.
+// `replacement` returns the new object, or null for objects that stay.
 template <class F>
-void Exchange(Document& document, F replacement) {
+void ReplaceEntities(Document& document, F replacement) {
   AcDbDatabase::Body& body = document.database()->body();
   bool changed = false;
   for (std::unique_ptr<AcDbObject>& held : body.objects) {
     AcDbEntity* old = AcDbEntity::cast(held.get());
     std::unique_ptr<AcDbEntity> fresh = old ? replacement(*old) : nullptr;
     if (!fresh) continue;
-    if (!changed) {  // whoever held ids of this drawing lets go of them first
+    if (!changed) {  // drop all stored ids first
       SetPickFirst(document, {});
       document.previousSelection.clear();
-      ForgetUndo(document);
+      DiscardUndo(document);
       changed = true;
     }
-    AcDbObjectAccess::TakeXData(old, fresh.get());
+    AcDbObjectAccess::SwapXData(old, fresh.get());
     AcDbObjectAccess::Replace(body, held, fresh.release());
   }
   if (changed) TheHost().Ui().PictureChanged(document);
@@ -63,22 +62,23 @@ void Exchange(Document& document, F replacement) {
 
 void BindOpaqueEntities() {
   for (const auto& document : TheHost().documents.All())
-    Exchange(*document, [](AcDbEntity& old) -> std::unique_ptr<AcDbEntity> {
+    ReplaceEntities(*document, [](AcDbEntity& old) -> std::unique_ptr<AcDbEntity> {
       const bool known = AcDbProxyEntity::cast(&old) && acrxClassOfDxfName(DxfNameOf(old));
-      return known ? Remade(old, Into::RealOne) : nullptr;
+      return known ? Recreate(old, Result::Real) : nullptr;
     });
 }
 
 void MakeEntitiesOpaque(const AcRxClass& cls) {
   for (const auto& document : TheHost().documents.All())
-    Exchange(*document, [&](AcDbEntity& old) -> std::unique_ptr<AcDbEntity> {
-      return old.isA() == &cls && cls.dxfName() ? Remade(old, Into::OpaqueOne) : nullptr;
+    ReplaceEntities(*document, [&](AcDbEntity& old) -> std::unique_ptr<AcDbEntity> {
+      return old.isA() == &cls && cls.dxfName() ? Recreate(old, Result::Opaque) : nullptr;
     });
 }
 
 }  // namespace devhost
 
-// Parents are linked as the classes are made; what is left is to give open drawings their objects.
+// Parents are linked when classes are constructed; only the objects of open drawings are left to
+// bind.
 void acrxBuildClassHierarchy() { devhost::BindOpaqueEntities(); }
 
 void deleteAcRxClass(AcRxClass* cls) {

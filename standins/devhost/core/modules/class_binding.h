@@ -1,6 +1,6 @@
-// What happens to the objects of a class when the module that brings it comes or goes. A drawing
-// that was read without the module holds them as opaque entities; they become real when the class
-// is made known, and opaque again before its code goes. Handles stay; ids of the objects don't.
+// Replaces objects when the module of their class is loaded or unloaded. Drawings hold objects of
+// unknown classes as opaque entities. They become real objects when the class is registered, and
+// opaque entities again before its module is unloaded. Handles are kept; object ids change.
 #pragma once
 
 class AcRxClass;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kHead = "***MENUGROUP=";
 
-// Files from other systems than text have no such line.
+// The group name in a menu file; empty without such a line.
 std::wstring NameIn(std::istream& file) {
   for (std::string line; std::getline(file, line);) {
     if (line.compare(0, kHead.size(), kHead) != 0) continue;

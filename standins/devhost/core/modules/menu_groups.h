@@ -1,5 +1,5 @@
-// The menu groups that modules and users load into the host's own menu system with MENULOAD. Only
-// their names are kept: the host has no menu of its own to show them in. Case is ignored in names.
+// Names of the menu groups loaded with MENULOAD. The host has no menu bar to show their contents.
+// Names are compared ignoring case.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@ namespace devhost {
 
 class MenuGroups {
  public:
-  // The group's name, which stands in the file behind "***MENUGROUP="; a file without one gives its
-  // own name. Empty when the file can't be read.
+  // Loads a file. Returns the group's name, given by "***MENUGROUP=" or else the file name; empty
+  // if the file cannot be read.
   std::wstring Load(const std::wstring& path);
   bool Unload(const std::wstring& group);  // false when it is not loaded
   bool IsLoaded(const std::wstring& group) const;

@@ -1,5 +1,5 @@
-// How a module's file becomes something that can be called. On Windows that is the system's loader
-// (devhost/ui gives it); tests and the native build register functions under a name.
+// The interface for loading module files. On Windows the system's loader implements it
+// (devhost/ui); tests register functions by name.
 #pragma once
 
 #include <memory>
@@ -18,7 +18,7 @@ class ModuleFile {
 class ModuleSource {
  public:
   virtual ~ModuleSource() = default;
-  // Null when it is no module; `why` then says so in the user's words, without a line end.
+  // Null if the file is not a module; `why` is the reason for the user, without line end.
   virtual std::unique_ptr<ModuleFile> Load(const std::wstring& path, std::wstring* why) = 0;
 };
 

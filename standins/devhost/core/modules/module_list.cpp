@@ -32,7 +32,7 @@ void ModuleList::Send(LoadedModule& module, int message, Document* document) {
 }
 
 void ModuleList::SendToAll(int message, Document* document) {
-  // A module may load or unload others while it answers.
+  // Modules may load or unload others during the message.
   for (const std::wstring& name : Names())
     if (LoadedModule* m = Find(name)) Send(*m, message, document);
 }
@@ -61,7 +61,7 @@ bool ModuleList::loadModule(const ACHAR* name, bool print, bool asCommand) {
   TheStartTrace().Begin(Utf8(loaded->name));
   Send(*loaded, AcRx::kInitAppMsg, TheHost().documents.Current());
   TheStartTrace().Step("kInitAppMsg done", Utf8(loaded->name));
-  if (asCommand && m_remember) m_remember(path);
+  if (asCommand && m_persistentLoad) m_persistentLoad(path);
   std::vector<Document*> open;
   for (const auto& d : TheHost().documents.All()) open.push_back(d.get());
   for (Document* d : open) {
@@ -74,7 +74,7 @@ bool ModuleList::loadModule(const ACHAR* name, bool print, bool asCommand) {
 bool ModuleList::unloadModule(const ACHAR* name, bool) {
   LoadedModule* module = name ? Find(name) : nullptr;
   if (!module || !module->unlocked) return false;
-  // What it registered is dropped only after it has had its say.
+  // Its registrations are removed after the message, which may still use them.
   Send(*module, AcRx::kUnloadAppMsg, TheHost().documents.Current());
   TheHost().commands.RemoveModule(module);
   for (const auto& d : TheHost().documents.All())

@@ -1,5 +1,5 @@
-// The loaded modules: loading, messages to their entry points, unloading. This is the dynamic
-// linker that modules see.
+// The loaded modules: loading, messages to their entry points, unloading. Implements the dynamic
+// linker of the published interface.
 #pragma once
 
 #include <functional>
@@ -31,23 +31,24 @@ class ModuleList : public AcRxDynamicLinker {
   bool unlockApplication(void* packet) override;
   bool registerAppMDIAware(void* packet) override;
 
-  // Told the path of a module that was loaded as by a command, that is for every start from now on.
-  void OnLoadedForGood(std::function<void(const std::wstring&)> remember) {
-    m_remember = std::move(remember);
+  // Sets the callback for modules that are loaded as a command: they are to be loaded at every
+  // start.
+  void OnPersistentLoad(std::function<void(const std::wstring&)> callback) {
+    m_persistentLoad = std::move(callback);
   }
 
   LoadedModule* Find(const std::wstring& name) const;  // by file name, case ignored
   std::vector<std::wstring> Names() const;
   void SendToAll(int message, Document* document);  // in loading order
   void Send(LoadedModule& module, int message, Document* document);
-  void UnloadAll();  // the latest first, locked or not
+  void UnloadAll();  // in reverse order, locked modules too
 
-  LoadedModule* Running() const { return m_running; }  // whose code runs
+  LoadedModule* Running() const { return m_running; }  // whose code is running
   void SetRunning(LoadedModule* module) { m_running = module; }
 
  private:
   ModuleSource* m_source = nullptr;
-  std::function<void(const std::wstring&)> m_remember;
+  std::function<void(const std::wstring&)> m_persistentLoad;
   std::vector<std::unique_ptr<LoadedModule>> m_modules;
   LoadedModule* m_running = nullptr;
 };

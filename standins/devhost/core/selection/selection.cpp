@@ -20,18 +20,18 @@ void SetPickFirst(Document& document, std::vector<AcDbObjectId> ids) {
   TheHost().Ui().SelectionChanged(document);
 }
 
-std::vector<AcDbObjectId>* SetOf(const ads_name name) {
+std::vector<AcDbObjectId>* FindSet(const ads_name name) {
   const auto at = name ? AllSets().find(name[0]) : AllSets().end();
   return at == AllSets().end() ? nullptr : &at->second;
 }
 
-void NewSet(std::vector<AcDbObjectId> ids, ads_name name) {
+void CreateSet(std::vector<AcDbObjectId> ids, ads_name name) {
   static long long next = 0;
   name[0] = ++next;
   name[1] = 0;
   AllSets()[next] = std::move(ids);
 }
 
-bool ForgetSet(const ads_name name) { return name && AllSets().erase(name[0]) > 0; }
+bool FreeSet(const ads_name name) { return name && AllSets().erase(name[0]) > 0; }
 
 }  // namespace devhost

@@ -11,9 +11,9 @@ class Document;
 
 void SetPickFirst(Document& document, std::vector<AcDbObjectId> ids);
 
-// Selection sets by name; the vector lives until acedSSFree.
-std::vector<AcDbObjectId>* SetOf(const ads_name name);
-void NewSet(std::vector<AcDbObjectId> ids, ads_name name);
-bool ForgetSet(const ads_name name);
+// Selection sets by name; a pointer is valid until acedSSFree.
+std::vector<AcDbObjectId>* FindSet(const ads_name name);
+void CreateSet(std::vector<AcDbObjectId> ids, ads_name name);
+bool FreeSet(const ads_name name);
 
 }  // namespace devhost

@@ -1,5 +1,6 @@
 // The published functions for selections.
 #include <algorithm>
+#include <optional>
 
 #include "dbsymtb.h"
 #include "devhost/core/base/text_case.h"
@@ -33,10 +34,13 @@ void AddAll(std::vector<AcDbObjectId>& set, const std::vector<AcDbEntity*>& foun
       set.push_back(e->objectId());
 }
 
-constexpr double kPickReach = 6;  // pixels
+AcDbEntity* EntityNear(Document& document, const AcGePoint3d& at) {
+  constexpr double kPickReach = 6;  // pixels
+  return EntityAt(*document.database(), at, kPickReach / document.view.PixelsPerUnit());
+}
 
-// Asks for objects until Enter: a click takes one, "ALL" everything, "P" the previous ones, "L" the
-// latest, and a click beside all of them begins a box.
+// Prompts for objects until Enter. A click picks one; "ALL", "Previous" and "Last" add those; a
+// click on empty space begins a box.
 int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObjectId>& set) {
   for (;;) {
     acedInitGet(0, L"ALL Previous Last");
@@ -54,8 +58,7 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
       for (AcDbObjectId id : source)
         if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
       AddAll(set, found, filter);
-    } else if (AcDbEntity* hit = EntityAt(*document.database(), {at[0], at[1], 0},
-                                          kPickReach / document.view.PixelsPerUnit())) {
+    } else if (AcDbEntity* hit = EntityNear(document, {at[0], at[1], 0})) {
       AddAll(set, {hit}, filter);
     } else {
       ads_point other{};
@@ -71,64 +74,60 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
   }
 }
 
+// The objects of the modes of acedSSGet that name a selection; nothing for an unknown mode.
+std::optional<std::vector<AcDbObjectId>> SourceOf(Document& document, const std::wstring& mode) {
+  if (mode.empty() || mode == L"I") return document.pickFirst;
+  if (mode == L"P") return document.previousSelection;
+  if (mode != L"L" && mode != L"X" && mode != L"A") return std::nullopt;
+  std::vector<AcDbObjectId> all = AllOf(document);
+  if (mode == L"L" && !all.empty()) all = {all.back()};
+  return all;
+}
+
 }  // namespace
 
 int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
               ads_name set) {
-  Document* document = TheHost().documents.Known(TheHost().documents.curDocument());
+  Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
   if (!document || !set) return RTERROR;
-  const std::wstring how = mode ? UpperCase(mode) : L"";
-  std::vector<AcDbObjectId> ids, source;
-  if (how.empty() && first) {
-    const double* at = static_cast<const double*>(first);
-    if (AcDbEntity* hit = EntityAt(*document->database(), {at[0], at[1], 0},
-                                   kPickReach / document->view.PixelsPerUnit()))
-      AddAll(ids, {hit}, filter);
-  } else if (how.empty()) {
-    source = document->pickFirst;
-    if (source.empty()) {
-      const int status = AskForObjects(*document, filter, ids);
-      if (status != RTNORM) return status;
-    }
-  } else if (how == L"I" || how == L"_I") {
-    source = document->pickFirst;
-  } else if (how == L"P" || how == L"_P") {
-    source = document->previousSelection;
-  } else if (how == L"L" || how == L"_L") {
-    source = AllOf(*document);
-    if (!source.empty()) source = {source.back()};
-  } else if (how == L"X" || how == L"_X" || how == L"A" || how == L"_A") {
-    source = AllOf(*document);
-  } else if ((how == L"C" || how == L"_C" || how == L"W" || how == L"_W") && first && second) {
-    const double* a = static_cast<const double*>(first);
-    const double* b = static_cast<const double*>(second);
-    AddAll(ids,
-           EntitiesIn(*document->database(), {a[0], a[1], 0}, {b[0], b[1], 0}, how.back() == L'C'),
+  std::wstring how = mode ? UpperCase(mode) : L"";
+  if (how.size() == 2 && how[0] == L'_') how.erase(0, 1);
+  const double* a = static_cast<const double*>(first);
+  const double* b = static_cast<const double*>(second);
+  std::vector<AcDbObjectId> ids;
+  if (how.empty() && a) {
+    if (AcDbEntity* hit = EntityNear(*document, {a[0], a[1], 0})) AddAll(ids, {hit}, filter);
+  } else if (how.empty() && document->pickFirst.empty()) {
+    const int status = AskForObjects(*document, filter, ids);
+    if (status != RTNORM) return status;
+  } else if ((how == L"C" || how == L"W") && a && b) {
+    AddAll(ids, EntitiesIn(*document->database(), {a[0], a[1], 0}, {b[0], b[1], 0}, how == L"C"),
            filter);
+  } else if (const auto source = SourceOf(*document, how)) {
+    for (AcDbObjectId id : *source) {
+      const AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
+      if (e && PassesFilter(*e, filter)) ids.push_back(id);
+    }
   } else {
     return RTERROR;
   }
-  for (AcDbObjectId id : source) {
-    const AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
-    if (e && PassesFilter(*e, filter)) ids.push_back(id);
-  }
   if (ids.empty()) return RTERROR;
   document->previousSelection = ids;
-  NewSet(std::move(ids), set);
+  CreateSet(std::move(ids), set);
   return RTNORM;
 }
 
-int acedSSFree(const ads_name set) { return ForgetSet(set) ? RTNORM : RTERROR; }
+int acedSSFree(const ads_name set) { return FreeSet(set) ? RTNORM : RTERROR; }
 
 int acedSSLength(const ads_name set, int* length) {
-  const auto* ids = SetOf(set);
+  const auto* ids = FindSet(set);
   if (!ids || !length) return RTERROR;
   *length = static_cast<int>(ids->size());
   return RTNORM;
 }
 
 int acedSSName(const ads_name set, int index, ads_name entity) {
-  const auto* ids = SetOf(set);
+  const auto* ids = FindSet(set);
   if (!ids || index < 0 || index >= static_cast<int>(ids->size())) return RTERROR;
   return acdbGetAdsName(entity, (*ids)[index]) == Acad::eOk ? RTNORM : RTERROR;
 }
@@ -136,11 +135,11 @@ int acedSSName(const ads_name set, int index, ads_name entity) {
 int acedSSAdd(const ads_name entity, const ads_name set, ads_name result) {
   AcDbObjectId id;
   if (entity && acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
-  if (!set || !SetOf(set)) {
-    NewSet(id.isNull() ? std::vector<AcDbObjectId>() : std::vector<AcDbObjectId>{id}, result);
+  if (!set || !FindSet(set)) {
+    CreateSet(id.isNull() ? std::vector<AcDbObjectId>() : std::vector<AcDbObjectId>{id}, result);
     return RTNORM;
   }
-  auto* ids = SetOf(set);
+  auto* ids = FindSet(set);
   if (!id.isNull() && std::find(ids->begin(), ids->end(), id) == ids->end()) ids->push_back(id);
   if (result) {
     result[0] = set[0];
@@ -151,35 +150,35 @@ int acedSSAdd(const ads_name entity, const ads_name set, ads_name result) {
 
 int acedSSDel(const ads_name entity, const ads_name set) {
   AcDbObjectId id;
-  auto* ids = SetOf(set);
+  auto* ids = FindSet(set);
   if (!ids || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
   return std::erase(*ids, id) ? RTNORM : RTERROR;
 }
 
 int acedSSMemb(const ads_name entity, const ads_name set) {
   AcDbObjectId id;
-  const auto* ids = SetOf(set);
+  const auto* ids = FindSet(set);
   if (!ids || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
   return std::find(ids->begin(), ids->end(), id) != ids->end() ? RTNORM : RTERROR;
 }
 
 int acedSSGetFirst(resbuf** grips, resbuf** pickFirst) {
-  Document* document = TheHost().documents.Known(TheHost().documents.curDocument());
+  Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
   if (grips) *grips = nullptr;
   if (pickFirst) *pickFirst = nullptr;
   if (!document || document->pickFirst.empty()) return RTERROR;
   for (resbuf** out : {grips, pickFirst}) {
     if (!out) continue;
     *out = acutNewRb(RTPICKS);
-    NewSet(document->pickFirst, (*out)->resval.rlname);
+    CreateSet(document->pickFirst, (*out)->resval.rlname);
   }
   return RTNORM;
 }
 
 int acedSSSetFirst(const ads_name pickFirst, const ads_name) {
-  Document* document = TheHost().documents.Known(TheHost().documents.curDocument());
+  Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
   if (!document) return RTERROR;
-  const auto* ids = pickFirst ? SetOf(pickFirst) : nullptr;
+  const auto* ids = pickFirst ? FindSet(pickFirst) : nullptr;
   SetPickFirst(*document, ids ? *ids : std::vector<AcDbObjectId>());
   return RTNORM;
 }

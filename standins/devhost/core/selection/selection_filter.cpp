@@ -29,7 +29,7 @@ bool InPaper(const AcDbEntity& entity) {
   return space && SameName(space->getName(), ACDB_PAPER_SPACE);
 }
 
-bool PassesOne(const AcDbEntity& entity, const resbuf& group) {
+bool PassesGroup(const AcDbEntity& entity, const resbuf& group) {
   const std::wstring wanted =
       KindOfGroup(group.restype) == GroupKind::String && group.resval.rstring ? group.resval.rstring
                                                                               : L"";
@@ -57,7 +57,7 @@ bool PassesOne(const AcDbEntity& entity, const resbuf& group) {
 
 enum class Join { And, Or, Not };
 
-bool PassesGroup(const AcDbEntity& entity, const resbuf*& at, Join join, int depth) {
+bool PassesChain(const AcDbEntity& entity, const resbuf*& at, Join join, int depth) {
   bool all = true, any = false;
   for (; at; at = at->rbnext) {
     bool passes = false;
@@ -66,13 +66,13 @@ bool PassesGroup(const AcDbEntity& entity, const resbuf*& at, Join join, int dep
       if (op.size() > 1 && op.back() == L'>') break;
       if (depth > 30 || op.empty() || op[0] != L'<') continue;
       at = at->rbnext;
-      passes = PassesGroup(entity, at,
+      passes = PassesChain(entity, at,
                            op == L"<OR"    ? Join::Or
                            : op == L"<NOT" ? Join::Not
                                            : Join::And,
                            depth + 1);
     } else {
-      passes = PassesOne(entity, *at);
+      passes = PassesGroup(entity, *at);
     }
     all &= passes;
     any |= passes;
@@ -84,7 +84,7 @@ bool PassesGroup(const AcDbEntity& entity, const resbuf*& at, Join join, int dep
 }  // namespace
 
 bool PassesFilter(const AcDbEntity& entity, const resbuf* filter) {
-  return PassesGroup(entity, filter, Join::And, 0);
+  return PassesChain(entity, filter, Join::And, 0);
 }
 
 }  // namespace devhost

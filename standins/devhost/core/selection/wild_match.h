@@ -1,14 +1,13 @@
-// Wild-card patterns as selection filters and acutWcMatch use them.
+// Wild-card patterns of selection filters and acutWcMatch.
 #pragma once
 
 #include <string>
 
 namespace devhost {
 
-// The host's wild cards, case ignored: * any text, ? any character, # a digit, @ a letter, .
-// neither,
-// [..] one of, [~..] none of, ~ in front negates the pattern, ` takes the next as it stands, and
-// commas separate patterns of which one must match.
+// Compares ignoring case. * matches any text, ? any character, # a digit, @ a letter, . a character
+// that is neither, [..] one of the characters, [~..] any other; ~ in front negates the pattern, `
+// quotes the next character, commas separate alternative patterns.
 bool WildMatch(const std::wstring& text, const std::wstring& patterns);
 
 }  // namespace devhost

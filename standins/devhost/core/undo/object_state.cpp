@@ -1,4 +1,4 @@
-// What an object holds; see the header.
+// Snapshots; see the header.
 #include "devhost/core/undo/object_state.h"
 
 #include "adslib.h"
@@ -19,7 +19,7 @@ ObjectState::ObjectState(const AcDbObject& object) : m_xdata(object.xData()) {
 
 ObjectState::~ObjectState() { acutRelRb(m_xdata); }
 
-void ObjectState::PutBack(AcDbObject& object) const {
+void ObjectState::Restore(AcDbObject& object) const {
   UndoInFiler filer(object.database(), m_items);
   object.dxfInFields(&filer);
   AcDbObjectAccess::SetXData(object, m_xdata);

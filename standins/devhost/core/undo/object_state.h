@@ -1,6 +1,6 @@
-// The data of one object at one time, so that undo can put it back into the same object: what the
-// class writes to a drawing file, layer, linetype and colour of an entity, and extended data.
-// Whether it is erased and which parts it owns is not among it.
+// A snapshot of an object's data, which undo restores in the same object: the groups that the class
+// writes, layer, linetype and colour of an entity, extended data. Not included: whether it is
+// erased, and sub-objects.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ class ObjectState {
   ObjectState(const ObjectState&) = delete;
   ObjectState& operator=(const ObjectState&) = delete;
 
-  void PutBack(AcDbObject& object) const;  // the same object, or one of its class
+  void Restore(AcDbObject& object) const;  // to the same object, or one of its class
 
  private:
   std::vector<UndoItem> m_items;

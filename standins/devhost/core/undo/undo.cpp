@@ -14,16 +14,15 @@ void Record(Document& document, UndoChange change) {
   if (document.recording) document.recording->changes.push_back(std::move(change));
 }
 
-// Data are kept as they were before the first change of a step; what comes later in it is undone
-// with that.
+// Stores the data of an object before its first change in a step.
 void RecordData(Document& document, AcDbObject* object) {
-  if (!document.recording || !document.recording->kept.insert(object).second) return;
+  if (!document.recording || !document.recording->recorded.insert(object).second) return;
   UndoChange change{UndoChange::Kind::Data, object, {}, {}, {}, {}};
   change.state = std::make_unique<ObjectState>(*object);
   Record(document, std::move(change));
 }
 
-void TakeBack(Document& document, const UndoChange& change) {
+void Revert(Document& document, const UndoChange& change) {
   switch (change.kind) {
     case UndoChange::Kind::Added:
       change.object->erase(true);
@@ -35,10 +34,10 @@ void TakeBack(Document& document, const UndoChange& change) {
       AcDbEntity::cast(change.object)->transformBy(change.back);
       break;
     case UndoChange::Kind::Data:
-      change.state->PutBack(*change.object);
+      change.state->Restore(*change.object);
       break;
     case UndoChange::Kind::Variable:
-      PutBackVariable(document, change.name, change.value);
+      RestoreVariable(document, change.name, change.value);
       break;
   }
 }
@@ -46,17 +45,18 @@ void TakeBack(Document& document, const UndoChange& change) {
 }  // namespace
 
 UndoRecording::UndoRecording(Document& document, std::wstring name)
-    : m_document(&document), m_step{std::move(name), {}}, m_own(!document.recording) {
-  if (m_own) document.recording = &m_step;
+    : m_document(&document), m_step{std::move(name), {}}, m_outermost(!document.recording) {
+  if (m_outermost) document.recording = &m_step;
 }
 
 UndoRecording::~UndoRecording() {
-  if (!m_own || !TheHost().documents.Known(m_document)) return;  // CLOSE took the drawing along
+  // the drawing was closed
+  if (!m_outermost || !TheHost().documents.FindDocument(m_document)) return;
   m_document->recording = nullptr;
   if (!m_step.IsEmpty()) m_document->undo.push_back(std::move(m_step));
 }
 
-void WatchForUndo(Document& document) {
+void ConnectUndo(Document& document) {
   AcDbDatabase::Body& body = document.database()->body();
   body.onAdded = [&document, &body](AcDbObject* object) {
     body.modified |= 1;
@@ -74,32 +74,32 @@ void WatchForUndo(Document& document) {
   body.onChanging = [&document](AcDbObject* object) { RecordData(document, object); };
 }
 
-void KeepVariableForUndo(Document& document, const std::wstring& name) {
+void RecordVariableForUndo(Document& document, const std::wstring& name) {
   const auto at = document.variables.find(name);
   UndoChange change{UndoChange::Kind::Variable, nullptr, {}, {}, name, {}};
   if (at != document.variables.end()) change.value = at->second;
   Record(document, std::move(change));
 }
 
-std::wstring TakeBackLatest(Document& document) {
+std::wstring UndoLatestStep(Document& document) {
   if (document.undo.empty()) return {};
-  // The way back is no step of its own; what the running command does afterwards still is.
+  // Reverting is not recorded; later changes of the running command are.
   UndoStep* recording = std::exchange(document.recording, nullptr);
   const UndoStep step = std::move(document.undo.back());
   document.undo.pop_back();
   if (document.undoGroup > static_cast<int>(document.undo.size())) document.undoGroup = -1;
   for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
-    TakeBack(document, *change);
+    Revert(document, *change);
   document.recording = recording;
   return step.command;
 }
 
-void ForgetUndo(Document& document) {
+void DiscardUndo(Document& document) {
   document.undo.clear();
   if (document.undoGroup > 0) document.undoGroup = 0;
   if (!document.recording) return;
   document.recording->changes.clear();
-  document.recording->kept.clear();
+  document.recording->recorded.clear();
 }
 
 void BeginUndoGroup(Document& document) {

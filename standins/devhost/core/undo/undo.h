@@ -1,7 +1,6 @@
-// Undo steps: what changed in a drawing while a command, a LISP call or a document lock lasted, and
-// how to take it back: objects added and erased, moves, the data of objects that were opened for
-// writing, variables of the drawing. Selections and views are not taken back, and nothing is
-// redone.
+// Undo steps: the changes of a drawing during a command, a LISP call or a document lock, and
+// reverting them. Recorded are objects added and erased, moves, data of objects that were opened
+// for writing, and variables of the drawing; not selections and views. There is no redo.
 #pragma once
 
 #include <memory>
@@ -13,7 +12,6 @@
 #include "devhost/core/undo/object_state.h"
 #include "gepnt3d.h"
 
-class AcDbEntity;
 class AcDbObject;
 
 namespace devhost {
@@ -24,21 +22,21 @@ struct UndoChange {
   enum class Kind { Added, Erased, Moved, Data, Variable } kind;
   AcDbObject* object = nullptr;
   AcGeMatrix3d back;                         // Moved
-  std::unique_ptr<const ObjectState> state;  // Data: as it was before the first change of the step
+  std::unique_ptr<const ObjectState> state;  // Data: before the first change of the step
   std::wstring name;                         // Variable
-  std::optional<std::wstring> value;  // Variable: what it was; none: it had its initial value
+  std::optional<std::wstring> value;         // Variable: the old value; none: the initial value
 };
 
 struct UndoStep {
   std::wstring command;
-  std::vector<UndoChange> changes;        // in the order in which they happened
-  std::set<const AcDbObject*> kept = {};  // objects whose data stand among the changes
+  std::vector<UndoChange> changes;            // in order
+  std::set<const AcDbObject*> recorded = {};  // objects with a Data change
 
   bool IsEmpty() const { return changes.empty(); }
 };
 
-// Gathers all that happens in a drawing during its life into one step; inside another recording it
-// does nothing, so that a command is one step whatever it calls.
+// Records all changes of a drawing during its lifetime as one step. Inside another recording it has
+// no effect, so that a command is one step with everything that it calls.
 class UndoRecording {
  public:
   UndoRecording(Document& document, std::wstring name);
@@ -49,18 +47,20 @@ class UndoRecording {
  private:
   Document* m_document;
   UndoStep m_step;
-  bool m_own;
+  bool m_outermost;
 };
 
-// Makes the drawing tell its changes to the recording that is open.
-void WatchForUndo(Document& document);
-// A variable of the drawing is about to be written.
-void KeepVariableForUndo(Document& document, const std::wstring& name);
-// Takes the latest step back, unrecorded; its command's name, empty when there was none.
-std::wstring TakeBackLatest(Document& document);
-// Drops all steps, that of what runs just now too: objects that they name are about to go.
-void ForgetUndo(Document& document);
-// From Begin to End all steps become one. A second Begin ends the first group.
+// Connects the callbacks of the drawing's database to the open recording.
+void ConnectUndo(Document& document);
+// Call before a variable of the drawing changes.
+void RecordVariableForUndo(Document& document, const std::wstring& name);
+// Reverts and removes the latest step, without recording. Returns its command's name; empty: there
+// was no step.
+std::wstring UndoLatestStep(Document& document);
+// Discards all steps and the changes of the open recording, before objects that they refer to are
+// deleted.
+void DiscardUndo(Document& document);
+// All steps between Begin and End become one. A second Begin ends the first group.
 void BeginUndoGroup(Document& document);
 void EndUndoGroup(Document& document);
 

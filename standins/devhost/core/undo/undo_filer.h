@@ -1,6 +1,6 @@
-// The road of an object's own groups into memory and back, with numbers as they are. What all
-// entities share (the part under the mark AcDbEntity) is left out, as the drawing reader leaves it
-// out; a point is its two or three numbers, as in a file.
+// Writes the groups of an object to memory and reads them back, numbers in binary. The shared part
+// (subclass mark AcDbEntity) is skipped, as the drawing reader does. A point is two or three
+// numbers, as in a file.
 #pragma once
 
 #include <string>
@@ -33,7 +33,7 @@ class UndoOutFiler : public AcDbDxfFiler {
   AcDbDatabase* m_database;
   std::vector<UndoItem>& m_items;
   bool m_shared = false;
-  bool m_ended = false;  // behind the end of a sequence of parts, which a reader never sees
+  bool m_ended = false;  // after SEQEND, which readers never see
 };
 
 class UndoInFiler : public AcDbDxfFiler {
@@ -53,7 +53,7 @@ class UndoInFiler : public AcDbDxfFiler {
   AcDbDatabase* m_database;
   const std::vector<UndoItem>& m_items;
   std::size_t m_at = 0, m_before = 0;
-  std::wstring m_text;  // what the latest item's string points to
+  std::wstring m_text;  // string value of the latest item
 };
 
 }  // namespace devhost

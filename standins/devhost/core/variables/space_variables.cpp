@@ -9,15 +9,15 @@
 namespace devhost {
 namespace {
 
-// What was picked lies in the other space, and so does what the view showed.
-void ShowOtherSpace(Document& document) {
+// Selection and view belong to the other space.
+void OnSpaceChanged(Document& document) {
   document.view.ZoomTo(ExtentsOf(*document.database()));
   if (!document.pickFirst.empty()) SetPickFirst(document, {});
 }
 
 }  // namespace
 
-void FollowSpace(Document& document, const std::wstring& name, const std::wstring& value) {
+void UpdateCurrentSpace(Document& document, const std::wstring& name, const std::wstring& value) {
   if (name == L"TILEMODE") {
     document.variables[L"CVPORT"] = value == L"0" ? L"1" : L"2";
     document.variables[L"CTAB"] = value == L"0" ? L"Layout1" : L"Model";
@@ -28,7 +28,7 @@ void FollowSpace(Document& document, const std::wstring& name, const std::wstrin
   bool& current = document.database()->body().paperIsCurrent;
   const bool before = current;
   current = paper && document.variables[L"CVPORT"] == L"1";
-  if (current != before) ShowOtherSpace(document);
+  if (current != before) OnSpaceChanged(document);
 }
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// TILEMODE, CVPORT and CTAB, and which space of a drawing is current.
+// The variables TILEMODE, CVPORT and CTAB determine the current space of a drawing.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@ namespace devhost {
 
 class Document;
 
-// Leaving or entering paper space takes the viewport and the tab along; which space is current
-// follows from both.
-void FollowSpace(Document& document, const std::wstring& name, const std::wstring& value);
+// Call after `name` was set. TILEMODE also sets CVPORT and CTAB; then the current space is
+// determined.
+void UpdateCurrentSpace(Document& document, const std::wstring& name, const std::wstring& value);
 
 }  // namespace devhost

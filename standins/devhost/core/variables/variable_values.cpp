@@ -21,7 +21,7 @@ std::wstring RealText(double value) {
   return buffer;
 }
 
-bool Computed(const std::wstring& name, const Document* document, std::wstring* value) {
+bool ComputedValue(const std::wstring& name, const Document* document, std::wstring* value) {
   Host& host = TheHost();
   if (name == L"CMDACTIVE")
     *value = std::to_wstring(host.engine.CommandActive());

@@ -1,4 +1,4 @@
-// Values of variables as the table stores them: text, numbers in decimal.
+// Values of variables as text.
 #pragma once
 
 #include <string>
@@ -11,7 +11,8 @@ namespace devhost {
 std::wstring PointText(const AcGePoint3d& p);
 std::wstring RealText(double value);
 
-// Variables whose value is the state itself; false for the stored ones.
-bool Computed(const std::wstring& name, const Document* document, std::wstring* value);
+// Sets the value of a variable that is computed from the state of the host; false for stored
+// variables.
+bool ComputedValue(const std::wstring& name, const Document* document, std::wstring* value);
 
 }  // namespace devhost

@@ -60,16 +60,16 @@ constexpr VariableInfo kVariables[] = {
     {L"VIEWSIZE", VarType::Real, true, true, 1, 0, L""},
 };
 
-// What TILEMODE takes along is put back behind it, that is recorded before it.
-void KeepForUndo(Document& document, const std::wstring& name) {
+// Undo reverts in reverse order, so variables that TILEMODE sets are recorded before it.
+void RecordForUndo(Document& document, const std::wstring& name) {
   if (name == L"TILEMODE")
-    for (const wchar_t* follower : {L"CVPORT", L"CTAB"}) KeepVariableForUndo(document, follower);
-  KeepVariableForUndo(document, name);
+    for (const wchar_t* follower : {L"CVPORT", L"CTAB"}) RecordVariableForUndo(document, follower);
+  RecordVariableForUndo(document, name);
 }
 
 Document* VariableDocument() {
   AcApDocument* current = TheHost().documents.curDocument();
-  return TheHost().documents.Known(current);
+  return TheHost().documents.FindDocument(current);
 }
 
 }  // namespace
@@ -85,7 +85,7 @@ VarResult VariableTable::Get(const std::wstring& name, std::wstring* value) cons
   const VariableInfo* info = Find(name);
   if (!info) return VarResult::Unknown;
   const Document* document = VariableDocument();
-  if (Computed(info->name, document, value)) return VarResult::Ok;
+  if (ComputedValue(info->name, document, value)) return VarResult::Ok;
   if (info->ofDrawing && !document) return VarResult::NoDrawing;
   const auto& stored = info->ofDrawing ? document->variables : m_global;
   const auto at = stored.find(info->name);
@@ -111,15 +111,15 @@ VarResult VariableTable::Set(const std::wstring& name, const std::wstring& value
       stored = std::to_wstring(static_cast<int>(number));
     }
   }
-  if (info->ofDrawing) KeepForUndo(*document, info->name);
+  if (info->ofDrawing) RecordForUndo(*document, info->name);
   (info->ofDrawing ? document->variables : m_global)[info->name] = stored;
-  if (info->ofDrawing) FollowSpace(*document, info->name, stored);
+  if (info->ofDrawing) UpdateCurrentSpace(*document, info->name, stored);
   TheJournal().Record("var", {{"name", Utf8(info->name)}, {"value", Utf8(stored)}});
   TheHost().Ui().VariableChanged(info->name);
   return VarResult::Ok;
 }
 
-void PutBackVariable(Document& document, const std::wstring& name,
+void RestoreVariable(Document& document, const std::wstring& name,
                      const std::optional<std::wstring>& value) {
   const VariableInfo* info = TheHost().variables.Find(name);
   if (value)
@@ -127,7 +127,7 @@ void PutBackVariable(Document& document, const std::wstring& name,
   else
     document.variables.erase(name);
   const std::wstring now = value ? *value : info->initial;
-  FollowSpace(document, name, now);
+  UpdateCurrentSpace(document, name, now);
   TheJournal().Record("var", {{"name", Utf8(name)}, {"value", Utf8(now)}});
   TheHost().Ui().VariableChanged(name);
 }

@@ -1,5 +1,5 @@
-// System variables: name, type, whether they belong to the drawing, whether they can be written,
-// and the range. Values of the drawing are kept with it; some are computed.
+// System variables: name, type, scope (drawing or host), access, range. Values of the drawing are
+// stored with it; some are computed.
 #pragma once
 
 #include <map>
@@ -33,8 +33,8 @@ class VariableTable {
 };
 
 class Document;
-// For undo: the value that the variable had; none: its initial one.
-void PutBackVariable(Document& document, const std::wstring& name,
+// For undo: restores the old value; none: the initial one.
+void RestoreVariable(Document& document, const std::wstring& name,
                      const std::optional<std::wstring>& value);
 
 }  // namespace devhost

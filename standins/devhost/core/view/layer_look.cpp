@@ -1,4 +1,4 @@
-// Layers as they show; see the header.
+// Styles of layers; see the header.
 #include "devhost/core/view/layer_look.h"
 
 #include "dbsymtb.h"
@@ -6,8 +6,8 @@
 
 namespace devhost {
 
-LayerLooks LooksOf(AcDbDatabase& database) {
-  LayerLooks looks;
+LayerStyles LayerStylesOf(AcDbDatabase& database) {
+  LayerStyles looks;
   const auto* table = AcDbLayerTable::cast(database.layerTableId().object());
   for (AcDbObjectId id : table->records()) {
     const auto* layer = AcDbLayerTableRecord::cast(id.object());

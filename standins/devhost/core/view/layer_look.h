@@ -1,4 +1,4 @@
-// How layers show their entities: colour, visibility and line type.
+// Colour, visibility and line type of layers.
 #pragma once
 
 #include <map>
@@ -8,14 +8,14 @@
 
 namespace devhost {
 
-struct LayerLook {
+struct LayerStyle {
   int color = 7;
   bool shown = true;
   bool dashed = false;
 };
 
-using LayerLooks = std::map<std::wstring, LayerLook>;  // by upper-case name
+using LayerStyles = std::map<std::wstring, LayerStyle>;  // by upper-case name
 
-LayerLooks LooksOf(AcDbDatabase& database);
+LayerStyles LayerStylesOf(AcDbDatabase& database);
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// Drawings as plain shapes; see the header.
+// Drawings as shapes; see the header.
 #include "devhost/core/view/scene.h"
 
 #include <algorithm>
@@ -25,16 +25,16 @@ std::vector<AcDbEntity*> EntitiesOf(AcDbDatabase& database) {
 
 std::vector<Shape> BuildScene(AcDbDatabase& database, double pixelsPerUnit) {
   std::vector<Shape> shapes;
-  const LayerLooks looks = LooksOf(database);
+  const LayerStyles looks = LayerStylesOf(database);
   ShapeCollector collector(looks, pixelsPerUnit, shapes);
-  for (AcDbEntity* entity : EntitiesOf(database)) collector.DrawTop(*entity);
+  for (AcDbEntity* entity : EntitiesOf(database)) collector.DrawEntity(*entity);
   return shapes;
 }
 
 std::vector<Shape> ShapesOf(AcDbEntity& entity, double pixelsPerUnit) {
   std::vector<Shape> shapes;
-  const LayerLooks looks = entity.database() ? LooksOf(*entity.database()) : LayerLooks();
-  ShapeCollector(looks, pixelsPerUnit, shapes).DrawTop(entity);
+  const LayerStyles looks = entity.database() ? LayerStylesOf(*entity.database()) : LayerStyles();
+  ShapeCollector(looks, pixelsPerUnit, shapes).DrawEntity(entity);
   return shapes;
 }
 
@@ -50,7 +50,8 @@ AcDbEntity* EntityAt(AcDbDatabase& database, const AcGePoint3d& at, double reach
   double nearest = reach;
   for (const Shape& shape : BuildScene(database, 1 / std::max(reach, 1e-9))) {
     const double distance = DistanceTo(shape, at);
-    if (distance > nearest) continue;  // of two that are equally near the upper one is taken
+    // of two at equal distance the later one, which is drawn on top
+    if (distance > nearest) continue;
     nearest = distance;
     best = shape.entity;
   }
@@ -89,7 +90,7 @@ bool PointOn(AcDbEntity& entity, AcGePoint3d* at) {
   const std::vector<AcGePoint3d> outline = OutlineOf(shapes[0]);
   const AcGePoint3d a = outline[0], b = outline.size() > 1 ? outline[1] : outline[0];
   *at = {a.x + (b.x - a.x) * 0.4, a.y + (b.y - a.y) * 0.4,
-         0};  // not the middle: others cross there
+         0};  // Not the middle, where other entities often cross.
   if (shapes[0].kind == Shape::Kind::Text)
     *at = {(outline[0].x + outline[2].x) / 2, (outline[0].y + outline[2].y) / 2, 0};
   return true;

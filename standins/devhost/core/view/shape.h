@@ -1,4 +1,4 @@
-// What a drawing is painted with: lines, filled areas and texts in world coordinates.
+// Shapes: lines, filled areas and texts in world coordinates, for painting and hit tests.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// Storing what entities draw; see the header.
+// Storing shapes; see the header.
 #include "devhost/core/view/shape_collector.h"
 
 #include <algorithm>
@@ -11,25 +11,25 @@
 namespace devhost {
 namespace {
 
-constexpr int kDeepestBlock = 24;  // references inside references; a block may name itself
-constexpr std::size_t kMostShapes =
-    2000000;  // of one drawing: small blocks in large arrays multiply
+constexpr int kMaxBlockDepth = 24;  // a block may refer to itself
+constexpr std::size_t kMaxShapes =
+    2000000;  // of one drawing: nested arrays of small blocks multiply
 
 }  // namespace
 
-void ShapeCollector::DrawTop(AcDbEntity& entity) {
+void ShapeCollector::DrawEntity(AcDbEntity& entity) {
   m_entity = &entity;
   Draw(entity);
 }
 
 void ShapeCollector::Draw(const AcDbEntity& entity) {
   const auto at = m_looks.find(UpperCase(entity.layer()));
-  const LayerLook look = at == m_looks.end() ? LayerLook() : at->second;
+  const LayerStyle look = at == m_looks.end() ? LayerStyle() : at->second;
   if (!look.shown) return;
   const Frame before = m_frame;
   const int own = entity.colorIndex();
   const bool onZero = m_depth > 0 && !std::wcscmp(entity.layer(), L"0");
-  // Layer 0 and "by block" inside a block take the look of the reference.
+  // Inside a block, layer 0 and colour "by block" take the style of the reference.
   m_layerColor = onZero ? before.color : look.color;
   m_blockColor = before.color;
   m_frame.color = own == 256 ? m_layerColor : own == 0 ? before.color : own;
@@ -43,10 +43,10 @@ void ShapeCollector::setColor(short index) {
   m_frame.color = index == 256 ? m_layerColor : index == 0 ? m_blockColor : index;
 }
 
-bool ShapeCollector::Full() const { return m_out.size() >= kMostShapes; }
+bool ShapeCollector::IsFull() const { return m_out.size() >= kMaxShapes; }
 
 bool ShapeCollector::Add(Shape::Kind kind, unsigned count, const AcGePoint3d* points) {
-  if (Full() || count == 0) return false;
+  if (IsFull() || count == 0) return false;
   Shape shape;
   shape.kind = kind;
   shape.color = m_frame.color;
@@ -89,7 +89,7 @@ bool ShapeCollector::circularArc(const AcGePoint3d& center, double radius, const
 bool ShapeCollector::text(const AcGePoint3d& position, const AcGeVector3d&,
                           const AcGeVector3d& direction, double height, double width, double,
                           const ACHAR* text) {
-  if (Full() || !(height > 0)) return false;
+  if (IsFull() || !(height > 0)) return false;
   Shape shape;
   shape.kind = Shape::Kind::Text;
   shape.color = m_frame.color;
@@ -115,8 +115,8 @@ bool ShapeCollector::popModelTransform() {
 }
 
 bool ShapeCollector::draw(const AcDbEntity* part) {
-  if (!part || Full()) return false;
-  if (m_depth >= kDeepestBlock) return false;
+  if (!part || IsFull()) return false;
+  if (m_depth >= kMaxBlockDepth) return false;
   ++m_depth;
   Draw(*part);
   --m_depth;

@@ -11,10 +11,10 @@ namespace devhost {
 
 class ShapeCollector : public AcGiWorldDraw, AcGiWorldGeometry, AcGiSubEntityTraits {
  public:
-  ShapeCollector(const LayerLooks& looks, double pixelsPerUnit, std::vector<Shape>& out)
+  ShapeCollector(const LayerStyles& looks, double pixelsPerUnit, std::vector<Shape>& out)
       : m_looks(looks), m_pixels(pixelsPerUnit > 0 ? pixelsPerUnit : 1), m_out(out) {}
 
-  void DrawTop(AcDbEntity& entity);  // an entity that is in no block
+  void DrawEntity(AcDbEntity& entity);  // an entity that is in no block
 
  private:
   struct Frame {
@@ -39,10 +39,10 @@ class ShapeCollector : public AcGiWorldDraw, AcGiWorldGeometry, AcGiSubEntityTra
 
   void Draw(const AcDbEntity& entity);
   bool Add(Shape::Kind kind, unsigned count, const AcGePoint3d* points);
-  bool Full() const;
+  bool IsFull() const;
   const AcGeMatrix3d& Matrix() const { return m_matrices.back(); }
 
-  const LayerLooks& m_looks;
+  const LayerStyles& m_looks;
   double m_pixels;
   std::vector<Shape>& m_out;
   AcDbObject* m_entity = nullptr;

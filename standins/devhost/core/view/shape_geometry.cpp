@@ -16,7 +16,7 @@ double DistanceToSegment(const AcGePoint3d& p, const AcGePoint3d& a, const AcGeP
   return std::hypot(p.x - (a.x + dx * t), p.y - (a.y + dy * t));
 }
 
-// The four corners that a text fills, so that it can be hit and boxed like a polygon.
+// The rectangle of a text, for hit tests and extents.
 std::vector<AcGePoint3d> TextCorners(const Shape& shape) {
   const double length = TextLength(shape.text) * shape.height * shape.widthFactor;
   const AcGeVector3d along(std::cos(shape.rotation), std::sin(shape.rotation), 0),

@@ -1,4 +1,4 @@
-// Outlines of shapes, distances to them and boxes that touch them.
+// Outlines of shapes, distances and box tests.
 #pragma once
 
 #include <vector>
@@ -10,7 +10,7 @@ namespace devhost {
 std::vector<AcGePoint3d> OutlineOf(const Shape& shape);
 double DistanceTo(const Shape& shape, const AcGePoint3d& p);
 
-// Whether a segment comes into a box, by clipping it against the four sides.
+// Whether a segment intersects a box; it is clipped against the four sides.
 bool SegmentTouches(AcGePoint3d a, AcGePoint3d b, double x0, double y0, double x1, double y1);
 
 }  // namespace devhost

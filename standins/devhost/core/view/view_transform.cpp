@@ -1,4 +1,4 @@
-// View arithmetic; see the header.
+// The view transform; see the header.
 #include "devhost/core/view/view_transform.h"
 
 #include <algorithm>
@@ -7,11 +7,11 @@
 namespace devhost {
 namespace {
 
-constexpr double kMostPixels = 1 << 27;  // what GDI and our own sums take without overflow
-constexpr double kLeastScale = 1e-9, kMostScale = 1e9;
+constexpr double kMaxPixels = 1 << 27;  // GDI and sums of two such values do not overflow
+constexpr double kMinScale = 1e-9, kMaxScale = 1e9;
 
 LONG Clamped(double v) {
-  return static_cast<LONG>(std::lround(std::clamp(v, -kMostPixels, kMostPixels)));
+  return static_cast<LONG>(std::lround(std::clamp(v, -kMaxPixels, kMaxPixels)));
 }
 
 }  // namespace
@@ -33,7 +33,7 @@ AcGePoint3d ViewTransform::ToWorld(POINT pixel) const {
 
 void ViewTransform::ZoomAt(POINT pixel, double factor) {
   const AcGePoint3d kept = ToWorld(pixel);
-  m_scale = std::clamp(m_scale * factor, kLeastScale, kMostScale);
+  m_scale = std::clamp(m_scale * factor, kMinScale, kMaxScale);
   const AcGePoint3d now = ToWorld(pixel);
   m_center = m_center + (kept - now);
 }
@@ -43,7 +43,7 @@ void ViewTransform::ZoomTo(const AcDbExtents& extents) {
   const AcGePoint3d lo = extents.minPoint(), hi = extents.maxPoint();
   const double w = std::max(hi.x - lo.x, 1e-6), h = std::max(hi.y - lo.y, 1e-6);
   m_center = {(lo.x + hi.x) / 2, (lo.y + hi.y) / 2, 0};
-  m_scale = std::clamp(std::min(m_width / w, m_height / h) * 0.95, kLeastScale, kMostScale);
+  m_scale = std::clamp(std::min(m_width / w, m_height / h) * 0.95, kMinScale, kMaxScale);
 }
 
 void ViewTransform::PanBy(int dx, int dy) {

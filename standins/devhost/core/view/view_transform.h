@@ -1,5 +1,4 @@
-// Where the view of a drawing stands: a centre and a scale, world y up and pixel y down. Plain
-// arithmetic; the window only tells its size.
+// The transform between world and pixels: a centre and a scale, world y up, pixel y down.
 #pragma once
 
 #include "gepnt3d.h"
@@ -9,16 +8,16 @@ namespace devhost {
 
 class ViewTransform {
  public:
-  void Resize(int width, int height);  // keeps centre and scale; sizes below 1 count as 1
+  void Resize(int width, int height);  // keeps centre and scale; sizes below 1 become 1
   int Width() const { return m_width; }
   int Height() const { return m_height; }
 
-  POINT ToPixel(const AcGePoint3d& world) const;  // clamped to what 28 bits hold
+  POINT ToPixel(const AcGePoint3d& world) const;  // clamped to 28 bits
   AcGePoint3d ToWorld(POINT pixel) const;         // z is 0
   double PixelsPerUnit() const { return m_scale; }
 
-  void ZoomAt(POINT pixel, double factor);  // the world point under the pixel stays
-  void ZoomTo(const AcDbExtents& extents);  // with a margin of a twentieth; ignores invalid ones
+  void ZoomAt(POINT pixel, double factor);  // keeps the world point under the pixel
+  void ZoomTo(const AcDbExtents& extents);  // with a margin of a twentieth; ignores invalid extents
   void PanBy(int dx, int dy);               // pixels
 
  private:

@@ -1,4 +1,4 @@
-// Steps carried out by real input and host operations.
+// Performing steps with real input and host operations; see the header.
 #include "devhost/play/win/driver_world.h"
 
 #include <cstdio>
@@ -7,20 +7,20 @@
 #include "devhost/core/base/utf8.h"
 #include "devhost/play/state_path.h"
 #include "devhost/play/win/screen_capture.h"
-#include "devhost/play/win/timer_turn.h"
+#include "devhost/play/win/timer_barrier.h"
 
 namespace devhost {
 namespace {
 
-constexpr char kGoingDown[] = "the program is going down";
-// What windows have painted reaches the screen a moment later.
-constexpr std::chrono::milliseconds kScreenCatchesUp{150};
+constexpr char kProgramEnds[] = "the program is going down";
+// Painting reaches the screen with a delay.
+constexpr std::chrono::milliseconds kScreenDelay{150};
 constexpr std::chrono::milliseconds kSlice{10};
-constexpr int kMenuTries = 50;
-constexpr std::chrono::milliseconds kTargetAppears{3000};
-// How long a step waits for the program to take its input. A dialog's own loop never tells that it
-// is idle, so this is also what a press in a dialog costs.
-constexpr std::chrono::milliseconds kInputTaken{400};
+constexpr int kMaxMenuTries = 50;
+constexpr std::chrono::milliseconds kTargetTimeout{3000};
+// How long a step waits until its input is processed. Dialogs do not report that they are idle, so
+// every click in a dialog takes this time.
+constexpr std::chrono::milliseconds kInputTimeout{400};
 
 void WriteLine(std::FILE* stream, const std::string& line) {
   std::fwrite(line.data(), 1, line.size(), stream);
@@ -40,17 +40,17 @@ Result DriverWorld::Ask(const std::function<Result()>& question) {
   return result;
 }
 
-std::string DriverWorld::Operate(const std::function<std::string()>& work) {
-  std::string problem = kGoingDown;
+std::string DriverWorld::RunOnMainThread(const std::function<std::string()>& work) {
+  std::string problem = kProgramEnds;
   if (!m_stopped) m_port.OnMainThread([&] { problem = work(); });
   return problem;
 }
 
 std::string DriverWorld::Perform(const Step& step) {
-  if (m_stopped) return kGoingDown;
+  if (m_stopped) return kProgramEnds;
   switch (step.kind) {
     case StepKind::Click:
-    case StepKind::ClickBoth:
+    case StepKind::ClickTwo:
     case StepKind::RightClick:
     case StepKind::DoubleClick:
     case StepKind::Hold:
@@ -73,7 +73,7 @@ std::string DriverWorld::Perform(const Step& step) {
     case StepKind::DumpDatabase:
       return PerformDump(step);
     default:
-      return Operate([&] { return PerformHost(step); });
+      return RunOnMainThread([&] { return PerformHost(step); });
   }
 }
 
@@ -112,12 +112,11 @@ std::string DriverWorld::PointOnMainThread(const Target& target, POINT* point) {
 }
 
 std::string DriverWorld::Point(const Target& target, POINT* point) {
-  // What a step presses may still be on its way: a box that a command is about to show, a row of a
-  // group that is just opening.
-  const Milliseconds end = Now() + kTargetAppears;
+  // The target may still appear: a message box of a command, a row of a group that is opening.
+  const Milliseconds end = Now() + kTargetTimeout;
   std::string problem;
   do {
-    problem = Operate([&] { return PointOnMainThread(target, point); });
+    problem = RunOnMainThread([&] { return PointOnMainThread(target, point); });
     if (!problem.empty()) Pause(kSlice);
   } while (!problem.empty() && !m_stopped && Now() < end);
   if (!problem.empty()) return problem;
@@ -132,17 +131,18 @@ std::string DriverWorld::Point(const Target& target, POINT* point) {
 std::string DriverWorld::PerformMouse(const Step& step) {
   POINT at = {}, end = {};
   std::string problem = Point(step.target, &at);
-  const bool hasSecond = step.kind == StepKind::Drag || step.kind == StepKind::ClickBoth;
+  const bool hasSecond = step.kind == StepKind::Drag || step.kind == StepKind::ClickTwo;
   if (problem.empty() && hasSecond) problem = Point(step.target2, &end);
   if (!problem.empty()) return problem;
-  m_input.Move(at);  // first, since keys that are held may be lost when a pointer comes to a window
-  const InputSender::Held held(m_input, step.ctrl, step.shift);
+  // moved before keys are pressed: they may be released when the pointer enters a window
+  m_input.Move(at);
+  const InputSender::HeldKeys held(m_input, step.ctrl, step.shift);
   switch (step.kind) {
     case StepKind::Click:
       m_input.Click(at, InputSender::Button::Left, 1);
       break;
-    case StepKind::ClickBoth:
-      m_input.ClickBoth(at, end);
+    case StepKind::ClickTwo:
+      m_input.ClickTwo(at, end);
       break;
     case StepKind::RightClick:
       m_input.Click(at, InputSender::Button::Right, 1);
@@ -203,9 +203,9 @@ std::string DriverWorld::PerformDump(const Step& step) {
   return text.empty() ? "there is nothing to dump" : "";
 }
 
-// The keyboard goes to the command line first; with a dialog up it can't, and that is told.
+// Focuses the command line first; with a dialog open that fails.
 std::string DriverWorld::TypeCommand(const std::string& text) {
-  const std::string problem = Operate([&]() -> std::string {
+  const std::string problem = RunOnMainThread([&]() -> std::string {
     const HWND line = m_port.CommandLine();
     SetFocus(line);
     if (line && GetFocus() == line && IsWindowEnabled(GetAncestor(line, GA_ROOT))) return {};
@@ -217,7 +217,7 @@ std::string DriverWorld::TypeCommand(const std::string& text) {
 }
 
 std::string DriverWorld::TakeShot(const std::string& path) {
-  Pause(kScreenCatchesUp);
+  Pause(kScreenDelay);
   return SavePng(CaptureScreen(), Wide(path));
 }
 
@@ -233,8 +233,8 @@ bool DriverWorld::IsPopupOpen() {
   return Ask<bool>([this] { return m_port.IsPopupOpen(); });
 }
 
-void DriverWorld::LetTimersFire() {
-  const auto turn = TimerTurn::Begin(m_port);
+void DriverWorld::WaitForTimers() {
+  const auto turn = TimerBarrier::Begin(m_port);
   while (turn && !m_stopped && !turn->IsOver()) Pause(kSlice);
 }
 
@@ -260,26 +260,25 @@ void DriverWorld::Pause(Milliseconds time) {
     std::this_thread::sleep_for(std::min(left, kSlice));
 }
 
-// A user's hand is slow beside the program, whatever else the machine does: the next press waits
-// until this one has been taken.
+// As with a user, the next input follows after this one was processed, on a slow machine too.
 void DriverWorld::Settle(Milliseconds time) {
   Pause(time);
-  const Milliseconds end = Now() + kInputTaken;
+  const Milliseconds end = Now() + kInputTimeout;
   while (!m_stopped && Now() < end && !IsMenuOpen() && !IsIdle()) Pause(kSlice);
 }
 
 void DriverWorld::Print(const std::string& line) { WriteLine(stderr, line); }
 
 void DriverWorld::BringToFront() {
-  Operate([this]() -> std::string {
-    SetForegroundWindow(GetLastActivePopup(m_port.Frame()));  // a box over it keeps the front
+  RunOnMainThread([this]() -> std::string {
+    SetForegroundWindow(GetLastActivePopup(m_port.Frame()));  // a modal dialog stays in front
     return {};
   });
 }
 
 void DriverWorld::CloseMenus() {
-  for (int tries = 0; tries < kMenuTries && IsMenuOpen(); ++tries) {
-    Operate([]() -> std::string {
+  for (int tries = 0; tries < kMaxMenuTries && IsMenuOpen(); ++tries) {
+    RunOnMainThread([]() -> std::string {
       EndMenu();
       return {};
     });

@@ -1,5 +1,5 @@
-// The running program as the play runner sees it: steps become real input, questions go to the main
-// thread through the UiPort. Lives on the play driver's thread.
+// Implements PlayWorld: steps become real input, queries run on the main thread through UiPort.
+// Used on the play driver's thread.
 #pragma once
 
 #include <atomic>
@@ -18,26 +18,26 @@ class DriverWorld : public PlayWorld {
   bool IsIdle() override;
   bool IsMenuOpen() override;
   bool IsPopupOpen() override;
-  void LetTimersFire() override;
+  void WaitForTimers() override;
   std::string ShellState() override;
   bool Variable(const std::string& name, std::string* value) override;
   Milliseconds Now() override;
   void Pause(Milliseconds time) override;
   void Print(const std::string& line) override;
 
-  // From any thread: pauses end at once and steps fail from now on.
+  // From any thread: ends pauses; steps fail from now on.
   void Stop() { m_stopped = true; }
   bool IsStopped() const { return m_stopped; }
   void BringToFront();
-  void CloseMenus();  // a menu that is up would keep the program from ending
+  void CloseMenus();  // an open menu would prevent the program from ending
   HWND Frame();
 
  private:
-  void Settle(Milliseconds time);  // a pause, and then until the input has been taken
-  // Runs on the main thread and gives what it gives, or a default when the program is going down.
+  void Settle(Milliseconds time);  // pauses, then waits until input was processed
+  // Calls on the main thread and returns the result, or a default if the program ends.
   template <class Result>
   Result Ask(const std::function<Result()>& question);
-  std::string Operate(const std::function<std::string()>& work);
+  std::string RunOnMainThread(const std::function<std::string()>& work);
 
   std::string Point(const Target& target, POINT* point);
   std::string PointOnMainThread(const Target& target, POINT* point);

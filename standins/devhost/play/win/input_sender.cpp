@@ -8,23 +8,23 @@
 namespace devhost {
 namespace {
 
-// Quick hands. Long enough for the program to take each message by itself, short enough for two
-// presses to be a double click.
+// Timing of a fast user: every message is processed separately, and two clicks can still be a
+// double click.
 constexpr int kBetween = 20;    // ms
 constexpr int kAfter = 60;      // ms, after the last message of a step
-constexpr int kDragSteps = 12;  // places that a drag passes on its way
+constexpr int kDragSteps = 12;  // mouse positions of a drag
 
 constexpr DWORD kDown[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_RIGHTDOWN};
 constexpr DWORD kUp[] = {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTUP};
 
-// A pixel's middle in the 65536 parts that the virtual desktop is divided into.
+// The centre of a pixel in absolute coordinates, 65536 for the virtual desktop.
 LONG Part(LONG at, int first, int count) {
   return count > 0 ? static_cast<LONG>((static_cast<LONGLONG>(at - first) * 65536 + 32768) / count)
                    : 0;
 }
 
-// Every event carries its place: between two of them the pointer may have been reported elsewhere,
-// and a press would go there.
+// Every event contains its position: the window system may report another pointer position between
+// two events, and a click would go there.
 INPUT MouseInput(POINT at, DWORD flags, DWORD data = 0) {
   INPUT input = {};
   input.type = INPUT_MOUSE;
@@ -39,30 +39,30 @@ INPUT MouseInput(POINT at, DWORD flags, DWORD data = 0) {
 
 }  // namespace
 
-// The pointer itself goes along, so that whatever the window system reports of it meanwhile, say
-// because a window came up under it, names the same place.
+// Also sets the pointer, so that moves which the window system generates, for example for a new
+// window, have the same position.
 void InputSender::Move(POINT to) {
   SetCursorPos(to.x, to.y);
   Mouse(to, 0);
 }
 
 void InputSender::Mouse(POINT at, DWORD flags, DWORD data) {
-  KeepHeld();
+  RestoreModifiers();
   INPUT input = MouseInput(at, flags, data);
   SendInput(1, &input, sizeof input);
   m_pause(kBetween);
 }
 
-// When the keyboard or the pointer comes to a window, the window system asks the display which keys
-// are down, perhaps late; the display knows nothing of ours, and a key that is held would be up.
-void InputSender::KeepHeld() {
+// When a window gets focus or pointer, the window system reads the key state of the display,
+// possibly late. The display does not know simulated keys, so held keys must be pressed again.
+void InputSender::RestoreModifiers() {
   for (const auto& [key, held] : {std::pair(VK_CONTROL, m_ctrlHeld), {VK_SHIFT, m_shiftHeld}})
     if (held && GetAsyncKeyState(key) >= 0) Key(key, false, false);
 }
 
 void InputSender::Click(POINT at, Button button, int times) {
   Move(at);
-  KeepApart(at);
+  AvoidDoubleClick(at);
   for (; times > 0; --times) {
     Mouse(at, kDown[static_cast<int>(button)]);
     Mouse(at, kUp[static_cast<int>(button)]);
@@ -70,19 +70,19 @@ void InputSender::Click(POINT at, Button button, int times) {
   m_pause(kAfter);
 }
 
-void InputSender::ClickBoth(POINT first, POINT second) {
+void InputSender::ClickTwo(POINT first, POINT second) {
   Move(first);
-  KeepApart(first);
+  AvoidDoubleClick(first);
   INPUT all[] = {MouseInput(first, MOUSEEVENTF_LEFTDOWN), MouseInput(first, MOUSEEVENTF_LEFTUP),
                  MouseInput(second, 0), MouseInput(second, MOUSEEVENTF_LEFTDOWN),
                  MouseInput(second, MOUSEEVENTF_LEFTUP)};
   SendInput(static_cast<UINT>(std::size(all)), all, sizeof *all);
-  KeepApart(second);
+  AvoidDoubleClick(second);
   m_pause(kAfter);
 }
 
-// Two click steps at one place are two clicks; only a double click step makes a double click.
-void InputSender::KeepApart(POINT at) {
+// Two click steps at one place must not become a double click.
+void InputSender::AvoidDoubleClick(POINT at) {
   const int left = static_cast<int>(m_lastClick + GetDoubleClickTime() + kBetween - GetTickCount());
   const bool same = std::abs(at.x - m_lastAt.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
                     std::abs(at.y - m_lastAt.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
@@ -145,8 +145,8 @@ void InputSender::PressKey(int key, bool shift) {
   if (shift) Key(VK_SHIFT, false, true);
 }
 
-// A character that the keyboard has is typed by its key, so that whoever looks at keys sees it; any
-// other comes as an input method would bring it.
+// Characters of the keyboard layout are sent as keys, for programs that handle keys; others as an
+// input method sends them.
 void InputSender::TypeUnit(wchar_t unit) {
   switch (unit) {
     case L'\n':
@@ -176,7 +176,7 @@ void InputSender::Type(const std::wstring& text) {
   m_pause(kAfter);
 }
 
-InputSender::Held::Held(InputSender& sender, bool ctrl, bool shift)
+InputSender::HeldKeys::HeldKeys(InputSender& sender, bool ctrl, bool shift)
     : m_sender(sender), m_ctrl(ctrl), m_shift(shift) {
   m_sender.m_ctrlHeld = ctrl;
   m_sender.m_shiftHeld = shift;
@@ -184,7 +184,7 @@ InputSender::Held::Held(InputSender& sender, bool ctrl, bool shift)
   if (m_shift) m_sender.Key(VK_SHIFT, false, false);
 }
 
-InputSender::Held::~Held() {
+InputSender::HeldKeys::~HeldKeys() {
   m_sender.m_ctrlHeld = m_sender.m_shiftHeld = false;
   if (m_shift) m_sender.Key(VK_SHIFT, false, true);
   if (m_ctrl) m_sender.Key(VK_CONTROL, false, true);

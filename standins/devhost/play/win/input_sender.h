@@ -1,5 +1,5 @@
-// Mouse and keys as a user's hands give them: through the window system's input queue, at the pace
-// of quick hands. Knows no window; places are screen points. Called on the play driver's thread.
+// Sends mouse and keyboard input through the window system's queue, with the timing of a fast user.
+// Positions are screen coordinates. Used on the play driver's thread.
 #pragma once
 
 #include <functional>
@@ -19,21 +19,21 @@ class InputSender {
 
   void Move(POINT to);
   void Click(POINT at, Button button, int times);
-  // All of it is in the queue before the program takes any, so that no timer comes in between.
-  void ClickBoth(POINT first, POINT second);
+  // Puts both clicks into the queue at once, so that no timer fires between them.
+  void ClickTwo(POINT first, POINT second);
   void Hold(POINT at, Button button, int milliseconds);
   void Drag(POINT from, POINT to);
   void Wheel(POINT at, int delta);
   void Press(const KeyChord& chord);
   void Type(const std::wstring& text);
 
-  // Holds modifier keys down while it lives.
-  class Held {
+  // Holds modifier keys during its lifetime.
+  class HeldKeys {
    public:
-    Held(InputSender& sender, bool ctrl, bool shift);
-    ~Held();
-    Held(const Held&) = delete;
-    Held& operator=(const Held&) = delete;
+    HeldKeys(InputSender& sender, bool ctrl, bool shift);
+    ~HeldKeys();
+    HeldKeys(const HeldKeys&) = delete;
+    HeldKeys& operator=(const HeldKeys&) = delete;
 
    private:
     InputSender& m_sender;
@@ -41,8 +41,8 @@ class InputSender {
   };
 
  private:
-  void KeepApart(POINT at);
-  void KeepHeld();
+  void AvoidDoubleClick(POINT at);
+  void RestoreModifiers();
   void Mouse(POINT at, DWORD flags, DWORD data = 0);
   void Key(int key, bool extended, bool up);
   void TypeUnit(wchar_t unit);

@@ -1,4 +1,4 @@
-// The messages that measure the program's silence.
+// Measuring message latency; see the header.
 #include "devhost/play/win/message_probe.h"
 
 namespace devhost {
@@ -7,8 +7,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr UINT kProbe = WM_APP + 0x52;
-constexpr auto kBetween = 20ms;
-constexpr auto kLook = 2ms;
+constexpr auto kSendInterval = 20ms;
+constexpr auto kPollInterval = 2ms;
 
 }  // namespace
 
@@ -41,18 +41,18 @@ LRESULT CALLBACK MessageProbe::Answer(HWND window, UINT message, WPARAM wParam, 
 }
 
 void MessageProbe::Measure() {
-  // Numbers go on from where an earlier play of this process ended.
+  // Numbers continue from an earlier play of this process.
   for (int number = s_answered + 1; !m_stop; ++number) {
-    AwaitAnswer(number);
-    std::this_thread::sleep_for(kBetween);
+    MeasureOnce(number);
+    std::this_thread::sleep_for(kSendInterval);
   }
 }
 
-void MessageProbe::AwaitAnswer(int number) {
+void MessageProbe::MeasureOnce(int number) {
   const int step = m_step();
   const Clock::time_point sent = Clock::now();
   if (!SendNotifyMessageW(m_window, kProbe, static_cast<WPARAM>(number), 0)) return;
-  while (s_answered != number && !m_stop) std::this_thread::sleep_for(kLook);
+  while (s_answered != number && !m_stop) std::this_thread::sleep_for(kPollInterval);
   const Clock::time_point answered =
       s_answered == number ? Clock::time_point(Clock::duration(s_when.load())) : Clock::now();
   m_longest.Note(std::chrono::duration_cast<std::chrono::microseconds>(answered - sent), step);

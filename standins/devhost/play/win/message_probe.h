@@ -1,9 +1,8 @@
-// How long the main thread lets a message wait, measured as another thread finds it: every 20 ms a
-// message is sent that the main thread answers when it next looks at its queue, and the answer is
-// stamped there. So a loop of a menu, of a dialog or of a drag counts as taking messages whoever
-// wrote it, a thread that rests in GetMessage answers at once, and nothing is queued that a script
-// waiting for idleness would see. What is measured falls short of the whole silence by up to the
-// 20 ms between two messages. One at a time; the play driver's thread makes it.
+// Measures how long messages wait for the main thread. Every 20 ms a message is sent with
+// SendNotifyMessage; its handler stores the time. Every message loop counts, also those of menus,
+// dialogs and drags; a thread that waits in GetMessage answers at once; nothing is posted that a
+// script waiting for idleness would see. A measured time is up to 20 ms too short. One object at a
+// time, created on the play driver's thread.
 #pragma once
 
 #include <atomic>
@@ -20,7 +19,7 @@ class MessageProbe {
  public:
   using OnMainThread = std::function<bool(const std::function<void()>&)>;  // see UiPort
 
-  // `step` gives the number of the step that is being played, on the probe's thread.
+  // `step` returns the index of the current step; called on the probe's thread.
   MessageProbe(OnMainThread onMainThread, std::function<int()> step);
   ~MessageProbe() { Stop(); }
   MessageProbe(const MessageProbe&) = delete;
@@ -33,18 +32,18 @@ class MessageProbe {
 
   static LRESULT CALLBACK Answer(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Measure();
-  void AwaitAnswer(int number);
+  void MeasureOnce(int number);
 
-  // Of the process, not of the object: the last message may arrive when the play is over.
+  // Static, because the last message may arrive after the play.
   static std::atomic<int> s_answered;  // number of the message
   static std::atomic<Clock::rep> s_when;
 
   const OnMainThread m_onMainThread;
   const std::function<int()> m_step;
-  HWND m_window = nullptr;  // message-only, made and destroyed on the main thread
-  LongestWait m_longest;    // of the measuring thread until it has been joined
+  HWND m_window = nullptr;  // message-only; created and destroyed on the main thread
+  LongestWait m_longest;    // used by the measuring thread until it is joined
   std::atomic<bool> m_stop{false};
-  std::thread m_thread;  // last: it uses all of the above
+  std::thread m_thread;  // last, because the thread uses all other members
 };
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// The driver's thread: reads the script, plays it, ends the program.
+// The play driver's thread; see the header.
 #include "devhost/play/play_driver.h"
 
 #include <atomic>
@@ -14,13 +14,13 @@
 namespace devhost {
 namespace {
 
-constexpr ULONGLONG kLargestScript = 16 * 1024 * 1024;
-constexpr std::chrono::milliseconds kLongestEnd{10000};
+constexpr ULONGLONG kMaxScript = 16 * 1024 * 1024;
+constexpr std::chrono::milliseconds kExitTimeout{10000};
 
 bool ReadWhole(const std::wstring& path, std::string* text, std::string* problem) {
   try {
     CFile file(path.c_str(), CFile::modeRead);
-    if (file.GetLength() > kLargestScript) {
+    if (file.GetLength() > kMaxScript) {
       *problem = "the script is larger than 16 MB";
       return false;
     }
@@ -34,7 +34,7 @@ bool ReadWhole(const std::wstring& path, std::string* text, std::string* problem
   }
 }
 
-void Tell(const std::string& text) {
+void PrintError(const std::string& text) {
   std::fprintf(stderr, "%s\n", text.c_str());
   std::fflush(stderr);
 }
@@ -58,27 +58,28 @@ struct PlayDriver::Running {
       MessageProbe probe([&](const auto& work) { return port.OnMainThread(work); },
                          [&] { return runner.StepNumber(); });
       exitCode = runner.Play();
-      if (!TellLongestWait(runner, probe.Stop()) && exitCode == 0) exitCode = 1;
+      if (!ReportLongestWait(runner, probe.Stop()) && exitCode == 0) exitCode = 1;
     }
     wantsRestart = runner.EndedInRestart();
     world->CloseMenus();
     port.OnMainThread([&] { port.Quit(exitCode); });
-    AwaitEnd();
+    WaitForExit();
   }
 
-  // False when it is longer than the play allows.
-  bool TellLongestWait(const PlayRunner& runner, const LongestWait& longest) const {
+  // Prints the longest wait. False if it exceeds the limit of the play.
+  bool ReportLongestWait(const PlayRunner& runner, const LongestWait& longest) const {
     const bool good = !longestWait || longest.time <= std::chrono::duration<double>(*longestWait);
-    Tell(LongestWaitText(file, longest.time, runner.Line(longest.step)) +
-         (good ? "" : ", which is longer than the play allows"));
+    PrintError(LongestWaitText(file, longest.time, runner.Line(longest.step)) +
+               (good ? "" : ", which is longer than the play allows"));
     return good;
   }
 
-  // The program stops the world when it ends. One that doesn't would keep its caller waiting.
-  void AwaitEnd() {
-    world->Pause(kLongestEnd);
+  // The program stops the world when it ends. If it does not, it is terminated, so that its caller
+  // does not wait forever.
+  void WaitForExit() {
+    world->Pause(kExitTimeout);
     if (world->IsStopped()) return;
-    Tell(file + ": the program was asked to end 10 s ago and has not; it is ended by force");
+    PrintError(file + ": the program was asked to end 10 s ago and has not; it is ended by force");
     TerminateProcess(GetCurrentProcess(), 1);
   }
 };
@@ -97,12 +98,12 @@ bool PlayDriver::Load(const PlayOptions& options) {
   running->longestWait = options.longestWait;
   std::string text, problem;
   if (!ReadWhole(options.script, &text, &problem)) {
-    Tell(running->file + ": error: " + problem);
+    PrintError(running->file + ": error: " + problem);
     return false;
   }
   ScriptError error;
   if (!ParsePlayScript(text, &running->steps, &error)) {
-    Tell(ScriptErrorText(running->file, error));
+    PrintError(ScriptErrorText(running->file, error));
     return false;
   }
   running->steps = PartOfScript(std::move(running->steps), options.restarts);

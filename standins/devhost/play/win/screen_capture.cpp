@@ -1,4 +1,4 @@
-// Reading the screen's pixels.
+// Capturing the screen; see the header.
 #include "devhost/play/win/screen_capture.h"
 
 #include "afx.h"
@@ -20,7 +20,7 @@ class ScreenDc {
   HDC m_dc;
 };
 
-// A memory device context with a 32 bit bitmap whose rows run from the top.
+// A memory device context with a 32-bit top-down bitmap.
 class CaptureBitmap {
  public:
   CaptureBitmap(HDC like, int width, int height) : m_dc(CreateCompatibleDC(like)) {
@@ -63,10 +63,10 @@ Picture CaptureScreen() {
                               SRCCOPY | CAPTUREBLT))
     return {};
   GdiFlush();
-  const auto points =
+  const auto pixels =
       static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
-  picture.rgb.reserve(points * 3);
-  for (const std::uint8_t* at = copy.Bits(); at < copy.Bits() + points * 4; at += 4)
+  picture.rgb.reserve(pixels * 3);
+  for (const std::uint8_t* at = copy.Bits(); at < copy.Bits() + pixels * 4; at += 4)
     picture.rgb.insert(picture.rgb.end(), {at[2], at[1], at[0]});
   return picture;
 }

@@ -1,5 +1,4 @@
-// What is on the screen, as a picture: the whole virtual desktop as the window system composed it,
-// not as windows would paint themselves if asked.
+// The screen as a picture: the whole virtual desktop as the window system displays it.
 #pragma once
 
 #include <string>
@@ -8,10 +7,10 @@
 
 namespace devhost {
 
-// Without points when the screen can't be read.
+// Empty if the screen cannot be read.
 Picture CaptureScreen();
 
-// Writes the picture. Gives what went wrong, or nothing.
+// Writes a PNG file. Returns the error, or nothing.
 std::string SavePng(const Picture& picture, const std::wstring& path);
 
 }  // namespace devhost

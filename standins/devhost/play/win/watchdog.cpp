@@ -1,4 +1,4 @@
-// The watchdog of a play.
+// The watchdog; see the header.
 #include "devhost/play/win/watchdog.h"
 
 #include <cstdio>
@@ -8,9 +8,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kLongestStep = 30s;
-constexpr UINT kLongestSilence = 5000;  // ms
-constexpr auto kLook = 500ms;
+constexpr auto kStepTimeout = 30s;
+constexpr UINT kMessageTimeout = 5000;  // ms
+constexpr auto kCheckInterval = 500ms;
 
 void Report(const std::string& text) {
   std::fprintf(stderr, "%s\n", text.c_str());
@@ -36,7 +36,7 @@ PlayWatchdog::~PlayWatchdog() {
 
 void PlayWatchdog::Watch() {
   std::unique_lock lock(m_mutex);
-  while (!m_wake.wait_for(lock, kLook, [this] { return m_stop; })) {
+  while (!m_wake.wait_for(lock, kCheckInterval, [this] { return m_stop; })) {
     lock.unlock();
     CheckStep();
     CheckMainThread();
@@ -44,25 +44,25 @@ void PlayWatchdog::Watch() {
   }
 }
 
-// A step that hangs is waiting for a main thread that may never answer again: there is no orderly
-// end, and the process is ended with the exit code of a failed play.
+// A step that takes too long waits for a main thread that may never respond, so the process is
+// terminated with the exit code of a failed play.
 void PlayWatchdog::CheckStep() {
   const auto now = std::chrono::steady_clock::now();
   if (m_step != m_runner.StepNumber()) {
     m_step = m_runner.StepNumber();
     m_stepBegan = now;
   }
-  const auto limit = kLongestStep + m_runner.PlannedTime(m_step);
+  const auto limit = kStepTimeout + m_runner.PlannedTime(m_step);
   if (now - m_stepBegan < limit) return;
   Report(m_runner.Place(m_step) + "\n  the step takes more than 30 s; the program is ended");
   TerminateProcess(GetCurrentProcess(), 1);
 }
 
-// Told once for each time that it falls silent.
+// Reported once for each time that the main thread stops processing messages.
 void PlayWatchdog::CheckMainThread() {
   DWORD_PTR ignored;
   const bool answers =
-      SendMessageTimeoutW(m_frame, WM_NULL, 0, 0, SMTO_NORMAL, kLongestSilence, &ignored) != 0 ||
+      SendMessageTimeoutW(m_frame, WM_NULL, 0, 0, SMTO_NORMAL, kMessageTimeout, &ignored) != 0 ||
       !IsWindow(m_frame);
   if (!answers && !m_stuck)
     Report(m_runner.Place(m_runner.StepNumber()) +

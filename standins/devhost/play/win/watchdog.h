@@ -1,5 +1,5 @@
-// Looks after a play from a thread of its own: a step that takes too long ends the program and says
-// where; a main thread that takes no message is reported.
+// Monitors a play on its own thread: terminates the program if a step takes too long, and reports
+// when the main thread processes no messages.
 #pragma once
 
 #include <condition_variable>
@@ -31,7 +31,7 @@ class PlayWatchdog {
   int m_step = -1;
   std::chrono::steady_clock::time_point m_stepBegan;
   bool m_stuck = false;
-  std::thread m_thread;  // last: it uses all of the above
+  std::thread m_thread;  // last, because the thread uses all other members
 };
 
 }  // namespace devhost

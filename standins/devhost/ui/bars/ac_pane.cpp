@@ -1,4 +1,4 @@
-// What a status bar pane holds, and its menus. The bar draws panes and passes clicks; see
+// Panes of the status bar and their menus. The bar paints panes and passes clicks to them; see
 // status_bar.
 #include "acstatusbar.h"
 
@@ -57,7 +57,7 @@ UINT AcStatusBarItem::DisplayContextMenu(CMenu& menu, CPoint point) {
   if (!bar) return 0;
   POINT at = {point.x, point.y};
   ::ClientToScreen(bar->GetWindow(), &at);
-  // A menu resource holds the pop-up as its only entry; a pop-up made by hand is the menu itself.
+  // In a menu resource the pop-up is the only entry; a menu made in code is the pop-up itself.
   HMENU popup = ::GetSubMenu(menu.m_hMenu, 0);
   if (!popup || ::GetMenuItemCount(menu.m_hMenu) > 1) popup = menu.m_hMenu;
   return ::TrackPopupMenu(popup, TPM_RETURNCMD | TPM_BOTTOMALIGN | TPM_LEFTALIGN | TPM_RIGHTBUTTON,
@@ -69,7 +69,7 @@ void AcStatusBarItem::OnLButtonDblClk(UINT, CPoint) {}
 void AcStatusBarItem::OnRButtonDown(UINT, CPoint) {}
 void AcStatusBarItem::OnDelete() {}
 
-// A static pane of a module that goes down without removing it must not stay on the bar.
+// A pane that a module destroys without removing it must not stay on the bar.
 AcPane::~AcPane() {
   if (AcApStatusBar* bar = acedGetApplicationStatusBar()) bar->Remove(this, TRUE);
 }

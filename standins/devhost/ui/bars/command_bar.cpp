@@ -14,7 +14,7 @@ std::wstring TextOfWindow(HWND window) {
   return text;
 }
 
-// The edit control wants \r\n and knows no other control character.
+// Edit controls need \r\n and show no other control characters.
 std::wstring ForEdit(const std::wstring& text) {
   std::wstring out;
   for (wchar_t c : text) {
@@ -29,21 +29,21 @@ std::wstring ForEdit(const std::wstring& text) {
 
 }  // namespace
 
-bool CommandEdit::TakeKey(WPARAM key) {
+bool CommandEdit::HandleKey(WPARAM key) {
   if (key == VK_ESCAPE) {
     m_bar.Escape();
   } else if (key == VK_UP) {
-    m_bar.SetTyped(m_bar.History().Older(m_bar.Typed()));
+    m_bar.SetInputText(m_bar.History().Older(m_bar.InputText()));
   } else if (key == VK_DOWN) {
-    m_bar.SetTyped(m_bar.History().Newer(m_bar.Typed()));
+    m_bar.SetInputText(m_bar.History().Newer(m_bar.InputText()));
   } else {
     return false;
   }
   return true;
 }
 
-bool CommandEdit::TakeChar(wchar_t c) {
-  if (c == L'\r' || (c == L' ' && m_bar.BlankEnds())) {
+bool CommandEdit::HandleChar(wchar_t c) {
+  if (c == L'\r' || (c == L' ' && m_bar.BlankEndsInput())) {
     m_bar.EndLine();
     return true;
   }
@@ -51,8 +51,8 @@ bool CommandEdit::TakeChar(wchar_t c) {
 }
 
 LRESULT CommandEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_KEYDOWN && TakeKey(wParam)) return 0;
-  if (message == WM_CHAR && TakeChar(static_cast<wchar_t>(wParam))) return 0;
+  if (message == WM_KEYDOWN && HandleKey(wParam)) return 0;
+  if (message == WM_CHAR && HandleChar(static_cast<wchar_t>(wParam))) return 0;
   return CEdit::WindowProc(message, wParam, lParam);
 }
 
@@ -71,17 +71,17 @@ bool CommandBar::CreateIn(CFrameWnd* frame, Listener listener) {
     return false;
   for (HWND window : {m_output.m_hWnd, m_edit.m_hWnd})
     ::SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.Get()), FALSE);
-  ::SendMessageW(m_output.m_hWnd, EM_SETLIMITTEXT, kMostText * 2, 0);
-  Arrange();
+  ::SendMessageW(m_output.m_hWnd, EM_SETLIMITTEXT, kMaxText * 2, 0);
+  LayOut();
   return true;
 }
 
-// What can be shown of new text: line ends at its end wait for the text behind them, so that the
-// last line of the window is never empty; where the text behind brings its own, and at
-// the top of an empty window, they are dropped.
-std::wstring CommandBar::TakeShown(const std::wstring& text, bool first) {
-  const bool own = first || (!text.empty() && text[0] == L'\n');
-  std::wstring all = (own ? std::wstring() : m_lineEnds) + text;
+// The part of new output to show. Line ends at its end are deferred until more output follows, so
+// that the last line is never empty. They are dropped if the new output begins with one, and in an
+// empty window.
+std::wstring CommandBar::VisibleText(const std::wstring& text, bool first) {
+  const bool drop = first || (!text.empty() && text[0] == L'\n');
+  std::wstring all = (drop ? std::wstring() : m_lineEnds) + text;
   if (first) all.erase(0, std::min(all.find_first_not_of(L'\n'), all.size()));
   const size_t last = all.find_last_not_of(L'\n');
   const size_t end = last == std::wstring::npos ? 0 : last + 1;
@@ -93,52 +93,52 @@ void CommandBar::Print(const std::wstring& text) {
   const HWND output = m_output.m_hWnd;
   if (!output) return;
   int length = ::GetWindowTextLengthW(output);
-  if (length > kMostText) {
+  if (length > kMaxText) {
     ::SendMessageW(output, EM_SETSEL, 0, length / 2);
     ::SendMessageW(output, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
     length = ::GetWindowTextLengthW(output);
   }
-  const std::wstring shown = ForEdit(TakeShown(text, length == 0));
+  const std::wstring shown = ForEdit(VisibleText(text, length == 0));
   ::SendMessageW(output, EM_SETSEL, length, length);
   ::SendMessageW(output, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(shown.c_str()));
   ::SendMessageW(output, EM_SCROLLCARET, 0, 0);
 }
 
 void CommandBar::SetPrompt(const std::wstring& prompt) {
-  // Commands begin their prompts with a new line, which the history shows and the input row can't.
+  // Prompts may begin with a new line, which the one-line input row cannot show.
   const std::wstring shown =
       prompt.substr(std::min(prompt.find_first_not_of(L"\r\n"), prompt.size()));
   if (shown == m_prompt) return;
   m_prompt = shown;
-  Arrange();
+  LayOut();
   ::InvalidateRect(m_hWnd, nullptr, FALSE);
 }
 
-std::wstring CommandBar::Typed() const { return TextOfWindow(m_edit.m_hWnd); }
+std::wstring CommandBar::InputText() const { return TextOfWindow(m_edit.m_hWnd); }
 
-void CommandBar::SetTyped(const std::wstring& text) {
+void CommandBar::SetInputText(const std::wstring& text) {
   ::SetWindowTextW(m_edit.m_hWnd, text.c_str());
   ::SendMessageW(m_edit.m_hWnd, EM_SETSEL, text.size(), text.size());
 }
 
 void CommandBar::EndLine() {
-  const std::wstring line = Typed();
-  SetTyped(L"");
+  const std::wstring line = InputText();
+  SetInputText(L"");
   m_history.Add(line);
   m_listener.line(line);
 }
 
 void CommandBar::Escape() {
-  SetTyped(L"");
+  SetInputText(L"");
   m_listener.escape();
 }
 
-void CommandBar::PassChar(wchar_t c) { ::SendMessageW(m_edit.m_hWnd, WM_CHAR, c, 1); }
+void CommandBar::SendChar(wchar_t c) { ::SendMessageW(m_edit.m_hWnd, WM_CHAR, c, 1); }
 
-void CommandBar::PassKey(WPARAM key) { ::SendMessageW(m_edit.m_hWnd, WM_KEYDOWN, key, 1); }
+void CommandBar::SendKey(WPARAM key) { ::SendMessageW(m_edit.m_hWnd, WM_KEYDOWN, key, 1); }
 
-bool CommandBar::BlankEnds() const {
-  return BlankEndsLine(Typed(), m_listener.textMayHoldBlanks());
+bool CommandBar::BlankEndsInput() const {
+  return BlankEndsLine(InputText(), m_listener.acceptsBlanks());
 }
 
 int CommandBar::LineHeight() const {
@@ -168,7 +168,7 @@ CSize CommandBar::CalcFixedLayout(BOOL, BOOL) {
   return CSize(32767, LineHeight() * (kHistoryLines + 1) + Scaled(12));
 }
 
-void CommandBar::Arrange() {
+void CommandBar::LayOut() {
   if (!m_edit.m_hWnd) return;
   const RECT row = InputRow();
   const int left = Scaled(6);
@@ -202,12 +202,12 @@ LRESULT CommandBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND:
       return 1;
     case WM_SIZE:
-      Arrange();
+      LayOut();
       break;
     case WM_SETFOCUS:
       ::SetFocus(m_edit.m_hWnd);
       return 0;
-    case WM_CTLCOLORSTATIC:  // a read-only edit asks with this message
+    case WM_CTLCOLORSTATIC:  // sent by read-only edits
     case WM_CTLCOLOREDIT:
       ::SetBkColor(reinterpret_cast<HDC>(wParam), ::GetSysColor(COLOR_WINDOW));
       return reinterpret_cast<LRESULT>(m_paper.Get());

@@ -1,5 +1,5 @@
-// The command line window at the bottom of the frame: what was printed, the prompt, the edit for
-// typing. It knows no command: a finished line and Escape go to whoever listens.
+// The command line window at the bottom of the frame: output, prompt, input. Finished lines and
+// Escape are passed to a listener.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,7 @@ namespace devhost {
 
 class CommandBar;
 
-// The edit for typing: Enter and, where it may, a blank end the line; the arrows walk the history.
+// The input edit: Enter and, where allowed, a blank end the line; the arrow keys recall lines.
 class CommandEdit : public CEdit {
  public:
   explicit CommandEdit(CommandBar& bar) : m_bar(bar) {}
@@ -23,8 +23,8 @@ class CommandEdit : public CEdit {
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  bool TakeKey(WPARAM key);
-  bool TakeChar(wchar_t c);
+  bool HandleKey(WPARAM key);
+  bool HandleChar(wchar_t c);
   CommandBar& m_bar;
 };
 
@@ -33,7 +33,7 @@ class CommandBar : public CControlBar {
   struct Listener {
     std::function<void(const std::wstring&)> line;  // without the Enter
     std::function<void()> escape;
-    std::function<bool()> textMayHoldBlanks;
+    std::function<bool()> acceptsBlanks;
   };
 
   CommandBar() : m_edit(*this) {}
@@ -42,13 +42,13 @@ class CommandBar : public CControlBar {
   void Print(const std::wstring& text);  // "\n" begins a new line
   void SetPrompt(const std::wstring& prompt);
 
-  std::wstring Typed() const;
-  void SetTyped(const std::wstring& text);
-  void EndLine();            // what Enter does
-  void Escape();             // clears the edit, then tells the listener
-  void PassChar(wchar_t c);  // a key typed in the drawing view
-  void PassKey(WPARAM key);  // an arrow, Delete or Home typed there
-  bool BlankEnds() const;
+  std::wstring InputText() const;
+  void SetInputText(const std::wstring& text);
+  void EndLine();            // as Enter does
+  void Escape();             // clears the input, then calls the listener
+  void SendChar(wchar_t c);  // a key pressed in the drawing view
+  void SendKey(WPARAM key);  // an arrow key, Delete or Home pressed there
+  bool BlankEndsInput() const;
   CommandHistory& History() { return m_history; }
   HWND EditWindow() const { return m_edit.m_hWnd; }
 
@@ -60,12 +60,12 @@ class CommandBar : public CControlBar {
 
  private:
   static constexpr int kHistoryLines = 4;
-  static constexpr int kMostText = 120000;  // characters kept in the history window
-  std::wstring TakeShown(const std::wstring& text, bool first);
+  static constexpr int kMaxText = 120000;  // characters kept in the history window
+  std::wstring VisibleText(const std::wstring& text, bool first);
   int LineHeight() const;
   int PromptWidth() const;
   RECT InputRow() const;
-  void Arrange();
+  void LayOut();
   void Paint();
 
   Listener m_listener;
@@ -73,7 +73,7 @@ class CommandBar : public CControlBar {
   CommandEdit m_edit;
   CommandHistory m_history;
   std::wstring m_prompt;
-  std::wstring m_lineEnds;  // ends of the latest text, shown when more follows: no empty last line
+  std::wstring m_lineEnds;  // line ends of the latest output, shown when more output follows
   Font m_font;
   Brush m_paper{::CreateSolidBrush(::GetSysColor(COLOR_WINDOW))};
 };

@@ -1,11 +1,11 @@
-// Arrow-key walk and the blank rule of the command line; see the header.
+// The input history; see the header.
 #include "devhost/ui/bars/command_history.h"
 
 namespace devhost {
 
 void CommandHistory::Add(const std::wstring& line) {
   if (!line.empty() && (m_lines.empty() || m_lines.back() != line)) m_lines.push_back(line);
-  if (m_lines.size() > kMost) m_lines.erase(m_lines.begin());
+  if (m_lines.size() > kMaxLines) m_lines.erase(m_lines.begin());
   m_position = m_lines.size();
 }
 
@@ -21,8 +21,8 @@ std::wstring CommandHistory::Newer(const std::wstring& typed) {
   return m_lines[m_position];
 }
 
-bool BlankEndsLine(const std::wstring& typed, bool textMayHoldBlanks) {
-  if (textMayHoldBlanks) return false;
+bool BlankEndsLine(const std::wstring& typed, bool acceptsBlanks) {
+  if (acceptsBlanks) return false;
   int open = 0;
   bool quoted = false;
   for (wchar_t c : typed) {

@@ -1,4 +1,4 @@
-// Arithmetic of the status bar's fields; see the header.
+// Layout of the status bar; see the header.
 #include "devhost/ui/bars/pane_layout.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// Where the fields of the status bar lie: the coordinates at the left, the modules' panes at the
-// right, the message text between them. Measuring, painting and hit testing all read one layout.
+// Layout of the status bar: coordinates at the left, panes at the right, message text between.
+// Measuring, painting and hit testing use the same layout.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,7 @@
 namespace devhost {
 
 struct PaneMeasure {
-  int content;   // pixels that icon, text and margins take
+  int content;   // width of icon, text and margins in pixels
   int minWidth;  // 0: none
   int maxWidth;  // 0: none
   bool visible;
@@ -18,15 +18,14 @@ struct PaneMeasure {
 struct StatusLayout {
   RECT coordinates;
   RECT message;
-  std::vector<RECT>
-      panes;  // one for each measure; empty for a pane that is hidden or finds no room
+  std::vector<RECT> panes;  // One for each measure; empty if the pane is hidden or does not fit.
 };
 
-// Panes keep their order and stand as far right as they can. When they do not all fit beside the
-// coordinates, the last ones are left out, never cut.
+// Panes are right-aligned, in order. If they do not all fit beside the coordinates, the last ones
+// are omitted.
 StatusLayout LayOutStatusBar(SIZE client, int coordinateWidth, int gap,
                              const std::vector<PaneMeasure>& panes);
 
-int HitTestPane(const StatusLayout& layout, POINT point);  // -1 beside all panes
+int HitTestPane(const StatusLayout& layout, POINT point);  // -1: no pane
 
 }  // namespace devhost

@@ -1,5 +1,5 @@
-// See the header. Pane classes have no run-time class of the class library; the compiler's own name
-// of the class is all that tells them apart, and it has the length in front.
+// Finding panes by name; see the header. Pane classes have no CRuntimeClass, so the compiler's type
+// name is used, without the length in front of it.
 #include "devhost/ui/bars/pane_place.h"
 
 #include <typeinfo>
@@ -23,7 +23,7 @@ std::string TextOf(const AcPane& pane) {
 
 }  // namespace
 
-std::string PlaceOfPane(const std::string& name, POINT* out) {
+std::string FindPanePoint(const std::string& name, POINT* out) {
   StatusBar* bar = TheStatusBar();
   if (!bar) return "there is no status bar";
   std::string names;

@@ -1,5 +1,4 @@
-// Where a pane of the status bar is, by the name that a play script calls it: the name of its
-// class, or the text that it shows.
+// Finds a pane of the status bar by its class name or its text, for play scripts.
 #pragma once
 
 #include <string>
@@ -8,7 +7,7 @@
 
 namespace devhost {
 
-// What went wrong, or nothing and the middle of the pane on the screen.
-std::string PlaceOfPane(const std::string& name, POINT* out);
+// The middle of the pane on the screen. Returns an error message, or nothing.
+std::string FindPanePoint(const std::string& name, POINT* out);
 
 }  // namespace devhost

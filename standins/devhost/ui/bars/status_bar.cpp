@@ -1,4 +1,4 @@
-// The window of the status bar; see the header. All positions come from pane_layout.
+// The status bar; see the header. All positions come from pane_layout.
 #include "devhost/ui/bars/status_bar.h"
 
 #include <commctrl.h>
@@ -195,8 +195,7 @@ void StatusBar::PaintPane(HDC dc, AcPane& pane, RECT rect) const {
               DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX);
 }
 
-// The pane may be gone when its answer to the click comes back; nothing of it is touched
-// afterwards.
+// The handler may delete the pane; it is not used afterwards.
 void StatusBar::PassMouse(UINT message, UINT flags, POINT point) {
   AcPane* pane = GetPane(HitTestPane(Layout(), point));
   if (!pane || !pane->IsEnabled()) return;
@@ -206,7 +205,7 @@ void StatusBar::PassMouse(UINT message, UINT flags, POINT point) {
   if (message == WM_RBUTTONDOWN) pane->OnRButtonDown(flags, at);
 }
 
-// One tool for each pane, whose text is asked for when the tip comes up.
+// One tool for each pane; its text is requested when the tip is shown.
 void StatusBar::RefreshToolTips() {
   const StatusLayout layout = Layout();
   for (int i = 0; i < std::max<int>(m_toolCount, GetPaneCount()); ++i) {

@@ -1,5 +1,5 @@
-// The status bar of the frame: coordinates, message text, the modules' panes. It is the window
-// behind AcApStatusBar. It decides nothing about a pane's state; a click goes to the pane.
+// The status bar of the frame: coordinates, message text, panes. Implements AcApStatusBar. Clicks
+// are passed to the panes, which own their state.
 #pragma once
 
 #include <optional>
@@ -15,11 +15,11 @@ namespace devhost {
 
 class StatusBar : public CControlBar, public AcApStatusBar {
  public:
-  static constexpr UINT kId = 0xE801;  // where a frame looks for the bar that shows its messages
+  static constexpr UINT kId = 0xE801;  // identifier of the bar that shows a frame's messages
 
   bool CreateIn(CFrameWnd* frame);
   void ShowCoordinates(const std::wstring& text);
-  // The text that stood there before the first message since the last call.
+  // Restores the text from before the first message since the last call.
   void RestoreMessage();
 
   BOOL Insert(int index, AcPane* pane, BOOL update) override;
@@ -56,11 +56,11 @@ class StatusBar : public CControlBar, public AcApStatusBar {
   std::wstring m_coordinates, m_message;
   std::optional<std::wstring> m_messageBefore;
   Font m_font;
-  HWND m_toolTip = nullptr;  // goes with the frame
+  HWND m_toolTip = nullptr;  // destroyed with the frame
   CString m_toolText;
   int m_toolCount = 0;
 };
 
-StatusBar* TheStatusBar();  // null before creation and after the window went
+StatusBar* TheStatusBar();  // null before creation and after destruction
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// Calls into the host core for menus, dropped files and play scripts; see the header.
+// Calls to the host core; see the header.
 #include "devhost/ui/frame/host_actions.h"
 
 #include "dbsymtb.h"
@@ -9,7 +9,7 @@
 namespace devhost {
 namespace {
 
-// A name means a file of the working folder first; the core looks for it along the support path.
+// A file of the working folder precedes those of the support path.
 std::wstring FullPath(const std::wstring& path) {
   wchar_t full[1024] = L"";
   const DWORD length = ::GetFullPathNameW(path.c_str(), 1024, full, nullptr);

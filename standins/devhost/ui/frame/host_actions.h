@@ -1,5 +1,5 @@
-// What menu rows, keys and play scripts ask of the host core, in one place: drawings, variables,
-// selection. Main thread only.
+// Actions of menu rows, keys and play scripts on the host core: drawings, variables, selection.
+// Main thread only.
 #pragma once
 
 #include <string>
@@ -11,7 +11,8 @@ namespace devhost {
 
 class Document;
 
-bool OpenDrawingFile(const std::wstring& path);  // says on the command line why not
+// prints the reason of a failure on the command line
+bool OpenDrawingFile(const std::wstring& path);
 Document* MakeNewDrawing();
 bool ActivateDrawingNamed(const std::wstring& name);  // file name without extension, case ignored
 void CloseActiveDrawing();

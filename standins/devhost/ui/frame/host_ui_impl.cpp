@@ -1,4 +1,4 @@
-// The windows' side of the host core; see the header.
+// The implementation of HostUi; see the header.
 #include "devhost/ui/frame/host_ui_impl.h"
 
 #include <algorithm>
@@ -10,12 +10,12 @@
 namespace devhost {
 namespace {
 
-class CountUp {
+class ScopedCount {
  public:
-  explicit CountUp(int& count) : m_count(count) { ++m_count; }
-  ~CountUp() { --m_count; }
-  CountUp(const CountUp&) = delete;
-  CountUp& operator=(const CountUp&) = delete;
+  explicit ScopedCount(int& count) : m_count(count) { ++m_count; }
+  ~ScopedCount() { --m_count; }
+  ScopedCount(const ScopedCount&) = delete;
+  ScopedCount& operator=(const ScopedCount&) = delete;
 
  private:
   int& m_count;
@@ -40,39 +40,40 @@ DrawingChild* HostUiImpl::ActiveChild() const {
 }
 
 CommandBar::Listener HostUiImpl::CommandListener() {
-  return {[](const std::wstring& line) { TheHost().engine.TypeLine(line); },
-          [] { TheHost().engine.PressEscape(); },
-          [] { return TheHost().engine.TextMayHoldBlanks(); }};
+  return {[](const std::wstring& line) { TheHost().engine.EnterLine(line); },
+          [] { TheHost().engine.PressEscape(); }, [] { return TheHost().engine.AcceptsBlanks(); }};
 }
 
-bool HostUiImpl::CloseWaiting() {
-  if (m_toClose.empty() || TheHost().engine.CommandRuns()) return false;
+bool HostUiImpl::ClosePending() {
+  if (m_toClose.empty() || TheHost().engine.IsCommandRunning()) return false;
   Document* document = m_toClose.front();
   m_toClose.erase(m_toClose.begin());
-  if (TheHost().documents.Known(document)) TheHost().documents.Close(document);
+  if (TheHost().documents.FindDocument(document)) TheHost().documents.Close(document);
   return true;
 }
 
 bool HostUiImpl::RunWaiting() {
-  m_gone.clear();
-  if (CloseWaiting()) return true;
-  return !TheHost().engine.CommandRuns() && TheHost().engine.RunWaiting();
+  m_destroyed.clear();
+  if (ClosePending()) return true;
+  return !TheHost().engine.IsCommandRunning() && TheHost().engine.RunWaiting();
 }
 
-bool HostUiImpl::TextWaits() const { return !m_toClose.empty() || TheHost().engine.TextWaits(); }
+bool HostUiImpl::HasPendingInput() const {
+  return !m_toClose.empty() || TheHost().engine.HasPendingInput();
+}
 
-void HostUiImpl::UserActivated(DrawingChild& child) {
+void HostUiImpl::OnUserActivate(DrawingChild& child) {
   if (m_fromCore == 0) TheHost().documents.Activate(&child.GetDocument());
 }
 
-void HostUiImpl::UserCloses(DrawingChild& child) {
-  if (TheHost().engine.CommandRuns()) TheHost().engine.PressEscape();
+void HostUiImpl::OnUserClose(DrawingChild& child) {
+  if (TheHost().engine.IsCommandRunning()) TheHost().engine.PressEscape();
   m_toClose.push_back(&child.GetDocument());
 }
 
 void HostUiImpl::DocumentCreated(Document& document) {
   if (!TheFrame()) return;
-  CountUp guard(m_fromCore);
+  ScopedCount guard(m_fromCore);
   auto child = std::make_unique<DrawingChild>(document);
   m_children.push_back(std::move(child));
   m_children.back()->CreateIn(TheFrame(), document.Title());
@@ -81,15 +82,14 @@ void HostUiImpl::DocumentCreated(Document& document) {
 void HostUiImpl::DocumentActivated(Document* document) {
   DrawingChild* child = document ? ChildOf(*document) : nullptr;
   if (!child) return;
-  CountUp guard(m_fromCore);
+  ScopedCount guard(m_fromCore);
   child->Activate();
-  // The frame takes over the title of a maximized child when that title is set, not when the child
-  // comes to the front.
+  // A frame shows the title of a maximized child when it is set, not when the child is activated.
   DocumentTitled(*document);
 }
 
 void HostUiImpl::DocumentDestroyed(Document& document) {
-  CountUp guard(m_fromCore);
+  ScopedCount guard(m_fromCore);
   const auto found = std::find_if(m_children.begin(), m_children.end(), [&](const auto& child) {
     return &child->GetDocument() == &document;
   });
@@ -97,8 +97,8 @@ void HostUiImpl::DocumentDestroyed(Document& document) {
   std::erase(m_toClose, &document);
   std::unique_ptr<DrawingChild> child = std::move(*found);
   m_children.erase(found);
-  child->DestroyForGood();
-  m_gone.push_back(std::move(child));
+  child->DestroyMdiWindow();
+  m_destroyed.push_back(std::move(child));
 }
 
 void HostUiImpl::DocumentTitled(Document& document) {

@@ -1,6 +1,5 @@
-// The windows' side of the host core: makes and destroys drawing windows, shows text and prompt,
-// turns the pump while a command waits. It also holds back the echo between the two sides: a window
-// that the core brought to the front does not report that the user did.
+// Implements HostUi: creates and destroys drawing windows, shows text and prompt, pumps messages
+// while a command waits. Activations that the core caused are not reported back to it.
 #pragma once
 
 #include <memory>
@@ -14,16 +13,18 @@ namespace devhost {
 
 class HostUiImpl : public HostUi {
  public:
-  DrawingChild* ActiveChild() const;  // the child of the core's current drawing; null without one
+  DrawingChild* ActiveChild() const;  // the child of the current drawing, or null
   DrawingChild* ChildOf(const Document& document) const;
   CommandBar::Listener CommandListener();
 
-  bool RunWaiting();  // one piece of waiting command text; false when there was none
-  bool TextWaits() const;
+  bool RunWaiting();  // one item of waiting input; false: none
+  bool HasPendingInput() const;
 
-  void UserActivated(DrawingChild& child);
-  void UserCloses(
-      DrawingChild& child);  // at the next idle time: the window may not go while it talks
+  void OnUserActivate(DrawingChild& child);
+  void OnUserClose(
+      // Closes the drawing at the next idle time: a window must not be destroyed in its own
+      // message.
+      DrawingChild& child);
 
   void DocumentCreated(Document& document) override;
   void DocumentActivated(Document* document) override;
@@ -39,12 +40,13 @@ class HostUiImpl : public HostUi {
   void EndProgram() override;
 
  private:
-  bool CloseWaiting();
+  bool ClosePending();
 
   std::vector<std::unique_ptr<DrawingChild>> m_children;
-  std::vector<std::unique_ptr<DrawingChild>> m_gone;  // windows destroyed, freed at idle time
+  std::vector<std::unique_ptr<DrawingChild>>
+      m_destroyed;  // destroyed windows, deleted at idle time
   std::vector<Document*> m_toClose;
-  int m_fromCore = 0;  // above 0: what the windows do now was the core's wish
+  int m_fromCore = 0;  // above 0 during calls from the core
 };
 
 HostUiImpl& TheHostUi();

@@ -58,8 +58,8 @@ bool MainFrame::CreateAndShow(const std::wstring& title) {
   m_hMenuDefault = menu.bar;
   ::SendMessageW(m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(menu.bar),
                  reinterpret_cast<LPARAM>(menu.windowMenu));
-  // Told again now that there is an MDI area, which adds the name of a maximized child from here
-  // on.
+  // Set again after the MDI client exists: from now on the frame appends the title of a maximized
+  // child.
   ::SetWindowTextW(m_hWnd, title.c_str());
   m_keys = MakeMainKeys();
   if (!m_status.CreateIn(this) || !m_commands.CreateIn(this, TheHostUi().CommandListener()))
@@ -141,7 +141,7 @@ BOOL MainFrame::PreTranslateMessage(MSG* message) {
 
 LRESULT MainFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_CLOSE:  // the window goes after the modules did; see launch
+    case WM_CLOSE:  // the window is destroyed after the modules; see launch
       ::PostQuitMessage(0);
       return 0;
     case WM_INITMENUPOPUP: {

@@ -1,5 +1,5 @@
-// The frame of the development host: menu, command line, status bar, dock bars and the MDI area. It
-// carries out menu commands by calling the host core; drawings' windows are drawing_child's.
+// The frame window: menu, command line, status bar, dock bars and the MDI client. Menu commands
+// call the host core; drawing windows are DrawingChild objects.
 #pragma once
 
 #include "afxext.h"
@@ -30,10 +30,10 @@ class MainFrame : public CMDIFrameWnd {
 
   CommandBar m_commands;
   StatusBar m_status;
-  HMENU m_windowMenu = nullptr;  // part of the menu bar, which the window owns
-  HACCEL m_keys = nullptr;       // given back in the destructor
+  HMENU m_windowMenu = nullptr;  // part of the menu bar, owned by the window
+  HACCEL m_keys = nullptr;       // destroyed in the destructor
 };
 
-MainFrame* TheFrame();  // null before creation and after the window went
+MainFrame* TheFrame();  // null before creation and after destruction
 
 }  // namespace devhost

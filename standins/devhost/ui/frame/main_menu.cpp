@@ -1,11 +1,11 @@
-// The tables behind the menu bar; see the header.
+// Tables of the menu bar; see the header.
 #include "devhost/ui/frame/main_menu.h"
 
 namespace devhost {
 namespace {
 
 struct Row {
-  UINT id;  // 0: a line
+  UINT id;  // 0: a separator
   const wchar_t* label;
 };
 

@@ -1,5 +1,4 @@
-// The menu bar and the keys of the development host: the few things that any drawing program
-// offers.
+// The menu bar and the accelerator keys.
 #pragma once
 
 #include "ground/plain_types.h"
@@ -21,12 +20,12 @@ enum MenuCommand : UINT {
 };
 
 struct MainMenu {
-  HMENU bar;         // the window that it is set on destroys it
-  HMENU windowMenu;  // a part of the bar, where the MDI area lists its children
+  HMENU bar;         // destroyed by its window
+  HMENU windowMenu;  // part of the bar; the MDI client lists its children there
 };
 
 MainMenu MakeMainMenu();
 HACCEL MakeMainKeys();                              // destroy with DestroyAcceleratorTable
-void EnableMainMenu(HMENU menu, bool drawingOpen);  // greys what needs a drawing
+void EnableMainMenu(HMENU menu, bool drawingOpen);  // disables commands that need a drawing
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// The published calls that answer with the host's windows or go between pixels and world points.
+// Published functions that return windows of the host or convert between pixels and world points.
 #include "rxmfcapi.h"
 
 #include "devhost/core/host/host.h"
@@ -12,7 +12,7 @@ using devhost::TheHostUi;
 
 namespace {
 
-constexpr int kViewport = 2;  // number of the one model space viewport
+constexpr int kViewport = 2;  // number of the model space viewport
 
 devhost::DrawingView* View() {
   DrawingChild* child = TheHostUi().ActiveChild();
@@ -44,7 +44,7 @@ namespace {
 
 devhost::Document* Current() { return devhost::TheHost().documents.Current(); }
 
-// The number that CVPORT has: 1 in paper space, else that of the model space viewport.
+// The value of CVPORT: 1 in paper space, otherwise the model space viewport.
 int CurrentViewport() {
   std::wstring tile, port;
   devhost::TheHost().variables.Get(L"TILEMODE", &tile);

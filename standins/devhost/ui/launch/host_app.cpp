@@ -9,13 +9,13 @@ namespace devhost {
 
 BOOL HostApp::InitInstance() {
   ThePump().SetPreTranslate([this](MSG* message) { return PreTranslateMessage(message) != FALSE; });
-  ThePump().SetIdleWork([this] { return IdleTurn(); });
+  ThePump().SetIdleWork([this] { return RunIdle(); });
   return TRUE;
 }
 
-// First the class library's own idle work, which lays out bars that were shown late; then one piece
-// of what the host core has waiting.
-bool HostApp::IdleTurn() {
+// Idle work of the class library, which lays out bars shown with delay; then one item of the core's
+// queue.
+bool HostApp::RunIdle() {
   const bool more = OnIdle(m_idleCount++) != FALSE;
   if (TheHostUi().RunWaiting()) {
     m_idleCount = 0;
@@ -33,7 +33,7 @@ int HostApp::Run() {
   return static_cast<int>(quit.wParam);
 }
 
-BOOL HostApp::PumpMessage() { return ThePump().TakeOne(); }
+BOOL HostApp::PumpMessage() { return ThePump().PumpOne(); }
 
 int HostApp::DoMessageBox(LPCTSTR text, UINT flags, UINT helpId) {
   DialogWatch::MessageBoxScope scope;

@@ -1,5 +1,5 @@
-// The application object of the development host: its pump is MessagePump, its message boxes are
-// kept in the journal, its idle work runs what waits in the host core.
+// The application object: uses MessagePump, records message boxes in the journal, runs waiting
+// input at idle time.
 #pragma once
 
 #include "afxwin.h"
@@ -17,7 +17,7 @@ class HostApp : public CWinApp {
   int DoMessageBox(LPCTSTR text, UINT flags, UINT helpId) override;
 
  private:
-  bool IdleTurn();
+  bool RunIdle();
   DialogWatch m_dialogs;
   LONG m_idleCount = 0;
 };

@@ -1,4 +1,4 @@
-// See the header. Before release 21 there were point releases between the years.
+// Titles by release; see the header. Before release 21 some years have two releases.
 #include "devhost/ui/launch/host_title.h"
 
 namespace devhost {

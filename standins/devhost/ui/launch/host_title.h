@@ -1,4 +1,4 @@
-// The title of the frame for a release number: the year under which that release was known.
+// The title of the frame: the year of a release number.
 #pragma once
 
 #include <string>

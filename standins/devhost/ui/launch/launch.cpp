@@ -22,8 +22,8 @@
 #include "devhost/ui/launch/host_title.h"
 #include "devhost/ui/launch/restart.h"
 #include "devhost/ui/messages/start_watch.h"
+#include "devhost/ui/modules/autoload_modules.h"
 #include "devhost/ui/modules/module_loader.h"
-#include "devhost/ui/modules/remembered_modules.h"
 #include "devhost/ui/modules/right_click_menu.h"
 #include "devhost/ui/palette/palette_store.h"
 #include "devhost/ui/port/ui_port_impl.h"
@@ -51,7 +51,7 @@ HostOptions OptionsForCore(const LaunchOptions& options) {
 
 namespace {
 
-// What a profile keeps of its own in the user's registry.
+// Each profile has its own key for palettes.
 std::wstring PaletteKeyOf(const std::wstring& profile) {
   std::wstring key = acdbHostApplicationServices()->getMachineRegistryProductRootKey();
   if (!profile.empty()) key += L"\\Profiles\\" + profile;
@@ -62,7 +62,7 @@ bool Exists(const std::wstring& path) {
   return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-// The stream that the journal is written to, closed at the end unless it is standard output.
+// The journal's stream, closed at the end unless it is standard output.
 class JournalFile {
  public:
   bool Open(const std::wstring& name, bool goesOn) {
@@ -91,21 +91,21 @@ void OpenDrawings(const std::vector<std::wstring>& names) {
 }
 
 void LoadModules(const LaunchOptions& options) {
-  TheHost().modules.OnLoadedForGood(RememberModule);
+  TheHost().modules.OnPersistentLoad(AddAutoloadModule);
   std::vector<std::wstring> modules = options.modules;
   const std::wstring product = ProgramFolder() + L"\\" + kProductModule;
   if (modules.empty() && Exists(product)) modules.push_back(product);
   for (const std::wstring& module : modules)
     TheHost().modules.loadModule(module.c_str(), true, false);
-  for (const std::wstring& module : RememberedModules())
+  for (const std::wstring& module : AutoloadModules())
     TheHost().modules.loadModule(module.c_str(), true, false);
 }
 
-// The driver's thread may stand in a call to the main thread, which therefore answers messages
-// until that thread has ended.
-void EndDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
+// The driver's thread may be inside a call to the main thread, so messages are processed until it
+// has ended.
+void StopDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
   if (!driver) return;
-  port.Refuse();
+  port.RejectCalls();
   const DWORD mainThread = ::GetCurrentThreadId();
   std::atomic<bool> ended = false;
   std::thread waiting([&] {
@@ -123,26 +123,26 @@ void EndDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
 
 int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDriver> driver,
              bool* again) {
-  auto* frame = new MainFrame;  // deletes itself with its window
+  auto* frame = new MainFrame;  // deleted with its window
   app.m_pMainWnd = frame;
   if (!frame->CreateAndShow(HostTitle(options.hostVersion))) return 3;
   int exitCode = 0;
   {
-    // A module may show a box while it is loaded, which a script can answer.
+    // Started before modules are loaded: a script can answer message boxes of a module's start.
     UiPortImpl port;
     if (driver) driver->Start(port);
     OpenDrawings(options.drawings);
     LoadModules(options);
     exitCode = app.Run();
     *again = driver && driver->WantsRestart();
-    EndDriver(port, std::move(driver));
+    StopDriver(port, std::move(driver));
   }
   TheHost().End();
   if (TheFrame()) TheFrame()->DestroyWindow();
   return exitCode;
 }
 
-// Screen readers in other processes reach a module's windows only in a program that has COM up.
+// Screen readers in other processes need COM to reach the windows of a module.
 class OleScope {
  public:
   OleScope() : m_up(SUCCEEDED(::OleInitialize(nullptr))) {}
@@ -156,10 +156,10 @@ class OleScope {
   bool m_up;
 };
 
-// One start of the program. `again`: it ended only to be started once more.
+// Runs the program once. `again` is set if it is to be restarted.
 int RunOnce(const LaunchOptions& options, bool* again) {
   JournalFile journal;
-  if (!journal.Open(options.journal, RestartsBefore() > 0)) {
+  if (!journal.Open(options.journal, RestartCount() > 0)) {
     std::fprintf(stderr, "devhost: the journal %s can't be written\n",
                  Utf8(options.journal).c_str());
     return 2;
@@ -167,7 +167,7 @@ int RunOnce(const LaunchOptions& options, bool* again) {
   std::unique_ptr<PlayDriver> driver;
   if (!options.script.empty()) {
     driver = std::make_unique<PlayDriver>();
-    if (!driver->Load({options.script, RestartsBefore(), options.longestWait})) return 2;
+    if (!driver->Load({options.script, RestartCount(), options.longestWait})) return 2;
   }
   const OleScope ole;
   HostApp app(L"DevHost");
@@ -191,11 +191,11 @@ int RunOnce(const LaunchOptions& options, bool* again) {
 
 }  // namespace
 
-// What the first start left behind must be on its way to disk and registry before the next begins.
+// Restarts only after everything is released, so that files and registry are written.
 int RunDevelopmentHost(const LaunchOptions& options) {
   bool again = false;
   const int exitCode = RunOnce(options, &again);
-  return again && exitCode == 0 ? StartAgain() : exitCode;
+  return again && exitCode == 0 ? RestartProgram() : exitCode;
 }
 
 }  // namespace devhost

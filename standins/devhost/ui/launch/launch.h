@@ -1,5 +1,5 @@
-// The life of the development host from the options to the exit code: frame, drawings, modules, the
-// message loop, and everything down again in the opposite order.
+// Runs the development host: creates frame, drawings and modules, runs the message loop, destroys
+// everything in reverse order.
 #pragma once
 
 #include "devhost/core/host/host.h"
@@ -7,7 +7,7 @@
 
 namespace devhost {
 
-std::wstring ProgramFolder();  // of the development host, without a last backslash
+std::wstring ProgramFolder();  // without trailing backslash
 HostOptions OptionsForCore(const LaunchOptions& options);
 extern const wchar_t kProductModule[];
 

@@ -1,5 +1,4 @@
-// Reads the command line with a table of the options that take a value. An option's value is the
-// next word or stands behind "=".
+// Parses the command line. An option's value is the next word or follows "=".
 #include "devhost/ui/launch/launch_options.h"
 
 #include <cmath>
@@ -13,7 +12,8 @@ bool TakeVersion(const std::wstring& text, double* out) {
   const double value = std::wcstod(text.c_str(), &end);
   const double tenths = value * 10;
   if (end == text.c_str() || *end != 0 || !(value >= 15.0 && value < 100.0)) return false;
-  if (std::fabs(tenths - std::round(tenths)) > 1e-6) return false;  // releases count in tenths
+  // release numbers have one decimal
+  if (std::fabs(tenths - std::round(tenths)) > 1e-6) return false;
   *out = value;
   return true;
 }

@@ -1,4 +1,4 @@
-// The next process of a play that restarts the program.
+// Restarting the program; see the header.
 #include "devhost/ui/launch/restart.h"
 
 #include <windows.h>
@@ -30,7 +30,7 @@ class Process {
     return ::CreateProcessW(program, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                             &start, &m_info) != FALSE;
   }
-  int Await() {
+  int Wait() {
     DWORD exitCode = 1;
     ::WaitForSingleObject(m_info.hProcess, INFINITE);
     ::GetExitCodeProcess(m_info.hProcess, &exitCode);
@@ -43,17 +43,17 @@ class Process {
 
 }  // namespace
 
-int RestartsBefore() {
+int RestartCount() {
   wchar_t text[16] = L"";
   const DWORD length = ::GetEnvironmentVariableW(kRestarts, text, 16);
   return length > 0 && length < 16 ? static_cast<int>(std::wcstol(text, nullptr, 10)) : 0;
 }
 
-int StartAgain() {
-  ::SetEnvironmentVariableW(kRestarts, std::to_wstring(RestartsBefore() + 1).c_str());
+int RestartProgram() {
+  ::SetEnvironmentVariableW(kRestarts, std::to_wstring(RestartCount() + 1).c_str());
   std::fflush(nullptr);
   Process next;
-  if (next.Start()) return next.Await();
+  if (next.Start()) return next.Wait();
   std::fprintf(stderr, "devhost: can't be started again, error %lu\n", ::GetLastError());
   return 1;
 }

@@ -1,5 +1,5 @@
-// A hook on window activation, see the header. A dialog counts when it first becomes active: by
-// then it has its final title.
+// Recording dialogs by a CBT hook; see the header. A dialog is recorded when it is first activated,
+// because then it has its final title.
 #include "devhost/ui/messages/dialog_watch.h"
 
 #include <algorithm>
@@ -24,8 +24,8 @@ bool IsDialog(HWND window) {
   return ClassOf(window) == L"#32770" && !(::GetWindowLongW(window, GWL_STYLE) & WS_CHILD);
 }
 
-// Of a dialog or of the pop-up of a menu.
-bool HasLoop(HWND window) { return ClassOf(window) == L"#32768" || IsDialog(window); }
+// Whether it is a dialog or a pop-up menu.
+bool RunsMessageLoop(HWND window) { return ClassOf(window) == L"#32768" || IsDialog(window); }
 
 }  // namespace
 
@@ -55,17 +55,17 @@ LRESULT CALLBACK DialogWatch::OnEvent(int code, WPARAM wParam, LPARAM lParam) {
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-// The loops of dialogs and menus tell the owner when they have nothing left to do.
+// Message loops of dialogs and menus send WM_ENTERIDLE when their queue is empty.
 LRESULT CALLBACK DialogWatch::OnSent(int code, WPARAM wParam, LPARAM lParam) {
   if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lParam)->message == WM_ENTERIDLE)
-    ThePump().MarkQuiet();
+    ThePump().MarkIdle();
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-// A look at every message that is sent costs the window server three requests each, so that it is
-// taken only as long as there is a loop that may wait.
+// A WH_CALLWNDPROC hook costs three server requests for each sent message, so it is installed only
+// while such a loop exists.
 void DialogWatch::Created(HWND window) {
-  if (!HasLoop(window)) return;
+  if (!RunsMessageLoop(window)) return;
   m_loops.push_back(window);
   if (!m_sent)
     m_sent =
@@ -76,14 +76,14 @@ void DialogWatch::Activated(HWND window) {
   if (!IsDialog(window) || std::find(m_known.begin(), m_known.end(), window) != m_known.end())
     return;
   m_known.push_back(window);
-  ThePump().MarkQuiet();  // a message box is made not to tell when it waits
+  ThePump().MarkIdle();  // message boxes send no WM_ENTERIDLE
   if (m_messageBoxes > 0) return;
   wchar_t title[256] = L"";
   ::GetWindowTextW(window, title, 256);
   TheJournal().Record("dialog", {{"title", Utf8(title)}});
 }
 
-// What called for the dialog goes on now.
+// The caller of the dialog continues now.
 void DialogWatch::Destroyed(HWND window) {
   if (std::erase(m_known, window) > 0) ThePump().MarkBusy();
   if (std::erase(m_loops, window) > 0 && m_loops.empty())

@@ -1,6 +1,6 @@
-// Dialogs that open on the main thread go into the journal, whoever opens them, and the pump hears
-// when one of them, or a menu, has begun to wait. Message boxes of the class library are recorded
-// by the application object, with their answer, and are not dialogs here.
+// Records dialogs of the main thread in the journal and marks the pump idle when a dialog or menu
+// waits for input. Message boxes of the class library are recorded by the application object with
+// their answers, not here.
 #pragma once
 
 #include <vector>
@@ -16,7 +16,7 @@ class DialogWatch {
   DialogWatch(const DialogWatch&) = delete;
   DialogWatch& operator=(const DialogWatch&) = delete;
 
-  // While one lives, the next dialog that appears is a message box and not recorded.
+  // During its lifetime the next dialog is a message box and not recorded.
   class MessageBoxScope {
    public:
     MessageBoxScope();
@@ -31,9 +31,9 @@ class DialogWatch {
   void Destroyed(HWND window);
 
   HHOOK m_events;
-  HHOOK m_sent = nullptr;     // only while m_loops has any
-  std::vector<HWND> m_loops;  // dialogs and pop-ups of menus
-  std::vector<HWND> m_known;  // dialogs that were active
+  HHOOK m_sent = nullptr;     // installed only while m_loops is not empty
+  std::vector<HWND> m_loops;  // dialogs and pop-up menus
+  std::vector<HWND> m_known;  // dialogs that have been active
   int m_messageBoxes = 0;
 };
 

@@ -1,4 +1,4 @@
-// A hidden window whose only message carries a function; see the header.
+// A message-only window that runs functions; see the header.
 #include "devhost/ui/messages/main_thread.h"
 
 namespace devhost {
@@ -27,9 +27,9 @@ MainThread::~MainThread() {
 LRESULT CALLBACK MainThread::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message != kRun) return ::DefWindowProcW(window, message, wParam, lParam);
   const auto* self = reinterpret_cast<const MainThread*>(wParam);
-  if (self->m_refusing) return 0;
+  if (self->m_rejecting) return 0;
   (*reinterpret_cast<const std::function<void()>*>(lParam))();
-  // A sent message does not wake the pump, and the work may have left it something to do.
+  // Sent messages do not wake the pump; the work may have created idle work.
   ::PostMessageW(window, WM_NULL, 0, 0);
   return kRun;
 }

@@ -1,5 +1,5 @@
-// Runs work of another thread on the main thread. It arrives as a sent message, which every loop
-// that waits for messages answers: the pump, a menu that is up, a dialog, a drag.
+// Runs functions of other threads on the main thread. They arrive as sent messages, which every
+// message loop processes: the pump, menus, dialogs, drags.
 #pragma once
 
 #include <functional>
@@ -10,13 +10,14 @@ namespace devhost {
 
 class MainThread {
  public:
-  MainThread();  // made on the main thread, whose windows it speaks for
+  MainThread();  // construct on the main thread
   ~MainThread();
   MainThread(const MainThread&) = delete;
   MainThread& operator=(const MainThread&) = delete;
 
-  bool Run(const std::function<void()>& work);  // false when the main thread is going down
-  void Refuse() { m_refusing = true; }  // from now on Run answers false without doing anything
+  // false if calls are rejected or the window is destroyed
+  bool Run(const std::function<void()>& work);
+  void RejectCalls() { m_rejecting = true; }  // from now on Run returns false without calling
   DWORD Id() const { return m_id; }
 
  private:
@@ -24,7 +25,7 @@ class MainThread {
 
   HWND m_window;
   DWORD m_id;
-  bool m_refusing = false;  // read and written on the main thread
+  bool m_rejecting = false;  // read and written on the main thread
 };
 
 }  // namespace devhost

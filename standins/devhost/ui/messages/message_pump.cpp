@@ -1,4 +1,4 @@
-// The pump itself and the two calls by which modules add and remove filters.
+// The message pump and the published functions for message filters.
 #include "devhost/ui/messages/message_pump.h"
 
 #include <algorithm>
@@ -27,15 +27,15 @@ bool MessagePump::RemoveFilter(Filter filter) {
   return true;
 }
 
-// A filter may remove itself or others while it runs, so each step looks at the list anew.
-bool MessagePump::Swallowed(MSG* message) {
+// Filters may remove themselves and others while they run.
+bool MessagePump::IsFiltered(MSG* message) {
   for (size_t left = m_filters.size(); left > 0; left = std::min(left - 1, m_filters.size()))
     if (m_filters[left - 1](message)) return true;
   return false;
 }
 
 void MessagePump::Process(MSG* message) {
-  if (Swallowed(message)) return;
+  if (IsFiltered(message)) return;
   if (m_preTranslate && m_preTranslate(message)) return;
   if (message->message == WM_TIMER)
     TheStartTrace().Step("WM_TIMER", std::to_string(message->wParam));
@@ -45,13 +45,13 @@ void MessagePump::Process(MSG* message) {
 
 bool MessagePump::CountsAsWork(const MSG& message) const {
   return message.message != WM_TIMER && message.message != WM_PAINT &&
-         message.message != 0x118 /* the blinking caret */ && message.message != WM_NULL;
+         message.message != 0x118 /* WM_SYSTIMER: the caret blinks */ && message.message != WM_NULL;
 }
 
-void MessagePump::MarkQuiet() {
-  m_quiet = true;
-  TheStartTrace().Quiet();
-  if (m_whenQuiet) m_whenQuiet();
+void MessagePump::MarkIdle() {
+  m_idle = true;
+  TheStartTrace().MarkIdle();
+  if (m_idleCallback) m_idleCallback();
 }
 
 void MessagePump::RunIdle() {
@@ -59,22 +59,22 @@ void MessagePump::RunIdle() {
   while (m_idleDue && !::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
     if (m_idleWork && m_idleWork()) continue;
     m_idleDue = false;
-    MarkQuiet();
+    MarkIdle();
   }
 }
 
 bool MessagePump::RunOnce() {
   RunIdle();
-  return TakeOne();
+  return PumpOne();
 }
 
-bool MessagePump::TakeOne() {
+bool MessagePump::PumpOne() {
   MSG message{};
   if (::GetMessageW(&message, nullptr, 0, 0) <= 0) {
     ::PostQuitMessage(static_cast<int>(message.wParam));
     return false;
   }
-  if (CountsAsWork(message)) m_quiet = false;
+  if (CountsAsWork(message)) m_idle = false;
   m_idleDue = true;
   Process(&message);
   return true;

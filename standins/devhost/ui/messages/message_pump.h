@@ -1,6 +1,6 @@
-// The main thread's message pump. Every message goes first through the filters that modules
-// registered, then through the class library's PreTranslateMessage walk, then to its window. When
-// nothing waits, idle work runs. The main loop and a command that waits for input share it.
+// The main thread's message pump. A message passes the filters of modules, then PreTranslateMessage
+// of the class library, then it is dispatched. Without messages, idle work runs. Used by the main
+// loop and by commands that wait for input.
 #pragma once
 
 #include <functional>
@@ -14,39 +14,39 @@ class MessagePump {
  public:
   using Filter = BOOL (*)(MSG*);
 
-  bool AddFilter(Filter filter);     // false: it is there already
-  bool RemoveFilter(Filter filter);  // false: it is not there
+  bool AddFilter(Filter filter);     // false: already added
+  bool RemoveFilter(Filter filter);  // false: not found
 
-  // Work for the time when no message waits; true when it did something and wants another turn.
+  // Work to do when no message waits; returns true if it did something and is to be called again.
   void SetIdleWork(std::function<bool()> work) { m_idleWork = std::move(work); }
-  // How a message that no filter took goes on: true when it needs no dispatch.
+  // Called for messages that no filter took; returns true if the message needs no dispatch.
   void SetPreTranslate(std::function<bool(MSG*)> step) { m_preTranslate = std::move(step); }
 
-  // One message, after idle work if none waits. False when WM_QUIT came; it is then posted again,
-  // so that every loop further out ends too.
+  // Processes one message, after idle work if none waits. False after WM_QUIT, which is posted
+  // again so that outer loops end too.
   bool RunOnce();
-  bool TakeOne();  // the same without the idle work, for the modal loops of the class library
+  bool PumpOne();  // without idle work, for modal loops of the class library
 
-  // Everything a modal loop does with a message, given one that was taken from the queue.
+  // Processes a message that was taken from the queue.
   void Process(MSG* message);
 
-  // True when the last idle work found nothing to do and only clocks and paints came since. A
-  // dialog or a menu that waits for the user makes it quiet too: its own loop says so (MarkQuiet).
-  bool IsQuiet() const { return m_quiet; }
-  void MarkQuiet();
-  void MarkBusy() { m_quiet = false; }
-  void SetWhenQuiet(std::function<void()> tell) { m_whenQuiet = std::move(tell); }
+  // True if the last idle work had nothing to do and only timers and paints arrived since. Modal
+  // loops of dialogs and menus call MarkIdle when they wait.
+  bool IsIdle() const { return m_idle; }
+  void MarkIdle();
+  void MarkBusy() { m_idle = false; }
+  void SetIdleCallback(std::function<void()> callback) { m_idleCallback = std::move(callback); }
 
  private:
-  bool Swallowed(MSG* message);
+  bool IsFiltered(MSG* message);
   bool CountsAsWork(const MSG& message) const;
   void RunIdle();
 
-  std::vector<Filter> m_filters;  // the newest last; asked from the back
+  std::vector<Filter> m_filters;  // in order of registration; called from the last
   std::function<bool()> m_idleWork;
   std::function<bool(MSG*)> m_preTranslate;
-  std::function<void()> m_whenQuiet;
-  bool m_quiet = false;
+  std::function<void()> m_idleCallback;
+  bool m_idle = false;
   bool m_idleDue = true;
 };
 

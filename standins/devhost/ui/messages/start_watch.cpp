@@ -1,4 +1,4 @@
-// Hooks on the main thread; see the header.
+// Hooks on the main thread for the trace of a start; see the header.
 #include "devhost/ui/messages/start_watch.h"
 
 #include <cstdio>
@@ -30,7 +30,7 @@ StartWatch::~StartWatch() {
 }
 
 LRESULT CALLBACK StartWatch::OnEvent(int code, WPARAM wParam, LPARAM lParam) {
-  if (code == HCBT_CREATEWND && TheStartTrace().Runs()) {
+  if (code == HCBT_CREATEWND && TheStartTrace().IsRunning()) {
     wchar_t name[64] = L"";
     ::GetClassNameW(reinterpret_cast<HWND>(wParam), name, 64);
     TheStartTrace().Step("window made", Utf8(name));
@@ -38,14 +38,14 @@ LRESULT CALLBACK StartWatch::OnEvent(int code, WPARAM wParam, LPARAM lParam) {
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-// Docking moves and hides a palette several times before it stands; that it and all windows around
-// it are visible counts.
+// Docking moves and hides a palette several times; it counts as shown when it and all its parents
+// are visible.
 LRESULT CALLBACK StartWatch::OnReturn(int code, WPARAM wParam, LPARAM lParam) {
   const auto* sent = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-  if (code == HC_ACTION && TheStartTrace().Runs() && !TheStartTrace().Shown() &&
+  if (code == HC_ACTION && TheStartTrace().IsRunning() && !TheStartTrace().IsPaletteShown() &&
       sent->message == WM_WINDOWPOSCHANGED && ::IsWindowVisible(sent->hwnd) &&
       IsPalette(sent->hwnd))
-    TheStartTrace().PaletteShown();
+    TheStartTrace().MarkPaletteShown();
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 

@@ -1,5 +1,5 @@
-// The windows' share of the trace of the start: which windows are made, and when the palette of the
-// module first stands on the screen. Arms the trace; what was traced is written at the end.
+// Adds window events to the trace of a start: window creations, and when the module's palette
+// becomes visible. Arms the trace and writes it at the end.
 #pragma once
 
 #include <string>

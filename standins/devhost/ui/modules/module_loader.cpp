@@ -1,4 +1,4 @@
-// See the header. A library without the entry point is no module and is unloaded at once.
+// Loading modules; see the header. A library without the entry point is unloaded at once.
 #include "devhost/ui/modules/module_loader.h"
 
 #include "devhost/ui/modules/shell_watch.h"
@@ -32,7 +32,7 @@ std::wstring Backslashed(std::wstring path) {
 }  // namespace
 
 std::unique_ptr<ModuleFile> ModuleLoader::Load(const std::wstring& path, std::wstring* why) {
-  // A module finds its own libraries beside itself, which takes a full path.
+  // With a full path, libraries beside the module are found.
   wchar_t full[1024] = L"";
   ::GetFullPathNameW(Backslashed(path).c_str(), 1024, full, nullptr);
   const HMODULE library = ::LoadLibraryExW(full, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);

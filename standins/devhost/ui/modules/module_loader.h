@@ -1,4 +1,4 @@
-// Loads modules with the system's loader, for the host core.
+// Loads modules with the system's loader.
 #pragma once
 
 #include "devhost/core/modules/module_file.h"

@@ -1,4 +1,4 @@
-// See the header.
+// Calling the module's context menu; see the header.
 #include "devhost/ui/modules/right_click_menu.h"
 
 #include "devhost/core/host/host.h"
@@ -22,7 +22,7 @@ ShowFn ModuleMenu() {
 void SetRightClickMenu(bool on) { g_on = on; }
 
 bool ShowModuleMenu(HWND view, POINT at, bool force) {
-  if (!g_on || TheHost().engine.CommandRuns()) return false;
+  if (!g_on || TheHost().engine.IsCommandRunning()) return false;
   const ShowFn show = ModuleMenu();
   if (!show) return false;
   ::ClientToScreen(view, &at);

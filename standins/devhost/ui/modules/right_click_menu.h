@@ -1,6 +1,6 @@
-// --right-click-menu: a right click in the view goes to the module's context menu, by the module's
-// diagnostic export QvxShowContextMenu, and not to the command line. Off unless asked for: in
-// earnest a module takes the click from the message loop itself.
+// --right-click-menu: a right click in the view calls the module's diagnostic export
+// QvxShowContextMenu instead of acting as Enter. Off by default, because a module normally takes
+// the click from the message loop.
 #pragma once
 
 #include "ground/plain_types.h"
@@ -8,9 +8,9 @@
 namespace devhost {
 
 void SetRightClickMenu(bool on);
-// The point is of the window; `force` asks for a menu also where the module would show none. False:
-// it is off, a command runs, no loaded module has the export, or the module showed no menu; the
-// click is the host's then.
+// `at` is in client coordinates; `force` shows a menu also where the module would show none. False
+// if the option is off, a command runs, no module has the export, or no menu was shown; then the
+// host handles the click.
 bool ShowModuleMenu(HWND view, POINT at, bool force);
 
 }  // namespace devhost

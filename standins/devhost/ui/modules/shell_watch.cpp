@@ -1,5 +1,4 @@
-// See the header. Only imports by name are found; a module that looks the function up itself is not
-// recorded.
+// Patching import tables; see the header. Functions that a module looks up itself are not recorded.
 #include "devhost/ui/modules/shell_watch.h"
 
 #include <shellapi.h>
@@ -12,7 +11,7 @@ namespace devhost {
 namespace {
 
 using HelpFn = HWND(WINAPI*)(HWND, LPCWSTR, UINT, DWORD_PTR);
-HelpFn g_help = nullptr;  // the help library's own function, taken from the first patched table
+HelpFn g_help = nullptr;  // the original function, from the first patched table
 
 std::string TextOf(LPCWSTR text) { return text ? Utf8(text) : std::string(); }
 

@@ -1,11 +1,11 @@
-// Calls by which modules start other programs or open help go into the journal: the module's import
-// table is pointed at recorders that pass each call on. The module itself is left as it is on disk.
+// Records calls of modules that start programs or open help: entries of the module's import table
+// are replaced by functions that record and pass on the call.
 #pragma once
 
 #include "ground/plain_types.h"
 
 namespace devhost {
 
-void WatchShellCalls(HMODULE module);  // harmless for a module that imports none of them
+void WatchShellCalls(HMODULE module);  // no effect on a module without such imports
 
 }  // namespace devhost

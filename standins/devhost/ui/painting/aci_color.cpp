@@ -1,5 +1,4 @@
-// Numbered colours: nine named ones, then 24 hues in five strengths, each full and half grey, then
-// six greys.
+// Indexed colours: nine named ones, 24 hues in five strengths with a pale variant each, six greys.
 #include "devhost/ui/painting/aci_color.h"
 
 #include <cmath>
@@ -13,7 +12,7 @@ constexpr COLORREF kNamed[] = {RGB(255, 0, 0),     RGB(255, 255, 0),   RGB(0, 25
 constexpr int kStrength[] = {255, 165, 127, 76, 38};
 constexpr int kGrey[] = {51, 91, 132, 173, 214, 255};
 
-// One channel of a hue in degrees, 0 to 1, when the channel's own hue is `centre`.
+// The level of a channel, 0 to 1, for a hue in degrees; `centre` is the hue of the channel.
 double Channel(double hue, double centre) {
   double away = std::fabs(hue - centre);
   if (away > 180) away = 360 - away;

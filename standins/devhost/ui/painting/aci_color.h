@@ -1,12 +1,11 @@
-// The numbered colours of drawings as colours of the screen, on a dark or a light ground. No
-// window.
+// Indexed colours of drawings as screen colours on a dark or light background.
 #pragma once
 
 #include "ground/plain_types.h"
 
 namespace devhost {
 
-// 1 to 255; any other number is shown like 7, which is the contrast to the ground.
+// 1 to 255; other numbers count as 7, the contrast to the background
 COLORREF ColorOfAci(int number, bool darkGround);
 
 }  // namespace devhost

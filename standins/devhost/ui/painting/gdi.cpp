@@ -1,4 +1,4 @@
-// Painting through memory, and the user's menu font; see the header.
+// Buffered painting, the menu font; see the header.
 #include "devhost/ui/painting/gdi.h"
 
 #include <algorithm>
@@ -23,8 +23,7 @@ PaintScope::~PaintScope() {
   ::EndPaint(m_window, &m_paint);
 }
 
-// A crosshair on a dark ground with an orange corner, drawn because a picture file would be larger
-// than these lines.
+// A crosshair on a dark background with an orange corner; drawing it is shorter than an icon file.
 HICON MakeProgramIcon(int size) {
   WindowDc screen(nullptr);
   const HDC memory = ::CreateCompatibleDC(screen);

@@ -1,5 +1,4 @@
-// Owners for the drawing handles of the host's windows: each gives back what it holds when it goes.
-// Thin on purpose; drawing itself is done with the plain Windows calls.
+// Owners of GDI handles for the host's windows. Drawing itself uses the Windows functions.
 #pragma once
 
 #include <utility>
@@ -33,9 +32,8 @@ using Pen = GdiObject<HPEN>;
 using Brush = GdiObject<HBRUSH>;
 using Font = GdiObject<HFONT>;
 using Bitmap = GdiObject<HBITMAP>;
-using Region = GdiObject<HRGN>;
 
-// Selects an object for as long as it lives.
+// Selects an object during its lifetime.
 class Selected {
  public:
   Selected(HDC dc, HGDIOBJ object) : m_dc(dc), m_before(::SelectObject(dc, object)) {}
@@ -62,7 +60,7 @@ class WindowDc {
   HDC m_dc;
 };
 
-// BeginPaint to EndPaint, drawn into memory first and copied whole, so that nothing flickers.
+// BeginPaint to EndPaint through a memory bitmap, to avoid flicker.
 class PaintScope {
  public:
   explicit PaintScope(HWND window);
@@ -81,9 +79,9 @@ class PaintScope {
   HGDIOBJ m_before;
 };
 
-HICON MakeProgramIcon(int size);   // the host's own mark; lives as long as the process
-Font MenuFont(bool bold = false);  // the font that the user chose for menus
+HICON MakeProgramIcon(int size);   // the host's icon; not destroyed
+Font MenuFont(bool bold = false);  // the user's menu font
 int PixelsPerInch();
-int Scaled(int pixelsAt96);  // for the dots per inch of the screen
+int Scaled(int pixelsAt96);  // scaled to the screen's resolution
 
 }  // namespace devhost

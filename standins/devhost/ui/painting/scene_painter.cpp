@@ -1,4 +1,4 @@
-// Drawing of shapes; see the header.
+// Painting shapes; see the header.
 #include "devhost/ui/painting/scene_painter.h"
 
 #include <algorithm>
@@ -9,9 +9,9 @@
 namespace devhost {
 namespace {
 
-constexpr double kCapHeight = 0.72;  // of a letter, as a part of the font's height
-constexpr int kSmallestText = 3;     // pixels; below it a text is a line
-constexpr int kLargestText = 3000;
+constexpr double kCapHeight = 0.72;  // height of capitals relative to the font height
+constexpr int kMinText = 3;          // pixels; smaller texts are painted as a line
+constexpr int kMaxText = 3000;
 constexpr COLORREF kHighlight = RGB(110, 170, 255);
 
 LOGFONTW MenuFace() {
@@ -64,7 +64,7 @@ void ScenePainter::PaintLine(const Shape& shape, bool highlighted) {
   if (!ToPixels(shape)) return;
   Selected pen(m_dc, PenFor(shape.color, shape.dashed, highlighted));
   ::Polyline(m_dc, m_points.data(), static_cast<int>(m_points.size()));
-  // The last pixel of a line is left out, and a line of no length would show nothing.
+  // Polyline omits the last pixel, and a line of length 0 entirely.
   const POINT last = m_points.back();
   ::SetPixelV(m_dc, last.x, last.y, ColorFor(shape.color, highlighted));
 }
@@ -84,7 +84,7 @@ void ScenePainter::PaintText(const Shape& shape, bool highlighted) {
   if (at.x + reach < 0 || at.y + reach < 0 || at.x - reach > m_client.right ||
       at.y - reach > m_client.bottom)
     return;
-  if (cap < kSmallestText) {
+  if (cap < kMinText) {
     const double length = cap * 0.8 * shape.text.size();
     Selected pen(m_dc, PenFor(shape.color, false, highlighted));
     ::MoveToEx(m_dc, at.x, at.y, nullptr);
@@ -93,7 +93,7 @@ void ScenePainter::PaintText(const Shape& shape, bool highlighted) {
     return;
   }
   const int pixels = static_cast<int>(std::lround(cap / kCapHeight));
-  if (pixels > kLargestText) return;
+  if (pixels > kMaxText) return;
   Selected font(m_dc, FontFor(pixels, shape.rotation, shape.widthFactor));
   ::SetTextColor(m_dc, ColorFor(shape.color, highlighted));
   ::SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);

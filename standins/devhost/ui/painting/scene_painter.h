@@ -1,5 +1,5 @@
-// Draws the core's shapes with Windows' drawing calls: lines, filled areas, text lines that turn.
-// Pens and fonts are made once for a picture and given back at its end.
+// Paints shapes with GDI: lines, filled areas, rotated texts. Pens and fonts are cached for one
+// picture.
 #pragma once
 
 #include <map>
@@ -22,7 +22,7 @@ class ScenePainter {
   void PaintLine(const Shape& shape, bool highlighted);
   void PaintArea(const Shape& shape, bool highlighted);
   void PaintText(const Shape& shape, bool highlighted);
-  bool ToPixels(const Shape& shape);  // into m_points; false: all outside
+  bool ToPixels(const Shape& shape);  // sets m_points; false: outside the window
   HPEN PenFor(int color, bool dashed, bool highlighted);
   HFONT FontFor(int pixels, double rotation, double widthFactor);
 

@@ -1,4 +1,4 @@
-// The host's dialog classes.
+// The published dialog classes.
 #include "acui.h"
 
 IMPLEMENT_DYNAMIC(CAdUiBaseDialog, CDialog)
@@ -7,7 +7,7 @@ IMPLEMENT_DYNAMIC(CAcUiDialog, CAdUiDialog)
 
 namespace {
 
-// The module's resources are current while its dialog is made and runs.
+// Makes the module's resources current while its dialog is created and runs.
 class ResourceScope {
  public:
   explicit ResourceScope(HINSTANCE module) : m_before(AfxGetResourceHandle()) {

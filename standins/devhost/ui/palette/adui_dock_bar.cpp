@@ -1,7 +1,5 @@
-// CAdUiDockControlBar: the palette's size and place. How it looks and feels under the mouse is in
-// adui_dock_caption.cpp.
-#include <algorithm>
-
+// CAdUiDockControlBar: size, place and stored state of a palette. Painting and mouse handling are
+// in adui_dock_caption.cpp.
 #include "adui.h"
 #include "devhost/ui/palette/palette_layout.h"
 #include "devhost/ui/palette/palette_store.h"
@@ -25,7 +23,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr SIZE kFirstSize{180, 160};  // of a palette that never was docked and was given no size
+constexpr SIZE kFirstSize{180, 160};  // of a palette without stored and given size
 
 bool IsHorizontalBar(UINT id) { return id == AFX_IDW_DOCKBAR_TOP || id == AFX_IDW_DOCKBAR_BOTTOM; }
 
@@ -68,7 +66,7 @@ void CAdUiDockControlBar::OnDestroy() {
   m_captionFont.DeleteObject();
 }
 
-// --- what is remembered
+// --- stored state
 
 void CAdUiDockControlBar::SetToolID(const CLSID* pToolId) {
   m_toolId = pToolId ? *pToolId : CLSID{};
@@ -125,7 +123,7 @@ void CAdUiDockControlBar::DockControlBar(UINT nDockBarID, const CRect* pRect) {
 }
 
 CSize CAdUiDockControlBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
-  (void)bStretch;  // it fills its row whatever it is asked for
+  (void)bStretch;  // a palette always fills its row
   return bHorz ? CSize(32767, m_docked.cy) : CSize(m_docked.cx, 32767);
 }
 
@@ -168,7 +166,7 @@ bool CAdUiDockControlBar::OnClosing() {
 
 BOOL CAdUiDockControlBar::OnCloseFloating() {
   OnClosing();
-  return FALSE;  // the bar has seen to it
+  return FALSE;  // handled by OnClosing
 }
 
 BOOL CAdUiDockControlBar::AddCustomMenuItems(LPARAM) { return TRUE; }

@@ -1,5 +1,5 @@
-// The caption strip of a docked palette: drawing it and the mouse on it. All of it, and hit testing
-// too, reads the parts of palette_layout.
+// The caption of a docked palette: painting and mouse handling, both by the parts of
+// palette_layout.
 #include "adui.h"
 #include "devhost/ui/palette/palette_layout.h"
 
@@ -83,7 +83,7 @@ void CAdUiDockControlBar::DrawCaption(CDC& dc, const PaletteParts& parts) const 
   DrawCross(dc, parts.close, text);
 }
 
-// The strip is drawn into memory and put on the window in one go.
+// Painted through a memory bitmap, to avoid flicker.
 void CAdUiDockControlBar::DoPaint(CDC* pDC) {
   const PaletteParts parts = Parts();
   const CRect strip(parts.caption);
@@ -104,7 +104,7 @@ void CAdUiDockControlBar::DoPaint(CDC* pDC) {
   PaintControlBar(pDC);
 }
 
-// Strip and line are painted over whole; erasing them first would flicker.
+// Caption and border line are painted completely; erasing them would flicker.
 BOOL CAdUiDockControlBar::OnEraseBkgnd(CDC* pDC) {
   const PaletteParts parts = Parts();
   pDC->FillSolidRect(&parts.used, ::GetSysColor(COLOR_BTNFACE));

@@ -1,4 +1,4 @@
-// CAdUiPaletteSet: rolling up and the palette's own menu.
+// CAdUiPaletteSet: rolling up, and the palette's menu.
 #include "adui.h"
 #include "devhost/ui/palette/palette_layout.h"
 
@@ -12,10 +12,9 @@ END_MESSAGE_MAP()
 
 namespace {
 
-// Identifiers of palettes: above the frame's own bars, below the end of the control bar range.
+// Identifiers of palettes, after those of the frame's own bars, within the range of control bars.
 constexpr UINT kFirstPaletteId = 0xE880, kLastPaletteId = 0xE8FE;
-// A palette handles WM_TIMER itself, so the watch's timer calls back instead of coming as a
-// message.
+// A timer with a callback, because derived palettes handle WM_TIMER themselves.
 constexpr UINT_PTR kWatchTimer = 0x7A10;
 enum MenuRow : UINT { kRowFloat = 1, kRowRollUp, kRowClose };
 
@@ -107,7 +106,7 @@ void CALLBACK CAdUiPaletteSet::WatchPointer(HWND window, UINT, UINT_PTR, DWORD) 
 
 void CAdUiPaletteSet::Watch() {
   CMiniDockFrameWnd* frame = FloatingFrame();
-  if (!frame) m_rolledUp = FALSE;  // docked again: there is nothing to roll
+  if (!frame) m_rolledUp = FALSE;  // docked palettes do not roll up
   if (!frame || !frame->IsWindowVisible()) {
     m_ticksOutside = 0;
     return;

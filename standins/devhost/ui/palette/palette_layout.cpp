@@ -1,4 +1,4 @@
-// The parts of a palette; see the header.
+// Layout of palettes; see the header.
 #include "devhost/ui/palette/palette_layout.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace {
 constexpr DWORD kBorderLeft = 0x0100, kBorderTop = 0x0200, kBorderRight = 0x0400,
                 kBorderBottom = 0x0800;
 constexpr int kGripperWidth = 9;
-constexpr int kLeastTitle = 12;  // narrower than this the close box is kept and the title goes
+constexpr int kMinTitle = 12;  // if narrower, the title is omitted and the close box kept
 
 bool Holds(const RECT& rect, POINT point) {
   return point.x >= rect.left && point.x < rect.right && point.y >= rect.top &&
@@ -54,7 +54,7 @@ PaletteParts LayOutPalette(SIZE client, bool floating, int captionHeight, DWORD 
     parts.gripper = {rest.left, rest.top, rest.left + kGripperWidth, rest.bottom};
     rest.left = parts.gripper.right;
   }
-  if (rest.right - rest.left >= kLeastTitle) parts.title = rest;
+  if (rest.right - rest.left >= kMinTitle) parts.title = rest;
   return parts;
 }
 
@@ -74,5 +74,5 @@ RollStep NextRollStep(bool rolledUp, bool pointerInside, bool held, int* ticksOu
     return rolledUp ? RollStep::kRollOut : RollStep::kStay;
   }
   if (rolledUp) return RollStep::kStay;
-  return ++*ticksOutside >= kRollPatience ? RollStep::kRollUp : RollStep::kStay;
+  return ++*ticksOutside >= kRollDelayTicks ? RollStep::kRollUp : RollStep::kStay;
 }

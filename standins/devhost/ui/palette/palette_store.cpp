@@ -1,4 +1,4 @@
-// The palette store over the registry; see the header.
+// Palette states in the registry; see the header.
 #include "devhost/ui/palette/palette_store.h"
 
 #include <objbase.h>
@@ -77,7 +77,7 @@ PaletteState LoadPaletteState(const CLSID& tool) {
 
 void SavePaletteState(const CLSID& tool, const PaletteState& state) {
   const Key key(Make(KeyOf(tool)));
-  if (!key) return;  // nothing is remembered, and nobody is told
+  if (!key) return;  // the state is lost without a message
   key.Write(L"Floating", state.floating);
   key.Write(L"Left", state.frame.left);
   key.Write(L"Top", state.frame.top);

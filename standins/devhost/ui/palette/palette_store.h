@@ -1,5 +1,5 @@
-// What the host remembers about a palette between sessions, one registry key a tool identifier. The
-// side on which a palette is docked is not here: palettes give it themselves when they come up.
+// States of palettes between sessions, one registry key for each tool identifier. The side of
+// docking is not stored: palettes set it themselves at the start.
 #pragma once
 
 #include "afxwin.h"
@@ -7,14 +7,14 @@
 struct PaletteState {
   bool known = false;
   bool floating = false;
-  CRect frame;   // of the floating frame, on the screen
+  CRect frame;   // of the floating frame in screen coordinates
   CSize docked;  // size while docked
 };
 
 namespace devhost {
 
-// The key under HKEY_CURRENT_USER, "Software\DevHost\Palettes" until it is set; a host with
-// profiles sets one for each.
+// The key under HKEY_CURRENT_USER, initially "Software\DevHost\Palettes". A host with profiles sets
+// one for each.
 void SetPaletteStoreKey(const CString& key);
 const CString& PaletteStoreKey();
 

@@ -1,4 +1,4 @@
-// See the header.
+// Describing open menus; see the header.
 #include "devhost/ui/port/live_menus.h"
 
 #include <oleacc.h>
@@ -13,9 +13,9 @@
 namespace devhost {
 namespace {
 
-constexpr UINT kGetMenuHandle = 0x01E1;  // MN_GETHMENU, which not every header names
-constexpr int kDeepest = 40;             // menus inside menus
-constexpr DWORD kLongestLabel = 4096;
+constexpr UINT kGetMenuHandle = 0x01E1;  // MN_GETHMENU, missing in some headers
+constexpr int kMaxDepth = 40;            // nested menus
+constexpr DWORD kMaxLabel = 4096;
 
 struct OpenMenu {
   HWND window;
@@ -46,12 +46,11 @@ bool Copy(const void* from, T* to, SIZE_T count) {
          done == count * sizeof(T);
 }
 
-// The item data of a row may be anything: nothing is taken for granted before the signature.
+// Item data may be anything: its signature and size are checked, and reading cannot fault.
 std::wstring LabelInRecord(ULONG_PTR data) {
   MSAAMENUINFO record{};
   if (!data || !Copy(reinterpret_cast<const void*>(data), &record, 1) ||
-      record.dwMSAASignature != static_cast<DWORD>(MSAA_MENU_SIG) ||
-      record.cchWText > kLongestLabel)
+      record.dwMSAASignature != static_cast<DWORD>(MSAA_MENU_SIG) || record.cchWText > kMaxLabel)
     return {};
   std::wstring label(record.cchWText, L'\0');
   return label.empty() || Copy(record.pszWText, label.data(), label.size()) ? label
@@ -73,7 +72,7 @@ class MenuReader {
 
   Json Rows(HMENU menu, int depth) const {
     Json rows = Json::array();
-    const int count = depth < kDeepest ? ::GetMenuItemCount(menu) : 0;
+    const int count = depth < kMaxDepth ? ::GetMenuItemCount(menu) : 0;
     for (int i = 0; i < count; ++i) rows.push_back(Row(menu, static_cast<UINT>(i), depth));
     return rows;
   }
@@ -96,7 +95,7 @@ class MenuReader {
     return out;
   }
 
-  // A menu that is higher than the screen scrolls; its rows outside its window can't be pressed.
+  // Menus higher than the screen scroll; rows outside the window have no rectangle.
   Json RectOf(HMENU menu, UINT row) const {
     RECT rect{}, window{}, seen{};
     for (const OpenMenu& open : m_open)
@@ -110,7 +109,7 @@ class MenuReader {
 };
 
 bool IsInside(HMENU outer, HMENU wanted, int depth) {
-  for (int i = depth < kDeepest ? ::GetMenuItemCount(outer) - 1 : -1; i >= 0; --i) {
+  for (int i = depth < kMaxDepth ? ::GetMenuItemCount(outer) - 1 : -1; i >= 0; --i) {
     const HMENU sub = ::GetSubMenu(outer, i);
     if (sub && (sub == wanted || IsInside(sub, wanted, depth + 1))) return true;
   }

@@ -1,7 +1,6 @@
-// The native pop-up menus that are open now, as a screen reader sees them: from the menu windows to
-// their menus and rows. A row that its owner draws gives its label through the record in its item
-// data, which begins with the published MSAAMENUINFO. Called on the main thread, which answers also
-// while it stands in a menu's own loop.
+// Describes the open native pop-up menus, as a screen reader sees them: menu windows, menus, rows.
+// The label of an owner-drawn row is read from its item data, which begins with the published
+// MSAAMENUINFO. Called on the main thread, also inside a menu's loop.
 #pragma once
 
 #include "devhost/core/base/json.h"
@@ -9,10 +8,10 @@
 
 namespace devhost {
 
-// {"open","rows":[{"label","text","id","enabled","checked","separator","rect","rows"}]}. `label` is
-// the row's text as it was given; `text` is what a user reads of it, without mnemonic and without
-// what stands behind a tab. `rect` is null for what can't be seen, also for rows of a sub-menu that
-// is not open; `rows` is there for a row with a sub-menu. The outermost menu counts.
+// {"open","rows":[{"label","text","id","enabled","checked","separator","rect","rows"}]}, of the
+// outermost menu. `label` is the text of the row; `text` is the label without mnemonic and without
+// the part after a tab. `rect` is null for rows that are not visible, also those of closed
+// sub-menus; only rows with a sub-menu have `rows`.
 Json DescribeLiveMenus(DWORD thread);
 
 bool IsPopupMenuOpen(DWORD thread);

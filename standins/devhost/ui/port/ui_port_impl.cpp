@@ -1,4 +1,4 @@
-// The port of the play driver; see the header. Windows are answered here, all else by host_actions.
+// The play driver's interface to the windows; see the header. Host operations are in host_actions.
 #include "devhost/ui/port/ui_port_impl.h"
 
 #include "devhost/ui/bars/pane_place.h"
@@ -29,11 +29,11 @@ bool Waits(UINT kinds) { return HIWORD(::GetQueueStatus(kinds)) & kinds; }
 }  // namespace
 
 UiPortImpl::UiPortImpl() : m_ready(::CreateEventW(nullptr, TRUE, FALSE, nullptr)) {
-  ThePump().SetWhenQuiet([this] { ::SetEvent(m_ready); });
+  ThePump().SetIdleCallback([this] { ::SetEvent(m_ready); });
 }
 
 UiPortImpl::~UiPortImpl() {
-  ThePump().SetWhenQuiet(nullptr);
+  ThePump().SetIdleCallback(nullptr);
   ::CloseHandle(m_ready);
 }
 
@@ -42,13 +42,13 @@ bool UiPortImpl::OnMainThread(const std::function<void()>& work) {
   return m_thread.Run(work);
 }
 
-void UiPortImpl::Refuse() {
-  m_thread.Refuse();
+void UiPortImpl::RejectCalls() {
+  m_thread.RejectCalls();
   ::SetEvent(m_ready);
 }
 
 bool UiPortImpl::IsIdle() {
-  return ThePump().IsQuiet() && !TheHostUi().TextWaits() &&
+  return ThePump().IsIdle() && !TheHostUi().HasPendingInput() &&
          !Waits(QS_INPUT | QS_POSTMESSAGE | QS_PAINT);
 }
 
@@ -90,7 +90,7 @@ bool UiPortImpl::ButtonToScreen(const std::wstring& label, POINT* out) {
 }
 
 std::string UiPortImpl::PaneToScreen(const std::string& name, POINT* out) {
-  return PlaceOfPane(name, out);
+  return FindPanePoint(name, out);
 }
 
 bool UiPortImpl::OpenDrawing(const std::wstring& path) { return OpenDrawingFile(path); }
@@ -110,7 +110,7 @@ bool UiPortImpl::GetVariable(const std::wstring& name, std::wstring* value) {
   return GetVariableText(name, value);
 }
 
-// The kernel module is looked up by name: the host is not built against it.
+// Looked up by name: the host is not linked to the kernel module.
 bool UiPortImpl::SetSetting(const std::wstring& name, const std::wstring& value) {
   using SetFn = int (*)(const wchar_t*, const wchar_t*);
   const HMODULE kernel = ::GetModuleHandleW(L"qvx_kernal.arx");

@@ -1,5 +1,4 @@
-// The running user interface as the play driver sees it. Calls come on the main thread, carried
-// there by OnMainThread, which alone may be called from another.
+// Implements UiPort. Only OnMainThread may be called from other threads.
 #pragma once
 
 #include "devhost/play/ui_port.h"
@@ -9,13 +8,14 @@ namespace devhost {
 
 class UiPortImpl : public UiPort {
  public:
-  UiPortImpl();  // before the first drawing: a call waits until the program waits for input
+  // construct before the first drawing: calls block until the program waits for input
+  UiPortImpl();
   ~UiPortImpl() override;
   UiPortImpl(const UiPortImpl&) = delete;
   UiPortImpl& operator=(const UiPortImpl&) = delete;
 
   bool OnMainThread(const std::function<void()>& work) override;
-  void Refuse();  // the program ends: the driver is told so by each call
+  void RejectCalls();  // the program ends: calls return false from now on
 
   bool IsIdle() override;
   bool IsMenuOpen() override;
@@ -48,7 +48,7 @@ class UiPortImpl : public UiPort {
 
  private:
   MainThread m_thread;
-  HANDLE m_ready;  // an event: set when the main thread first waits for input, or refuses
+  HANDLE m_ready;  // set when the main thread first waits for input, or calls are rejected
 };
 
 }  // namespace devhost

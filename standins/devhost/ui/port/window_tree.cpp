@@ -1,4 +1,4 @@
-// See the header. Top-level windows come in the order in which they lie on the screen.
+// Describing windows; see the header. Top-level windows are in z-order.
 #include "devhost/ui/port/window_tree.h"
 
 #include <vector>
@@ -10,7 +10,7 @@ namespace {
 
 std::wstring TextOf(HWND window) {
   wchar_t text[512] = L"";
-  // WM_GETTEXT reaches controls too; GetWindowText would do for windows of this process alone.
+  // WM_GETTEXT also reads controls of other processes; GetWindowText does not.
   DWORD_PTR length = 0;
   ::SendMessageTimeoutW(window, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG,
                         500, &length);

@@ -1,5 +1,4 @@
-// Looking at the windows of the process from outside: the tree of all of them, and the button that
-// carries a label. For play scripts and their dumps.
+// The tree of all windows of a thread, and the button with a label. For play scripts and dumps.
 #pragma once
 
 #include <string>
@@ -12,10 +11,10 @@ namespace devhost {
 // {"class","text","id","visible","enabled","rect","children":[...]} for each top-level window.
 Json DescribeWindowsOf(DWORD thread);
 
-// The visible, enabled push button with this label; a mnemonic in the window's text does not count.
+// The visible and enabled push button with this label, ignoring mnemonics; null: none.
 HWND FindButton(DWORD thread, const std::wstring& label);
 
 std::wstring WithoutMnemonic(
-    const std::wstring& text);  // "确定(&O)" and "&OK" as a user reads them
+    const std::wstring& text);  // "确定(&O)" and "&OK" without the mnemonic.
 
 }  // namespace devhost

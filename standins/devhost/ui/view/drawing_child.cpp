@@ -15,14 +15,14 @@ bool DrawingChild::CreateIn(CMDIFrameWnd* frame, const std::wstring& title) {
               CRect(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0), frame))
     return false;
   if (!m_view.CreateIn(this)) return false;
-  // The icon comes first: the frame's menu bar takes it over at the moment of growing.
+  // Set before maximizing: the frame's menu bar copies the icon then.
   SetIcon(frame->GetIcon(FALSE), FALSE);
   if (!active || maximized)
     ::SendMessageW(frame->m_hWndMDIClient, WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(m_hWnd), 0);
   RECT client{};
   ::GetClientRect(m_hWnd, &client);
   ::MoveWindow(m_view.m_hWnd, 0, 0, client.right, client.bottom, TRUE);
-  // It was given the keyboard when it was made, before there was a view to hand it on to.
+  // The child got the focus when it was created, before the view existed.
   if (::GetFocus() == m_hWnd) ::SetFocus(m_view.m_hWnd);
   return true;
 }
@@ -32,20 +32,20 @@ void DrawingChild::Activate() {
   ::SendMessageW(client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(m_hWnd), 0);
 }
 
-void DrawingChild::DestroyForGood() {
+void DrawingChild::DestroyMdiWindow() {
   ::SendMessageW(::GetParent(m_hWnd), WM_MDIDESTROY, reinterpret_cast<WPARAM>(m_hWnd), 0);
 }
 
 LRESULT DrawingChild::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_CLOSE:
-      TheHostUi().UserCloses(*this);
+      TheHostUi().OnUserClose(*this);
       return 0;
     case WM_ERASEBKGND:
       return 1;
     case WM_MDIACTIVATE: {
       const LRESULT result = CMDIChildWnd::WindowProc(message, wParam, lParam);
-      if (reinterpret_cast<HWND>(lParam) == m_hWnd) TheHostUi().UserActivated(*this);
+      if (reinterpret_cast<HWND>(lParam) == m_hWnd) TheHostUi().OnUserActivate(*this);
       return result;
     }
     case WM_SIZE: {

@@ -1,5 +1,5 @@
-// The MDI child window of one drawing. It holds the drawing view and tells the host core when the
-// user brings it to the front or closes it; the core decides what follows.
+// The MDI child window of one drawing. Contains the drawing view; reports activation and closing by
+// the user to the core.
 #pragma once
 
 #include "afxwin.h"
@@ -16,12 +16,12 @@ class DrawingChild : public CMDIChildWnd {
   bool CreateIn(CMDIFrameWnd* frame, const std::wstring& title);
   Document& GetDocument() { return m_document; }
   DrawingView& View() { return m_view; }
-  void Activate();        // brings it to the front
-  void DestroyForGood();  // the core has said goodbye to the drawing already
+  void Activate();          // activates the window
+  void DestroyMdiWindow();  // destroys the window; the core has closed the drawing already
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-  void PostNcDestroy() override {}  // owned by host_ui
+  void PostNcDestroy() override {}  // owned by HostUiImpl
 
  private:
   Document& m_document;

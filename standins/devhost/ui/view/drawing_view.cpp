@@ -1,5 +1,5 @@
-// The drawing window; see the header. The scene is painted once into a bitmap; moving the pointer
-// only copies from it and paints what lies over it.
+// The drawing window; see the header. The scene is cached in a bitmap; moving the pointer copies it
+// and paints the overlay.
 #include "devhost/ui/view/drawing_view.h"
 
 #include <windowsx.h>
@@ -11,7 +11,7 @@
 namespace devhost {
 namespace {
 
-constexpr UINT kViewId = 0xE900;  // where a frame looks for its one pane
+constexpr UINT kViewId = 0xE900;  // identifier of a frame's only pane
 
 CommandBar* Commands() { return TheFrame() ? &TheFrame()->Commands() : nullptr; }
 
@@ -47,7 +47,7 @@ void DrawingView::ZoomExtents() {
   PictureChanged();
 }
 
-// The first real size shows the whole drawing; later ones keep the scale.
+// At the first size the whole drawing is shown; later sizes keep the scale.
 void DrawingView::OnResize(int width, int height) {
   if (width <= 0 || height <= 0) return;
   m_model.Resize(width, height);
@@ -57,7 +57,7 @@ void DrawingView::OnResize(int width, int height) {
 }
 
 void DrawingView::MoveCursor(std::optional<POINT> at) {
-  const bool wide = m_boxFrom || (at && m_model.RubberFrom());
+  const bool wide = m_boxFrom || (at && m_model.RubberBandStart());
   if (wide) {
     ::InvalidateRect(m_hWnd, nullptr, FALSE);
   } else {
@@ -97,13 +97,13 @@ void DrawingView::OnMove(WPARAM keys, POINT at) {
   if (MainFrame* frame = TheFrame()) frame->Status().ShowCoordinates(m_model.CoordinatesAt(at));
 }
 
-// A click gives a point to the command that waits for one. Otherwise it picks what lies there; on
-// empty ground it opens a selection box, which a second click or the release of a drag closes.
+// A click enters a point if a command requests one. Otherwise it picks an entity; on empty space it
+// begins a selection box, which a second click or the end of a drag closes.
 void DrawingView::OnPress(WPARAM keys, POINT at) {
   ::SetFocus(m_hWnd);
-  if (m_model.CommandIsActive()) m_boxFrom.reset();  // a command came in between
+  if (m_model.CommandIsActive()) m_boxFrom.reset();  // a command was started meanwhile
   if (m_model.WaitsForPoint()) {
-    m_model.GivePoint(at);
+    m_model.EnterPoint(at);
     return;
   }
   if (m_boxFrom) {
@@ -165,7 +165,7 @@ bool DrawingView::OnMouse(UINT message, WPARAM keys, POINT at) {
     case WM_MOUSEWHEEL:
       OnWheel(static_cast<short>(HIWORD(keys)), at);
       return true;
-    case WM_RBUTTONUP:  // as Enter on the command line
+    case WM_RBUTTONUP:  // as Enter on the command line does
       if (ShowModuleMenu(m_hWnd, at, (keys & MK_CONTROL) != 0)) return true;
       if (CommandBar* commands = Commands()) commands->EndLine();
       return true;
@@ -180,9 +180,9 @@ void DrawingView::OnKey(WPARAM key) {
     if (CommandBar* commands = Commands()) commands->Escape();
     SelectionChanged();
   } else if (IsTypingKey(key)) {
-    if (CommandBar* commands = Commands()) commands->PassKey(key);
+    if (CommandBar* commands = Commands()) commands->SendKey(key);
   } else if (key == VK_DELETE) {
-    if (CommandBar* commands = Commands()) commands->PassKey(key);
+    if (CommandBar* commands = Commands()) commands->SendKey(key);
   }
 }
 
@@ -192,15 +192,12 @@ ViewOverlay DrawingView::Overlay() const {
   overlay.pickBox = !m_model.WaitsForPoint();
   overlay.grips = m_model.Grips();
   if (m_model.WaitsForCorner()) {
-    overlay.boxFrom = m_model.RubberFrom();
+    overlay.boxFrom = m_model.RubberBandStart();
   } else {
     if (!m_model.CommandIsActive()) overlay.boxFrom = m_boxFrom;
-    overlay.rubberFrom = m_model.RubberFrom();
+    overlay.rubberFrom = m_model.RubberBandStart();
   }
-  if (const std::optional<POINT> origin = m_model.Origin()) {
-    overlay.origin = *origin;
-    overlay.originShown = true;
-  }
+  overlay.origin = m_model.Origin();
   return overlay;
 }
 
@@ -255,7 +252,7 @@ LRESULT DrawingView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_CHAR:
       if (CommandBar* commands = Commands(); commands && wParam != VK_ESCAPE)
-        commands->PassChar(static_cast<wchar_t>(wParam));
+        commands->SendChar(static_cast<wchar_t>(wParam));
       return 0;
     case WM_SETCURSOR:
       if (LOWORD(lParam) != HTCLIENT) break;

@@ -1,6 +1,6 @@
-// The window that shows one drawing: it paints the core's picture, zooms and pans, turns clicks
-// into points for a running command or into a selection, and hands keys to the command line. What
-// lies under a pixel, what is selected and where the view stands is the core's.
+// The window of one drawing: paints it, zooms and pans, converts clicks to points for a command or
+// to a selection, and passes keys to the command line. Hit tests, selection and view transform are
+// the core's.
 #pragma once
 
 #include <optional>
@@ -17,8 +17,8 @@ class DrawingView : public CWnd {
   explicit DrawingView(Document& document) : m_model(document) {}
 
   bool CreateIn(CWnd* parent);
-  void PictureChanged();    // the database or the view transform changed: paint anew
-  void SelectionChanged();  // only what lies over the picture changed
+  void PictureChanged();    // database or view transform changed: repaint
+  void SelectionChanged();  // only the overlay changed
   void ZoomAt(POINT pixel, double factor);
   void ZoomExtents();
   ViewModel& Model() { return m_model; }
@@ -36,7 +36,6 @@ class DrawingView : public CWnd {
   void OnKey(WPARAM key);
   void BeginPan(POINT at);
   void EndPan();
-  void Pick(WPARAM keys, POINT at);
   void PickBox(WPARAM keys, POINT from, POINT to);
   void MoveCursor(std::optional<POINT> at);
   ViewOverlay Overlay() const;
@@ -44,7 +43,7 @@ class DrawingView : public CWnd {
   void PaintScene(HDC like, const RECT& client);
 
   ViewModel m_model;
-  Bitmap m_scene;  // the drawing without what lies over it
+  Bitmap m_scene;  // the drawing without the overlay
   SIZE m_sceneSize{};
   bool m_sceneDirty = true;
   bool m_sized = false;

@@ -1,4 +1,4 @@
-// Plain decisions of the drawing view; see the header.
+// Mouse rules of the drawing view; see the header.
 #include "devhost/ui/view/pick_logic.h"
 
 #include <algorithm>

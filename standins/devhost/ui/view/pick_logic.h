@@ -1,21 +1,21 @@
-// How the drawing view reads the mouse: what counts as a drag, whether a box takes what lies inside
-// or all that it touches, how far a wheel notch zooms. No window here.
+// Mouse rules of the drawing view: drags, selection boxes, wheel. No window.
 #pragma once
 
 #include "ground/plain_types.h"
 
 namespace devhost {
 
-constexpr int kPickBox = 5;    // half side of the square in which a click finds an entity, pixels
-constexpr int kGripHalf = 4;   // half side of a grip, pixels
-constexpr int kDragStart = 4;  // pixels a press may tremble and still be a click
+constexpr int kPickBox = 5;    // half the side of the pick square, pixels
+constexpr int kGripHalf = 4;   // half the side of a grip, pixels
+constexpr int kDragStart = 4;  // movement in pixels up to which a press is a click
 
 bool IsDrag(POINT press, POINT now);
-bool IsCrossing(POINT press, POINT now);  // drawn to the left: touching is enough
-RECT BoxOf(POINT a, POINT b);             // left <= right, top <= bottom
-double WheelZoom(int delta);              // above 1 enlarges; a notch of 120 gives 1.25
+// drawn to the left: entities that the box touches are selected
+bool IsCrossing(POINT press, POINT now);
+RECT BoxOf(POINT a, POINT b);  // left <= right, top <= bottom
+double WheelZoom(int delta);   // above 1 enlarges; a notch (120) is 1.25
 
-// The spots of a clicked list that are hit; -1 for none. The nearest wins.
+// The index of the nearest spot within reach; -1: none.
 int NearestSpot(const POINT* spots, int count, POINT at, int reach);
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// Between the window of a drawing and the core; see the header.
+// The drawing view's calls to the core; see the header.
 #include "devhost/ui/view/view_model.h"
 
 #include <algorithm>
@@ -12,11 +12,11 @@
 namespace devhost {
 namespace {
 
-constexpr size_t kMostGripped = 100;  // entities; with more selected no grips are shown
-constexpr size_t kMostCorners = 8;    // of one line; above it both ends and the middle
+constexpr size_t kMaxGrippedEntities = 100;  // entities; if more are selected, no grips are shown
+constexpr size_t kMaxCorners = 8;            // of one line; above it, only both ends and the middle
 
 void AddGrips(const std::vector<AcGePoint3d>& points, std::vector<AcGePoint3d>* out) {
-  if (points.size() <= kMostCorners) {
+  if (points.size() <= kMaxCorners) {
     out->insert(out->end(), points.begin(), points.end());
   } else {
     for (size_t i : {size_t{0}, points.size() / 2, points.size() - 1}) out->push_back(points[i]);
@@ -41,7 +41,7 @@ void ViewModel::ZoomExtents() { m_document.view.ZoomTo(ExtentsOf(*m_document.dat
 
 void ViewModel::PanBy(int dx, int dy) { m_document.view.PanBy(dx, dy); }
 
-// Arcs are broken into lines for a scale; a picture that is much larger or smaller needs new ones.
+// Arcs are approximated for a scale; a much larger or smaller scale needs new shapes.
 void ViewModel::BuildShapes() {
   const double scale = m_document.view.PixelsPerUnit();
   if (!m_shapesStale && scale < m_shapesScale * 2 && scale > m_shapesScale / 4) return;
@@ -76,33 +76,35 @@ std::wstring ViewModel::CoordinatesAt(POINT pixel) const {
   return text;
 }
 
-std::optional<POINT> ViewModel::Origin() const { return PixelOf(0, 0); }
+POINT ViewModel::Origin() const { return m_document.view.ToPixel({0, 0, 0}); }
 
 bool ViewModel::WaitsForPoint() const { return TheHost().engine.WaitsForPoint(); }
 
-bool ViewModel::WaitsForCorner() const { return TheHost().engine.Waiting() == Asking::Corner; }
+bool ViewModel::WaitsForCorner() const {
+  return TheHost().engine.Request() == InputRequest::Corner;
+}
 
-bool ViewModel::CommandIsActive() const { return TheHost().engine.CommandRuns(); }
+bool ViewModel::CommandIsActive() const { return TheHost().engine.IsCommandRunning(); }
 
-std::optional<POINT> ViewModel::RubberFrom() const {
-  const std::optional<AcGePoint3d> from = TheHost().engine.RubberFrom();
+std::optional<POINT> ViewModel::RubberBandStart() const {
+  const std::optional<AcGePoint3d> from = TheHost().engine.RubberBandStart();
   if (!from || !WaitsForPoint()) return std::nullopt;
   return m_document.view.ToPixel(*from);
 }
 
-void ViewModel::GivePoint(POINT pixel) {
-  TheHost().engine.GivePoint(m_document.view.ToWorld(pixel));
+void ViewModel::EnterPoint(POINT pixel) {
+  TheHost().engine.EnterPoint(m_document.view.ToWorld(pixel));
 }
 
 std::vector<POINT> ViewModel::Grips() const {
   std::vector<POINT> grips;
-  if (m_document.pickFirst.size() > kMostGripped) return grips;
+  if (m_document.pickFirst.size() > kMaxGrippedEntities) return grips;
   for (const AcDbObjectId& id : m_document.pickFirst) {
     AcDbEntity* entity = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
     if (!entity) continue;
     std::vector<AcGePoint3d> points;
     const std::vector<Shape> shapes = ShapesOf(*entity, m_document.view.PixelsPerUnit());
-    for (size_t i = 0; i < shapes.size() && i < kMostCorners; ++i)
+    for (size_t i = 0; i < shapes.size() && i < kMaxCorners; ++i)
       AddGrips(shapes[i].points, &points);
     for (const AcGePoint3d& point : points) grips.push_back(m_document.view.ToPixel(point));
   }
@@ -128,7 +130,7 @@ void ViewModel::PickIn(const RECT& box, bool crossing, bool remove) {
   TakePicked(EntitiesIn(*m_document.database(), a, b, crossing), remove);
 }
 
-// What was chosen joins the pick-first set, or leaves it.
+// Adds the entities to the pick-first set, or removes them.
 void ViewModel::TakePicked(const std::vector<AcDbEntity*>& entities, bool remove) {
   for (AcDbEntity* entity : entities) {
     const bool there = IsPicked(entity);

@@ -1,4 +1,4 @@
-// Painting over the drawing; see the header.
+// Painting the overlay; see the header.
 #include "devhost/ui/view/view_overlay.h"
 
 #include "devhost/ui/painting/gdi.h"
@@ -47,7 +47,7 @@ void PaintGrips(HDC dc, const std::vector<POINT>& grips) {
   }
 }
 
-// A tinted pane inside a line: whole for a window, dashed for a crossing box.
+// A tinted rectangle with a border: solid for a window, dashed for a crossing box.
 void PaintBox(HDC dc, POINT from, POINT to) {
   const RECT r = BoxOf(from, to);
   const bool crossing = IsCrossing(from, to);
@@ -66,11 +66,11 @@ void PaintBox(HDC dc, POINT from, POINT to) {
   Frame(dc, r);
 }
 
-// Small arrows at the lower left: x to the right, y up.
-void PaintAxes(HDC dc, const RECT& client, POINT origin, bool originShown) {
+// The axis mark, at the origin or else at the lower left: x to the right, y up.
+void PaintAxes(HDC dc, const RECT& client, POINT origin) {
   const int size = Scaled(40), margin = Scaled(18);
-  const bool inside = originShown && origin.x > 0 && origin.y > size &&
-                      origin.x + size < client.right && origin.y < client.bottom;
+  const bool inside =
+      origin.x > 0 && origin.y > size && origin.x + size < client.right && origin.y < client.bottom;
   const POINT at = inside ? origin : POINT{margin, client.bottom - margin};
   Pen pen(::CreatePen(PS_SOLID, 1, RGB(150, 160, 170)));
   Selected selectedPen(dc, pen.Get());
@@ -98,7 +98,7 @@ RECT CrosshairBounds(POINT cursor) {
 }
 
 void PaintOverlay(HDC dc, const RECT& client, const ViewOverlay& overlay) {
-  PaintAxes(dc, client, overlay.origin, overlay.originShown);
+  PaintAxes(dc, client, overlay.origin);
   PaintGrips(dc, overlay.grips);
   if (!overlay.cursor) return;
   const POINT cursor = *overlay.cursor;

@@ -1,5 +1,5 @@
-// What lies over the drawing while the user works: crosshair, grips, selection box, rubber band,
-// axis mark. Painted fresh over the finished picture each time, so nothing has to be undone.
+// The overlay of the drawing: crosshair, grips, selection box, rubber band, axis mark. Painted over
+// the cached picture each time.
 #pragma once
 
 #include <optional>
@@ -10,21 +10,20 @@
 namespace devhost {
 
 struct ViewOverlay {
-  std::optional<POINT> cursor;  // none: the pointer is not over the view
-  bool pickBox = true;          // a square in the crosshair: clicks choose entities
+  std::optional<POINT> cursor;  // none: pointer outside the view
+  bool pickBox = true;          // pick square: clicks select entities
   std::vector<POINT> grips;
-  std::optional<POINT> boxFrom;     // a selection box from here to the cursor
-  std::optional<POINT> rubberFrom;  // a line from here to the cursor
-  POINT origin{};                   // where world 0,0 lies
-  bool originShown = false;
+  std::optional<POINT> boxFrom;     // selection box from here to the cursor
+  std::optional<POINT> rubberFrom;  // rubber line from here to the cursor
+  POINT origin{};                   // pixel of world 0,0
 };
 
-constexpr int kCrosshair = 42;  // half length of the crosshair, pixels at 96 dots per inch
+constexpr int kCrosshair = 42;  // half the length, pixels at 96 dots per inch
 
 COLORREF ViewBackground();
 void PaintOverlay(HDC dc, const RECT& client, const ViewOverlay& overlay);
 
-// The part of the view that the crosshair covers at this point.
+// The area that the crosshair covers.
 RECT CrosshairBounds(POINT cursor);
 
 }  // namespace devhost

@@ -1,5 +1,5 @@
-// The list in the registry; see the header.
-#include "devhost/ui/modules/remembered_modules.h"
+// The autoload list in the registry; see the header.
+#include "devhost/ui/modules/autoload_modules.h"
 
 #include <windows.h>
 
@@ -31,7 +31,7 @@ class Key {
 
 }  // namespace
 
-void RememberModule(const std::wstring& path) {
+void AddAutoloadModule(const std::wstring& path) {
   const Key key(KEY_SET_VALUE);
   const wchar_t empty[] = L"";
   if (key.Get())
@@ -39,7 +39,7 @@ void RememberModule(const std::wstring& path) {
                      sizeof empty);
 }
 
-std::vector<std::wstring> RememberedModules() {
+std::vector<std::wstring> AutoloadModules() {
   std::vector<std::wstring> modules;
   const Key key(KEY_QUERY_VALUE);
   wchar_t name[1024];
