@@ -2,6 +2,7 @@
 #include "devhost/core/base/text_codes.h"
 
 #include <cwctype>
+#include <string_view>
 
 namespace devhost {
 
@@ -78,6 +79,28 @@ void Wrap(std::vector<std::wstring>& lines, const std::wstring& line, double wid
   if (!part.empty()) lines.push_back(part);
 }
 
+// Reads the formatting code whose letter is at `at`. Appends the visible text to `line` and returns
+// the index of the last character of the code.
+std::size_t ReadFormat(const std::wstring& text, std::size_t at, std::wstring* line) {
+  const wchar_t code = text[at];
+  constexpr std::wstring_view kWithoutArgument = L"LlOoKk", kWithArgument = L"HhFfCcTQWAp";
+  if (kWithoutArgument.find(code) != kWithoutArgument.npos) return at;
+  if (kWithArgument.find(code) != kWithArgument.npos) return SkipToSemicolon(text, at);
+  if (code == L'~') {
+    *line += L' ';
+    return at;
+  }
+  if (code != L'S') {
+    *line += code;
+    return at;
+  }
+  // A stacked fraction, shown on one line.
+  const std::size_t end = SkipToSemicolon(text, at);
+  for (std::size_t k = at + 1; k < end; ++k)
+    *line += text[k] == L'^' || text[k] == L'#' ? L'/' : text[k];
+  return end;
+}
+
 }  // namespace
 
 std::vector<std::wstring> MTextLines(const std::wstring& text, double width) {
@@ -90,52 +113,12 @@ std::vector<std::wstring> MTextLines(const std::wstring& text, double width) {
       line += c;
       continue;
     }
-    const wchar_t code = text[++i];
-    switch (code) {
-      case L'P':
-      case L'N':
-      case L'X':
-        Wrap(lines, DisplayText(line), width);
-        line.clear();
-        break;
-      case L'~':
-        line += L' ';
-        break;
-      case L'\\':
-      case L'{':
-      case L'}':
-        line += code;
-        break;
-      case L'L':
-      case L'l':
-      case L'O':
-      case L'o':
-      case L'K':
-      case L'k':
-        break;
-      case L'S': {  // a stacked fraction: shown in one line
-        const std::size_t end = SkipToSemicolon(text, i);
-        for (std::size_t k = i + 1; k < end; ++k)
-          line += text[k] == L'^' || text[k] == L'#' ? L'/' : text[k];
-        i = end;
-        break;
-      }
-      case L'H':
-      case L'h':
-      case L'F':
-      case L'f':
-      case L'C':
-      case L'c':
-      case L'T':
-      case L'Q':
-      case L'W':
-      case L'A':
-      case L'p':
-        i = SkipToSemicolon(text, i);
-        break;
-      default:
-        line += code;
-        break;
+    ++i;
+    if (text[i] == L'P' || text[i] == L'N' || text[i] == L'X') {
+      Wrap(lines, DisplayText(line), width);
+      line.clear();
+    } else {
+      i = ReadFormat(text, i, &line);
     }
   }
   Wrap(lines, DisplayText(line), width);

@@ -76,6 +76,12 @@ class Reader {
   void ReadLayer(Groups groups);
   void ReadBlockRecord(Groups groups);
   void ReadBlocks(std::size_t from, std::size_t to);
+  struct BlockHead {
+    std::wstring name;
+    AcGePoint3d origin;
+    int flags = 0;
+  };
+  BlockHead ReadBlockHead(const DxfObject& object) const;
   std::size_t ReadBlock(std::size_t at, std::size_t to);
   std::size_t ReadEntities(std::size_t from, std::size_t to, AcDbBlockTableRecord* block);
   std::size_t ReadEntity(std::size_t at, std::size_t to, AcDbBlockTableRecord* block);
@@ -267,47 +273,48 @@ void Reader::ReadBlocks(std::size_t from, std::size_t to) {
   }
 }
 
-std::size_t Reader::ReadBlock(std::size_t at, std::size_t to) {
-  const Groups groups = ObjectAt(at);
-  if (groups.empty()) return to;
-  const DxfObject object = SplitObject(groups);
-  std::wstring name;
-  AcGePoint3d origin;
-  int flags = 0;
+Reader::BlockHead Reader::ReadBlockHead(const DxfObject& object) const {
+  BlockHead head;
   for (const DxfGroup& group : object.own) switch (group.code) {
       case 2:
-        name = m_decoder.Text(TrimBlanks(group.value));
+        head.name = m_decoder.Text(TrimBlanks(group.value));
         break;
       case 10:
-        origin.x = DxfReal(group.value).value_or(0);
+        head.origin.x = DxfReal(group.value).value_or(0);
         break;
       case 20:
-        origin.y = DxfReal(group.value).value_or(0);
+        head.origin.y = DxfReal(group.value).value_or(0);
         break;
       case 30:
-        origin.z = DxfReal(group.value).value_or(0);
+        head.origin.z = DxfReal(group.value).value_or(0);
         break;
       case 70:
-        flags = static_cast<int>(DxfInteger(group.value).value_or(0));
+        head.flags = static_cast<int>(DxfInteger(group.value).value_or(0));
         break;
       default:
         break;
     }
+  return head;
+}
+
+std::size_t Reader::ReadBlock(std::size_t at, std::size_t to) {
+  const Groups groups = ObjectAt(at);
+  if (groups.empty()) return to;
+  const DxfObject object = SplitObject(groups);
+  const BlockHead head = ReadBlockHead(object);
   bool existed = false;
-  AcDbBlockTableRecord* block = BlockNamed(name, &existed);
+  AcDbBlockTableRecord* block = BlockNamed(head.name, &existed);
   // Of two blocks with one name the first is used; with both, the entities would be drawn twice.
-  const bool second = existed && !block->entities().empty() && !name.starts_with(L'*');
+  const bool second = existed && !block->entities().empty() && !head.name.starts_with(L'*');
   if (second) m_problems.Add(object.line, L"同名的块已经存在，已跳过");
-  block->setOrigin(origin);
-  block->setFlags(flags);
+  block->setOrigin(head.origin);
+  block->setFlags(head.flags);
   std::size_t next = NextObject(at);
   while (next < to && !Is(next, 0, "ENDBLK") && !Is(next, 0, "BLOCK"))
     next = second ? NextObject(next) : ReadEntity(next, to, block);
-  if (!Is(next, 0, "ENDBLK")) {
-    if (next < m_groups.size()) m_problems.Add(m_groups[next].line, L"块没有结束 (ENDBLK)");
-    return next;
-  }
-  return NextObject(next);
+  if (Is(next, 0, "ENDBLK")) return NextObject(next);
+  if (next < m_groups.size()) m_problems.Add(m_groups[next].line, L"块没有结束 (ENDBLK)");
+  return next;
 }
 
 std::size_t Reader::ReadEntities(std::size_t from, std::size_t to, AcDbBlockTableRecord* block) {

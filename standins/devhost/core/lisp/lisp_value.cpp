@@ -1,6 +1,7 @@
 // LISP values and their resbuf chains; see the header.
 #include "devhost/core/lisp/lisp_value.h"
 
+#include <algorithm>
 #include <cwchar>
 
 #include "adslib.h"
@@ -92,50 +93,52 @@ std::vector<LispValue> Items(const resbuf*& at, int depth) {
   return items;
 }
 
+resbuf* AddNode(resbuf**& tail, int type) {
+  resbuf* node = acutNewRb(type);
+  *tail = node;
+  tail = &node->rbnext;
+  return node;
+}
+
+void AddInteger(resbuf**& tail, long long value) {
+  if (value >= -32768 && value <= 32767)
+    AddNode(tail, RTSHORT)->resval.rint = static_cast<short>(value);
+  else
+    AddNode(tail, RTLONG)->resval.rlong = static_cast<LONG>(value);
+}
+
 void Add(resbuf**& tail, const LispValue& value, int depth) {
-  auto node = [&](int type) {
-    *tail = acutNewRb(type);
-    resbuf* made = *tail;
-    tail = &made->rbnext;
-    return made;
-  };
   switch (value.kind) {
     case LispValue::Kind::Nil:
-      node(RTNIL);
+      AddNode(tail, RTNIL);
       break;
     case LispValue::Kind::True:
-      node(RTT);
+      AddNode(tail, RTT);
       break;
     case LispValue::Kind::Integer:
-      if (value.integer >= -32768 && value.integer <= 32767)
-        node(RTSHORT)->resval.rint = static_cast<short>(value.integer);
-      else
-        node(RTLONG)->resval.rlong = static_cast<LONG>(value.integer);
+      AddInteger(tail, value.integer);
       break;
     case LispValue::Kind::Real:
-      node(RTREAL)->resval.rreal = value.real;
+      AddNode(tail, RTREAL)->resval.rreal = value.real;
       break;
     case LispValue::Kind::Symbol:
     case LispValue::Kind::String:
-      acutNewString(value.text.c_str(), node(RTSTR)->resval.rstring);
+      acutNewString(value.text.c_str(), AddNode(tail, RTSTR)->resval.rstring);
       break;
-    case LispValue::Kind::Point: {
-      resbuf* made = node(RT3DPOINT);
-      for (int i = 0; i < 3; ++i) made->resval.rpoint[i] = value.point[i];
+    case LispValue::Kind::Point:
+      std::copy(value.point.begin(), value.point.end(), AddNode(tail, RT3DPOINT)->resval.rpoint);
       break;
-    }
     case LispValue::Kind::Entity:
-    case LispValue::Kind::Selection: {
-      resbuf* made = node(value.kind == LispValue::Kind::Entity ? RTENAME : RTPICKS);
-      made->resval.rlname[0] = value.name[0];
-      made->resval.rlname[1] = value.name[1];
+      std::copy(value.name.begin(), value.name.end(), AddNode(tail, RTENAME)->resval.rlname);
       break;
-    }
+    case LispValue::Kind::Selection:
+      std::copy(value.name.begin(), value.name.end(), AddNode(tail, RTPICKS)->resval.rlname);
+      break;
     case LispValue::Kind::List:
-      node(RTLB);
+      AddNode(tail, RTLB);
       if (depth < kMaxListDepth)
         for (const LispValue& item : value.items) Add(tail, item, depth + 1);
-      node(RTLE);
+      AddNode(tail, RTLE);
       break;
   }
 }

@@ -1,5 +1,6 @@
 // The published functions for selections.
 #include <algorithm>
+#include <optional>
 
 #include "dbsymtb.h"
 #include "devhost/core/base/text_case.h"
@@ -33,7 +34,10 @@ void AddAll(std::vector<AcDbObjectId>& set, const std::vector<AcDbEntity*>& foun
       set.push_back(e->objectId());
 }
 
-constexpr double kPickReach = 6;  // pixels
+AcDbEntity* EntityNear(Document& document, const AcGePoint3d& at) {
+  constexpr double kPickReach = 6;  // pixels
+  return EntityAt(*document.database(), at, kPickReach / document.view.PixelsPerUnit());
+}
 
 // Prompts for objects until Enter. A click picks one; "ALL", "Previous" and "Last" add those; a
 // click on empty space begins a box.
@@ -54,8 +58,7 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
       for (AcDbObjectId id : source)
         if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
       AddAll(set, found, filter);
-    } else if (AcDbEntity* hit = EntityAt(*document.database(), {at[0], at[1], 0},
-                                          kPickReach / document.view.PixelsPerUnit())) {
+    } else if (AcDbEntity* hit = EntityNear(document, {at[0], at[1], 0})) {
       AddAll(set, {hit}, filter);
     } else {
       ads_point other{};
@@ -71,46 +74,42 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
   }
 }
 
+// The objects of the modes of acedSSGet that name a selection; nothing for an unknown mode.
+std::optional<std::vector<AcDbObjectId>> SourceOf(Document& document, const std::wstring& mode) {
+  if (mode.empty() || mode == L"I") return document.pickFirst;
+  if (mode == L"P") return document.previousSelection;
+  if (mode != L"L" && mode != L"X" && mode != L"A") return std::nullopt;
+  std::vector<AcDbObjectId> all = AllOf(document);
+  if (mode == L"L" && !all.empty()) all = {all.back()};
+  return all;
+}
+
 }  // namespace
 
 int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
               ads_name set) {
   Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
   if (!document || !set) return RTERROR;
-  const std::wstring how = mode ? UpperCase(mode) : L"";
-  std::vector<AcDbObjectId> ids, source;
-  if (how.empty() && first) {
-    const double* at = static_cast<const double*>(first);
-    if (AcDbEntity* hit = EntityAt(*document->database(), {at[0], at[1], 0},
-                                   kPickReach / document->view.PixelsPerUnit()))
-      AddAll(ids, {hit}, filter);
-  } else if (how.empty()) {
-    source = document->pickFirst;
-    if (source.empty()) {
-      const int status = AskForObjects(*document, filter, ids);
-      if (status != RTNORM) return status;
-    }
-  } else if (how == L"I" || how == L"_I") {
-    source = document->pickFirst;
-  } else if (how == L"P" || how == L"_P") {
-    source = document->previousSelection;
-  } else if (how == L"L" || how == L"_L") {
-    source = AllOf(*document);
-    if (!source.empty()) source = {source.back()};
-  } else if (how == L"X" || how == L"_X" || how == L"A" || how == L"_A") {
-    source = AllOf(*document);
-  } else if ((how == L"C" || how == L"_C" || how == L"W" || how == L"_W") && first && second) {
-    const double* a = static_cast<const double*>(first);
-    const double* b = static_cast<const double*>(second);
-    AddAll(ids,
-           EntitiesIn(*document->database(), {a[0], a[1], 0}, {b[0], b[1], 0}, how.back() == L'C'),
+  std::wstring how = mode ? UpperCase(mode) : L"";
+  if (how.size() == 2 && how[0] == L'_') how.erase(0, 1);
+  const double* a = static_cast<const double*>(first);
+  const double* b = static_cast<const double*>(second);
+  std::vector<AcDbObjectId> ids;
+  if (how.empty() && a) {
+    if (AcDbEntity* hit = EntityNear(*document, {a[0], a[1], 0})) AddAll(ids, {hit}, filter);
+  } else if (how.empty() && document->pickFirst.empty()) {
+    const int status = AskForObjects(*document, filter, ids);
+    if (status != RTNORM) return status;
+  } else if ((how == L"C" || how == L"W") && a && b) {
+    AddAll(ids, EntitiesIn(*document->database(), {a[0], a[1], 0}, {b[0], b[1], 0}, how == L"C"),
            filter);
+  } else if (const auto source = SourceOf(*document, how)) {
+    for (AcDbObjectId id : *source) {
+      const AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
+      if (e && PassesFilter(*e, filter)) ids.push_back(id);
+    }
   } else {
     return RTERROR;
-  }
-  for (AcDbObjectId id : source) {
-    const AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
-    if (e && PassesFilter(*e, filter)) ids.push_back(id);
   }
   if (ids.empty()) return RTERROR;
   document->previousSelection = ids;

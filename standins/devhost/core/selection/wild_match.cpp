@@ -23,43 +23,43 @@ bool InCharacterClass(const std::wstring& cls, wchar_t c) {
   return in != negated;
 }
 
+// Compares a character with the element of a pattern at `at`, other than `*`. `next` is set to the
+// element after it.
+bool MatchElement(wchar_t c, const std::wstring& p, std::size_t at, std::size_t* next) {
+  *next = at + 1;
+  switch (p[at]) {
+    case L'?':
+      return true;
+    case L'#':
+      return std::iswdigit(static_cast<wint_t>(c)) != 0;
+    case L'@':
+      return std::iswalpha(static_cast<wint_t>(c)) != 0;
+    case L'.':
+      return std::iswalnum(static_cast<wint_t>(c)) == 0;
+    case L'`':
+      if (at + 1 >= p.size()) return c == L'`';
+      *next = at + 2;
+      return p[at + 1] == c;
+    case L'[': {
+      const std::size_t close = p.find(L']', at + 1);
+      if (close == std::wstring::npos) return c == L'[';
+      *next = close + 1;
+      return InCharacterClass(p.substr(at + 1, close - at - 1), c);
+    }
+    default:
+      return p[at] == c;
+  }
+}
+
 // Matches one pattern against the whole text. Only the latest `*` needs backtracking.
 bool MatchPattern(const std::wstring& text, const std::wstring& p) {
   std::size_t t = 0, i = 0, starAt = std::wstring::npos, starText = 0;
-  auto single = [&](std::size_t& next) {
-    const wchar_t c = text[t];
-    next = i + 1;
-    switch (p[i]) {
-      case L'?':
-        return true;
-      case L'#':
-        return std::iswdigit(static_cast<wint_t>(c)) != 0;
-      case L'@':
-        return std::iswalpha(static_cast<wint_t>(c)) != 0;
-      case L'.':
-        return std::iswalnum(static_cast<wint_t>(c)) == 0;
-      case L'`':
-        if (i + 1 < p.size()) {
-          next = i + 2;
-          return p[i + 1] == c;
-        }
-        return c == L'`';
-      case L'[': {
-        const std::size_t close = p.find(L']', i + 1);
-        if (close == std::wstring::npos) return c == L'[';
-        next = close + 1;
-        return InCharacterClass(p.substr(i + 1, close - i - 1), c);
-      }
-      default:
-        return p[i] == c;
-    }
-  };
   while (t < text.size()) {
     std::size_t next = 0;
     if (i < p.size() && p[i] == L'*') {
       starAt = i++;
       starText = t;
-    } else if (i < p.size() && single(next)) {
+    } else if (i < p.size() && MatchElement(text[t], p, i, &next)) {
       i = next;
       ++t;
     } else if (starAt != std::wstring::npos) {
