@@ -7,8 +7,8 @@ namespace {
 
 std::vector<std::wstring> g_calls;
 
-// A module with four functions: one returns its arguments, one fails, one is a command, one adds a
-// line.
+// A module with four functions: one returns its arguments, one fails, one is a command, one
+// adds a line.
 int Entry(int message, void* packet) {
   switch (message) {
     case AcRx::kInitAppMsg:

@@ -8,8 +8,8 @@ namespace {
 
 AcDbText* g_text = nullptr;
 
-// What a command of a module does: opens an object with the published functions, changes and closes
-// it.
+// What a command of a module does: opens an object with the published functions, changes
+// and closes it.
 void ChangeText() {
   AcDbText* text = nullptr;
   if (acdbOpenObject(text, g_text->objectId(), AcDb::kForWrite) != Acad::eOk) return;
@@ -250,8 +250,8 @@ TEST_F(Undo, UnloadingAClassDuringACommandDiscardsItsStep) {
   BindOpaqueEntities();
 }
 
-// Undo reads groups into the existing object, so a class must reset members whose groups are
-// missing.
+// Undo reads groups into the existing object, so a class must reset members whose
+// groups are missing.
 TEST(ObjectState, RestoringOverwritesAllDataInEveryClass) {
   struct Case {
     const wchar_t* dxfName;

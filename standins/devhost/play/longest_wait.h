@@ -1,5 +1,5 @@
-// The longest time that a message waited for the program during a play, and its step. Measured by
-// win/message_probe.
+// The longest time that a message waited for the program during a play, and its step.
+// Measured by win/message_probe.
 #pragma once
 
 #include <chrono>

@@ -1,5 +1,5 @@
-// Plays the steps of a script in order and stops at the first failure. Windows are accessed through
-// PlayWorld.
+// Plays the steps of a script in order and stops at the first failure. Windows are
+// accessed through PlayWorld.
 #pragma once
 
 #include <atomic>

@@ -35,8 +35,8 @@ bool IsFalse(const Json& row, const char* member) {
   return row.contains(member) && row[member].is_boolean() && !row[member].get<bool>();
 }
 
-// Finds a row by its path. All labels are tried, because a label with "/" may begin like another
-// label.
+// Finds a row by its path. All labels are tried, because a label with "/" may begin
+// like another label.
 class RowSearch {
  public:
   const Json* Find(const Json& rows, const std::string& path, int depth = 0) {

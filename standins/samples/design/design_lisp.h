@@ -1,5 +1,5 @@
-// LISP functions for the switches and conditions of the menu. Each sets the result of the running
-// call.
+// LISP functions for the switches and conditions of the menu. Each sets the result of
+// the running call.
 #pragma once
 
 struct DesignFunction {

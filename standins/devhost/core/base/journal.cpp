@@ -1,5 +1,5 @@
-// The journal; see the header. Every line is flushed, so that a crashed program leaves a complete
-// journal.
+// The journal; see the header. Every line is flushed, so that a crashed program leaves
+// a complete journal.
 #include "devhost/core/base/journal.h"
 
 #include <algorithm>
@@ -27,8 +27,8 @@ void Journal::WriteTo(std::FILE* stream) {
 
 namespace {
 
-// Adds an entry to the trace of a start. Entries of other threads come only from plays, not from a
-// start.
+// Adds an entry to the trace of a start. Entries of other threads come only from plays, not
+// from a start.
 void TraceStep(const char* event, const Json& fields) {
   if (!TheStartTrace().IsRunning()) return;
   std::string detail;

@@ -25,7 +25,7 @@ class StartTrace {
   void Arm() { m_state = State::Armed; }
   bool IsRunning() const { return m_state == State::Running; }
 
-  // before kInitAppMsg is sent; starts the trace if it is armed
+  // Before kInitAppMsg is sent; starts the trace if it is armed.
   void Begin(const std::string& module);
   void Step(const char* name, const std::string& detail = {});
   void MarkPaletteShown();  // the first call counts

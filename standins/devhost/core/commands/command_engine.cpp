@@ -175,7 +175,7 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
       TheHost().Print(L"未知命令“" + UpperCase(item.text.substr(1)) + L"”。\n");
     if (!TheHost().documents.FindDocument(&document)) return answer;
     ShowPrompt();
-    // the text after the transparent command answers the request
+    // The text after the transparent command answers the request.
     return TakeAnswer(document, blanksAllowed);
   }
   if (!item.text.empty() && !blanksAllowed && (item.text[0] == L'(' || item.text[0] == L'!')) {

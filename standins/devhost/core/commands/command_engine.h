@@ -15,8 +15,8 @@ namespace devhost {
 struct Command;
 class Document;
 
-// The kind of input for which a command waits. The view shows a crosshair or a rubber band for
-// points.
+// The kind of input for which a command waits. The view shows a crosshair or a rubber
+// band for points.
 enum class InputRequest { Nothing, Point, Corner, Text, Keyword };
 
 struct InputAnswer {

@@ -13,7 +13,7 @@ bool EndsToken(wchar_t c, bool blanksAllowed) {
 // The length of the first item without its end; -1 if it is incomplete. Inside a LISP expression,
 // blanks, newlines and brackets in strings are part of it.
 int ItemLength(const std::deque<wchar_t>& text, bool blanksAllowed) {
-  // with blanks allowed, "(" is plain text
+  // With blanks allowed, "(" is plain text.
   const bool lisp = !blanksAllowed && !text.empty() && text[0] == L'(';
   int depth = 0;
   bool quoted = false;

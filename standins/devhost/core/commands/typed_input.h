@@ -9,8 +9,8 @@
 
 namespace devhost {
 
-// A keyword equal to the text or with these capitals; otherwise the first that begins with the
-// text.
+// A keyword equal to the text or with these capitals; otherwise the first that begins
+// with the text.
 std::optional<std::wstring> MatchKeyword(const std::wstring& keywords, std::wstring typed);
 
 bool ReadNumber(const wchar_t*& at, double* value);

@@ -1,5 +1,5 @@
-// One open drawing: database, view, input queue, LISP functions and symbols, selections, undo
-// steps.
+// One open drawing: database, view, input queue, LISP functions and symbols,
+// selections, undo steps.
 #pragma once
 
 #include <map>

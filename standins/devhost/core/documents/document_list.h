@@ -1,5 +1,5 @@
-// The open drawings and the current one. Implements the document manager of the published
-// interface.
+// The open drawings and the current one. Implements the document manager of
+// the published interface.
 #pragma once
 
 #include <memory>
@@ -31,8 +31,8 @@ class DocumentList : public AcApDocManager {
   void Close(Document* document);
   bool ClosePending();  // closes one drawing whose commands have ended; false: none
   bool HasPendingClose() const;
-  Document* FindByName(
-      const std::wstring& name) const;  // file name without extension, case ignored
+  // By file name with or without extension, ignoring case.
+  Document* FindByName(const std::wstring& name) const;
 
   AcApDocument* curDocument() const override;
   AcApDocument* mdiActiveDocument() const override;
@@ -56,8 +56,9 @@ class DocumentList : public AcApDocManager {
   Document* FindDocument(const AcApDocument* document) const;  // null if it is not open
 
  private:
+  // Reactors may remove themselves and others.
   template <class F>
-  void Notify(F call);  // reactors may remove themselves and others
+  void Notify(F call);
   Document* Adopt(std::unique_ptr<Document> document);
 
   std::vector<std::unique_ptr<Document>> m_documents;

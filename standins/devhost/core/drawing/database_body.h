@@ -37,8 +37,8 @@ struct AcDbDatabase::Body {
 struct AcDbObjectAccess {
   static void AddObject(AcDbDatabase& database, AcDbObject* object,
                         AcDbHandle wanted);  // owns it from now on
-  // Replaces a held object by `fresh`, with the same handle and place in its block. Deletes the old
-  // object.
+  // Replaces a held object by `fresh`, with the same handle and place in its block. Deletes
+  // the old object.
   static void Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObject>& held,
                       AcDbObject* fresh);
   static void SwapXData(AcDbObject* from, AcDbObject* to) { std::swap(from->m_xdata, to->m_xdata); }
@@ -48,7 +48,7 @@ struct AcDbObjectAccess {
   // Shared groups of an entity that have no member, such as line weight and true colour.
   static std::vector<KeptGroup>& CommonGroups(AcDbEntity& entity);
   static const resbuf* XData(const AcDbObject& object) { return object.m_xdata; }
-  // replaces all applications; copies the chain
+  // Replaces all applications; copies the chain.
   static void SetXData(AcDbObject& object, const resbuf* all);
   static bool HasLinetype(const AcDbEntity& entity) { return entity.m_linetype != nullptr; }
   static void ClearLinetype(AcDbEntity& entity);

@@ -1,5 +1,5 @@
-// Group codes of drawing files and the kind of value that follows each, as the format publishes
-// them.
+// Group codes of drawing files and the kind of value that follows each, as the
+// format publishes them.
 #pragma once
 
 namespace devhost {

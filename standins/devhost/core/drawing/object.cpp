@@ -11,8 +11,8 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 
 namespace {
 
-// Writing requires a lock of the drawing: a running command holds one, other code takes it with
-// lockDocument.
+// Writing requires a lock of the drawing: a running command holds one, other code takes
+// it with lockDocument.
 bool IsWritable(const AcDbDatabase* database) {
   const AcApDocument* document = acDocManagerPtr()->document(database);
   return !document || document->lockMode() != AcAp::kNotLocked;

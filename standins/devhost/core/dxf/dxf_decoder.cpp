@@ -34,8 +34,8 @@ std::optional<unsigned> HexAt(const std::wstring& text, std::size_t at, std::siz
   return value;
 }
 
-// Code pages that the system lacks, or in which the ASCII characters of the format differ, are
-// ignored.
+// Code pages that the system lacks, or in which the ASCII characters of the format
+// differ, are ignored.
 bool IsUsable(unsigned page) {
   if (page == 65001) return true;
   if (page == 1200 || page == 1201 || page == 12000 || page == 12001) return false;  // wide units

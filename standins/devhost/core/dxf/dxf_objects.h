@@ -36,8 +36,8 @@ struct DxfObject {
   std::span<const DxfGroup> xdata;
 };
 
-// In a layer record, colour and linetype are groups of the class; in an entity they are shared
-// groups.
+// In a layer record, colour and linetype are groups of the class; in an entity they
+// are shared groups.
 enum class DxfObjectKind { Entity, Record };
 
 // The first group is the object's group 0.
@@ -48,8 +48,8 @@ class DxfObjectMaker {
   DxfObjectMaker(AcDbDatabase& database, const DxfDecoder& decoder, DxfProblems& problems)
       : m_database(database), m_decoder(decoder), m_problems(problems) {}
 
-  // An entity in the database, not yet in a block. Null if a number is invalid; the problem is
-  // added.
+  // An entity in the database, not yet in a block. Null if a number is invalid; the
+  // problem is added.
   AcDbEntity* MakeEntity(const DxfObject& object);
   // An entity with shared groups, neither in the database nor with extended data. Null if the class
   // is unknown or rejects the groups, or if a number is invalid.

@@ -23,15 +23,15 @@ struct DxfScan {
   int line = 0;  // line of the damage, from 1
 };
 
-// Reads pairs until the end mark (0, EOF), the end of the bytes or the first line that is not a
-// code.
+// Reads pairs until the end mark (0, EOF), the end of the bytes or the first line that is
+// not a code.
 DxfScan ScanDxf(std::string_view bytes);
 
 std::string_view TrimBlanks(std::string_view text);
 
 // Numbers of the format. Nothing if anything but blanks follows the digits.
 std::optional<double> DxfReal(std::string_view value);
-// also "3.0", which some programs write
+// Also "3.0", which some programs write.
 std::optional<long long> DxfInteger(std::string_view value);
 std::optional<unsigned long long> DxfHandle(std::string_view value);  // hexadecimal, not 0
 

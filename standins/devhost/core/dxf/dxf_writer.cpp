@@ -1,6 +1,6 @@
-// Writing drawings: release 2007 text, which is UTF-8; see drawing_file.h. Entities write their own
-// groups; sections, tables and entities that the host does not interpret are written as they were
-// read.
+// Writing drawings: release 2007 text, which is UTF-8; see drawing_file.h. Entities write their
+// own groups; sections, tables and entities that the host does not interpret are written as
+// they were read.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>

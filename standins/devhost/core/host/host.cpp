@@ -71,7 +71,7 @@ void Host::SetPrompt(const std::wstring& prompt) {
 }
 
 Host& TheHost() {
-  // never deleted: static objects of modules may still call it at exit
+  // Never deleted: static objects of modules may still call it at exit.
   static Host* host = new Host;
   return *host;
 }

@@ -36,8 +36,8 @@ class Host {
   const HostOptions& Options() const { return m_options; }
   HostUi& Ui() const { return *m_ui; }
 
-  // Finds a file in the support path; a name with a folder is tried first as it is. Empty: not
-  // found.
+  // Finds a file in the support path; a name with a folder is tried first as it is.
+  // Empty: not found.
   std::wstring FindFile(const std::wstring& name) const;
 
   // Prints on the command line; recorded as "printed".

@@ -77,8 +77,8 @@ void MakeEntitiesOpaque(const AcRxClass& cls) {
 
 }  // namespace devhost
 
-// Parents are linked when classes are constructed; only the objects of open drawings are left to
-// bind.
+// Parents are linked when classes are constructed; only the objects of open drawings are
+// left to bind.
 void acrxBuildClassHierarchy() { devhost::BindOpaqueEntities(); }
 
 void deleteAcRxClass(AcRxClass* cls) {

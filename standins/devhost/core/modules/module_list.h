@@ -31,8 +31,8 @@ class ModuleList : public AcRxDynamicLinker {
   bool unlockApplication(void* packet) override;
   bool registerAppMDIAware(void* packet) override;
 
-  // Sets the callback for modules that are loaded as a command: they are to be loaded at every
-  // start.
+  // Sets the callback for modules that are loaded as a command: they are to be loaded
+  // at every start.
   void OnPersistentLoad(std::function<void(const std::wstring&)> callback) {
     m_persistentLoad = std::move(callback);
   }

@@ -50,7 +50,7 @@ UndoRecording::UndoRecording(Document& document, std::wstring name)
 }
 
 UndoRecording::~UndoRecording() {
-  // the drawing was closed
+  // The drawing was closed.
   if (!m_outermost || !TheHost().documents.FindDocument(m_document)) return;
   m_document->recording = nullptr;
   if (!m_step.IsEmpty()) m_document->undo.push_back(std::move(m_step));

@@ -57,8 +57,8 @@ void RecordVariableForUndo(Document& document, const std::wstring& name);
 // Reverts and removes the latest step, without recording. Returns its command's name; empty: there
 // was no step.
 std::wstring UndoLatestStep(Document& document);
-// Discards all steps and the changes of the open recording, before objects that they refer to are
-// deleted.
+// Discards all steps and the changes of the open recording, before objects that they refer
+// to are deleted.
 void DiscardUndo(Document& document);
 // All steps between Begin and End become one. A second Begin ends the first group.
 void BeginUndoGroup(Document& document);

@@ -7,8 +7,8 @@ namespace devhost {
 
 class Document;
 
-// Call after `name` was set. TILEMODE also sets CVPORT and CTAB; then the current space is
-// determined.
+// Call after `name` was set. TILEMODE also sets CVPORT and CTAB; then the current
+// space is determined.
 void UpdateCurrentSpace(Document& document, const std::wstring& name, const std::wstring& value);
 
 }  // namespace devhost

@@ -11,8 +11,8 @@ namespace devhost {
 std::wstring PointText(const AcGePoint3d& p);
 std::wstring RealText(double value);
 
-// Sets the value of a variable that is computed from the state of the host; false for stored
-// variables.
+// Sets the value of a variable that is computed from the state of the host; false
+// for stored variables.
 bool ComputedValue(const std::wstring& name, const Document* document, std::wstring* value);
 
 }  // namespace devhost

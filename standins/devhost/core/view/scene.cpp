@@ -50,7 +50,7 @@ AcDbEntity* EntityAt(AcDbDatabase& database, const AcGePoint3d& at, double reach
   double nearest = reach;
   for (const Shape& shape : BuildScene(database, 1 / std::max(reach, 1e-9))) {
     const double distance = DistanceTo(shape, at);
-    // of two at equal distance the later one, which is drawn on top
+    // Of two at equal distance the later one, which is drawn on top.
     if (distance > nearest) continue;
     nearest = distance;
     best = shape.entity;

@@ -11,9 +11,8 @@
 namespace devhost {
 namespace {
 
-constexpr int kMaxBlockDepth = 24;  // a block may refer to itself
-constexpr std::size_t kMaxShapes =
-    2000000;  // of one drawing: nested arrays of small blocks multiply
+constexpr int kMaxBlockDepth = 24;           // a block may refer to itself
+constexpr std::size_t kMaxShapes = 2000000;  // nested arrays of small blocks multiply
 
 }  // namespace
 

@@ -134,7 +134,7 @@ std::string DriverWorld::PerformMouse(const Step& step) {
   const bool hasSecond = step.kind == StepKind::Drag || step.kind == StepKind::ClickTwo;
   if (problem.empty() && hasSecond) problem = Point(step.target2, &end);
   if (!problem.empty()) return problem;
-  // moved before keys are pressed: they may be released when the pointer enters a window
+  // Moved before keys are pressed: they may be released when the pointer enters a window.
   m_input.Move(at);
   const InputSender::HeldKeys held(m_input, step.ctrl, step.shift);
   switch (step.kind) {

@@ -1,5 +1,5 @@
-// Panes of the status bar and their menus. The bar paints panes and passes clicks to them; see
-// status_bar.
+// Panes of the status bar and their menus. The bar paints panes and passes clicks to
+// them; see status_bar.
 #include "acstatusbar.h"
 
 #include <utility>

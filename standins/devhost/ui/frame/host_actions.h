@@ -11,7 +11,7 @@ namespace devhost {
 
 class Document;
 
-// prints the reason of a failure on the command line
+// Prints the reason of a failure on the command line.
 bool OpenDrawingFile(const std::wstring& path);
 Document* MakeNewDrawing();
 bool ActivateDrawingNamed(const std::wstring& name);  // file name without extension, case ignored

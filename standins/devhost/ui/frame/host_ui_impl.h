@@ -21,10 +21,8 @@ class HostUiImpl : public HostUi {
   bool HasPendingInput() const;
 
   void OnUserActivate(DrawingChild& child);
-  void OnUserClose(
-      // Closes the drawing at the next idle time: a window must not be destroyed in its own
-      // message.
-      DrawingChild& child);
+  // Closes the drawing at the next idle time: a window must not be destroyed in its own message.
+  void OnUserClose(DrawingChild& child);
 
   void DocumentCreated(Document& document) override;
   void DocumentActivated(Document* document) override;
@@ -43,8 +41,8 @@ class HostUiImpl : public HostUi {
   bool ClosePending();
 
   std::vector<std::unique_ptr<DrawingChild>> m_children;
-  std::vector<std::unique_ptr<DrawingChild>>
-      m_destroyed;  // destroyed windows, deleted at idle time
+  // Windows that are destroyed already, deleted at idle time.
+  std::vector<std::unique_ptr<DrawingChild>> m_destroyed;
   std::vector<Document*> m_toClose;
   int m_fromCore = 0;  // above 0 during calls from the core
 };

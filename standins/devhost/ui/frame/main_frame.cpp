@@ -58,8 +58,8 @@ bool MainFrame::CreateAndShow(const std::wstring& title) {
   m_hMenuDefault = menu.bar;
   ::SendMessageW(m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(menu.bar),
                  reinterpret_cast<LPARAM>(menu.windowMenu));
-  // Set again after the MDI client exists: from now on the frame appends the title of a maximized
-  // child.
+  // Set again after the MDI client exists: from now on the frame appends the title of
+  // a maximized child.
   ::SetWindowTextW(m_hWnd, title.c_str());
   m_keys = MakeMainKeys();
   if (!m_status.CreateIn(this) || !m_commands.CreateIn(this, TheHostUi().CommandListener()))

@@ -13,8 +13,8 @@ BOOL HostApp::InitInstance() {
   return TRUE;
 }
 
-// Idle work of the class library, which lays out bars shown with delay; then one item of the core's
-// queue.
+// Idle work of the class library, which lays out bars shown with delay; then one item of
+// the core's queue.
 bool HostApp::RunIdle() {
   const bool more = OnIdle(m_idleCount++) != FALSE;
   if (TheHostUi().RunWaiting()) {

@@ -12,7 +12,7 @@ bool TakeVersion(const std::wstring& text, double* out) {
   const double value = std::wcstod(text.c_str(), &end);
   const double tenths = value * 10;
   if (end == text.c_str() || *end != 0 || !(value >= 15.0 && value < 100.0)) return false;
-  // release numbers have one decimal
+  // Release numbers have one decimal.
   if (std::fabs(tenths - std::round(tenths)) > 1e-6) return false;
   *out = value;
   return true;

@@ -15,7 +15,7 @@ class MainThread {
   MainThread(const MainThread&) = delete;
   MainThread& operator=(const MainThread&) = delete;
 
-  // false if calls are rejected or the window is destroyed
+  // False if calls are rejected or the window is destroyed.
   bool Run(const std::function<void()>& work);
   void RejectCalls() { m_rejecting = true; }  // from now on Run returns false without calling
   DWORD Id() const { return m_id; }

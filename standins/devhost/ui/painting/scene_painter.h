@@ -1,5 +1,5 @@
-// Paints shapes with GDI: lines, filled areas, rotated texts. Pens and fonts are cached for one
-// picture.
+// Paints shapes with GDI: lines, filled areas, rotated texts. Pens and fonts are cached
+// for one picture.
 #pragma once
 
 #include <map>

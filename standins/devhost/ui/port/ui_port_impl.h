@@ -8,7 +8,7 @@ namespace devhost {
 
 class UiPortImpl : public UiPort {
  public:
-  // construct before the first drawing: calls block until the program waits for input
+  // Construct before the first drawing: calls block until the program waits for input.
   UiPortImpl();
   ~UiPortImpl() override;
   UiPortImpl(const UiPortImpl&) = delete;

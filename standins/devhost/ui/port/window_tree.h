@@ -14,7 +14,7 @@ Json DescribeWindowsOf(DWORD thread);
 // The visible and enabled push button with this label, ignoring mnemonics; null: none.
 HWND FindButton(DWORD thread, const std::wstring& label);
 
-std::wstring WithoutMnemonic(
-    const std::wstring& text);  // "确定(&O)" and "&OK" without the mnemonic.
+// "确定(&O)" and "&OK" without the mnemonic.
+std::wstring WithoutMnemonic(const std::wstring& text);
 
 }  // namespace devhost

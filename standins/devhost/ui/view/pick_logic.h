@@ -10,7 +10,7 @@ constexpr int kGripHalf = 4;   // half the side of a grip, pixels
 constexpr int kDragStart = 4;  // movement in pixels up to which a press is a click
 
 bool IsDrag(POINT press, POINT now);
-// drawn to the left: entities that the box touches are selected
+// Drawn to the left: entities that the box touches are selected.
 bool IsCrossing(POINT press, POINT now);
 RECT BoxOf(POINT a, POINT b);  // left <= right, top <= bottom
 double WheelZoom(int delta);   // above 1 enlarges; a notch (120) is 1.25
