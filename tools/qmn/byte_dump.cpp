@@ -1,6 +1,6 @@
-// A second reader of the compiled file, over plain bytes and apart from the engine's, so that a
-// damaged file can be looked at up to the damage. A block is named by its place, a sub-menu by its
-// offset: a name that repeated all that is above it would grow with the depth.
+// A second reader of the compiled file, over plain bytes and independent of the engine's, so that a
+// damaged file can be shown up to the damage. A block is identified by its index, a sub-menu by its
+// offset: a name that repeated all its parents would grow with the depth.
 #include "tools/qmn/dump_forms.h"
 
 #include <bit>

@@ -1,5 +1,5 @@
-// qmn check: every problem of menu sources, those that the engine loses in silence among them. The
-// findings are data and go to standard output; what the tool itself could not do goes to standard
+// qmn check: every problem of menu sources, including those that the engine ignores without a
+// message. Findings are data and go to standard output; errors of the tool itself go to standard
 // error.
 #include <ostream>
 #include <utility>

@@ -16,7 +16,7 @@ constexpr char kWideMark[] = "\xFF\xFE\xFF";
 
 struct Truncated {};
 
-// Goes over the fields of a compiled file and copies them, narrow texts in wide form.
+// Walks the fields of a compiled file and copies them, with narrow texts in wide form.
 class TextWidener {
  public:
   TextWidener(const std::string& bytes, unsigned page) : m_bytes(bytes), m_page(page) {}
@@ -71,7 +71,7 @@ class TextWidener {
     for (; count; --count) Text();
   }
 
-  // Any length form will do; the reader takes all.
+  // Any length form is valid: the reader accepts all of them.
   void PutWide(const std::wstring& units) {
     m_out += kWideMark;
     m_out += "\xFF\xFF\xFF";
@@ -151,8 +151,8 @@ class TextWidener {
 
 bool IsKnownPage(unsigned page) {
   if (std::find(std::begin(kPages), std::end(kPages), page) == std::end(kPages)) return false;
-  // A page that the system lacks leaves nothing of its text. Each of these has this pair of bytes,
-  // as one character or as two.
+  // With a page that the system lacks, the result is empty. Each page of the table has this pair of
+  // bytes, as one character or as two.
   const std::wstring wide = AnsiToWide("\xC4\xA3", page);
   return !wide.empty() && std::count(wide.begin(), wide.end(), wchar_t{0xFFFD}) == 0;
 }

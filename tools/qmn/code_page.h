@@ -1,6 +1,6 @@
-// The code pages that --codepage names: sources and the texts of old compiled files in another page
-// than the system's. The engine asks a decoder for sources; compiled files get their narrow texts
-// widened in front of it.
+// The code pages of --codepage: sources, and the texts of old compiled files, in a page other than
+// the system's. For sources the engine uses a decoder; compiled files have their narrow texts
+// widened before it reads them.
 #pragma once
 
 #include <string>
@@ -9,9 +9,9 @@
 
 constexpr unsigned kUsualPage = 936;
 
-// One of the pages in which ASCII stands for itself, and the system has it.
+// True when the page is a superset of ASCII and installed on the system.
 bool IsKnownPage(unsigned page);
-// The one that the engine reads narrow text in by itself.
+// The page in which the engine reads narrow text by default.
 unsigned EnginePage();
 
 class PageDecoder : public NarrowDecoder {
@@ -23,6 +23,6 @@ class PageDecoder : public NarrowDecoder {
   const unsigned m_page;
 };
 
-// A compiled file with its texts without marker in the form that has one. Where the file is damaged
-// the rest is as it was.
+// A copy of a compiled file in which texts without marker have the wide form. From a damaged place
+// on, the bytes are unchanged.
 std::string WithWideTexts(const std::string& bytes, unsigned page);

@@ -1,5 +1,5 @@
-// The subcommands, each with what its command line says. "-" as a file is standard input or output.
-// All give an ExitCode.
+// The subcommands, each with the options of its command line. "-" as a file is standard input or
+// output. All return an ExitCode.
 #pragma once
 
 #include <string>
@@ -10,7 +10,8 @@
 
 struct CompileOptions {
   std::string in;
-  std::string out;  // empty: beside the input, with .qmc; standard output for standard input
+  // Empty: the input's name with .qmc; standard output for standard input.
+  std::string out;
   bool asHost = false;
   unsigned page = kUsualPage;
 };
@@ -18,7 +19,7 @@ int RunCompile(const CompileOptions& options, const QmnStreams& streams);
 
 struct LoadOptions {
   std::string in;
-  std::string out;  // empty: the file is read and nothing is written
+  std::string out;  // empty: read only, write nothing
   bool asHost = false;
   unsigned page = kUsualPage;
 };
@@ -39,14 +40,14 @@ struct CheckOptions {
   std::vector<std::string> files;
   CheckFormat format = CheckFormat::kText;
   bool failOnWarning = false;
-  bool listRules = false;  // instead of checking anything
+  bool listRules = false;  // list the rules and check nothing
   unsigned page = kUsualPage;
 };
 int RunCheck(const CheckOptions& options, const QmnStreams& streams);
 
 struct FmtOptions {
   std::vector<std::string> in;
-  bool check = false;  // names the files that aren't in canonical layout and writes nothing
+  bool check = false;  // list the files that aren't in canonical layout, write nothing
   unsigned page = kUsualPage;
 };
 int RunFmt(const FmtOptions& options, const QmnStreams& streams);
@@ -58,7 +59,7 @@ struct DecompileOptions {
 };
 int RunDecompile(const DecompileOptions& options, const QmnStreams& streams);
 
-// Types, layers and counts belong together in their order.
+// Types, layers and counts correspond by index.
 struct WhyOptions {
   std::string in;
   std::vector<std::string> types, layers;
@@ -72,9 +73,9 @@ struct WhyOptions {
 int RunWhy(const WhyOptions& options, const QmnStreams& streams);
 
 struct WhichOptions {
-  std::vector<std::string> product;  // folders of the support path, in order
-  std::string profile = "default";   // empty: the host has none to tell
-  std::string registry;              // settings file; empty: where settings are by themselves
+  std::vector<std::string> product;  // folders of the support path, in search order
+  std::string profile = "default";   // empty: the host reports no profile
+  std::string registry;              // settings file; empty: the system's registry
   double hostVersion = 24.0;
 };
 int RunWhich(const WhichOptions& options, const QmnStreams& streams);

@@ -1,5 +1,6 @@
-// qmn compile: source to compiled file. As itself the tool writes nothing after an error; with
-// --as-host it prints and writes what the module would, the empty model after an error included.
+// qmn compile: source to compiled file. By default nothing is written after an error; with
+// --as-host the tool prints and writes what the module would, including the empty model after an
+// error.
 #include <ostream>
 
 #include "tools/qmn/commands.h"
@@ -15,7 +16,7 @@ std::string OutputOf(const CompileOptions& options) {
   return IsStandardStream(options.in) ? options.in : WithExtension(options.in, ".qmc");
 }
 
-// The module would never come back from such a file, so that there is nothing to imitate.
+// The module would loop forever on such a file, so there is no result to reproduce.
 int RefuseOpenComment(const CompileOptions& options, int line, const QmnStreams& streams) {
   if (options.asHost) streams.err << "\n";
   ReportError(streams, options.in + ":" + std::to_string(line), kOpenCommentText);
@@ -39,8 +40,8 @@ int CompileAsTool(const CompileOptions& options, const QmnStreams& streams) {
   return kFileTrouble;
 }
 
-// The words of the command line come as the module prints them, each with its newline in front; a
-// message box gets a line of its own.
+// Command line messages are printed as the module prints them, each preceded by its newline; a
+// message box becomes one line.
 int CompileAsHost(const CompileOptions& options, const QmnStreams& streams) {
   std::string source;
   if (!ReadInput(options.in, streams, source)) {

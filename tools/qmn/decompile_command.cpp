@@ -1,6 +1,6 @@
-// qmn decompile: a compiled file into source that compiles to the same bytes. The source is
-// compiled in memory and compared before anything is written; where the language can't say the
-// file, the field and its place are named instead.
+// qmn decompile: a compiled file to source that compiles to the same bytes. The source is compiled
+// in memory and compared before anything is written; what the language cannot express is reported
+// with field and place.
 #include <ostream>
 
 #include "tools/qmn/commands.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// The other forms of a file that the module reads just as well, and writes in this one.
+// Refuses the other file forms: the module reads them too, but always writes this one.
 void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals) {
   const std::string written = SaveBytes(system);
   if (written == bytes) return;
@@ -24,7 +24,7 @@ void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals
                            "is");
 }
 
-// True when it compiles to the wanted bytes.
+// True when the source compiles to the expected bytes.
 bool CheckSource(const std::string& source, unsigned page, const std::string& bytes,
                  TMenuSystem& wanted, Refusals& refusals) {
   TMenuSystem made;

@@ -1,5 +1,5 @@
-// Where the model that a decompiled source makes is another than the one it was made from: what the
-// passes change, names that resolve to something else, texts that a line can't say.
+// Compares the model of a decompiled source with the model it was made from. They differ where the
+// passes change a field, a name resolves to something else, or a line cannot express a text.
 #include <sstream>
 #include <string_view>
 #include <unordered_map>

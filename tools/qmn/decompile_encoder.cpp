@@ -41,7 +41,7 @@ std::string PageEncoder::Encode(std::wstring_view character) const {
   return AnsiToWide(bytes, m_page) == character ? bytes : std::string();
 }
 
-// A byte that is no character and takes nothing behind it along.
+// A byte that is no character and does not consume the byte after it.
 std::string PageEncoder::BrokenByte() const {
   for (int byte = 0xFF; byte >= 0x80; --byte) {
     const std::string one(1, static_cast<char>(byte));

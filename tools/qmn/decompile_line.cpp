@@ -10,7 +10,7 @@ std::wstring_view View(const TWCString& text) {
   return {text.c_str(), static_cast<size_t>(text.Length())};
 }
 
-// A leading blank keeps a label from the passes that come before the one that trims it.
+// A leading blank hides a label from the passes that run before labels are trimmed.
 bool NeedsShelter(const TMenuItem& item) {
   const std::wstring_view label = View(item.m_strLabel);
   return label.starts_with(L"->") || label.starts_with(L"<-") ||
@@ -19,8 +19,8 @@ bool NeedsShelter(const TMenuItem& item) {
 
 }  // namespace
 
-// A ';' is Enter outside quotes and itself inside. Where the text has the wrong one of the two, a
-// quote behind a '^' vanishes with it, but turns the quoting over.
+// A ';' is Enter outside quotes and a literal inside. Where the text needs the other meaning, '^'
+// and a quote are inserted: the engine removes both, but the quote toggles the quoting.
 std::wstring WrittenCommand(std::wstring_view command, LineForm form) {
   if (command.empty()) return {};
   if (command.ends_with(L'\n')) command.remove_suffix(1);
@@ -40,7 +40,8 @@ std::wstring WrittenCommand(std::wstring_view command, LineForm form) {
   return text;
 }
 
-// One ';' at the end is taken off, blanks and tabs there too, and nothing at all is no command.
+// The engine removes one ';' at the end, trailing blanks and tabs, and treats an empty text as no
+// command.
 bool IsEndNeeded(std::wstring_view written) {
   return written.empty() || written.back() == L';' || written.back() == L' ' ||
          written.back() == L'\t';

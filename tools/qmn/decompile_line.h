@@ -1,5 +1,6 @@
-// One line of a menu back into the text behind its '[': the reverse of the line parser and of the
-// passes. It leaves alone what no source line can say; whoever calls compiles the whole and sees.
+// Writes one line of a menu as the text after its '[': the reverse of the line parser and of the
+// passes. Does not detect what no source line can express; the caller compiles the result and
+// compares.
 #pragma once
 
 #include <string>
@@ -7,16 +8,17 @@
 
 class TMenuItem;
 
-// How much room a line leaves. Lines that are too long in their plain form are tried tighter.
+// How compactly a line is written. Lines that exceed the limit in the plain form are tried in the
+// next one.
 enum class LineForm {
   kPlain,
-  kTight,        // an ESC as itself and not as "^C"; no ';' at the end that isn't needed
-  kUnsheltered,  // and a label without the blank that only some neighbours make necessary
+  kTight,        // an ESC as the byte instead of "^C"; no optional ';' at the end
+  kUnsheltered,  // also without the blank before a label that only some neighbours need
 };
 
-// A command as it is written. It may be ended by one ';' more, and has to be when IsEndNeeded.
+// A command as it is written in a source. One more ';' may follow, and must when IsEndNeeded.
 std::wstring WrittenCommand(std::wstring_view command, LineForm form);
 bool IsEndNeeded(std::wstring_view written);
 
-// `closes` is the number of sub-menus whose last line this is.
+// `closes` is the number of sub-menus that end with this line.
 std::wstring WrittenLabel(const TMenuItem& item, int closes, LineForm form);

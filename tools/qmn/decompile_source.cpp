@@ -16,14 +16,14 @@ namespace {
 
 constexpr int kMostGroups = 2;
 constexpr int kLongestString = 197;
-// More pairs than these don't fit into a line in any case.
+// More closing pairs than this exceed the length of a line in any case.
 constexpr int kMostCloses = 100;
 
 std::wstring_view View(const TWCString& text) {
   return {text.c_str(), static_cast<size_t>(text.Length())};
 }
 
-// Whether the scanner reads the whole of `bytes` as one token of that kind.
+// True when the scanner reads the whole of `bytes` as one token of that kind.
 bool IsToken(int kind, const std::string& bytes, std::string_view inside) {
   SilentMessages messages;
   MenuScanner scanner(bytes, messages, nullptr, OpenComment::kStop);
@@ -52,7 +52,7 @@ class SourceWriter {
   struct Place {
     TMenuBar* bar;
     int next;
-    int closes;  // sub-menus that end with the last line of this bar, itself among them
+    int closes;  // sub-menus that end with the last line of this bar, including its own
   };
 
   void Refuse(const std::string& place, std::string text) {
@@ -149,7 +149,8 @@ class SourceWriter {
     const std::string field = "mask group " + std::to_string(CodeOf(group));
     switch (KindOf(group)) {
       case RTSHORT:
-        // A number is cut to 16 bits on its way in, so that a negative one has a positive name.
+        // The engine truncates numbers to 16 bits, so a negative one is written as its unsigned
+        // value.
         m_out += std::to_string(static_cast<unsigned short>(group.resval.rint));
         return;
       case RTREAL:
@@ -171,7 +172,7 @@ class SourceWriter {
     char text[40];
     const char* end = std::to_chars(text, text + sizeof text, value).ptr;
     std::string digits(static_cast<const char*>(text), end);
-    // A real is told from an integer by its point and a digit behind it.
+    // A real differs from an integer by its point and at least one digit after it.
     if (digits.find('.') == std::string::npos)
       digits.insert(std::min(digits.find('e'), digits.size()), ".0");
     m_out += digits;
@@ -284,7 +285,7 @@ class SourceWriter {
            bytes.find('\0') == std::string::npos;
   }
 
-  // Places take time to name, and most lines need none.
+  // Place names are expensive to build, and most lines need none.
   std::string PlaceIfNeeded(int block, int line, const TWCString& name) {
     std::string bytes;
     if (m_encoder.Append(View(name), bytes) && IsToken(QMN_IDENTIFIER, bytes, bytes)) return {};

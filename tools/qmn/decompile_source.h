@@ -1,5 +1,5 @@
-// A model back into menu source. What can't be put into tokens at all, or not at this place, is
-// listed as a refusal; whether the source then says the same as the model is for DifferencesOf.
+// Writes a model as menu source. What cannot be written as tokens, or not at this place, is listed
+// as a refusal. DifferencesOf finds whether the source means the same as the model.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 class TMenuSystem;
 
 struct Refusal {
-  std::string place;  // "block WALL, line 3"; lines are counted as the source has them
+  std::string place;  // "block WALL, line 3"; lines numbered as in the source
   std::string text;   // begins with the name of the field
 };
 
@@ -31,10 +31,10 @@ class Refusals {
 // With LF line ends and no layout.
 std::string WriteSource(TMenuSystem& system, unsigned page, Refusals& refusals);
 
-// What a compiled model has otherwise than the wanted one, which has the same blocks and lines.
+// Lists where a compiled model differs from the wanted one, which has the same blocks and lines.
 void DifferencesOf(TMenuSystem& wanted, TMenuSystem& made, Refusals& refusals);
 
-// Names of places, the same for both. Indexes count from 0.
+// Place names, used by both functions above. Indexes count from 0.
 std::string PlaceOfBlock(const TMenuSystem& system, int block);
 std::string PlaceOfLine(const TMenuSystem& system, int block, int line);
 std::string PlaceOfSwitch(const TMenuSystem& system, int index);

@@ -1,5 +1,5 @@
-// qmn dump: the model of a source or a compiled file. After an error it shows what the module would
-// have: nothing for a source, what was read until then for a compiled file.
+// qmn dump: the model of a source or a compiled file. After an error it shows the model that the
+// module would have: empty for a source, the part read before the error for a compiled file.
 #include <ostream>
 
 #include "tools/qmn/commands.h"

@@ -1,5 +1,5 @@
-// qmn fmt: sources into the canonical layout. A file is rewritten only when that changes it, and
-// only after what it compiles to was seen to be the same.
+// qmn fmt: rewrites sources in the canonical layout. A file is written only when its text changes,
+// and only after a check that it still compiles to the same bytes.
 #include <algorithm>
 #include <ostream>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-// False after an error, which is reported.
+// False after an error, which has been reported.
 bool CompileAloud(const std::string& file, const std::string& source, unsigned page,
                   const QmnStreams& streams, std::string& bytes) {
   TMenuSystem system;

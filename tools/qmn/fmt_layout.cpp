@@ -8,12 +8,11 @@
 
 namespace {
 
-// Names that are wider than this don't widen their column: one of them would push all the others
-// out of sight.
+// Longer names do not widen their column: one long name would move all other columns far right.
 constexpr size_t kWidestColumn = 24;
 constexpr char kContinuation[] = "    ";
 
-// A construct that has an output line of its own.
+// A construct that starts an output line.
 enum class RowKind { kTitle, kBlock, kLine, kSwitches, kSwitch, kState, kResources, kResource };
 
 struct Row {
@@ -70,7 +69,7 @@ class RowReader {
   size_t m_at = 0;
 };
 
-// Where a padded token stands in its row, by kind of row.
+// Index of the padded token in its row, by kind of row.
 constexpr size_t kIconOfLine = 0;
 constexpr size_t kNameOfSwitch = 1, kGetOfSwitch = 4;
 constexpr size_t kValueOfState = 0, kIconOfState = 2;
@@ -107,7 +106,7 @@ class Layout {
 
   // --- Columns
 
-  // Of the rows behind a section's head, up to the next one.
+  // Covers the rows after a section's head up to the next head.
   Columns Measure(size_t head) const {
     Columns columns;
     for (size_t i = head + 1; i < m_rows.size() && !IsSection(m_rows[i]); ++i)
@@ -143,7 +142,7 @@ class Layout {
 
   // --- Rows
 
-  // The comments in front of a token end where those of the next begin.
+  // The comments before a token end where those of the next token begin.
   size_t CommentsEnd(size_t token) const {
     return token + 1 < m_source.tokens.size() ? m_source.tokens[token + 1].firstComment
                                               : m_source.comments.size();
@@ -163,7 +162,7 @@ class Layout {
     }
   }
 
-  // Stay where they are; behind a // comment the row goes on in the next line.
+  // Inner comments keep their place; after a // comment the row continues on the next line.
   bool PutInnerComments(size_t token) {
     const size_t begin = m_source.tokens[token].firstComment, end = CommentsEnd(token);
     for (size_t i = begin; i < end; ++i) {
@@ -179,8 +178,8 @@ class Layout {
     m_out += token.kind == QMN_MENU_ITEM ? TrimmedLine(token.text) : token.text;
   }
 
-  // The command ends before the blanks at its end. A broken character in front of them may take the
-  // first of them along, and then they stay.
+  // Trailing blanks of the command are removed. When a broken character before them consumes the
+  // first blank, they are kept.
   std::string_view TrimmedLine(std::string_view line) const {
     const size_t size = line.find_last_not_of(" \t") + 1;
     if (size == line.size()) return line;
@@ -228,8 +227,9 @@ class Layout {
 
   // --- Between rows
 
-  // Comments behind the row before stay there, all others get lines of their own. Of several empty
-  // lines one stays; a section has one in front of it and of the comments that belong to it.
+  // Comments after the previous row on its line stay there, all others get lines of their own.
+  // Several empty lines become one; a section is preceded by one, placed before the section's
+  // comments.
   void PutGap(size_t token, bool hasRowBefore, bool section) {
     size_t i = m_source.tokens[token].firstComment;
     const size_t end = CommentsEnd(token);

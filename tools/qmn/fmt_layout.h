@@ -1,5 +1,5 @@
-// The one canonical layout of menu sources, over tokens and comments. What a token holds is never
-// changed; docs/qmn.md says what the layout is.
+// The canonical layout of menu sources, over tokens and comments. The text of a token is never
+// changed; docs/qmn.md describes the layout.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// A menu source in its canonical layout, for fmt and for what decompile writes.
+// Formats a menu source in its canonical layout. Used by fmt and by decompile.
 #pragma once
 
 #include <string>
@@ -7,13 +7,15 @@ enum class LineEnds { kLf, kCrLf };
 
 struct FormattedSource {
   std::string text;
-  int strayLine = 0;  // where a byte stands that the language skips; nothing is formatted then
+  // Line of a byte that the language skips, 0 for none; nothing is formatted when there is one.
+  int strayLine = 0;
 };
 
 // For a source that compiles without a message.
 FormattedSource FormatSource(const std::string& source, unsigned page);
 
-// The line ends of the first line.
+// The line end style of the first line.
 LineEnds LineEndsOf(const std::string& source);
-// From folded line ends. A CR in front of a line end is doubled, so that reading folds it back.
+// Restores line ends in folded text. A CR before a line end is doubled, so that folding restores
+// it.
 std::string Unfolded(const std::string& folded, LineEnds ends);

@@ -12,7 +12,7 @@ std::string_view WithoutBlanksAtEnd(std::string_view text) {
   return text;
 }
 
-// Reads what lies between two tokens.
+// Reads the gap between two tokens.
 class GapReader {
  public:
   GapReader(SourceTokens& out, const char* begin) : m_out(out), m_at(begin) {}
@@ -69,7 +69,7 @@ SourceTokens TokenizeSource(const std::string& folded) {
   MenuToken token;
   do {
     scanner.Next(token);
-    // The scanner leaves out the quote in front of a string and keeps it behind.
+    // A string token begins after its opening quote and ends after its closing one.
     const char* begin = token.begin - (token.kind == QMN_STRING ? 1 : 0);
     const auto firstComment = static_cast<uint32_t>(out.comments.size());
     if (!gap.ReadTo(begin)) {

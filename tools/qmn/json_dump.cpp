@@ -92,7 +92,8 @@ class JsonDump {
     m_json.Close();
   }
 
-  // Lines and sub-menus over a path on the heap, since a file may nest as deep as it is long.
+  // Iterates over lines and sub-menus with a path on the heap: nesting depth is limited by file
+  // size only.
   void Bar(TMenuBar& root) {
     std::vector<Place> path;
     BarHead(root);
@@ -118,7 +119,7 @@ class JsonDump {
     }
   }
 
-  // Leaves the array of the lines open.
+  // Leaves the array of lines open.
   void BarHead(TMenuBar& bar) {
     m_json.OpenObject();
     Text("name", bar.m_strName);
@@ -132,7 +133,7 @@ class JsonDump {
     m_json.OpenArray();
   }
 
-  // Ends with the key of the sub-menu.
+  // Ends with the key of the sub-menu, whose value the caller writes.
   void ItemHead(const TMenuItem& item) {
     m_json.OpenObject();
     Text("label", item.m_strLabel);

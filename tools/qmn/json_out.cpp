@@ -46,7 +46,7 @@ void AppendEscaped(std::string& out, char c) {
 
 }  // namespace
 
-// Deep dumps are mostly indent, so that it goes out in pieces as large as they come.
+// Deep dumps are mostly indentation, so it is written in large pieces.
 void PutIndent(std::ostream& out, size_t levels) {
   static const std::string blanks(4096, ' ');
   for (size_t left = 2 * levels; left;) {

@@ -1,5 +1,6 @@
-// JSON in one canonical layout: two spaces an indent, each element on its own line, empty arrays
-// and objects as [] and {}. Nesting costs heap only. Who calls it keeps keys and values in order.
+// JSON in one canonical layout: two spaces of indentation, each element on its own line, empty
+// arrays and objects as [] and {}. Nesting uses heap only. The caller is responsible for the order
+// of keys and values.
 #pragma once
 
 #include <iosfwd>
@@ -18,10 +19,10 @@ class JsonOut {
   void Key(std::string_view name);
   void Text(std::wstring_view units);
   void Integer(long long value);
-  // The shortest form that reads back; null for what JSON has no number for.
+  // The shortest form that reads back to the same value; null for values JSON cannot represent.
   void Real(double value);
   void Null();
-  void End();  // the newline behind the whole
+  void End();  // the newline at the end of the document
 
  private:
   struct Level {

@@ -1,5 +1,5 @@
-// qmn load: a compiled file through the model and out again. As itself the tool writes nothing
-// after an error; with --as-host it writes what the module has in its model by then.
+// qmn load: reads a compiled file into the model and writes it again. By default nothing is written
+// after an error; with --as-host the tool writes the part that the module would have read by then.
 #include <ostream>
 
 #include "tools/qmn/commands.h"

@@ -1,5 +1,5 @@
-// A model from whatever menu file is named, with its errors told. For subcommands that take source
-// and compiled files alike.
+// Loads the model of any menu file by name and reports its errors. For subcommands that accept
+// source and compiled files.
 #pragma once
 
 #include <string>
@@ -8,15 +8,15 @@
 
 class TMenuSystem;
 
-// By the name; without a telling one by the first bytes, the marker of a wide string or the length
-// of the magic.
+// Decided by the extension; for other names by the first bytes: the marker of a wide string or the
+// length of the magic.
 bool IsCompiledMenu(const std::string& name, const std::string& bytes);
 
-// False after an error. The system is then what the module would have: empty for a source, what was
-// read until then for a compiled file.
+// False after an error. The system is then what the module would have: empty for a source, the part
+// read before the error for a compiled file.
 bool ModelOfBytes(const std::string& name, std::string bytes, unsigned page,
                   const QmnStreams& streams, TMenuSystem& system);
 
-// An exit code.
+// Returns an exit code.
 int ReadModelAloud(const std::string& name, unsigned page, const QmnStreams& streams,
                    TMenuSystem& system);

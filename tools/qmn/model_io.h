@@ -1,5 +1,5 @@
-// Bytes into a model and back, for all subcommands. Compiling stops at a comment that never ends,
-// which the module would read on for ever.
+// Bytes to a model and back, for all subcommands. Compiling refuses an unterminated comment, on
+// which the module would never return.
 #pragma once
 
 #include <string>
@@ -10,16 +10,16 @@
 
 struct CompileResult {
   bool accepted = false;
-  int openCommentLine = 0;  // where a comment that never ends was opened; 0 without one
+  int openCommentLine = 0;  // where an unterminated comment begins; 0 for none
 };
 CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuSystem& system,
                             unsigned page = kUsualPage);
 
-// Null when all was read, else the name of the exception that the module shows. What was read until
-// then stays in the system.
+// Null when all was read, else the name of the exception that the module shows. The part read
+// before it stays in the system.
 const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system, unsigned page = kUsualPage);
 std::string SaveBytes(TMenuSystem& system);
 
-// What an exception of that name says about the file.
+// What an exception of that name means for the file.
 const char* Explain(const wchar_t* exception);
 extern const char kOpenCommentText[];

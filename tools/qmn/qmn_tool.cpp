@@ -109,7 +109,7 @@ void AddWhy(CLI::App& app, Options& options) {
   constexpr int kMostObjects = 1000000;
   CLI::App* command = app.add_subcommand("why", "Tell which block a selection gets, and why");
   command->add_option("FILE", options.why.in, "menu source or compiled file")->required();
-  // One value an option, so that FILE may stand behind them.
+  // One value per option, so that FILE may follow.
   const auto repeated = [command](const char* name, auto& values, const char* text) {
     return command->add_option(name, values, text)
         ->expected(1)
@@ -184,7 +184,7 @@ int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
   Options options;
   app.set_version_flag("--version", "qmn 1.0");
   app.require_subcommand(1);
-  // A path may begin with a slash, on Windows too.
+  // A path may begin with a slash, also on Windows.
   app.allow_windows_style_options(false);
   AddCompile(app, options);
   AddLoad(app, options);
@@ -195,7 +195,7 @@ int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams) {
   AddWhy(app, options);
   AddWhich(app, options);
   try {
-    // The parser takes its arguments from the end.
+    // The parser reads its arguments from the end.
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
   } catch (const CLI::ParseError& stop) {
     return app.exit(stop, streams.out, streams.err) == 0 ? kFine : kWrongUsage;

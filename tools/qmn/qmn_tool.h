@@ -1,6 +1,6 @@
 // The command line tool `qmn` without its process: arguments and streams in, exit code out.
-// main.cpp gives it the real ones, the tests their own. Each subcommand has a file of its own; the
-// words of the command line and --help are in qmn_tool.cpp.
+// main.cpp passes the real ones, tests their own. Each subcommand has its own file; option names
+// and --help texts are in qmn_tool.cpp.
 #pragma once
 
 #include <iosfwd>
@@ -9,7 +9,7 @@
 
 enum ExitCode {
   kFine = 0,
-  kFindings = 1,  // something is wrong in the input
+  kFindings = 1,  // the input has problems
   kWrongUsage = 2,
   kFileTrouble = 3,  // a file could not be read or written
 };
@@ -19,8 +19,8 @@ struct QmnStreams {
   std::ostream& out;       // data only; binary for compiled files
   std::ostream& err;       // messages, in UTF-8
   bool colour = false;     // of messages
-  bool colourOut = false;  // of data that is written for reading
+  bool colourOut = false;  // of data for reading
 };
 
-// `args` are UTF-8 and start behind the program's name.
+// `args` are UTF-8 and start after the program's name.
 int RunQmn(const std::vector<std::string>& args, const QmnStreams& streams);

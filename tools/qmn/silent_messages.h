@@ -1,4 +1,4 @@
-// For trying a source out: the engine's complaints are counted and shown to nobody.
+// For trial compilations: counts the engine's messages and prints none.
 #pragma once
 
 #include "menu/source_messages.h"

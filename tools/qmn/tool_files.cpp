@@ -33,14 +33,14 @@ bool WriteAll(const fs::path& path, const std::string& bytes) {
   return file.good();
 }
 
-// The file that a link leads to, so that the link stays one.
+// Resolves a link, so that writing replaces its target and not the link.
 fs::path Target(const fs::path& path) {
   std::error_code failure;
   const fs::path target = fs::weakly_canonical(path, failure);
   return failure ? path : target;
 }
 
-// A name beside the target that two runs at once don't share.
+// A name beside the target that is unique to this run.
 fs::path Beside(const fs::path& target) {
   fs::path name = target;
   name += "." + std::to_string(std::random_device{}()) + ".new";
@@ -78,9 +78,9 @@ bool WriteOutput(const std::string& name, const QmnStreams& streams, const std::
   std::error_code failure;
   const fs::file_status status = fs::status(target, failure);
   if (!fs::exists(status)) return WriteBesideAndRename(target, bytes);
-  // A device or a pipe is written to; a file put in its place would take it away from everybody.
+  // A device or pipe is written to: replacing it with a file would disconnect all its users.
   if (!fs::is_regular_file(status)) return !fs::is_directory(status) && WriteAll(target, bytes);
-  // A file that may not be written stays, though its folder would let it be replaced.
+  // A read-only file is kept, even when its folder would permit replacing it.
   if (!std::ofstream(target, std::ios::binary | std::ios::app)) return false;
   return WriteBesideAndRename(target, bytes);
 }

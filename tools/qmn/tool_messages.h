@@ -1,4 +1,4 @@
-// Where the engine's complaints go: the tool's own form with file and line, or the host's.
+// Output of the engine's messages: in the tool's form with file and line, or in the host's.
 #pragma once
 
 #include <ostream>
@@ -14,7 +14,7 @@ class ToolMessages : public SourceMessages {
       : m_file(std::move(file)), m_streams(streams) {}
   void ReportSyntaxError(const wchar_t* text, int line) override {
     ++m_count;
-    // Some of the engine's texts begin with a newline of their own, for the host's command line.
+    // Some of the engine's texts begin with a newline, for the host's command line.
     while (*text == L'\n' || *text == L' ') ++text;
     ReportError(m_streams, m_file + ":" + std::to_string(line), Utf8(text));
   }

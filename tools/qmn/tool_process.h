@@ -1,14 +1,14 @@
-// The program around RunQmn. win/ and native/ each have the entry point of their system; both call
-// RunProcess with arguments in UTF-8.
+// The process that runs RunQmn. win/ and native/ contain the entry points; both call RunProcess
+// with arguments in UTF-8.
 #pragma once
 
 #include <string>
 #include <vector>
 
 struct StandardStreams {
-  bool isErrorOnTerminal;  // a terminal that understands colour sequences
+  bool isErrorOnTerminal;  // a terminal that supports colour sequences
   bool isOutputOnTerminal;
 };
 
-// The exit code. A standard output that can't be written is an error of its own.
+// Returns the exit code. An unwritable standard output is an error of its own.
 int RunProcess(const std::vector<std::string>& args, StandardStreams streams);

@@ -1,4 +1,4 @@
-// Between the tool's UTF-8 and the engine's wide text of UTF-16 units, and the tool's own messages.
+// Conversion between the tool's UTF-8 and the engine's UTF-16, and the tool's own messages.
 #pragma once
 
 #include <string>
@@ -6,9 +6,9 @@
 
 #include "tools/qmn/qmn_tool.h"
 
-// A lone half of a pair becomes U+FFFD.
+// An unpaired surrogate becomes U+FFFD.
 std::string Utf8(std::wstring_view units);
-// Bytes that are no UTF-8 become U+FFFD.
+// Invalid UTF-8 becomes U+FFFD.
 std::wstring Wide(std::string_view utf8);
 
 // "where: error: text" and a newline.

@@ -1,6 +1,6 @@
 // qmn which: the search for the menu file, as the module makes it with these settings and folders.
-// The module's own search runs here; only the folders and the settings are given to it, and each
-// name that it asks for is written down. Nothing is loaded or changed.
+// Runs the module's own search with the given settings and folders and prints each name it looks
+// up. Nothing is loaded or changed.
 #include <filesystem>
 #include <ostream>
 
@@ -32,7 +32,7 @@ std::string TextOf(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
-// Files along the given folders, told step by step; the order is that of the host's support path.
+// Searches the given folders in the order of the host's support path and reports each step.
 class ToldFiles : public MenuFiles {
  public:
   ToldFiles(const WhichOptions& options, std::ostream& out) : m_options(options), m_out(out) {}
@@ -86,7 +86,7 @@ class ToldFiles : public MenuFiles {
   std::ostream& m_out;
 };
 
-// The search alone needs nobody to hand blocks to and nobody to speak to.
+// Empty implementation: the search passes on no blocks and prints nothing.
 class Nobody : public MenuUsers, public MenuPrinter, public MenuBoxes {
  public:
   TMenuSystem* CurrentSystem() override { return nullptr; }

@@ -21,7 +21,7 @@ std::wstring_view View(const TWCString& text) {
   return {text.c_str(), static_cast<size_t>(text.Length())};
 }
 
-// A number of the command line as the kind that its code has.
+// Converts a number of the command line to the type of its group code.
 GroupValue ValueOf(int code, const std::wstring& text) {
   const std::string narrow = Utf8(text);
   switch (QvxExport::TypeOfCode(code)) {
@@ -53,7 +53,7 @@ SelectionDescription Describe(const WhyQuestion& question) {
   return selection;
 }
 
-// The matching, asked block by block.
+// The matching, one block per step.
 class Walk {
  public:
   Walk(const TMenuSystem& system, const WhyQuestion& question)
@@ -67,7 +67,7 @@ class Walk {
   int Block() const { return m_block; }
   const MatchResult& Result() const { return m_result; }
 
-  // False behind the block that fits or behind the last one.
+  // False after the block that fits or after the last one.
   bool Next() {
     if (m_result.Matches() && m_block >= 0) return false;
     if (++m_block == m_system.Length()) return false;

@@ -1,5 +1,5 @@
-// The answer of qmn why: which block a selection gets, and what kept it from those before. The
-// matching itself is the module's own; here it is asked and put into words.
+// The answer of qmn why: which block a selection gets, and why the blocks before it do not fit. The
+// matching is the module's own; here it is called and described.
 #pragma once
 
 #include <iosfwd>
@@ -12,16 +12,16 @@
 class TMenuSystem;
 
 struct WhyQuestion {
-  struct Part {  // so many equal objects
+  struct Part {  // `count` equal objects
     std::wstring type, layer;
     int count;
   };
   std::vector<Part> parts;  // empty: nothing is selected
   bool paper = false;
   std::map<std::wstring, std::wstring> layerKeys;
-  std::map<int, std::wstring> groups;  // further groups, which all objects have
+  std::map<int, std::wstring> groups;  // additional groups, the same for all objects
 };
 
-// Both go through the blocks up to the chosen one.
+// Both list the blocks up to the chosen one.
 void AnswerInWords(const TMenuSystem& system, const WhyQuestion& question, std::ostream& out);
 void AnswerInJson(const TMenuSystem& system, const WhyQuestion& question, std::ostream& out);

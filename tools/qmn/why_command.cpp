@@ -1,5 +1,5 @@
-// qmn why: the words of the command line into a question about a selection. Types and layers belong
-// together in their order; one layer or one type alone is that of all.
+// qmn why: converts the command line to a question about a selection. Types and layers correspond
+// by index; a single layer or type applies to all.
 #include <algorithm>
 #include <ostream>
 
@@ -18,7 +18,7 @@ const T& Nth(const std::vector<T>& values, size_t index) {
   return values[values.size() == 1 ? 0 : index];
 }
 
-// False when the numbers of types, layers and counts don't go together.
+// False when the numbers of types, layers and counts don't match.
 bool ReadParts(const WhyOptions& options, WhyQuestion& question) {
   std::vector<std::string> layers = options.layers;
   std::vector<int> counts = options.counts;

@@ -1,6 +1,6 @@
-// "->" and "<-" that do not match. The engine takes a range only where the depth comes back to
-// exactly zero, so that one wrong arrow keeps the lines around it from nesting too; only the wrong
-// ones are reported.
+// Unmatched "->" and "<-". The engine nests a range only where the depth returns to exactly zero,
+// so one wrong arrow also keeps the lines around it from nesting; only the wrong arrows are
+// reported.
 #include "tools/qmn/check/line_rules.h"
 
 namespace {
@@ -44,15 +44,15 @@ class ArrowRules {
                                              (open == 1 ? " is open" : " are open");
     line.AddInLabel(Rule::kArrowClose, 0, 2 * static_cast<size_t>(pairs),
                     text + "; the arrow stays in the label");
-    // The openings around it are lost with it and are no faults of their own.
+    // The openings around it are lost too, but are not errors of their own.
     m_open.clear();
   }
 
   std::vector<const LineView*> m_open;
 };
 
-// An arrow that shows in the final label though the line does not begin with one, or that stands
-// behind the one that the line begins with.
+// Reports an arrow that remains in the final label: either the label does not begin with an arrow,
+// or this one follows the arrow that it begins with.
 void CheckBehind(const LineView& line) {
   const std::u32string_view label = line.Label();
   const Arrow first = ArrowOf(label);

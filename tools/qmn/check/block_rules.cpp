@@ -1,4 +1,4 @@
-// Masks and names of blocks: who can be chosen, and by what.
+// Masks and names of blocks: which blocks can be chosen, and by which selection or name.
 #include <cstdint>
 #include <string>
 #include <unordered_map>
@@ -44,7 +44,7 @@ class BlockRules {
       if (block.mask.size() > 2) Middle(block);
       const bool isFirst = Name(block);
       const BlockRole role = RoleOf(m_context, block);
-      // SCREEN leaves the menus as soon as they are loaded; nobody asks for its mask.
+      // SCREEN is removed from the blocks after loading; its mask is never used.
       if (role == BlockRole::kScreen && isFirst) {
         ScreenMask(block);
         continue;
@@ -58,7 +58,7 @@ class BlockRules {
   }
 
  private:
-  // False when one of them loses the blocks of the file.
+  // False when a group makes the engine drop all blocks of the file.
   bool Groups(const LintBlock& block) {
     bool isFine = true;
     for (const LintGroup& group : block.mask) isFine = Group(group) && isFine;
@@ -103,7 +103,7 @@ class BlockRules {
                                " is lost");
   }
 
-  // Whether it is the first of its name.
+  // True when it is the first block of its name.
   bool Name(const LintBlock& block) {
     if (!block.name) return false;
     const BlockRole role = RoleOf(m_context, block);

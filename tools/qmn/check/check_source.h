@@ -1,4 +1,4 @@
-// Every rule over one source.
+// Runs all rules over one source.
 #pragma once
 
 #include "tools/qmn/check/findings.h"
@@ -7,7 +7,7 @@
 
 Findings CheckSource(SourceText& source);
 
-// What the rules of the parts work on.
+// The input and output of the rules.
 struct CheckContext {
   SourceText& source;
   const LintTree& tree;
@@ -19,7 +19,7 @@ struct CheckContext {
   }
 };
 
-// The known names of blocks, which decide who looks for them.
+// Reserved block names; the name decides which code looks the block up.
 enum class BlockRole { kScreen, kToolBar, kNoSelection, kInPlace, kOther };
 BlockRole RoleOf(const CheckContext& context, const LintBlock& block);
 

@@ -1,4 +1,4 @@
-// What a command loses, and commands that nobody sends.
+// Parts of a command that are lost, and commands that are never sent.
 #include <array>
 
 #include "tools/qmn/check/line_rules.h"
@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kFirstAction = 5001, kLastAction = 5024, kNoAction = 5017;
 
-// As the editor reads it: blanks, a sign, digits.
+// Parsed as the editing actions do: blanks, a sign, digits.
 int NumberOf(std::wstring_view text) {
   size_t i = 0;
   while (i < text.size() && (text[i] == L' ' || (text[i] >= 9 && text[i] <= 13))) ++i;
@@ -26,7 +26,7 @@ void CheckAction(const LineView& line) {
                     "this is no editing action: expected 5001 to 5016 or 5018 to 5024");
 }
 
-// A pair at a time, as the engine walks.
+// Advances by pairs, as the engine does.
 void CheckCarets(const LineView& line) {
   std::u32string_view command = line.Command();
   if (command.back() == U';') command.remove_suffix(1);

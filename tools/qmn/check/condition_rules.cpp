@@ -1,9 +1,9 @@
-// Condition prefixes: those that are dropped, and those that stay in the label.
+// Condition prefixes that are dropped, and those that remain in the label.
 #include "tools/qmn/check/line_rules.h"
 
 namespace {
 
-// The engine looks at no shorter label.
+// The engine does not examine shorter labels.
 constexpr size_t kShortestLabel = 3;
 
 std::u32string_view TrimFront(std::u32string_view text) {
@@ -40,7 +40,7 @@ class ConditionWalk {
     const size_t equal = text.find(U'=');
     if (equal == text.npos)
       return Report("the prefix has no '=' and is dropped; expected {~=Function} or {!=Function}");
-    // The first word on the left counts, the others are not looked at.
+    // Only the first word on the left is used.
     const std::u32string_view left = TrimFront(text.substr(0, equal));
     const std::u32string_view word = left.substr(0, left.find(U' '));
     if (word != U"~" && word != U"!")
@@ -64,7 +64,7 @@ class ConditionWalk {
   bool m_hasGray = false, m_hasCheck = false;
 };
 
-// Where a prefix shows in the label that came out.
+// True when the compiled label contains a prefix.
 bool KeepsPrefix(const TMenuItem& item) {
   std::wstring_view label = TextOf(item.m_strLabel);
   if (label.find(L"{~=") != label.npos || label.find(L"{!=") != label.npos) return true;
@@ -73,7 +73,7 @@ bool KeepsPrefix(const TMenuItem& item) {
   return !label.empty() && label.front() == L'{';
 }
 
-// The label that came out is the end of the one that was written.
+// The compiled label is a suffix of the written one.
 size_t KeptAt(const LineView& line) {
   const std::u32string_view label = TrimBack(line.Label());
   const auto kept = static_cast<size_t>(line.Item().m_strLabel.Length());

@@ -1,5 +1,5 @@
-// What the rules found in one file. Any number may come in, in any order; the first ones by
-// position are kept and the others only counted, so that a file of garbage costs little memory.
+// The findings of one file. Any number may be added, in any order; only the first ones by position
+// are kept and the others counted, which limits the memory for a file of garbage.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ struct Finding {
   size_t begin = 0, end = 0;  // bytes of the source with its line ends folded
   Rule rule = Rule::kSyntax;
   std::string text;
-  int number = 0;  // in which order it came
+  int number = 0;  // order of arrival
 };
 
 class Findings {
@@ -24,7 +24,7 @@ class Findings {
   int Errors() const { return m_errors; }
   int Warnings() const { return m_warnings; }
   size_t Omitted() const;
-  std::vector<Finding> InOrder() const;  // by position, then as they came
+  std::vector<Finding> InOrder() const;  // by position, then by arrival
 
  private:
   size_t m_most;

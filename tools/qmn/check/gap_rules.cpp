@@ -16,7 +16,7 @@ size_t BehindComment(const std::string& bytes, size_t at, size_t end) {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 
-// The first run of stray bytes from `at` on; empty at the end of the gap.
+// The first run of stray bytes at or after `at`; empty when the gap has none.
 Run NextRun(const std::string& bytes, size_t at, size_t end) {
   Run run{end, end};
   while (at < end) {
@@ -33,7 +33,7 @@ Run NextRun(const std::string& bytes, size_t at, size_t end) {
   return run;
 }
 
-// The signs of the language have wide sisters that look the same in many fonts.
+// The ASCII sign for a full-width one: both look the same in many fonts.
 const char* AsciiOfWide(unsigned code) {
   switch (code) {
     case 0xFF0C:
@@ -70,7 +70,7 @@ bool IsMinusBefore(const GapContext& context, Run run, const LintToken& next) {
                      context.bytes.begin() + static_cast<std::ptrdiff_t>(next.begin), IsBlank);
 }
 
-// A mark in front of the file; how many bytes it has.
+// The size in bytes of a byte order mark at the start of the file; 0 for none.
 size_t CheckMark(const GapContext& context) {
   const std::string& bytes = context.bytes;
   if (bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) {

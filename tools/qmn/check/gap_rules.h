@@ -1,4 +1,4 @@
-// What stands between two tokens and means nothing.
+// Text between two tokens that the language ignores.
 #pragma once
 
 #include "tools/qmn/check/lint_tokens.h"
@@ -6,10 +6,10 @@
 struct GapContext {
   SourceText& source;
   Findings& findings;
-  const std::string& bytes;  // the source; what was reported before may be blanked
+  const std::string& bytes;  // the source; parts reported before may be blanked
 };
 
-// From `begin` to the token behind.
+// Checks from `begin` to the next token.
 void CheckGap(const GapContext& context, size_t begin, const LintToken& next);
-// What nobody reads behind a byte 0.
+// Reports text after a byte 0, which is not read.
 void CheckBehindZero(const GapContext& context, size_t zero);

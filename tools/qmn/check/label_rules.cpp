@@ -1,4 +1,4 @@
-// What a label loses, and the name in front of it.
+// Parts of a label that are lost, and the icon name before it.
 #include "tools/qmn/check/line_rules.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The walk over the lines of all blocks, and the rules that look at a whole menu or block.
+// Iterates over the lines of all blocks, and the rules about a whole menu or block.
 #include "tools/qmn/check/line_rules.h"
 
 #include <map>
@@ -8,7 +8,7 @@
 
 namespace {
 
-// Whether this is the block that the screen menu or the tool bar is made of: the first of its name.
+// Finds the blocks of the screen menu and the tool bar: the first of each name.
 class FirstBlocks {
  public:
   bool IsFirst(BlockRole role) {
@@ -23,7 +23,7 @@ class FirstBlocks {
 
 char32_t UpperOf(char32_t c) { return c >= U'a' && c <= U'z' ? c - 32 : c; }
 
-// The key looks for '&' and itself, wherever that stands in a label.
+// A mnemonic matches '&' and its letter anywhere in a label.
 class Mnemonics {
  public:
   void Check(const LineView& line) {

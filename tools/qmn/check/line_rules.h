@@ -1,9 +1,9 @@
-// The rules of menu lines, by what they look at.
+// The rules of menu lines, by the part that they check.
 #pragma once
 
 #include "tools/qmn/check/line_view.h"
 
-// The arrows of one block. `lines` are all its lines in the order of the file.
+// Checks the arrows of one block. `lines` are all its lines in file order.
 void CheckArrows(const CheckContext& context, const std::vector<LineView>& lines);
 void CheckLabel(const LineView& line);
 void CheckConditions(const LineView& line);

@@ -1,4 +1,4 @@
-// One menu line for its rules: its characters with their places, and what the engine made of it.
+// One menu line for its rules: its characters with their positions, and the compiled line.
 #pragma once
 
 #include <string>
@@ -19,19 +19,19 @@ class LineView {
   const LintLine& Source() const { return *m_model.source; }
   bool IsPopUp() const { return m_isPopUp; }
   bool IsInPlace() const { return m_isInPlace; }
-  // Not over-long or without an end, which was reported.
+  // False for an over-long or unterminated line, which has been reported.
   bool IsWhole() const { return Source().line.kind == QMN_MENU_ITEM; }
 
   bool HasBracket() const { return m_close != kNone; }
   std::u32string_view Label() const { return Part(1, HasBracket() ? m_close : 1); }
-  // Without the blanks and tabs at its end.
+  // Without trailing blanks and tabs.
   std::u32string_view Command() const { return Part(m_command, m_commandEnd); }
   bool SendsCommand() const;
 
-  // Places in the label and in the command.
+  // Positions in the label and in the command.
   void AddInLabel(Rule rule, size_t first, size_t last, std::string text) const;
   void AddInCommand(Rule rule, size_t first, size_t last, std::string text) const;
-  void AddLabel(Rule rule, std::string text) const;  // the whole of it with its brackets
+  void AddLabel(Rule rule, std::string text) const;  // the whole label with its brackets
   void AddIcon(Rule rule, std::string text) const { m_context.Add(rule, *Source().icon, text); }
 
   const CheckContext& Context() const { return m_context; }
@@ -47,7 +47,7 @@ class LineView {
   bool m_isPopUp;
   bool m_isInPlace;
   std::u32string m_characters;
-  std::vector<size_t> m_offsets;  // one more than characters
+  std::vector<size_t> m_offsets;  // one more entry than characters
   size_t m_close = kNone;
   size_t m_command = 0, m_commandEnd = 0;
 };
@@ -58,5 +58,5 @@ inline std::wstring_view TextOf(const TWCString& text) {
 
 enum class Arrow { kNone, kOpening, kClosing };
 Arrow ArrowOf(std::u32string_view label);
-// Leading "<-" pairs.
+// Counts leading "<-" pairs.
 int PairsOf(std::u32string_view label);

@@ -6,7 +6,7 @@
 
 // menu_bar : QMN_PREFIX QMN_IDENTIFIER QMN_IDENTIFIER QMN_EQUAL object_mask menu_item_list
 // menu_bar : QMN_PREFIX QMN_IDENTIFIER menu_item_list
-// Behind the prefix, at the name.
+// Called after the prefix, at the name.
 void LintParser::Block(const LintToken& prefix) {
   const LintToken name = Take();
   if (IsMisspelt(name, "SWITCH", QMN_SUB_PREFIX)) return Misspelt(name, "SWITCH");
@@ -30,7 +30,7 @@ void LintParser::Block(const LintToken& prefix) {
   m_tree.blocks.push_back(std::move(block));
 }
 
-// Only where the engine refuses what follows: a block may have such a name.
+// True only where the engine refuses what follows: a block may have such a name.
 bool LintParser::IsMisspelt(const LintToken& name, const char* word, int next) const {
   if (FoldedName(m_source, name) != FoldedName(word)) return false;
   if (next == QMN_SUB_PREFIX) return Is(next) || IsSectionEnd();
@@ -45,11 +45,11 @@ void LintParser::Misspelt(const LintToken& name, const char* word) {
   LintToken meant = name;
   meant.kind = *word == 'S' ? QMN_MENU_SWITCH : QMN_MENU_RES;
   Order(meant);
-  --m_at;  // the section's own function takes the word again
+  --m_at;  // the section's own function reads the word again
   meant.kind == QMN_MENU_SWITCH ? Switches() : Resources();
 }
 
-// The lines are looked at all the same.
+// The lines are checked all the same.
 void LintParser::NamelessBlock() {
   Unexpected("the name of a block, SWITCH or RESOURCE behind '***'");
   LintBlock block;

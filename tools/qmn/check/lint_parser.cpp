@@ -52,14 +52,14 @@ bool LintParser::ExpectToken(int kind, const char* what, LintToken& out) {
   return true;
 }
 
-// A broken text was reported when it was read, and stands for the text that it should be.
+// An unterminated text was reported when it was read, and counts as a valid one here.
 bool LintParser::ExpectText(const char* what, LintToken& out) {
   if (!At().IsText()) return Unexpected(what), false;
   out = Take();
   return true;
 }
 
-// Broken texts and lines were reported already, and so was the comment that hides the rest.
+// Unterminated texts and lines and an open comment have been reported already.
 void LintParser::Unexpected(const std::string& what) {
   ++m_unexpected;
   const LintToken& token = At();
@@ -115,7 +115,7 @@ void LintParser::Title() {
 }
 
 // qmn_menu : menu_title menu_bar_list menu_switch_list menu_res_list
-// At the prefix of a section.
+// Called at the prefix of a section.
 void LintParser::Section() {
   const LintToken prefix = Take();
   if (!Is(QMN_IDENTIFIER) && !Is(QMN_MENU_SWITCH) && !Is(QMN_MENU_RES)) return NamelessBlock();

@@ -1,7 +1,7 @@
-// The grammar of the menu language once more, this time to find every fault of a file: behind an
-// error it goes on with the next line, state, icon or section. What it takes without an error is
-// what the engine's parser takes; tests hold the two equal. Section words, title and order of the
-// file are in lint_parser.cpp, the entries of each section in lint_entries.cpp.
+// A second parser for the menu language, which finds every error of a file: after an error it
+// continues at the next line, state, icon or section. It accepts exactly what the engine's parser
+// accepts; tests compare the two. Section words, title and file order are in lint_parser.cpp, the
+// entries of each section in lint_entries.cpp.
 #pragma once
 
 #include <string>
@@ -62,5 +62,5 @@ class LintParser {
   LintTree m_tree;
   size_t m_at = 0;
   Phase m_phase = Phase::kBlocks;
-  int m_unexpected = 0;  // errors so far, those told elsewhere included
+  int m_unexpected = 0;  // errors so far, including those reported elsewhere
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-// What the engine reports is told from the tokens instead, in more words.
+// Drops the engine's messages and derives more detailed findings from the tokens.
 class TokenReader {
  public:
   TokenReader(SourceText& source, Findings& findings)
@@ -51,7 +51,7 @@ class TokenReader {
     return true;
   }
 
-  // The end of the file is shown behind its last line, not below it.
+  // Errors at the end of the file are shown after its last line, not on the line below.
   void End(LintToken token) {
     const size_t size = m_bytes.size();
     m_list.endedByZero = Offset(m_scanner.Position()) > token.begin;
@@ -63,13 +63,15 @@ class TokenReader {
     m_list.tokens.push_back(token);
   }
 
-  // `to` when there is none before it; looking on would cost a walk over the file each time.
+  // Returns `to` when there is none before it; searching the rest of the file each time would make
+  // reading quadratic.
   size_t Find(char wanted, size_t from, size_t to) const {
     const size_t at = std::string_view(m_bytes).substr(0, to).find(wanted, from);
     return std::min(at, to);
   }
 
-  // The scanner holds no more than its place, so that blanks in front of it are as good as a jump.
+  // The scanner's only state is its position, so blanking the skipped bytes is equivalent to a
+  // jump.
   void SkipTo(size_t to) {
     const size_t from = Offset(m_scanner.Position());
     for (size_t i = from; i < to; ++i) m_bytes[i] = ' ';
@@ -96,8 +98,8 @@ class TokenReader {
     if (quote != kNone) SkipTo(quote + 1);
   }
 
-  // A text that was meant to go on in the next line leaves an odd number of quotes there, the first
-  // of which was to end it: it stands behind no sign that a text follows.
+  // When a text was to continue in the next line, that line has an odd number of quotes, and the
+  // first one, meant as the closing quote, does not follow a sign that introduces a text.
   size_t QuoteOfNextLine(size_t line) const {
     if (line >= m_bytes.size()) return kNone;
     const size_t end = m_source.EndOfLineAt(line);
@@ -109,7 +111,7 @@ class TokenReader {
     return isOpening ? kNone : line + quote;
   }
 
-  // To the quote that was meant to end it, when it stands in the same line.
+  // Skips to the closing quote when it is on the same line.
   void LongText(LintToken& token, size_t position) {
     const size_t line = m_source.EndOfLineAt(position);
     const size_t quote = Find('"', position, line);
@@ -151,7 +153,7 @@ class TokenReader {
 
   SourceText& m_source;
   Findings& m_findings;
-  std::string m_bytes;  // a copy, in which what must not be read again is blanked
+  std::string m_bytes;  // a copy; parts that must not be read again are blanked
   SilentMessages m_silence;
   MenuScanner m_scanner;
   const char* m_base;

@@ -1,6 +1,6 @@
-// All tokens of a source at once, read by the engine's own scanner, with what it reports and what
-// it skips in silence as findings. Behind a broken text or an over-long menu line the reading goes
-// on where a reader would, so that one fault gives one finding.
+// All tokens of a source, read by the engine's own scanner. What the scanner reports and what it
+// skips without a message become findings. After an unterminated text or an over-long menu line,
+// reading continues at the likely end, so that one error gives one finding.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@
 
 struct LintToken {
   int kind = QMN_END;
-  size_t begin = 0, end = 0;  // a text with its quotes
+  size_t begin = 0, end = 0;  // of a text including its quotes
   int number = 0;
 
   bool IsText() const { return kind == QMN_STRING || kind == QMN_ERR_STRING; }

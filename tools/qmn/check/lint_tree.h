@@ -1,5 +1,5 @@
-// A menu source as it was written, faults and all, each part with its place. What could not be read
-// is left out.
+// A menu source as it was written, including its errors; each part has its position. Unreadable
+// parts are left out.
 #pragma once
 
 #include <optional>

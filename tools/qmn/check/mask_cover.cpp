@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr char kOthers[] = "#@.~[],`";  // wild cards that are compared as they stand only
+constexpr char kOthers[] = "#@.~[],`";  // wild cards that are only compared literally
 
 std::string KeyOf(const MaskGroup& group) {
   return std::to_string(group.code) + (group.isText ? '"' : '=') + group.value + '\n';
@@ -30,8 +30,8 @@ bool IsWider(const MaskGroup& wide, const MaskGroup& narrow) {
   return wide.value == narrow.value || (wide.isText && IsWiderPattern(wide.value, narrow.value));
 }
 
-// Each group of the wide mask asks no more than some group of the narrow one. Every object has a
-// type, so that "*" asks nothing.
+// True when each group of the wide mask is implied by some group of the narrow one. Every object
+// has a type, so "*" is always implied.
 bool IsWider(const EffectiveMask& wide, const EffectiveMask& narrow) {
   return std::all_of(wide.begin(), wide.end(), [&narrow](const MaskGroup& group) {
     if (group.code == 0 && group.value == "*") return true;
@@ -40,7 +40,7 @@ bool IsWider(const EffectiveMask& wide, const EffectiveMask& narrow) {
   });
 }
 
-// The same text for the same number, however it was written.
+// Gives equal numbers the same text, however they are written.
 std::string RealText(const std::string& number) {
   char text[40];
   std::snprintf(text, sizeof text, "%.17g", std::strtod(number.c_str(), nullptr));
@@ -67,8 +67,8 @@ EffectiveMask MaskOf(const SourceText& source, const LintBlock& block) {
   return mask;
 }
 
-// A star of the wide pattern swallows any piece of the narrow one, its stars too; a question mark
-// swallows one character that is no star.
+// A star of the wide pattern matches any part of the narrow one, including its stars; a question
+// mark matches one character except a star.
 bool IsWiderPattern(const std::string& wide, const std::string& narrow) {
   if (wide == narrow || wide == "*") return true;
   if (wide.find_first_of(kOthers) != std::string::npos) return false;
@@ -104,7 +104,7 @@ const LintBlock* MaskCover::Same(const EffectiveMask& mask) const {
   return first;
 }
 
-// Blocks stand in one array in the order of the file.
+// Blocks are in one array in file order, so their addresses compare by position.
 const LintBlock* MaskCover::Find(const EffectiveMask& mask) {
   const LintBlock* first = Same(mask);
   for (const Pattern& pattern : m_patterns) {

@@ -1,5 +1,5 @@
-// Which of the masks so far takes every object that a further one takes. Types and layers are
-// compared without case, with the wild cards of the host.
+// Finds an earlier mask that fits every object that a later one fits. Types and layers are compared
+// case-insensitively, with the host's wild cards.
 #pragma once
 
 #include <string>
@@ -11,16 +11,16 @@
 struct MaskGroup {
   int code;
   bool isText;
-  std::string value;  // folded text, or the number
+  std::string value;  // case-folded text, or the number
 };
 
-// The groups that count: the first and the last.
+// The groups that take effect: the first and the last.
 using EffectiveMask = std::vector<MaskGroup>;
 EffectiveMask MaskOf(const SourceText& source, const LintBlock& block);
 
 class MaskCover {
  public:
-  // The first block whose mask is the same or wider; null for none.
+  // The first block whose mask is equal or wider; null for none.
   const LintBlock* Find(const EffectiveMask& mask);
   void Add(const EffectiveMask& mask, const LintBlock* block);
 
@@ -33,10 +33,11 @@ class MaskCover {
   const LintBlock* Same(const EffectiveMask& mask) const;
 
   std::unordered_map<std::string, const LintBlock*> m_masks;
-  std::vector<Pattern> m_patterns;  // those with wild cards, which no key finds
-  // Comparisons with patterns that are left; a file with that many blocks is not read by anybody.
+  std::vector<Pattern> m_patterns;  // patterns with wild cards, which the key lookup can't find
+  // Pattern comparisons left before the search gives up. Bounds the time for files with very many
+  // blocks.
   int m_budget = 4'000'000;
 };
 
-// Whether the first wild card pattern takes all that the second one takes; false in doubt.
+// True when the first pattern matches everything that the second one matches; false in doubt.
 bool IsWiderPattern(const std::string& wide, const std::string& narrow);

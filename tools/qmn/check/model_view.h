@@ -1,7 +1,7 @@
-// What the engine makes of the lines that could be read. After a syntax error the engine gives
-// nothing, and a bad mask takes all blocks; so the readable lines, switches and icons are put into
-// a clean source, without titles and masks, and that is compiled. Labels, commands, sub-menus and
-// switches are then the engine's own word, also in a file that it refuses.
+// The engine's model of the readable lines. After a syntax error the engine returns an empty model,
+// and a bad mask drops all blocks; so the readable lines, switches and icons are written to a clean
+// source without titles and masks, which is compiled. Labels, commands, sub-menus and switches are
+// therefore the engine's own results, also for a file that it refuses.
 #pragma once
 
 #include <memory>
@@ -13,7 +13,7 @@
 struct ModelLine {
   const LintLine* source;
   const TMenuItem* item;
-  int bar;      // lines of one menu, not of its sub-menus, have one number
+  int bar;      // the same number for the lines of one menu, without its sub-menus
   bool isLast;  // of its menu
 };
 
@@ -21,9 +21,9 @@ class ModelView {
  public:
   ModelView(const SourceText& source, const LintTree& tree);
 
-  // The lines of a block in the order of the file, sub-menus in their places.
+  // The lines of a block in file order, sub-menus at their places.
   std::vector<ModelLine> LinesOf(size_t block) const;
-  // Nothing to compile, or the engine took what it got, which tests prove.
+  // True when there was nothing to compile or it compiled, which tests verify.
   bool IsWhole() const { return m_isWhole; }
 
  private:

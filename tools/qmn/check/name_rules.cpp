@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr int kMostReported = 32767;  // by a get function
+constexpr int kMostReported = 32767;  // the largest value a get function can return
 
 using Places = std::unordered_map<std::string, int>;
 
-// The line of the first one of that key, 0 when this is the first.
+// The line of the first entry of that key, 0 when this is the first.
 int EarlierLine(const CheckContext& context, Places& places, const std::string& key,
                 const LintToken& token) {
   const int line = context.source.LineOf(token.begin);

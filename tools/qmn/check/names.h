@@ -1,4 +1,4 @@
-// Names as the engine compares them.
+// Case folding of names, as the engine compares them.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 #include "menu/fold_case.h"
 #include "tools/qmn/check/lint_tokens.h"
 
-// Names are ASCII, so that folding needs no more.
+// Names are ASCII, so ASCII folding is enough.
 inline std::string FoldedName(std::string_view name) {
   std::string folded(name);
   for (char& c : folded) c = FoldAscii(c);

@@ -1,4 +1,4 @@
-// The findings of all files in the form that was asked for.
+// Writes the findings of all files in the requested form.
 #pragma once
 
 #include <iosfwd>
@@ -10,7 +10,7 @@
 
 struct ReportedFinding {
   Rule rule;
-  Place begin, end;  // the end is one column behind
+  Place begin, end;  // the end is exclusive
   std::string text;
   Snippet snippet;
 };
@@ -20,7 +20,7 @@ struct FileReport {
   bool isRead = false;
   std::vector<ReportedFinding> findings;
   int errors = 0, warnings = 0;
-  size_t omitted = 0;  // behind the last finding
+  size_t omitted = 0;  // findings cut after the last one
 };
 
 FileReport MakeReport(const std::string& file, SourceText& source, const Findings& findings);
@@ -29,7 +29,7 @@ void ReportAsText(const FileReport& report, std::ostream& out, bool colour);
 void ReportAsGitHub(const FileReport& report, std::ostream& out);
 void ReportAsJson(const std::vector<FileReport>& reports, std::ostream& out);
 void ReportAsSarif(const std::vector<FileReport>& reports, std::ostream& out);
-// One rule a line: code, severity, name, sentence.
+// One rule per line: code, severity, name, sentence.
 void ListRules(std::ostream& out);
 
 std::string OmittedText(const FileReport& report);

@@ -30,7 +30,7 @@ bool IsPlainInUri(char c) {
          c == '.' || c == '_' || c == '~' || c == '/';
 }
 
-// A path as a reference: what a URI can't hold is escaped, and an absolute one is a file URI.
+// A path as a URI reference: invalid characters are escaped, an absolute path becomes a file URI.
 std::string UriOf(const std::string& file) {
   constexpr char kDigits[] = "0123456789ABCDEF";
   const bool isDrive = file.size() > 2 && file[1] == ':' && (file[2] == '\\' || file[2] == '/');

@@ -1,4 +1,4 @@
-// The forms that are written line by line: text and the workflow commands of GitHub.
+// The line-based forms: text and GitHub workflow commands.
 #include <ostream>
 
 #include "tools/qmn/check/report.h"
@@ -14,7 +14,7 @@ std::string Positioned(const FileReport& report, const ReportedFinding& finding)
          std::to_string(finding.begin.column);
 }
 
-// In the data of a workflow command.
+// Escapes the data of a workflow command.
 std::string EscapedData(const std::string& text) {
   std::string out;
   for (const char c : text) {
@@ -30,7 +30,7 @@ std::string EscapedData(const std::string& text) {
   return out;
 }
 
-// In its properties, which end at colons and commas.
+// Escapes a property of a workflow command, which ends at a colon or comma.
 std::string EscapedProperty(const std::string& text) {
   std::string out;
   for (const char c : EscapedData(text)) {
@@ -78,7 +78,7 @@ void ReportAsGitHub(const FileReport& report, std::ostream& out) {
     const RuleInfo& info = InfoOf(finding.rule);
     out << "::" << WordOf(info.severity) << " file=" << file << ",line=" << finding.begin.line
         << ",endLine=" << finding.end.line << ",col=" << finding.begin.column;
-    // An end column is read in the line where the finding begins.
+    // The end column is interpreted on the line where the finding begins.
     if (finding.begin.line == finding.end.line) out << ",endColumn=" << finding.end.column;
     out << ",title=" << EscapedProperty(std::string(info.code) + " " + info.name)
         << "::" << EscapedData(finding.text) << "\n";

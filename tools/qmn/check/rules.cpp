@@ -7,7 +7,7 @@ namespace {
 constexpr Severity kErr = Severity::kError;
 constexpr Severity kWarn = Severity::kWarning;
 
-// In the order of the enumeration. A code that was given out is never used for another rule.
+// In the order of the enumeration. A code is never reused for another rule.
 constexpr RuleInfo kRules[] = {
     {Rule::kSyntax, "QMN001", kErr, "syntax",
      "Something else was expected here; the file leaves no menu at all."},

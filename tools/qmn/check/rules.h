@@ -1,7 +1,7 @@
-// The rules of `qmn check`: one table with the code that stays the same for good, the severity, a
-// short name and one sentence. The text output, the rules of the SARIF form, --list-rules and
-// docs/menu-checks.md all follow it. An error is what the engine refuses; a warning is what it
-// takes and loses in silence.
+// The rules of `qmn check`: one table with the permanent code, the severity, a short name and one
+// sentence. The text output, the rules of the SARIF form, --list-rules and docs/menu-checks.md
+// follow it. An error is what the engine refuses; a warning is what it accepts but partly ignores
+// without a message.
 #pragma once
 
 #include <span>
@@ -72,7 +72,7 @@ struct RuleInfo {
 };
 
 const RuleInfo& InfoOf(Rule rule);
-std::span<const RuleInfo> AllRules();  // by code
+std::span<const RuleInfo> AllRules();  // sorted by code
 inline const char* WordOf(Severity severity) {
   return severity == Severity::kError ? "error" : "warning";
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr size_t kShownBefore = 60;  // characters of a long line in front of the place
+constexpr size_t kShownBefore = 60;  // characters of a long line before the position
 constexpr size_t kShownInAll = 160;
 
 std::string Folded(std::string bytes) {
@@ -16,7 +16,7 @@ std::string Folded(std::string bytes) {
   return bytes;
 }
 
-// A picture for what a terminal would obey.
+// Replaces control characters by visible ones, so that a terminal does not obey them.
 unsigned Printable(unsigned code) {
   if (code < 0x20) return code == '\t' ? code : 0x2400 + code;
   if (code == 0x7F) return 0x2421;
@@ -86,7 +86,7 @@ const std::vector<SourceText::Character>& SourceText::CharactersOf(int line) {
   return m_characters;
 }
 
-// The character that the byte belongs to; one behind the last for the end of the line.
+// Index of the character that contains the byte; one past the last for the end of the line.
 size_t SourceText::IndexAt(const std::vector<Character>& characters, size_t offset) const {
   const auto behind = std::upper_bound(characters.begin(), characters.end(), offset,
                                        [](size_t at, const Character& c) { return at < c.offset; });

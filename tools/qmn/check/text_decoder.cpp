@@ -12,8 +12,7 @@ constexpr uint16_t kReplacement = 0xFFFD;
 
 unsigned ByteAt(std::string_view text, size_t at) { return static_cast<unsigned char>(text[at]); }
 
-// One unit that stands for a character, or the replacement. Systems differ in what they put in the
-// place of bytes that are none.
+// The single unit of a character, or the replacement: systems substitute invalid bytes differently.
 uint16_t OneUnit(std::string_view bytes, unsigned page) {
   const std::wstring wide = AnsiToWide(bytes, page);
   if (wide.size() != 1 || wide[0] == 0 || wide[0] == L'?') return kReplacement;
@@ -56,7 +55,7 @@ TextChar TextDecoder::Pair(std::string_view pair) {
 TextChar TextDecoder::Single(char byte) {
   uint16_t& unit = m_singles[static_cast<unsigned char>(byte) - 0x80];
   if (!unit) unit = OneUnit({&byte, 1}, m_page);
-  // Some systems keep a byte that is no character in the private area.
+  // Some systems map invalid bytes to the private use area.
   if (unit >= 0xE000 && unit < 0xF900) unit = kReplacement;
   return {1, unit, unit != kReplacement};
 }

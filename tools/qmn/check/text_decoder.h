@@ -1,5 +1,5 @@
-// Characters of a source, one at a time: how many bytes each has, what it is, how wide it shows.
-// The engine decodes whole tokens; positions and snippets need the bytes of each character.
+// Decodes a source one character at a time: size in bytes, code, display width. The engine decodes
+// whole tokens; positions and snippets need the bytes of each character.
 #pragma once
 
 #include <array>
@@ -26,12 +26,12 @@ class TextDecoder {
   TextChar Single(char byte);
 
   unsigned m_page;
-  std::vector<uint16_t> m_pairs;  // by the two bytes; 0 not asked yet, U+FFFD not one character
+  std::vector<uint16_t> m_pairs;  // by the two bytes; 0 not decoded yet, U+FFFD not one character
   std::array<uint16_t, 128> m_singles{};
 };
 
-// Whole sequences only, none of them longer than needed, no halves of pairs.
+// Accepts only whole, shortest-form sequences without surrogates.
 TextChar NextUtf8(std::string_view text, size_t at);
 
-// Columns on a terminal: 2 for the wide characters of East Asia, 0 for combining ones.
+// Terminal columns: 2 for East Asian wide characters, 0 for combining ones.
 int DisplayWidth(unsigned code);

@@ -41,7 +41,7 @@ void CheckNumber(const GapContext& context, const LintToken& token, double real)
                        "this number is too large and becomes 2147483647");
 }
 
-// The engine looks for quotes and backslashes byte by byte, whatever character they belong to.
+// The engine searches quotes and backslashes by byte, also within double-byte characters.
 void CheckDoubleByte(const GapContext& context, size_t at) {
   if (context.bytes[at + 1] != '\\' || at + 2 >= context.bytes.size()) return;
   if (context.bytes[at + 2] != '"') return;

@@ -1,4 +1,4 @@
-// What a single token loses: characters that do not decode, backslashes, cut words and numbers.
+// Lost parts of single tokens: invalid characters, backslashes, truncated words and numbers.
 #pragma once
 
 #include "tools/qmn/check/gap_rules.h"

@@ -9,7 +9,7 @@
 
 namespace {
 
-// A console of another page shows UTF-8 while the program runs, and is given back as it was.
+// Sets the console to UTF-8 while the program runs and restores its code page afterwards.
 class ConsolePage {
  public:
   ConsolePage() { SetConsoleOutputCP(CP_UTF8); }
@@ -21,7 +21,7 @@ class ConsolePage {
   const UINT m_before = GetConsoleOutputCP();
 };
 
-// Whether a stream goes to a console that understands colour sequences.
+// True when the stream is a console that supports colour sequences.
 bool IsOnTerminal(DWORD stream) {
   HANDLE console = GetStdHandle(stream);
   DWORD mode = 0;
