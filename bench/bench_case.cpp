@@ -42,7 +42,8 @@ std::string CompileWithPeer(const std::string& source) {
   return peer::Write(menu);
 }
 
-// The compiled bytes, the same from both, also after each has loaded and written them again.
+// Compiles with engine and peer and returns the bytes. Ends the program unless both give the same
+// bytes, also after each has loaded and rewritten them.
 std::string CheckedBytes(const std::string& source, const std::string& path) {
   NoMessages none;
   const std::unique_ptr<TMenuSystem> system = CompileWithEngine(source);
@@ -65,7 +66,7 @@ void RemoveOwnFolder() {
   std::filesystem::remove_all(std::getenv(kFolderVariable), ignored);
 }
 
-// One a run, shared with the processes that this one starts, gone with it.
+// One folder per run, shared with the child processes and removed at exit.
 std::string OwnFolder() {
   if (const char* given = std::getenv(kFolderVariable)) return given;
   std::string folder = (std::filesystem::temp_directory_path() / "qvx_bench.XXXXXX").string();

@@ -1,6 +1,5 @@
-// The inputs of one size, made once a run: source, canonical JSON with and without white space,
-// compiled
-// file on disk. Engine and peer have been held to equal bytes before anybody gets one.
+// The inputs of one size, made once per run: source, canonical JSON with and without white space,
+// compiled file on disk. Every input has been checked to give equal bytes with engine and peer.
 #pragma once
 
 #include <memory>
@@ -21,10 +20,11 @@ struct BenchCase {
 
 // Ends the program with a message when engine and peer differ, or when a source does not compile.
 const BenchCase& CaseOf(int lines);
-// Generator and peer on small inputs, the given source files (the product's menus) among them.
+// Checks generator and peer on small inputs, including the given source files (the product's
+// menus).
 void CheckPeer(const std::string& folder);
 
-// Any message ends the program: a benchmark of a failure would be none.
+// Ends the program on any message: a benchmark of a failing compilation is meaningless.
 class NoMessages : public SourceMessages, public MenuBoxes {
  public:
   void ReportSyntaxError(const wchar_t* text, int line) override;
@@ -33,5 +33,5 @@ class NoMessages : public SourceMessages, public MenuBoxes {
 
 std::unique_ptr<TMenuSystem> CompileWithEngine(std::string source);
 std::wstring WidePath(const std::string& path);
-std::string BenchFile(const std::string& name);  // in a folder that goes with this process
+std::string BenchFile(const std::string& name);  // in a folder that is removed at exit
 [[noreturn]] void FailLoudly(const std::string& text);

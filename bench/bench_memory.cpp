@@ -1,8 +1,7 @@
-// Memory of one model, from source and from a compiled file, engine and peer, each in a process of
-// its own. Three figures: what the heap handed out and has not got back (malloc's own count, with
-// its overhead), what the process has more in memory with the model than before (after unused heap
-// went back to the system), and the peak on the way. Everything that is made once a process is made
-// on a small menu first. Writes JSON for the table.
+// Measures the memory of one model, from source and from a compiled file, for engine and peer, each
+// in a process of its own. Three figures: allocated heap (malloc's own count, with its overhead),
+// growth of resident memory after unused heap was returned to the system, and the peak on the way.
+// One-time allocations are made beforehand with a small menu. Writes JSON for the table.
 #include <malloc.h>
 
 #include <cstdio>

@@ -1,7 +1,7 @@
-// Times the menu engine and its peers, all in one run, at four sizes. Every figure leaves the
-// freeing of the model out and gives it as a counter of its own. Time is the processor time of the
-// thread, in the system's file calls too, so that other work on the machine counts less; time on
-// the clock is a counter. bench/run calls it and makes the table of ratios.
+// Times the menu engine and its peers in one run, at four sizes. Freeing the model is excluded from
+// the time and reported as a counter. Time is the processor time of the thread including system
+// calls, so that other load on the machine has less effect; wall clock time is a counter. bench/run
+// calls this program and makes the table of ratios.
 //   bench_menu --mix    prints the shares of kinds of line instead
 #include <benchmark/benchmark.h>
 #include <rapidjson/document.h>
@@ -30,7 +30,7 @@ struct Nothing {
   void operator()() const {}
 };
 
-// `make` gives an owner of what it made; `bytes` is the size of what it read. `prepare` comes
+// `make` returns an owning pointer to the result; `bytes` is the size of its input. `prepare` runs
 // before each round and is not measured.
 template <class Make, class Prepare = Nothing>
 void Measure(benchmark::State& state, const BenchCase& in, size_t bytes, Make make,
@@ -62,7 +62,8 @@ const BenchCase& Input(const benchmark::State& state) {
 
 void EngineCompile(benchmark::State& state) {
   const BenchCase& in = Input(state);
-  // The engine keeps the text that a file was read into; another one is made outside the clock.
+  // The engine takes ownership of the source text, so each round gets a copy, made outside the
+  // measurement.
   std::string source;
   Measure(
       state, in, in.source.size(), [&] { return CompileWithEngine(std::move(source)); },

@@ -1,7 +1,7 @@
-// Holds the reading of hostile files to its bounds. Each file is read in a process of its own:
-// from opening it until the model is freed again. Time is the processor's, system calls included,
-// the best of a few runs; memory is the peak of what the process has in memory, over what it had
-// before, the worst of them.
+// Checks that reading hostile files stays within bounds. Each file is read in a process of its own,
+// measured from opening the file until the model is freed. Time is processor time including system
+// calls, the best of a few runs; memory is the peak resident size above that at the start, the
+// worst of the runs.
 //   hostile_bounds [--table]   exit code 1 when a bound is broken; --table prints markdown
 #include <algorithm>
 #include <cstdio>
@@ -32,7 +32,7 @@ struct Bound {
 constexpr Bound kSource{0.010, 300e-9, 8e6, 160};
 constexpr Bound kCompiled{0.010, 100e-9, 8e6, 32};
 
-// Words each message as the host prints it, and keeps none, as the host keeps none.
+// Formats each message as the host prints it and, like the host, keeps none.
 class PrintedMessages : public SourceMessages, public MenuBoxes {
  public:
   void ReportSyntaxError(const wchar_t* text, int line) override {

@@ -40,7 +40,7 @@ std::string ItemTail(uint32_t switchIndex = kFourBillion) {
 }
 std::string Item() { return kNone + kNone + U32(0) + ItemTail(); }
 
-// As many units as fit behind the head; the count in front of them tells the truth or not.
+// The head and as many units as fit. The head's count is not adjusted to the number of units.
 std::string Filled(size_t bytes, const std::string& head, const std::string& unit) {
   std::string text = head;
   text.reserve(bytes + unit.size());
@@ -52,7 +52,7 @@ uint32_t Fitting(size_t bytes, const std::string& head, const std::string& unit)
   return bytes > head.size() ? static_cast<uint32_t>((bytes - head.size()) / unit.size()) : 0;
 }
 
-// With the count that fits in place of the four bytes at the end of `head`.
+// Replaces the four bytes at the end of `head` by the actual count.
 std::string Honest(size_t bytes, std::string head, const std::string& unit,
                    const std::string& tail = "") {
   const uint32_t count = Fitting(bytes - std::min(bytes, tail.size()), head, unit);
@@ -73,7 +73,7 @@ std::string Nested(size_t bytes, bool closed) {
   return text;
 }
 
-// Sub-menus without lines, so that each costs a bar.
+// Sub-menus without lines: each allocates a bar.
 std::string EmptySubMenus(size_t bytes) {
   return Honest(bytes, ToLines(0), kNone + kNone + U32(1) + BarHead(0) + U32(0) + ItemTail());
 }

@@ -1,5 +1,5 @@
-// Files made to hurt whoever reads them: each kind grows to any size, sources end properly. The
-// same name and size give the same bytes every time.
+// Files made to exhaust the reader's time or memory. Each kind scales to any size, and sources end
+// properly. The same name and size give the same bytes every time.
 #pragma once
 
 #include <string>

@@ -12,7 +12,7 @@ const std::string kHead = "MENU_TITLE=\"a\"\n***B\n[a]\n";
 const std::string kTail = "***SWITCH\n***RESOURCE\n";
 constexpr int kDamagedBytesPerMillion = 200;
 
-// Head, as many units as fit, tail.
+// The head, as many units as fit, the tail.
 std::string Filled(size_t bytes, const std::string& unit, const std::string& head = kHead,
                    const std::string& tail = kTail) {
   std::string text = head;
@@ -21,7 +21,7 @@ std::string Filled(size_t bytes, const std::string& unit, const std::string& hea
   return text + tail;
 }
 
-// Units that differ, from a function of their number.
+// Distinct units, generated from their number.
 template <class Unit>
 std::string Counted(size_t bytes, Unit unit, const std::string& head, const std::string& tail) {
   std::string text = head;
@@ -30,7 +30,7 @@ std::string Counted(size_t bytes, Unit unit, const std::string& head, const std:
 }
 
 std::string ClosedAtOnce(size_t bytes) {
-  // Half the bytes open levels, the other half closes 97 of them a line.
+  // Half the bytes open levels; the other half closes them, 97 per line.
   std::string closing = "[";
   for (int i = 0; i < 97; ++i) closing += "<-";
   const size_t levels = bytes * 24 / 25 / 5;
@@ -50,10 +50,10 @@ std::string DeepAndClosed(size_t bytes) {
 
 std::string Sawtooth(size_t bytes) { return Filled(bytes, "[->\n[->\n[<-\n[->\n[<-\n[<-\n"); }
 
-// One pair too many in each, so that no range ever ends at exactly nothing.
+// Each range closes one pair too many, so the depth never ends at exactly zero.
 std::string PastTheEnd(size_t bytes) { return Filled(bytes, "[->\n[<-<-\n"); }
 
-// All spellings of one word that differ in the case of its letters.
+// Spellings of one word that differ only in case.
 std::string Spelling(int number) {
   std::string name(24, 'a');
   for (size_t bit = 0; bit < name.size(); ++bit)

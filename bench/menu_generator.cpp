@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kFewestLines = 100;
 
-// Shares of the product menu, a line each.
+// Shares of the product menu, per line.
 constexpr double kResourcesPerLine = 0.197;
 constexpr double kSwitchesPerLine = 0.0133;
 constexpr int kLinesPerSwitch = 3;
@@ -58,7 +58,7 @@ class Generator {
   }
 
  private:
-  // Switch section with its heading, resource section with its heading.
+  // Lines of the switch section and the resource section, including their headings.
   int Tail() const { return 5 + kLinesPerSwitch * m_switches + 5 + m_icons + 2 * m_switches; }
   int Left() const { return m_bodyEnd - m_made; }
 
@@ -102,7 +102,7 @@ class Generator {
     return text;
   }
 
-  // A new one as long as the body has more icons ahead than lines, else one seen before.
+  // A new icon while the share of used icons is below the share of written lines, else a used one.
   std::string Icon() {
     const double due = static_cast<double>(m_icons) * m_made / m_bodyEnd;
     const bool fresh = m_usedIcons == 0 || (m_usedIcons < m_icons && m_usedIcons < due);
@@ -123,7 +123,7 @@ class Generator {
     Line(icon + "[" + label + "]" + Command());
   }
 
-  // From its "->" line to the line with "<-"; deeper ones inside.
+  // From the "->" line to the line with "<-", including deeper sub-menus.
   void SubMenu(int depth) {
     Line("[->" + Label() + "]");
     const int count = Between(depth == 1 ? 4 : 3, depth == 1 ? 10 : 5);

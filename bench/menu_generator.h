@@ -1,15 +1,15 @@
-// Menus of any size that look like the product's main menu: the same kinds of line in the same
-// shares, code page 936, and as many icons, switches and blocks as a menu of that size would have.
-// The same seed gives the same bytes on every machine. Used by the benchmarks only.
+// Menus of any size with the product main menu's mix: the same kinds of line in the same shares,
+// code page 936, and icons, switches and blocks in proportion. The same seed gives the same bytes
+// on every machine. Used by the benchmarks only.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
-// Exactly `lines` newlines; at least 100 are made.
+// Returns exactly `lines` lines, at least 100.
 std::string GenerateMenu(int lines, uint64_t seed);
 
-// What kinds of line a source is made of. A line end counts as one byte, CR LF too.
+// Counts of the kinds of line in a source. Every line end counts as one byte, also CR LF.
 struct MenuMix {
   int lines = 0;
   int comments = 0;

@@ -1,4 +1,4 @@
-// The table that sets the generated menus beside the product's.
+// Compares the mix of the generated menus with the product's.
 #pragma once
 
 #include <string>

@@ -11,7 +11,7 @@
 
 namespace {
 
-// A line such as "VmHWM:     1234 kB".
+// Parses a line such as "VmHWM:     1234 kB".
 size_t StatusBytes(const char* field) {
   std::FILE* file = std::fopen("/proc/self/status", "r");
   if (!file) return 0;

@@ -22,9 +22,9 @@ struct ParseState {
   void Report(const char* text) { menu.messages.push_back(std::to_string(line) + ": " + text); }
 };
 
-// The inside of one menu line: "[label]command".
+// Parses the text of one menu line: "[label]command".
 void ParseLine(const std::u16string& text, Item& item);
-// False with a message when the group's code takes no such value.
+// False with a message when the group's code does not accept the value.
 bool MakeInteger(ParseState& state, int code, int value, Group& group);
 bool MakeReal(ParseState& state, int code, double value, Group& group);
 bool MakeString(ParseState& state, int code, std::string_view value, Group& group);

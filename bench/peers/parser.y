@@ -8,7 +8,7 @@
 #include "bench/peers/parse_state.h"
 }
 %code provides {
-#define YYSTYPE PEER_YYSTYPE  // the name that flex uses
+#define YYSTYPE PEER_YYSTYPE  // the name that flex expects
 int peer_yylex(PEER_YYSTYPE* value, void* scanner);
 }
 %code {

@@ -1,4 +1,4 @@
-// What the benchmarks call: source to model, model to compiled file, compiled file to model.
+// Entry points for the benchmarks: source to model, model to compiled file, compiled file to model.
 #pragma once
 
 #include <cstddef>

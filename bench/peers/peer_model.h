@@ -1,6 +1,5 @@
-// The menu model as a plain program would keep it: standard strings and vectors, everything by
-// value. The yardstick that bench_menu holds the engine against; nothing but the benchmarks uses
-// it.
+// The menu model as a plain program would define it: standard strings and vectors, everything by
+// value. The reference for bench_menu; used by the benchmarks only.
 #pragma once
 
 #include <cstdint>

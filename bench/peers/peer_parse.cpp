@@ -1,4 +1,5 @@
-// Starts flex and bison over a source in memory, and what the grammar's actions call.
+// Runs flex and bison over a source in memory, and implements the functions of the grammar's
+// actions.
 #include <algorithm>
 #include <string>
 
@@ -46,7 +47,7 @@ bool KindFits(ParseState& state, int code, short kind, const char* name) {
   return false;
 }
 
-// Each '^' takes the character behind it along; "^C" is an ESC.
+// Each '^' is removed with the character after it; "^C" becomes ESC.
 std::u16string WithoutCarets(const std::u16string& text) {
   std::u16string out;
   out.reserve(text.size());

@@ -1,4 +1,4 @@
-// The passes behind the parse: icons and switches by an index of names, nesting, conditions.
+// The passes after the parse: icons and switches by an index of names, nesting, conditions.
 #include <algorithm>
 #include <string>
 #include <unordered_map>
@@ -47,7 +47,7 @@ int ClosedLevels(const Item& item) {
   return count;
 }
 
-// The line that closes what `first` opens; 0 when none does.
+// The line that closes what `first` opens; 0 when there is none.
 size_t FindLast(const std::vector<Item>& items, size_t first) {
   int depth = 0;
   for (size_t i = first; i < items.size(); ++i) {

@@ -1,5 +1,5 @@
-// The compiled file into the model: the whole file into memory, every text copied, every length
-// checked. Texts without the marker of a wide one are not read, since no writer here makes them.
+// Reads a compiled file into the model: the whole file into memory, every text copied, every length
+// checked. Texts without the wide marker are not supported, since no writer here makes them.
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>

@@ -19,7 +19,7 @@ char16_t ConvertOne(iconv_t converter, char* bytes, size_t count) {
   return unit;
 }
 
-// By both bytes of a character; a single byte stands at its own value.
+// Indexed by both bytes of a character; a single byte is at its own value.
 class Table {
  public:
   Table() : m_units(0x10000, kInvalid) {

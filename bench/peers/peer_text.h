@@ -1,4 +1,4 @@
-// Code page 936 to UTF-16 by a table that is filled once.
+// Converts code page 936 to UTF-16 with a table that is filled once.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// The compiled file out of the model, collected in memory and written in one go.
+// Writes the model as a compiled file, built in memory and written with one call.
 #include <cstdio>
 #include <cstring>
 #include <string>

@@ -1,5 +1,5 @@
-// What the palette is compared with: as many owner-drawn buttons of the window system itself in one
-// parent, created hidden, enabled, placed, shown and painted with a plain fill and a text.
+// The reference for the palette: as many owner-drawn buttons of the window system in one parent,
+// created hidden, enabled, placed, shown and painted with a plain fill and a text.
 #pragma once
 
 #include <vector>

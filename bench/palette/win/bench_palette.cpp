@@ -1,7 +1,7 @@
-// Measures the palette in a real frame: building a tree of 1000 rows beside as many bare buttons,
-// folding, scrolling by the wheel. Times go to standard output as "name milliseconds". Before and
-// after each part a global atom of the name is looked up, which shows in the window server's log,
-// so that `requests` can count what each part asks of the server.
+// Measures the palette in a real frame: building a tree of 1000 rows, compared with as many bare
+// buttons; folding; scrolling by the wheel. Prints times to standard output as "name milliseconds".
+// Before and after each part it looks up a global atom named after the part. The lookup is logged
+// by the window server, so `requests` can count the requests of each part.
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -55,7 +55,7 @@ void PaintAll(CWnd& window) {
   window.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
-// The palette comes up empty; the menu is attached inside the measured part.
+// The palette is created empty; attaching the menu is part of the measurement.
 void AttachMenu(const char* part, std::unique_ptr<TMenuBar> menu) {
   InitScreenMenu(true, true);
   ThePaletteHost().Pump();
@@ -83,7 +83,7 @@ class IconHost : public qvx::ScreenMenuHost {
   TMenuSystem m_system;
 };
 
-// Where the root's rows stand.
+// Positions of the visible rows of the root.
 std::vector<CRect> ShownPlaces(CMenuGroup& root) {
   std::vector<CRect> places;
   for (int i = 0; i < root.RowCount(); ++i) {
@@ -163,7 +163,8 @@ void MeasureFolding() {
   TakeDown("folding_down");
 }
 
-// From the old palette with 600 rows to the last paint of the new one, without reading the menu.
+// From the old palette with 600 rows to the last paint of the new one; reading the menu is
+// excluded.
 void MeasureReload(const char* part, int openIndex) {
   const auto attach = [] {
     InitScreenMenu(true, true);
@@ -184,7 +185,7 @@ void MeasureReload(const char* part, int openIndex) {
   qvx::SaveActiveSubMenu(-1);
 }
 
-// The same tree with an icon on every line, out of the product's icon library.
+// The same tree with an icon on every line, from the product's icon library.
 void MeasureIcons(const wchar_t* library) {
   g_hQvxDll = ::LoadLibraryW(library);
   if (!g_hQvxDll) return;

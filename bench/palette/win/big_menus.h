@@ -1,5 +1,4 @@
-// Menus of the sizes that the palette is measured with. Made in memory: reading menus is measured
-// elsewhere.
+// Menus for the palette measurements, built in memory: reading menus is measured elsewhere.
 #pragma once
 
 #include <memory>
@@ -10,7 +9,7 @@ namespace bench {
 
 // One level of plain lines.
 std::unique_ptr<TMenuBar> FlatMenu(int rows);
-// Headers with plain lines below them, `rows` in all; the last group takes what is left over.
+// Headers with plain lines below them, `rows` in all; the last group gets the remainder.
 std::unique_ptr<TMenuBar> FoldingMenu(int headers, int rows);
 
 }  // namespace bench

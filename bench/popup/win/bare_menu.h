@@ -1,6 +1,6 @@
-// What a context menu is measured beside: a pop-up of as many owner-drawn rows by the window system
-// alone. Its owner measures the text of a row once and draws ground and text with one kept font; it
-// has no model, no icons, no switches.
+// The reference for the context menu: a pop-up of as many owner-drawn rows by the window system
+// alone. Its owner measures the text of a row once and draws background and text with one cached
+// font; it has no model, no icons, no switches.
 #pragma once
 
 #include <string>

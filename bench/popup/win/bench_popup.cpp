@@ -1,6 +1,7 @@
-// Measures how long a right click takes until the first row of its menu is painted, and until all
-// are, beside a bare menu of as many owner-drawn rows; both in turn in one run, the medians count.
-// Ours has 40 lines, 10 of them switches that ask a LISP function, and an icon on each line.
+// Measures the time from a right click until the first row of its menu is painted, and until all
+// rows are, against a bare menu of as many owner-drawn rows; both alternate in one run, medians are
+// compared. The product menu has 40 lines, 10 of them switches with a LISP function, and an icon on
+// each line.
 //
 //   bench_popup ICON_LIBRARY [ROUNDS]
 #include <algorithm>
@@ -32,7 +33,7 @@ struct Times {
 Times g_times;
 double g_start = 0;
 
-// The owner has drawn a row when its WM_DRAWITEM returns; all are drawn at the first idle moment.
+// A row is drawn when its WM_DRAWITEM returns; all are drawn at the first idle moment.
 LRESULT CALLBACK OnReturned(int code, WPARAM wParam, LPARAM lParam) {
   const auto& sent = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
   if (code >= 0 && sent.message == WM_DRAWITEM && !g_times.first) g_times.first = Now() - g_start;
@@ -97,7 +98,7 @@ void AddSwitch(TMenuSystem& system, TMenuBar& bar, int number, int icon) {
 
 void FillMenu(TMenuSystem& system, const std::vector<std::wstring>& icons) {
   auto* bar = new TMenuBar;
-  bar->m_strName = L"Common";  // not the one that gets the recent commands
+  bar->m_strName = L"Common";  // a name that does not get the recent commands
   system.Append(bar);
   for (int i = 0; i < kLines; ++i) {
     const int icon = icons.empty() ? -1 : i;
@@ -138,7 +139,7 @@ int main(int argc, char** argv) {
   std::vector<Times> bare, ours;
   {
     bench::BareMenu menu(host.frame->m_hWnd);
-    for (int round = -2; round < rounds; ++round) {  // the first ones warm up
+    for (int round = -2; round < rounds; ++round) {  // the first rounds warm up
       const Times theirs = Measure([&] { menu.Show(labels, {200, 60}); });
       const Times own = Measure([] { ShowContextMenu(CPoint(200, 60), 1); });
       host.diary.clear();
