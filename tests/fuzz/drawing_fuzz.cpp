@@ -17,7 +17,7 @@ std::size_t CountIn(AcDbDatabase& database) {
 }  // namespace
 
 std::wstring FuzzDrawing(std::string_view bytes) {
-  devhost::TheHost();  // the classes are known
+  devhost::TheHost();  // registers the drawing classes
   AcDbDatabase first, second;
   if (!devhost::ReadDrawingText(bytes, L"fuzz.dxf", first).readAnything) return {};
   devhost::BuildScene(first, 1);

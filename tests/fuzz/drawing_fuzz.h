@@ -1,9 +1,8 @@
-// One round with hostile drawing bytes, for the libFuzzer program and for the fixed runs.
+// One iteration with arbitrary drawing bytes, for the libFuzzer program and for the fixed runs.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// Reads, draws, writes and reads again. What is wrong with the second reading, empty when nothing
-// is.
+// Reads, draws, writes and reads again. Returns the errors of the second reading, empty for none.
 std::wstring FuzzDrawing(std::string_view bytes);

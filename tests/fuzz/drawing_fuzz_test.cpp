@@ -1,4 +1,4 @@
-// Fixed runs of damaged drawings: the same every time, short enough for every test run.
+// Fixed runs of damaged drawings with constant seeds, short enough for every test run.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -9,7 +9,7 @@
 
 namespace {
 
-// A drawing with a few places changed, cut out, doubled or filled with what means something there.
+// A drawing with a few parts changed, removed, duplicated or replaced by meaningful pieces.
 std::string Damaged(const std::string& good, std::mt19937& random) {
   static const std::string bits[] = {"\n",
                                      "0\n",
@@ -58,7 +58,7 @@ std::string Damaged(const std::string& good, std::mt19937& random) {
 
 }  // namespace
 
-TEST(DrawingFuzz, WhateverIsReadIsWrittenSoThatItReadsWell) {
+TEST(DrawingFuzz, ADamagedDrawingIsRewrittenWithoutErrors) {
   const std::string good = hosttest::SmallDrawing();
   std::mt19937 random(20240608);
   for (int round = 0; round < 2000; ++round) {
@@ -68,7 +68,7 @@ TEST(DrawingFuzz, WhateverIsReadIsWrittenSoThatItReadsWell) {
   }
 }
 
-TEST(DrawingFuzz, RandomLinesAreNoDrawingAndNoHarm) {
+TEST(DrawingFuzz, RandomGroupsAreRewrittenWithoutErrors) {
   std::mt19937 random(7);
   for (int round = 0; round < 300; ++round) {
     std::string text = "0\nSECTION\n2\nENTITIES\n";

@@ -1,5 +1,5 @@
-// libFuzzer entry: drawings in the exchange format. Whatever is read is drawn, written and read
-// again; the second reading must find nothing to complain of.
+// libFuzzer entry: drawings in the exchange format. What is read is drawn, written and read again;
+// the second reading must report no error.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

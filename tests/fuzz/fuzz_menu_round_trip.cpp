@@ -1,4 +1,4 @@
-// libFuzzer entry: menu source to compiled file and back, and its layout.
+// libFuzzer entry: menu source to compiled file and back, and formatting.
 #include <cstddef>
 #include <cstdint>
 

@@ -10,7 +10,7 @@ void Promise(bool kept) {
   if (!kept) std::abort();
 }
 
-// Whatever a system holds is written, read and written again to the same bytes.
+// The system must be written, read and written again to the same bytes.
 void RoundTrip(TMenuSystem& system) {
   const std::string first = SaveBytes(system);
   TMenuSystem back;

@@ -1,6 +1,6 @@
-// What the fuzzers and the short fixed run in the tests do with one input: a menu source, a
-// compiled file, and the way from source to compiled file and back. Each stops the process when a
-// promise is broken; the sanitizers see the rest.
+// One iteration of the fuzzers and of the fixed run in the tests: a menu source, a compiled file,
+// and the round trip from source to compiled file. Each stops the process when an invariant is
+// violated; the sanitizers detect the rest.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// A short run of the menu fuzzers with fixed seeds: the golden sources and what they compile to,
-// cut, doubled, spliced and with bytes changed; and the inputs that longer runs have kept.
+// A short run of the menu fuzzers with fixed seeds: the golden sources and their compiled files,
+// cut, duplicated, spliced and with bytes changed; and the inputs kept from longer runs.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -54,7 +54,7 @@ std::string Mutated(const std::string& seed, const std::string& other, std::mt19
   return text;
 }
 
-TEST(MenuFuzz, SourcesSurviveAFixedRun) {
+TEST(MenuFuzz, MutatedSourcesKeepTheInvariants) {
   const std::vector<std::string> seeds = Sources();
   ASSERT_FALSE(seeds.empty());
   std::mt19937 random(1);
@@ -62,7 +62,7 @@ TEST(MenuFuzz, SourcesSurviveAFixedRun) {
     FuzzMenuSource(Mutated(seeds[random() % seeds.size()], seeds[random() % seeds.size()], random));
 }
 
-TEST(MenuFuzz, CompiledFilesSurviveAFixedRun) {
+TEST(MenuFuzz, MutatedCompiledFilesKeepTheInvariants) {
   std::vector<std::string> seeds;
   for (const std::string& source : Sources()) {
     Compiled compiled;
@@ -76,7 +76,7 @@ TEST(MenuFuzz, CompiledFilesSurviveAFixedRun) {
         Mutated(seeds[random() % seeds.size()], seeds[random() % seeds.size()], random));
 }
 
-// What the fuzzers kept, tools/fuzz merge: the smallest inputs that reach what was reached.
+// The corpus of tools/fuzz merge: the smallest inputs with the same coverage as all inputs.
 std::vector<std::string> Corpus(const char* target) {
   std::vector<std::string> inputs;
   for (const auto& entry :
@@ -85,7 +85,7 @@ std::vector<std::string> Corpus(const char* target) {
   return inputs;
 }
 
-TEST(MenuFuzz, TheInputsThatTheFuzzersKeptAreReplayed) {
+TEST(MenuFuzz, TheCorpusKeepsTheInvariants) {
   const std::vector<std::string> sources = Corpus("menu_source"),
                                  compiled = Corpus("compiled_menu");
   EXPECT_GT(sources.size(), 50u);

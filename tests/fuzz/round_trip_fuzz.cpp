@@ -13,7 +13,7 @@
 namespace {
 
 constexpr unsigned kPage = 936;
-// Said when no place can be named, which must not be.
+// The refusal without a place. It must never be given.
 constexpr char kNoWay[] = "no source gives these bytes";
 
 void Promise(bool kept) {
@@ -31,7 +31,7 @@ std::string Recompiled(const std::string& source) {
   return SaveBytes(system);
 }
 
-// What came from a source always goes back.
+// What was compiled from a source must always decompile.
 void WayBack(TMenuSystem& system, const std::string& bytes, bool fromSource) {
   Refusals refusals;
   const std::string source = Decompile(bytes, system, kPage, refusals);

@@ -1,6 +1,6 @@
-// What the fuzzer and the short fixed run do with one input for the ways round the menu language:
-// a source is compiled, decompiled and compiled again, and laid out; a compiled file is decompiled
-// or refused. Each stops the process when a promise is broken.
+// One iteration of the fuzzer and of the fixed run: a source is compiled, decompiled and compiled
+// again, and formatted; a compiled file is decompiled or refused. Each stops the process when an
+// invariant is violated.
 #pragma once
 
 #include <string>

@@ -48,7 +48,7 @@ std::string Mutated(std::string text, std::mt19937& random) {
   return text;
 }
 
-TEST(MenuRoundTripFuzz, TheCorpusSurvivesAFixedRun) {
+TEST(MenuRoundTripFuzz, TheMutatedCorpusKeepsTheInvariants) {
   const std::vector<std::string> seeds = Corpus();
   ASSERT_GE(seeds.size(), 5u);
   std::mt19937 random(7);

@@ -1,5 +1,6 @@
-// The check against the engine, over mutated menus and over garbage: an error for each source that
-// the engine refuses, none for one that it takes, and an end in every case. The seed is fixed.
+// Compares the check with the engine over mutated menus and over garbage: an error for each source
+// that the engine refuses, none for one that it accepts, and termination in every case. The seed is
+// fixed.
 #include <random>
 
 #include "menu/menu_model.h"
@@ -35,7 +36,7 @@ class Mutator {
     for (size_t count = 1 + Below(2); count > 0; --count) Once(source);
     return source;
   }
-  // Pieces of the language in any order.
+  // Pieces of the language in random order.
   std::string Salad() {
     std::string out;
     for (size_t count = Below(60); count > 0; --count) out += Piece();
@@ -135,7 +136,7 @@ TEST(CheckAgrees, TheProductMenusHaveNothingToReport) {
     }
 }
 
-TEST(CheckAgrees, MutatedMenusHaveAnErrorExactlyWhereTheEngineRefusesThem) {
+TEST(CheckAgrees, MutatedMenusHaveAnErrorExactlyWhenTheEngineRefusesThem) {
   const std::vector<std::string> menus = Menus();
   Mutator mutator(20240611);
   int taken = 0;
@@ -144,24 +145,24 @@ TEST(CheckAgrees, MutatedMenusHaveAnErrorExactlyWhereTheEngineRefusesThem) {
     ASSERT_NO_FATAL_FAILURE(ExpectAgreement(source)) << i;
     taken += EngineTakes(source);
   }
-  // Both kinds must be there for the comparison to say anything.
+  // Both kinds must occur often, or the comparison would be meaningless.
   EXPECT_GT(taken, 300);
   EXPECT_LT(taken, 2700);
 }
 
-TEST(CheckAgrees, WordsOfTheLanguageInAnyOrderHaveAnErrorExactlyWhereTheEngineRefusesThem) {
+TEST(CheckAgrees, RandomTokensHaveAnErrorExactlyWhenTheEngineRefusesThem) {
   Mutator mutator(7);
   for (int i = 0; i < 10000; ++i) ASSERT_NO_FATAL_FAILURE(ExpectAgreement(mutator.Salad())) << i;
 }
 
-TEST(CheckAgrees, AnyBytesAreReadToTheirEnd) {
+TEST(CheckAgrees, RandomBytesAreReadToTheEnd) {
   Mutator mutator(99);
   for (int i = 0; i < 2000; ++i)
     ASSERT_NO_FATAL_FAILURE(ExpectAgreement(mutator.Bytes(mutator.Below(600)))) << i;
 }
 
-// The lines that could be read must compile by themselves, whatever the file around them is.
-TEST(CheckAgrees, WhatWasReadOfABrokenFileStillCompiles) {
+// The readable lines must compile by themselves, whatever surrounds them in the file.
+TEST(CheckAgrees, TheReadablePartOfABrokenFileCompiles) {
   const std::vector<std::string> menus = Menus();
   Mutator mutator(5);
   for (int i = 0; i < 2000; ++i) {

@@ -1,4 +1,4 @@
-// The command: exit codes, formats, order, positions, and what is said word for word.
+// The command: exit codes, formats, order, positions, exact message texts.
 #include <nlohmann/json.hpp>
 
 #include "tests/qmn/check_testing.h"
@@ -18,14 +18,14 @@ const std::string kRefused = Framed("blocks", "***LAYOUT\n");
 
 class CheckCommand : public QmnTest {};
 
-TEST_F(CheckCommand, SaysNothingOfAFileThatIsFine) {
+TEST_F(CheckCommand, PrintsNothingForAFileWithoutFindings) {
   const QmnRun run = Check(Framed("lines", "[Wall]^C^CWALL;\n"));
   EXPECT_EQ(run.code, 0);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(run.err, "");
 }
 
-TEST_F(CheckCommand, FailsOnAnErrorAndOnAWarningOnlyWhenAsked) {
+TEST_F(CheckCommand, FailsOnAnErrorAndOnAWarningOnlyOnRequest) {
   EXPECT_EQ(Check(kRefused).code, 1);
   EXPECT_EQ(Check(kRefused, {"--fail-on", "error"}).code, 1);
   EXPECT_EQ(Check(kWarned).code, 0);
@@ -33,7 +33,7 @@ TEST_F(CheckCommand, FailsOnAnErrorAndOnAWarningOnlyWhenAsked) {
   EXPECT_EQ(Check(kWarned, {"--fail-on", "warning"}).code, 1);
 }
 
-TEST_F(CheckCommand, RefusesWhatItDoesNotKnow) {
+TEST_F(CheckCommand, RefusesMissingAndUnknownArguments) {
   EXPECT_EQ(Qmn({"check"}).code, 2);
   EXPECT_EQ(Check("", {"--format", "xml"}).code, 2);
   EXPECT_EQ(Check("", {"--fail-on", "nothing"}).code, 2);
@@ -57,7 +57,7 @@ TEST_F(CheckCommand, FilesComeInTheOrderInWhichTheyWereGiven) {
   EXPECT_EQ(run.out, Qmn({"check", one, two}).out);
 }
 
-TEST_F(CheckCommand, SyntaxErrorsSayWhatWasExpectedAndWhatCame) {
+TEST_F(CheckCommand, SyntaxErrorsNameTheExpectedAndTheFoundToken) {
   EXPECT_EQ(Check(Framed("lines", "GET [Wall]^C^CWALL;\n")).out,
             "-:3:1: error: expected a menu line or '***', found the reserved word 'GET' [QMN001]\n"
             "GET [Wall]^C^CWALL;\n"
@@ -93,7 +93,7 @@ TEST_F(CheckCommand, AColumnCountsCharactersAndTheCaretTheirWidth) {
             "            ^~\n");
 }
 
-TEST_F(CheckCommand, TheCaretStandsRightBehindTabsAndInFilesWithCrLf) {
+TEST_F(CheckCommand, TheCaretIsPlacedCorrectlyAfterTabsAndInFilesWithCrLf) {
   const QmnRun run = Check(
       "MENU_TITLE = \"T\"\r\n***COMMON\r\n\t/* 墙 */\tB\t[x]^C^CX;\r\n"
       "***SWITCH\r\n***RESOURCE\r\n");
@@ -102,7 +102,7 @@ TEST_F(CheckCommand, TheCaretStandsRightBehindTabsAndInFilesWithCrLf) {
   EXPECT_EQ(run.out.find('\r'), std::string::npos);
 }
 
-TEST_F(CheckCommand, AnErrorAtTheEndOfTheFileIsShownBehindItsLastLine) {
+TEST_F(CheckCommand, AnErrorAtTheEndOfTheFileIsShownAfterItsLastLine) {
   EXPECT_EQ(Check("MENU_TITLE = \"T\"\n***COMMON\n[Wall]\n***SWITCH\n").out,
             "-:4:10: error: the file ends without ***RESOURCE; it may be empty [QMN002]\n"
             "***SWITCH\n"
@@ -114,13 +114,13 @@ TEST_F(CheckCommand, AnErrorAtTheEndOfTheFileIsShownBehindItsLastLine) {
       "-:1:1: error: the file ends without a block, ***SWITCH and ***RESOURCE [QMN002]\n\n^\n");
 }
 
-TEST_F(CheckCommand, WhatATerminalWouldObeyIsShownAsAPicture) {
+TEST_F(CheckCommand, ControlCharactersAreShownAsPictures) {
   const QmnRun run = Check(Framed("lines", "[Wall\x1b[2J\x07]^C^PWALL;\n"));
   EXPECT_NE(run.out.find("[Wall␛[2J␇]"), std::string::npos) << run.out;
   EXPECT_EQ(run.out.find('\x1b'), std::string::npos);
 }
 
-TEST_F(CheckCommand, OfALongLineThePartAroundThePlaceIsShown) {
+TEST_F(CheckCommand, OfALongLineThePartAroundThePositionIsShown) {
   const std::string source = Framed("icons", std::string(5000, ' ') + "?" + std::string(5000, ' '));
   const QmnRun run = Check(source);
   EXPECT_LT(run.out.size(), 500u);
@@ -129,11 +129,11 @@ TEST_F(CheckCommand, OfALongLineThePartAroundThePlaceIsShown) {
   EXPECT_NE(run.out.find("\n   " + std::string(60, ' ') + "^\n"), std::string::npos);
 }
 
-TEST_F(CheckCommand, ColourIsForTheStreamOfTheFindingsOnly) {
+TEST_F(CheckCommand, FindingsHaveTheColourSettingOfTheirOwnStream) {
   EXPECT_EQ(Qmn({"check", "-"}, kRefused, true).out.find('\x1b'), std::string::npos);
 }
 
-TEST_F(CheckCommand, ManyFindingsAreCutAndCounted) {
+TEST_F(CheckCommand, FindingsBeyondTheLimitAreCounted) {
   std::string lines;
   for (int i = 0; i < 1500; ++i) lines += "[x]^P;\n";
   const QmnRun run = Check(Framed("lines", lines), {"--format", "json"});
@@ -161,7 +161,7 @@ TEST_F(CheckCommand, JsonNamesEveryFinding) {
             }])"));
 }
 
-TEST_F(CheckCommand, SarifHasWhatTheStandardAsksFor) {
+TEST_F(CheckCommand, SarifHasThePropertiesThatTheStandardRequires) {
   const std::string file = Write(u8"墙 1.qmn", kWarned);
   const QmnRun run = Qmn({"check", "--format", "sarif", file, Name(u8"none.qmn")});
   EXPECT_EQ(run.code, 3);
@@ -190,7 +190,7 @@ TEST_F(CheckCommand, SarifHasWhatTheStandardAsksFor) {
   EXPECT_EQ(log["invocations"][0]["toolExecutionNotifications"].size(), 1u);
 }
 
-TEST_F(CheckCommand, GitHubGetsItsWorkflowCommandsWithTheirEscapes) {
+TEST_F(CheckCommand, GitHubWorkflowCommandsAreEscaped) {
   EXPECT_EQ(Check(kWarned, {"--format", "github"}).out,
             "::warning file=-,line=3,endLine=3,col=9,endColumn=11,title=QMN047 caret-pair::the '^' "
             "vanishes together with the character behind it; only ^C means something\n");

@@ -1,4 +1,4 @@
-// Where a rule begins and where it ends: what stands right beside a fault and is none.
+// The limits of each rule: sources that come close to a finding and have none.
 #include <sstream>
 
 #include "tests/qmn/check_testing.h"
@@ -13,7 +13,7 @@ using Codes = std::set<std::string>;
 Codes Lines(const std::string& text) { return CodesOf(Framed("lines", text)); }
 Codes Blocks(const std::string& text) { return CodesOf(Framed("blocks", text)); }
 
-TEST(CheckEdges, APatternIsWiderOnlyWhereItTakesAllThatTheOtherTakes) {
+TEST(CheckEdges, APatternIsWiderOnlyWhenItMatchesAllThatTheOtherMatches) {
   const std::pair<const char*, const char*> wider[] = {
       {"*", "a"},   {"*", "~a"},    {"a*", "ab"}, {"a*", "a*b*"}, {"a?c", "abc"},  {"a?", "a?"},
       {"*b", "ab"}, {"a*c", "abc"}, {"?*", "a*"}, {"a*", "a"},    {"[ab]", "[ab]"}};
@@ -26,7 +26,7 @@ TEST(CheckEdges, APatternIsWiderOnlyWhereItTakesAllThatTheOtherTakes) {
     EXPECT_FALSE(IsWiderPattern(wide, narrow)) << wide << " " << narrow;
 }
 
-TEST(CheckEdges, ASecondScreenBlockStaysAndItsMaskIsLookedAt) {
+TEST(CheckEdges, ASecondScreenBlockStaysAndItsMaskIsChecked) {
   EXPECT_EQ(Blocks("***SCREEN\n[a]x;\n***Screen B = 0,\"W\"\n[a]x;\n"), Codes{"QMN031"});
 }
 
@@ -35,7 +35,7 @@ TEST(CheckEdges, ABlockThatIsFoundByItsNameIsNotHiddenByAMask) {
   EXPECT_EQ(Blocks("***A B = 0,\"*\"\n[a]x;\n***INPLACE8 B = 0,\"W\"\n[a]x;\n"), Codes{"QMN033"});
 }
 
-TEST(CheckEdges, AMaskBehindALostMiddleIsJudgedByWhatIsLeftOfIt) {
+TEST(CheckEdges, AMaskWithLostMiddleGroupsIsComparedWithoutThem) {
   EXPECT_EQ(Blocks("***A B = 0,\"W\",8,\"L\",62,1\n[a]x;\n***C B = 0,\"W\",62,1,8,\"M\"\n[a]x;\n"),
             Codes{"QMN030"});
   EXPECT_EQ(Blocks("***A B = 0,\"W\",8,\"L\",62,1\n[a]x;\n***C B = 0,\"W\",62,1\n[a]x;\n"),
@@ -52,13 +52,13 @@ TEST(CheckEdges, TheScreenMenuHasNoMnemonicsAndNoTabs) {
   EXPECT_EQ(Blocks("***SCREEN\n[&a\tb\tc]^C^CX;\n[&a]*x\n"), Codes{});
 }
 
-TEST(CheckEdges, OnlyBlanksAndZerosMayStandBehindAZeroUnreported) {
+TEST(CheckEdges, OnlyBlanksAndZerosAfterAZeroAreNotReported) {
   const std::string file = Framed("", "");
   EXPECT_EQ(CodesOf(file + std::string("\0\0\n \0", 5)), Codes{});
   EXPECT_EQ(CodesOf(file + std::string("\0\0x", 3)), Codes{"QMN022"});
 }
 
-TEST(CheckEdges, WhatACommentHidesIsNotMissedAsWell) {
+TEST(CheckEdges, SectionsHiddenByACommentAreNotReportedMissing) {
   for (const char* place : {"lines", "switches", "icons"})
     EXPECT_EQ(CodesOf(Framed(place, "/* A\n")), Codes{"QMN010"}) << place;
   EXPECT_EQ(CodesOf(Framed("switches", "**S GET=g /*\n")), Codes{"QMN010"});
@@ -69,13 +69,13 @@ TEST(CheckEdges, TheLargestShortIntegerIsAState) {
   EXPECT_EQ(CodesOf(Framed("switches", "**S GET=g SET=s\n32767=A,\"a\"\n")), Codes{});
 }
 
-TEST(CheckEdges, ACommentBehindACommandStandsBehindABlankOrAnEnter) {
+TEST(CheckEdges, ACommentInACommandFollowsABlankOrAnEnter) {
   EXPECT_EQ(Lines("[a]^C^CX;// note\n"), Codes{"QMN053"});
   EXPECT_EQ(Lines("[a]// note\n"), Codes{"QMN053"});
   EXPECT_EQ(Lines("[a]^C^CBROWSER;http://host/page;\n"), Codes{});
 }
 
-TEST(CheckEdges, AnEditingActionMayHaveABlankInFrontAndWordsBehind) {
+TEST(CheckEdges, AnEditingActionMayHaveABlankBeforeAndWordsAfterIt) {
   EXPECT_EQ(Blocks("***INPLACE\n[a] 5001 accept\n[--]\n[->b]\n[<-c]5024\n"), Codes{});
   EXPECT_EQ(Blocks("***INPLACE\n[a]5025\n[b]-5001\n[c]x5001\n"), Codes{"QMN054"});
 }
@@ -85,7 +85,7 @@ TEST(CheckEdges, TextsAndLinesMayBeAsLongAsTheirLimit) {
   EXPECT_EQ(Lines(MenuBytes("[‹98×墙›]xx\n")), Codes{"QMN008"});
 }
 
-TEST(CheckEdges, Utf8IsWholeAndShortAndHasNoHalves) {
+TEST(CheckEdges, Utf8IsCompleteInShortestFormAndWithoutSurrogates) {
   EXPECT_EQ(NextUtf8("\xE5\xA2\x99", 0).code, 0x5899u);
   EXPECT_EQ(NextUtf8("\xF0\x9F\x98\x80", 0).code, 0x1F600u);
   for (const char* bytes : {"\xC0\x80", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xED\xA0\x80",

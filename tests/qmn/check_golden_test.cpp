@@ -1,6 +1,6 @@
-// Whole files with what is said of them: each NAME.qmn in golden/check with NAME.findings beside
-// it. A new case needs its .qmn and no code. On a difference the result is written beside the
-// expectation as .new; tools/accept-golden makes it the expectation.
+// Golden cases: each NAME.qmn in golden/check with its expected findings in NAME.findings. A new
+// case needs its .qmn and no code. On a difference the result is written next to the expectation as
+// .new; tools/accept-golden accepts it.
 #include <algorithm>
 
 #include "tests/qmn/check_testing.h"

@@ -1,5 +1,5 @@
-// Each rule by the examples of docs/menu-checks.md: the bad one raises it and nothing else, the
-// mended one nothing. The document, the table of rules and --list-rules say the same.
+// Each rule by the examples of docs/menu-checks.md: the bad one causes this finding and no other,
+// the corrected one none. The document, the table of rules and --list-rules must agree.
 #include <map>
 #include <sstream>
 
@@ -67,7 +67,7 @@ const std::map<std::string, Section>& Sections() {
 
 class CheckRule : public testing::TestWithParam<RuleInfo> {};
 
-TEST_P(CheckRule, IsExplainedAndItsExampleRaisesItAndNothingElse) {
+TEST_P(CheckRule, IsDocumentedAndItsExampleRaisesItAndNothingElse) {
   const RuleInfo& rule = GetParam();
   ASSERT_EQ(Sections().count(rule.code), 1u);
   const Section& section = Sections().at(rule.code);
@@ -86,9 +86,9 @@ TEST_P(CheckRule, IsExplainedAndItsExampleRaisesItAndNothingElse) {
 INSTANTIATE_TEST_SUITE_P(Rules, CheckRule, testing::ValuesIn(AllRules().begin(), AllRules().end()),
                          [](const auto& info) { return std::string(info.param.code); });
 
-TEST(CheckRules, EveryExplanationIsOfARule) { EXPECT_EQ(Sections().size(), AllRules().size()); }
+TEST(CheckRules, EveryDocumentedRuleExists) { EXPECT_EQ(Sections().size(), AllRules().size()); }
 
-TEST(CheckRules, StandInTheOrderOfTheirCodesAndOfTheirNumbers) {
+TEST(CheckRules, AreInTheOrderOfTheirCodesAndOfTheirNumbers) {
   std::string last;
   for (const RuleInfo& rule : AllRules()) {
     EXPECT_LT(last, rule.code);
@@ -97,7 +97,7 @@ TEST(CheckRules, StandInTheOrderOfTheirCodesAndOfTheirNumbers) {
   }
 }
 
-TEST(CheckRules, AreListedOneALine) {
+TEST(CheckRules, AreListedOnePerLine) {
   const QmnRun run = Qmn({"check", "--list-rules"});
   EXPECT_EQ(run.code, 0);
   std::istringstream lines(run.out);

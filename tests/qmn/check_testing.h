@@ -1,4 +1,4 @@
-// Sources for the tests of `qmn check`, and what the check and the engine say of them.
+// Sources for the tests of `qmn check`, and the results of the check and the engine for them.
 #pragma once
 
 #include <set>
@@ -6,14 +6,14 @@
 
 #include "tests/qmn/qmn_testing.h"
 
-// Text of the code page from UTF-8; ‹41› gives the byte 0x41, ‹3×ab› gives ababab, and
-// ‹no newline› at the end takes the last newline away.
+// Text of the code page from UTF-8; ‹41› gives the byte 0x41, ‹3×ab› gives ababab, and ‹no newline›
+// at the end removes the last newline.
 std::string MenuBytes(const std::string& utf8);
 
-// A source around one part of it, named as in docs/menu-checks.md: lines, blocks, switches, icons;
-// "file" is all there is.
+// A complete source around one part of it, named as in docs/menu-checks.md: lines, blocks,
+// switches, icons; "file" adds nothing.
 std::string Framed(const std::string& part, const std::string& text);
 
 std::set<std::string> CodesOf(const std::string& source);
-// Whether the engine takes the source without a word.
+// True when the engine accepts the source without a message.
 bool EngineTakes(const std::string& source);

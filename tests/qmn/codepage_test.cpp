@@ -1,4 +1,4 @@
-// --codepage: sources and texts without marker in other pages than the field's.
+// --codepage: sources and texts without marker in pages other than the default.
 #include "menu/menu_model.h"
 #include "tests/qmn/qmn_testing.h"
 #include "tools/qmn/code_page.h"
@@ -36,8 +36,8 @@ constexpr PageCase kCases[] = {{"936", "\xC7\xBD", "墙"},
                                {"874", "\xA1", "ก"},
                                {"65001", "\xE5\xA2\x99", "墙"}};
 
-// The last byte may be no character's end before a bracket; nothing of the text may be lost.
-TEST_F(QmnCodePage, SourcesOfEveryPageAreReadInIt) {
+// Some texts end in a byte that is a lead byte in the default page; nothing may be lost.
+TEST_F(QmnCodePage, SourcesAreReadInTheNamedPage) {
   for (const PageCase& one : kCases) {
     const std::string compiled =
         Qmn({"compile", "-", "--codepage", one.page}, Source(one.bytes)).out;
@@ -67,7 +67,7 @@ TEST_F(QmnCodePage, DecompileNamesTheCharacterThatThePageLacks) {
             "-: error: block B, line 1: text: U+5899 is not in code page 1252\n");
 }
 
-// The good file with one text in the old form, and the bytes with which it is loaded again.
+// The good file with one text in the old form, and its bytes after loading it again.
 TEST_F(QmnCodePage, TextsWithoutMarkerAreReadInThePageToo) {
   const std::string wide = Qmn({"compile", "-"}, Source("a")).out;
   const std::string label(
@@ -91,9 +91,9 @@ TEST_F(QmnCodePage, TextsWithoutMarkerAreReadInThePageToo) {
   }
 }
 
-// What stands in front of the text in the file: values of each kind, and a sub-menu whose flag may
-// be any number but 0.
-TEST_F(QmnCodePage, TextsWithoutMarkerAreFoundBehindEveryKindOfField) {
+// The fields before the text in the file: values of each kind, and a sub-menu whose flag may be any
+// number but 0.
+TEST_F(QmnCodePage, TextsWithoutMarkerAreFoundAfterEveryKindOfField) {
   TMenuSystem system;
   auto* bar = new TMenuBar;
   system.Append(bar);
@@ -116,7 +116,7 @@ TEST_F(QmnCodePage, TextsWithoutMarkerAreFoundBehindEveryKindOfField) {
   EXPECT_EQ(Qmn({"load", "-", "-o", "-", "--codepage", "1252"}, old).out, bytes);
 }
 
-TEST_F(QmnCodePage, DamagedFilesAreTheSameDamageInAnyPage) {
+TEST_F(QmnCodePage, DamageIsReportedTheSameInEveryPage) {
   const std::string bytes = GoodBytes();
   for (size_t size = 0; size < bytes.size(); size += 3) {
     const std::string prefix = bytes.substr(0, size);

@@ -1,5 +1,5 @@
-// qmn decompile: every compiled source comes back as source of the same bytes; what no source says
-// is refused with its place.
+// qmn decompile: every compiled source decompiles to a source of the same bytes; what no source can
+// express is refused with its place.
 #include <functional>
 #include <random>
 
@@ -17,7 +17,7 @@ constexpr unsigned kPage = 936;
 
 class QmnDecompile : public QmnTest {};
 
-// Lines and other parts of a system to change.
+// A model with lines and other parts for a test to change.
 struct Model {
   Model() {
     SilentMessages messages;
@@ -33,7 +33,7 @@ struct Model {
   TMenuSystem system;
 };
 
-// What the tool says of a model, in front of everything "-: error: ".
+// The tool's messages for a model, without the "-: error: " at the beginning.
 std::string Refused(const std::function<void(Model&)>& change) {
   Model model;
   change(model);
@@ -43,7 +43,8 @@ std::string Refused(const std::function<void(Model&)>& change) {
   return run.err.starts_with("-: error: ") ? run.err.substr(10) : run.err;
 }
 
-// The first line with that text of the source that a model gives, which compiles to the same bytes.
+// The first line that contains `mark` in the source of a model; checks that it compiles to the same
+// bytes.
 std::string Written(const std::function<void(Model&)>& change, const std::string& mark) {
   Model model;
   change(model);
@@ -69,7 +70,7 @@ std::string Label(const wchar_t* label) {
       "mark");
 }
 
-TEST_F(QmnDecompile, ProductAndGoldenFilesComeBackToTheByteInCanonicalLayout) {
+TEST_F(QmnDecompile, ProductAndGoldenFilesRoundTripInCanonicalLayout) {
   int files = 0;
   for (const std::string& source : SeedSources()) {
     const QmnRun compiled = Qmn({"compile", "-"}, source);
@@ -83,7 +84,7 @@ TEST_F(QmnDecompile, ProductAndGoldenFilesComeBackToTheByteInCanonicalLayout) {
   EXPECT_GE(files, 8);
 }
 
-TEST_F(QmnDecompile, WritesTheOutputWholeAndNothingAfterARefusal) {
+TEST_F(QmnDecompile, WritesACompleteOutputAndNothingAfterARefusal) {
   const std::string in = Write(u8"a.qmc", GoodBytes());
   EXPECT_EQ(Qmn({"decompile", in, "-o", Name(u8"a.qmn")}).code, 0);
   EXPECT_EQ(Qmn({"compile", Name(u8"a.qmn"), "-o", "-"}).out, GoodBytes());
@@ -104,7 +105,7 @@ TEST_F(QmnDecompile, FilesThatCannotBeReadOrWrittenAreNamed) {
   EXPECT_EQ(Qmn({"decompile", "-"}, "x").code, 1);
 }
 
-TEST_F(QmnDecompile, OtherFormsOfTheSameFileAreRefusedWithTheWayOut) {
+TEST_F(QmnDecompile, OtherFormsOfTheSameFileAreRefusedWithARemedy) {
   std::string bytes = GoodBytes();
   bytes[4] = 'q';
   EXPECT_EQ(
@@ -114,7 +115,7 @@ TEST_F(QmnDecompile, OtherFormsOfTheSameFileAreRefusedWithTheWayOut) {
   EXPECT_EQ(Qmn({"decompile", "-"}, GoodBytes() + "more").code, 1);
 }
 
-TEST_F(QmnDecompile, CommandsAreWrittenAsAPersonWouldWriteThem) {
+TEST_F(QmnDecompile, CommandsAreWrittenInTheirUsualForm) {
   EXPECT_EQ(Command(L"\x1b\x1bTWall\n"), "^C^CTWall;");
   EXPECT_EQ(Command(L"x\ny\n"), "x;y;");
   EXPECT_EQ(Command(L"TLock \"a;b\"\n"), "TLock \"a;b\";");
@@ -122,7 +123,7 @@ TEST_F(QmnDecompile, CommandsAreWrittenAsAPersonWouldWriteThem) {
   EXPECT_EQ(Command(L""), "");
 }
 
-TEST_F(QmnDecompile, CommandsThatNeedATurnOfTheQuotesGetOne) {
+TEST_F(QmnDecompile, QuotingIsToggledWhereACommandNeedsIt) {
   EXPECT_EQ(Command(L"a;b\nc\n"), "a^\";b^\";c;");
   EXPECT_EQ(Command(L"\"a\nb\n"), "\"a^\";b;");
   EXPECT_EQ(Command(L"a \t\n"), "a \t;");
@@ -139,7 +140,7 @@ TEST_F(QmnDecompile, CommandsThatNoLineMakesAreRefused) {
             "block WALL, line 4: command: \"a^b\\n\"; a source gives \"a\\n\"\n");
 }
 
-TEST_F(QmnDecompile, LabelsThatLookLikeArrowsOrSwitchesAreShelteredFromThePasses) {
+TEST_F(QmnDecompile, LabelsThatLookLikeArrowsOrSwitchesGetALeadingBlank) {
   EXPECT_EQ(Label(L"->x"), "[ ->x]mark;");
   EXPECT_EQ(Label(L"<-"), "[ <-]mark;");
   EXPECT_EQ(Label(L"{x"), "[{x]mark;");
@@ -153,7 +154,7 @@ TEST_F(QmnDecompile, LabelsThatLookLikeArrowsOrSwitchesAreShelteredFromThePasses
             "S [ *switch*]");
 }
 
-TEST_F(QmnDecompile, ConditionsComeBackAlsoWithAnEmptyFunction) {
+TEST_F(QmnDecompile, ConditionsRoundTripAlsoWithAnEmptyFunction) {
   const auto set = [](unsigned flags, const wchar_t* check, const wchar_t* grey) {
     return [=](Model& m) {
       m.Plain().m_nFlags = flags;
@@ -200,7 +201,7 @@ TEST_F(QmnDecompile, SubMenusThatNoArrowsMakeAreRefused) {
             "block WALL, line 1: flags: 1; a source gives 0\n");
 }
 
-TEST_F(QmnDecompile, NamesAreRefusedWhenTheyAreNoneOrReserved) {
+TEST_F(QmnDecompile, NamesAreRefusedWhenInvalidOrReserved) {
   EXPECT_EQ(Refused([](Model& m) { m.system.At(1)->m_strName = L"POP"; }),
             "block #2: name: \"POP\" is a reserved word\n");
   EXPECT_EQ(Refused([](Model& m) { m.system.At(1)->m_strName = L""; }),
@@ -213,7 +214,7 @@ TEST_F(QmnDecompile, NamesAreRefusedWhenTheyAreNoneOrReserved) {
             "switch S, state 1: icon: \"1\" is no name\n");
 }
 
-TEST_F(QmnDecompile, IndexesThatTheNamesDoNotResolveToAreRefused) {
+TEST_F(QmnDecompile, IndexesThatNoSourceGivesAreRefused) {
   EXPECT_EQ(Refused([](Model& m) { m.Line(0).m_nIconIndex = -1; }),
             "block WALL, line 1: icon index: -1; a source gives 0\n");
   EXPECT_EQ(Refused([](Model& m) { m.State().m_nIconIndex = 4; }),
@@ -222,7 +223,7 @@ TEST_F(QmnDecompile, IndexesThatTheNamesDoNotResolveToAreRefused) {
             "block PLAIN, line 1: switch index: 0; a source gives -1\n");
 }
 
-TEST_F(QmnDecompile, StringsAreRefusedForTheirLengthAndForWhatEndsThem) {
+TEST_F(QmnDecompile, StringsAreRefusedForTheirLengthAndForTerminators) {
   const auto title = [](const std::wstring& text) {
     return [=](Model& m) { m.system.m_strTitle = text.c_str(); };
   };
@@ -303,7 +304,7 @@ TEST_F(QmnDecompile, ThousandsOfRefusalsAreCounted) {
   EXPECT_TRUE(said.ends_with("-: error: and 1980 more places that no source can say\n")) << said;
 }
 
-// Lines as long as they may be have no room for what makes them plain.
+// A line of maximal length has no room for optional characters.
 TEST_F(QmnDecompile, ALineOfFullLengthIsWrittenTighter) {
   const std::string filler(190, 'x');
   for (const std::string& line :
@@ -318,7 +319,7 @@ TEST_F(QmnDecompile, ALineOfFullLengthIsWrittenTighter) {
   }
 }
 
-TEST_F(QmnDecompile, EveryMutatedSourceThatCompilesComesBack) {
+TEST_F(QmnDecompile, EveryMutatedSourceThatCompilesRoundTrips) {
   const std::vector<std::string> seeds = SeedSources();
   std::mt19937 random(3);
   int back = 0;
@@ -340,7 +341,7 @@ TEST_F(QmnDecompile, EveryMutatedSourceThatCompilesComesBack) {
   EXPECT_GE(back, 1000);
 }
 
-// --- Models that no source made
+// --- Models that no source gives
 
 const wchar_t* const kTexts[] = {
     L"",      L"a",   L"->",   L"<-", L"->x",      L"<-<-y", L" ",   L" b ",         L"{",  L"{}",
@@ -424,7 +425,7 @@ class RandomModel {
   std::mt19937 m_random;
 };
 
-TEST_F(QmnDecompile, RandomModelsComeBackOrAreRefusedWithTheirPlace) {
+TEST_F(QmnDecompile, RandomModelsRoundTripOrAreRefusedWithTheirPlace) {
   int back = 0, refused = 0;
   for (unsigned seed = 0; seed < 4000; ++seed) {
     TMenuSystem system;

@@ -1,4 +1,4 @@
-// qmn fmt: one layout, reached in one step, that loses no comment and changes no compiled byte.
+// qmn fmt: one layout, reached in one pass, without loss of comments or change of compiled bytes.
 #include <algorithm>
 #include <random>
 
@@ -80,23 +80,23 @@ TEST_F(QmnFmt, CommentsInsideAConstructStayInside) {
       "MENU_TITLE /*=*/ = // x\n    // y\n    \"T\"\n\n***B\n[a]\n\n***SWITCH\n\n***RESOURCE\n");
 }
 
-TEST_F(QmnFmt, ACommentBehindABlankLineBelongsToWhatFollows) {
+TEST_F(QmnFmt, ACommentAfterABlankLineBelongsToTheNextRow) {
   const std::string source = Block("[a]\n// of a\n\n[b]\n\n// of the switches");
   EXPECT_EQ(Formatted(source), source);
 }
 
-TEST_F(QmnFmt, OfSeveralBlankLinesOneStaysAlsoBetweenComments) {
+TEST_F(QmnFmt, SeveralBlankLinesBecomeOneAlsoBetweenComments) {
   EXPECT_EQ(Formatted(Block("[a]\n// one \t\n\n\n// two\n[b]\n\n\n\n[c]\n")),
             Block("[a]\n// one\n\n// two\n[b]\n\n[c]\n"));
 }
 
-TEST_F(QmnFmt, WhatStandsInAMenuLineStays) {
+TEST_F(QmnFmt, TheTextOfAMenuLineIsKept) {
   const std::string lines = "[a  b] ^C^C x ; y\n[no bracket // no comment\n[\xC7\xBD]\"x;\n";
   EXPECT_EQ(Formatted(Block(lines)), Block(lines));
 }
 
-// The first byte of a broken pair may take the blank behind it along.
-TEST_F(QmnFmt, BlanksBehindALineGoUnlessABrokenCharacterHoldsThem) {
+// The first byte of a broken pair may consume the blank after it.
+TEST_F(QmnFmt, TrailingBlanksAreRemovedUnlessABrokenCharacterConsumesThem) {
   EXPECT_EQ(Formatted(Block("[a]\xC7\xBD  \n")), Block("[a]\xC7\xBD\n"));
   Formatted(Block("[a]\x81 \n"));
 }
@@ -109,7 +109,7 @@ TEST_F(QmnFmt, LineEndsAreThoseOfTheFirstLine) {
   EXPECT_EQ(Formatted(crlf), crlf);
   EXPECT_EQ(Formatted("\r\n" + lf), crlf);
   EXPECT_EQ(Formatted("\n" + crlf), lf);
-  // A CR that is text has two of them in front of the line end.
+  // A CR that belongs to the text is doubled before a line end.
   EXPECT_EQ(Formatted(Block("[a]x\r\r\n[b]\n")), Block("[a]x\r\r\n[b]\n"));
 }
 
@@ -139,7 +139,7 @@ TEST_F(QmnFmt, CheckNamesEachFileThatIsNotCanonicalAndWritesNothing) {
   EXPECT_EQ(Qmn({"fmt", "--check", "-"}, Block("[a]\n")).out, "");
 }
 
-TEST_F(QmnFmt, ASourceWithErrorsIsNotTouchedAndTheOthersAre) {
+TEST_F(QmnFmt, ASourceWithErrorsIsNotChangedAndTheOthersAre) {
   const std::string bad = Write(u8"a.qmn", "MENU_TITLE\n\"T\"\n");
   const std::string wrongGroup =
       Write(u8"b.qmn", "MENU_TITLE=\"T\"***A B=62,\"x\"\n[a]\n***SWITCH ***RESOURCE");
@@ -186,7 +186,7 @@ std::vector<std::string> CommentsOf(const std::string& source) {
   return comments;
 }
 
-TEST_F(QmnFmt, MutatedSourcesKeepBytesAndCommentsAndAreLaidOutInOneStep) {
+TEST_F(QmnFmt, MutatedSourcesKeepBytesAndCommentsAndAreFormattedInOnePass) {
   const std::vector<std::string> seeds = SeedSources();
   std::mt19937 random(5);
   int done = 0;
@@ -206,8 +206,8 @@ TEST_F(QmnFmt, MutatedSourcesKeepBytesAndCommentsAndAreLaidOutInOneStep) {
   EXPECT_GE(done, 1000);
 }
 
-// White space anywhere between tokens leads to one and the same text.
-TEST_F(QmnFmt, AllLayoutsOfOneSourceLeadToTheSameText) {
+// Any white space between tokens gives the same text.
+TEST_F(QmnFmt, AllLayoutsOfOneSourceGiveTheSameText) {
   const char* const tokens[] = {
       "MENU_TITLE", "=",       "\"T\"",    "***",   "A",   "K",      "=",  "0",    ",",
       "\"X\"",      "[a]x;\n", "WALL",     "[b]\n", "***", "SWITCH", "**", "S",    "GET",
@@ -232,7 +232,7 @@ TEST_F(QmnFmt, ProductMenusAreInCanonicalLayout) {
   EXPECT_EQ(run.code, 0) << run.out << "qmn fmt puts them right\n";
 }
 
-TEST_F(QmnFmt, DeepAndLongFilesAreNoTrouble) {
+TEST_F(QmnFmt, DeepAndLongFilesAreFormatted) {
   std::string lines;
   for (int i = 0; i < 100000; ++i) lines += "[->a]\n";
   for (int i = 0; i < 50000; ++i) lines += "ICON [<-<-b]x;\n";

@@ -1,4 +1,4 @@
-// qmn compile: what is written, what is said, and that nothing half appears.
+// qmn compile: output, messages, and that no partial file is ever visible.
 #include <cstdint>
 #include <cstdio>
 #include <iterator>
@@ -18,7 +18,7 @@ std::string GoldenBytes(const fs::path& path) {
   return bytes;
 }
 
-// FNV-1a, so that one short line stands for a compiled file.
+// FNV-1a: one short line identifies a compiled file.
 std::string Fingerprint(const std::string& bytes) {
   uint64_t hash = 0xCBF29CE484222325;
   for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
@@ -63,7 +63,7 @@ TEST_F(QmnCompile, AsHostWritesTheGoldenBytesOfEveryCaseWithOrWithoutErrors) {
   EXPECT_GE(cases, 9);
 }
 
-// The list holds the bytes of one build against those of the other: both run this test.
+// The list compares the bytes of both builds, since both run this test.
 TEST_F(QmnCompile, ProductMenusGiveTheSameBytesOnBothBuilds) {
   std::istringstream list(
       ReadBytes(fs::path(QVX_SOURCE_DIR) / "tests" / "qmn" / "product_menus.txt"));
@@ -109,14 +109,14 @@ TEST_F(QmnCompile, NothingButTheOutputStaysInTheFolder) {
   EXPECT_EQ(FileCount(), 2);
 }
 
-TEST_F(QmnCompile, AsHostPrintsWhatTheModulePrintsWithNoNewlineAtTheEnd) {
+TEST_F(QmnCompile, AsHostPrintsTheModulesTextWithoutAFinalNewline) {
   const QmnRun run = Qmn({"compile", "--as-host", Write(u8"a.qmn", "x")});
   EXPECT_EQ(run.code, 1);
   EXPECT_EQ(run.err, "\n加载奇维菜单文件: " + Name(u8"a.qmn") + " \n语法错误，第1行: syntax error");
   EXPECT_EQ(Read(u8"a.qmc").size(), 84u);
 }
 
-TEST_F(QmnCompile, AsHostSaysInTheModulesWordsWhichFileItCouldNotOpenOrCreate) {
+TEST_F(QmnCompile, AsHostReportsAFileItCannotOpenOrCreateInTheModulesWords) {
   QmnRun run = Qmn({"compile", "--as-host", Name(u8"none.qmn")});
   EXPECT_EQ(run.code, 3);
   EXPECT_EQ(run.err, "\nCould not open file " + Name(u8"none.qmn"));
@@ -151,7 +151,7 @@ TEST_F(QmnCompile, ACommentThatNeverEndsIsRefusedWithTheLineWhereItBegins) {
   }
 }
 
-TEST_F(QmnCompile, AGroupOfTheWrongKindIsAnErrorThoughTheParserReadsOn) {
+TEST_F(QmnCompile, AGroupOfTheWrongKindIsAnErrorThoughTheParserContinues) {
   const QmnRun run = Qmn({"compile", "-"}, "MENU_TITLE = \"T\"\n***A B = 62,\"x\"\n[a]\n");
   EXPECT_EQ(run.code, 1);
   EXPECT_NE(run.err.find("-:2: error: Dxf code 62"), std::string::npos) << run.err;
@@ -165,7 +165,7 @@ TEST_F(QmnCompile, DoesNotOverwriteItsOwnInput) {
 }
 
 #ifndef _WIN32
-TEST_F(QmnCompile, ALinkStaysOneAndTheFileBehindItIsReplaced) {
+TEST_F(QmnCompile, ALinkIsKeptAndItsTargetIsReplaced) {
   Write(u8"real.qmc", "old");
   fs::create_symlink(m_folder / "real.qmc", m_folder / "a.qmc");
   EXPECT_EQ(Qmn({"compile", "-", "-o", Name(u8"a.qmc")}, kGoodSource).code, 0);

@@ -1,5 +1,5 @@
-// qmn dump: the canonical JSON to the byte, the outline, the fields of a compiled file. The cases
-// in golden/ are sources with the three dumps beside them.
+// qmn dump: exact canonical JSON, the outline, the fields of a compiled file. The cases in golden/
+// are sources with their three dumps.
 #include <algorithm>
 #include <limits>
 #include <sstream>
@@ -33,7 +33,7 @@ std::string Text(const std::wstring& units) {
 
 class QmnDump : public QmnTest {};
 
-// Takes everything, keeps nothing but the counts and the last bytes.
+// Accepts all output and keeps only counts and the last bytes.
 class CountingBuffer : public std::streambuf {
  public:
   size_t bytes = 0, pieces = 0, largestPiece = 0;
@@ -76,11 +76,11 @@ TEST_F(QmnDump, SourceAndCompiledFileGiveTheSameDumps) {
   }
 }
 
-TEST_F(QmnDump, JsonIsWhatComesWithoutAForm) {
+TEST_F(QmnDump, JsonIsTheDefaultForm) {
   EXPECT_EQ(Qmn({"dump", "-"}, kGoodSource).out, Qmn({"dump", "-", "--json"}, kGoodSource).out);
 }
 
-TEST_F(QmnDump, WithoutATellingNameTheFirstBytesDecide) {
+TEST_F(QmnDump, WithoutAKnownExtensionTheFirstBytesDecide) {
   const std::string json = Qmn({"dump", "-"}, kGoodSource).out;
   EXPECT_EQ(Qmn({"dump", "-"}, GoodBytes()).out, json);
   EXPECT_EQ(Qmn({"dump", Write(u8"menu", GoodBytes())}).out, json);
@@ -88,7 +88,7 @@ TEST_F(QmnDump, WithoutATellingNameTheFirstBytesDecide) {
   EXPECT_EQ(Qmn({"dump", Write(u8"A.QMC", GoodBytes())}).out, json);
 }
 
-TEST_F(QmnDump, ARefusedSourceShowsTheEmptyModelAndOne) {
+TEST_F(QmnDump, ARefusedSourceShowsTheEmptyModelAndReturnsOne) {
   const QmnRun run = Qmn({"dump", "-"}, "x");
   EXPECT_EQ(run.code, 1);
   EXPECT_EQ(run.err, "-:1: error: syntax error\n");
@@ -109,7 +109,7 @@ TEST_F(QmnDump, ADamagedFileShowsTheFieldsUpToTheDamage) {
   }
 }
 
-// The source language has neither; a group of the good file is given another code.
+// The source language has neither, so a group of the good file is given another code.
 TEST_F(QmnDump, GroupsOfLongAndOfNoKindShowTheirTypes) {
   const std::string bytes = GoodBytes();
   const std::string group("\x3E\0\x03\0\0\0", 6);
@@ -132,8 +132,8 @@ TEST_F(QmnDump, GroupsOfLongAndOfNoKindShowTheirTypes) {
       << run.out;
 }
 
-// The indent grows with the depth, and the dump with its square; nothing but the dump may.
-TEST_F(QmnDump, FiveThousandNestedSubMenusGoOutAsTheyAreWalked) {
+// Indentation grows with the depth, and the dump with its square; nothing else may grow so.
+TEST_F(QmnDump, FiveThousandNestedSubMenusAreWrittenInBoundedPieces) {
   constexpr size_t kDepth = 5000;
   TMenuSystem system;
   system.Append(new TMenuBar);
@@ -149,13 +149,13 @@ TEST_F(QmnDump, FiveThousandNestedSubMenusGoOutAsTheyAreWalked) {
     json ? DumpJson(system, out) : DumpOutline(system, out);
     EXPECT_GT(buffer.bytes, kDepth * kDepth);
     EXPECT_LE(buffer.largestPiece, 4096u);
-    // A piece a word, a piece for each 4096 blanks of an indent.
+    // One piece per word, and one per 4096 blanks of indentation.
     EXPECT_LT(buffer.pieces, kDepth * 200 + buffer.bytes / 4096);
     EXPECT_TRUE(buffer.end.ends_with(json ? "\n  ]\n}\n" : "  \"a\"\n"));
   }
 }
 
-TEST_F(QmnDump, BytesBehindTheModelAreCounted) {
+TEST_F(QmnDump, BytesAfterTheModelAreCounted) {
   const QmnRun run = Qmn({"dump", "-", "--bytes"}, GoodBytes() + "abc");
   EXPECT_TRUE(run.out.ends_with("  3 bytes behind the model\n")) << run.out;
 }
@@ -175,7 +175,7 @@ TEST(QmnJson, RealsAreTheShortestThatReadBack) {
   EXPECT_EQ(Real(std::numeric_limits<double>::infinity()), "null");
 }
 
-TEST(QmnJson, TextIsUtf8WithOnlyTheEscapesThatJsonAsksFor) {
+TEST(QmnJson, TextIsUtf8WithOnlyTheEscapesThatJsonRequires) {
   EXPECT_EQ(Text(L"墙\"\\\n\t\x1b/"), "\"墙\\\"\\\\\\n\\t\\u001b/\"");
   EXPECT_EQ(Text({wchar_t{0xD83D}, wchar_t{0xDE00}}), "\"\xF0\x9F\x98\x80\"");
   EXPECT_EQ(Text({wchar_t{0xD83D}, L'a'}),
@@ -183,7 +183,7 @@ TEST(QmnJson, TextIsUtf8WithOnlyTheEscapesThatJsonAsksFor) {
             "a\"");
 }
 
-TEST(QmnText, Utf8ComesBackFromWideText) {
+TEST(QmnText, Utf8RoundTripsThroughWideText) {
   for (const char* text : {"", "a", "é", "墙线", "\xF0\x9F\x98\x80"})
     EXPECT_EQ(Utf8(Wide(text)), text);
 }

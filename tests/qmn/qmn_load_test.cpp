@@ -1,4 +1,4 @@
-// qmn load: whole files come out as they went in, damaged ones are named.
+// qmn load: intact files are written unchanged, damaged ones are reported.
 #include "tests/qmn/qmn_testing.h"
 
 namespace {
@@ -35,12 +35,12 @@ TEST_F(QmnLoad, AsHostNamesTheExceptionAndWritesWhatWasRead) {
   const QmnRun run = Qmn({"load", "--as-host", "-", "-o", "-"}, bytes.substr(0, bytes.size() - 1));
   EXPECT_EQ(run.code, 1);
   EXPECT_EQ(run.err, "CArchiveException\n");
-  // Only the index of the last line's icon is lost, and it is none.
+  // Only the icon index of the last line is lost, and it has no icon.
   EXPECT_EQ(run.out, bytes);
 }
 
-TEST_F(QmnLoad, AsHostTellsAForeignFileAndOneThatIsMissing) {
-  // A string that is not the magic: length 1, one character.
+TEST_F(QmnLoad, AsHostReportsAForeignFileAndAMissingOne) {
+  // A string other than the magic: length 1, one character.
   QmnRun run = Qmn({"load", "--as-host", "-"}, "\x01X");
   EXPECT_EQ(run.code, 1);
   EXPECT_EQ(run.err, "CFileException\n");

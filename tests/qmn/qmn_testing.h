@@ -1,4 +1,4 @@
-// Runs of the tool with streams in memory, and a folder for its files that goes with the test.
+// Runs of the tool with streams in memory, and a temporary folder that is removed after the test.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ class QmnTest : public testing::Test {
  protected:
   QmnTest();
   ~QmnTest() override;
-  // The name of a file in the test's folder, in UTF-8 as the command line has it.
+  // The name of a file in the test's folder, in UTF-8 as on the command line.
   std::string Name(const char8_t* file) const { return Utf8Name(m_folder / file); }
   std::string Write(const char8_t* file, const std::string& bytes) const;
   std::string Read(const char8_t* file) const { return ReadBytes(m_folder / file); }
@@ -32,6 +32,6 @@ class QmnTest : public testing::Test {
   std::filesystem::path m_folder;
 };
 
-// A source that is fine, and the bytes that the tool makes of it.
+// A valid source, and the bytes that the tool compiles it to.
 extern const char kGoodSource[];
 std::string GoodBytes();

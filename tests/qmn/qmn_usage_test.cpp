@@ -3,7 +3,7 @@
 
 namespace {
 
-TEST(QmnUsage, HelpLeadsWithExamplesAndIsFine) {
+TEST(QmnUsage, HelpBeginsWithExamplesAndSucceeds) {
   const QmnRun run = Qmn({"--help"});
   EXPECT_EQ(run.code, 0);
   EXPECT_EQ(run.out.substr(0, 24), "Examples:\n  qmn compile ");
@@ -18,13 +18,13 @@ TEST(QmnUsage, HelpHasAnExampleOfEachCommand) {
     EXPECT_NE(examples.find(std::string("qmn ") + command), std::string::npos) << command;
 }
 
-TEST(QmnUsage, VersionIsData) {
+TEST(QmnUsage, VersionGoesToStandardOutput) {
   const QmnRun run = Qmn({"--version"});
   EXPECT_EQ(run.code, 0);
   EXPECT_EQ(run.out, "qmn 1.0\n");
 }
 
-TEST(QmnUsage, WrongUsageGivesTwoAndSaysWhyOnStandardError) {
+TEST(QmnUsage, WrongUsageGivesTwoAndAReasonOnStandardError) {
   const std::vector<std::vector<std::string>> wrong{
       {},
       {"compile"},
@@ -41,7 +41,7 @@ TEST(QmnUsage, WrongUsageGivesTwoAndSaysWhyOnStandardError) {
   }
 }
 
-// On Windows such a name was taken for an option once.
+// Regression: on Windows such a name was parsed as an option.
 TEST(QmnUsage, AFileMayBeginWithASlash) {
   const QmnRun run = Qmn({"dump", "/no such file.qmn"});
   EXPECT_EQ(run.code, 3);

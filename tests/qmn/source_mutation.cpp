@@ -9,7 +9,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Pieces that a source takes at many places, so that most mutations are still menus.
+// Pieces that are valid at many places of a source, so that most mutations still compile.
 const char* const kInLines[] = {"^",        ";",     "\"",  "^\"", " ",    "\t",       "<-",
                                 "->",       "{~=F}", "{x}", "]",   "\x1b", "^C",       "\xFF",
                                 "\xC7\xBD", "{",     "[",   "\\",  "\r",   "*SWITCH*", "  "};
@@ -36,7 +36,7 @@ void Mutate(std::string& text, std::mt19937& random) {
     case 4:
       text.insert(at, kBetween[random() % std::size(kBetween)]);
       break;
-    case 5:  // a line again
+    case 5:  // duplicates a line
       text.insert(start, text.substr(start, text.find('\n', start) - start + 1));
       break;
     case 6:

@@ -1,5 +1,5 @@
 // Menu sources for seeded random tests: the product's and the engine's golden ones, and mutations
-// of them of which a good part still compiles.
+// of them, many of which still compile.
 #pragma once
 
 #include <random>

@@ -1,4 +1,4 @@
-// qmn which: each step of the search is told, and the file that wins is the module's.
+// qmn which: each step of the search is reported, and the result is the module's.
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
 #include "tests/qmn/qmn_testing.h"
@@ -13,7 +13,8 @@ bool Has(const std::string& text, const std::string& part) { return text.find(pa
 
 class WhichTest : public QmnTest {
  protected:
-  // A release that nobody has, so that a real registry's settings are neither seen nor changed.
+  // A release that is not installed anywhere, so that settings of a real registry are neither read
+  // nor changed.
   static constexpr wchar_t kProfileKey[] = L"Software\\Quivera\\QVX\\R91.4\\QVX-1\\test";
 
   void SetUp() override { Forget(); }
@@ -89,7 +90,7 @@ TEST_F(WhichTest, ACompiledFileAloneGivesABaseAndNoMenuAtStart) {
   EXPECT_TRUE(Has(run.out, "menu: none, there is only the compiled file"));
 }
 
-TEST_F(WhichTest, NothingFoundIsToldAndGivesOne) {
+TEST_F(WhichTest, AFailedSearchIsReportedAndGivesOne) {
   const QmnRun run = Which();
   EXPECT_EQ(run.code, kFindings);
   EXPECT_TRUE(Has(run.out, "  base: none\n"));
@@ -113,7 +114,7 @@ TEST_F(WhichTest, FoldersAreSearchedInTheirOrder) {
   EXPECT_TRUE(Has(run.out, "menu: " + second + "\n")) << run.out;
 }
 
-TEST_F(WhichTest, ARememberedMenuTooLongForAPathIsAsIfItWereNotThere) {
+TEST_F(WhichTest, ARememberedMenuTooLongForAPathIsTreatedAsMissing) {
   Write(u8"qvx.qmn", "");
   Remember(L"test", L"Menu", std::wstring(260, L'm').c_str());
   EXPECT_TRUE(Has(Which().out, "  too long, as if it weren't there\n  qvx.qmn\n")) << Which().out;

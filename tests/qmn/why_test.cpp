@@ -1,4 +1,4 @@
-// qmn why: the words for each reason, the JSON, and what the command line takes.
+// qmn why: the text of each reason, the JSON, and the accepted command lines.
 #include "tests/qmn/qmn_testing.h"
 
 namespace {
@@ -89,7 +89,7 @@ TEST_F(QmnWhy, SourceAndCompiledFileGiveTheSameAnswer) {
   EXPECT_EQ(Qmn({"why", "-", "--type", "LINE"}, compiled).out, Why({"--type", "LINE"}).out);
 }
 
-TEST_F(QmnWhy, WhatDoesNotGoTogetherIsWrongUsage) {
+TEST_F(QmnWhy, ContradictoryOptionsAreWrongUsage) {
   EXPECT_EQ(Why({"--layer", "A"}).code, 2);
   EXPECT_EQ(
       Why({"--type", "A", "--type", "B", "--layer", "1", "--layer", "2", "--layer", "3"}).code, 2);
