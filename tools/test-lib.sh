@@ -1,12 +1,12 @@
-# What ./test is made of: running test programs, plays and checks, and counting what they found.
+# Functions of ./test: run test programs, plays and checks, and count the results.
 passed=0
 failed=0
 failures=()
 fail() { failed=$((failed + 1)); failures+=("$1"); echo "FAILED: $1"; }
 pass() { passed=$((passed + 1)); }
 
-# beside NAME FUNCTION ARGS: runs it at the same time, with its own counts; `join NAME` waits, shows
-# what it said and adds its counts.
+# beside NAME FUNCTION ARGS: runs it in the background with its own counts. `join NAME` waits,
+# prints its output and adds its counts.
 beside() {
   local name=$1; shift
   (
@@ -27,8 +27,8 @@ join() {
   passed=$((passed + seen)) failed=$((failed + missed)) failures=("${earlier[@]}" "${failures[@]}")
 }
 
-# One test program: its own count is taken from its closing lines; a program that dies without them,
-# or takes longer than five minutes, counts as one failure that names it.
+# Runs one test program. The count comes from its closing lines; a program that ends without them,
+# or runs longer than five minutes, counts as one failure, reported by its name.
 run_program() {
   local build=$1 program=$2 name log rc=0
   name=$(basename "$program"); log="build/$build/$name.log"
@@ -63,7 +63,7 @@ run_programs() {
 }
 
 # The native test programs whose name contains $1, or, where GTEST_FILTER names a suite, those that
-# hold it.
+# contain it.
 native_programs() {
   local suite objects
   suite=${GTEST_FILTER%%.*}
@@ -91,11 +91,11 @@ run_windows_programs() {
   run_programs windows "$1"
 }
 
-# A play: `# args: ...` in its head gives further arguments, `# product: NAME` lays
-# tests/plays/products/NAME over a copy of the product, `# without: FILE...` takes files out of that
-# copy, `# exit: N` the expected exit code (0), `# output: TEXT` what its output must contain. The tip
-# of the day is left out of the start unless `# tips: shown` asks for it. A play fails as well when
-# the host leaves a message waiting for more than half a second.
+# Runs a play. Lines in its head set options: `# args: ...` further arguments; `# product: NAME`
+# copies tests/plays/products/NAME over a copy of the product; `# without: FILE...` removes files
+# from that copy; `# exit: N` the expected exit code (0); `# output: TEXT` text that the output must
+# contain; `# tips: shown` keeps the tip of the day, which is otherwise disabled. A play also fails
+# when the host leaves a message waiting for more than half a second.
 run_play() {
   local script=$1 name rc=0 want args overlay without output
   name=$(basename "$script" .script)
@@ -131,7 +131,7 @@ run_plays() {
   qvx_forget_settings
 }
 
-# Each executable in tools/checks/ looks at the tree as it stands and says what is wrong.
+# Runs each executable in tools/checks/ on the tree and reports its output on failure.
 run_checks() {
   local check out
   for check in tools/checks/*; do

@@ -1,10 +1,10 @@
-# Sourced by the scripts that run Windows programs: one Wine prefix and one virtual display per build
-# folder, made on first use. Call `qvx_wine_start BUILD_DIR [CORE]`, then `qvx_wine PROGRAM ARGS`; what was
-# started here is ended by `qvx_wine_stop`, and nothing else is.
+# Sourced by the scripts that run Windows programs: one Wine prefix and one virtual display per
+# build folder, created on first use. Call `qvx_wine_start BUILD_DIR [CORE]`, then `qvx_wine PROGRAM
+# ARGS`; `qvx_wine_stop` ends only what was started here.
 
 qvx_wine() { LC_ALL=zh_CN.UTF-8 wine "$@"; }
 
-# A display of our own unless the caller has one: Xvfb picks a free number itself.
+# A virtual display unless the caller has one; Xvfb chooses a free number.
 qvx_display_start() {
   QVX_XVFB_PID=""
   [ -n "${DISPLAY:-}" ] && [ "${QVX_OWN_DISPLAY:-0}" != 1 ] && return 0
@@ -15,10 +15,10 @@ qvx_display_start() {
   export DISPLAY=":$number"
 }
 
-# Wine's window server answers one request of a program after the other. An answer takes some 10
-# microseconds on one core and 45 between two cores of an idle machine, which is most of the time
-# that windows take, so that everything of one prefix runs on one core: the one of this number, or
-# of a name's checksum, among those that there are.
+# Wine's window server handles one request of a program at a time. A reply takes about 10
+# microseconds on one core and 45 between two cores of an idle machine, which is most of the time of
+# window operations. So all programs of one prefix run on one core: the one with this number, or
+# with the checksum of a name, among the available ones.
 qvx_stay_on_one_core() {
   local cores=() part
   for part in $(taskset -cp "$BASHPID" | sed 's/.*: //; s/,/ /g'); do
@@ -39,28 +39,28 @@ qvx_wine_start() {
     flock 9
     if [ ! -f "$WINEPREFIX/.ready" ]; then
       qvx_wine wineboot -i >/dev/null 2>&1
-      # Every program of the prefix runs in one virtual desktop, which gives its windows frames.
+      # All programs of the prefix run in one virtual desktop, which gives their windows frames.
       qvx_wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d QVX /f >/dev/null 2>&1
       qvx_wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v QVX /d 1280x900 /f >/dev/null 2>&1
-      # Without this a failed program waits for somebody to press a button.
+      # Otherwise a crashed program waits in a dialog.
       qvx_wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
-      # The signs on caption buttons are letters of this font, which is found only in the prefix.
+      # Caption buttons use glyphs of this font, which is only found in the prefix.
       cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null
       touch "$WINEPREFIX/.ready"
     fi
   ) 9>"$1/.wine-lock"
 }
 
-# As on a machine where nothing was ever set: neither the product's settings nor the host's are left.
+# Deletes all settings of the product and the host, as on a new machine.
 qvx_forget_settings() {
   local key
   for key in 'HKCU\Software\Quivera' 'HKLM\Software\Quivera' 'HKCU\Software\DevHost'; do
-    qvx_wine reg delete "$key" /f >/dev/null 2>&1 || true  # nothing was kept yet
+    qvx_wine reg delete "$key" /f >/dev/null 2>&1 || true  # the key did not exist
   done
   return 0
 }
 
-# The module then starts without its tip of the day, a dialog that waits for somebody.
+# Disables the tip of the day, a modal dialog that would block the start.
 qvx_leave_out_tips() {
   qvx_wine reg add 'HKCU\Software\Quivera\QVX\R24.0\QVX-1\Settings' /v g_nCustomFlag \
     /t REG_DWORD /d 2 /f >/dev/null 2>&1
