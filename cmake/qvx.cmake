@@ -42,10 +42,14 @@ target_include_directories(header_packages SYSTEM INTERFACE ${_hdr})
 set(ZLIB_USE_STATIC_LIBS ON)
 find_package(ZLIB REQUIRED)
 
-# qvx_module(NAME SOURCES...): a module that the host loads. Only what is marked for export leaves it.
+# qvx_module(NAME SOURCES...): a module that the host loads. Only what is marked for export leaves it,
+# and the version of the interface it was built with, which every module exports from the host's library.
 function(qvx_module name)
   add_library(${name} SHARED ${ARGN})
   set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".arx")
+  target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/module.def)
+  target_link_libraries(${name} PRIVATE rxapi)
+  target_link_options(${name} PRIVATE -Wl,--undefined=acrxGetApiVersion)
 endfunction()
 
 # qvx_room(NAME [EXCEPT file...] LIBS target... [WINDOWS_LIBS target...]): one room of the product.

@@ -1,6 +1,7 @@
 #include "ground/host_registry.h"
 
 #include "accmd.h"
+#include "rxdict.h"
 #include "rxdlinkr.h"
 #include "rxregsvc.h"
 

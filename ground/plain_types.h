@@ -1,11 +1,11 @@
-// The few plain Windows types that decisions are written in. On Windows they are Windows' own; on a
-// machine without Windows headers the same names stand here with the same layout, so that a file of
-// pure logic includes this and nothing else. Not a substitute for windows.h: no function is
-// declared.
+// The few plain Windows types that decisions are written in. On Windows they are Windows' own, and
+// the class library brings them: it refuses a windows.h that was included ahead of it. On a machine
+// without Windows headers the same names stand here with the same layout, so that a file of pure
+// logic includes this and nothing else. Not a substitute for windows.h: no function is declared.
 #pragma once
 
 #ifdef _WIN32
-#include <windows.h>
+#include "afx.h"
 #else
 #include <cstdint>
 

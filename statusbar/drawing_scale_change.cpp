@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "aced.h"
+#include "axlock.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
 #include "ground/host_variables.h"

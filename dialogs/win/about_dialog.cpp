@@ -1,7 +1,5 @@
 #include "dialogs/win/about_dialog.h"
 
-#include <shellapi.h>
-
 #include "ground/win/module_resources.h"
 #include "kernel/qvxexport.h"
 #include "resources/resource_ids.h"

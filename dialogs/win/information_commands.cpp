@@ -1,5 +1,7 @@
 #include "dialogs/win/information_commands.h"
 
+#include "afxwin.h"
+
 #include "dialogs/win/about_dialog.h"
 #include "dialogs/win/day_tip_dialog.h"
 #include "ground/win/module_resources.h"

@@ -1,8 +1,6 @@
 // Opens a document or an address with what the user has for it.
 #pragma once
 
-#include <shellapi.h>
-
 #include "afxwin.h"
 
 namespace qvx {

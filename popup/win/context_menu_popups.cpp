@@ -1,7 +1,9 @@
 // CContextMenuWnd: showing pop-ups, and the messages of the menu loop. The loop runs on this very
 // thread, so all of it arrives while TrackPopupMenu has not returned.
-#include "acdocman.h"
+#include "afxwin.h"
 #include "afxext.h"
+
+#include "acdocman.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
 #include "popup/win/context_menu_wnd.h"

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "afxwin.h"
+
 #include "acdocman.h"
 #include "aced.h"
 #include "kernel/globals.h"

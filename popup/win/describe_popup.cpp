@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "afxwin.h"
+
 #include "popup/popup_json.h"
 #include "rxmfcapi.h"
 

@@ -66,7 +66,7 @@ void CMenuGroup::CarryScroll(const qvx::ScrollPlan& plan) {
   const CRect bar(plan.bar);
   if (!HasScrollBar()) {
     if (!m_scrollBar.Create(kScrollBarStyle, bar, this, kScrollBarId)) return;
-  } else if (PlaceOf(m_scrollBar) != bar) {
+  } else if (!PlaceOf(m_scrollBar).EqualRect(&bar)) {
     m_scrollBar.MoveWindow(&bar);
   }
   SetScroll(plan.top, plan.pos);
@@ -97,7 +97,7 @@ CRect CMenuGroup::PlaceOf(CWnd& child) const {
 void CMenuGroup::PlaceRow(CSMenuItem& row, const CRect& place, CRect& changed) {
   if (!row.GetSafeHwnd()) return;
   const CRect present = PlaceOf(row);
-  if (present == place) return;
+  if (present.EqualRect(&place)) return;
   MoveUnseen(row, place);
   changed.UnionRect(changed, present);
   changed.UnionRect(changed, place);
@@ -117,12 +117,12 @@ void CMenuGroup::PlaceChild(CMenuGroup& child, const CRect& place, CRect& change
   CRect wanted(place);
   if (wanted.bottom < wanted.top) wanted.bottom = wanted.top;
   const bool shown = (child.GetStyle() & WS_VISIBLE) != 0;
-  if (present != wanted) {
+  if (!present.EqualRect(&wanted)) {
     MoveUnseen(child, wanted);
     if (shown) changed.UnionRect(changed, present);
     changed.UnionRect(changed, wanted);
   }
-  if (present.Size() == wanted.Size()) child.LayoutGroup();
+  if (present.Width() == wanted.Width() && present.Height() == wanted.Height()) child.LayoutGroup();
   if (!shown) child.ShowWindow(SW_SHOW);
 }
 
@@ -145,7 +145,7 @@ void CMenuGroup::ScrollGroup(UINT code, int position) {
     const CRect zone(qvx::NearView(area));
     ::ScrollWindowEx(m_hWnd, 0, pos - target, &zone, &area, nullptr, nullptr,
                      SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
-    if (PlaceOf(m_scrollBar) != bar) m_scrollBar.MoveWindow(&bar, FALSE);
+    if (!PlaceOf(m_scrollBar).EqualRect(&bar)) m_scrollBar.MoveWindow(&bar, FALSE);
     BringNear(zone, area);
     m_isScrolledPast = true;
   }
@@ -163,7 +163,7 @@ void CMenuGroup::BringNear(const CRect& zone, const CRect& view) {
   }
   CMenuGroup* open = OpenChild();
   if (open && open->GetSafeHwnd() && seen.IntersectRect(CRect(plan.child), zone) &&
-      PlaceOf(*open) != CRect(plan.child))
+      !PlaceOf(*open).EqualRect(&plan.child))
     PlaceChild(*open, plan.child, changed);
   if (seen.IntersectRect(changed, view))
     RedrawWindow(&seen, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -180,7 +180,7 @@ void CMenuGroup::SettleRows() {
   for (int i = 0; i < m_items.Length(); ++i)
     PlaceRow(*m_items.At(i), plan.rows[static_cast<std::size_t>(i)], unseen);
   CMenuGroup* open = OpenChild();
-  if (open && open->GetSafeHwnd() && PlaceOf(*open) != CRect(plan.child))
+  if (open && open->GetSafeHwnd() && !PlaceOf(*open).EqualRect(&plan.child))
     PlaceChild(*open, plan.child, unseen);
 }
 

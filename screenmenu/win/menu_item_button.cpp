@@ -111,7 +111,8 @@ void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
   ClearHover();
   CRect button;
   GetWindowRect(&button);
-  if (point == kPlaceOfKeyboard) point = CPoint(button.left, button.bottom);
+  if (point.x == kPlaceOfKeyboard.x && point.y == kPlaceOfKeyboard.y)
+    point = CPoint(button.left, button.bottom);
   if (!m_pMenuItem->m_pSubMenu) {
     m_pOwner->ShowLineMenu(*m_pMenuItem, point);
     return;

@@ -2,6 +2,9 @@
 // goes.
 #include "screenmenu/win/screen_menu.h"
 
+#include "afxwin.h"
+
+#include "aced.h"
 #include "adslib.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
@@ -122,7 +125,7 @@ void CScreenMenu::FitGroup() {
   CRect present;
   m_pRootGroup->GetWindowRect(&present);
   ScreenToClient(&present);
-  if (present != fit) m_pRootGroup->MoveWindow(&fit, TRUE);
+  if (!present.EqualRect(&fit)) m_pRootGroup->MoveWindow(&fit, TRUE);
 }
 
 // With the root's height limited only its open group scrolls. The message is taken in every case.

@@ -10,6 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "afxwin.h"
+#include "afxext.h"
+
 #include "adui.h"
 #include "ground/win/owned_handle.h"
 #include "screenmenu/dispatch_rules.h"

@@ -1,5 +1,7 @@
 // CScreenMenu: how a chosen command gets to the host. It does not start from inside the button's
 // click: it waits, cancels what runs, and hands the keyboard back to the drawing.
+#include "afxwin.h"
+
 #include "rxmfcapi.h"
 #include "screenmenu/row_plan.h"
 #include "screenmenu/win/screen_menu.h"
@@ -7,7 +9,7 @@
 
 void CScreenMenu::ArmCommand(const TWCString& command) {
   m_pending.Arm(command);
-  SetTimer(qvx::kSendTimer, qvx::kSendDelay);
+  SetTimer(qvx::kSendTimer, qvx::kSendDelay, nullptr);
 }
 
 void CScreenMenu::OnTimer(UINT_PTR timer) {

@@ -1,5 +1,7 @@
 // CScreenMenu: right clicks on rows and on the palette, what a line chosen there does, help for a
 // line. The pop-ups themselves are shown by the room that owns them.
+#include "afxwin.h"
+
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "rxmfcapi.h"

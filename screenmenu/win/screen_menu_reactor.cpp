@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "afxwin.h"
+
 #include "acstatusbar.h"
 #include "screenmenu/win/screen_menu.h"
 #include "screenmenu/screen_menu_host.h"

@@ -1,5 +1,7 @@
 // The palette comes up and goes down: creation, docking, title and icon from the product file, and
 // the functions that sibling modules call.
+#include "afxwin.h"
+
 #include "adscodes.h"
 #include "ground/product_section.h"
 #include "kernel/globals.h"

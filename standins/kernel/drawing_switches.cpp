@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "acdocman.h"
+#include "axlock.h"
 #include "kernel/globals.h"
 #include "kernel/tdbconfig.h"
 

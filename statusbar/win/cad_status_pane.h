@@ -3,6 +3,8 @@
 // nothing about the switch, which OnToggle and IsOn belong to.
 #pragma once
 
+#include "afxwin.h"
+
 #include "acstatusbar.h"
 
 // What the module offers to its siblings: exported while it is built itself, imported elsewhere.

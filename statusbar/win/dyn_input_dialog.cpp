@@ -1,5 +1,7 @@
 #include "statusbar/win/dyn_input_dialog.h"
 
+#include "afxwin.h"
+
 #include "ground/win/module_resources.h"
 #include "kernel/globals.h"
 #include "resources/resource_ids.h"

@@ -1,5 +1,7 @@
 #include "statusbar/win/scale_dialog.h"
 
+#include "afxwin.h"
+
 #include "ground/win/module_resources.h"
 #include "kernel/drawing_scale.h"
 #include "resources/resource_ids.h"

@@ -2,6 +2,8 @@
 // sets the scale of the selected objects or of the drawing. It keeps nothing but its text.
 #pragma once
 
+#include "afxwin.h"
+
 #include "acstatusbar.h"
 
 class TPScalePane : public AcPane {

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "aced.h"
 #include "adslib.h"
 #include "ground/guard.h"
 #include "ground/host_variables.h"

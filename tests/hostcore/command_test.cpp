@@ -1,4 +1,5 @@
 // Commands, the input queue, CMDACTIVE and CMDNAMES.
+#include "acedcmdnf.h"
 #include "host_fixture.h"
 
 using namespace devhost;

@@ -1,4 +1,5 @@
 // Drawings: opening, closing, contexts, locks and notifications.
+#include "axlock.h"
 #include "host_fixture.h"
 
 using namespace devhost;

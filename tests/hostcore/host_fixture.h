@@ -13,6 +13,9 @@
 #include <vector>
 
 #include "aced.h"
+#include "rxdlinkr.h"
+#include "adslib.h"
+#include "acdocman.h"
 #include "dbapserv.h"
 #include "dbents.h"
 #include "dbsymtb.h"

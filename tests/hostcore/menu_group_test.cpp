@@ -1,4 +1,6 @@
 // Menu groups: MENULOAD, MENUUNLOAD and the published query.
+#include "aced.h"
+#include "acedcmdnf.h"
 #include "afx.h"
 #include "host_fixture.h"
 

@@ -1,4 +1,6 @@
 // Undo.
+#include "acedcmdnf.h"
+#include "axlock.h"
 #include "devhost/core/modules/class_binding.h"
 #include "host_fixture.h"
 

@@ -2,6 +2,7 @@
 // locks, the way through a file, and files that hold something else.
 #include <gtest/gtest.h>
 
+#include "axlock.h"
 #include "dbsymtb.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include "kernel/current_drawing.h"

@@ -2,9 +2,10 @@
 
 #include <memory>
 
+#include "afxwin.h"
+
 #include "aced.h"
 #include "adslib.h"
-#include "afxwin.h"
 #include "ground/win/open_by_shell.h"
 #include "ground/document_paths.h"
 #include "frame/commands/win/live_menu_commands.h"

@@ -1,6 +1,7 @@
 #include "frame/commands/win/show_bar.h"
 
 #include "aced.h"
+#include "acedcmdnf.h"
 #include "adslib.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"

@@ -72,8 +72,6 @@ QVX_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packe
   return AcRx::kRetOK;
 }
 
-QVX_EXPORT int acrxGetApiVersion() { return ACRX_API_VERSION; }
-
 QVX_EXPORT void LoadContexMenu() { ReloadMenu(); }
 
 QVX_EXPORT void LoadMenuForSun() {

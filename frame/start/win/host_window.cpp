@@ -1,6 +1,7 @@
 #include "frame/start/win/host_window.h"
 
 #include "afxwin.h"
+
 #include "frame/start/host_release.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"

@@ -1,6 +1,7 @@
 // What the menu engine is given.
-#include "aced.h"
 #include "afxwin.h"
+
+#include "aced.h"
 #include "frame/settings/menu_setting.h"
 #include "frame/start/win/shell.h"
 #include "kernel/globals.h"

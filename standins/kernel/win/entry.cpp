@@ -1,6 +1,6 @@
 // The host's way into the kernel module. It is loaded by the modules that need it, before anything
 // else they do, and unloaded by them last.
-#include <windows.h>
+#include "afx.h"
 
 #include "kernel/current_drawing.h"
 #include "kernel/entities/qvx_entity.h"
@@ -35,5 +35,3 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
   }
   return AcRx::kRetOK;
 }
-
-extern "C" __declspec(dllexport) int acrxGetApiVersion(void) { return ACRX_API_VERSION; }

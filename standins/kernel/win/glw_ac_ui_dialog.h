@@ -2,6 +2,9 @@
 // one name, so that what all of them need has one place.
 #pragma once
 
+#include "afxwin.h"
+#include "afxext.h"
+
 #include "acui.h"
 #include "kernel/kernel_export.h"
 

@@ -1,4 +1,4 @@
-#include <windows.h>
+#include "afx.h"
 
 #include "kernel/qvxexport.h"
 

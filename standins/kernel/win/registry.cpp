@@ -1,6 +1,6 @@
 // TRegProperty over the Windows registry. Keys are opened for each call and closed by their owner;
 // nothing is cached, so what another program writes is seen at the next read.
-#include <windows.h>
+#include "afx.h"
 
 #include <cstdlib>
 #include <cwchar>

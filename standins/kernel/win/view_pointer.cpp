@@ -1,5 +1,7 @@
 #include "kernel/view_pointer.h"
 
+#include "afxext.h"
+
 #include "rxmfcapi.h"
 
 bool PointerInView(AcGePoint3d& at) {

@@ -2,12 +2,15 @@
 // collections. Needs no window and builds everywhere; afxwin.h stands on it.
 #pragma once
 
+#define __AFX_H__
+
+#include "afxv_w32.h"
+
 #include <cstdint>
 #include <cstring>
 #include <memory>
 #include <vector>
 
-#include "ground/plain_types.h"
 #include "afxstr.h"
 
 #ifndef _WIN32

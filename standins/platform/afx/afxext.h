@@ -6,6 +6,8 @@
 // Not here: tool bars, dialog bars, splitters, in-place editing, printing of bars.
 #pragma once
 
+#define __AFXEXT_H__
+
 #include "afxwin.h"
 
 // Where a bar stands, which lines it draws, how it behaves: the low word of m_dwStyle.

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "ground/plain_types.h"
+#include "afxv_w32.h"
 
 #ifndef _WIN32
 using TCHAR = wchar_t;

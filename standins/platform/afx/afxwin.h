@@ -6,21 +6,17 @@
 // There is one state for the process, and the objects of other threads are kept apart by thread.
 #pragma once
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
-#include <commctrl.h>
+#define __AFXWIN_H__
+
+#include "afx.h"
 #include <commdlg.h>
 #include <shellapi.h>
-#include <tchar.h>
 
 // A shorthand of Windows' header that would hide the member of that name.
 #undef GetNextWindow
 // The one message that stands for all colour queries of controls.
 #define WM_CTLCOLOR 0x0019
 
-#include "afx.h"
 #include "afxres.h"
 #include "atltypes.h"
 

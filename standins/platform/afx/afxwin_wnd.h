@@ -189,7 +189,7 @@ class CWnd : public CCmdTarget {
   CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
   CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
   BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
-  UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr) const {
+  UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer) const {
     return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
   }
   BOOL KillTimer(UINT_PTR nIDEvent) const { return ::KillTimer(m_hWnd, nIDEvent); }

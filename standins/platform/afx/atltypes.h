@@ -3,7 +3,7 @@
 // and members that are called are here; nothing normalises a rectangle behind the caller's back.
 #pragma once
 
-#include "ground/plain_types.h"
+#include "afxv_w32.h"
 
 #include <algorithm>
 
@@ -20,7 +20,8 @@ class CSize : public SIZE {
     cx = static_cast<short>(packed & 0xFFFF), cy = static_cast<short>(packed >> 16);
   }
 
-  bool operator==(SIZE o) const { return cx == o.cx && cy == o.cy; }
+  BOOL operator==(SIZE o) const { return cx == o.cx && cy == o.cy; }
+  BOOL operator!=(SIZE o) const { return cx != o.cx || cy != o.cy; }
   void operator+=(SIZE o) { cx += o.cx, cy += o.cy; }
   void operator-=(SIZE o) { cx -= o.cx, cy -= o.cy; }
   CSize operator+(SIZE o) const { return CSize(cx + o.cx, cy + o.cy); }
@@ -43,7 +44,8 @@ class CPoint : public POINT {
   void Offset(SIZE o) { x += o.cx, y += o.cy; }
   void SetPoint(int px, int py) { x = px, y = py; }
 
-  bool operator==(POINT o) const { return x == o.x && y == o.y; }
+  BOOL operator==(POINT o) const { return x == o.x && y == o.y; }
+  BOOL operator!=(POINT o) const { return x != o.x || y != o.y; }
   void operator+=(SIZE o) { x += o.cx, y += o.cy; }
   void operator-=(SIZE o) { x -= o.cx, y -= o.cy; }
   void operator+=(POINT o) { x += o.x, y += o.y; }
@@ -132,7 +134,8 @@ class CRect : public RECT {
     return !IsRectEmpty();
   }
 
-  bool operator==(const RECT& r) const { return EqualRect(&r); }
+  BOOL operator==(const RECT& r) const { return EqualRect(&r); }
+  BOOL operator!=(const RECT& r) const { return !EqualRect(&r); }
   void operator+=(POINT p) { OffsetRect(p); }
   void operator+=(SIZE s) { OffsetRect(s); }
   void operator-=(POINT p) { OffsetRect(-p.x, -p.y); }

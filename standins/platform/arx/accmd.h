@@ -3,6 +3,7 @@
 #pragma once
 
 #include "adslib.h"
+#include "rxdict.h"
 #include "rxregsvc.h"
 
 #define ACRX_CMD_MODAL 0x00000000
@@ -45,7 +46,7 @@ class AcEdCommandStack : public AcRxObject {
  public:
   ACRX_DECLARE_MEMBERS(AcEdCommandStack);
   virtual Acad::ErrorStatus addCommand(
-      const ACHAR* group, const ACHAR* globalName, const ACHAR* localName, LONG flags,
+      const ACHAR* group, const ACHAR* globalName, const ACHAR* localName, Adesk::Int32 flags,
       AcRxFunctionPtr function, AcEdUIContext* uiContext = nullptr, int functionCode = -1,
       const AcRxResourceInstance& resource = AcRxResourceInstance::empty,
       AcEdCommand** result = nullptr) = 0;  // eDuplicateKey

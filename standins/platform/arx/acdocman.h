@@ -86,18 +86,3 @@ class AcApDocManager : public AcRxObject {
 
 AcApDocManager* acDocManagerPtr();
 #define acDocManager acDocManagerPtr()
-
-// Holds a write lock on a document, the current one by default.
-class AcAxDocLock {
- public:
-  AcAxDocLock();
-  explicit AcAxDocLock(AcApDocument* document);
-  ~AcAxDocLock();
-  AcAxDocLock(const AcAxDocLock&) = delete;
-  AcAxDocLock& operator=(const AcAxDocLock&) = delete;
-  Acad::ErrorStatus lockStatus() const { return m_status; }
-
- private:
-  AcApDocument* m_document;
-  Acad::ErrorStatus m_status;
-};

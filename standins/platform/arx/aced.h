@@ -1,7 +1,7 @@
-// The editor's interface in one include: the C functions, the command stack, the documents.
+// What the editor offers beside its C functions: the prompt, the groups of menus.
 #pragma once
 
 #include "accmd.h"
-#include "acdocman.h"
-#include "adslib.h"
-#include "rxdlinkr.h"
+
+void acedPostCommandPrompt();  // the prompt again, after printing outside a command
+bool acedIsMenuGroupLoaded(const ACHAR* group);

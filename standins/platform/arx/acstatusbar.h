@@ -3,7 +3,9 @@
 // mouse messages; the bar draws them. Trays and per-document bars are not offered.
 #pragma once
 
-#include "afxwin.h"
+#ifndef __AFXWIN_H__
+#error "include afxwin.h first"
+#endif
 
 // What AcPane::SetStyle takes. A pane that stands out is "off", one that is pressed in is "on".
 enum : int {

@@ -1,7 +1,7 @@
 // Values that cross the host interface: the resbuf chain node and its type codes.
 #pragma once
 
-#include "ground/plain_types.h"
+#include "adesk.h"
 
 typedef double ads_real;
 typedef ads_real ads_point[3];
@@ -19,7 +19,7 @@ union ads_u_val {
   short rint;
   ACHAR* rstring;
   ads_name rlname;
-  LONG rlong;
+  Adesk::Int32 rlong;
   long long mnInt64;
   ads_binary rbinary;
   unsigned char ihandle[8];

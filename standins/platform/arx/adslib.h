@@ -16,7 +16,6 @@ void acutDelString(ACHAR*& text);
 int acutPrintf(const ACHAR* format, ...);
 int acedPrompt(const ACHAR* text);
 int acedAlert(const ACHAR* text);
-void acedPostCommandPrompt();  // the prompt again, after printing outside a command
 
 // Variables --------------------------------------------------------------------------------------
 int acedGetVar(const ACHAR* name, resbuf* result);  // a string result is the caller's, to free
@@ -69,11 +68,9 @@ int acedRedraw(const ads_name entity, int mode);  // null entity: everything
 // RTNORM when the text fits one of the wild card patterns that commas part; case is ignored.
 int acutWcMatch(const ACHAR* text, const ACHAR* patterns);
 
-// Files, commands, menus
+// Files, modules
 // -----------------------------------------------------------------------------
 int acedFindFile(const ACHAR* name, ACHAR* path);  // along the support path
-int acedCommandS(int type, ...);                   // pairs of type and value, RTNONE at the end
-bool acedIsMenuGroupLoaded(const ACHAR* group);
-resbuf* acedArxLoaded();  // names of the loaded modules, or null
+resbuf* acedArxLoaded();                           // names of the loaded modules, or null
 int acedTrans(const ads_point point, const resbuf* from, const resbuf* to, int vector,
               ads_point result);  // world and user coordinates are one here

@@ -3,7 +3,9 @@
 // adui.h.
 #pragma once
 
-#include "afxwin.h"
+#ifndef __AFXWIN_H__
+#error "include afxwin.h first"
+#endif
 
 class CAdUiBaseDialog : public CDialog {
   DECLARE_DYNAMIC(CAdUiBaseDialog)

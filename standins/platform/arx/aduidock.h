@@ -4,8 +4,9 @@
 // The caption strip is drawn inside the client area; GetUsedRect is what it leaves to the content.
 #pragma once
 
-#include "afxext.h"
-#include "afxpriv.h"
+#ifndef __AFXEXT_H__
+#error "include afxwin.h and afxext.h first"
+#endif
 
 class CAdUiDockControlBar : public CControlBar {
   DECLARE_DYNAMIC(CAdUiDockControlBar)

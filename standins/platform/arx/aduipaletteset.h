@@ -7,6 +7,8 @@
 
 #include "aduidock.h"
 
+class CMiniDockFrameWnd;
+
 // Palette style bits of Create.
 #define PSS_PROPERTIES_MENU 0x0002
 #define PSS_AUTO_ROLLUP 0x0004

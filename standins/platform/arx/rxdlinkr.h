@@ -1,6 +1,7 @@
 // The loader of modules, found in the system registry under "DynamicLinker".
 #pragma once
 
+#include "rxdict.h"
 #include "rxregsvc.h"
 
 class AcRxDynamicLinker : public AcRxObject {

@@ -2,9 +2,11 @@
 // pixels of the view and world points. Everything here is for the main thread.
 #pragma once
 
+#ifndef __AFXWIN_H__
+#error "include afxwin.h first"
+#endif
+
 #include "adsdef.h"
-#include "afxext.h"
-#include "afxwin.h"
 
 CMDIFrameWnd* acedGetAcadFrame();  // null when no frame is up
 CWnd* acedGetAcadDwgView();        // the view of the active drawing; null without one

@@ -1,4 +1,4 @@
-// Messages to a module's entry point, the system registry and what a module says to its loader.
+// Messages to a module's entry point and what a module says to its loader.
 #pragma once
 
 #include "rxobject.h"
@@ -19,15 +19,7 @@ enum AppMsgCode {
 enum AppRetCode { kRetOK = 0, kRetError = 3 };
 }  // namespace AcRx
 
-#define ACRX_API_VERSION 24
-
-class AcRxDictionary : public AcRxObject {
- public:
-  ACRX_DECLARE_MEMBERS(AcRxDictionary);
-  virtual AcRxObject* at(const ACHAR* key) const = 0;  // null when there is none; not owned
-};
-
-AcRxDictionary* acrxSysRegistry();
+extern "C" int acrxGetApiVersion();  // in the library that each module links and exports it from
 
 bool acrxLoadModule(const ACHAR* name, bool print, bool asCommand = false);
 bool acrxUnloadModule(const ACHAR* name, bool asCommand = false);

@@ -8,6 +8,7 @@
 #include <numbers>
 
 #include "aced.h"
+#include "adslib.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
 #include "kernel/drawing_scale.h"

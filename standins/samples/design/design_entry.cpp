@@ -1,5 +1,6 @@
 // The entry point of the sample design module.
 #include "aced.h"
+#include "adslib.h"
 #include "design_commands.h"
 #include "design_lisp.h"
 
@@ -45,5 +46,3 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
   }
   return AcRx::kRetOK;
 }
-
-extern "C" __declspec(dllexport) int acrxGetApiVersion() { return ACRX_API_VERSION; }

@@ -2,7 +2,9 @@
 // and dynamic dimensions are settings of the kernel; wall styles are stored in the drawing.
 #include "design_lisp.h"
 
+#include "acdocman.h"
 #include "aced.h"
+#include "adslib.h"
 #include "kernel/drawing_switches.h"
 #include "kernel/globals.h"
 #include "kernel/tdbconfig.h"

@@ -237,7 +237,7 @@ TEST(PreTranslate, AMessageThatWasEatenIsNotDispatched) {
   std::string diary;
   Filter w("w ", diary);
   ASSERT_TRUE(w.Make());
-  w.SetTimer(1, 1);
+  w.SetTimer(1, 1, nullptr);
   w.KillTimer(1);
   PumpQueue();
   diary.clear();

@@ -276,12 +276,23 @@ TEST(Exceptions, OfAHandlerEndInTheWindowProcedure) {
   Thrower w;
   ASSERT_TRUE(w.Make());
   EXPECT_EQ(7, w.SendMessage(WM_USER + 1));
-  for (int kind : {1, 2, 3, 4}) {
+  for (int kind : {1, 4}) {
     w.kind = kind;
     EXPECT_EQ(0, w.SendMessage(WM_USER + 1)) << kind;
   }
   w.kind = 0;
   EXPECT_EQ(7, w.SendMessage(WM_USER + 1));  // and the window lives on
+}
+
+TEST(Exceptions, OtherThanTheLibrarysLeaveTheWindowProcedure) {
+  Thrower w;
+  ASSERT_TRUE(w.Make());
+  w.kind = 2;
+  EXPECT_THROW(AfxCallWndProc(&w, w.m_hWnd, WM_USER + 1, 0, 0), std::runtime_error);
+  w.kind = 3;
+  EXPECT_THROW(AfxCallWndProc(&w, w.m_hWnd, WM_USER + 1, 0, 0), int);
+  w.kind = 0;
+  EXPECT_EQ(7, w.SendMessage(WM_USER + 1));
 }
 
 TEST(Exceptions, OfAUserAreNotReportedAgain) {

@@ -4,9 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "afxext.h"
+
 #include "adui.h"
 #include "afxpriv.h"
-#include "afxwin.h"
 
 // Takes every message that waits, then the idle work, until nothing is left.
 void PumpAll();

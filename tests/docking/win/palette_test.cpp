@@ -3,6 +3,8 @@
 
 #include <objbase.h>
 
+#include "afxext.h"
+
 #include "acui.h"
 #include "devhost/ui/palette/palette_layout.h"
 #include "devhost/ui/palette/palette_store.h"

@@ -4,10 +4,14 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "aced.h"
+#include "afxext.h"
+
 #include "acdocman.h"
 #include "acstatusbar.h"
 #include "adslib.h"
 #include "afxpriv.h"
+
 #include "dbapserv.h"
 #include "rxmfcapi.h"
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <thread>
 
+#include "afxext.h"
+
 #include "devhost/ui/messages/dialog_watch.h"
 #include "devhost/ui/messages/main_thread.h"
 #include "devhost/ui/messages/message_pump.h"

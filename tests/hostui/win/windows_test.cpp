@@ -1,5 +1,8 @@
 // Status bar panes, buttons, menus, dialogs and start events, with real windows.
 #include <gtest/gtest.h>
+
+#include "afxext.h"
+
 #include <oleacc.h>
 
 #include "acstatusbar.h"

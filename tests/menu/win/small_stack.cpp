@@ -1,5 +1,5 @@
 // OnSmallStack by the system's threads.
-#include <windows.h>
+#include "afx.h"
 
 #include "tests/menu/menu_testing.h"
 

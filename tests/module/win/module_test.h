@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <string>
 
+#include "afxext.h"
+
 #include "acstatusbar.h"
 #include "devhost/core/base/journal.h"
 #include "devhost/core/host/host.h"

@@ -2,11 +2,10 @@
 // after its wait, closing with and without the hint, what is kept, dragging its edge.
 #include <gtest/gtest.h>
 
-#include <windows.h>
-// after windows.h
+#include "afxpriv.h"
+
 #include <psapi.h>
 
-#include "afxpriv.h"
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
 #include "tests/screenmenu/win/palette_fixture.h"
@@ -624,7 +623,7 @@ TEST_F(Palette, AThousandReloadsLeaveWhatTheFifthLeft) {
   EXPECT_EQ(fifth.timers, 1) << "that of the command that waits";
   EXPECT_EQ(fifth.bars, 3);
   EXPECT_LT(PrivateBytes(), bytes + (4 << 20));
-  g_pScreenMenu->SetTimer(qvx::kSendTimer, qvx::kSendDelay);
+  g_pScreenMenu->SetTimer(qvx::kSendTimer, qvx::kSendDelay, nullptr);
   InitScreenMenu(false, true);
   EXPECT_EQ(EndTimers(), 0);
   EXPECT_EQ(CountedBar::s_alive, 0);

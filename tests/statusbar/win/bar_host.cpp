@@ -1,5 +1,7 @@
 #include "tests/statusbar/win/bar_host.h"
 
+#include "afxext.h"
+
 #include "dbsymtb.h"
 #include "devhost/core/base/journal.h"
 #include "devhost/core/host/host.h"

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "afxext.h"
+
 #include "acstatusbar.h"
 #include "devhost/core/documents/document.h"
 #include "statusbar/win/cad_status_pane.h"

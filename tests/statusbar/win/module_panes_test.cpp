@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "afxext.h"
+
 #include "acstatusbar.h"
 #include "devhost/core/host/host.h"
 #include "rxregsvc.h"

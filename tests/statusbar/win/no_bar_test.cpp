@@ -1,6 +1,8 @@
 // The panes while the host has no status bar: nothing happens and nothing breaks.
 #include <gtest/gtest.h>
 
+#include "afxext.h"
+
 #include "acstatusbar.h"
 #include "kernel/globals.h"
 #include "statusbar/win/scale_pane.h"

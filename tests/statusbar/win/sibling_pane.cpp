@@ -44,5 +44,3 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
   }
   return AcRx::kRetOK;
 }
-
-extern "C" __declspec(dllexport) int acrxGetApiVersion() { return ACRX_API_VERSION; }

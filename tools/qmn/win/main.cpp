@@ -2,7 +2,7 @@
 // UTF-8.
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
+#include "afx.h"
 
 #include "tools/qmn/tool_process.h"
 #include "tools/qmn/tool_text.h"

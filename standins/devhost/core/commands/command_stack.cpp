@@ -19,7 +19,7 @@ const Command* CommandStack::Find(const std::wstring& name, bool hostOnly) const
 }
 
 Acad::ErrorStatus CommandStack::addCommand(const ACHAR* group, const ACHAR* globalName,
-                                           const ACHAR* localName, LONG flags,
+                                           const ACHAR* localName, Adesk::Int32 flags,
                                            AcRxFunctionPtr function, AcEdUIContext*, int,
                                            const AcRxResourceInstance&, AcEdCommand** result) {
   if (result) *result = nullptr;

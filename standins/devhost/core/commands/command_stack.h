@@ -25,9 +25,9 @@ class CommandStack : public AcEdCommandStack {
   const std::vector<Command>& All() const { return m_commands; }
 
   Acad::ErrorStatus addCommand(const ACHAR* group, const ACHAR* globalName, const ACHAR* localName,
-                               LONG flags, AcRxFunctionPtr function, AcEdUIContext* uiContext,
-                               int functionCode, const AcRxResourceInstance& resource,
-                               AcEdCommand** result) override;
+                               Adesk::Int32 flags, AcRxFunctionPtr function,
+                               AcEdUIContext* uiContext, int functionCode,
+                               const AcRxResourceInstance& resource, AcEdCommand** result) override;
   Acad::ErrorStatus removeCmd(const ACHAR* group, const ACHAR* globalName) override;
   Acad::ErrorStatus removeGroup(const ACHAR* group) override;
   void RemoveModule(const LoadedModule* module);

@@ -1,5 +1,6 @@
 // The published document interfaces: the document manager, document locks, painting an entity.
 #include "acdocman.h"
+#include "axlock.h"
 #include "devhost/core/host/host.h"
 
 // Class descriptors.
@@ -8,9 +9,12 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocManager, AcRxObject)
 
 AcApDocManager* acDocManagerPtr() { return &devhost::TheHost().documents; }
 
-AcAxDocLock::AcAxDocLock() : AcAxDocLock(acDocManagerPtr()->curDocument()) {}
-AcAxDocLock::AcAxDocLock(AcApDocument* document)
-    : m_document(document), m_status(acDocManagerPtr()->lockDocument(document)) {}
+AcAxDocLock::AcAxDocLock()
+    : m_document(acDocManagerPtr()->curDocument()),
+      m_status(acDocManagerPtr()->lockDocument(m_document)) {}
+AcAxDocLock::AcAxDocLock(AcDbDatabase* database, DocLockType)
+    : m_document(acDocManagerPtr()->document(database)),
+      m_status(acDocManagerPtr()->lockDocument(m_document)) {}
 AcAxDocLock::~AcAxDocLock() {
   if (m_status == Acad::eOk) acDocManagerPtr()->unlockDocument(m_document);
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "axlock.h"
 #include "devhost/core/base/journal.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/text_case.h"

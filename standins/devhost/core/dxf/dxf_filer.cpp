@@ -81,7 +81,7 @@ Acad::ErrorStatus DxfInFiler::readItem(resbuf* item) {
         item->resval.rint = static_cast<short>(IntegerOf(group));
         break;
       case GroupKind::Long:
-        item->resval.rlong = static_cast<LONG>(IntegerOf(group));
+        item->resval.rlong = static_cast<Adesk::Int32>(IntegerOf(group));
         break;
     }
     return Acad::eOk;
@@ -170,7 +170,7 @@ std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDeco
         node->resval.rint = static_cast<short>(DxfInteger(group.value).value_or(0));
         break;
       default:
-        node->resval.rlong = static_cast<LONG>(DxfInteger(group.value).value_or(0));
+        node->resval.rlong = static_cast<Adesk::Int32>(DxfInteger(group.value).value_or(0));
         break;
     }
     *tail = node;

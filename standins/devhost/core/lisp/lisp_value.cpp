@@ -104,7 +104,7 @@ void AddInteger(resbuf**& tail, long long value) {
   if (value >= -32768 && value <= 32767)
     AddNode(tail, RTSHORT)->resval.rint = static_cast<short>(value);
   else
-    AddNode(tail, RTLONG)->resval.rlong = static_cast<LONG>(value);
+    AddNode(tail, RTLONG)->resval.rlong = static_cast<Adesk::Int32>(value);
 }
 
 void Add(resbuf**& tail, const LispValue& value, int depth) {

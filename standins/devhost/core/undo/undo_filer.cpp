@@ -60,7 +60,7 @@ Acad::ErrorStatus UndoInFiler::readItem(resbuf* item) {
         item->resval.rint = static_cast<short>(group.number);
         break;
       case GroupKind::Long:
-        item->resval.rlong = static_cast<LONG>(group.number);
+        item->resval.rlong = static_cast<Adesk::Int32>(group.number);
         break;
     }
     return Acad::eOk;

@@ -1,5 +1,7 @@
 // Panes of the status bar and their menus. The bar paints panes and passes clicks to
 // them; see status_bar.
+#include "afxext.h"
+
 #include "acstatusbar.h"
 
 #include <utility>

@@ -6,8 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "acstatusbar.h"
 #include "afxext.h"
+
+#include "acstatusbar.h"
 #include "devhost/ui/bars/pane_layout.h"
 #include "devhost/ui/painting/gdi.h"
 

@@ -1,4 +1,6 @@
 // Published functions that return windows of the host or convert between pixels and world points.
+#include "afxext.h"
+
 #include "rxmfcapi.h"
 
 #include "devhost/core/host/host.h"

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "afxext.h"
+
 #include "devhost/core/base/start_trace.h"
 #include "rxmfcapi.h"
 

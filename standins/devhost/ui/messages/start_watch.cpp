@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include "afxext.h"
+
 #include "aduipaletteset.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/utf8.h"

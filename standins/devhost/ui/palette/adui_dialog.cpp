@@ -1,4 +1,6 @@
 // The published dialog classes.
+#include "afxext.h"
+
 #include "acui.h"
 
 IMPLEMENT_DYNAMIC(CAdUiBaseDialog, CDialog)

@@ -1,5 +1,9 @@
 // CAdUiDockControlBar: size, place and stored state of a palette. Painting and mouse handling are
 // in adui_dock_caption.cpp.
+#include <algorithm>
+
+#include "afxpriv.h"
+
 #include "adui.h"
 #include "devhost/ui/palette/palette_layout.h"
 #include "devhost/ui/palette/palette_store.h"

@@ -1,5 +1,7 @@
 // The caption of a docked palette: painting and mouse handling, both by the
 // parts of palette_layout.
+#include "afxpriv.h"
+
 #include "adui.h"
 #include "devhost/ui/palette/palette_layout.h"
 

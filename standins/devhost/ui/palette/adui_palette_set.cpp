@@ -1,4 +1,6 @@
 // CAdUiPaletteSet: rolling up, and the palette's menu.
+#include "afxpriv.h"
+
 #include "adui.h"
 #include "devhost/ui/palette/palette_layout.h"
 

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "ground/plain_types.h"
+#include "afxv_w32.h"
 
 // The sides, with the numbers of the bar styles CBRS_ALIGN_...
 enum DockSide : DWORD {

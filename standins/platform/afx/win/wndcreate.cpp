@@ -4,7 +4,6 @@
 #include "afximpl.h"
 
 #include <cwchar>
-#include <exception>
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
@@ -76,7 +75,8 @@ class LastMessage {
 };
 }  // namespace
 
-// Nothing may leave a window procedure: the frames beneath belong to Windows.
+// Catches what the library throws and nothing else. Any other exception leaves through frames that
+// belong to Windows: handlers have to keep it to themselves.
 LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
   const MSG message{hWnd, nMsg, wParam, lParam, 0, {}};
   LastMessage last(message);
@@ -88,11 +88,6 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
         thread ? thread->ProcessWndProcException(e, &message) : ResultAfterException(message);
     e->Delete();
     return result;
-  } catch (const std::exception& e) {
-    ::OutputDebugStringA(e.what());
-    return ResultAfterException(message);
-  } catch (...) {
-    return ResultAfterException(message);
   }
 }
 
@@ -123,8 +118,6 @@ LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
     } catch (CException* e) {
       e->Delete();
       return 1;  // no window
-    } catch (...) {
-      return 1;
     }
   }
   return ::CallNextHookEx(state.creationHook, code, wParam, lParam);

@@ -1,0 +1,8 @@
+// Integers of a fixed width, as the host's interface names them.
+#pragma once
+
+#include <cstdint>
+
+namespace Adesk {
+typedef std::int32_t Int32;
+}  // namespace Adesk
