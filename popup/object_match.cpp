@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "afx.h"
+
 #include "adsdef.h"
 #include "kernel/qvxexport.h"
 #include "menu/menu_system.h"

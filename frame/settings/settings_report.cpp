@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <cwchar>
 
+#include "afx.h"
+
 #include "aced.h"
 #include "adslib.h"
 #include "ground/product_section.h"

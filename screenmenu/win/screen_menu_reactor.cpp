@@ -3,8 +3,6 @@
 
 #include <utility>
 
-#include "afxwin.h"
-
 #include "acstatusbar.h"
 #include "screenmenu/win/screen_menu.h"
 #include "screenmenu/screen_menu_host.h"

@@ -2,6 +2,8 @@
 // drawing goes, and the per-drawing panes follow the active one. One instance, from load to unload.
 #pragma once
 
+#include "afxwin.h"
+
 #include "acdocman.h"
 
 class TScreenMenuReactor : public AcApDocManagerReactor {

@@ -1,5 +1,7 @@
 // The panes of the current drawing's switches: fill, bold lines, base line. Their state stands in
 // the drawing; without a drawing all are off.
+#include "afxwin.h"
+
 #include "adslib.h"
 #include "ground/host_variables.h"
 #include "kernel/drawing_switches.h"

@@ -1,5 +1,7 @@
 #include "frame/commands/win/command_table.h"
 
+#include "afxwin.h"
+
 #include "accmd.h"
 #include "dialogs/win/information_commands.h"
 #include "ground/host_registry.h"

@@ -1,5 +1,7 @@
 #include "frame/commands/win/live_menu_commands.h"
 
+#include "afxwin.h"
+
 #include "aced.h"
 #include "adslib.h"
 #include "frame/start/win/icon_library.h"

@@ -1,4 +1,6 @@
 // What rooms below ask of the module while it runs, and the bring-up of the menu.
+#include "afxwin.h"
+
 #include "aced.h"
 #include "frame/commands/lisp_path.h"
 #include "frame/settings/recent_commands.h"

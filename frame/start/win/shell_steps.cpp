@@ -2,6 +2,8 @@
 // not built goes to unbuilt_rooms.
 #include <string>
 
+#include "afxwin.h"
+
 #include "acdocman.h"
 #include "aced.h"
 #include "dialogs/win/information_commands.h"
