@@ -9,6 +9,8 @@
 #include <system_error>
 
 #include "afx.h"
+
+#include "ground/memory_errors.h"
 #include "menu/compiled_io.h"
 #include "menu/menu_system.h"
 #include "menu/menu_users.h"
@@ -131,6 +133,9 @@ class Saving {
     } catch (CFileException* exception) {
       m_isDenied = exception->m_cause == CFileException::accessDenied;
       exception->Delete();
+    } catch (CMemoryException* exception) {
+      exception->Delete();
+      if (m_isBeside) RemoveBeside();
     } catch (CException* exception) {
       exception->Delete();
     } catch (const std::bad_alloc&) {
@@ -153,11 +158,7 @@ class Saving {
 // What may lack memory outside of the steps above is the wording of a message.
 template <class Job>
 void WithoutMemoryErrors(MenuBoxes& boxes, Job job) {
-  try {
-    job();
-  } catch (const std::bad_alloc&) {
-    boxes.ShowMessage(L"CMemoryException");
-  }
+  if (!qvx::HasMemoryFor(job)) boxes.ShowMessage(L"CMemoryException");
 }
 
 }  // namespace

@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <cwchar>
 #include <memory>
-#include <new>
 #include <string>
 
+#include "ground/memory_errors.h"
 #include "kernel/native_file.h"
 #include "kernel/tsplitpath.h"
 #include "menu/menu_compiler.h"
@@ -68,13 +68,10 @@ bool MenuLoading::DefaultMenuBase(wchar_t* out) {
 void MenuLoading::CompileMenu(const wchar_t* path) {
   TMenuSystem* system = m_users.CurrentSystem();
   if (!system) return;
-  try {
-    Compile(path, *system);
-  } catch (const std::bad_alloc&) {  // the compiled file stays as it was
-    system->EmptyLists();
-    m_boxes.ShowMessage(L"CMemoryException");
-    HandOver(*system);  // nobody keeps a block that is gone
-  }
+  if (qvx::HasMemoryFor([&] { Compile(path, *system); })) return;
+  system->EmptyLists();  // the compiled file stays as it was
+  m_boxes.ShowMessage(L"CMemoryException");
+  HandOver(*system);  // nobody keeps a block that is gone
 }
 
 void MenuLoading::Compile(const wchar_t* path, TMenuSystem& system) {
