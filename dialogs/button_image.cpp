@@ -4,7 +4,8 @@
 namespace qvx {
 namespace {
 
-constexpr int kImageInset = 3;  // between the item's left edge and the image, and behind the image
+// Between the item's left edge and the image, and after the image.
+constexpr int kImageInset = 3;
 
 LONG Middle(LONG low, LONG high, LONG size) { return low + (high - low - size) / 2; }
 

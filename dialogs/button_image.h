@@ -1,5 +1,5 @@
-// Where a button that draws itself puts its image, its overlay and what is left for the caption.
-// Rectangles in, rectangles out. Called by CButtonST::DrawItem.
+// Layout of an owner-drawn button: places of the image, the overlay and the caption, from
+// rectangles only. Called by CButtonST::DrawItem.
 #pragma once
 
 #include "ground/plain_types.h"
@@ -9,7 +9,7 @@ namespace qvx {
 struct ImagePlace {
   POINT image;    // upper left corner
   POINT overlay;  // upper left corner of the 4 by 4 overlay
-  RECT caption;   // what the image leaves of the caption rectangle
+  RECT caption;   // the caption rectangle without the image
 };
 
 constexpr int kOverlaySize = 4;

@@ -1,5 +1,5 @@
-// What the product file says to the about dialog, the help command and the mail command, with what
-// stands in for each missing key. Reading only: nothing is opened or shown here.
+// Texts of the product file for the about dialog, the help command and the mail command, with the
+// default of each missing key. Reads only.
 #pragma once
 
 #include "afx.h"
@@ -8,21 +8,21 @@
 
 namespace qvx {
 
-// The maker's own, where the product file names no other.
+// Address of the maker, used when the product file names no other.
 extern const wchar_t* const kContactAddress;
 extern const wchar_t* const kChatGroup;
 
 struct AboutTexts {
   CString name, group, version, subVersion, mail;
   CString iconFile;                  // full path; empty: no icon
-  CString chineseName, englishName;  // read with the others, shown nowhere
+  CString chineseName, englishName;  // read but shown nowhere
 };
 AboutTexts LoadAboutTexts(FindFileFunction find);
 
 struct HelpTarget {
-  bool found = true;  // false: the product file names no help file that is there
-  // Empty and `found` where there is no product file, or no product in it: the try to open it then
-  // fails, and that is what the user is told.
+  bool found = true;  // false: the help file that the product file names does not exist
+  // Empty, with `found` true, without a product file or a product in it: opening it then fails and
+  // the user sees that error.
   TWCString path;
 };
 HelpTarget FindHelpFile(FindFileFunction find);

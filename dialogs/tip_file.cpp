@@ -1,7 +1,7 @@
-// The file is text, but read byte by byte: the run-time library's wide reading knows the ANSI code
-// page only where the program has set a locale, and its text mode tells wrong positions, even
-// negative ones, in a file with bare line feeds. Line ends and the end mark of text files are
-// therefore taken here, and a position is what the file has.
+// The file is text but is opened in binary mode: the run-time library's wide reading uses the ANSI
+// code page only after the program has set a locale, and in text mode ftell returns wrong, even
+// negative positions in a file with bare line feeds. Line ends and the end mark of text files are
+// therefore handled here, and a position is a byte offset.
 #include "dialogs/tip_file.h"
 
 #include <sys/stat.h>
@@ -19,7 +19,7 @@ namespace qvx {
 
 namespace {
 
-constexpr int kTextEnd = 0x1A;  // ends a text file here as it does for the system
+constexpr int kTextEnd = 0x1A;  // end mark of a text file, as for the system
 
 bool IsLeadByte(int byte) {
 #ifdef _WIN32
@@ -46,11 +46,11 @@ int TakeByte(std::FILE* file) {
 
 constexpr wchar_t kReplacement = 0xFFFD;
 
-// The characters of one line as they come, converted in one piece at the end.
+// Collects the bytes of one line and converts them at the end in one call.
 class LineBuilder {
  public:
-  // One character, one or two bytes long; false at the end of the file. A lead byte without its
-  // second half leaves what follows, so that a damaged line still ends at its line end.
+  // Reads one character of one or two bytes; false at the end of the file. A lead byte without a
+  // valid trail byte does not consume the next byte, so a damaged line still ends at its line end.
   bool Take(std::FILE* file) {
     const int first = TakeByte(file);
     if (first == EOF) return false;
@@ -81,7 +81,7 @@ class LineBuilder {
     m_bytes.clear();
   }
 
-  std::string m_bytes;  // taken and not yet converted
+  std::string m_bytes;  // read, not yet converted
   std::wstring m_line;
   bool m_atLineEnd = false;
 };
@@ -107,8 +107,8 @@ bool IsTipLine(const wchar_t* line) {
 
 bool SeekTip(std::FILE* file, int offset) { return std::fseek(file, offset, SEEK_SET) == 0; }
 
-// A file without any tip would turn in this circle for ever and the host would hang; the second
-// time its end is met, all of it has been seen.
+// Ends the second time it reaches the end of the file: in a file without any tip the search would
+// loop for ever and hang the host.
 TipFound ReadNextTip(std::FILE* file, CString& tip) {
   for (int ends = 0; ends < 2;) {
     if (ReadTipLine(file, tip)) {
@@ -122,8 +122,8 @@ TipFound ReadNextTip(std::FILE* file, CString& tip) {
   return TipFound::kNoTip;
 }
 
-// Skipped lines belong to no tip: behind one, the tip before stays where it was, so a tip below a
-// comment is still followed backwards by the tip above it.
+// Skipped lines belong to no tip and do not change the tip found last, so from a tip below a
+// comment the user still goes back to the tip above it.
 bool FindTipBefore(std::FILE* file, int end, int& offset) {
   offset = 0;
   if (!SeekTip(file, 0)) return false;
@@ -133,7 +133,7 @@ bool FindTipBefore(std::FILE* file, int end, int& offset) {
   while (end != 0) {
     if (lastWasTip) before = current;
     current = static_cast<int>(std::ftell(file));
-    if (!ReadTipLine(file, line)) return true;  // no tip ends there, and never would
+    if (!ReadTipLine(file, line)) return true;  // no tip ends at `end`
     lastWasTip = IsTipLine(line);
     if (lastWasTip && std::ftell(file) == end) break;
   }

@@ -1,6 +1,6 @@
-// The tip of the day without its window: which tip is shown, where the next one lies, and what of
-// it is kept between two runs in the key "Tips" below the product's own. The dialog derives from
-// it; it asks this what to show and enable and tells it what was pressed.
+// The tip of the day without its window: the tip shown, the position of the next one, and the key
+// "Tips" below the product's own, which keeps both between two runs. The dialog derives from it,
+// reads from it what to show and enable, and passes it the user's actions.
 #pragma once
 
 #include "afx.h"
@@ -11,7 +11,7 @@ namespace qvx {
 constexpr unsigned kNoTipFileText = 40009;
 constexpr unsigned kTipFileErrorText = 40010;
 
-// The texts of the module and its message box, which need a window system.
+// Texts from the module's resources, and its message box; they need the window system.
 class TipMessages {
  public:
   virtual ~TipMessages() = default;
@@ -21,21 +21,21 @@ class TipMessages {
 
 class TipOfTheDay {
  public:
-  // A null path: the file was not found. The messages stay the caller's and live longer than this.
+  // A null path: the file was not found. `messages` is not owned and must outlive this object.
   TipOfTheDay(const wchar_t* path, const TipMessages& messages);
-  // Keeps the file's position, so that the next showing begins behind the last tip shown.
+  // Saves the position after the last tip shown, where the next run begins.
   ~TipOfTheDay();
   TipOfTheDay(const TipOfTheDay&) = delete;
   TipOfTheDay& operator=(const TipOfTheDay&) = delete;
 
   bool ShowsAtStart() const { return m_bStartUp != 0; }
   bool HasFile() const { return m_pTipFile != nullptr; }
-  // False only where the tip shown lies at the very start of the file: below a comment line the
-  // first tip can be asked for again.
+  // False only if the tip shown begins at offset 0: below a comment line the user can go back from
+  // the first tip too, which shows it again.
   bool CanGoBack() const { return m_nOffset != 0; }
 
   void Next();
-  bool Previous();  // false: there was nothing to do, and nothing to show anew
+  bool Previous();  // false: nothing changed, nothing to repaint
   void KeepStartUp() const;
 
  protected:

@@ -4,14 +4,14 @@ namespace qvx {
 
 namespace {
 
-// Behind the number of the family, by the scale that the bitmap is drawn for.
+// Added to the family's first number: the step of the scale that the bitmap is drawn for.
 constexpr int kNormal = 0;
 constexpr int kFiveQuarters = 30100;
 constexpr int kThreeHalves = 30200;
 constexpr int kDouble = 30300;
 
-// 193 dots is the one value above 144 that takes the small pictures, and takes them unstretched: a
-// user with such a screen sees them in the corner of their places. It is meant so.
+// Deliberate: at 193 dots per inch, alone above 144, the small pictures are shown unstretched. The
+// user sees them in the corner of their places.
 constexpr int kOddOne = 193;
 
 int StepOf(int dotsPerInch) {

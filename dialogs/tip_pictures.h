@@ -1,5 +1,5 @@
-// Which bitmap a picture of the tip dialog takes at the screen's dots per inch, and whether it is
-// stretched to its control.
+// Selects the bitmap of a picture of the tip dialog for the screen's dots per inch, and whether it
+// is stretched to its control.
 #pragma once
 
 namespace qvx {
@@ -7,7 +7,7 @@ namespace qvx {
 constexpr int kLeftPictureFamily = 5020;
 constexpr int kTopPictureFamily = 129;
 
-// The resource number of the family's bitmap.
+// Resource number of the bitmap.
 int TipPictureNumber(int family, int dotsPerInch);
 
 bool StretchesTipPicture(int dotsPerInch);

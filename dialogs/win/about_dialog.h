@@ -1,5 +1,5 @@
-// The dialog "产品版本信息": what the product file says of the product, and two links. Made with
-// the module's resources current.
+// The dialog "产品版本信息": product texts from the product file, and two links. Create it while
+// the module's resources are current.
 #pragma once
 
 #include "afxwin.h"

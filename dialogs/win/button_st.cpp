@@ -1,11 +1,12 @@
-// CButtonST as a window: mouse, images, tip, cursor. Its own drawing stands in button_st_draw.cpp.
+// CButtonST as a window: mouse, images, tip, cursor. button_st_draw.cpp draws.
 #include "dialogs/win/button_st.h"
 
 namespace {
 
-constexpr UINT kKeptStyle = 0xFFF4;  // what BM_SETSTYLE keeps of a button's style word
-constexpr int kTipWidth = 200;       // pixels, then the text wraps
-constexpr int kTipDelay = 500;       // milliseconds
+// Part of the style word that BM_SETSTYLE keeps.
+constexpr UINT kKeptStyle = 0xFFF4;
+constexpr int kTipWidth = 200;  // pixels; longer text wraps
+constexpr int kTipDelay = 500;  // milliseconds
 
 }  // namespace
 
@@ -39,7 +40,7 @@ void CButtonST::ShareBitmap(HBITMAP image, BYTE width, BYTE height) {
   m_image.Borrow(image);
   m_cxImage = width;
   m_cyImage = height;
-  if (GetSafeHwnd()) Invalidate();  // without a window that would redraw the whole screen
+  if (GetSafeHwnd()) Invalidate();  // InvalidateRect(NULL) would repaint the screen
 }
 
 void CButtonST::SetTooltipText(const wchar_t* text) {
@@ -73,8 +74,8 @@ void CButtonST::SetDefault(COLORREF& color, int systemColor, BOOL repaint) {
   if (repaint && GetSafeHwnd()) Invalidate();
 }
 
-// A button that is owner-drawn already has nothing to change, and a thousand rows are spared a
-// repaint each while nothing shows.
+// Skipped for a button that is owner-drawn already: saves a repaint of each of up to a
+// thousand rows during creation.
 void CButtonST::PreSubclassWindow() {
   const DWORD style = GetStyle();
   const DWORD wanted = (style & kKeptStyle) | BS_OWNERDRAW;
@@ -105,10 +106,10 @@ void CButtonST::OnKillFocus(CWnd* next) {
   Carry(qvx::StepOnFocusLost(m_bMouseOn, m_bIsFlat));
 }
 
-// Releasing here also takes the mouse from whoever just took it. That is how it has always been: a
-// press on another row while this one is lit ends the hover of both.
-// A press takes the mouse that the hover holds already, which is told here too but loses nothing: a
-// press has to keep it, or one carried off in a single move would stay lit.
+// Deliberate: releasing here also takes the capture from the window that has just got it, so a
+// press on another row while this one is lit ends the hover of both. A press on this button sends
+// the message too, with its own window: it keeps the capture, or a button pressed and left in a
+// single move would stay lit.
 void CButtonST::OnCaptureChanged(CWnd* next) {
   const bool lost = next != this;
   const qvx::PointerStep step = lost ? qvx::StepOnCaptureLost(m_bMouseOn) : qvx::PointerStep{};

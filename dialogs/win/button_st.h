@@ -1,6 +1,6 @@
-// The flat push button that lights up under the pointer and draws itself: the base of every row of
-// the screen menu, which takes the mouse tracking, the image and colour members and the tip from
-// here and replaces the drawing. The mouse rules stand in button_pointer.h.
+// Flat push button that lights up under the pointer and draws itself. Base of every row of the
+// screen menu, which uses its mouse tracking, image and colour members and tip, and replaces the
+// drawing. The mouse rules are in button_pointer.h.
 #pragma once
 
 #include <memory>
@@ -11,7 +11,7 @@
 #include "ground/win/guarded_window.h"
 #include "ground/win/owned_handle.h"
 
-// A bitmap on a button: the button's own, or one that somebody else keeps for many buttons.
+// A bitmap on a button: owned by the button, or shared by many buttons.
 class CButtonImage {
  public:
   void Own(HBITMAP bitmap) {
@@ -35,22 +35,22 @@ class CButtonST : public qvx::GuardedWindow<CButton> {
   CButtonST();
   ~CButtonST() override;
 
-  // Takes ownership of both bitmaps, either of which may be null, frees the two before them and
-  // repaints at once. Sizes are 8-bit: an image larger than 255 pixels can't be held.
+  // Takes ownership of both bitmaps, either of which may be null, frees the previous two and
+  // repaints at once. Sizes have 8 bits: 255 pixels at most.
   void SetBitmaps(HBITMAP image, HBITMAP overlay, BYTE width, BYTE height);
-  // Shows a bitmap that the caller keeps for longer than the button shows it, without repainting
-  // when it is the one shown already.
+  // Shows a bitmap that the caller keeps alive while the button shows it. No
+  // repaint if it is shown already.
   void ShareBitmap(HBITMAP image, BYTE width, BYTE height);
 
-  // The text is fixed at the first call: a later one with another text changes nothing.
+  // Only the first call has an effect: later texts are ignored.
   void SetTooltipText(const wchar_t* text);
   void ActivateTooltip(BOOL active);
 
-  BOOL SetBtnCursor(int resource);  // -1 leaves no cursor
+  BOOL SetBtnCursor(int resource);  // -1: no cursor
   void SetDrawBorder(int draw) { m_bDrawBorder = draw; }
   void SetFlat(int flat) { m_bIsFlat = flat; }
 
-  // Each setter goes back to the system colour that the button starts with.
+  // Each resets one colour to the system colour that the button starts with.
   void SetDefaultInactiveBg(BOOL repaint) { SetDefault(m_crInactiveBg, COLOR_BTNFACE, repaint); }
   void SetDefaultInactiveFg(BOOL repaint) { SetDefault(m_crInactiveFg, COLOR_BTNTEXT, repaint); }
   void SetDefaultActiveBg(BOOL repaint) { SetDefault(m_crActiveBg, COLOR_BTNFACE, repaint); }
@@ -62,7 +62,7 @@ class CButtonST : public qvx::GuardedWindow<CButton> {
 
   bool IsMouseOn() const { return m_bMouseOn != 0; }
   HBITMAP ShownBitmap() const { return m_image.Get(); }
-  // Puts the button back to its idle look, whatever the pointer does.
+  // Resets the button to its idle look, wherever the pointer is.
   void ClearHover();
 
   void PreSubclassWindow() override;
@@ -70,7 +70,7 @@ class CButtonST : public qvx::GuardedWindow<CButton> {
   void DrawItem(LPDRAWITEMSTRUCT item) override;
 
  protected:
-  virtual void OnMouseEnter();  // the pointer came over the button; the base takes the mouse
+  virtual void OnMouseEnter();  // the base class takes the capture
 
   afx_msg void OnMouseMove(UINT flags, CPoint point);
   afx_msg void OnKillFocus(CWnd* next);
@@ -91,7 +91,7 @@ class CButtonST : public qvx::GuardedWindow<CButton> {
   BYTE m_cxImage = 0;
   COLORREF m_crInactiveBg, m_crInactiveFg;
   COLORREF m_crActiveBg, m_crActiveFg;
-  std::unique_ptr<CToolTipCtrl> m_pToolTip;  // made at the first SetTooltipText
+  std::unique_ptr<CToolTipCtrl> m_pToolTip;  // created by the first SetTooltipText
 
  private:
   void SetDefault(COLORREF& color, int systemColor, BOOL repaint);

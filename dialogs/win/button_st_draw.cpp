@@ -1,12 +1,12 @@
-// The drawing of a button that nobody derived from: background, frame, image with overlay, caption,
-// all into a buffer that reaches the screen in one step. Rows of the screen menu draw otherwise.
+// Drawing of a CButtonST itself: background, frame, image with overlay, caption, all into a buffer
+// that is copied to the screen once. Rows of the screen menu override it.
 #include "dialogs/button_image.h"
 #include "dialogs/win/button_st.h"
 #include "dialogs/win/mem_dc.h"
 
 namespace {
 
-// Left and top in one colour, bottom and right in the other, one pixel wide.
+// Left and top edges in one colour, bottom and right in the other, one pixel wide.
 void DrawEdges(CDC& dc, const CRect& r, int upper, int lower) {
   dc.Draw3dRect(&r, ::GetSysColor(upper), ::GetSysColor(lower));
 }
@@ -78,7 +78,7 @@ CRect CButtonST::DrawImages(CDC& dc, const CRect& item, const CRect& caption, UI
   return CRect(place.caption);
 }
 
-// The text is centred both ways in what the image left, in the window's own font.
+// Centred both ways in `caption`, in the window's font.
 void CButtonST::DrawCaption(CDC& dc, CRect caption, UINT state, const CString& text) {
   if (state & ODS_SELECTED) caption.OffsetRect(1, 1);
   const HFONT font = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT, 0, 0));

@@ -115,15 +115,15 @@ void CDayTipDlg::OnNext() {
   UpdateData(FALSE);
 }
 
-// The check box is not read first, unlike by Next: a switch that was changed and not yet kept goes
-// back to what it was, and the user sees that.
+// Deliberate: unlike OnNext it does not read the check box first, so a change that is not saved yet
+// is undone on the screen.
 void CDayTipDlg::OnPrevious() {
   if (!Previous()) return;
   if (!CanGoBack()) GetDlgItem(IDC_TIP_PREVIOUS)->EnableWindow(FALSE);
   UpdateData(FALSE);
 }
 
-// Only the close button comes here and keeps the switch; the system menu and Esc are OnCancel.
+// The close button: saves the check box. The system menu and Esc call OnCancel, which does not.
 void CDayTipDlg::OnOK() {
   if (!UpdateData(TRUE)) return;
   KeepStartUp();

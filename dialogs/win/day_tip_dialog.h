@@ -1,6 +1,6 @@
-// The dialog "日积月累" with the tip of the day. What it shows and keeps is TipOfTheDay's; here are
-// the controls. Its file is open as long as the object lives, so the object lives on the stack of
-// the command that shows it, with the module's resources current.
+// The dialog "日积月累" with the tip of the day: the controls only, the rest is TipOfTheDay. The
+// tip file is open as long as the object exists: create it on the stack of the command that shows
+// it, while the module's resources are current.
 #pragma once
 
 #include "afxwin.h"

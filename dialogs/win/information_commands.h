@@ -1,5 +1,5 @@
-// The commands that give the user information, and the tip of the day at the module's start. All
-// run on the main thread with the host's frame up; the dialogs are modal over it.
+// The commands that show information to the user, and the tip of the day at the module's start. All
+// run on the main thread while the host's frame exists; the dialogs are modal over it.
 #pragma once
 
 void ShowAbout();        // TAbout
@@ -7,6 +7,5 @@ void ShowCurrentTips();  // TCurTips: always shows the dialog
 void OpenHelp();         // THelp
 void ReportBug();        // TReportBug
 
-// Shows the tips unless the user turned them off. Even then the next tip is taken: the position
-// moves on by one at each start.
+// Shows the tips unless the user turned them off. Moves on by one tip in either case.
 void ShowTipsAtStart();

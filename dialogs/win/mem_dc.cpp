@@ -16,7 +16,7 @@ CMemDC::CMemDC(CDC* target) : m_pTarget(target), m_bMemDC(!target->IsPrinting())
 
 CMemDC::~CMemDC() {
   if (!m_bMemDC) {
-    m_hDC = m_hAttribDC = nullptr;  // they are the target's
+    m_hDC = m_hAttribDC = nullptr;  // owned by the target
     return;
   }
   m_pTarget->BitBlt(m_rcClip.left, m_rcClip.top, m_rcClip.Width(), m_rcClip.Height(), this,

@@ -1,6 +1,6 @@
-// A device context that draws into a bitmap and puts the result onto its target in one step when it
-// goes, so that a button never shows half a drawing. A target that prints is not buffered: the
-// context then only borrows the target's handles. Used by CButtonST::DrawItem.
+// A device context that draws into a bitmap; its destructor copies the result to the target at
+// once, which avoids flicker. For a printing target it uses the target's handles directly.
+// Used by CButtonST::DrawItem.
 #pragma once
 
 #include "afxwin.h"
@@ -15,5 +15,5 @@ class CMemDC : public CDC {
   CBitmap* m_pOldBitmap = nullptr;
   CDC* m_pTarget;
   CRect m_rcClip;
-  BOOL m_bMemDC;  // false while the target's own handles are borrowed
+  BOOL m_bMemDC;  // false: uses the target's handles
 };
