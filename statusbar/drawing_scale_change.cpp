@@ -21,7 +21,7 @@ namespace {
 
 constexpr short kTypeName = 0, kApplicationName = 1001, kReal = 1040;
 
-// The implied selection as far as it is of the family.
+// The pick-first objects named QVX_*.
 class FamilySelection {
  public:
   FamilySelection() {
@@ -56,7 +56,7 @@ void ScaleDimension(TDbDimension2& dimension, double scale) {
   if (g_nDimAdjust != 0) dimension.AdjustDim(g_nDimAdjust != 2, 1, 1);
 }
 
-// What is of the family by name but has no scale is drawn anew and nothing else.
+// A QVX_* object without a scale is only redrawn.
 void ScaleEntity(AcDbObjectId id, double scale) {
   const TAcDbObjectPtr<AcDbEntity> entity(id, AcDb::kForWrite);
   if (!entity) return;
@@ -68,7 +68,7 @@ void ScaleEntity(AcDbObjectId id, double scale) {
   entity->draw();
 }
 
-// In paper space itself, with no viewport entered.
+// True in paper space when no viewport is entered.
 bool WorksOnSheet() {
   return ShortVariable(L"TILEMODE").value_or(1) == 0 && ShortVariable(L"CVPORT").value_or(2) == 1;
 }
@@ -99,8 +99,8 @@ void SetScale(double scale) {
   for (int i = 0; i < selection.Length(); ++i) acedRedraw(selection[i].Name(), 0);
 }
 
-// The sheet takes any number, zero and less too, while the drawing drops those in silence. The user
-// sees the one on the pane and not the other.
+// Deliberate: paper space takes any number, zero and below too, and the pane shows it; model space
+// ignores them without a message.
 void SetDrawingScale(double scale) {
   const LockInApplicationContext lock;
   if (WorksOnSheet()) return SetScaleOfSheet(scale);

@@ -1,23 +1,22 @@
-// Setting and telling the scale over the host's and the kernel's calls: of the selected objects, or
-// with none selected of the drawing. No window; called by the scale pane and at a change of
-// drawing.
+// Reads and sets the scale of the selected objects, or of the drawing if none is selected, by calls
+// of the host and the kernel. No window. Called by the scale pane and at a change of drawing.
 #pragma once
 
 #include "kernel/twcstring.h"
 
 namespace qvx {
 
-// Objects of the family that are selected get the scale, dimensions with their line and text;
-// otherwise the drawing does.
+// Sets the scale of the selected QVX_* objects, of dimensions with their line and text; without a
+// selection that of the drawing.
 void SetScale(double scale);
 
-// The sheet's while the user works in paper space itself, else the drawing's own.
+// Sets the scale of paper space while it is current without a viewport, else the drawing's.
 void SetDrawingScale(double scale);
 
 bool HasFamilySelection();
 TWCString CurrentScaleText();
 
-// The scale in force to HPSCALE: hatches follow the drawing scale.
+// Writes the current scale to HPSCALE: hatches follow the drawing scale.
 void WriteHatchScale();
 
 }  // namespace qvx

@@ -1,5 +1,5 @@
-// The icons of the panes, from the module's own resources. They are shared ones of the system:
-// asked for again they are the same handle, and they go with the module, so nobody frees them.
+// The icons of the panes, from the module's own resources. Loaded with LR_SHARED: the same handle
+// at every call, freed by the system with the module.
 #pragma once
 
 #include "ground/win/module_handle.h"

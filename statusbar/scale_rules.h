@@ -1,5 +1,5 @@
-// What the scale pane decides, without a window and without a drawing: the scales of its menu, the
-// text for a drawing and a selection, which scales a drawing takes.
+// Decisions of the scale pane, without a window or a drawing: the scales of its menu, the text for
+// a drawing and a selection, the valid scales of a drawing.
 #pragma once
 
 #include <cmath>
@@ -10,23 +10,23 @@
 
 namespace qvx {
 
-// The scale of a line of the menu; nothing for "other" and for what is no line of it.
+// The scale of a line of the menu; none for "other" and for an unknown command.
 std::optional<double> ScaleOfCommand(unsigned command);
 
-// Reads the scales of the selected objects one after the other.
+// Compares the scales of the selected objects.
 class ScaleWalk {
  public:
-  // Objects whose scales differ by no more than this count as one scale.
+  // Scales that differ by no more than this count as equal.
   static constexpr double kTolerance = 0.001;
 
-  // False when the walk ends here: two scales that differ.
+  // False: the walk ends, two scales differ.
   bool Take(double scale) {
     if (!m_first) m_first = scale;
     m_mixed = std::fabs(scale - *m_first) > kTolerance;
     return !m_mixed;
   }
   bool IsMixed() const { return m_mixed; }
-  // The scale of a walk that ran through; 0 when no object had one.
+  // The common scale after a complete walk; 0 if no object has one.
   double Common() const { return m_first.value_or(0); }
 
  private:
@@ -34,14 +34,14 @@ class ScaleWalk {
   bool m_mixed = false;
 };
 
-// "比例 1:100", or with stars for a mixed selection. Without a common scale above 0 the drawing's
-// stands.
+// "比例 1:100", or with asterisks for a mixed selection. The drawing's scale if the
+// common one is not above 0.
 TWCString ScalePaneText(double drawingScale, const ScaleWalk& selection);
 
-// A drawing's own scale has to be above this; less is dropped in silence. The sheet takes anything.
+// A drawing ignores a scale that is not above this value. Paper space takes any.
 constexpr bool DrawingTakesScale(double scale) { return scale > 0.0001; }
 
-// An angular dimension keeps its line at the same distance on paper from what it measures.
+// An angular dimension keeps the distance on paper between its line and what it measures.
 constexpr double DimRadiusAt(double radius, double paperDistance, double scale, double before) {
   return radius - paperDistance * (scale - before);
 }

@@ -32,7 +32,7 @@ void CADStatusPane::OnLButtonDown(UINT, CPoint) {
   });
 }
 
-// A double click is a second click: a user who clicks twice is where he began.
+// A double click counts as a second click: two quick clicks restore the state.
 void CADStatusPane::OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
 
 void CADStatusPane::OnRButtonDown(UINT, CPoint point) {

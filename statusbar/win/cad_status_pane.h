@@ -1,13 +1,13 @@
-// The base of the panes that show one switch each: pressed in and with its own icon when on. A
-// click flips it. Exported, so that sibling modules can derive panes of their own; it decides
-// nothing about the switch, which OnToggle and IsOn belong to.
+// Base of the panes that show one switch each: pressed in and with its own icon when on; a click
+// toggles it. Exported, so that sibling modules can derive panes; the derived class implements the
+// switch by OnToggle and IsOn.
 #pragma once
 
 #include "afxwin.h"
 
 #include "acstatusbar.h"
 
-// What the module offers to its siblings: exported while it is built itself, imported elsewhere.
+// Exported by the module, imported by its siblings.
 #if defined(QVX_SHELL_BUILD)
 #define QVX_SHELL __declspec(dllexport)
 #else
@@ -26,20 +26,23 @@ class QVX_SHELL CADStatusPane : public AcPane {
   void OnLButtonDblClk(UINT flags, CPoint point) override;
   void OnRButtonDown(UINT flags, CPoint point) override;
 
-  // In this order behind the slots of AcPane.
+  // The vtable order, after AcPane's virtual functions; siblings depend on it.
   virtual void OnToggle() = 0;
   virtual bool IsOn() = 0;
-  virtual void OnSetting();         // the host's options
-  virtual void Check(bool update);  // the style of the state; `update` paints the bar anew
-  virtual void Init(bool add);      // onto the application's bar, or off it; nothing without one
+  virtual void OnSetting();         // opens the host's options
+  virtual void Check(bool update);  // sets the style of the state; `update` repaints the bar
+  // Adds the pane to the application's bar, or removes it; no effect without one.
+  virtual void Init(bool add);
 
  protected:
-  // Shows the menu that fits the state and does what is chosen from it.
+  // Shows the menu for the current state and runs the chosen line.
   void ShowStateMenu(int onMenu, int offMenu, CPoint point);
 
   CString m_strToolTip;
-  bool m_bRefreshMenu = false;  // refresh the screen menu after a click; no pane here sets it
+  // Refresh the screen menu after a click; no pane of this module sets it.
+  bool m_bRefreshMenu = false;
 };
 
-// Who refreshes the screen menu for a pane that asks for it; null: nobody.
+// The function that refreshes the screen menu after a click on a pane with
+// m_bRefreshMenu; null: none.
 void SetPaneMenuRefresh(void (*refresh)());

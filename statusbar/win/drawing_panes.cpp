@@ -1,4 +1,4 @@
-// The panes of the current drawing's switches: fill, bold lines, base line. Their state stands in
+// The panes of the current drawing's switches: fill, bold lines, base line. The state is kept in
 // the drawing; without a drawing all are off.
 #include "afxwin.h"
 
@@ -21,7 +21,7 @@ bool IsSwitchOn(int (TDbConfig::*read)() const) {
   return on;
 }
 
-// The sibling module's options dialog reads the value to open on the right page.
+// The sibling module's options dialog opens at the page given by this value.
 void OpenPaneOptions() {
   TRegProperty key(GetRegLocation(), L"Settings\\ScreenMenu");
   key.SetTopRootKey(HKEY_CURRENT_USER);

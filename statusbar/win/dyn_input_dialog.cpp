@@ -17,7 +17,7 @@ void CDynInputDlg::DoDataExchange(CDataExchange* exchange) {
   DDX_Radio(exchange, IDC_DYN_FIELDS, m_nChoice);
 }
 
-// A number that is neither 1 nor 2 shows as "all", and OK makes it 10, which is how "all" is kept.
+// A number other than 1 and 2 is shown as "all"; OK then stores 10, the value of "all".
 void CDynInputDlg::OnOK() {
   if (!UpdateData(TRUE)) return;
   QvxGeLib::g_iMaxDynDimNum = qvx::FieldsOfChoice(m_nChoice);

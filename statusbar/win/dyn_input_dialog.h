@@ -1,4 +1,4 @@
-// The dialog "动态输入设置": how many input fields are shown at a time.
+// The dialog "动态输入设置": the number of input fields shown at a time.
 #pragma once
 
 #include "ground/win/guarded_window.h"

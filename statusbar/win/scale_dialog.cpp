@@ -16,7 +16,7 @@ void CPScaleDlg::DoDataExchange(CDataExchange* exchange) {
   DDX_Text(exchange, IDC_SCALE, m_dScale);
 }
 
-// What is no number keeps the dialog open; DDX_Text has told the user then.
+// Invalid input keeps the dialog open; DDX_Text has shown the error.
 void CPScaleDlg::OnOK() {
   if (!UpdateData(TRUE)) return;
   qvx::SetScale(m_dScale);

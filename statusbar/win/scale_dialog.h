@@ -1,4 +1,4 @@
-// The dialog "设置当前比例": one number, which OK sets as SetScale does.
+// The dialog "设置当前比例": one number; OK passes it to SetScale.
 #pragma once
 
 #include "ground/win/guarded_window.h"
@@ -16,5 +16,5 @@ class CPScaleDlg : public qvx::GuardedWindow<GlwCAcUiDialog> {
   double m_dScale;
 };
 
-// Modal over the host's frame, filled with the scale in force; false unless it ended with OK.
+// Modal over the host's frame, filled with the current scale; true if it ended with OK.
 bool ShowScaleDialog();

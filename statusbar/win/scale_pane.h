@@ -1,5 +1,5 @@
 // The pane with the drawing scale, first on the bar. Either button opens its menu; a line of it
-// sets the scale of the selected objects or of the drawing. It keeps nothing but its text.
+// sets the scale of the selected objects or of the drawing. Its text is its only state.
 #pragma once
 
 #include "afxwin.h"
@@ -12,11 +12,12 @@ class TPScalePane : public AcPane {
   void OnLButtonDown(UINT flags, CPoint point) override;
   void OnRButtonDown(UINT flags, CPoint point) override;
 
-  // Onto the application's bar in front of all others, or off it; nothing without a bar.
+  // Adds the pane to the application's bar before all others, or removes it;
+  // no effect without a bar.
   void Init(bool add);
   void RefreshText();
 
  private:
   void ShowScaleMenu();
-  bool ChooseScale(UINT command);  // false: nothing was set
+  bool ChooseScale(UINT command);  // false: no change
 };

@@ -1,6 +1,6 @@
-// The module's panes: one static object of each class, living as long as the module. The module's
-// frame adds and removes them and refreshes those of the drawing; sibling modules call
-// UpdateStatusBar when a switch has changed behind the panes' back.
+// The module's panes: one static object of each class. The module's frame adds and removes them and
+// refreshes those of the drawing; sibling modules call UpdateStatusBar after they change a switch
+// by other means than its pane.
 #pragma once
 
 #include <string>
@@ -16,20 +16,20 @@ class TPScalePane;
 void InitStatusPane(qvx::SwitchPane pane, bool add);
 void InitScalePane(bool add);
 
-void UpdateStatusPanes();    // all switches: style and icon, then the bar
-void RefreshDrawingPanes();  // those of the drawing; the bar is the caller's
+void UpdateStatusPanes();    // style and icon of all switches, then the bar
+void RefreshDrawingPanes();  // those of the drawing; the caller updates the bar
 void RefreshScaleText();
 
 CADStatusPane& StatusPaneOf(qvx::SwitchPane pane);
-TDynPane& TheDynInputPane();  // stays off the bar until somebody calls its Init
+TDynPane& TheDynInputPane();  // not on the bar until its Init(true) is called
 TPScalePane& TheScalePane();
 
-// What the bar shows at present, in its order; panes of others have no name.
+// One pane of the bar, in the bar's order; panes of other modules have no name.
 struct ShownPane {
   const char* name;
   int style;
   int icon;  // its resource; 0 for none
   std::wstring toolTip, text;
-  RECT rect;  // screen pixels; empty when the bar has no room for it
+  RECT rect;  // screen pixels; empty if the pane does not fit on the bar
 };
 std::vector<ShownPane> ShownPanes();

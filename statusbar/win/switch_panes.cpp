@@ -1,5 +1,5 @@
-// The panes of the module's own switches, and what all with icons share; those of the drawing stand
-// in drawing_panes.cpp.
+// The panes of the module's own switches, and the common part of all panes with icons. The panes of
+// the drawing's switches are in drawing_panes.cpp.
 #include "statusbar/win/switch_panes.h"
 
 #include <optional>
@@ -35,8 +35,8 @@ void TIconPane::OnRButtonDown(UINT, CPoint point) {
   });
 }
 
-// Deliberately the off icon whatever the state: until the first refresh, which the next change of
-// drawing brings, a switch that is on shows it by its style alone.
+// Deliberate: always the off icon. Until the first refresh, at the next change of drawing, only the
+// style shows that a switch is on.
 void TIconPane::Init(bool add) {
   CADStatusPane::Init(add);
   if (!add) return;
@@ -67,7 +67,7 @@ void TMakeGroupPane::OnToggle() {
   PostPromptUnlessBusy();
 }
 
-// PICKSTYLE is brought in line when the pane comes and also when it goes.
+// PICKSTYLE is updated when the pane is added and when it is removed.
 void TMakeGroupPane::Init(bool add) {
   TIconPane::Init(add);
   if (add && IsOn()) ShowIcon(true);

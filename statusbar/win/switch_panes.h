@@ -1,12 +1,12 @@
 // The panes of the switches: three of the current drawing (fill, bold lines, base line) and three
-// of the module (dynamic dimensions, grouping, dynamic input). None of them keeps a state: after a
-// change behind their back they are only told to look again.
+// of the module (dynamic dimensions, grouping, dynamic input). They keep no state: after a change
+// by other means a refresh reads it again.
 #pragma once
 
 #include "statusbar/win/cad_status_pane.h"
 #include "statusbar/pane_rules.h"
 
-// A pane with an icon for each state.
+// A pane with one icon for each state.
 class TIconPane : public CADStatusPane {
  public:
   void OnRButtonDown(UINT flags, CPoint point) override;
@@ -22,8 +22,7 @@ class TIconPane : public CADStatusPane {
   qvx::SwitchPane m_pane;
 };
 
-class TaKhsKsj123
-    : public TIconPane {  // fill of walls and columns; the published name says nothing
+class TaKhsKsj123 : public TIconPane {  // fill of walls and columns
  public:
   TaKhsKsj123() : TIconPane(qvx::SwitchPane::kFill) {}
   void OnToggle() override;
@@ -61,8 +60,8 @@ class TMakeGroupPane : public TIconPane {
   void Init(bool add) override;
 };
 
-// Text only. The module does not put it on the bar; whoever wants it calls Init, which does nothing
-// on hosts that have dynamic input themselves.
+// Text only. The module does not add it to the bar; Init does so, except on hosts with
+// dynamic input of their own.
 class TDynPane : public CADStatusPane {
  public:
   void OnToggle() override;
