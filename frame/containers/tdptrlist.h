@@ -1,7 +1,7 @@
-// TDPtrList: a growable array of pointers that may own its elements, and TDPtrStack, the same list
-// under the name by which a navigation history reads as a stack. Menu blocks, lines, resources,
-// switches and pop-up rows are kept in it. It reports no errors and checks an index only where the
-// operation says so; callers ask Length() first. Not for sharing between threads.
+// TDPtrList: a growable array of pointers that may own its elements. TDPtrStack: the same list
+// under a name for navigation histories. Holds menu blocks, lines, resources, switches and
+// pop-up rows. Reports no errors and checks an index only where the operation says so: call
+// Length() first. Not thread-safe.
 #pragma once
 
 #include <cstdlib>
@@ -25,24 +25,24 @@ class TDPtrList {
   bool OwnsElements() const { return m_owns; }
   void SetOwnsElements(bool owns) { m_owns = owns; }
 
-  // Cached copies of the ends; null when the list is empty.
+  // Cached first and last element; null when the list is empty.
   T* First() const { return m_first; }
   T* Last() const { return m_last; }
 
   int Cursor() const { return m_cursor; }
   void SetCursor(int i) { m_cursor = i; }
 
-  // No bounds check. The index stays behind in the cursor, where InsertAtCursor finds it.
+  // No bounds check. Moves the cursor to the index, for InsertAtCursor.
   T* operator[](int i) {
     m_cursor = i;
     return m_items[i];
   }
-  // The same without touching the cursor, for readers.
+  // The same without moving the cursor.
   T* At(int i) const { return m_items[i]; }
   T* const* begin() const { return m_items; }
   T* const* end() const { return m_items + m_length; }
 
-  // The cursor ends one past the last element.
+  // Sets the cursor one past the last element.
   void Append(T* p) {
     if (m_length == m_capacity) Grow(m_length + 1);
     m_items[m_length++] = p;
@@ -50,8 +50,8 @@ class TDPtrList {
     RefreshEnds();
   }
 
-  // Puts p before the element at the cursor and steps the cursor over it; an invalid cursor
-  // appends.
+  // Inserts p before the element at the cursor and moves the cursor past it; appends
+  // if the cursor is invalid.
   void InsertAtCursor(T* p) {
     if (!IsValidIndex(m_cursor)) return Append(p);
     if (m_length == m_capacity) Grow(m_length + 1);
@@ -62,7 +62,8 @@ class TDPtrList {
     RefreshEnds();
   }
 
-  // 1 when the element was removed (and deleted, when the list owns it), 0 for an invalid index.
+  // Returns 1 if the element was removed (and deleted, if the list owns
+  // it), 0 for an invalid index.
   int Remove(int i) {
     if (!IsValidIndex(i)) return 0;
     T* doomed = Detach(i);
@@ -70,7 +71,7 @@ class TDPtrList {
     return 1;
   }
 
-  // Takes the element out without deleting it; null for an invalid index.
+  // Removes the element without deleting it; null for an invalid index.
   T* Detach(int i) {
     if (!IsValidIndex(i)) return nullptr;
     T* taken = m_items[i];
@@ -81,7 +82,7 @@ class TDPtrList {
     return taken;
   }
 
-  // Puts another pointer into a slot; the old element is the caller's from here on.
+  // Replaces the pointer of a slot; the caller owns the old element.
   T* Exchange(int i, T* p) {
     T* old = m_items[i];
     m_items[i] = p;
@@ -89,7 +90,7 @@ class TDPtrList {
     return old;
   }
 
-  // Drops all elements from index n on; they are deleted when the list owns them.
+  // Removes all elements from index n on, and deletes them if the list owns them.
   void Truncate(int n) {
     while (m_length > n) {
       T* doomed = m_items[--m_length];
@@ -98,7 +99,7 @@ class TDPtrList {
     }
   }
 
-  // Forgets the elements from index n on without deleting them.
+  // Removes the elements from index n on without deleting them.
   void Forget(int n = 0) {
     if (n < 0 || n >= m_length) return;
     m_length = n;
@@ -110,12 +111,12 @@ class TDPtrList {
     m_cursor = 0;
   }
 
-  // Room for n elements, so that filling up to n can't fail half way.
+  // Reserves memory for n elements, so that appending up to n can't fail.
   void Reserve(int n) {
     if (n > m_capacity) SetCapacity(n);
   }
 
-  // Takes over the elements of another list, which is left empty. Ours go first.
+  // Moves the elements of another list to the end of this one; the other list is empty then.
   void TakeAll(TDPtrList& other) {
     Clear();
     std::free(m_items);

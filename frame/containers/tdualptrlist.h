@@ -35,7 +35,7 @@ class TDualPtrList : public TList<T> {
   ~TDualPtrList() override {
     FreeNodes();
     delete Dual(m_sentinel);
-    m_sentinel = nullptr;  // TList's destructor has nothing left to free
+    m_sentinel = nullptr;  // nothing left for TList's destructor
   }
 
   void GoTo(int i) override {
@@ -118,7 +118,7 @@ class TDualPtrList : public TList<T> {
   }
 
  private:
-  // From the cursor or from the end that lies nearer; the two ends are direct.
+  // Walks from the cursor or from the nearer end.
   Node* NearestTo(int i) {
     if (i == 0) return m_sentinel->next;
     DualNode* n = Dual(m_sentinel);

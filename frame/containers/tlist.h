@@ -1,6 +1,5 @@
-// TList: the cursor list as a singly linked ring with a sentinel. Steps forward cost one link;
-// steps back have to search, which TDualPtrList mends. Lists stay short, nothing here is tuned for
-// more.
+// TList: the cursor list as a singly linked ring with a sentinel. A step forward is O(1), a step
+// back O(n); TDualPtrList steps back in O(1). Meant for short lists.
 #pragma once
 
 #include <new>
@@ -97,8 +96,7 @@ class TList : public TTable<T> {
     FreeNodes();
     Reset();
   }
-  // Position `to` counts before the old element is gone, so that to == from + 1 is where it already
-  // stands.
+  // `to` is a position before the element is removed: to == from + 1 changes nothing.
   bool Move(int from, int to) override {
     if (!MayMove(from, to)) return false;
     T moved = NodeAt(from)->value;
@@ -128,8 +126,8 @@ class TList : public TTable<T> {
  public:
   virtual void InsertAfterCur(const T& v) { LinkAfterCur(new Node{v, nullptr}); }
 
-  // Cuts the ring behind the current element. The nodes behind it are the caller's: the chain comes
-  // back, ended by a null link (null when nothing stood behind).
+  // Cuts the ring after the current element. The caller owns the nodes after it, returned as a
+  // chain that ends with a null link; null if there were none.
   virtual Node* DetachAfter() {
     Node* chain = m_node->next;
     if (chain == m_sentinel) return nullptr;
@@ -144,7 +142,8 @@ class TList : public TTable<T> {
     return this->DetachAfter();
   }
 
-  // Moves the tail of another list, from index `from` on, to the end of this one. Our cursor stays.
+  // Moves the elements of another list from index `from` on to the end of this one. This list's
+  // cursor keeps its element.
   virtual void Append(TList& other, int from = 0) {
     if (&other == this || !other.IsValidIndex(from)) return;
     Node* chain = other.DetachAfter(from - 1);
@@ -154,7 +153,7 @@ class TList : public TTable<T> {
     }
   }
 
-  // The cursor stays on its element.
+  // The cursor keeps its element.
   virtual void Reverse() {
     if (m_length < 2) return;
     Node* first = m_sentinel->next;
@@ -169,7 +168,7 @@ class TList : public TTable<T> {
     if (m_current >= 0) m_current = GetLastIndex() - m_current;
   }
 
-  // The element at `from` comes to stand at `to`, all others keep their distance along the ring.
+  // Moves the element at `from` to `to` and rotates all others with it.
   virtual void Rotate(int from, int to) {
     if (!m_length) return;
     int shift = RotationOf(from, to);
@@ -186,7 +185,7 @@ class TList : public TTable<T> {
   Node* GetCurPos() const { return m_node; }
 
  protected:
-  // For TDualPtrList, whose sentinel has one link more; it frees it itself.
+  // For TDualPtrList, whose sentinel has one link more and which frees it itself.
   explicit TList(Node* sentinel) : m_sentinel(sentinel), m_last(sentinel), m_node(sentinel) {
     m_sentinel->next = m_sentinel;
   }
@@ -227,7 +226,7 @@ class TList : public TTable<T> {
     return static_cast<int>(shift < 0 ? shift + m_length : shift);
   }
 
-  // Insertion sort that walks from the front, since there is no way back.
+  // Insertion sort that searches from the front, because the links go one way.
   template <class OutOfOrder>
   void SortLinks(OutOfOrder out) {
     if (m_length < 2) return;
@@ -263,7 +262,7 @@ class TList : public TTable<T> {
     for (; at < i; ++at) n = n->next;
     return n;
   }
-  // The node whose next is n: on from the cursor, round the ring if need be.
+  // The node before n: searched from the cursor on, round the ring if necessary.
   Node* Before(Node* n) {
     Node* p = m_node == n ? m_sentinel : m_node;
     while (p->next != n) p = p->next;

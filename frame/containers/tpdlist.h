@@ -1,6 +1,6 @@
-// TPDList: a cursor list of pointers that owns what its elements point to. Null elements are
-// allowed (a slot of a parallel list that has no object). An object leaves it alive only through
-// Move, which keeps it inside, or through a caller that sets its element to null first.
+// TPDList: a cursor list of pointers that owns the objects. Null elements are allowed (a slot of a
+// parallel list without an object). An object is released from the list only if the caller sets
+// its element to null first.
 #pragma once
 
 #include "frame/containers/tdualptrlist.h"
@@ -16,7 +16,7 @@ class TPDList : public TDualPtrList<T*> {
  public:
   using Node = TListNode<T*>;
   using Compare = typename TTable<T*>::Compare;
-  // 1 or more: the two objects are out of order. Never called with null.
+  // 1 or more: the two objects are out of order. Not called with null.
   using CompareObjects = int (*)(const T*, const T*);
 
   TPDList() = default;

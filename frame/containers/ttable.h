@@ -1,21 +1,21 @@
-// TTable: the abstract root of the lists with a built-in cursor. It fixes the operations and their
-// order; TList and TDualPtrList implement them. An invalid index never fails: it parks the cursor
-// before the first element, where the current index is -1 and CurValue() gives the sentinel's
-// value.
+// TTable: the abstract base of the lists with a built-in cursor. It fixes the operations and their
+// order; TList and TDualPtrList implement them. An invalid index is no error: the cursor is then
+// before the first element, the current index is -1 and CurValue() returns the sentinel's value.
 #pragma once
 
 #include <cstddef>
 #include <new>
 
-// `delete` on a plain node pointer frees a node of any list of the family, the larger ones of
-// TDualPtrList too, so that whoever was left with a detached node need not know where it stood.
+// `delete` on a plain node pointer frees a node of every derived list, the larger ones of
+// TDualPtrList too: the owner of a detached node needs not know its list.
 template <class T>
 struct TListNode {
-  T value{};  // first, so that a node pointer is also a pointer to its value
+  T value{};  // first member: a node pointer is also a pointer to its value
   TListNode* next = nullptr;
 
   static void* operator new(std::size_t size) { return ::operator new(size); }
-  static void operator delete(void* node) { ::operator delete(node); }  // construction failed
+  // Called when construction throws.
+  static void operator delete(void* node) { ::operator delete(node); }
   static void operator delete(TListNode* node, std::destroying_delete_t) {
     node->~TListNode();
     ::operator delete(node);
@@ -71,7 +71,7 @@ class TTable {
   }
 
   // Index of the first element equal to v between first and last inclusive, or -1. A last that is
-  // negative or too large means the last element; an invalid first finds nothing.
+  // negative or too large means the last element; for an invalid first the result is -1.
   int Find(const T& v, int first = 0, int last = -1) {
     if (!IsValidIndex(first)) return -1;
     if (last < 0 || last > GetLastIndex()) last = GetLastIndex();
