@@ -26,7 +26,8 @@ struct PresentValue {
   const wchar_t* source = L"default";
 };
 
-// Line ends and other controls become blanks, so that each setting keeps to its line.
+// Replaces line ends and other control characters by blanks, so that each
+// setting stays on one line.
 std::string Utf8(const std::wstring& text) {
   std::string out;
   for (size_t i = 0; i < text.size(); ++i) {
@@ -40,7 +41,7 @@ std::wstring FolderOf(const IndexRow& row) {
   return row.folder == kProfileFolder ? MenuSettingFolder().c_str() : row.folder;
 }
 
-// The text of a registry value of either kind; false when it is not there.
+// The text of a registry value of either kind; false if it does not exist.
 bool StoredText(const TRegProperty& key, const wchar_t* name, std::wstring& text) {
   CString string;
   int number = 0;
@@ -180,7 +181,7 @@ std::wstring Found(const wchar_t* name) {
   return QvxExport::FindFile(name, path) ? path : L"not found";
 }
 
-// What the next start will make of the list; the values are asked as it asks them.
+// The effect of the first-start list at the next start; reads the values as the start does.
 std::wstring FirstStartLine() {
   TRegProperty flags(GetRegLocation(), L"InitFlag");
   flags.SetTopRootKey(HKEY_LOCAL_MACHINE);
