@@ -8,7 +8,8 @@ import struct
 
 SIZE = 16
 
-# What a letter means: off, on. A blank or a letter that a state gives None stays clear.
+# Colour of a letter when off and when on. A blank, and a letter whose colour
+# is None, is transparent.
 COLOURS = {
     "#": ((96, 96, 96), (32, 56, 96)),       # outline
     "f": (None, (240, 160, 64)),             # filled when on

@@ -7,10 +7,10 @@
 #define IDB_ARROW_OPEN_0 199
 #define IDB_ARROW_OPEN_1 5018
 #define IDB_ARROW_OPEN_2 5019
-#define IDB_CHECK 5013  // stands for the icon of a checked row
+#define IDB_CHECK 5013  // replaces the icon of a checked row
 
-// Dialogs, their controls and texts. A picture of the tip dialog is drawn in four sizes; the code
-// adds the step to the number of the first.
+// Dialogs, their controls and texts. A picture of the tip dialog exists in four sizes; the code
+// adds the step to the first number.
 #define IDD_DAY_TIP 130
 #define IDC_TIP_LEFT 1000
 #define IDC_TIP_AT_START 1001
@@ -38,7 +38,7 @@
 #define IDC_ABOUT_NAME 5020
 #define IDC_ABOUT_VERSION 5076
 
-// Status bar panes: icons by state, menus of the right button, the scale menu, two dialogs.
+// Status bar panes: icons by state, right-button menus, the scale menu, two dialogs.
 #define IDI_PANE_GROUP_OFF 57627
 #define IDI_PANE_GROUP_ON 57628
 #define IDI_PANE_DYN_DIM_OFF 57629
@@ -80,6 +80,6 @@
 #define IDD_SCALE 218
 #define IDC_SCALE 1175
 #define IDD_DYN_INPUT 211
-#define IDC_DYN_FIELDS 1172  // the first of three
+#define IDC_DYN_FIELDS 1172  // first of three
 #define IDC_DYN_FIELDS_TWO 1173
 #define IDC_DYN_FIELDS_ALL 1174
