@@ -1,5 +1,5 @@
-// An element that counts how many of its kind live, so that tests of ownership see leaks and double
-// deletes as numbers.
+// An element type that counts its live instances, so that ownership tests detect
+// leaks and double deletes.
 #pragma once
 
 struct Counted {

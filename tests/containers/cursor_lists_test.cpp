@@ -1,5 +1,5 @@
-// The cursor family: each row of its table of operations, once for the singly and once for the
-// doubly linked list, which must not differ.
+// The cursor lists: each operation of TTable, run on the singly and on the doubly linked list,
+// which must give the same results.
 #include <gtest/gtest.h>
 
 #include "frame/containers/tdualptrlist.h"

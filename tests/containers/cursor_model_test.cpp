@@ -1,5 +1,5 @@
-// The cursor lists against a plain vector: thousands of random operations with a fixed seed, after
-// each of which content, cursor and both directions of the links must agree with the model.
+// The cursor lists against a std::vector: thousands of random operations with a fixed seed; after
+// each, content, cursor and both directions of the links must match the model.
 #include <gtest/gtest.h>
 
 #include <algorithm>

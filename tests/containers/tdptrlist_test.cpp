@@ -75,7 +75,7 @@ TEST(TDPtrList, InsertAtAnInvalidCursorAppends) {
   EXPECT_EQ(list.Cursor(), 3);
 }
 
-TEST(TDPtrList, RemoveClosesTheGapAndTellsWhetherTheIndexWasValid) {
+TEST(TDPtrList, RemoveClosesTheGapAndReturnsWhetherTheIndexWasValid) {
   TDPtrList<Counted> list;
   for (int i = 0; i < 4; ++i) list.Append(new Counted(i));
   EXPECT_EQ(list.Remove(1), 1);
@@ -127,7 +127,7 @@ TEST(TDPtrList, AListSetToNotOwnHandsItsElementsOver) {
   EXPECT_EQ(Values(keeper), "1 ");
 }
 
-TEST(TDPtrList, TakeAllMovesTheElementsAndDropsTheOldOnes) {
+TEST(TDPtrList, TakeAllMovesTheElementsAndEmptiesTheSource) {
   TDPtrList<Counted> a, b;
   a.Append(new Counted(1));
   b.Append(new Counted(2));
