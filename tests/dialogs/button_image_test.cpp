@@ -1,4 +1,4 @@
-// Image, overlay and caption of a self-drawn button.
+// Image, overlay and caption of an owner-drawn button.
 #include <gtest/gtest.h>
 
 #include "dialogs/button_image.h"
@@ -12,7 +12,7 @@ qvx::ImagePlace Place(int align, bool text, bool pressed = false) {
   return qvx::PlaceImage(align, text, pressed, kItem, kItem, kImage);
 }
 
-TEST(ButtonImage, LeftOfTheTextItTakesItsWidthAndAMarginFromTheCaption) {
+TEST(ButtonImage, LeftOfTheTextTheImageTakesItsWidthAndAMarginFromTheCaption) {
   const auto place = Place(0, true);
   EXPECT_EQ(place.image.x, 13);
   EXPECT_EQ(place.image.y, 32);
@@ -20,7 +20,7 @@ TEST(ButtonImage, LeftOfTheTextItTakesItsWidthAndAMarginFromTheCaption) {
   EXPECT_EQ(place.caption.top, 20);
 }
 
-TEST(ButtonImage, AboveTheTextItTakesItsHeightFromTheCaption) {
+TEST(ButtonImage, AboveTheTextTheImageTakesItsHeightFromTheCaption) {
   const auto place = Place(1, true);
   EXPECT_EQ(place.image.x, 52);
   EXPECT_EQ(place.image.y, 20);
@@ -28,7 +28,7 @@ TEST(ButtonImage, AboveTheTextItTakesItsHeightFromTheCaption) {
   EXPECT_EQ(place.caption.left, 10);
 }
 
-TEST(ButtonImage, WithoutTextItIsCentredBothWays) {
+TEST(ButtonImage, WithoutTextTheImageIsCentredBothWays) {
   for (int align : {0, 1}) {
     const auto place = Place(align, false);
     EXPECT_EQ(place.image.x, 52);
@@ -36,7 +36,7 @@ TEST(ButtonImage, WithoutTextItIsCentredBothWays) {
   }
 }
 
-TEST(ButtonImage, AnyOtherPlacementLeavesItAtTheCorner) {
+TEST(ButtonImage, AnyOtherAlignmentPutsTheImageAtTheCorner) {
   for (bool text : {false, true}) {
     const auto place = Place(7, text);
     EXPECT_EQ(place.image.x, 10);

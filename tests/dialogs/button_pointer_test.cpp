@@ -1,4 +1,4 @@
-// The mouse rules of the hover-aware button, walked without a window.
+// The mouse rules of the hover-aware button, without a window.
 #include <gtest/gtest.h>
 
 #include "dialogs/button_pointer.h"
@@ -8,7 +8,7 @@ namespace {
 using qvx::PointerFacts;
 using qvx::PointerStep;
 
-// A button as the window class keeps it: the flag, and whether it holds the mouse.
+// The state that the window class keeps: the flag, and whether it has the capture.
 struct Button {
   int mouseOn = 0;
   int flat = 1;
@@ -24,7 +24,7 @@ struct Button {
   }
 };
 
-TEST(ButtonPointer, TheFirstMoveOverAnIdleButtonLightsItAndTakesTheMouse) {
+TEST(ButtonPointer, TheFirstMoveOverAnIdleButtonLightsItAndTakesTheCapture) {
   Button button;
   const PointerStep step = button.Move(true, false);
   EXPECT_EQ(step, (PointerStep{true, true, false}));
@@ -53,14 +53,14 @@ TEST(ButtonPointer, AMoveInsideALitButtonChangesNothing) {
   EXPECT_TRUE(button.captured);
 }
 
-TEST(ButtonPointer, LeavingWithoutAButtonHeldEndsTheHoverAndGivesTheMouseBack) {
+TEST(ButtonPointer, LeavingWithoutAButtonHeldEndsTheHoverAndReleasesTheCapture) {
   Button button;
   button.Move(true, false);
   EXPECT_EQ(button.Move(false, false), (PointerStep{false, true, true}));
   EXPECT_EQ(button.mouseOn, 0);
 }
 
-TEST(ButtonPointer, LeavingWithTheButtonHeldEndsTheHoverAndKeepsTheMouse) {
+TEST(ButtonPointer, LeavingWithTheButtonHeldEndsTheHoverAndKeepsTheCapture) {
   Button button;
   button.Move(true, false);
   EXPECT_EQ(button.Move(false, true), (PointerStep{false, true, false}));
@@ -68,7 +68,7 @@ TEST(ButtonPointer, LeavingWithTheButtonHeldEndsTheHoverAndKeepsTheMouse) {
   EXPECT_TRUE(button.captured);
 }
 
-TEST(ButtonPointer, APressCarriedOffAndReleasedOutsideLeavesNoHover) {
+TEST(ButtonPointer, APressDraggedOffAndReleasedOutsideLeavesNoHover) {
   Button button;
   button.Move(true, false);
   button.Move(true, true);
@@ -97,16 +97,16 @@ TEST(ButtonPointer, LosingTheFocusEndsTheHoverOfAFlatButtonOnly) {
   EXPECT_EQ(qvx::StepOnFocusLost(on, 1), PointerStep{}) << "nothing left to end";
 }
 
-// A lit button that loses the mouse stays lit until the next move or the loss of focus.
-TEST(ButtonPointer, LosingTheMouseRepaintsALitButtonButKeepsItsFlag) {
+// A lit button that loses the capture stays lit until the next move or the loss of focus.
+TEST(ButtonPointer, LosingTheCaptureRepaintsALitButtonButKeepsItsFlag) {
   EXPECT_EQ(qvx::StepOnCaptureLost(1), (PointerStep{false, true, true}));
   EXPECT_EQ(qvx::StepOnCaptureLost(0), PointerStep{});
 }
 
-TEST(ButtonPointer, AfterAClickTheNextMoveTakesTheMouseAgain) {
+TEST(ButtonPointer, AfterAClickTheNextMoveTakesTheCaptureAgain) {
   Button button;
   button.Move(true, false);
-  button.captured = false;  // the press and release of the click took it and gave it back
+  button.captured = false;  // the click took the capture and released it
   EXPECT_EQ(button.Move(true, false), (PointerStep{true, true, false}));
 }
 

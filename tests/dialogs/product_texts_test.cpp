@@ -1,4 +1,4 @@
-// What the product file says and what stands in for it.
+// Texts of the product file and the defaults of missing keys.
 #include <gtest/gtest.h>
 
 #include <cwchar>
@@ -47,7 +47,7 @@ TEST_F(ProductTexts, TheAboutDialogReadsItsKeys) {
   EXPECT_EQ(fs::path(texts.iconFile.GetString()), Folder() / "a.ico");
 }
 
-TEST_F(ProductTexts, WithoutAProductFileLinesAreEmptyAndTheMakersOwnStand) {
+TEST_F(ProductTexts, WithoutAProductFileLinesAreEmptyAndTheMakersAddressesAreUsed) {
   for (const char* content : {"", "[Other]\nAbout=x\n", "[Product]\n", "\xFF\xFE\x01\x02"}) {
     if (*content) Write("qvx.ini", content);
     const qvx::AboutTexts texts = qvx::LoadAboutTexts(FindInFolder);
@@ -87,7 +87,7 @@ TEST_F(ProductTexts, HelpIsNotFoundWithoutItsKeyOrItsFile) {
   }
 }
 
-TEST_F(ProductTexts, HelpWithoutAProductFileOrSectionGoesOnWithNoPath) {
+TEST_F(ProductTexts, HelpWithoutAProductFileOrSectionHasAnEmptyPath) {
   for (const char* content : {"", "[Other]\nHelpFile=no.chm\n"}) {
     if (*content) Write("qvx.ini", content);
     const qvx::HelpTarget target = qvx::FindHelpFile(FindInFolder);

@@ -1,5 +1,4 @@
-// A tip file on disk that goes with its owner, and its text as the tests write it: UTF-8 in, the
-// ANSI code page in the file.
+// A temporary tip file. Tests write its text as UTF-8; the file has the ANSI code page.
 #pragma once
 
 #include <filesystem>
@@ -21,7 +20,7 @@ class TipFileOnDisk {
   void Write(const std::string& bytes) {
     std::ofstream(m_path, std::ios::binary | std::ios::trunc) << bytes;
   }
-  // As one that was changed so many hours ago.
+  // Sets the time of the last change back by so many hours.
   void Age(int hours) {
     std::filesystem::last_write_time(
         m_path, std::filesystem::file_time_type::clock::now() - std::chrono::hours(hours));

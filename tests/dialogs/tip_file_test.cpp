@@ -1,4 +1,4 @@
-// Lines, tips and the walk backwards, over real files.
+// Lines, tips and the backward scan, on real files.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -37,21 +37,21 @@ TEST(TipLine, KeepsItsLineEndAndReadsBothForms) {
   EXPECT_EQ(Line(file.get()), L"(end)");
 }
 
-TEST(TipLine, ABareCarriageReturnIsACharacterAsAnyOther) {
+TEST(TipLine, ABareCarriageReturnIsAnOrdinaryCharacter) {
   const TipFileOnDisk disk("one\rtwo\r");
   const FileOwner file = disk.Open();
   EXPECT_EQ(Line(file.get()), L"one\rtwo\r");
 }
 
 TEST(TipLine, IsTextOfTheAnsiCodePage) {
-  const TipFileOnDisk disk("\xC7\xBD\xCC\xE5\n\x81\nplain\n");  // the second has half a character
+  const TipFileOnDisk disk("\xC7\xBD\xCC\xE5\n\x81\nplain\n");  // line 2: half a character
   const FileOwner file = disk.Open();
   EXPECT_EQ(Line(file.get()), L"墙体\n");
   EXPECT_EQ(Line(file.get()), L"\xFFFD\n");
   EXPECT_EQ(Line(file.get()), L"plain\n");
 }
 
-TEST(TipLine, FollowsTheTextFilesEndMark) {
+TEST(TipLine, EndsAtTheEndMarkOfTextFiles) {
   const TipFileOnDisk disk("one\n\x1Atwo\n");
   const FileOwner file = disk.Open();
   EXPECT_EQ(Line(file.get()), L"one\n");
@@ -91,7 +91,7 @@ TEST(Tip, IsALineThatBeginsWithNoneOfFourCharacters) {
     EXPECT_FALSE(qvx::IsTipLine(skipped));
 }
 
-TEST(Tip, TheNextOnePassesOverSkippedLinesAndGoesInACircle) {
+TEST(Tip, TheNextOneSkipsOtherLinesAndWrapsAround) {
   const TipFileOnDisk disk("; head\none\n; between\n\n\ttwo\n three\ntwo\n; tail\n");
   const FileOwner file = disk.Open();
   EXPECT_EQ(Next(file.get()), L"one\n");
@@ -121,7 +121,7 @@ TEST(Tip, TheRestOfALineTooLongIsATipOfItsOwn) {
   EXPECT_EQ(Before(file.get(), 1999 + 5 + 1999), 1999);
 }
 
-TEST(Tip, AFileWithoutAnyEndsTheSearchWithNoText) {
+TEST(Tip, WithoutAnyTheSearchEndsWithNoText) {
   for (const char* bytes : {"", "; only\n", "\n\n\n", "\t\n ;\n"}) {
     const TipFileOnDisk disk(bytes);
     const FileOwner file = disk.Open();
@@ -129,8 +129,8 @@ TEST(Tip, AFileWithoutAnyEndsTheSearchWithNoText) {
   }
 }
 
-TEST(TipBefore, IsFoundByAWalkFromTheStart) {
-  const TipFileOnDisk disk("one\ntwo\nsix\n");  // each four bytes
+TEST(TipBefore, IsFoundByAScanFromTheStart) {
+  const TipFileOnDisk disk("one\ntwo\nsix\n");  // four bytes each
   const FileOwner file = disk.Open();
   EXPECT_EQ(Before(file.get(), 12), 4);
   EXPECT_EQ(Before(file.get(), 8), 0);
@@ -145,14 +145,14 @@ TEST(TipBefore, IsTheTipAboveAComment) {
   EXPECT_EQ(Next(file.get()), L"one\n") << "the walk itself leaves the file at its start or behind";
 }
 
-TEST(TipBefore, BelowACommentAtTheTopTheSecondTipLeadsToAPositionThatIsNotTheStart) {
+TEST(TipBefore, BelowACommentAtTheTopTheSecondTipGoesBackToANonZeroOffset) {
   const TipFileOnDisk disk(";c1\none\ntwo\n");
   const FileOwner file = disk.Open();
   EXPECT_EQ(Before(file.get(), 12), 4);
   EXPECT_EQ(Before(file.get(), 8), 0);
 }
 
-TEST(TipBefore, CountsWindowsLineEndsAsTheFileHasThem) {
+TEST(TipBefore, CountsWindowsLineEndsAsTwoBytes) {
   const TipFileOnDisk disk("one\r\ntwo\r\nsix\r\n");
   const FileOwner file = disk.Open();
   Next(file.get());
@@ -169,7 +169,7 @@ TEST(TipBefore, AnEndAtWhichNoTipEndsGivesTheStart) {
     EXPECT_EQ(Before(file.get(), end), 0) << end;
 }
 
-TEST(TipBefore, TheEndOfACommentIsTheEndOfNoTip) {
+TEST(TipBefore, TheEndOfACommentIsNotTheEndOfATip) {
   const TipFileOnDisk disk("one\ntwo\n;c\nsix\n");
   const FileOwner file = disk.Open();
   EXPECT_EQ(Before(file.get(), 11), 0);

@@ -1,5 +1,5 @@
-// The tip of the day between two runs: position, time stamp, the start-up switch, and what the
-// buttons do to them. Runs under a host release that nobody has.
+// The tip of the day between two runs: position, time stamp, the start-up switch, and the effect of
+// the buttons. Uses a host release number that does not exist.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -61,7 +61,7 @@ class TipOfTheDayTest : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(TipOfTheDayTest, AMissingFileShowsItsTextAndKeepsNothing) {
+TEST_F(TipOfTheDayTest, AMissingFileShowsItsTextAndSavesNothing) {
   Key().SetValue(L"StartUp", 0);
   Key().SetValue(L"Indicator", 7);
   {
@@ -80,7 +80,7 @@ TEST_F(TipOfTheDayTest, AMissingFileShowsItsTextAndKeepsNothing) {
   EXPECT_TRUE(messages.boxes.empty());
 }
 
-TEST_F(TipOfTheDayTest, EachShowingBeginsBehindTheLastTipShown) {
+TEST_F(TipOfTheDayTest, EachRunBeginsAfterTheLastTipShown) {
   EXPECT_EQ(Show()->Shown(), L"one\n");
   EXPECT_EQ(Kept(L"Indicator"), 4);
   {
@@ -104,7 +104,7 @@ TEST_F(TipOfTheDayTest, AnEditedFileRestartsAtItsFirstTip) {
   EXPECT_FALSE(tips->CanGoBack());
 }
 
-TEST_F(TipOfTheDayTest, TheStampIsWrittenOnlyWhereItDiffers) {
+TEST_F(TipOfTheDayTest, TheStampIsWrittenOnlyIfItDiffers) {
   Show();
   CString stamp;
   Key().GetValue(L"TimeStamp", stamp);
@@ -116,7 +116,7 @@ TEST_F(TipOfTheDayTest, TheStampIsWrittenOnlyWhereItDiffers) {
   EXPECT_EQ(Kept(L"Indicator"), 8) << "the same stamp leaves the position";
 }
 
-TEST_F(TipOfTheDayTest, PreviousFromTheFirstTipAfterTheLastWalksInTheFile) {
+TEST_F(TipOfTheDayTest, PreviousFromTheFirstTipAfterTheLastGoesBackInTheFile) {
   const auto tips = Show();
   tips->Next();
   tips->Next();
@@ -135,7 +135,7 @@ TEST_F(TipOfTheDayTest, PreviousFromTheFirstTipAfterTheLastWalksInTheFile) {
   EXPECT_FALSE(tips->CanGoBack());
 }
 
-TEST_F(TipOfTheDayTest, ACommentBetweenTwoTipsIsPassedOverBothWays) {
+TEST_F(TipOfTheDayTest, ACommentBetweenTwoTipsIsSkippedBothWays) {
   disk.Write("one\n;c\n\ttwo\nsix\n");
   const auto tips = Show();
   tips->Next();
@@ -145,7 +145,7 @@ TEST_F(TipOfTheDayTest, ACommentBetweenTwoTipsIsPassedOverBothWays) {
   EXPECT_FALSE(tips->CanGoBack());
 }
 
-TEST_F(TipOfTheDayTest, BelowACommentAtTheTopThereIsAWayBackFromTheFirstTipOnce) {
+TEST_F(TipOfTheDayTest, BelowACommentAtTheTopPreviousIsAvailableOnceAtTheFirstTip) {
   disk.Write(";c1\none\ntwo\n");
   const auto tips = Show();
   tips->Next();
@@ -157,7 +157,7 @@ TEST_F(TipOfTheDayTest, BelowACommentAtTheTopThereIsAWayBackFromTheFirstTipOnce)
   EXPECT_FALSE(tips->CanGoBack());
 }
 
-TEST_F(TipOfTheDayTest, APositionThatCantBeReachedIsToldInABox) {
+TEST_F(TipOfTheDayTest, APositionThatCantBeReachedShowsAMessageBox) {
   Show();
   Key().SetValue(L"Indicator", -5);
   const auto tips = Show();
@@ -166,13 +166,13 @@ TEST_F(TipOfTheDayTest, APositionThatCantBeReachedIsToldInABox) {
   EXPECT_TRUE(tips->HasFile());
 }
 
-TEST_F(TipOfTheDayTest, APositionBehindTheFileBeginsAnew) {
+TEST_F(TipOfTheDayTest, APositionBeyondTheEndStartsAgain) {
   Show();
   Key().SetValue(L"Indicator", 100000);
   EXPECT_EQ(Show()->Shown(), L"one\n");
 }
 
-TEST_F(TipOfTheDayTest, ThePositionMovesOnEvenWhereTheTipsAreTurnedOff) {
+TEST_F(TipOfTheDayTest, ThePositionMovesOnEvenIfTheTipsAreTurnedOff) {
   Key().SetValue(L"StartUp", 0);
   {
     const auto tips = Show();
@@ -181,7 +181,7 @@ TEST_F(TipOfTheDayTest, ThePositionMovesOnEvenWhereTheTipsAreTurnedOff) {
   EXPECT_EQ(Kept(L"Indicator"), 4);
 }
 
-TEST_F(TipOfTheDayTest, TheSwitchIsKeptOnlyOnDemand) {
+TEST_F(TipOfTheDayTest, TheSwitchIsSavedOnlyOnDemand) {
   {
     const auto tips = Show();
     tips->Switch(0);

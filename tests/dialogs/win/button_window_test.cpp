@@ -64,11 +64,11 @@ class ButtonWindow : public testing::Test {
   TestButton button;
 };
 
-TEST_F(ButtonWindow, IsOwnerDrawnWhateverItWasCreatedAs) {
+TEST_F(ButtonWindow, IsAlwaysOwnerDrawn) {
   EXPECT_EQ(button.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
 }
 
-TEST_F(ButtonWindow, TakesTheMouseWhenThePointerComesAndGivesItBackWhenItGoes) {
+TEST_F(ButtonWindow, TakesTheCaptureWhenThePointerEntersAndReleasesItWhenItLeaves) {
   Move(5, 5);
   EXPECT_EQ(::GetCapture(), button.m_hWnd);
   EXPECT_TRUE(button.IsMouseOn());
@@ -85,7 +85,7 @@ TEST_F(ButtonWindow, APressThatBeganElsewhereAndIsDraggedOverItDoesNotLightIt) {
   EXPECT_TRUE(button.IsMouseOn()) << "once the press is over, the next move does";
 }
 
-TEST_F(ButtonWindow, KeepsTheMouseWhileAPressIsCarriedOff) {
+TEST_F(ButtonWindow, KeepsTheCaptureWhileAPressIsDraggedOff) {
   Move(5, 5);
   Move(-5, 5, MK_LBUTTON);
   EXPECT_EQ(::GetCapture(), button.m_hWnd);
@@ -114,7 +114,7 @@ TEST_F(ButtonWindow, LosingTheFocusEndsTheHover) {
   EXPECT_FALSE(button.IsMouseOn());
 }
 
-TEST_F(ButtonWindow, LosingTheMouseReleasesItAndKeepsTheFlag) {
+TEST_F(ButtonWindow, LosingTheCaptureReleasesItAndKeepsTheFlag) {
   Move(5, 5);
   parent.SetCapture();
   EXPECT_EQ(::GetCapture(), nullptr) << "it is taken from the new owner too";
@@ -132,7 +132,7 @@ TEST_F(ButtonWindow, ASecondTipTextChangesNothing) {
   EXPECT_EQ(button.Tip()->SendMessage(TTM_GETDELAYTIME, TTDT_INITIAL), 500);
 }
 
-TEST_F(ButtonWindow, OwnsItsBitmapsAndOnlyBorrowsASharedOne) {
+TEST_F(ButtonWindow, OwnsItsBitmapsAndDoesNotFreeASharedOne) {
   const int before = qvx::OwnedBitmap::Alive();
   const qvx::OwnedBitmap shared(::CreateBitmap(16, 16, 1, 1, nullptr));
   button.SetBitmaps(::CreateBitmap(16, 16, 1, 1, nullptr), nullptr, 16, 16);
@@ -142,7 +142,7 @@ TEST_F(ButtonWindow, OwnsItsBitmapsAndOnlyBorrowsASharedOne) {
   EXPECT_EQ(button.ShownBitmap(), shared.Get());
 }
 
-TEST_F(ButtonWindow, AnImageGivenBeforeThereIsAWindowDoesNotRedrawTheScreen) {
+TEST_F(ButtonWindow, AnImageSetBeforeTheWindowExistsDoesNotRedrawTheScreen) {
   parent.ShowWindow(SW_SHOWNOACTIVATE);
   parent.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   ASSERT_FALSE(::GetUpdateRect(parent.m_hWnd, nullptr, FALSE));
@@ -183,7 +183,7 @@ TEST_F(ButtonWindow, ANonFlatButtonHasADoubleFrameAndABlackOneWithTheFocus) {
   EXPECT_EQ(Draw(79, 15, ODS_SELECTED), ::GetSysColor(COLOR_BTNSHADOW));
 }
 
-TEST_F(ButtonWindow, NoCursorIsACursorThatWorks) {
+TEST_F(ButtonWindow, SettingNoCursorSucceedsAndAMissingResourceFails) {
   EXPECT_TRUE(button.SetBtnCursor(-1));
   EXPECT_FALSE(button.SetBtnCursor(31999)) << "no such resource";
 }

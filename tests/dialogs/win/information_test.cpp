@@ -1,5 +1,5 @@
-// The about dialog as a real window, and what help and mail hand to the shell, which is a double
-// here: it answers what a test tells it to and notes what it was asked.
+// The about dialog as a real window, and the shell calls of help and mail. The shell is a double:
+// it returns what a test sets and records its arguments.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -82,7 +82,7 @@ class Information : public ::testing::Test {
 
 }  // namespace
 
-// Where calls of the shell in this program go instead of to the system.
+// Replaces the system's shell calls in this program.
 extern "C" {
 decltype(&ShellCall) __imp_ShellExecuteW = &ShellCall;
 }
@@ -103,14 +103,14 @@ TEST_F(Information, AboutShowsWhatTheProductFileSays) {
   EXPECT_TRUE(dialog.GetDlgItem(1153)->GetStyle() & ES_READONLY);
 }
 
-TEST_F(Information, TheLinksLeadToTheirTextAndToAMail) {
+TEST_F(Information, TheLinksOpenTheirTextAndAMail) {
   Product("[Product]\nEmail=me@here.example\n");
   AboutWindow dialog;
   EXPECT_EQ(dialog.LinkOf(5018), dialog.Text(5018).c_str());
   EXPECT_STREQ(dialog.LinkOf(5016), L"mailto:me@here.example");
 }
 
-TEST_F(Information, AboutHasItsLabelsAndWithoutAProductFileTheMakersOwn) {
+TEST_F(Information, AboutHasItsLabelsAndWithoutAProductFileTheMakersAddresses) {
   AboutWindow dialog;
   for (const wchar_t* label :
        {L"版本：", L"网址：", L"邮件：", L"电话：", L"传真：", L"版权所有：", L"QQ群：", L"关闭"})
@@ -121,7 +121,7 @@ TEST_F(Information, AboutHasItsLabelsAndWithoutAProductFileTheMakersOwn) {
   EXPECT_EQ(dialog.Text(5016), qvx::kContactAddress);
 }
 
-TEST_F(Information, AnIconFileOfAnyBytesIsNoIcon) {
+TEST_F(Information, AnIconFileOfRandomBytesIsNoIcon) {
   Write("a.ico", "\x01\x02 not an icon \xFF");
   Product("[Product]\nIconFile=a.ico\n");
   const int before = qvx::OwnedIcon::Alive();
@@ -130,7 +130,7 @@ TEST_F(Information, AnIconFileOfAnyBytesIsNoIcon) {
   EXPECT_EQ(::SendDlgItemMessageW(dialog.m_hWnd, 1154, STM_GETICON, 0, 0), 0);
 }
 
-TEST_F(Information, AboutLeavesNoHandleBehind) {
+TEST_F(Information, AboutLeaksNoHandle) {
   const int before = qvx::OwnedIcon::Alive();
   for (int round = 0; round < 100; ++round) const AboutWindow dialog;
   EXPECT_EQ(qvx::OwnedIcon::Alive(), before);
@@ -146,7 +146,7 @@ TEST_F(Information, HelpOpensTheFileThatTheProductNames) {
   EXPECT_EQ(s_ui.printed, L"");
 }
 
-TEST_F(Information, HelpThatIsNotThereIsNotOpened) {
+TEST_F(Information, AMissingHelpFileIsNotOpened) {
   for (const char* content : {"[Product]\n", "[Product]\nHelpFile=no.chm\n"}) {
     Product(content);
     s_ui.printed.clear();
@@ -156,7 +156,7 @@ TEST_F(Information, HelpThatIsNotThereIsNotOpened) {
   EXPECT_EQ(g_shell.calls, 0);
 }
 
-TEST_F(Information, HelpWithoutAProductIsTriedWithNoPath) {
+TEST_F(Information, HelpWithoutAProductIsOpenedWithAnEmptyPath) {
   g_shell.answer = 2;
   OpenHelp();
   EXPECT_EQ(g_shell.calls, 1);

@@ -1,5 +1,5 @@
-// The tip dialog as a real window: its controls, what the buttons do, what is kept by which way
-// out, and its pictures at the dots per inch of several screens.
+// The tip dialog as a real window: its controls, the effect of the buttons, what each way of
+// closing saves, and its pictures at several screen resolutions.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -71,7 +71,7 @@ class TipDialog : public ::testing::Test {
   }
   void SetUp() override {
     m_release = g_dHostVersion;
-    g_dHostVersion = 98.2;  // a host release that nobody has
+    g_dHostVersion = 98.2;  // does not exist
     std::ofstream(s_folder / "qvxtips.txt", std::ios::binary) << "one\r\ntwo & two\r\nsix\r\n";
     Key().SetValue(L"StartUp", 1);
     Key().SetValue(L"Indicator", 0);
@@ -102,7 +102,7 @@ TEST_F(TipDialog, HasItsTitleAndItsControls) {
   EXPECT_TRUE(dialog.Checked());
 }
 
-TEST_F(TipDialog, NextAndPreviousShowTheirTipsAndTheButtonFollows) {
+TEST_F(TipDialog, NextAndPreviousShowTheirTipsAndThePreviousButtonIsUpdated) {
   TipWindow dialog;
   EXPECT_FALSE(dialog.Enabled(1003));
   dialog.Press(1002);
@@ -121,7 +121,7 @@ TEST_F(TipDialog, WithoutAFileSaysSoAndHasNoNextTip) {
   EXPECT_FALSE(dialog.Enabled(1003));
 }
 
-TEST_F(TipDialog, TheSwitchIsKeptByTheCloseButton) {
+TEST_F(TipDialog, TheCloseButtonSavesTheSwitch) {
   {
     TipWindow dialog;
     dialog.Check(false);
@@ -133,7 +133,7 @@ TEST_F(TipDialog, TheSwitchIsKeptByTheCloseButton) {
   EXPECT_FALSE(again.Checked());
 }
 
-TEST_F(TipDialog, TheSwitchIsLostByTheSystemMenuAndThePositionIsKept) {
+TEST_F(TipDialog, TheSystemMenuDropsTheSwitchAndSavesThePosition) {
   {
     TipWindow dialog;
     dialog.Press(1002);
@@ -144,7 +144,7 @@ TEST_F(TipDialog, TheSwitchIsLostByTheSystemMenuAndThePositionIsKept) {
   EXPECT_EQ(Kept(L"Indicator"), 16);
 }
 
-TEST_F(TipDialog, NextTakesTheSwitchAndPreviousPutsItBack) {
+TEST_F(TipDialog, NextReadsTheSwitchAndPreviousRestoresIt) {
   TipWindow dialog;
   dialog.Press(1002);
   dialog.Check(false);
@@ -166,7 +166,7 @@ TEST_F(TipDialog, TheTextIsAFifthLargerThanTheDialogs) {
   EXPECT_EQ(text.lfWidth, static_cast<LONG>(own.lfWidth * 1.2));
 }
 
-TEST_F(TipDialog, TheTextStandsOnWhite) {
+TEST_F(TipDialog, TheTextIsOnWhite) {
   TipWindow dialog;
   HDC dc = ::GetDC(dialog.m_hWnd);
   const LRESULT brush =
@@ -176,7 +176,7 @@ TEST_F(TipDialog, TheTextStandsOnWhite) {
   EXPECT_EQ(reinterpret_cast<HGDIOBJ>(brush), ::GetStockObject(WHITE_BRUSH));
 }
 
-TEST_F(TipDialog, LeavesNoHandleBehind) {
+TEST_F(TipDialog, LeaksNoHandle) {
   const auto alive = [] {
     return qvx::OwnedBitmap::Alive() + qvx::OwnedFont::Alive() + qvx::OwnedMemoryDc::Alive();
   };
@@ -188,7 +188,7 @@ TEST_F(TipDialog, LeavesNoHandleBehind) {
   EXPECT_EQ(alive(), before);
 }
 
-// Run by the test below in programs of their own, because a program learns the dots once.
+// Run by the test below in child processes, because a process reads the resolution once.
 TEST_F(TipDialog, DISABLED_ShowsThePicturesOfThisScreen) {
   wchar_t expected[16] = L"";
   ASSERT_GT(::GetEnvironmentVariableW(kExpectedDots, expected, 16), 0u);
@@ -214,7 +214,7 @@ TEST_F(TipDialog, DISABLED_ShowsThePicturesOfThisScreen) {
 
 namespace {
 
-// The setting that programs started from now on read the dots from; put back at the end.
+// Sets the resolution that processes started from now on read; restores it at the end.
 class ScreenDots {
  public:
   ScreenDots() {
@@ -257,7 +257,7 @@ DWORD RunSelf(const std::wstring& arguments) {
   return code;
 }
 
-// Before the first window: a program that doesn't know of dots is told 96.
+// Before the first window: a process that is not DPI-aware always gets 96.
 [[maybe_unused]] const bool g_knowsDots = [] {
   wchar_t expected[16];
   if (::GetEnvironmentVariableW(kExpectedDots, expected, 16) > 0) ::SetProcessDPIAware();
