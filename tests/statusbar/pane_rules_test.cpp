@@ -6,7 +6,7 @@
 
 using namespace qvx;
 
-TEST(PaneRules, OnIsPressedInAndOffStandsOut) {
+TEST(PaneRules, OnIsPressedInAndOffIsRaised) {
   EXPECT_EQ(StyleOf(true), 8);
   EXPECT_EQ(StyleOf(false), 2);
 }
@@ -34,7 +34,7 @@ TEST(PaneRules, EachSwitchHasItsIconsTextAndMenus) {
   }
 }
 
-TEST(PaneRules, BothStateLinesOfTheMenuFlipAndTheThirdSets) {
+TEST(PaneRules, BothStateLinesOfTheMenuToggleAndTheThirdOpensTheSettings) {
   EXPECT_EQ(ActOf(40215), MenuAct::kToggle);
   EXPECT_EQ(ActOf(40216), MenuAct::kToggle);
   EXPECT_EQ(ActOf(40217), MenuAct::kSettings);
@@ -42,13 +42,13 @@ TEST(PaneRules, BothStateLinesOfTheMenuFlipAndTheThirdSets) {
   EXPECT_EQ(ActOf(40218), MenuAct::kNone);
 }
 
-TEST(PaneRules, FillAndBoldGiveWayToACommand) {
+TEST(PaneRules, FillAndBoldIgnoreAClickDuringACommand) {
   EXPECT_TRUE(DrawingSwitchActs(0));
   EXPECT_FALSE(DrawingSwitchActs(1));
   EXPECT_FALSE(DrawingSwitchActs(4));
 }
 
-TEST(PaneRules, TheBaseLineIconGoesAheadOfAStateThatACommandHoldsBack) {
+TEST(PaneRules, TheBaseLineIconChangesEvenIfACommandBlocksTheState) {
   for (const bool on : {false, true}) {
     EXPECT_EQ(OnBaseLineClick(on, 0).iconOn, !on);
     EXPECT_TRUE(OnBaseLineClick(on, 0).flips);
@@ -57,7 +57,7 @@ TEST(PaneRules, TheBaseLineIconGoesAheadOfAStateThatACommandHoldsBack) {
   }
 }
 
-TEST(PaneRules, AClickKeepsPickStyleInItsPair) {
+TEST(PaneRules, AClickKeepsTheHighBitOfPickStyle) {
   EXPECT_EQ(PickStyleAfterClick(0, true), 1);
   EXPECT_EQ(PickStyleAfterClick(0, false), 0);
   EXPECT_EQ(PickStyleAfterClick(1, true), 1);
@@ -68,13 +68,13 @@ TEST(PaneRules, AClickKeepsPickStyleInItsPair) {
   EXPECT_EQ(PickStyleAfterClick(3, false), 2);
 }
 
-TEST(PaneRules, AClickTakesAnUnreadOrNegativePickStyleForTheLowPair) {
+TEST(PaneRules, AClickTakesAnUnreadableOrNegativePickStyleAsZero) {
   EXPECT_EQ(PickStyleAfterClick({}, true), 1);
   EXPECT_EQ(PickStyleAfterClick({}, false), 0);
   EXPECT_EQ(PickStyleAfterClick(-1, true), 1);
 }
 
-TEST(PaneRules, ComingAndGoingTakesANegativePickStyleForTheHighPair) {
+TEST(PaneRules, AddingAndRemovingTakesANegativePickStyleAsTwo) {
   EXPECT_EQ(PickStyleAtInit(-1, true), 3);
   EXPECT_EQ(PickStyleAtInit(-1, false), 2);
   EXPECT_EQ(PickStyleAtInit(2, true), 3);
@@ -92,7 +92,7 @@ TEST(PaneRules, DynamicInputHasAPaneOnOldHostsOnly) {
   EXPECT_FALSE(HasDynInputPane(24.0));
 }
 
-TEST(PaneRules, AnyOtherNumberOfFieldsIsAllAndAllIsTen) {
+TEST(PaneRules, AnyOtherNumberOfFieldsIsAllAndAllIsStoredAsTen) {
   EXPECT_EQ(ChoiceOfFields(1), 0);
   EXPECT_EQ(ChoiceOfFields(2), 1);
   for (const int all : {10, 7, 3, 0, -1}) EXPECT_EQ(ChoiceOfFields(all), 2) << all;

@@ -1,4 +1,4 @@
-// Setting and telling scales on real drawings of the host: the selection, the drawing, the sheet,
+// Reading and setting scales on real drawings of the host: the selection, the drawing, paper space,
 // dimensions, locks and undo.
 #include <gtest/gtest.h>
 
@@ -82,7 +82,7 @@ TEST_F(ScaleChange, SelectedObjectsGetTheScaleAndTheDrawingKeepsIts) {
   EXPECT_EQ(DrawingsOwn(), 100);
 }
 
-TEST_F(ScaleChange, AnyNumberIsTakenByObjects) {
+TEST_F(ScaleChange, ObjectsTakeAnyNumber) {
   auto* wall = Add<QvxDbWall>(100);
   Select({wall});
   qvx::SetScale(0);
@@ -90,7 +90,7 @@ TEST_F(ScaleChange, AnyNumberIsTakenByObjects) {
   EXPECT_EQ(Text(), L"比例 1:100") << "the drawing's, since 0 is no scale to show";
 }
 
-TEST_F(ScaleChange, WhatIsNoFiniteNumberChangesNothing) {
+TEST_F(ScaleChange, ANumberThatIsNotFiniteChangesNothing) {
   auto* wall = Add<QvxDbWall>(100);
   qvx::SetScale(50);
   for (const double scale :
@@ -104,7 +104,7 @@ TEST_F(ScaleChange, WhatIsNoFiniteNumberChangesNothing) {
   }
 }
 
-TEST_F(ScaleChange, ASelectionWithoutObjectsOfTheFamilyMeansTheDrawing) {
+TEST_F(ScaleChange, ASelectionWithoutQvxObjectsMeansTheDrawing) {
   auto* line = new AcDbLine({0, 0, 0}, {1, 0, 0});
   AddEntity(line);
   Select({line});
@@ -114,7 +114,7 @@ TEST_F(ScaleChange, ASelectionWithoutObjectsOfTheFamilyMeansTheDrawing) {
   EXPECT_EQ(Text(), L"比例 1:25");
 }
 
-TEST_F(ScaleChange, ObjectsOfTheFamilyWithoutAScaleShowTheDrawingsAndAreLeftAsTheyAre) {
+TEST_F(ScaleChange, QvxObjectsWithoutAScaleShowTheDrawingsAndAreUnchanged) {
   const std::string unknown =
       "0\nSECTION\n2\nENTITIES\n0\nQVX_FROMELSEWHERE\n5\n40\n8\n0\n10\n0\n20\n0\n42\n7\n"
       "0\nENDSEC\n0\nEOF\n";
@@ -128,7 +128,7 @@ TEST_F(ScaleChange, ObjectsOfTheFamilyWithoutAScaleShowTheDrawingsAndAreLeftAsTh
   EXPECT_EQ(DrawingsOwn(), 100) << "the selection was meant, not the drawing";
 }
 
-TEST_F(ScaleChange, TheTextTellsOneScaleOrSeveral) {
+TEST_F(ScaleChange, TheTextShowsOneScaleOrAsterisks) {
   auto* a = Add<QvxDbWall>(100);
   auto* b = Add<QvxDbText>(100.0005);
   auto* c = Add<QvxDbText>(100.01);
@@ -166,7 +166,7 @@ TEST_F(ScaleChange, AnAngularDimensionMovesItsLineAndALinearOneDoesNot) {
   EXPECT_EQ(linear->GetPScale(), 150);
 }
 
-TEST_F(ScaleChange, DimensionsAreAdjustedAsTheSettingSays) {
+TEST_F(ScaleChange, DimensionsAreAdjustedAccordingToTheSetting) {
   auto* dimension = Add<TDbDimension2>(100);
   const struct {
     int setting, flags;
@@ -183,7 +183,7 @@ TEST_F(ScaleChange, DimensionsAreAdjustedAsTheSettingSays) {
   }
 }
 
-TEST_F(ScaleChange, TheDrawingDropsAScaleOfZeroOrLessAndTheSheetTakesIt) {
+TEST_F(ScaleChange, TheDrawingIgnoresAScaleOfZeroOrLessAndPaperSpaceTakesIt) {
   for (const double scale : {0.0, -5.0, 0.0001}) {
     qvx::SetScale(scale);
     EXPECT_EQ(DrawingsOwn(), 100) << scale;
@@ -196,7 +196,7 @@ TEST_F(ScaleChange, TheDrawingDropsAScaleOfZeroOrLessAndTheSheetTakesIt) {
   }
 }
 
-TEST_F(ScaleChange, InsideAViewportTheDrawingGetsIt) {
+TEST_F(ScaleChange, InsideAViewportTheDrawingGetsTheScale) {
   host.variables.Set(L"TILEMODE", L"0");
   host.variables.Set(L"CVPORT", L"2");
   qvx::SetScale(75);
@@ -205,7 +205,7 @@ TEST_F(ScaleChange, InsideAViewportTheDrawingGetsIt) {
   EXPECT_EQ(DocGetPScale(), 1);
 }
 
-TEST_F(ScaleChange, TheSheetsScaleLeavesTheDataOfOthersAlone) {
+TEST_F(ScaleChange, TheScaleOfPaperSpaceKeepsTheExtendedDataOfOthers) {
   host.variables.Set(L"TILEMODE", L"0");
   qvx::SetScale(20);
   qvx::SetScale(30);
@@ -220,7 +220,7 @@ TEST_F(ScaleChange, TheSheetsScaleLeavesTheDataOfOthersAlone) {
   acutRelRb(chain);
 }
 
-TEST_F(ScaleChange, TheHatchScaleIsWhatIsInForce) {
+TEST_F(ScaleChange, TheHatchScaleIsTheScaleInForce) {
   qvx::SetScale(50);
   qvx::WriteHatchScale();
   EXPECT_EQ(std::stod(Var(L"HPSCALE")), 50);
@@ -229,7 +229,7 @@ TEST_F(ScaleChange, TheHatchScaleIsWhatIsInForce) {
   EXPECT_EQ(std::stod(Var(L"HPSCALE")), 1);
 }
 
-TEST_F(ScaleChange, LocksAreGivenBack) {
+TEST_F(ScaleChange, LocksAreReleased) {
   auto* wall = Add<QvxDbWall>(100);
   qvx::SetScale(50);
   Select({wall});

@@ -1,4 +1,4 @@
-// The scale pane's text, its menu's numbers, and which scales a drawing takes.
+// The scale pane's text, the numbers of its menu, and the valid scales of a drawing.
 #include "statusbar/scale_rules.h"
 
 #include <gtest/gtest.h>
@@ -29,12 +29,12 @@ TEST(ScaleMenu, EveryLineHasItsScale) {
   for (const auto& row : kRows) EXPECT_EQ(ScaleOfCommand(row.command), row.scale) << row.command;
 }
 
-TEST(ScaleMenu, OtherAndNoChoiceHaveNone) {
+TEST(ScaleMenu, OtherAndUnknownCommandsHaveNone) {
   for (const unsigned command : {0u, 40231u, 40217u, 40235u})
     EXPECT_FALSE(ScaleOfCommand(command)) << command;
 }
 
-TEST(ScaleText, WithoutASelectionIsTheDrawings) {
+TEST(ScaleText, WithoutASelectionShowsTheDrawings) {
   EXPECT_STREQ(TextFor(50, {}), L"比例 1:50");
   EXPECT_STREQ(TextFor(0.5, {}), L"比例 1:0.5");
 }
@@ -49,12 +49,12 @@ TEST(ScaleText, ADifferenceWithinTheToleranceCountsAsOneScale) {
   EXPECT_STREQ(TextFor(50, {0.5, 0.5009}), L"比例 1:0.5") << "on the scale itself, not its share";
 }
 
-TEST(ScaleText, ObjectsOfDifferentScalesShowStars) {
+TEST(ScaleText, ObjectsOfDifferentScalesShowAsterisks) {
   EXPECT_STREQ(TextFor(50, {100, 100.01}), L"比例 1:***");
   EXPECT_STREQ(TextFor(50, {100, 100, 50}), L"比例 1:***");
 }
 
-TEST(ScaleText, EachIsComparedWithTheFirstSoThatASlowDriftIsMixed) {
+TEST(ScaleText, EachScaleIsComparedWithTheFirstSoSmallStepsAddUpToMixed) {
   EXPECT_STREQ(TextFor(50, {100, 100.0008, 100.0016}), L"比例 1:***");
 }
 
@@ -64,7 +64,7 @@ TEST(ScaleText, AScaleThatIsNotAboveZeroShowsTheDrawings) {
   EXPECT_STREQ(TextFor(50, {0, 100}), L"比例 1:***");
 }
 
-TEST(DrawingScale, TakesOnlyWhatIsAboveAFloor) {
+TEST(DrawingScale, IsValidOnlyAboveAMinimum) {
   EXPECT_TRUE(DrawingTakesScale(100));
   EXPECT_TRUE(DrawingTakesScale(0.00011));
   EXPECT_FALSE(DrawingTakesScale(0.0001));
@@ -73,7 +73,7 @@ TEST(DrawingScale, TakesOnlyWhatIsAboveAFloor) {
   EXPECT_FALSE(DrawingTakesScale(std::numeric_limits<double>::quiet_NaN()));
 }
 
-TEST(DimRadius, ShrinksByThePaperDistanceForEachStepOfTheScale) {
+TEST(DimRadius, DecreasesByThePaperDistanceTimesTheIncreaseOfScale) {
   EXPECT_EQ(DimRadiusAt(2000, 10, 150, 100), 1500);
   EXPECT_EQ(DimRadiusAt(2000, 10, 50, 100), 2500);
   EXPECT_EQ(DimRadiusAt(2000, 10, 100, 100), 2000);

@@ -1,4 +1,4 @@
-// The switches of the drawing are seen: what walls, columns and texts draw when they flip.
+// The effect of the drawing's switches on what walls, columns and texts draw.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -47,7 +47,7 @@ class WallLook : public hosttest::HostTest {
 
 }  // namespace
 
-TEST_F(WallLook, FillTurnsTheGroundIntoAnOutline) {
+TEST_F(WallLook, FillDrawsAPolygonAndNoFillAnOutline) {
   auto* wall = Add<QvxDbWall>();
   EXPECT_EQ(Count(*wall, Kind::Polygon), 1);
   EXPECT_EQ(Count(*wall, Kind::Polyline), 0);

@@ -1,6 +1,6 @@
-// The module's panes on the bar of the real development host: a frame, drawings, a diary of what
-// was printed and sent, and guests that work a menu or a dialog while it holds the test's own
-// thread.
+// The module's panes on the bar of the real development host: a frame, drawings, a journal of
+// printed and sent texts, and helpers that operate a menu or a dialog while its modal loop runs
+// on the test's own thread.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ struct MenuLine {
 };
 std::vector<MenuLine> LinesOf(HMENU popup);
 
-// Calls `step` from timer messages, which modal loops handle too, until it answers true.
+// Calls `step` from timer messages, which modal loops dispatch too, until it returns true.
 class ModalGuest {
  public:
   explicit ModalGuest(std::function<bool()> step);
@@ -37,7 +37,7 @@ class ModalGuest {
   bool m_done = false;
 };
 
-// A visible dialog of this thread other than the one that is known already; null without one.
+// A visible dialog of this thread other than `known`; null if there is none.
 HWND VisibleDialog(HWND known = nullptr);
 HWND OpenMenuWindow(HMENU* menu);
 
@@ -58,13 +58,14 @@ class BarTest : public ::testing::Test {
   static double ScaleOfDrawing();
   // Journal entries of this test.
   std::vector<std::string> Journal(const char* event) const;
-  static bool ViewWaitsForPaint();  // and makes it wait no longer
+  static bool ViewWaitsForPaint();  // validates the view too
 
  private:
   int m_journalStart = 0;
 };
 
-// A pane that notes what is done to it, with its state at that moment, and answers its menus.
+// A pane that records its calls with its state at each call, and returns
+// set results from its menus.
 template <class Pane>
 class Probe : public Pane {
  public:

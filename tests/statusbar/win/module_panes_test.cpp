@@ -1,5 +1,5 @@
-// The panes as the real module puts them on the host's bar: which, in which order, by which custom
-// flags; how they follow drawings and sibling modules; what is left when the module goes.
+// The panes of the real module on the host's bar: which ones, in which order, by which custom
+// flags; how they follow drawings and sibling modules; that none is left after unload.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -24,7 +24,7 @@ Function Export(const wchar_t* file, const char* name) {
       reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(file), name)));
 }
 
-// Where the kernel of the host's default release keeps its settings.
+// Writes a setting where the kernel of the host's default release keeps it.
 void Keep(const wchar_t* setting, DWORD value) {
   ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Quivera\\QVX\\R24.0\\QVX-1\\Settings", setting,
                     REG_DWORD, &value, sizeof value);
@@ -81,7 +81,7 @@ class ModulePanes : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(ModulePanes, StandInTheirOrderAndAreAllGoneAfterwards) {
+TEST_F(ModulePanes, AreInTheirOrderAndAllRemovedAfterwards) {
   Load();
   EXPECT_EQ(NamesOnBar(), (Names{"TPScalePane", "TMakeGroupPane", "TBaseLinePane", "TaKhsKsj123",
                                  "TBoldLinePane", "TDynDimPane"}));
@@ -89,7 +89,7 @@ TEST_F(ModulePanes, StandInTheirOrderAndAreAllGoneAfterwards) {
   EXPECT_EQ(OnBar(), 0);
 }
 
-TEST_F(ModulePanes, TheFlagOfTheDrawingPanesLeavesThemOutAndUnloadsAllTheSame) {
+TEST_F(ModulePanes, TheFlagOfTheDrawingPanesLeavesThemOutAndUnloadStillWorks) {
   Load(0x20);
   EXPECT_EQ(NamesOnBar(), (Names{"TPScalePane", "TMakeGroupPane"}));
   Unload();
@@ -107,7 +107,7 @@ TEST_F(ModulePanes, TheFlagOfTheScalePaneLeavesItOut) {
   EXPECT_EQ(OnBar(), 0);
 }
 
-TEST_F(ModulePanes, PanesOfOthersStayAndOnlyTheScaleComesAheadOfThem) {
+TEST_F(ModulePanes, PanesOfOthersStayAndOnlyTheScaleIsInsertedBeforeThem) {
   AcPane others;
   acedGetApplicationStatusBar()->Add(&others, TRUE);
   Load();
@@ -118,7 +118,7 @@ TEST_F(ModulePanes, PanesOfOthersStayAndOnlyTheScaleComesAheadOfThem) {
   acedGetApplicationStatusBar()->Remove(&others, TRUE);
 }
 
-TEST_F(ModulePanes, ComeAndGoAgainAndAgain) {
+TEST_F(ModulePanes, AreAddedAndRemovedRepeatedly) {
   for (int round = 0; round < 10; ++round) {
     Load();
     EXPECT_EQ(OnBar(), 6) << round;
@@ -127,7 +127,7 @@ TEST_F(ModulePanes, ComeAndGoAgainAndAgain) {
   }
 }
 
-TEST_F(ModulePanes, PickStyleFollowsAtLoadAndAtUnload) {
+TEST_F(ModulePanes, PickStyleIsUpdatedAtLoadAndAtUnload) {
   devhost::TheHost().variables.Set(L"PICKSTYLE", L"2");
   Load();
   EXPECT_EQ(Variable(L"PICKSTYLE"), L"3");
@@ -136,7 +136,7 @@ TEST_F(ModulePanes, PickStyleFollowsAtLoadAndAtUnload) {
   EXPECT_EQ(Variable(L"PICKSTYLE"), L"1");
 }
 
-TEST_F(ModulePanes, ASiblingTellsThemOfASwitchThatItFlipped) {
+TEST_F(ModulePanes, ASiblingRefreshesThemAfterItToggledASwitch) {
   Load();
   devhost::TheHost().documents.New();
   EXPECT_EQ(PaneOf("TDynDimPane")["style"], 8);

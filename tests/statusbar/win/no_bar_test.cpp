@@ -1,4 +1,4 @@
-// The panes while the host has no status bar: nothing happens and nothing breaks.
+// The panes on a host without a status bar: no effect, no failure.
 #include <gtest/gtest.h>
 
 #include "afxext.h"
@@ -9,7 +9,7 @@
 #include "statusbar/win/status_panes.h"
 #include "statusbar/win/switch_panes.h"
 
-TEST(WithoutABar, NoPaneComesOrGoes) {
+TEST(WithoutABar, NoPaneIsAddedOrRemoved) {
   ASSERT_EQ(acedGetApplicationStatusBar(), nullptr);
   TaKhsKsj123 fill;
   TDynDimPane dynDim;
@@ -25,7 +25,7 @@ TEST(WithoutABar, NoPaneComesOrGoes) {
   EXPECT_TRUE(text.IsEmpty());
 }
 
-TEST(WithoutABar, RefreshingAndFlippingGoesOn) {
+TEST(WithoutABar, RefreshingAndTogglingStillWork) {
   UpdateStatusPanes();
   RefreshDrawingPanes();
   RefreshScaleText();

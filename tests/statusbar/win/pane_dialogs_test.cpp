@@ -1,4 +1,4 @@
-// The two dialogs of the panes as real windows: controls, what OK and cancel do, what is no number.
+// The two dialogs of the panes as real windows: controls, OK, Cancel, invalid input.
 #include "devhost/core/host/host.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/globals.h"
@@ -26,7 +26,7 @@ void Press(HWND dialog, int id) { ::SendMessageW(dialog, WM_COMMAND, id, 0); }
 
 class PaneDialogs : public BarTest {
  protected:
-  // Types a scale into the dialog and ends it with a button; whether it ended with OK.
+  // Types a scale into the dialog and presses a button; true if the dialog ended with OK.
   static bool EnterScale(const wchar_t* text, int button) {
     const ModalGuest guest([=] {
       const HWND dialog = VisibleDialog();
@@ -37,7 +37,7 @@ class PaneDialogs : public BarTest {
     });
     return ShowScaleDialog();
   }
-  // Opens the other dialog, looks at the choice, makes another unless -1, and presses the button.
+  // Opens the other dialog, reads the choice, makes another unless -1, and presses the button.
   static int EnterFields(int choice, int button) {
     int shown = -1;
     const ModalGuest guest([&, choice, button] {
@@ -81,7 +81,7 @@ TEST_F(PaneDialogs, OkSetsTheScaleAndCancelDoesNot) {
   EXPECT_EQ(ScaleOfDrawing(), 75);
 }
 
-TEST_F(PaneDialogs, ZeroAndLessAreDroppedByTheDrawingAndKeptByTheSheet) {
+TEST_F(PaneDialogs, ZeroAndLessAreIgnoredByTheDrawingAndKeptByPaperSpace) {
   for (const wchar_t* text : {L"0", L"-5"}) {
     EXPECT_TRUE(EnterScale(text, IDOK));
     EXPECT_EQ(ScaleOfDrawing(), 100);
@@ -94,7 +94,7 @@ TEST_F(PaneDialogs, ZeroAndLessAreDroppedByTheDrawingAndKeptByTheSheet) {
   EXPECT_EQ(ScaleOfDrawing(), 100);
 }
 
-TEST_F(PaneDialogs, WhatIsNoNumberIsToldAndKeepsTheDialogOpen) {
+TEST_F(PaneDialogs, InvalidInputShowsAMessageAndKeepsTheDialogOpen) {
   HWND scaleDialog = nullptr;
   bool stayed = false;
   const ModalGuest guest([&] {
@@ -103,7 +103,7 @@ TEST_F(PaneDialogs, WhatIsNoNumberIsToldAndKeepsTheDialogOpen) {
       scaleDialog = dialog;
       ::SetDlgItemTextW(dialog, IDC_SCALE, L"一百");
       ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
-    } else if (dialog) {  // the box that tells it
+    } else if (dialog) {  // the message box
       ::PostMessageW(::FindWindowExW(dialog, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
     } else if (scaleDialog && !Journal("messagebox").empty()) {
       stayed = ::IsWindowVisible(scaleDialog) != FALSE;
@@ -118,7 +118,7 @@ TEST_F(PaneDialogs, WhatIsNoNumberIsToldAndKeepsTheDialogOpen) {
   EXPECT_EQ(ScaleOfDrawing(), 100);
 }
 
-TEST_F(PaneDialogs, TheLastLineOfTheScaleMenuAsksForTheScale) {
+TEST_F(PaneDialogs, TheLastLineOfTheScaleMenuOpensTheScaleDialog) {
   struct Pane : TPScalePane {
     UINT DisplayPopupPaneMenu(CMenu&) override { return ID_SCALE_OTHER; }
   } pane;
@@ -171,7 +171,7 @@ TEST_F(PaneDialogs, TheDynamicInputDialogHasItsTitleAndChoices) {
   EXPECT_EQ(all, L"显示所有标注输入字段");
 }
 
-TEST_F(PaneDialogs, TheResourcesThatWereCurrentAreSoAgain) {
+TEST_F(PaneDialogs, TheCurrentResourcesAreRestored) {
   const HINSTANCE before = AfxGetResourceHandle();
   AfxSetResourceHandle(::GetModuleHandleW(L"user32.dll"));
   EnterScale(L"5", IDCANCEL);

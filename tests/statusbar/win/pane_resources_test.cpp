@@ -1,4 +1,4 @@
-// The resources of the panes as the module carries them: icons by state, every line of the menus.
+// The resources of the panes in the module: icons by state, all lines of the menus.
 #include "statusbar/pane_icons.h"
 #include "tests/statusbar/win/bar_host.h"
 
@@ -14,7 +14,7 @@ std::vector<MenuLine> MenuOf(int id, std::wstring* title) {
   return lines;
 }
 
-// Every pixel of the icon over a white ground.
+// The pixels of the icon on a white background.
 std::vector<COLORREF> PixelsOf(HICON icon) {
   const HDC screen = ::GetDC(nullptr), dc = ::CreateCompatibleDC(screen);
   const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, 16, 16);
@@ -51,12 +51,12 @@ TEST(PaneResources, OffIsGreyAndOnIsColoured) {
   }
 }
 
-TEST(PaneResources, TheSameIconIsTheSameHandleAndAMissingOneNone) {
+TEST(PaneResources, TheSameIconIsTheSameHandleAndAMissingOneIsNull) {
   EXPECT_EQ(qvx::PaneIcon(57635), qvx::PaneIcon(57635));
   EXPECT_EQ(qvx::PaneIcon(57637), nullptr);
 }
 
-TEST(PaneResources, TheStateMenusGreyAndCheckTheStateInForce) {
+TEST(PaneResources, TheStateMenusGreyAndCheckTheCurrentState) {
   const MenuLine on{L"开(&O)", 40215, false, false}, onNow{L"开(&O)", 40215, true, true};
   const MenuLine off{L"关(&F)", 40216, false, false}, offNow{L"关(&F)", 40216, true, true};
   const MenuLine bar{L"", 0, false, false}, settings{L"设置(&S)...", 40217, false, false};

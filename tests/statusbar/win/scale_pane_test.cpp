@@ -1,5 +1,5 @@
-// The scale pane on the real bar: its place, its menu, what a choice does to selection, drawing and
-// hatch scale.
+// The scale pane on the real bar: its position, its menu, the effect of a choice on selection,
+// drawing and hatch scale.
 #include "statusbar/win/scale_pane.h"
 
 #include "devhost/core/host/host.h"
@@ -56,7 +56,7 @@ class ScalePane : public BarTest {
 
 }  // namespace
 
-TEST_F(ScalePane, ComesFirstWithAMenuStyleAndItsTextAndGoesAgain) {
+TEST_F(ScalePane, IsAddedFirstWithAMenuStyleAndItsTextAndRemoved) {
   InitStatusPane(qvx::SwitchPane::kDynDim, true);
   m_pane.Init(true);
   EXPECT_EQ(Bar().GetIndex(&m_pane), 0);
@@ -90,7 +90,7 @@ TEST_F(ScalePane, AChoiceWithNothingSelectedSetsTheDrawingAndTheHatchScale) {
   EXPECT_EQ(m_pane.Text(), L"比例 1:50");
 }
 
-TEST_F(ScalePane, AChoiceForASelectionLeavesDrawingAndHatchScaleAlone) {
+TEST_F(ScalePane, AChoiceForASelectionKeepsDrawingAndHatchScale) {
   QvxDbWall* wall = AddWall(100);
   Select({wall});
   Choose(40220);
@@ -100,7 +100,7 @@ TEST_F(ScalePane, AChoiceForASelectionLeavesDrawingAndHatchScaleAlone) {
   EXPECT_EQ(m_pane.Text(), L"比例 1:20");
 }
 
-TEST_F(ScalePane, LeavingTheMenuChangesNothingNotEvenTheText) {
+TEST_F(ScalePane, CancellingTheMenuChangesNothingNotEvenTheText) {
   m_pane.SetText(L"as it was");
   Choose(0);
   EXPECT_EQ(ScaleOfDrawing(), 100);
@@ -108,7 +108,7 @@ TEST_F(ScalePane, LeavingTheMenuChangesNothingNotEvenTheText) {
   EXPECT_EQ(m_pane.Text(), L"as it was");
 }
 
-TEST_F(ScalePane, AMixedSelectionShowsStarsUntilItGetsOneScale) {
+TEST_F(ScalePane, AMixedSelectionShowsAsterisksUntilItGetsOneScale) {
   QvxDbWall *a = AddWall(100), *b = AddWall(50);
   Select({a, b});
   m_pane.RefreshText();
@@ -117,7 +117,7 @@ TEST_F(ScalePane, AMixedSelectionShowsStarsUntilItGetsOneScale) {
   EXPECT_EQ(m_pane.Text(), L"比例 1:1");
 }
 
-TEST_F(ScalePane, OnTheSheetAChoiceIsTheSheets) {
+TEST_F(ScalePane, InPaperSpaceAChoiceSetsItsScale) {
   SetVariable(L"TILEMODE", L"0");
   Choose(40234);
   EXPECT_EQ(m_pane.Text(), L"比例 1:0.5");

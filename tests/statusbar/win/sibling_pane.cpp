@@ -1,5 +1,5 @@
-// A sibling module with a pane of its own, derived from the exported base across the border of the
-// two modules. Loaded by module_panes_test.cpp.
+// A sibling module with a pane derived from the exported base class. Loaded
+// by module_panes_test.cpp.
 #include <memory>
 
 #include "rxdlinkr.h"
@@ -22,7 +22,7 @@ std::unique_ptr<SiblingPane> g_pane;
 
 void AddPane() {
   const SiblingPane first;
-  g_pane = std::make_unique<SiblingPane>(first);  // what the bar shows is the copy
+  g_pane = std::make_unique<SiblingPane>(first);  // the bar shows the copy
   *g_pane = first;
   g_pane->Init(true);
 }

@@ -1,4 +1,4 @@
-// The panes of the switches on the real bar: coming and going, clicks, menus, the order of steps.
+// The panes of the switches on the real bar: adding and removing, clicks, menus, order of steps.
 #include "statusbar/win/switch_panes.h"
 
 #include "devhost/core/host/host.h"
@@ -19,7 +19,7 @@ std::wstring ToolTip(const AcPane& pane) {
   return text.GetString();
 }
 
-// As a sibling module would derive one.
+// Derived as in a sibling module.
 class OwnPane : public CADStatusPane {
  public:
   bool on = false;
@@ -40,7 +40,7 @@ using SwitchPanes = BarTest;
 
 }  // namespace
 
-TEST_F(SwitchPanes, ComeBehindTheOthersWithStyleAndToolTipAndGoAgain) {
+TEST_F(SwitchPanes, AreAddedLastWithStyleAndToolTipAndRemoved) {
   Probe<TaKhsKsj123> fill;
   Probe<TBaseLinePane> base;
   fill.Init(true);
@@ -58,7 +58,7 @@ TEST_F(SwitchPanes, ComeBehindTheOthersWithStyleAndToolTipAndGoAgain) {
   EXPECT_EQ(Bar().GetPaneCount(), 1) << "gone already";
 }
 
-TEST_F(SwitchPanes, ComeWithTheOffIconEvenWhenOn) {
+TEST_F(SwitchPanes, AreAddedWithTheOffIconEvenWhenOn) {
   Probe<TaKhsKsj123> fill;
   fill.Init(true);
   EXPECT_TRUE(fill.IsOn());
@@ -67,7 +67,7 @@ TEST_F(SwitchPanes, ComeWithTheOffIconEvenWhenOn) {
   EXPECT_EQ(fill.GetIcon(), qvx::PaneIcon(57636));
 }
 
-TEST_F(SwitchPanes, GroupingComesWithTheIconOfItsState) {
+TEST_F(SwitchPanes, GroupingIsAddedWithTheIconOfItsState) {
   Probe<TMakeGroupPane> group;
   group.Init(true);
   EXPECT_EQ(group.GetIcon(), qvx::PaneIcon(57628));
@@ -77,7 +77,7 @@ TEST_F(SwitchPanes, GroupingComesWithTheIconOfItsState) {
   EXPECT_EQ(group.GetIcon(), qvx::PaneIcon(57627));
 }
 
-TEST_F(SwitchPanes, PickStyleIsBroughtInLineWhenGroupingComesAndWhenItGoes) {
+TEST_F(SwitchPanes, PickStyleIsUpdatedWhenGroupingIsAddedAndRemoved) {
   Probe<TMakeGroupPane> group;
   const struct {
     const wchar_t* before;
@@ -93,7 +93,7 @@ TEST_F(SwitchPanes, PickStyleIsBroughtInLineWhenGroupingComesAndWhenItGoes) {
     }
 }
 
-TEST_F(SwitchPanes, AClickOnFillTurnsTheIconThenTheStateThenTheStyle) {
+TEST_F(SwitchPanes, AClickOnFillChangesTheIconThenTheStateThenTheStyle) {
   Probe<TaKhsKsj123> fill;
   fill.Init(true);
   fill.icons.clear();
@@ -126,7 +126,7 @@ TEST_F(SwitchPanes, AClickOnFillDuringACommandOnlySetsTheStyleAgain) {
   EXPECT_EQ(fill.GetStyle(), 8);
 }
 
-TEST_F(SwitchPanes, BoldDoesAsFillDoes) {
+TEST_F(SwitchPanes, BoldBehavesAsFill) {
   Probe<TBoldLinePane> bold;
   bold.Init(true);
   bold.OnLButtonDown(0, kAnywhere);
@@ -141,7 +141,7 @@ TEST_F(SwitchPanes, BoldDoesAsFillDoes) {
   EXPECT_EQ(bold.GetIcon(), qvx::PaneIcon(57633));
 }
 
-TEST_F(SwitchPanes, AClickOnTheBaseLineDuringACommandTurnsTheIconAndNotTheState) {
+TEST_F(SwitchPanes, AClickOnTheBaseLineDuringACommandChangesTheIconButNotTheState) {
   Probe<TBaseLinePane> base;
   base.Init(true);
   ViewWaitsForPaint();
@@ -159,7 +159,7 @@ TEST_F(SwitchPanes, AClickOnTheBaseLineDuringACommandTurnsTheIconAndNotTheState)
   EXPECT_TRUE(ViewWaitsForPaint());
 }
 
-TEST_F(SwitchPanes, DynamicDimensionsFlipAndSaySo) {
+TEST_F(SwitchPanes, DynamicDimensionsToggleAndPrintTheState) {
   Probe<TDynDimPane> dynDim;
   dynDim.Init(true);
   dynDim.OnLButtonDown(0, kAnywhere);
@@ -182,7 +182,7 @@ TEST_F(SwitchPanes, AnyOtherValueOfASwitchIsOff) {
   EXPECT_EQ(g_bDynamicCoord, 1);
 }
 
-TEST_F(SwitchPanes, GroupingFlipsWithPickStyleAlsoDuringACommand) {
+TEST_F(SwitchPanes, GroupingTogglesWithPickStyleAlsoDuringACommand) {
   Probe<TMakeGroupPane> group;
   group.Init(true);
   SetVariable(L"PICKSTYLE", L"3");
@@ -200,14 +200,14 @@ TEST_F(SwitchPanes, GroupingFlipsWithPickStyleAlsoDuringACommand) {
   EXPECT_EQ(printed[1], "<编组启动>");
 }
 
-TEST_F(SwitchPanes, ASecondPressOfADoubleClickIsASecondFlip) {
+TEST_F(SwitchPanes, ADoubleClickTogglesTwice) {
   Probe<TDynDimPane> dynDim;
   dynDim.OnLButtonDown(0, kAnywhere);
   dynDim.OnLButtonDblClk(0, kAnywhere);
   EXPECT_EQ(g_bDynamicCoord, 1);
 }
 
-TEST_F(SwitchPanes, TheMenuFitsTheStateAndEitherLiveLineFlips) {
+TEST_F(SwitchPanes, TheMenuFitsTheStateAndTheEnabledLineToggles) {
   Probe<TDynDimPane> dynDim;
   dynDim.choice = 40216;
   dynDim.OnRButtonDown(0, kAnywhere);
@@ -223,7 +223,7 @@ TEST_F(SwitchPanes, TheMenuFitsTheStateAndEitherLiveLineFlips) {
   EXPECT_EQ(dynDim.GetStyle(), 8);
 }
 
-TEST_F(SwitchPanes, LeavingTheMenuChangesNothing) {
+TEST_F(SwitchPanes, CancellingTheMenuChangesNothing) {
   Probe<TaKhsKsj123> fill;
   fill.OnRButtonDown(0, kAnywhere);
   EXPECT_EQ(fill.lines.size(), 4u);
@@ -231,7 +231,7 @@ TEST_F(SwitchPanes, LeavingTheMenuChangesNothing) {
   EXPECT_TRUE(Journal("sent").empty());
 }
 
-TEST_F(SwitchPanes, EachMenuIsGoneAfterItsChoice) {
+TEST_F(SwitchPanes, EachMenuIsDestroyedAfterItsChoice) {
   Probe<TaKhsKsj123> fill;
   for (int i = 0; i < 1000; ++i) {
     fill.choice = i % 3 ? 0 : 40215;
@@ -289,7 +289,7 @@ TEST_F(SwitchPanes, ACopyHasHostPartsToolTipAndRefresh) {
   EXPECT_STREQ(text.GetString(), L"text");
 }
 
-TEST_F(SwitchPanes, AClickRefreshesTheScreenMenuOnlyForPanesThatAsk) {
+TEST_F(SwitchPanes, AClickRefreshesTheScreenMenuOnlyForPanesWithTheFlag) {
   g_refreshed = 0;
   SetPaneMenuRefresh([] { ++g_refreshed; });
   OwnPane pane;
@@ -316,7 +316,7 @@ TEST_F(SwitchPanes, AreOffWithoutADrawing) {
   EXPECT_FALSE(fill.IsOn());
 }
 
-TEST_F(SwitchPanes, UpdateShowsWhatChangedBehindTheirBack) {
+TEST_F(SwitchPanes, UpdateShowsAStateThatWasChangedByOtherMeans) {
   for (const qvx::SwitchPane pane : {qvx::SwitchPane::kMakeGroup, qvx::SwitchPane::kDynDim,
                                      qvx::SwitchPane::kFill, qvx::SwitchPane::kBaseLine})
     InitStatusPane(pane, true);
@@ -353,7 +353,7 @@ TEST_F(SwitchPanes, FollowTheDrawingThatIsRefreshed) {
   EXPECT_EQ(ShownPanes()[0].icon, 57635);
 }
 
-TEST_F(SwitchPanes, DynamicInputIsATextPaneOfOldHosts) {
+TEST_F(SwitchPanes, DynamicInputIsATextPaneOnOldHosts) {
   const double release = g_dHostVersion;
   g_dHostVersion = 24.0;
   Probe<TDynPane> dyn;
@@ -377,7 +377,7 @@ TEST_F(SwitchPanes, DynamicInputIsATextPaneOfOldHosts) {
   g_dHostVersion = release;
 }
 
-TEST_F(SwitchPanes, APressOnTheBarReachesThePaneUnderIt) {
+TEST_F(SwitchPanes, AClickOnTheBarReachesThePaneUnderIt) {
   InitStatusPane(qvx::SwitchPane::kDynDim, true);
   InitStatusPane(qvx::SwitchPane::kMakeGroup, true);
   RECT rect{};
@@ -388,7 +388,7 @@ TEST_F(SwitchPanes, APressOnTheBarReachesThePaneUnderIt) {
   EXPECT_EQ(g_bDynamicCoord, 1);
 }
 
-TEST_F(SwitchPanes, TheRealMenuOpensAtThePaneAndIsWorkedByKeys) {
+TEST_F(SwitchPanes, TheRealMenuOpensAtThePaneAndIsOperatedByKeys) {
   InitStatusPane(qvx::SwitchPane::kDynDim, true);
   RECT rect{};
   ASSERT_TRUE(Bar().GetRect(&StatusPaneOf(qvx::SwitchPane::kDynDim), rect));
