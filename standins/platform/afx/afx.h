@@ -1,5 +1,5 @@
-// The class library's ground floor: run-time classes, strings, exceptions, files, archives and
-// collections. Needs no window and builds everywhere; afxwin.h stands on it.
+// The class library without windows: run-time classes, strings, exceptions, files, archives and
+// collections. Builds on every platform; afxwin.h is based on it.
 #pragma once
 
 #define __AFX_H__
@@ -38,8 +38,8 @@ using LPCVOID = const void*;
 #define BASED_CODE
 #define afx_msg
 
-// Checks of the programmer's own assumptions. They stop a debug build and cost nothing otherwise;
-// VERIFY always evaluates.
+// Checks of program invariants. They stop a debug build and are removed from others; VERIFY
+// always evaluates its argument.
 #ifndef ASSERT
 #ifdef _DEBUG
 #define ASSERT(condition) \
@@ -91,7 +91,7 @@ struct CRuntimeClass {
 #define DECLARE_DYNCREATE(class_name)                          \
   DECLARE_DYNAMIC(class_name)                                  \
   static CObject* CreateObject();
-// Objects of a serial class are written field by field; the object table of archives is not offered.
+// Objects of a serial class are written member by member; archives have no object table.
 #define DECLARE_SERIAL(class_name) DECLARE_DYNCREATE(class_name)
 
 #define AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_name, schema, create)                       \
@@ -110,7 +110,7 @@ struct CRuntimeClass {
   AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_name, schema, &class_name::CreateObject)
 // clang-format on
 
-// The root. The five virtual functions stand in this order.
+// The root class. Its five virtual functions have the published order.
 class CObject {
  public:
   virtual CRuntimeClass* GetRuntimeClass() const;
@@ -144,9 +144,9 @@ class CException : public CObject {
   DECLARE_DYNAMIC(CException)
  public:
   explicit CException(BOOL autoDelete = TRUE) : m_bAutoDelete(autoDelete) {}
-  // Frees the object unless it belongs to the library.
+  // Frees the object unless the library owns it.
   void Delete();
-  // A short text for the user. False, and an empty text, when the exception has none.
+  // A short text for the user. FALSE and an empty text if the exception has none.
   virtual BOOL GetErrorMessage(LPTSTR text, UINT capacity, UINT* helpContext = nullptr) const;
 
  protected:
@@ -199,7 +199,7 @@ class CFileException : public CException {
   [[noreturn]] static void ThrowOsError(LONG osError, LPCTSTR fileName = nullptr);
 
   int m_cause;
-  LONG m_lOsError;  // the system's own number: GetLastError on Windows, errno elsewhere
+  LONG m_lOsError;  // system error number: GetLastError on Windows, errno elsewhere
   CString m_strFileName;
 };
 
@@ -264,7 +264,7 @@ class CFile : public CObject {
   CFile(LPCTSTR path, UINT openFlags);  // throws CFileException
   ~CFile() override;
 
-  // False, and the reason in `error` when one is given, if the file can't be opened.
+  // FALSE if the file can't be opened; `error`, if given, receives the reason.
   virtual BOOL Open(LPCTSTR path, UINT openFlags, CFileException* error = nullptr);
   virtual ULONGLONG GetPosition() const;
   virtual ULONGLONG Seek(LONGLONG offset, UINT from);
@@ -274,7 +274,7 @@ class CFile : public CObject {
   virtual void Write(const void* buffer, UINT count);
   virtual void Flush();
   virtual void Close();
-  virtual void Abort();  // closes and throws nothing
+  virtual void Abort();  // closes without throwing
   virtual CString GetFilePath() const { return m_strFileName; }
   virtual CString GetFileName() const;
 
@@ -290,7 +290,7 @@ class CFile : public CObject {
   CString m_strFileName;
 };
 
-// A file in memory that grows as it is written. Given bytes are copied.
+// A file in memory that grows as it is written. Attached bytes are copied.
 class CMemFile : public CFile {
   DECLARE_DYNAMIC(CMemFile)
  public:
@@ -313,8 +313,8 @@ class CMemFile : public CFile {
   ULONGLONG m_position = 0;
 };
 
-// Lines of narrow text. Reading takes the line end away, both forms; writing in text mode makes
-// CR LF out of every LF.
+// Lines of narrow text. Reading removes the line end, LF or CR LF; writing in text
+// mode converts LF to CR LF.
 class CStdioFile : public CFile {
   DECLARE_DYNAMIC(CStdioFile)
  public:
@@ -331,7 +331,7 @@ class CStdioFile : public CFile {
 
  private:
   bool Fill();
-  std::string m_ahead;  // read from the file and not yet handed out
+  std::string m_ahead;  // read, not yet returned
   std::size_t m_taken = 0;
   bool m_text = true;
 };
@@ -342,10 +342,9 @@ class CArchive {
  public:
   enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2, bNoByteSwap = 4 };
 
-  // The file stays the caller's and must outlive the archive.
+  // The file is not owned and must outlive the archive.
   CArchive(CFile* file, UINT mode, int bufferSize = 4096, void* buffer = nullptr);
-  // Writes what is left. A failure then has nobody to go to and is dropped: whoever cares calls
-  // Close first.
+  // Writes the rest of the buffer. Errors are ignored here: call Close first to receive them.
   ~CArchive();
   CArchive(const CArchive&) = delete;
   CArchive& operator=(const CArchive&) = delete;
@@ -357,7 +356,7 @@ class CArchive {
   UINT Read(void* buffer, UINT count);  // fewer at the end of the file
   void Write(const void* buffer, UINT count);
   void EnsureRead(void* buffer, UINT count);  // throws endOfFile when fewer are left
-  ULONGLONG BytesLeft() const;                // of the file, while loading
+  ULONGLONG BytesLeft() const;                // in the file, while loading
   void Flush();
   void Close();
   void Abort();
@@ -390,8 +389,8 @@ class CArchive {
   CArchive& operator>>(double& value);
   CArchive& operator>>(CStringW& text);
   CArchive& operator>>(CStringA& text);
-#ifdef _WIN32  // LONG and DWORD are types of their own there; elsewhere long has 64 bits and is
-               // refused
+// LONG and DWORD are distinct types on Windows; elsewhere long has 64 bits and is not offered.
+#ifdef _WIN32
   CArchive& operator<<(long value) { return *this << static_cast<int>(value); }
   CArchive& operator<<(unsigned long value) { return *this << static_cast<unsigned>(value); }
   CArchive& operator>>(long& value) { return *this >> reinterpret_cast<int&>(value); }
@@ -416,7 +415,7 @@ class CArchive {
   std::size_t m_size;
   std::unique_ptr<BYTE[]> m_buffer;
   std::size_t m_at = 0;   // next byte to read or to write
-  std::size_t m_end = 0;  // end of what was read
+  std::size_t m_end = 0;  // end of the data read
 };
 
 #include "afxcoll.h"

@@ -1,5 +1,5 @@
-// Classes over the common controls that this system uses: image list, tool tip and spin button.
-// Published header; included by who uses them. Windows only.
+// Classes over the common controls: image list, tool tip and spin button. Include it where
+// they are used. Windows only.
 #pragma once
 
 #include "afxwin.h"
@@ -39,8 +39,8 @@ class CToolTipCtrl : public CWnd {
   using CWnd::Create;
   virtual BOOL Create(CWnd* pParentWnd, DWORD dwStyle = 0);
   void Activate(BOOL bActivate) { SendMessage(TTM_ACTIVATE, bActivate); }
-  // The whole window when nIDTool is 0, else the rectangle in its client area. The text callback
-  // asks the window by TTN_NEEDTEXT.
+  // The tool is the whole window if nIDTool is 0, else the rectangle in its client area.
+  // LPSTR_TEXTCALLBACK makes the control request the text by TTN_NEEDTEXT.
   BOOL AddTool(CWnd* pWnd, LPCTSTR lpszText = LPSTR_TEXTCALLBACK, LPCRECT lpRectTool = nullptr,
                UINT_PTR nIDTool = 0);
   BOOL AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool = nullptr, UINT_PTR nIDTool = 0);
@@ -83,7 +83,7 @@ class CSpinButtonCtrl : public CWnd {
     SendMessage(UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower), reinterpret_cast<LPARAM>(&upper));
   }
   int SetPos(int nPos) { return short(LOWORD(SendMessage(UDM_SETPOS, 0, MAKELPARAM(nPos, 0)))); }
-  // The position in the low word; the high word is not 0 when the buddy's text is no number.
+  // The position in the low word; the high word is not 0 if the buddy's text is no number.
   int GetPos() const { return int(SendMessage(UDM_GETPOS)); }
   CWnd* SetBuddy(CWnd* pWndBuddy) {
     return FromHandle(reinterpret_cast<HWND>(SendMessage(

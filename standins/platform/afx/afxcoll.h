@@ -1,5 +1,5 @@
-// The ready-made collections of strings, pointers, objects and numbers, each the template of
-// afxtempl.h for one element type.
+// The collections of strings, pointers, objects and numbers: instances of the
+// templates in afxtempl.h.
 #pragma once
 
 #include "afxtempl.h"

@@ -1,16 +1,15 @@
 // CControlBar: a strip along an edge of a frame, or a bar that docks and floats. Bars take their
-// room in the frame's layout pass (WM_SIZEPARENT); what a bar measures comes from CalcFixedLayout
-// alone. Included by afxwin.h through afxframe.h; including this file by itself gives the whole of
-// it too.
+// strip in the frame's layout pass (WM_SIZEPARENT); CalcFixedLayout alone measures a bar. Included
+// by afxwin.h through afxframe.h; can be included on its own.
 //
-// Not here: tool bars, dialog bars, splitters, in-place editing, printing of bars.
+// Not offered: tool bars, dialog bars, splitters, in-place editing, printing of bars.
 #pragma once
 
 #define __AFXEXT_H__
 
 #include "afxwin.h"
 
-// Where a bar stands, which lines it draws, how it behaves: the low word of m_dwStyle.
+// Side, border lines and behaviour of a bar: the low word of m_dwStyle.
 #define CBRS_FLOATING 0x0001L
 #define CBRS_SIZE_FIXED 0x0002L
 #define CBRS_SIZE_DYNAMIC 0x0004L
@@ -34,14 +33,14 @@
 #define CBRS_ORIENT_VERT (CBRS_ALIGN_LEFT | CBRS_ALIGN_RIGHT)
 #define CBRS_ORIENT_ANY (CBRS_ORIENT_HORZ | CBRS_ORIENT_VERT)
 #define CBRS_ALL 0x0040FFFFL
-// A side together with the line towards the middle of the frame.
+// A side with the line towards the middle of the frame.
 #define CBRS_NOALIGN 0x00000000L
 #define CBRS_LEFT (CBRS_ALIGN_LEFT | CBRS_BORDER_RIGHT)
 #define CBRS_TOP (CBRS_ALIGN_TOP | CBRS_BORDER_BOTTOM)
 #define CBRS_RIGHT (CBRS_ALIGN_RIGHT | CBRS_BORDER_LEFT)
 #define CBRS_BOTTOM (CBRS_ALIGN_BOTTOM | CBRS_BORDER_TOP)
 
-// What CalcDynamicLayout is asked for.
+// Modes of CalcDynamicLayout.
 #define LM_STRETCH 0x01
 #define LM_HORZ 0x02
 #define LM_MRUWIDTH 0x04
@@ -62,7 +61,7 @@ class CControlBar : public CWnd {
  public:
   ~CControlBar() override;
 
-  // A measure of 32767 along the bar means "as long as there is room".
+  // A length of 32767 along the bar means "all available room".
   virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
   virtual CSize CalcDynamicLayout(int nLength, DWORD nMode);
   virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) = 0;
@@ -70,8 +69,7 @@ class CControlBar : public CWnd {
   int GetCount() const { return m_nCount; }
   DWORD GetBarStyle() const { return m_dwStyle; }
   void SetBarStyle(DWORD dwStyle);
-  // Room inside the bar, beyond the lines it draws. The defaults are 6 left and right, 1 top and
-  // bottom.
+  // Margins inside the border lines; by default 6 left and right, 1 top and bottom.
   CRect GetBorders() const {
     return CRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder);
   }
@@ -80,15 +78,15 @@ class CControlBar : public CWnd {
     SetBorders(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
   }
 
-  // Makes the bar dockable on the given sides (CBRS_ALIGN_...). From then on its notifications go
-  // to the window that was its parent at this call, wherever the bar is moved to.
+  // Allows docking on the given sides (CBRS_ALIGN_...). From then on the bar's notifications go to
+  // its parent at this call, whatever its later parent.
   void EnableDocking(DWORD dwDockStyle);
   BOOL IsFloating() const;
   BOOL IsDocked() const { return m_pDockBar && !IsFloating(); }
   CFrameWnd* GetDockingFrame() const;
 
-  // Shown or hidden at the next idle time or layout pass, whichever comes first. IsVisible answers
-  // what then will be; the WS_VISIBLE bit of the window what is.
+  // Shows or hides at the next idle time or layout pass, whichever is first. IsVisible returns the
+  // pending state, the WS_VISIBLE bit of the window the current one.
   virtual void DelayShow(BOOL bShow);
   virtual BOOL IsVisible() const;
   virtual BOOL IsDockBar() const { return FALSE; }
@@ -99,28 +97,29 @@ class CControlBar : public CWnd {
   BOOL DestroyWindow() override;
   void PostNcDestroy() override;
 
-  // Cuts the lines and the borders off rect; bHorz FALSE turns the borders with the bar.
+  // Removes border lines and margins from rect; bHorz FALSE turns the margins with the bar.
   virtual void CalcInsideRect(CRect& rect, BOOL bHorz) const;
   virtual void DoPaint(CDC* pDC);
   void DrawBorders(CDC* pDC, CRect& rect);
-  void EraseNonClient();  // fills the lines' room outside the client area, nothing else
+  void EraseNonClient();  // fills the border area outside the client area
   virtual void OnBarStyleChange(DWORD, DWORD) {}
-  // A bar that fills the length of its row in a dock bar and can be made wider at its inner edge,
-  // as palettes are. A dock bar leaves a strip beside such a row, where the edge is taken hold of.
+  // TRUE for a bar that fills its row in a dock bar and can be resized at its inner edge, as
+  // palettes do. The dock bar reserves a strip beside such a row for dragging the edge.
   virtual BOOL FillsDockRow() const { return FALSE; }
-  // The user has pulled the inner edge of a docked bar that fills its row; cx or cy counts.
+  // Called after the user has dragged the inner edge of a docked bar that fills
+  // its row; cx or cy is used.
   virtual void SetDockedSize(CSize) {}
-  // Least size of the client area while the bar floats.
+  // Minimum client size while the bar floats.
   virtual CSize FloatingMinimum() { return CSize(0, 0); }
-  // The close box of the floating frame; FALSE keeps the bar.
+  // Called for the close box of the floating frame; FALSE keeps the bar open.
   virtual BOOL OnCloseFloating() { return TRUE; }
 
-  BOOL m_bAutoDelete = FALSE;  // delete the object together with its window
+  BOOL m_bAutoDelete = FALSE;  // delete the object with its window
   DWORD m_dwStyle = 0;
-  DWORD m_dwDockStyle = 0;                 // sides that EnableDocking allowed
-  CFrameWnd* m_pDockSite = nullptr;        // the frame it belongs to, docked or floating
-  CDockBar* m_pDockBar = nullptr;          // where it is now; a floating bar is in one of its own
-  CDockContext* m_pDockContext = nullptr;  // owned; there from EnableDocking on
+  DWORD m_dwDockStyle = 0;           // sides that EnableDocking allows
+  CFrameWnd* m_pDockSite = nullptr;  // the frame it belongs to, docked or floating
+  CDockBar* m_pDockBar = nullptr;  // the dock bar that contains it; one of its own while it floats
+  CDockContext* m_pDockContext = nullptr;  // owned; exists after EnableDocking
   int m_nCount = 0;
   void* m_pData = nullptr;
 

@@ -1,7 +1,7 @@
 // Frame windows: CFrameWnd with its layout pass and its list of control bars, the MDI frame and
-// child, and the small frame. Included by afxwin.h; don't include this one directly.
+// child, and the small frame. Included by afxwin.h; do not include it directly.
 //
-// Not here: documents and views, print preview, context help, the automatic greying of menu rows.
+// Not offered: documents and views, print preview, context help, automatic greying of menu rows.
 #pragma once
 
 class CDockBar;
@@ -10,11 +10,10 @@ class CControlBar;
 #define FWS_ADDTOTITLE 0x00008000L
 #define FWS_PREFIXTITLE 0x00004000L
 
-// Sizes and positions left to Windows.
 class CFrameWnd : public CWnd {
   DECLARE_DYNCREATE(CFrameWnd)
  public:
-  static const CRect rectDefault;
+  static const CRect rectDefault;  // size and position chosen by Windows
 
   CFrameWnd() = default;
   ~CFrameWnd() override;
@@ -23,7 +22,7 @@ class CFrameWnd : public CWnd {
               const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr,
               LPCTSTR lpszMenuName = nullptr, DWORD dwExStyle = 0, void* pContext = nullptr);
   using CWnd::Create;
-  // Menu, accelerators, icon and title (string) of one number.
+  // Menu, accelerators, icon and title (string) with one resource number.
   virtual BOOL LoadFrame(UINT nIDResource,
                          DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
                          CWnd* pParentWnd = nullptr, void* pContext = nullptr);
@@ -39,22 +38,22 @@ class CFrameWnd : public CWnd {
   virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
   void UpdateFrameTitleForDocument(LPCTSTR lpszDocName);
 
-  // --- message line: the text goes to the bar with the identifier AFX_IDW_STATUS_BAR
+  // --- message line: shown by the bar with the identifier AFX_IDW_STATUS_BAR
   void SetMessageText(LPCTSTR lpszText);
   void SetMessageText(UINT nID);
   virtual CWnd* GetMessageBar();
   virtual void GetMessageString(UINT nID, CString& rMessage) const;
 
-  // --- layout. Bars with an alignment take their strips in Z order, dock bars among them; the
-  // child AFX_IDW_PANE_FIRST gets what is left.
+  // --- layout. Bars with an alignment, dock bars among them, take their strips in Z order; the
+  // child AFX_IDW_PANE_FIRST gets the rest.
   virtual void RecalcLayout(BOOL bNotify = TRUE);
   void DelayRecalcLayout(BOOL bNotify = TRUE);
   enum IdleFlags { idleMenu = 1, idleTitle = 2, idleNotify = 4, idleLayout = 8 };
 
   // --- control bars
-  void EnableDocking(DWORD dwDockStyle);  // makes the dock bars of these sides
-  // Identifier 0 takes the side of the bar's own style. The rectangle is in screen coordinates and
-  // says where in the dock bar; without it the bar gets a row of its own at the inner end.
+  void EnableDocking(DWORD dwDockStyle);  // creates the dock bars of these sides
+  // Identifier 0 uses the side of the bar's own style. The rectangle, in screen coordinates, is the
+  // position in the dock bar; without it the bar gets a row of its own at the inner end.
   void DockControlBar(CControlBar* pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
   void DockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lpRect = nullptr);
   CFrameWnd* FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle = 0x2000L);
@@ -63,30 +62,30 @@ class CFrameWnd : public CWnd {
   void AddControlBar(CControlBar* pBar);
   void RemoveControlBar(CControlBar* pBar);
   CDockBar* GetDockBar(UINT nDockBarID) const;
-  // Sides (CBRS_ALIGN_...) on which the bar would dock if dropped at the screen point; 0: none.
+  // The sides (CBRS_ALIGN_...) on which the bar would dock if dropped at the screen point; 0: none.
   DWORD CanDock(CPoint ptScreen, DWORD dwDockStyle, CDockBar** ppDockBar = nullptr);
   CDockBar* FirstDockBar(
-      DWORD dwDockStyle) const;  // of the sides given, in the order left to bottom
-  CRect DockArea() const;        // on the screen: the dock bars and what they surround
+      DWORD dwDockStyle) const;  // of the given sides, in the order left to bottom
+  CRect DockArea() const;        // screen rectangle of the dock bars and the area between them
   virtual void DestroyDockBars();
-  CPtrList m_listControlBars;  // every CControlBar that is or was docked here, and the dock bars
+  CPtrList m_listControlBars;  // every CControlBar docked here now or earlier, and the dock bars
 
   // --- window
   BOOL PreCreateWindow(CREATESTRUCT& cs) override;
   BOOL PreTranslateMessage(MSG* pMsg) override;
   BOOL IsFrameWnd() const override { return TRUE; }
-  void PostNcDestroy() override;  // deletes the object: make frames with new
+  void PostNcDestroy() override;  // deletes the object: create frames with new
   BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
   HACCEL GetDefaultAccelerator() const { return m_hAccelTable; }
 
-  BOOL m_bAutoMenuEnable = TRUE;  // kept for callers; rows are never greyed by the frame itself
+  BOOL m_bAutoMenuEnable = TRUE;  // ignored: a frame greys no rows itself
   HMENU m_hMenuDefault = nullptr;
-  HACCEL m_hAccelTable = nullptr;  // a loaded table belongs to the module
+  HACCEL m_hAccelTable = nullptr;  // freed by Windows with its module
   CString m_strTitle;
   UINT m_nIDTracking = 0, m_nIDLastMessage = 0;
   CWnd* m_pViewActive = nullptr;
   CRuntimeClass* m_pFloatingFrameClass = nullptr;
-  int m_nShowDelay = -1;  // SW_ code for the next idle time; -1: none
+  int m_nShowDelay = -1;  // SW_ code to apply at the next idle time; -1: none
   UINT m_nIdleFlags = 0;
   CRect m_rectBorder;
   BOOL m_bInRecalcLayout = FALSE;
@@ -136,8 +135,8 @@ class CMDIFrameWnd : public CFrameWnd {
   }
   CMenu* MDISetMenu(CMenu* pFrameMenu, CMenu* pWindowMenu);
 
-  // The MDI area; the children's rows are added to the window menu. Called when the frame is made,
-  // unless OnCreateClient is overridden.
+  // The MDI area; Windows adds the children's rows to the window menu. Called when the frame is
+  // created, unless OnCreateClient is overridden.
   virtual BOOL CreateClient(LPCREATESTRUCT lpCreateStruct, CMenu* pWindowMenu);
   virtual HMENU GetWindowMenuPopup(HMENU hMenuBar);
   CFrameWnd* GetActiveFrame() override;
@@ -185,14 +184,14 @@ class CMDIChildWnd : public CFrameWnd {
   DECLARE_MESSAGE_MAP()
 };
 
-// Styles of a small frame.
+// Styles of a mini frame.
 #define MFS_SYNCACTIVE 0x00000100L
 #define MFS_4THICKFRAME 0x00000200L
 #define MFS_THICKFRAME 0x00000400L
 #define MFS_MOVEFRAME 0x00000800L
 #define MFS_BLOCKSYSMENU 0x00001000L
 
-// A frame with a small caption that floats above its owner and has no button on the task bar.
+// A frame with a small caption that floats above its owner and is not on the task bar.
 class CMiniFrameWnd : public CFrameWnd {
   DECLARE_DYNCREATE(CMiniFrameWnd)
  public:

@@ -1,12 +1,12 @@
-// Message map entries: for every message that a class may name, the signature its handler must
-// have. Each macro checks the handler's type at compile time and stores it with the tag by which
+// Message map entries: for every message that a map can contain, the signature of its handler. Each
+// macro checks the handler's type at compile time and stores it with the tag by which
 // CWnd::OnWndMsg or CCmdTarget::OnCmdMsg calls it. Included by afxwin.h, after CCmdTarget.
 #pragma once
 
 #include <bit>
 
-// How a handler is called: result, then arguments. The names say it as v void, b BOOL, i int, u
-// UINT, l LRESULT, h HBRUSH, D CDC*, W CWnd*, M CMenu*, p CPoint, s structure or text pointer.
+// Types of a handler: result, then arguments. v void, b BOOL, i int, u UINT, l LRESULT, h HBRUSH, D
+// CDC*, W CWnd*, M CMenu*, p CPoint, s pointer to a structure or text.
 enum AfxSig : UINT_PTR {
   AfxSig_end = 0,
   AfxSig_b_D,
@@ -63,8 +63,8 @@ enum AfxSig : UINT_PTR {
   AfxSigNotify_EX,
 };
 
-// All handler pointers are stored as one type. The bits of a pointer to member do not change, and
-// it is called only after being turned back into the type that its tag names.
+// All handler pointers are stored as one type. The cast keeps the bits of a pointer to member, and
+// it is called only after the cast back to the type of its tag.
 template <class Handler>
 AFX_PMSG AfxPackHandler(Handler handler) {
   static_assert(sizeof(Handler) == sizeof(AFX_PMSG));
@@ -191,13 +191,13 @@ AFX_PMSG AfxPackHandler(Handler handler) {
 #define ON_WM_ENTERIDLE() \
   AFX_WND_ENTRY(WM_ENTERIDLE, AfxSig_v_u_W, void (CWnd::*)(UINT, CWnd*), OnEnterIdle)
 
-// Any other message; the handler sees both parameters as they came.
+// Any other message; the handler gets both parameters unchanged.
 #define ON_MESSAGE(message, member) \
   AFX_WND_ENTRY(message, AfxSig_l_w_l, LRESULT (CWnd::*)(WPARAM, LPARAM), member)
 #define ON_MESSAGE_VOID(message, member) \
   AFX_WND_ENTRY(message, AfxSig_v_v, void (CWnd::*)(), member)
 
-// Messages that the parent gives back to the control.
+// Messages that the parent reflects to the control.
 #define ON_WM_CTLCOLOR_REFLECT() \
   AFX_WND_ENTRY(AFX_WM_REFLECT + WM_CTLCOLOR, AfxSig_h_D_u, HBRUSH(CWnd::*)(CDC*, UINT), CtlColor)
 #define ON_WM_HSCROLL_REFLECT()                                                               \

@@ -1,5 +1,5 @@
 // Identifiers shared by resource scripts and code: control bars, dock bars, the frame's standard
-// commands and strings. Preprocessor definitions only, because the resource compiler reads it too.
+// commands and strings. Preprocessor definitions only, for the resource compiler.
 #ifndef AFXRES_H_INCLUDED
 #define AFXRES_H_INCLUDED
 

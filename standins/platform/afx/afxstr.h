@@ -1,6 +1,6 @@
-// CStringW (CString) and CStringA: the class library's strings, and the way between wide text and
-// the ANSI code page. A plain owned buffer: no sharing, no reference counts, so a string may be
-// handed to another thread like any value. Included by afx.h.
+// CStringW (CString) and CStringA: the class library's strings, and the conversion between wide
+// text and the ANSI code page. The buffer is not shared and has no reference count, so a copy can
+// be used in another thread. Included by afx.h.
 #pragma once
 
 #include <compare>
@@ -36,8 +36,8 @@ inline constexpr unsigned AFX_ANSI_PAGE = 0;  // CP_ACP
 inline constexpr unsigned AFX_ANSI_PAGE = 936;
 #endif
 
-// Bytes that are no character of the page become U+FFFD; characters that the page lacks become '?'.
-// Wide text is one UTF-16 unit per wchar_t on every build.
+// Invalid bytes become U+FFFD; characters that are not in the code page become '?'. Wide text is
+// one UTF-16 unit per wchar_t on every build.
 std::wstring AnsiToWide(std::string_view text, unsigned page = AFX_ANSI_PAGE);
 std::string WideToAnsi(std::wstring_view text, unsigned page = AFX_ANSI_PAGE);
 
@@ -50,7 +50,7 @@ class CStringT {
   using PCXSTR = const Char*;
 
   CStringT() = default;
-  CStringT(const Char* text);   // null is empty
+  CStringT(const Char* text);   // null: empty
   CStringT(const YCHAR* text);  // through the ANSI code page
   CStringT(const Char* text, int length);
   CStringT(const YCHAR* text, int length);
@@ -73,7 +73,8 @@ class CStringT {
   void Preallocate(int length);
   const Char* GetString() const { return m_text.c_str(); }
   operator const Char*() const { return m_text.c_str(); }
-  // An index outside the text throws CInvalidArgException; the one at its end gives the terminator.
+  // An index outside the text throws CInvalidArgException; the index of the
+  // end returns the terminator.
   Char GetAt(int index) const;
   void SetAt(int index, Char character);
   template <std::integral Index>
@@ -81,8 +82,8 @@ class CStringT {
     return GetAt(static_cast<int>(index));
   }
 
-  // Room for at least this many characters. The text is valid again after ReleaseBuffer, which
-  // finds the terminator when it is given no length.
+  // Room for at least this many characters. Call ReleaseBuffer before any other use; without a
+  // length it looks for the terminator.
   Char* GetBuffer(int minimum = 0);
   Char* GetBufferSetLength(int length);
   void ReleaseBuffer(int length = -1);
@@ -100,8 +101,8 @@ class CStringT {
   void Append(const Char* text, int length);
   void AppendChar(Char character) { m_text.push_back(character); }
 
-  // Formats as Windows' own wide and narrow functions do: %s is text of this string's width, %S of
-  // the other, %hs narrow, %ls wide; l means 32 bits, ll and I64 64 bits, on every build.
+  // Formats as Windows' own wide and narrow functions: %s is text of this string's width, %S of the
+  // other, %hs narrow, %ls wide; l means 32 bits, ll and I64 64 bits, on every build.
   void Format(const Char* format, ...);
   void FormatV(const Char* format, va_list arguments);
   void AppendFormat(const Char* format, ...);
@@ -112,7 +113,7 @@ class CStringT {
   int Collate(const Char* other) const { return Compare(other); }
   int CollateNoCase(const Char* other) const { return CompareNoCase(other); }
 
-  int Find(Char character, int start = 0) const;  // -1 when there is none
+  int Find(Char character, int start = 0) const;  // -1: not found
   int Find(const Char* text, int start = 0) const;
   int FindOneOf(const Char* characters) const;
   int ReverseFind(Char character) const;
@@ -123,8 +124,8 @@ class CStringT {
   CStringT Mid(int first, int count) const;
   CStringT SpanIncluding(const Char* characters) const;
   CStringT SpanExcluding(const Char* characters) const;
-  // The next piece between any of `separators`, from `start`, which moves on; at the end an empty
-  // string and a start of -1.
+  // Returns the next token between any of `separators`, from `start`, and advances `start`; at the
+  // end an empty string and a start of -1.
   CStringT Tokenize(const Char* separators, int& start) const;
 
   CStringT& MakeUpper();
@@ -147,7 +148,7 @@ class CStringT {
   int Delete(int index, int count = 1);
 
 #ifdef _WIN32
-  // From the current resource module, or from the one given. False leaves the text as it was.
+  // Loads from the current resource module or the given one. FALSE: the text is unchanged.
   BOOL LoadString(UINT id);
   BOOL LoadString(HINSTANCE module, UINT id);
 #endif

@@ -1,4 +1,4 @@
-// CArray, CList and CMap. The elements are values; an index or position that isn't there throws
+// CArray, CList and CMap. The elements are values; an invalid index or position throws
 // CInvalidArgException. Not offered: archives of whole collections.
 #pragma once
 
@@ -43,7 +43,7 @@ class CArray : public CObject {
 
   void SetAtGrow(INT_PTR index, ARG_TYPE item) {
     if (index < 0) AfxThrowInvalidArgException();
-    TYPE copy = TYPE(item);  // the item may lie in this very array, which moves when it grows
+    TYPE copy = TYPE(item);  // `item` may be in this array, which is reallocated
     if (index >= GetSize()) SetSize(index + 1);
     m_items[static_cast<std::size_t>(index)] = std::move(copy);
   }
@@ -100,7 +100,7 @@ class CList : public CObject {
   const TYPE& GetTail() const { return Checked(m_tail)->data; }
   POSITION GetHeadPosition() const { return Position(m_head); }
   POSITION GetTailPosition() const { return Position(m_tail); }
-  // Gives the element at the position and moves the position on; null behind the last.
+  // Returns the element at the position and advances the position; null after the last.
   TYPE& GetNext(POSITION& at) { return Step(at, &CNode::next)->data; }
   const TYPE& GetNext(POSITION& at) const { return Step(at, &CNode::next)->data; }
   TYPE& GetPrev(POSITION& at) { return Step(at, &CNode::previous)->data; }
@@ -169,7 +169,7 @@ class CList : public CObject {
   INT_PTR m_count = 0;
 };
 
-// How keys are spread and compared; a module may specialise both for a key type of its own.
+// Hash and comparison of keys; a module may specialise both for its own key type.
 template <class ARG_KEY>
 UINT HashKey(ARG_KEY key) {
   return static_cast<UINT>(std::hash<std::remove_cvref_t<ARG_KEY>>{}(key));
@@ -237,7 +237,7 @@ class CMap : public CObject {
     m_index.clear();
   }
 
-  // In the order in which the keys came.
+  // In insertion order.
   POSITION GetStartPosition() const { return reinterpret_cast<POSITION>(m_head); }
   void GetNextAssoc(POSITION& at, KEY& key, VALUE& value) const {
     CAssoc* assoc = reinterpret_cast<CAssoc*>(at);

@@ -1,9 +1,9 @@
-// The window half of the class library: what a product file includes to get windows, message maps,
-// menus, device contexts, controls, dialogs, the application object and, last, the frames. The
-// parts stand in headers of their own; include this one only. Windows only.
+// The window part of the class library: windows, message maps, menus, device contexts,
+// controls, dialogs, the application object and frames. The parts have headers of their own;
+// include only this one. Windows only.
 //
-// Not here: documents and views, printing, OLE, help, per-class extra data, states per module.
-// There is one state for the process, and the objects of other threads are kept apart by thread.
+// Not offered: documents and views, printing, OLE, help, per-class extra data, per-module states.
+// The process has one state; the objects of each thread are separate.
 #pragma once
 
 #define __AFXWIN_H__
@@ -12,9 +12,9 @@
 #include <commdlg.h>
 #include <shellapi.h>
 
-// A shorthand of Windows' header that would hide the member of that name.
+// Windows defines it as a macro, which would hide the member function.
 #undef GetNextWindow
-// The one message that stands for all colour queries of controls.
+// One message for all colour queries of controls.
 #define WM_CTLCOLOR 0x0019
 
 #include "afxres.h"

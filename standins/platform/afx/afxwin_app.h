@@ -1,8 +1,8 @@
 // CWinThread and CWinApp: the message pump and the program. Afx functions for the application, the
-// instance and resource handles, the message box, window classes, and the pieces a module (an
+// instance and resource handles, the message box, window classes, and the parts that a module (an
 // extension DLL) uses. Included by afxwin.h.
 //
-// One CWinApp in the process, made by the program; modules in it find it by AfxGetApp.
+// The process has one CWinApp, created by the program; modules get it by AfxGetApp.
 #pragma once
 
 class CWinThread : public CCmdTarget {
@@ -20,13 +20,13 @@ class CWinThread : public CCmdTarget {
   virtual BOOL InitInstance() { return FALSE; }
   virtual int Run();
   virtual BOOL PreTranslateMessage(MSG* pMsg);
-  // One message out of the queue; FALSE at WM_QUIT.
+  // Processes one message of the queue; FALSE at WM_QUIT.
   virtual BOOL PumpMessage();
-  // lCount counts the calls since the last message; FALSE: nothing more to do.
+  // lCount counts the calls since the last message; FALSE: no more idle work.
   virtual BOOL OnIdle(LONG lCount);
   virtual BOOL IsIdleMessage(MSG* pMsg);
   virtual int ExitInstance() { return int(m_msgCur.wParam); }
-  // An exception that left a window procedure; the answer becomes the message's result.
+  // Handles an exception that a message handler threw; returns the message's result.
   virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
   virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
   virtual CWnd* GetMainWnd();
@@ -46,7 +46,7 @@ class CWinApp : public CWinThread {
   LPTSTR m_lpCmdLine = nullptr;
   int m_nCmdShow = SW_SHOWNORMAL;
   CString m_strAppName;
-  LPCTSTR m_pszAppName = nullptr;  // caption of message boxes
+  LPCTSTR m_pszAppName = nullptr;  // title of message boxes
 
   BOOL InitInstance() override { return TRUE; }
   int Run() override;
@@ -55,7 +55,8 @@ class CWinApp : public CWinThread {
   virtual BOOL InitApplication() { return TRUE; }
   virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
   virtual void DoWaitCursor(int nCode);  // 1 begin, -1 end, 0 restore
-  // Disables or enables the main window around a modal dialog; overridden by a host with own rules.
+  // Disables or enables the main window around a modal dialog; overridden by a
+  // host with its own rules.
   virtual void EnableModeless(BOOL) {}
 
   HICON LoadIcon(LPCTSTR lpszResourceName) const;
@@ -89,14 +90,14 @@ LPCTSTR AfxGetAppName();
 HINSTANCE AfxGetInstanceHandle();
 HINSTANCE AfxGetResourceHandle();
 void AfxSetResourceHandle(HINSTANCE hInstResource);
-// The module that holds the resource: the current resource handle's, else the first extension
-// module that has it, else again the current one.
+// The module that contains the resource: the current one, else the first extension module that has
+// it, else the current one again.
 HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
 int AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
-// Before the program object is used. hPrevInstance is always null.
+// Call before the program object is used. hPrevInstance is always null.
 BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
 void AfxWinTerm();
-// The whole life of the program: AfxWinInit, InitInstance, Run or ExitInstance, AfxWinTerm.
+// Runs the program: AfxWinInit, InitInstance, Run or ExitInstance, AfxWinTerm.
 int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
 void AfxPostQuitMessage(int nExitCode);
 BOOL AfxPumpMessage();
@@ -105,13 +106,13 @@ BOOL AfxPreTranslateMessage(MSG* pMsg);
 int AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = UINT(-1));
 
-// The name of a class with these properties, registered if it was not; it lives in static storage
-// until a later call, so use it at once. Throws CResourceException.
+// The name of a class with these properties, registered if necessary. Static storage, overwritten
+// by a later call. Throws CResourceException.
 LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
                             HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 BOOL AfxRegisterClass(WNDCLASS* lpWndClass);
 
-// Temporary objects stay alive while the count is not 0.
+// Temporary objects are kept while the count is not 0.
 void AfxLockTempMaps();
 BOOL AfxUnlockTempMaps(BOOL bDeleteTemps = TRUE);
 // Sends the message to the window and, on the same thread, to nobody else if it was destroyed.
@@ -127,7 +128,7 @@ struct AFX_EXTENSION_MODULE {
 class CDynLinkLibrary : public CCmdTarget {
   DECLARE_DYNAMIC(CDynLinkLibrary)
  public:
-  // Stands in the list in which AfxFindResourceHandle looks, from construction to destruction.
+  // AfxFindResourceHandle searches the module from construction to destruction.
   explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state);
   ~CDynLinkLibrary() override;
   HMODULE m_hModule;
@@ -136,10 +137,9 @@ class CDynLinkLibrary : public CCmdTarget {
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hMod);
 void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state,
-                            BOOL bAll = FALSE);  // frees its CDynLinkLibrary
+                            BOOL bAll = FALSE);  // deletes its CDynLinkLibrary
 
-// There is one state for all modules, so to switch it changes nothing; the scope is kept for
-// sources that name it.
+// Has no effect, since all modules share one state; offered for sources that name it.
 class AFX_MODULE_STATE;
 AFX_MODULE_STATE* AfxGetModuleState();
 inline AFX_MODULE_STATE* AfxGetStaticModuleState() { return AfxGetModuleState(); }

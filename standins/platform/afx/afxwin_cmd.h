@@ -1,27 +1,27 @@
-// CCmdTarget: who can take a command. The tables of a message map, the record that a command search
-// fills, CCmdUI for the state of one menu row or button. Included by afxwin.h.
+// CCmdTarget: base of the classes that handle commands. The tables of a message map, the record of
+// a command search, CCmdUI for the state of one menu row or button. Included by afxwin.h.
 #pragma once
 
-// Codes of a command search beyond the notification codes of controls.
+// Codes of a command search in addition to the notification codes of controls.
 #define CN_COMMAND 0
 #define CN_UPDATE_COMMAND_UI ((UINT)(-1))
-// Added to a message that a parent gives back to the control that sent it.
+// Added to a message that a parent reflects to the control that sent it.
 #define AFX_WM_REFLECT 0xBC00
 
 typedef void (CCmdTarget::*AFX_PMSG)();
 
 struct AFX_MSGMAP_ENTRY {
-  UINT nMessage;  // window message, WM_COMMAND or WM_NOTIFY; reflected ones are higher by
-                  // AFX_WM_REFLECT
-  UINT nCode;     // notification or command code
-  UINT nID;       // first and last identifier, 0 for window messages
+  // Window message, WM_COMMAND or WM_NOTIFY; plus AFX_WM_REFLECT if reflected.
+  UINT nMessage;
+  UINT nCode;  // notification or command code
+  UINT nID;    // first and last identifier, 0 for window messages
   UINT nLastID;
   UINT_PTR nSig;  // an AfxSig; AfxSig_end closes the table
   AFX_PMSG pfn;
 };
 
 struct AFX_MSGMAP {
-  const AFX_MSGMAP* (*pfnGetBaseMap)();  // null in the root's map
+  const AFX_MSGMAP* (*pfnGetBaseMap)();  // returns null in the root's map
   const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
@@ -44,13 +44,13 @@ struct AFX_MSGMAP {
   }
 // clang-format on
 
-// Filled instead of calling the handler when the caller only asks who would take a command.
+// Receives the handler, which is then not called, if the caller only searches for it.
 struct AFX_CMDHANDLERINFO {
   CCmdTarget* pTarget;
   AFX_PMSG pmf;
 };
 
-// What WM_NOTIFY carries through a command search.
+// The data of WM_NOTIFY in a command search.
 struct AFX_NOTIFY {
   LRESULT* pResult;
   NMHDR* pNMHDR;
@@ -61,11 +61,11 @@ class CCmdTarget : public CObject {
  public:
   CCmdTarget() = default;
 
-  // Searches this object's message map and calls the handler found. nCode holds the code in its low
-  // word and the message in its high word (none means WM_COMMAND).
+  // Searches this object's message map and calls the handler found. The low word of nCode is the
+  // code, the high word the message (0 means WM_COMMAND).
   virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
-  // Nested: the wait cursor stays until the last BeginWaitCursor is ended.
+  // Calls nest: the wait cursor is shown until the last BeginWaitCursor is ended.
   void BeginWaitCursor();
   void EndWaitCursor();
   void RestoreWaitCursor();
@@ -75,8 +75,8 @@ class CCmdTarget : public CObject {
   virtual const AFX_MSGMAP* GetMessageMap() const;
 };
 
-// The state of one menu row or control while its owner is asked. The base class serves menus
-// (m_pMenu) and controls (m_pOther); bars with parts of their own derive from it.
+// The state of one menu row or control during an update. The base class serves menus (m_pMenu) and
+// controls (m_pOther); bars with parts of their own derive from it.
 class CCmdUI {
  public:
   CCmdUI();
@@ -97,6 +97,7 @@ class CCmdUI {
   virtual void SetRadio(BOOL bOn = TRUE);
   virtual void SetText(LPCTSTR lpszText);
   void ContinueRouting() { m_bContinueRouting = TRUE; }
-  // Asks the target; a command with no handler at all is disabled if bDisableIfNoHndler.
+  // Updates the state by the target's handler; a command without any handler is
+  // disabled if bDisableIfNoHndler.
   BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
 };

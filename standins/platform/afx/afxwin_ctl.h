@@ -1,5 +1,5 @@
-// The controls that Windows draws: a class each over the published messages. An owner-drawn control
-// draws itself in DrawItem, because its parent gives WM_DRAWITEM back to it. Included by afxwin.h.
+// The standard controls: one class each over the published messages. An owner-drawn control draws
+// itself in DrawItem, because its parent reflects WM_DRAWITEM to it. Included by afxwin.h.
 #pragma once
 
 class CStatic : public CWnd {
@@ -47,7 +47,7 @@ class CButton : public CWnd {
     return reinterpret_cast<HICON>(
         SendMessage(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(hIcon)));
   }
-  // Called for a button of the style BS_OWNERDRAW only; the base draws nothing.
+  // Called only for a button with the style BS_OWNERDRAW; the base draws nothing.
   virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
  protected:
@@ -83,7 +83,7 @@ class CListBox : public CWnd {
         SendMessage(LB_FINDSTRINGEXACT, WPARAM(nIndexStart), reinterpret_cast<LPARAM>(lpszFind)));
   }
   int GetTextLen(int nIndex) const { return int(SendMessage(LB_GETTEXTLEN, WPARAM(nIndex))); }
-  void GetText(int nIndex, CString& rString) const;  // empty for an index out of range
+  void GetText(int nIndex, CString& rString) const;  // empty if the index is out of range
   int SetItemHeight(int nIndex, UINT cyItemHeight) {
     return int(SendMessage(LB_SETITEMHEIGHT, WPARAM(nIndex), LPARAM(cyItemHeight)));
   }
@@ -125,7 +125,7 @@ class CComboBox : public CWnd {
         SendMessage(CB_SELECTSTRING, WPARAM(nStartAfter), reinterpret_cast<LPARAM>(lpszString)));
   }
   int GetLBTextLen(int nIndex) const { return int(SendMessage(CB_GETLBTEXTLEN, WPARAM(nIndex))); }
-  void GetLBText(int nIndex, CString& rString) const;  // empty for an index out of range
+  void GetLBText(int nIndex, CString& rString) const;  // empty if the index is out of range
   virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
   virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
 
@@ -138,7 +138,7 @@ class CEdit : public CWnd {
  public:
   using CWnd::Create;
   virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
-  // Positions count UTF-16 units. The packed form holds 16 bits each and fails past 65535.
+  // Positions count UTF-16 units. The packed form has 16 bits each and fails above 65535.
   DWORD GetSel() const { return DWORD(SendMessage(EM_GETSEL)); }
   void GetSel(int& nStartChar, int& nEndChar) const {
     SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&nStartChar),

@@ -1,8 +1,8 @@
 // CDialog: a window from a dialog template, modal or not, and CDataExchange, the record that
-// carries values between members and controls. Included by afxwin.h.
+// transfers values between members and controls. Included by afxwin.h.
 //
-// A modal dialog runs a loop of this library and not Windows' own, so the thread's
-// PreTranslateMessage and its filters see every message while the dialog is up.
+// A modal dialog runs a loop of this library instead of Windows' own, so the thread's
+// PreTranslateMessage and its filters get every message while the dialog is open.
 #pragma once
 
 class CDataExchange {
@@ -17,7 +17,7 @@ class CDataExchange {
   // The control's window; throws CNotSupportedException if the dialog has no such control.
   HWND PrepareCtrl(int nIDC);
   HWND PrepareEditCtrl(int nIDC);
-  // Puts the focus on the last control prepared and leaves the exchange by CUserException.
+  // Sets the focus to the last control prepared and throws CUserException.
   [[noreturn]] void Fail();
 };
 
@@ -42,7 +42,7 @@ class CDialog : public CWnd {
                               void* lpDialogInit = nullptr);
   virtual BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
                                  void* lpDialogInit = nullptr);
-  // -1 if the dialog could not be made, else what EndDialog was given.
+  // -1 if the dialog could not be created, else the value of EndDialog.
   virtual INT_PTR DoModal();
   void EndDialog(int nResult);
 
@@ -55,7 +55,7 @@ class CDialog : public CWnd {
   void SetDefID(UINT nID) { SendMessage(DM_SETDEFID, nID); }
   DWORD GetDefID() const { return DWORD(SendMessage(DM_GETDEFID)); }
 
-  // TRUE lets Windows put the focus on the first control.
+  // TRUE: Windows sets the focus to the first control.
   virtual BOOL OnInitDialog();
   virtual void OnSetFont(CFont*) {}
   virtual void PreInitDialog() {}
@@ -74,7 +74,7 @@ class CDialog : public CWnd {
   virtual void OnOK();
   virtual void OnCancel();
   BOOL CheckAutoCenter() override;
-  // The window that owns the modal dialog, disabled until PostModal.
+  // Returns the owner of the modal dialog, disabled until PostModal.
   HWND PreModal();
   void PostModal();
   BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst);

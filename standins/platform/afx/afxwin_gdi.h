@@ -1,7 +1,7 @@
-// Graphics objects and device contexts with owners. A CGdiObject deletes its handle, a CDC its
-// context; CClientDC, CWindowDC and CPaintDC give theirs back to the window. SelectObject answers
-// the object selected before, as a temporary one where no lasting object owns the handle. Included
-// by afxwin.h.
+// Owners of graphics objects and device contexts. A CGdiObject deletes its handle, a CDC its
+// context; CClientDC, CWindowDC and CPaintDC release theirs to the window. SelectObject
+// returns the object selected before, a temporary one if no permanent object owns the
+// handle. Included by afxwin.h.
 #pragma once
 
 class CGdiObject : public CObject {
@@ -16,11 +16,11 @@ class CGdiObject : public CObject {
 
   operator HGDIOBJ() const { return m_hObject; }
   HGDIOBJ GetSafeHandle() const { return m_hObject; }
-  // The lasting object of the handle, or a temporary one of the handle's own kind.
+  // The permanent object of the handle, or a temporary one of the handle's type.
   static CGdiObject* FromHandle(HGDIOBJ hObject);
   static CGdiObject* FromHandlePermanent(HGDIOBJ hObject);
   static void DeleteTempMap();
-  // A null handle is refused with FALSE, so a failed creation leaves the object empty.
+  // FALSE for a null handle, so a failed creation leaves the object empty.
   BOOL Attach(HGDIOBJ hObject);
   HGDIOBJ Detach();
   BOOL DeleteObject();
@@ -66,7 +66,7 @@ class CFont : public CGdiObject {
   BOOL CreateFontIndirect(const LOGFONT* lpLogFont) {
     return Attach(::CreateFontIndirect(lpLogFont));
   }
-  // nPointSize counts tenths of a point on the given context, or on the screen.
+  // nPointSize: tenths of a point on the given context, or on the screen.
   BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
   int GetLogFont(LOGFONT* pLogFont) { return ::GetObject(m_hObject, sizeof(LOGFONT), pLogFont); }
   operator HFONT() const { return static_cast<HFONT>(m_hObject); }
@@ -114,8 +114,8 @@ class CRgn : public CGdiObject {
   static CRgn* FromHandle(HRGN hRgn) { return static_cast<CRgn*>(CGdiObject::FromHandle(hRgn)); }
 };
 
-// Drawing goes to m_hDC, questions to m_hAttribDC; they are the same context here, and code that
-// makes them differ (a printing preview) is not served.
+// m_hDC is used for output, m_hAttribDC for queries. They are always the same context here; code
+// that makes them differ (a print preview) is not supported.
 class CDC : public CObject {
   DECLARE_DYNCREATE(CDC)
  public:
@@ -167,7 +167,7 @@ class CDC : public CObject {
     return static_cast<CBitmap*>(SelectGdiObject(m_hDC, Handle(pBitmap)));
   }
   int SelectObject(CRgn* pRgn) { return ::SelectClipRgn(m_hDC, *pRgn); }
-  // Without this one an object of unknown kind would be taken for a handle.
+  // Without this overload an object of the base type would be converted to a handle.
   CGdiObject* SelectObject(CGdiObject* pObject) { return SelectGdiObject(m_hDC, Handle(pObject)); }
   HGDIOBJ SelectObject(HGDIOBJ hObject) { return ::SelectObject(m_hDC, hObject); }
   virtual CGdiObject* SelectStockObject(int nIndex) {
@@ -244,13 +244,14 @@ class CDC : public CObject {
   BOOL PatBlt(int x, int y, int nWidth, int nHeight, DWORD dwRop) {
     return ::PatBlt(m_hDC, x, y, nWidth, nHeight, dwRop);
   }
-  // Fill through the text background: no brush is made. They leave the background colour as it was.
+  // Filled by ExtTextOut with the background colour, without a brush. The
+  // background colour is restored.
   void FillSolidRect(LPCRECT lpRect, COLORREF clr);
   void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
-  // One pixel wide frame: first colour left and top, second right and bottom.
+  // A frame one pixel wide: first colour left and top, second right and bottom.
   void Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight);
   void Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight);
-  // Frame that follows a drag: takes back the last one (null: none) and draws the new.
+  // The frame of a drag: erases the last one (null: none) and draws the new one.
   void DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeLast,
                     CBrush* pBrush = nullptr, CBrush* pBrushLast = nullptr);
   BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) {
@@ -260,7 +261,7 @@ class CDC : public CObject {
     return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
   }
   void DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
-  // A grey checkerboard that belongs to the library: select it, don't delete it.
+  // A grey checkerboard owned by the library: select it, do not delete it.
   static CBrush* GetHalftoneBrush();
 
   // Bitmaps and icons.
@@ -333,7 +334,7 @@ inline BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
 class CClientDC : public CDC {
   DECLARE_DYNAMIC(CClientDC)
  public:
-  explicit CClientDC(CWnd* pWnd);  // null: the whole screen
+  explicit CClientDC(CWnd* pWnd);  // null: the screen
   ~CClientDC() override;
 
  protected:

@@ -1,5 +1,5 @@
-// CMenu: a menu handle with an owner. The object found by a handle is what draws owner-drawn rows,
-// so attached menus stand in a map. The destructor destroys the menu; Detach it where Windows owns
+// CMenu: owner of a menu handle. Owner-drawn rows are drawn by the CMenu of their handle, so
+// attached menus are kept in a map. The destructor destroys the menu; Detach it where Windows owns
 // it. Included by afxwin.h.
 #pragma once
 
@@ -19,13 +19,13 @@ class CMenu : public CObject {
   BOOL LoadMenu(UINT nIDResource) { return LoadMenu(MAKEINTRESOURCE(nIDResource)); }
   BOOL DestroyMenu();
 
-  // A temporary object, if no lasting one is attached; it goes at the next idle time.
+  // A temporary object if no permanent one is attached; deleted at the next idle time.
   static CMenu* FromHandle(HMENU hMenu);
   static CMenu* FromHandlePermanent(HMENU hMenu);
   static void DeleteTempMap();
   BOOL Attach(HMENU hMenu);
   HMENU Detach();
-  HMENU GetSafeHmenu() const { return m_hMenu; }  // not for a null pointer
+  HMENU GetSafeHmenu() const { return m_hMenu; }  // `this` must not be null
   operator HMENU() const { return m_hMenu; }
   BOOL operator==(const CMenu& other) const { return other.m_hMenu == m_hMenu; }
 
@@ -72,8 +72,8 @@ class CMenu : public CObject {
   }
   CMenu* GetSubMenu(int nPos) const { return FromHandle(::GetSubMenu(m_hMenu, nPos)); }
 
-  // Runs the menu's modal loop. While it runs, rows are measured by the menu object that holds the
-  // row's identifier, whichever sub-menu that is.
+  // Runs the menu's modal loop. Meanwhile rows are measured by the menu object that contains the
+  // row's identifier, in whichever sub-menu.
   BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr);
   BOOL TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm);
 

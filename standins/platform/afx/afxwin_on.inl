@@ -1,5 +1,5 @@
-// The handlers of CWnd, one for each message that a map can name: what a derived class calls when it
-// hands a message on. Each runs the default handling. Included inside class CWnd.
+// The handlers of CWnd, one for each message of the maps, for calls by derived classes. Each runs
+// the default handling. Included inside class CWnd.
   afx_msg int OnCreate(LPCREATESTRUCT) { return int(Default()); }
   afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return BOOL(Default()); }
   afx_msg void OnDestroy() { Default(); }
@@ -58,7 +58,7 @@
   afx_msg void OnNcLButtonDblClk(UINT, CPoint) { Default(); }
   afx_msg void OnNcRButtonDown(UINT, CPoint) { Default(); }
   afx_msg void OnNcMouseMove(UINT, CPoint) { Default(); }
-  // Menus are drawn and measured by the menu object of the row, controls by themselves.
+  // Rows are measured and drawn by their menu object, controls by themselves.
   afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
   afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
   afx_msg void OnInitMenu(CMenu*) { Default(); }

@@ -1,9 +1,9 @@
-// CWnd: a window handle with an object behind it. Messages come through AfxWndProc to WindowProc,
-// which searches the message map (OnWndMsg) and falls back to the procedure the window had before
-// it was attached (DefWindowProc). Included by afxwin.h.
+// CWnd: an object for a window handle. Messages go through AfxWndProc to WindowProc, which searches
+// the message map (OnWndMsg) and otherwise calls the procedure that the window had before it was
+// attached (DefWindowProc). Included by afxwin.h.
 //
-// A CWnd whose window still lives destroys it in its destructor; a temporary one, made by
-// FromHandle for a window of somebody else, never does. GetSafeHwnd is not for a null pointer.
+// The destructor destroys a window that still exists, except for a temporary object, which
+// FromHandle creates for a window without one. GetSafeHwnd must not be called on a null pointer.
 #pragma once
 
 // m_nFlags.
@@ -11,7 +11,7 @@
 #define WF_TEMPHIDE 0x0002
 #define WF_STAYDISABLED 0x0004   // re-enabled together with its frame, not before
 #define WF_MODALLOOP 0x0008      // inside RunModalLoop
-#define WF_CONTINUEMODAL 0x0010  // the modal loop is to go on
+#define WF_CONTINUEMODAL 0x0010  // the modal loop continues
 #define WF_STAYACTIVE 0x0020     // title bar looks active although another window is
 #define WF_KEEPMINIACTIVE 0x0040
 
@@ -20,7 +20,7 @@
 #define MLF_NOKICKIDLE 0x0002  // no WM_KICKIDLE for the window
 #define MLF_SHOWONIDLE 0x0004  // show the window at the first idle time
 
-// OnToolHitTest: keep the tip up while the pointer stays on the tool.
+// OnToolHitTest: show the tip while the pointer is on the tool.
 #define TTF_NOTBUTTON 0x80000000L
 #define TTF_ALWAYSTIP 0x40000000L
 
@@ -38,8 +38,8 @@ class CWnd : public CCmdTarget {
   HWND GetSafeHwnd() const { return m_hWnd; }
   operator HWND() const { return m_hWnd; }
   BOOL operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
-  static CWnd* FromHandle(HWND hWnd);           // makes a temporary one where there is none
-  static CWnd* FromHandlePermanent(HWND hWnd);  // null where there is none
+  static CWnd* FromHandle(HWND hWnd);           // creates a temporary one if there is none
+  static CWnd* FromHandlePermanent(HWND hWnd);  // null if there is none
   static void DeleteTempMap();
   BOOL Attach(HWND hWndNew);
   HWND Detach();
@@ -66,7 +66,7 @@ class CWnd : public CCmdTarget {
   DWORD GetExStyle() const { return DWORD(::GetWindowLongPtr(m_hWnd, GWL_EXSTYLE)); }
   static BOOL ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
   BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd,
-                   UINT nFlags = 0);  // nFlags: SWP_ of a following move
+                   UINT nFlags = 0);  // nFlags: SWP_ flags of a following SetWindowPos
   BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
   void SetWindowText(LPCTSTR lpszString) { ::SetWindowText(m_hWnd, lpszString); }
   int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
@@ -98,9 +98,8 @@ class CWnd : public CCmdTarget {
   CWnd* SetParent(CWnd* pWndNewParent) {
     return FromHandle(::SetParent(m_hWnd, pWndNewParent ? pWndNewParent->m_hWnd : nullptr));
   }
-  CWnd* GetOwner() const {  // who gets the notifications: SetOwner's window, else the parent
-    return m_hWndOwner ? FromHandle(m_hWndOwner) : GetParent();
-  }
+  // The window that gets the notifications: that of SetOwner, else the parent.
+  CWnd* GetOwner() const { return m_hWndOwner ? FromHandle(m_hWndOwner) : GetParent(); }
   void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd ? pOwnerWnd->m_hWnd : nullptr; }
   CWnd* GetParentOwner() const;
   CFrameWnd* GetParentFrame() const;
@@ -145,7 +144,7 @@ class CWnd : public CCmdTarget {
     return ::SetWindowPos(m_hWnd, pWndInsertAfter ? pWndInsertAfter->m_hWnd : nullptr, x, y, cx, cy,
                           nFlags);
   }
-  // Places in the Z order for SetWindowPos; no windows.
+  // Positions in the Z order for SetWindowPos; not windows.
   static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
   BOOL BringWindowToTop() { return ::BringWindowToTop(m_hWnd); }
   void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
@@ -167,8 +166,8 @@ class CWnd : public CCmdTarget {
   void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const {
     MapWindowPoints(pwndTo, reinterpret_cast<LPPOINT>(lpRect), 2);
   }
-  // Lets each child in the range of identifiers take its strip and gives the rest to the last one:
-  // whole (reposDefault), less the margins in lpRectParam (reposExtra), or nothing is moved and
+  // Each child in the range of identifiers takes its strip and the last one gets the rest: whole
+  // (reposDefault), less the margins in lpRectParam (reposExtra); or nothing is moved and
   // lpRectParam receives the rest (reposQuery).
   enum RepositionFlags {
     reposDefault = 0,
@@ -233,10 +232,9 @@ class CWnd : public CCmdTarget {
   static void UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
   int SetWindowRgn(HRGN hRgn, BOOL bRedraw) { return ::SetWindowRgn(m_hWnd, hRgn, bRedraw); }
 
-  // --- scrolling. A window with a scroll bar control of its own (GetScrollBarCtrl) is scrolled by
-  // it.
+  // --- scrolling. If GetScrollBarCtrl returns a control, it replaces the window's scroll bar.
   virtual CScrollBar* GetScrollBarCtrl(int) const { return nullptr; }
-  // Moves child windows too; a window that is not visible moves its children only.
+  // Moves child windows too; in a window that is not visible, only the children.
   void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = nullptr,
                     LPCRECT lpClipRect = nullptr);
   int GetScrollPos(int nBar) const;
@@ -282,16 +280,17 @@ class CWnd : public CCmdTarget {
   }
   UINT IsDlgButtonChecked(int nIDButton) const { return ::IsDlgButtonChecked(m_hWnd, nIDButton); }
   BOOL IsDialogMessage(LPMSG lpMsg);
-  // Carries data from the members to the controls (FALSE) or back (TRUE) through DoDataExchange.
-  // FALSE as result: the input was wrong, the user has been told and the control has the focus.
+  // Transfers data from the members to the controls (FALSE) or back (TRUE) through DoDataExchange.
+  // FALSE: the input was invalid, a message was shown and the control has the focus.
   BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
   void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
 
-  // --- tips for parts of a window that are no windows themselves
+  // --- tips for parts of a window that are not windows
   BOOL EnableToolTips(BOOL bEnable = TRUE);
   static void CancelToolTips(BOOL bKeys = FALSE);
-  // Fills pTI for the part under the point and answers its number, or -1. A text in pTI must be
-  // allocated with malloc; it is freed here. LPSTR_TEXTCALLBACK asks by TTN_NEEDTEXT.
+  // Fills pTI for the part under the point and returns its number, or -1. A text in
+  // pTI is allocated with malloc and freed by the caller. LPSTR_TEXTCALLBACK requests
+  // the text by TTN_NEEDTEXT.
   virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
   void FilterToolTipMessage(MSG* pMsg);
 
@@ -320,12 +319,12 @@ class CWnd : public CCmdTarget {
   virtual LRESULT DefWindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam);
   virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
   virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-  // A control sees here what it sent to its parent; TRUE keeps it from the parent.
+  // Called on a control for a message that it sent to its parent; TRUE: the parent does not get it.
   virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
   BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
   virtual void DoDataExchange(CDataExchange*) {}
   virtual BOOL CheckAutoCenter() { return TRUE; }
-  // The present message once more, by the default handling, with its parameters as they came.
+  // Default handling of the current message with its original parameters.
   LRESULT Default();
 
 #include "afxwin_on.inl"
@@ -343,7 +342,7 @@ class CWnd : public CCmdTarget {
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
-// Around a creation: the next window that this thread creates becomes pWnd's. The answer of Unhook
-// is FALSE if the creation ended before it came that far.
+// Around a creation: the next window that this thread creates is attached to pWnd. Unhook returns
+// FALSE if the creation failed before that.
 void AfxHookWindowCreate(CWnd* pWnd);
 BOOL AfxUnhookWindowCreate();

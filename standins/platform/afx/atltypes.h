@@ -1,6 +1,6 @@
-// CSize, CPoint and CRect: the plain structures of Windows with the arithmetic that layout code is
-// written in. Header-only and free of any window call, so both builds use it. Only the operators
-// and members that are called are here; nothing normalises a rectangle behind the caller's back.
+// CSize, CPoint and CRect: the structures of Windows with arithmetic. Header-only and without
+// window calls, so both builds use it. Only the operators and members in use are offered; none
+// normalizes a rectangle implicitly.
 #pragma once
 
 #include "afxv_w32.h"
@@ -14,8 +14,7 @@ class CSize : public SIZE {
   CSize() { cx = cy = 0; }
   CSize(int x, int y) { cx = x, cy = y; }
   CSize(SIZE size) : SIZE(size) {}
-  // Low word is the width, high word the height, both signed: the form in which messages carry
-  // sizes.
+  // Low word width, high word height, both signed: sizes as packed in messages.
   explicit CSize(DWORD packed) {
     cx = static_cast<short>(packed & 0xFFFF), cy = static_cast<short>(packed >> 16);
   }
@@ -34,7 +33,7 @@ class CPoint : public POINT {
   CPoint() { x = y = 0; }
   CPoint(int px, int py) { x = px, y = py; }
   CPoint(POINT point) : POINT(point) {}
-  // Low word x, high word y, both signed: a screen left of the first one has negative coordinates.
+  // Low word x, high word y, both signed: coordinates left of the primary screen are negative.
   explicit CPoint(LPARAM packed) {
     x = static_cast<short>(packed & 0xFFFF), y = static_cast<short>((packed >> 16) & 0xFFFF);
   }
@@ -54,7 +53,7 @@ class CPoint : public POINT {
   CPoint operator-(SIZE o) const { return CPoint(x - o.cx, y - o.cy); }
   CPoint operator+(POINT o) const { return CPoint(x + o.x, y + o.y); }
   CPoint operator-() const { return CPoint(-x, -y); }
-  // The difference of two points is a distance, not a place.
+  // The difference of two points is a size.
   CSize operator-(POINT o) const { return CSize(x - o.x, y - o.y); }
 };
 
@@ -85,7 +84,7 @@ class CRect : public RECT {
 
   bool IsRectEmpty() const { return left >= right || top >= bottom; }
   bool IsRectNull() const { return left == 0 && right == 0 && top == 0 && bottom == 0; }
-  // Right and bottom edge belong to the neighbour.
+  // Right and bottom edge are outside.
   bool PtInRect(POINT p) const { return p.x >= left && p.x < right && p.y >= top && p.y < bottom; }
 
   void SetRect(int l, int t, int r, int b) { left = l, top = t, right = r, bottom = b; }
@@ -113,7 +112,7 @@ class CRect : public RECT {
     if (top > bottom) std::swap(top, bottom);
   }
 
-  // An empty intersection leaves the null rectangle and answers false.
+  // An empty intersection sets the null rectangle and returns false.
   bool IntersectRect(const RECT* a, const RECT* b) {
     CRect r(std::max(a->left, b->left), std::max(a->top, b->top), std::min(a->right, b->right),
             std::min(a->bottom, b->bottom));
@@ -121,7 +120,7 @@ class CRect : public RECT {
     *this = r;
     return !IsRectEmpty();
   }
-  // An empty rectangle adds nothing to a union.
+  // Empty rectangles are ignored.
   bool UnionRect(const RECT* a, const RECT* b) {
     CRect first(a), second(b);
     if (first.IsRectEmpty())

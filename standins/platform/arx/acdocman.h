@@ -36,7 +36,7 @@ class AcApDocumentIterator {
   virtual AcApDocument* document() = 0;
 };
 
-// In slot order; a reactor overrides what it wants to hear.
+// Virtual functions in slot order.
 class AcApDocManagerReactor : public AcRxObject {
  public:
   virtual void documentCreateStarted(AcApDocument*) {}
@@ -66,7 +66,7 @@ class AcApDocManager : public AcRxObject {
   virtual int documentCount() const = 0;
   virtual bool isApplicationContext() const = 0;
   virtual bool isDocumentActivationEnabled() const = 0;
-  virtual AcApDocumentIterator* newAcApDocumentIterator() = 0;  // the caller's
+  virtual AcApDocumentIterator* newAcApDocumentIterator() = 0;  // owned by the caller
   virtual Acad::ErrorStatus appContextOpenDocument(const ACHAR* path) = 0;
   virtual Acad::ErrorStatus appContextNewDocument(const ACHAR* templatePath) = 0;
   virtual Acad::ErrorStatus activateDocument(AcApDocument* document, bool pass = false) = 0;
@@ -76,7 +76,8 @@ class AcApDocManager : public AcRxObject {
                                          const ACHAR* command = nullptr,
                                          const ACHAR* local = nullptr, bool prompt = true) = 0;
   virtual Acad::ErrorStatus unlockDocument(AcApDocument* document) = 0;
-  // The text runs when the document is next ready for input. ESC (27) cancels what runs there.
+  // The text is processed when the document next waits for input. ESC (27)
+  // cancels its running command.
   virtual Acad::ErrorStatus sendStringToExecute(AcApDocument* document, const ACHAR* text,
                                                 bool activate = true, bool wrapUpInactive = false,
                                                 bool echo = true) = 0;

@@ -1,5 +1,5 @@
-// What an entity draws itself with: traits and geometry in world coordinates. Curves that are not
-// offered are drawn as polylines by the entity.
+// Output of an entity's drawing: traits and geometry in world coordinates. An entity draws curves
+// that are not offered here as polylines.
 #pragma once
 
 #include "adsdef.h"
@@ -11,7 +11,7 @@ class AcGiSubEntityTraits {
  public:
   virtual ~AcGiSubEntityTraits() = default;
   virtual void setColor(short index) = 0;   // 1 to 255, 256 by layer, 0 by block
-  virtual void setFilled(bool filled) = 0;  // polygons from now on
+  virtual void setFilled(bool filled) = 0;  // applies to the polygons that follow
 };
 
 class AcGiWorldGeometry {
@@ -23,7 +23,7 @@ class AcGiWorldGeometry {
   // Counter-clockwise from `start` over `sweep` radians.
   virtual bool circularArc(const AcGePoint3d& center, double radius, const AcGeVector3d& normal,
                            const AcGeVector3d& start, double sweep) = 0;
-  // The lower left corner of the text; `direction` gives its rotation.
+  // `position` is the lower left corner of the text; `direction` gives its rotation.
   virtual bool text(const AcGePoint3d& position, const AcGeVector3d& normal,
                     const AcGeVector3d& direction, double height, double width, double oblique,
                     const ACHAR* text) = 0;

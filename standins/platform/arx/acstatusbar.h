@@ -7,11 +7,11 @@
 #error "include afxwin.h first"
 #endif
 
-// What AcPane::SetStyle takes. A pane that stands out is "off", one that is pressed in is "on".
+// Values of AcPane::SetStyle. A raised pane is "off", a pressed one "on".
 enum : int {
   ACSBPS_POPOUT = 2,  // raised
   ACSBPS_NORMAL = 8,  // pressed in
-  ACSBPS_POPUP = 32,  // carries a menu: drawn with a small arrow behind its text
+  ACSBPS_POPUP = 32,  // has a menu: drawn with a small arrow after its text
 };
 
 class AcStatusBarItem : public CObject {
@@ -23,14 +23,14 @@ class AcStatusBarItem : public CObject {
 
   virtual BOOL Enable(BOOL enable);
   virtual BOOL IsEnabled() const;
-  virtual BOOL SetIcon(HICON icon);  // not owned: the module keeps it as long as it is shown
+  virtual BOOL SetIcon(HICON icon);  // not owned; the module keeps it while it is shown
   virtual HICON GetIcon() const;
   virtual BOOL SetToolTipText(LPCTSTR text);
   virtual BOOL GetToolTipText(CString& text) const;
   virtual BOOL SetVisible(BOOL visible);
   virtual BOOL IsVisible() const;
 
-  // Tracks the menu at a point of the bar's client area and gives the chosen command, 0 for none.
+  // Tracks the menu at a point of the bar's client area; returns the chosen command, 0 for none.
   virtual UINT DisplayContextMenu(CMenu& menu, CPoint point);
 
   // Points are in the bar's client coordinates.
@@ -54,7 +54,7 @@ class AcPane : public AcStatusBarItem {
   ~AcPane() override;
 
   virtual int GetMinWidth() const;
-  virtual int SetMinWidth(int width);  // the width before; 0 as wide as the contents
+  virtual int SetMinWidth(int width);  // returns the previous width; 0: as wide as the contents
   virtual int GetMaxWidth() const;
   virtual int SetMaxWidth(int width);  // 0 no limit
   virtual BOOL GetText(CString& text) const;
@@ -62,7 +62,7 @@ class AcPane : public AcStatusBarItem {
   virtual int GetStyle() const;
   virtual BOOL SetStyle(int style);
 
-  // Tracks the menu above the pane itself; the chosen command, 0 for none.
+  // Tracks the menu above the pane itself; returns the chosen command, 0 for none.
   virtual UINT DisplayPopupPaneMenu(CMenu& menu);
 
  private:
@@ -72,13 +72,13 @@ class AcPane : public AcStatusBarItem {
   int m_maxWidth = 0;
 };
 
-// The bar owns no pane: whoever adds one removes it before the pane goes.
+// The bar does not own its panes: remove a pane before it is destroyed.
 class AcApStatusBar {
  public:
   virtual ~AcApStatusBar() = default;
 
   virtual BOOL Insert(int index, AcPane* pane,
-                      BOOL update = TRUE) = 0;  // FALSE: bad index, there twice
+                      BOOL update = TRUE) = 0;  // FALSE: bad index, or added twice
   virtual BOOL Add(AcPane* pane, BOOL update = TRUE) = 0;
   virtual BOOL Remove(AcPane* pane, BOOL update = TRUE) = 0;
   virtual BOOL Remove(int index, BOOL update = TRUE) = 0;
@@ -91,4 +91,4 @@ class AcApStatusBar {
   virtual void Update() = 0;  // measures all panes anew and repaints
 };
 
-AcApStatusBar* acedGetApplicationStatusBar();  // null before the frame is up and after it went
+AcApStatusBar* acedGetApplicationStatusBar();  // null without a frame

@@ -1,4 +1,4 @@
-// CAcUiDialog: the dialog that modules derive theirs from. Included by acui.h.
+// CAcUiDialog: the base class of modules' dialogs. Included by acui.h.
 #pragma once
 
 #include "aduidialog.h"

@@ -1,3 +1,3 @@
-// The result and type codes stand with the types that they describe.
+// The result and type codes are in adsdef.h, with their types.
 #pragma once
 #include "adsdef.h"

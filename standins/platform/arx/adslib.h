@@ -1,14 +1,14 @@
 // The host's C interface: resbuf lists, variables, LISP functions and symbols, user input,
-// selection sets, printing. All on the main thread. Functions answer RTNORM or say with RTERROR,
-// RTCAN or RTREJ that nothing was done. Who makes a resbuf chain releases it with acutRelRb.
+// selection sets, printing. For the main thread. Functions return RTNORM, or RTERROR, RTCAN or
+// RTREJ without an effect. The creator of a resbuf chain releases it with acutRelRb.
 #pragma once
 
 #include "adsdef.h"
 
 // Lists ------------------------------------------------------------------------------------------
-resbuf* acutNewRb(int type);           // zeroed; null when the type is none of RT or DXF's
+resbuf* acutNewRb(int type);           // zeroed; null for a type that is neither RT nor DXF
 int acutRelRb(resbuf* chain);          // strings too; RTERROR for null
-resbuf* acutBuildList(int type, ...);  // type, value, ... ends with RTNONE (or 0 behind a DXF list)
+resbuf* acutBuildList(int type, ...);  // type, value, ... ends with RTNONE (or 0 after a DXF list)
 int acutNewString(const ACHAR* text, ACHAR*& copy);  // released with acutDelString or free
 void acutDelString(ACHAR*& text);
 
@@ -18,7 +18,7 @@ int acedPrompt(const ACHAR* text);
 int acedAlert(const ACHAR* text);
 
 // Variables --------------------------------------------------------------------------------------
-int acedGetVar(const ACHAR* name, resbuf* result);  // a string result is the caller's, to free
+int acedGetVar(const ACHAR* name, resbuf* result);  // the caller frees a string result
 int acedSetVar(const ACHAR* name,
                const resbuf* value);  // RTERROR: unknown; RTREJ: read only, range
 
@@ -26,7 +26,7 @@ int acedSetVar(const ACHAR* name,
 int acedDefun(const ACHAR* name, int code);  // in the current document, for the calling module
 int acedUndef(const ACHAR* name, int code);
 int acedGetFunCode();   // RTERROR outside kInvkSubrMsg
-resbuf* acedGetArgs();  // the caller's to release; null for no arguments
+resbuf* acedGetArgs();  // owned by the caller; null for no arguments
 int acedRetVoid();
 int acedRetNil();
 int acedRetT();
@@ -38,8 +38,8 @@ int acedInvoke(const resbuf* call, resbuf** result);  // first the name, then th
 int acedPutSym(const ACHAR* name, resbuf* value);
 int acedGetSym(const ACHAR* name, resbuf** value);
 
-// Input: inside a command only. RTCAN for Escape, RTNONE for Enter alone, RTKWORD for a keyword
-// -------
+// Input ------------------------------------------------------------------------------------------
+// Inside a command only. RTCAN for Escape, RTNONE for Enter alone, RTKWORD for a keyword.
 int acedInitGet(int flags, const ACHAR* keywords);
 int acedGetPoint(const ads_point base, const ACHAR* prompt, ads_point result);
 int acedGetCorner(const ads_point base, const ACHAR* prompt, ads_point result);
@@ -49,13 +49,13 @@ int acedGetReal(const ACHAR* prompt, ads_real* result);
 int acedGetInt(const ACHAR* prompt, int* result);
 int acedGetString(int blanks, const ACHAR* prompt, ACHAR* result);  // result: 133 characters
 int acedGetKword(const ACHAR* prompt, ACHAR* result);
-int acedGetInput(ACHAR* keyword);  // the keyword behind RTKWORD
+int acedGetInput(ACHAR* keyword);  // the keyword after RTKWORD
 int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point);
 
 // Selection sets ---------------------------------------------------------------------------------
-int acedSSGet(
-    const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
-    ads_name set);  // modes: null (ask, or at the first point), "X", "I", "P", "L", "C", "W", "A"
+// Modes: null (prompt the user, or pick at the first point), "X", "I", "P", "L", "C", "W", "A".
+int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
+              ads_name set);
 int acedSSFree(const ads_name set);
 int acedSSLength(const ads_name set, int* length);
 int acedSSName(const ads_name set, int index, ads_name entity);
@@ -65,7 +65,8 @@ int acedSSMemb(const ads_name entity, const ads_name set);
 int acedSSGetFirst(resbuf** grips, resbuf** pickFirst);
 int acedSSSetFirst(const ads_name pickFirst, const ads_name unused);
 int acedRedraw(const ads_name entity, int mode);  // null entity: everything
-// RTNORM when the text fits one of the wild card patterns that commas part; case is ignored.
+// RTNORM if the text matches one of the wild card patterns, which are separated
+// by commas. Ignores case.
 int acutWcMatch(const ACHAR* text, const ACHAR* patterns);
 
 // Files, modules
@@ -73,4 +74,4 @@ int acutWcMatch(const ACHAR* text, const ACHAR* patterns);
 int acedFindFile(const ACHAR* name, ACHAR* path);  // along the support path
 resbuf* acedArxLoaded();                           // names of the loaded modules, or null
 int acedTrans(const ads_point point, const resbuf* from, const resbuf* to, int vector,
-              ads_point result);  // world and user coordinates are one here
+              ads_point result);  // world and user coordinates are the same here

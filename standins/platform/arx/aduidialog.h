@@ -1,6 +1,6 @@
-// CAdUiBaseDialog and CAdUiDialog: modal or modeless dialogs that are made from the resources of
-// the module given to them. Not here: tips, saved sizes, tabs, messages of the host. Included by
-// adui.h.
+// CAdUiBaseDialog and CAdUiDialog: modal or modeless dialogs created from the resources
+// of the module given to them. Not offered: tips, saved sizes, tabs, messages of the
+// host. Included by adui.h.
 #pragma once
 
 #ifndef __AFXWIN_H__
@@ -10,7 +10,7 @@
 class CAdUiBaseDialog : public CDialog {
   DECLARE_DYNAMIC(CAdUiBaseDialog)
  public:
-  // hDialogResource null: the resources that are current when the dialog is made.
+  // hDialogResource null: the resources that are current when the dialog is created.
   explicit CAdUiBaseDialog(UINT idd, CWnd* pParent = nullptr, HINSTANCE hDialogResource = nullptr);
 
   INT_PTR DoModal() override;

@@ -1,7 +1,7 @@
-// CAdUiDockControlBar: a palette window that docks and floats, has a caption strip while docked,
-// and whose place the host remembers under its tool identifier. Included by adui.h.
+// CAdUiDockControlBar: a palette window that docks and floats and has a caption strip while docked.
+// The host saves its position under its tool identifier. Included by adui.h.
 //
-// The caption strip is drawn inside the client area; GetUsedRect is what it leaves to the content.
+// The caption strip is drawn inside the client area; GetUsedRect returns the rest, for the content.
 #pragma once
 
 #ifndef __AFXEXT_H__
@@ -20,28 +20,27 @@ class CAdUiDockControlBar : public CControlBar {
 
   void SetToolID(const CLSID* pToolId);
   const CLSID* GetToolID() const { return &m_toolId; }
-  // Where the host saw this tool last: if it floated, it floats there again. Otherwise the caller's
-  // dock bar counts, because palettes keep their side themselves; a bar that is docked stays.
+  // Restores the saved position of the tool if it floated. Otherwise the caller's dock bar is used,
+  // because palettes save their side themselves; a bar that is docked already stays.
   void RestoreControlBar(UINT nPrimaryDockBarID = AFX_IDW_DOCKBAR_LEFT,
                          const CRect* pRect = nullptr);
-  // Docks the bar, or moves it, or gives it another width: the screen rectangle is how it shall
-  // look.
+  // Docks the bar, or moves or resizes it to the screen rectangle.
   void DockControlBar(UINT nDockBarID, const CRect* pRect);
   void DockControlBar(UINT nDockBarID, const CRect& rect) { DockControlBar(nDockBarID, &rect); }
   void EnableDocking(DWORD dwDockStyle);
   BOOL IsFloating() const { return CControlBar::IsFloating(); }
-  // Floating: the whole client area. Docked: without the caption strip and the line at the inner
-  // edge.
+  // Floating: the whole client area. Docked: without the caption strip and
+  // the line at the inner edge.
   void GetUsedRect(CRect& rect) const;
 
   CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
   void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
 
-  // --- what a palette overrides
+  // --- overridden by palettes
   virtual void SizeChanged(CRect* pRect, BOOL bFloating, int nFlags);
-  // The close box, or the program. Here it hides the bar at the next idle time and answers true.
-  // Until then the window still has its WS_VISIBLE bit, so a palette destroyed right after it keeps
-  // what it saves about being shown.
+  // Called for the close box and by the program. This one hides the bar at the next idle time and
+  // returns true. Until then the window keeps its WS_VISIBLE bit, so a palette destroyed right
+  // after it saves that it was shown.
   virtual bool OnClosing();
   virtual void GetFloatingMinSize(long* pnMinWidth, long* pnMinHeight);
   virtual BOOL AddCustomMenuItems(LPARAM hMenu);
@@ -55,7 +54,7 @@ class CAdUiDockControlBar : public CControlBar {
   void SetDockedSize(CSize size) override;
   CSize FloatingMinimum() override;
   BOOL OnCloseFloating() override;
-  virtual CRect FrameToRemember() const;  // of a floating bar, as it shall come back
+  virtual CRect FrameToRemember() const;  // of a floating bar, to be saved
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
   afx_msg int OnCreate(LPCREATESTRUCT lpcs);
@@ -80,8 +79,9 @@ class CAdUiDockControlBar : public CControlBar {
   void SaveState() const;
 
   CLSID m_toolId{};
-  CSize m_docked;  // width while docked left or right, height while top or bottom; the
-                   // creation rectangle counts, one without width or height means "as last"
+  // Width while docked left or right, height while docked at top or bottom. Set by the creation
+  // rectangle; one without width or height keeps the saved size.
+  CSize m_docked;
   CFont m_captionFont;
   bool m_closeHot = false, m_closePressed = false, m_leaveAsked = false;
 };

@@ -1,8 +1,9 @@
-// CAdUiPaletteSet: a dockable palette with a title that may roll up to its caption while it floats
-// and the pointer is elsewhere. Included by adui.h.
+// CAdUiPaletteSet: a dockable palette with a title. While it floats and the pointer is elsewhere,
+// it can roll up to its caption. Included by adui.h.
 //
-// Not here: pages with tabs, opacity, snapping to other palettes, a title bar on another side. The
-// virtuals for them exist because palettes override them; they are called only where it says so.
+// Not offered: pages with tabs, opacity, snapping to other palettes, a title bar on another
+// side. Their virtual functions exist because palettes override them; they are called only
+// where their comments say so.
 #pragma once
 
 #include "aduidock.h"
@@ -26,7 +27,7 @@ class CAdUiPaletteSet : public CAdUiDockControlBar {
                       DWORD dwPaletteSetStyle = 0);
   using CAdUiDockControlBar::Create;
 
-  BOOL SetAutoRollup(BOOL bRollup);  // answers what was set before
+  BOOL SetAutoRollup(BOOL bRollup);  // returns the previous setting
   BOOL GetAutoRollup() const { return m_autoRollup; }
   void RollUp();
   void RollOut();
@@ -37,7 +38,7 @@ class CAdUiPaletteSet : public CAdUiDockControlBar {
 
   BOOL PreTranslateMessage(MSG* pMsg) override;
 
-  // --- what a palette set overrides
+  // --- overridden by palette sets
   virtual void GetMinimumSize(CSize& size);
   virtual void GetMaximumSize(CSize& size) { size = CSize(0x7FFF, 0x7FFF); }
   virtual int GetBottomReservedHeight() { return 0; }
@@ -46,13 +47,13 @@ class CAdUiPaletteSet : public CAdUiDockControlBar {
   virtual void OnTitleBarLocationChanging() {}
   virtual void OnTitleBarLocationChanged() {}
   virtual void OnTabDrag(int, CPoint) {}
-  // A right click on the palette (screen point, -1,-1 from the keyboard). Here: the host's palette
-  // menu, with what AddCustomMenuItems puts into it.
+  // A right click on the palette (screen point; -1,-1 from the keyboard). This one shows the host's
+  // palette menu with the items of AddCustomMenuItems.
   virtual void OnContextMenu(CWnd* pWnd, CPoint point);
 
  protected:
-  CSize FloatingMinimum() override;        // a rolled up frame has none
-  CRect FrameToRemember() const override;  // rolled out
+  CSize FloatingMinimum() override;        // of a rolled-up frame: none
+  CRect FrameToRemember() const override;  // the rolled-out size
   afx_msg void OnDestroy();
   afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
   DECLARE_MESSAGE_MAP()
@@ -67,5 +68,5 @@ class CAdUiPaletteSet : public CAdUiDockControlBar {
   BOOL m_autoRollup = FALSE;
   BOOL m_rolledUp = FALSE;
   int m_ticksOutside = 0;
-  int m_unrolledHeight = 0;  // of the frame's window before it rolled up
+  int m_unrolledHeight = 0;  // of the frame's window before it was rolled up
 };

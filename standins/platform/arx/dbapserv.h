@@ -1,4 +1,4 @@
-// What the host tells about itself.
+// Services and properties of the host.
 #pragma once
 
 #include "dbmain.h"

@@ -130,13 +130,14 @@ class AcDbPolyline : public AcDbCurve {
   bool m_closed = false;
 };
 
-// The older form, whose vertices are entities of their own in the file; read and written as such.
+// The older form, whose vertices are entities of their own in the file; read
+// and written in that form.
 class AcDb2dPolyline : public AcDbPolyline {
  public:
   ACRX_DECLARE_MEMBERS(AcDb2dPolyline);
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
   Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
-  bool isMesh() const { return m_mesh; }  // vertices are joined by an order that is not kept
+  bool isMesh() const { return m_mesh; }  // vertices form a mesh, whose order is not kept
 
  private:
   bool m_mesh = false;
@@ -200,10 +201,10 @@ class AcDbBlockReference : public AcDbEntity {
   AcDbBlockReference(const AcGePoint3d& at, AcDbObjectId blockRecord);
   AcGePoint3d position() const { return m_at; }
   double rotation() const { return m_rotation; }
-  AcDbObjectId blockTableRecord() const;  // null when the block is not in the drawing
+  AcDbObjectId blockTableRecord() const;  // null if the drawing has no such block
   AcGeMatrix3d blockTransform() const;
   const std::vector<AcDbObjectId>& attributes() const { return m_attributes; }
-  Acad::ErrorStatus appendAttribute(AcDbAttribute* attribute);  // takes it
+  Acad::ErrorStatus appendAttribute(AcDbAttribute* attribute);  // takes ownership
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
   Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix) override;
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
@@ -218,9 +219,8 @@ class AcDbBlockReference : public AcDbEntity {
   std::vector<AcDbObjectId> m_attributes;
 };
 
-// All kinds of dimensions; drawn by their block, which stays where it was made and is shifted with
-// the dimension. One that would have to be turned or scaled refuses, since nothing makes blocks
-// anew.
+// All kinds of dimensions. Drawn by their block, which stays where it was created and is shifted
+// with the dimension. Turning or scaling fails, because blocks are not created anew.
 class AcDbDimension : public AcDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(AcDbDimension);
@@ -259,8 +259,7 @@ class AcDbViewport : public AcDbEntity {
   int m_number = 0, m_status = 0;
 };
 
-// An object of a class that nobody here knows: its groups are kept as they came and written again.
-// It draws nothing.
+// An object of an unknown class: its groups are kept and written again unchanged. It draws nothing.
 class AcDbProxyEntity : public AcDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(AcDbProxyEntity);

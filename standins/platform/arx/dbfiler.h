@@ -1,4 +1,4 @@
-// The road of an object out of and into a drawing file of the text form.
+// Reads and writes objects as groups of the text form of drawing files.
 #pragma once
 
 #include "accmd.h"
@@ -11,7 +11,7 @@ class AcDbDxfFiler {
   virtual ~AcDbDxfFiler() = default;
   virtual AcDbDatabase* database() const = 0;
 
-  // Reading: the next group; its string lives until the next call. eEndOfFile behind the last one.
+  // Reads the next group; its string is valid until the next call. eEndOfFile after the last one.
   virtual Acad::ErrorStatus readItem(resbuf* item) = 0;
   virtual void pushBackItem() = 0;
 

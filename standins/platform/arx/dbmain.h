@@ -1,7 +1,8 @@
 // The drawing database: objects with handles, entities, the database that owns them.
 //
-// Every object of an open drawing is in memory, so opening one gives its pointer and counts;
-// close() must follow. A handle stays with its object for life and over saving.
+// Every object of an open drawing is in memory; opening one returns its pointer and
+// increments its open count, and close() must follow. An object keeps its handle for its
+// lifetime and in saved files.
 #pragma once
 
 #include <cstdint>
@@ -28,7 +29,7 @@ class AcDbHandle {
   std::uint64_t m_value = 0;
 };
 
-// Names an object of an open drawing; null by default. Ids of a closed drawing may not be used.
+// Identifies an object of an open drawing; null by default. Invalid after the drawing is closed.
 class AcDbObjectId {
  public:
   constexpr AcDbObjectId() = default;
@@ -68,24 +69,24 @@ class AcDbObject : public AcRxObject {
 
   Acad::ErrorStatus close();
   Acad::ErrorStatus upgradeOpen();
-  Acad::ErrorStatus downgradeOpen();  // from writing to reading
+  Acad::ErrorStatus downgradeOpen();  // from write to read
   virtual Acad::ErrorStatus erase(bool erasing = true);
   bool isErased() const { return m_erased; }
   bool isReadEnabled() const { return m_openCount > 0; }
 
-  // Extended data: -3 lists are flat here: 1001 name, then groups 1000 to 1071. The chain returned
-  // is a copy and the caller's; a null name gives all applications.
+  // Extended data. -3 lists are flat here: 1001 name, then groups 1000 to 1071. The returned chain
+  // is a copy, owned by the caller; a null name returns the data of all applications.
   resbuf* xData(const ACHAR* application = nullptr) const;
   Acad::ErrorStatus setXData(const resbuf* data);
 
-  // Undo reads an object's earlier groups into the object itself: what a class writes only at times
-  // it sets to its default first.
+  // Undo reads an object's earlier groups into the object itself: a class must first set to their
+  // defaults the members that it does not always write.
   virtual Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer);
   virtual Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const;
 
  private:
   friend class AcDbDatabase;
-  friend struct AcDbObjectAccess;  // the host's own way to handle, database and open count
+  friend struct AcDbObjectAccess;  // gives the host access to handle, database and open count
   AcDbHandle m_handle;
   AcDbDatabase* m_database = nullptr;
   AcDbObjectId m_owner;
@@ -113,15 +114,15 @@ class AcDbEntity : public AcDbObject {
   virtual bool subWorldDraw(AcGiWorldDraw* draw) const;          // false: nothing to draw
   virtual Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix);
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix);
-  Acad::ErrorStatus draw();  // paints the drawing that it stands in anew
+  Acad::ErrorStatus draw();  // repaints the drawing that contains it
 
-  // Common groups (layer, colour, linetype, space) go first; a class reads its own behind them.
+  // Common groups (layer, colour, linetype, space) come first; a class reads its own after them.
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
   Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
 
  private:
   friend struct AcDbObjectAccess;
-  std::vector<KeptGroup>* m_commonGroups = nullptr;  // null when the file gave none
+  std::vector<KeptGroup>* m_commonGroups = nullptr;  // null: none in the file
   ACHAR* m_layer = nullptr;                          // null is layer 0
   ACHAR* m_linetype = nullptr;                       // null is by layer
   short m_color = 256;
@@ -137,7 +138,7 @@ class AcDbDatabase {
   AcDbDatabase(const AcDbDatabase&) = delete;
   AcDbDatabase& operator=(const AcDbDatabase&) = delete;
 
-  Acad::ErrorStatus addAcDbObject(AcDbObjectId& id, AcDbObject* object);  // takes the object
+  Acad::ErrorStatus addAcDbObject(AcDbObjectId& id, AcDbObject* object);  // takes ownership
   Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, bool create, const AcDbHandle& handle) const;
   Acad::ErrorStatus getBlockTable(AcDbBlockTable*& table, AcDb::OpenMode mode);
   Acad::ErrorStatus getLayerTable(AcDbLayerTable*& table, AcDb::OpenMode mode);
@@ -149,10 +150,10 @@ class AcDbDatabase {
   }
   AcDbObjectId blockTableId() const;
   AcDbObjectId layerTableId() const;
-  AcDbObjectId currentSpaceId() const;  // model or paper space, as TILEMODE and CVPORT say
+  AcDbObjectId currentSpaceId() const;  // model or paper space, by TILEMODE and CVPORT
   int approxNumObjects() const;
 
-  struct Body;  // the host's own
+  struct Body;  // private to the host
   Body& body() const { return *m_body; }
 
  private:

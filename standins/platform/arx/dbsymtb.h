@@ -1,4 +1,4 @@
-// Symbol tables: layers and blocks. Names are compared without regard to case.
+// Symbol tables: layers and blocks. Names are compared without case.
 #pragma once
 
 #include <map>
@@ -50,7 +50,7 @@ class AcDbSymbolTable : public AcDbObject {
   Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id) const;  // eKeyNotFound
   Acad::ErrorStatus getIdAt(const ACHAR* name, AcDbObjectId& id) const { return getAt(name, id); }
   bool has(const ACHAR* name) const;
-  Acad::ErrorStatus add(AcDbSymbolTableRecord* record);                   // takes it; eDuplicateKey
+  Acad::ErrorStatus add(AcDbSymbolTableRecord* record);  // takes ownership; eDuplicateKey
   const std::vector<AcDbObjectId>& records() const { return m_records; }  // in the order added
 
  private:
@@ -94,9 +94,10 @@ class AcDbBlockTableRecordIterator {
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
  public:
   ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord);
-  Acad::ErrorStatus appendAcDbEntity(AcDbEntity* entity);  // takes it
+  Acad::ErrorStatus appendAcDbEntity(AcDbEntity* entity);  // takes ownership
   Acad::ErrorStatus appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity);
-  Acad::ErrorStatus newIterator(AcDbBlockTableRecordIterator*& iterator) const;  // the caller's
+  // The caller owns the iterator.
+  Acad::ErrorStatus newIterator(AcDbBlockTableRecordIterator*& iterator) const;
   AcGePoint3d origin() const { return m_origin; }
   void setOrigin(const AcGePoint3d& origin) { m_origin = origin; }
   int flags() const { return m_flags; }

@@ -41,7 +41,7 @@ class AcGePoint3d {
   double x = 0, y = 0, z = 0;
 };
 
-// A plane transform with one scale an axis is all that blocks need here.
+// A plane transform with one scale for each axis: all that blocks need.
 class AcGeMatrix3d {
  public:
   static AcGeMatrix3d insertion(const AcGePoint3d& at, double rotation, double sx, double sy,
@@ -53,8 +53,8 @@ class AcGeMatrix3d {
   AcGeVector3d operator*(const AcGeVector3d& v) const {
     return {a * v.x + b * v.y, c * v.x + d * v.y, v.z};
   }
-  AcGeMatrix3d operator*(const AcGeMatrix3d& inner) const;  // inner first
-  bool invert(AcGeMatrix3d* inverse) const;                 // false when it flattens the plane
+  AcGeMatrix3d operator*(const AcGeMatrix3d& inner) const;  // applies inner first
+  bool invert(AcGeMatrix3d* inverse) const;                 // false if the matrix is singular
   double scale() const { return std::sqrt(std::fabs(a * d - b * c)); }
   double rotation() const { return std::atan2(c, a); }
   double a = 1, b = 0, c = 0, d = 1, tx = 0, ty = 0;

@@ -7,7 +7,7 @@
 class AcRxDynamicLinker : public AcRxObject {
  public:
   ACRX_DECLARE_MEMBERS(AcRxDynamicLinker);
-  // Along the support path; a module that is loaded already is left alone and counts as loaded.
+  // Searches the support path; a module that is loaded already counts as success.
   virtual bool loadModule(const ACHAR* name, bool print, bool asCommand = false) = 0;
   virtual bool unloadModule(const ACHAR* name, bool asCommand = false) = 0;  // false when locked
   virtual bool unlockApplication(void* packet) = 0;

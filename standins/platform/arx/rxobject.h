@@ -1,5 +1,5 @@
-// Run-time classes of the host: every object knows its AcRxClass, by which it is recognised across
-// modules and, for entities, made when a drawing names its DXF class.
+// Run-time classes of the host: every object has an AcRxClass, which identifies its class across
+// modules and creates entities when a drawing contains its DXF name.
 #pragma once
 
 #include "adsdef.h"
@@ -27,7 +27,7 @@ class AcRxClass : public AcRxObject {
   AcRxClass* isA() const override;
 
   const ACHAR* name() const { return m_name; }
-  const ACHAR* dxfName() const { return m_dxfName; }  // null when it is in no drawing
+  const ACHAR* dxfName() const { return m_dxfName; }  // null: not stored in drawings
   AcRxClass* myParent() const { return m_parent; }
   bool isDerivedFrom(const AcRxClass* base) const;  // true for the class itself
   AcRxObject* create() const { return m_make ? m_make() : nullptr; }
@@ -39,8 +39,7 @@ class AcRxClass : public AcRxObject {
   const ACHAR* m_dxfName;
 };
 
-// A class is known to drawings between acrxBuildClassHierarchy after its rxInit and
-// deleteAcRxClass.
+// Drawings can contain a class from acrxBuildClassHierarchy after its rxInit until deleteAcRxClass.
 void acrxBuildClassHierarchy();
 void deleteAcRxClass(AcRxClass* cls);
 AcRxClass* acrxClassOfDxfName(const ACHAR* dxfName);

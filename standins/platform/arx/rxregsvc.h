@@ -24,4 +24,4 @@ extern "C" int acrxGetApiVersion();  // in the library that each module links an
 bool acrxLoadModule(const ACHAR* name, bool print, bool asCommand = false);
 bool acrxUnloadModule(const ACHAR* name, bool asCommand = false);
 bool acrxUnlockApplication(void* packet);    // the module may be unloaded again
-bool acrxRegisterAppMDIAware(void* packet);  // it keeps apart what belongs to which drawing
+bool acrxRegisterAppMDIAware(void* packet);  // the module keeps its data of each drawing apart

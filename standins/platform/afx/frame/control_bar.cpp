@@ -1,5 +1,5 @@
-// CControlBar: taking room in the layout pass, showing late, lines and borders, and the way back to
-// the frame. Moving between dock bars is CFrameWnd's and CDockBar's.
+// CControlBar: its strip in the layout pass, delayed showing, border lines and margins, messages to
+// the frame. CFrameWnd and CDockBar move bars between dock bars.
 #include "afxpriv.h"
 
 #include <algorithm>
@@ -19,10 +19,11 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr int kEndless = 32767;  // "as long as there is room"
-constexpr int kLineRoom = 2;     // a border line takes this much although it is one pixel wide
+constexpr int kEndless = 32767;  // "all available room"
+// Room of a border line, which is one pixel wide.
+constexpr int kLineRoom = 2;
 
-// Messages that children send upward and that a bar hands on when it has no handler of its own.
+// Notifications of child windows that a bar forwards to its owner if it has no handler.
 bool BelongsToOwner(UINT message) {
   switch (message) {
     case WM_NOTIFY:
@@ -90,13 +91,13 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
                                        reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
   if (!CWnd::PreCreateWindow(cs)) return FALSE;
   cs.style |= WS_CLIPSIBLINGS;
-  // A caller that has set no bar style gives it with the window style; the low word is free there.
+  // Without a bar style of its own the bar takes it from the low word of the window style.
   if (m_dwStyle == 0) m_dwStyle = cs.style & CBRS_ALL & 0xFFFF;
   return TRUE;
 }
 
-// Keys go on to the owner, where the frame's own keys are; what the bar's children do with a
-// message comes first.
+// The owner translates keys, because the frame's accelerators are there; the messages of the bar's
+// children are translated first.
 BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
   if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
   for (CWnd* owner = GetOwner(); owner; owner = owner->GetParentFrame())
@@ -104,7 +105,7 @@ BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
   return FALSE;
 }
 
-// A bar that floats takes its frame along.
+// A floating bar is destroyed with its frame.
 BOOL CControlBar::DestroyWindow() {
   if (!m_hWnd) return FALSE;
   CFrameWnd* frame = IsFloating() ? GetDockingFrame() : nullptr;
@@ -118,7 +119,7 @@ void CControlBar::PostNcDestroy() {
 
 int CControlBar::OnCreate(LPCREATESTRUCT lpcs) {
   if (CWnd::OnCreate(lpcs) == -1) return -1;
-  // The frame knows all its bars from their birth on; GetControlBar finds them by identifier.
+  // Registers the bar at the frame on creation, so that GetControlBar finds it by identifier.
   if (CFrameWnd* frame = GetParentFrame(); frame && !m_pDockSite && !IsDockBar()) {
     m_pDockSite = frame;
     frame->AddControlBar(this);
@@ -164,8 +165,7 @@ BOOL CControlBar::IsVisible() const {
   return (m_nStateFlags & delayShow) || ((GetStyle() & WS_VISIBLE) && !(m_nStateFlags & tempHide));
 }
 
-// What the style will be once a waiting show or hide is carried out, which the layout pass does
-// here.
+// The style after a pending show or hide, which the layout pass applies here.
 DWORD CControlBar::RecalcDelayShow(AFX_SIZEPARENTPARAMS* lpLayout) {
   DWORD style = (m_dwStyle & (CBRS_ALIGN_ANY | CBRS_BORDER_ANY)) | (GetStyle() & WS_VISIBLE);
   if (!(m_nStateFlags & (delayHide | delayShow))) return style;
@@ -224,12 +224,13 @@ LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void CControlBar::OnTimer(UINT_PTR nIDEvent) { CWnd::OnTimer(nIDEvent); }
 
-// The press belongs to the bar; the frame behind it need not come to life a second time for it.
+// The bar handles the press; the frame needs no second activation.
 int CControlBar::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message) {
   return CWnd::OnMouseActivate(pDesktopWnd, nHitTest, message);
 }
 
-// The lines stand at the far edges, so a changed size leaves old ones behind and lacks new ones.
+// The lines are at the far edges: after a resize the old ones must be
+// erased and the new ones drawn.
 void CControlBar::OnWindowPosChanging(WINDOWPOS* lpWndPos) {
   CWnd::OnWindowPosChanging(lpWndPos);
   if ((lpWndPos->flags & SWP_NOSIZE) || !(m_dwStyle & CBRS_BORDER_ANY)) return;
@@ -267,7 +268,7 @@ void CControlBar::DoPaint(CDC* pDC) {
   DrawBorders(pDC, rect);
 }
 
-// A dark line, and with CBRS_BORDER_3D a light one inside it; rect becomes what is left.
+// A dark line, and with CBRS_BORDER_3D a light one inside it; rect becomes the rest.
 void CControlBar::DrawBorders(CDC* pDC, CRect& rect) {
   const COLORREF dark = ::GetSysColor(COLOR_BTNSHADOW), light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
   const bool raised = (m_dwStyle & CBRS_BORDER_3D) != 0;

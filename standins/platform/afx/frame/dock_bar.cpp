@@ -1,5 +1,5 @@
-// CDockBar: carries the plan of dock_layout out on the bars of one side, takes bars in and lets
-// them go, and lets the user pull the edge of a row that is filled.
+// CDockBar: applies the layout of dock_layout to the bars of one side, adds and removes bars, and
+// lets the user drag the edge of a row with a filling bar.
 #include <algorithm>
 
 #include "afxpriv.h"
@@ -29,7 +29,7 @@ CRect RectIn(const CWnd* bar, const CWnd* dockBar) {
   return rect;
 }
 
-// The line of a docked bar stands on its inner edge.
+// A docked bar has its line at the inner edge.
 DWORD DockedStyle(DWORD style, DWORD side) {
   DWORD inner = 0;
   if (style & CBRS_BORDER_ANY) {
@@ -47,7 +47,7 @@ int StripWidth(DWORD side) {
 
 }  // namespace
 
-// The bars of one pass are moved together.
+// Moves the bars of one layout pass together.
 struct CDockBar::Batch : AFX_SIZEPARENTPARAMS {
   explicit Batch(int count) : AFX_SIZEPARENTPARAMS{::BeginDeferWindowPos(count), {}, {}, FALSE} {}
   ~Batch() {
@@ -80,7 +80,7 @@ void CDockBar::OnDestroy() {
   CControlBar::OnDestroy();
 }
 
-// --- which bars
+// --- search
 
 int CDockBar::FindBar(CControlBar* pBar, int nPosExclude) {
   return FindDockEntry(m_arrBars, pBar, nPosExclude);
@@ -110,15 +110,15 @@ void CDockBar::RemovePlaceHolder(CControlBar* pBar) {
   if (at > 0) RemoveDockEntry(m_arrBars, at);
 }
 
-// --- in and out
+// --- adding and removing
 
 int CDockBar::Insert(CControlBar* pBar, CRect rect, CPoint ptMid) {
-  (void)rect;  // its middle decides
+  (void)rect;  // only its middle is used
   const DockPlace place = FindDockPlace(Plan(), Side(), ptMid, int(m_arrBars.GetSize()));
   return InsertDockEntry(m_arrBars, pBar, place);
 }
 
-// Without a rectangle: where its place holder stands, else in a row of its own at the inner end.
+// Without a rectangle: at its place holder, else in a row of its own at the inner end.
 int CDockBar::PutIn(CControlBar* pBar, LPCRECT lpRectClient) {
   if (lpRectClient) return Insert(pBar, CRect(lpRectClient), CRect(lpRectClient).CenterPoint());
   const int held = FindDockEntry(m_arrBars, DockPlaceHolder(UINT(pBar->GetDlgCtrlID())));
@@ -139,7 +139,7 @@ void CDockBar::TakeOver(CControlBar* pBar, CDockBar* from) {
     pBar->SetBarStyle(DockedStyle(pBar->m_dwStyle, Side()));
     if (pBar->m_pDockContext) pBar->m_pDockContext->m_uMRUDockID = UINT(GetDlgCtrlID());
   }
-  // A bar that leaves for a floating frame comes back to its old place.
+  // A bar that moves to a floating frame leaves a place holder.
   if (from && from != this) from->RemoveControlBar(pBar, -1, m_bFloating && !from->m_bFloating);
 }
 
@@ -153,8 +153,7 @@ void CDockBar::DockControlBar(CControlBar* pBar, LPCRECT lpRect) {
   if (from == this) {
     CRect both;
     if (!lpRect || both.IntersectRect(rect, RectIn(pBar, this))) return;
-    // Found with the bar still in its old place, because that is what the rectangle was seen
-    // beside.
+    // Computed before the bar leaves its old place, because the rectangle relates to that layout.
     const DockPlace place =
         FindDockPlace(Plan(), Side(), rect.CenterPoint(), int(m_arrBars.GetSize()));
     void* const left = DockPlaceHolder(0xFFFF);
@@ -181,7 +180,7 @@ BOOL CDockBar::RemoveControlBar(CControlBar* pBar, int nPosExclude, int nAddPlac
   if (!m_bFloating) {
     frame->DelayRecalcLayout();
   } else if (GetDockedCount() == 0) {
-    // Not destroyed at once: this may run inside one of the empty frame's own messages.
+    // Destroyed later: this may run inside a message of the empty frame.
     frame->ShowWindow(SW_HIDE);
     frame->PostMessage(WM_CLOSE);
   }
@@ -231,7 +230,7 @@ void CDockBar::PlaceBars(const DockPlan& plan) {
   for (const Strip& strip : m_strips) InvalidateRect(strip.rect);
 }
 
-// One bar a floating frame; it gets the whole of it if it fills.
+// A floating frame has one bar; a filling bar gets the whole client area.
 void CDockBar::PlaceFloating() {
   Batch batch(2);
   for (int i = 0; i < m_arrBars.GetSize(); ++i) {
@@ -267,12 +266,12 @@ LRESULT CDockBar::OnSizeParent(WPARAM wParam, LPARAM lParam) {
   return result;
 }
 
-// --- the strips
+// --- strips for dragging
 
 void CDockBar::DoPaint(CDC*) {}
 
-// Two light lines with a dark one between them would make a bead; a plain face with one dark line
-// at the outer edge says "edge" without shouting.
+// One dark line at the outer edge on the face colour; the default edge with two light lines would
+// look like a raised bead.
 BOOL CDockBar::OnEraseBkgnd(CDC* pDC) {
   CRect client;
   GetClientRect(client);

@@ -1,4 +1,4 @@
-// CDockContext: the drag of one bar, and the places it goes back to.
+// CDockContext: the drag of one bar and its last positions.
 #include <algorithm>
 
 #include "afxpriv.h"
@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr SIZE kFirstFloat{220, 420};  // client size of a palette that never floated before
+// Client size of a palette that floats for the first time.
+constexpr SIZE kFirstFloat{220, 420};
 
 CRect WindowRectOf(const CWnd* window) {
   CRect rect;
@@ -22,7 +23,7 @@ DWORD CDockContext::SideAt(CPoint pt) const {
   return m_pBar->m_pDockSite->CanDock(pt, m_dwDockStyle);
 }
 
-// Docked: the band that the bar would take. Floating: a frame of its size under the pointer.
+// Docked: the band that the bar would take. Floating: a frame of its size at the pointer.
 CRect CDockContext::DragRectAt(CPoint pt, DWORD side) const {
   if (side != kDockNone) {
     const CRect area = m_pBar->m_pDockSite->DockArea();
@@ -75,7 +76,7 @@ void CDockContext::Drop(CPoint pt, DWORD side) {
   if (side != kDockNone) {
     CDockBar* target = nullptr;
     site->CanDock(pt, side, &target);
-    // The pointer decides where in the dock bar, not the middle of what was dragged.
+    // The place in the dock bar is that of the pointer, not the middle of the dragged frame.
     const CRect spot(pt.x, pt.y, pt.x + 1, pt.y + 1);
     site->DockControlBar(m_pBar, target, &spot);
   } else if (m_pBar->IsFloating()) {

@@ -21,7 +21,7 @@ LPCTSTR GhostClass() {
   return name;
 }
 
-// For SetWindowRgn, which takes the region over.
+// For SetWindowRgn, which takes ownership of the region.
 HRGN OutlineRegion(const CRect& rect) {
   CRgn all, hole;
   all.CreateRectRgn(0, 0, rect.Width(), rect.Height());

@@ -1,6 +1,6 @@
-// The frame that shows where a dragged bar or edge would go. It is a thin window of its own above
-// all others, not lines inverted on the screen: what lies below may repaint at any time. Used by
-// the dock bar and the dock context while a mouse button is held.
+// The frame that shows the target of a dragged bar or edge. A topmost window instead of inverted
+// screen lines, because windows below may repaint at any time. Used by the dock bar and the dock
+// context while a mouse button is held.
 #pragma once
 
 #include "../afxwin.h"
@@ -21,8 +21,8 @@ class DragGhost {
   bool m_solid = false;
 };
 
-// Runs the messages of a drag until the left button goes up. `moved` is called with the pointer on
-// the screen. False: Escape, the right button, or the capture was lost.
+// Dispatches the messages of a drag until the left button is released. `moved` is called with the
+// pointer in screen coordinates. False: Escape, the right button, or the capture was lost.
 template <class Moved>
 bool FollowPointer(HWND capture, Moved moved) {
   ::SetCapture(capture);

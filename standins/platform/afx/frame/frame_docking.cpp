@@ -6,7 +6,7 @@
 
 namespace {
 
-// In the order in which they take their room: top and bottom span the whole width.
+// In layout order: top and bottom span the whole width.
 struct SideId {
   DWORD side;
   UINT id;
@@ -16,7 +16,8 @@ constexpr SideId kSides[] = {{CBRS_ALIGN_TOP, AFX_IDW_DOCKBAR_TOP},
                              {CBRS_ALIGN_LEFT, AFX_IDW_DOCKBAR_LEFT},
                              {CBRS_ALIGN_RIGHT, AFX_IDW_DOCKBAR_RIGHT}};
 
-constexpr int kDropReach = 40;  // pixels from an edge within which a dropped bar docks
+// Distance in pixels from an edge within which a dropped bar docks.
+constexpr int kDropReach = 40;
 
 UINT DockBarIdOf(DWORD side) {
   for (const SideId& entry : kSides)
@@ -28,7 +29,7 @@ bool IsFloatingDockBar(const CControlBar* bar) {
   return bar->IsDockBar() && static_cast<const CDockBar*>(bar)->m_bFloating;
 }
 
-// The list may change while its bars are called.
+// The list may change during calls of its bars.
 std::vector<CControlBar*> CopyOf(const CPtrList& list) {
   std::vector<CControlBar*> bars;
   for (POSITION at = list.GetHeadPosition(); at;)
@@ -49,7 +50,7 @@ void CFrameWnd::RemoveControlBar(CControlBar* pBar) {
   if (!at) return;
   m_listControlBars.RemoveAt(at);
   if (!pBar->m_hWnd || pBar->IsDockBar()) return;
-  // Its number may be given to another bar, which has no claim on this one's places.
+  // Removes its place holders: a later bar with the same identifier must not use them.
   for (CControlBar* bar : CopyOf(m_listControlBars))
     if (bar->IsDockBar()) static_cast<CDockBar*>(bar)->RemovePlaceHolder(pBar);
 }
@@ -96,7 +97,7 @@ void CFrameWnd::EnableDocking(DWORD dwDockStyle) {
     if ((dwDockStyle & entry.side) && !GetDockBar(entry.id)) MakeDockBar(entry.side, entry.id);
 }
 
-// Called when the frame goes, while all its windows still live.
+// Called while the frame is destroyed and its windows still exist.
 void CFrameWnd::DestroyDockBars() {
   for (CControlBar* bar : CopyOf(m_listControlBars)) {
     if (!m_listControlBars.Find(bar) || !bar->m_hWnd) continue;
@@ -128,7 +129,7 @@ DWORD CFrameWnd::CanDock(CPoint ptScreen, DWORD dwDockStyle, CDockBar** ppDockBa
   for (const SideId& entry : kSides)
     if ((dwDockStyle & entry.side) && GetDockBar(entry.id)) offered |= entry.side;
   DWORD side = DropSide(ptScreen, DockArea(), offered, kDropReach);
-  // A dock bar that is already in use takes what is dropped anywhere on it.
+  // A dock bar with bars accepts a drop anywhere on it.
   for (const SideId& entry : kSides) {
     CRect rect;
     if (!(offered & entry.side)) continue;
@@ -151,7 +152,7 @@ void CFrameWnd::DockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lp
   if (!pBar->m_hWnd) return;
   if (!pDockBar) pDockBar = FirstDockBar(pBar->m_dwStyle & CBRS_ALIGN_ANY);
   if (!pDockBar) pDockBar = FirstDockBar(CBRS_ALIGN_ANY);
-  if (!pDockBar) return;  // this frame has no docking
+  if (!pDockBar) return;  // docking is not enabled
   pBar->m_pDockSite = this;
   AddControlBar(pBar);
   pDockBar->DockControlBar(pBar, lpRect);
@@ -167,7 +168,8 @@ CMiniDockFrameWnd* CFrameWnd::CreateFloatingFrame(DWORD dwStyle) {
     delete made;
     return nullptr;
   }
-  return frame->Create(this, dwStyle) ? frame : nullptr;  // a frame that failed has deleted itself
+  // A frame whose creation failed has deleted itself.
+  return frame->Create(this, dwStyle) ? frame : nullptr;
 }
 
 CFrameWnd* CFrameWnd::FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle) {
@@ -199,7 +201,7 @@ CFrameWnd* CFrameWnd::FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwS
 
 // --- showing
 
-// A floating frame is there as long as one of its bars is.
+// A floating frame is visible while one of its bars is.
 void CFrameWnd::ShowFloatingFrame(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
   CFrameWnd* frame = pBar->GetDockingFrame();
   const int visible = pBar->m_pDockBar->GetDockedVisibleCount();
@@ -224,7 +226,7 @@ void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
     pBar->SetWindowPos(nullptr, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
                            (bShow ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
-    pBar->DelayShow(bShow);  // nothing waits any more
+    pBar->DelayShow(bShow);  // cancels a delayed show or hide
     if (frame && !pBar->IsFloating()) frame->RecalcLayout(FALSE);
   }
   if (pBar->IsFloating()) ShowFloatingFrame(pBar, bShow, bDelay);

@@ -1,5 +1,5 @@
-// CFrameWnd as a window: creation, message line, title, activation, idle work, end. Its bars are
-// frame_docking's.
+// CFrameWnd as a window: creation, message line, title, activation, idle work, destruction. Control
+// bars are in frame_docking.cpp.
 #include "afxpriv.h"
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
@@ -20,10 +20,10 @@ ON_MESSAGE(WM_POPMESSAGESTRING, OnPopMessageString)
 ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
 END_MESSAGE_MAP()
 
-// --- creation and end
+// --- creation and destruction
 
 CFrameWnd::~CFrameWnd() {
-  // Bars that outlive the frame must not look for it.
+  // Bars that outlive the frame must not refer to it.
   for (POSITION at = m_listControlBars.GetHeadPosition(); at;) {
     auto* bar = static_cast<CControlBar*>(m_listControlBars.GetNext(at));
     if (bar->m_pDockSite == this) bar->m_pDockSite = nullptr;
@@ -92,7 +92,7 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpcs) {
 
 void CFrameWnd::OnDestroy() {
   DestroyDockBars();
-  // The menu that the frame began with dies with it even if another one is shown.
+  // Windows destroys only the menu that is shown; the default menu is destroyed here.
   if (m_hMenuDefault && m_hMenuDefault != ::GetMenu(m_hWnd) && ::IsMenu(m_hMenuDefault))
     ::SetMenu(m_hWnd, m_hMenuDefault);
   CWinApp* app = AfxGetApp();
@@ -115,7 +115,7 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
 
 BOOL CFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam) { return CWnd::OnCommand(wParam, lParam); }
 
-// View, frame, application, in this order.
+// Order: view, frame, application.
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
   if (m_pViewActive && m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
   if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
@@ -123,7 +123,7 @@ BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
   return app && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
-// The layout covers the client area; what no bar and no pane covers is erased by the class brush.
+// The layout covers the client area; the class brush erases the rest.
 BOOL CFrameWnd::OnEraseBkgnd(CDC* pDC) { return CWnd::OnEraseBkgnd(pDC); }
 
 void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
@@ -144,8 +144,7 @@ void CFrameWnd::ActivateFrame(int nCmdShow) {
   BringWindowToTop();
 }
 
-// While one of its floating bars is active the frame's caption stays lit: to the user it is one
-// program.
+// The frame's caption stays active while one of its floating bars is.
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
   const bool toOwnBar = nState == WA_INACTIVE && pWndOther &&
                         pWndOther->IsKindOf(RUNTIME_CLASS(CMiniFrameWnd)) &&
@@ -187,7 +186,7 @@ CWnd* CFrameWnd::GetMessageBar() { return GetDescendantWindow(AFX_IDW_STATUS_BAR
 
 void CFrameWnd::GetMessageString(UINT nID, CString& rMessage) const {
   if (!rMessage.LoadString(nID)) rMessage.Empty();
-  const int end = rMessage.Find(L'\n');  // what follows is the tip of a button
+  const int end = rMessage.Find(L'\n');  // the rest is the tool tip of a button
   if (end >= 0) rMessage = rMessage.Left(end);
 }
 
@@ -229,7 +228,7 @@ void CFrameWnd::RecalcLayout(BOOL bNotify) {
 void CFrameWnd::DelayRecalcLayout(BOOL bNotify) {
   const bool first = !(m_nIdleFlags & idleLayout);
   m_nIdleFlags |= idleLayout | (bNotify ? idleNotify : 0);
-  // An empty queue has no idle time to come: the pump must take a message first.
+  // With an empty queue there is no idle time until the pump has taken another message.
   if (first && m_hWnd) PostMessage(WM_NULL);
 }
 

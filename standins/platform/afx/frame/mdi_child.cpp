@@ -42,7 +42,7 @@ BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD d
   AfxHookWindowCreate(this);
   const auto made = reinterpret_cast<HWND>(::SendMessage(pParentWnd->m_hWndMDIClient, WM_MDICREATE,
                                                          0, reinterpret_cast<LPARAM>(&create)));
-  if (!AfxUnhookWindowCreate()) PostNcDestroy();  // it never had a window
+  if (!AfxUnhookWindowCreate()) PostNcDestroy();  // creation failed before the window existed
   return made != nullptr;
 }
 
@@ -72,7 +72,7 @@ void CMDIChildWnd::MDIRestore() {
   ::SendMessage(::GetParent(m_hWnd), WM_MDIRESTORE, reinterpret_cast<WPARAM>(m_hWnd), 0);
 }
 
-// The MDI area must take part, or its list of children and the frame's menu bar go wrong.
+// Through the MDI client, which updates its list of children and the frame's menu bar.
 BOOL CMDIChildWnd::DestroyWindow() {
   if (!m_hWnd) return FALSE;
   MDIDestroy();
@@ -93,7 +93,7 @@ void CMDIChildWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
   if (CMDIFrameWnd* frame = GetMDIFrame()) frame->OnUpdateFrameTitle(bAddToTitle);
 }
 
-// The frame has asked the active child already when a message walks up from the focus.
+// The frame has called the active child already when a message comes from the focus window.
 BOOL CMDIChildWnd::PreTranslateMessage(MSG* pMsg) {
   if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
   return pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST && m_hAccelTable &&
@@ -101,7 +101,8 @@ BOOL CMDIChildWnd::PreTranslateMessage(MSG* pMsg) {
 }
 
 void CMDIChildWnd::OnSize(UINT nType, int cx, int cy) {
-  CFrameWnd::OnSize(nType, cx, cy);  // the default handling is part of it: maximizing works there
+  // The default handling maximizes.
+  CFrameWnd::OnSize(nType, cx, cy);
 }
 
 int CMDIChildWnd::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message) {

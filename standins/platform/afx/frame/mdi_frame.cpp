@@ -35,7 +35,7 @@ BOOL CMDIFrameWnd::CreateClient(LPCREATESTRUCT lpCreateStruct, CMenu* pWindowMen
   return TRUE;
 }
 
-// The popup with one of the standard window commands.
+// The popup that contains one of the standard window commands.
 HMENU CMDIFrameWnd::GetWindowMenuPopup(HMENU hMenuBar) {
   for (int i = ::GetMenuItemCount(hMenuBar) - 1; i >= 0; --i) {
     const HMENU popup = ::GetSubMenu(hMenuBar, i);
@@ -57,7 +57,7 @@ void CMDIFrameWnd::OnDestroy() {
   m_hWndMDIClient = nullptr;
 }
 
-// The frame's own layout places the MDI area; the default handling would spread it over everything.
+// The frame's layout places the MDI client; the default handling would cover the whole client area.
 void CMDIFrameWnd::OnSize(UINT nType, int, int) {
   if (nType != SIZE_MINIMIZED) RecalcLayout();
 }
@@ -105,7 +105,7 @@ CFrameWnd* CMDIFrameWnd::GetActiveFrame() {
   return child ? static_cast<CFrameWnd*>(child) : this;
 }
 
-// A maximized child's title is added by Windows itself.
+// Windows itself appends the title of a maximized child.
 void CMDIFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
   BOOL maximized = FALSE;
   CMDIChildWnd* child = MDIGetActive(&maximized);
@@ -140,7 +140,7 @@ BOOL CMDIFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
   CMDIChildWnd* child = MDIGetActive();
   if (child && AfxCallWndProc(child, child->m_hWnd, WM_COMMAND, wParam, lParam) != 0) return TRUE;
   if (CFrameWnd::OnCommand(wParam, lParam)) return TRUE;
-  // The rows of the window menu and what a maximized child has in the menu bar.
+  // Rows of the window menu, and the system commands of a maximized child in the menu bar.
   const UINT id = LOWORD(wParam);
   if (lParam == 0 && (id & 0xF000) == 0xF000) {
     DefWindowProc(WM_COMMAND, wParam, lParam);

@@ -1,4 +1,4 @@
-// The small frame, and the one in which a single bar floats.
+// The mini frame, and the frame of a floating bar.
 #include <algorithm>
 
 #include "afxpriv.h"
@@ -77,7 +77,7 @@ void CMiniDockFrameWnd::OnSize(UINT nType, int cx, int cy) {
     bar->m_pDockContext->m_sizeMRUFloat = CSize(cx, cy);
 }
 
-// An empty frame is closed by the dock bar that lost its last bar; a frame with a bar asks the bar.
+// An empty frame is closed by the dock bar that lost its last bar; otherwise the bar decides.
 void CMiniDockFrameWnd::OnClose() {
   CControlBar* bar = FloatedBar();
   if (!bar) {
@@ -98,7 +98,7 @@ void CMiniDockFrameWnd::OnDestroy() {
   CMiniFrameWnd::OnDestroy();
 }
 
-// A bar that may dock is dragged by this library, which shows where it would go.
+// A dockable bar is dragged by this library, which shows the target.
 void CMiniDockFrameWnd::OnNcLButtonDown(UINT nHitTest, CPoint point) {
   CControlBar* bar = FloatedBar();
   if (nHitTest != HTCAPTION || !bar || !bar->m_pDockContext) {

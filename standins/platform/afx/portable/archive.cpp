@@ -1,6 +1,6 @@
-// CArchive. Numbers are laid down byte by byte, so that no build's own order or widths reach a
-// file. Pieces larger than the buffer go past it. A reader trusts nothing: a string's length is
-// held against what the file still has before any room is made for it.
+// CArchive. Numbers are stored byte by byte, little-endian, so files do not depend on a build's
+// byte order or widths. Blocks larger than the buffer bypass it. While loading, a string's length
+// is checked against the bytes left in the file before memory is allocated.
 #include "afx.h"
 
 #include <algorithm>
@@ -9,8 +9,8 @@
 
 namespace {
 
-// The forms of a string: [FF FE FF for wide] length text, and the length in one of three widths, an
-// all-ones length announcing the next wider one.
+// The forms of a string: [FF FE FF if wide] length text. The length has one of three widths; all
+// ones mean that the next wider one follows.
 constexpr BYTE kLongMark = 0xFF;
 constexpr WORD kWideMark = 0xFFFE;
 constexpr WORD kLongerMark = 0xFFFF;
@@ -100,7 +100,7 @@ ULONGLONG CArchive::BytesLeft() const {
   return (length > position ? length - position : 0) + (m_end - m_at);
 }
 
-// What fills the buffer more than once goes to the file without a copy.
+// Data that fills the buffer more than once is written without a copy.
 void CArchive::Write(const void* buffer, UINT count) {
   RequireStoring();
   const BYTE* from = static_cast<const BYTE*>(buffer);
@@ -120,7 +120,7 @@ void CArchive::Write(const void* buffer, UINT count) {
   }
 }
 
-// While loading: gives back to the file what was read ahead.
+// While loading: moves the file position back over what was read ahead.
 void CArchive::Flush() {
   if (!m_pFile) return;
   if (IsLoading()) {

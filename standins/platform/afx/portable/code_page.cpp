@@ -1,5 +1,5 @@
-// Between narrow text in a code page and wide text of UTF-16 units: the system's own conversion on
-// Windows, iconv elsewhere. CString and whoever reads 8-bit files come here.
+// Conversion between narrow text in a code page and wide text of UTF-16 units: by Windows there, by
+// iconv elsewhere. Used by CString and by readers of 8-bit files.
 #include "afxstr.h"
 
 #include <algorithm>
@@ -36,7 +36,7 @@ namespace {
 
 constexpr char kUtf16[] = "UTF-16LE";
 constexpr wchar_t kReplacement = 0xFFFD;
-// The page of the field has the euro sign at this byte; the conversion tables here leave it out.
+// On Windows code page 936 has the euro sign at this byte; the tables of iconv do not.
 constexpr unsigned kChinesePage = 936;
 constexpr char kEuroByte = '\x80';
 constexpr wchar_t kEuro = 0x20AC;
@@ -47,7 +47,7 @@ std::string PageName(unsigned page) {
   return "CP" + std::to_string(page ? page : AFX_ANSI_PAGE);
 }
 
-// One conversion descriptor, closed with its owner.
+// Owns a conversion descriptor.
 class Converter {
  public:
   Converter(const std::string& to, const std::string& from)
@@ -59,7 +59,7 @@ class Converter {
   Converter& operator=(const Converter&) = delete;
   bool IsOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
 
-  // Converts what it can and moves the input on; false when it stopped at something invalid.
+  // Converts as much as possible and advances the input; false if it stopped at an invalid byte.
   bool Run(const char*& in, std::size_t& left, std::string* out) {
     const bool whole = Convert(in, left, out);
     Flush(out);
@@ -82,7 +82,7 @@ class Converter {
     }
   }
 
-  // A page with combining marks holds a letter back until it has seen what follows.
+  // A code page with combining marks may keep a letter until the next one is read.
   void Flush(std::string* out) {
     std::array<char, 16> rest;
     char* target = rest.data();
@@ -143,7 +143,7 @@ std::string WideToAnsi(std::wstring_view wide, unsigned page) {
     const auto low = static_cast<std::uint8_t>(in[0]);
     const auto high = static_cast<std::uint8_t>(in[1]);
     narrow.push_back(chinese && (high << 8 | low) == kEuro ? kEuroByte : '?');
-    // Both halves of a pair are one character that the page lacks.
+    // A surrogate pair is one character.
     const bool pair = (high & 0xFC) == 0xD8 && left >= 4 && (in[3] & '\xFC') == '\xDC';
     const std::size_t step = pair ? 4 : 2;
     in += step;

@@ -1,6 +1,6 @@
-// The array of a dock bar as it is published: a null entry closes each row, the first and the last
-// entry are always null, and a value up to 65535 keeps the place of an absent bar with that
-// identifier. Plain functions over the array; they never look at what a bar pointer points to.
+// The array of a dock bar as published: a null entry ends each row, the first and the last entry
+// are always null, and a value up to 65535 is the place holder of an absent bar with that
+// identifier. Plain functions over the array; they do not dereference bar pointers.
 #pragma once
 
 #include "afx.h"
@@ -13,11 +13,11 @@ inline bool IsDockedBar(const void* entry) {
   return reinterpret_cast<std::uintptr_t>(entry) > 0xFFFF;
 }
 
-// -1: not there. `exclude` is an index that doesn't count.
+// -1: not found. `exclude` is an index to ignore.
 int FindDockEntry(const CPtrArray& bars, const void* entry, int exclude = -1);
 void* DockPlaceHolder(UINT id);
 
-// Puts the bar in before index place.at, with a row of its own if asked for; answers its index.
+// Inserts the bar before index place.at, in a new row if place.newRow is set; returns its index.
 int InsertDockEntry(CPtrArray& bars, void* bar, DockPlace place);
-// Takes the entry out; a row that has nothing left goes with it. With a place holder the row stays.
+// Removes the entry and its row if that is empty then. A place holder keeps the row.
 void RemoveDockEntry(CPtrArray& bars, int index, UINT placeHolderId = 0);

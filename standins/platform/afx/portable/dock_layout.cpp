@@ -24,8 +24,8 @@ bool AnyFills(const DockRow& row) {
   return std::any_of(row.begin(), row.end(), [](const DockBox& box) { return box.fills; });
 }
 
-// One bar after the other; those that fill share what the others leave, the last takes the
-// remainder.
+// Places one bar after the other. Filling bars share the rest of the row equally, the
+// last gets the remainder.
 std::vector<Span> FillRow(const DockRow& row, bool horizontal, int length) {
   int fixed = 0, fillers = 0;
   for (const DockBox& box : row) {
@@ -59,7 +59,7 @@ std::vector<Span> SpreadRow(const DockRow& row, bool horizontal, int length) {
     span->end = span->start + size;
     limit = span->start;
   }
-  // Too much for the row: the first ones keep their place, the last ones are cut off by the window.
+  // Row too long: the first bars keep their offset, the window clips the last ones.
   end = 0;
   for (Span& span : spans) {
     const int push = std::max(0, end - span.start);
@@ -163,7 +163,7 @@ RECT DragDockStrip(const RECT& strip, const RECT& bar, DWORD side, POINT from, P
   const int stripStart = horizontal ? strip.top : strip.left;
   const int stripEnd = horizontal ? strip.bottom : strip.right;
   const int barSize = horizontal ? bar.bottom - bar.top : bar.right - bar.left;
-  // Positive `spare` is what the bar can lose, `room` what the strip can go the other way.
+  // `spare`: how much the bar can shrink. `room`: how far the strip can move the other way.
   const int spare = std::max(0, barSize - least);
   const int room = StripStandsBefore(side)
                        ? stripStart - static_cast<int>(horizontal ? area.top : area.left)

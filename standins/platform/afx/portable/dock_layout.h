@@ -1,14 +1,14 @@
-// How docked bars share the window along one side of a frame: where each bar goes, where a dropped
-// bar is put in, which side takes it. Rectangles and integers only; CDockBar and CDockContext carry
-// the answers out. "Along" runs with the side, "across" from the frame's edge inward and is x for
-// the left and right side.
+// Layout of docked bars along one side of a frame: the place of each bar, where a dropped bar is
+// inserted, on which side it docks. Rectangles and integers only; CDockBar and CDockContext apply
+// the results. "Along" is the direction of the side, "across" points from the frame's edge inward
+// and is x for the left and right side.
 #pragma once
 
 #include <vector>
 
 #include "afxv_w32.h"
 
-// The sides, with the numbers of the bar styles CBRS_ALIGN_...
+// Sides, numbered as the bar styles CBRS_ALIGN_...
 enum DockSide : DWORD {
   kDockNone = 0,
   kDockLeft = 0x1000,
@@ -18,11 +18,11 @@ enum DockSide : DWORD {
 };
 inline bool DockRunsAcrossScreen(DWORD side) { return (side & (kDockTop | kDockBottom)) != 0; }
 
-// One visible bar as it wants to be. `entry` is its index in the dock bar's array.
+// One visible bar before layout. `entry` is its index in the dock bar's array.
 struct DockBox {
   SIZE wanted;
-  int offset;  // where it stands along its row now; a bar that fills has no say
-  bool fills;  // takes what the other bars of the row leave
+  int offset;  // current position along the row; ignored for a filling bar
+  bool fills;  // takes the rest of the row
   int entry;
 };
 using DockRow = std::vector<DockBox>;  // at least one box
@@ -39,34 +39,33 @@ struct DockPlan {
   };
   struct Row {
     std::vector<Bar> bars;
-    RECT strip;      // beside the row, towards the middle of the frame; empty without a filling bar
-    int start, end;  // across, the strip included
+    RECT strip;  // next to the row, towards the middle of the frame; empty without a filling bar
+    int start, end;  // across, including the strip
   };
   std::vector<Row> rows;
-  int thickness = 0;  // of all rows with their strips
+  int thickness = 0;  // of all rows and strips
 };
 
-// Rows stand beside each other in their order from left to right or top to bottom. Bars that fill
-// share the rest equally; without one, each bar stays at its offset, pushed aside where bars would
-// overlap and back where they would leave the end. `stripWidth` is left beside every row that is
-// filled.
+// Rows are placed in order from left to right or top to bottom. Filling bars share the rest of the
+// row equally; without one, each bar keeps its offset, but is moved where bars would overlap or
+// exceed the end. `stripWidth` is reserved beside every row with a filling bar.
 DockPlan PlanDockRows(const std::vector<DockRow>& rows, DWORD side, int length, int stripWidth);
 
-// Where a bar whose middle is at the point goes. Inside a row it goes before the first bar whose
-// middle lies further along; over the outer sixth of a row, or beside all rows, it gets a row of
-// its own. `arraySize` is where the new last row begins.
+// The place of a bar whose middle is at the point. Inside a row it is inserted before the first bar
+// whose middle is further along; over the outer sixth of a row, or beside all rows, it gets a row
+// of its own. `arraySize` is the index of a new last row.
 DockPlace FindDockPlace(const DockPlan& plan, DWORD side, POINT middle, int arraySize);
 
-// The side at which a bar is docked when it is dropped at the point: the nearest allowed edge of
-// the area, if it is not further than `reach` inside or outside. Ties go left, top, right, bottom.
+// The side on which a bar dropped at the point docks: the nearest allowed edge of the area, at most
+// `reach` away inside or outside. Ties go left, top, right, bottom.
 DWORD DropSide(POINT point, const RECT& area, DWORD allowed, int reach);
 
-// What the drag frame shows for a side: a band along the whole edge of the area.
+// The preview of docking on a side: a band along the whole edge of the area.
 RECT DockPreview(const RECT& area, DWORD side, SIZE wanted);
 
-// The strip, moved with the pointer from one place to another: only across, and not so far that the
-// row gets thinner than `least` or the strip leaves the area.
+// The strip after a drag between two points: moved across only, so that the row is not thinner than
+// `least` and the strip stays in the area.
 RECT DragDockStrip(const RECT& strip, const RECT& bar, DWORD side, POINT from, POINT to, int least,
                    const RECT& area);
-// How thick the bar is once its strip stands where it was dragged to.
+// Thickness of the bar after its strip was dragged.
 int ThicknessAfterDrag(const RECT& before, const RECT& after, const RECT& bar, DWORD side);

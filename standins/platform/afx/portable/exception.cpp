@@ -27,7 +27,7 @@ BOOL CException::GetErrorMessage(LPTSTR text, UINT capacity, UINT* helpContext) 
   return TRUE;
 }
 
-// Out of memory is no time to ask for more: these belong to the library and are never freed.
+// Static objects owned by the library: throwing one for lack of memory allocates none.
 template <class Exception>
 [[noreturn]] static void ThrowOwned() {
   static Exception exception(FALSE);

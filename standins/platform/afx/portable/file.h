@@ -1,12 +1,12 @@
-// What CFile asks of the operating system: a handful of calls with one error convention. Used by
-// file.cpp; file_windows.cpp and file_unix.cpp implement it.
+// Operating system calls of CFile with one error convention. Used by file.cpp; implemented in
+// file_windows.cpp and file_unix.cpp.
 #pragma once
 
 #include "afx.h"
 
 namespace afx_file {
 
-// Every call gives the system's error number, 0 for success.
+// All functions return the system's error number, 0 for success.
 LONG OpenFile(const CString& path, UINT openFlags, CFile::Handle* handle);
 LONG CloseFile(CFile::Handle handle);
 LONG ReadFile(CFile::Handle handle, void* buffer, UINT count, UINT* taken);

@@ -1,5 +1,5 @@
-// CFile's operating system calls elsewhere. Share flags have no counterpart and are let go; a
-// path's back slashes are taken as they stand.
+// CFile's operating system calls on systems other than Windows. Share flags have no counterpart and
+// are ignored; backslashes in a path are not converted.
 #ifndef _WIN32
 #include "file.h"
 
@@ -36,7 +36,7 @@ LONG OpenFile(const CString& path, UINT flags, CFile::Handle* handle) {
   if (fstat(opened, &status) == 0 && S_ISDIR(status.st_mode)) {
     close(opened);
     *handle = -1;
-    return EISDIR;  // a folder opens for reading here, unlike on Windows
+    return EISDIR;  // open() accepts a directory here, Windows does not
   }
   return 0;
 }

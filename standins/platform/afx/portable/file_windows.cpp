@@ -1,5 +1,4 @@
-// CFile's operating system calls on Windows. Share and access flags are passed on as they are
-// asked.
+// CFile's operating system calls on Windows.
 #ifdef _WIN32
 #include "file.h"
 
@@ -29,7 +28,7 @@ DWORD Share(UINT flags) {
       return FILE_SHARE_READ | FILE_SHARE_WRITE;
     case CFile::shareExclusive:
       return 0;
-    // A reader that says nothing lets others read, a writer keeps the file to itself.
+    // Default: a reader allows others to read, a writer allows nothing.
     default:
       return (flags & 3) == CFile::modeRead ? FILE_SHARE_READ : 0;
   }

@@ -1,4 +1,4 @@
-// CObject, run-time classes and the programmer's checks.
+// CObject, run-time classes and assertions.
 #include "afx.h"
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// CStdioFile: lines over CFile with a small look-ahead. Narrow text is the ANSI code page.
+// CStdioFile: lines over CFile with a small read-ahead. Narrow text has the ANSI code page.
 #include "afx.h"
 
 #include <algorithm>

@@ -1,5 +1,4 @@
-// CStringW and CStringA: everything but formatting (string_format.cpp) and searching
-// (string_find.cpp).
+// CStringW and CStringA without formatting (string_format.cpp) and searching (string_find.cpp).
 #include "afx.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// CStringW and CStringA: comparing, searching, cutting out, trimming and changing case.
+// CStringW and CStringA: comparing, searching, extracting, trimming and changing case.
 #include "afx.h"
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 namespace {
 
-// Letters of the basic alphabets only, the same on every build whatever the locale says.
+// Basic letters only, so that the result is the same on every build and locale.
 wchar_t Upper(wchar_t c) {
   if (c >= L'a' && c <= L'z') return static_cast<wchar_t>(c - 32);
   const bool latin1 = c >= 0xE0 && c <= 0xFE && c != 0xF7;
@@ -27,8 +27,8 @@ wchar_t Lower(wchar_t c) {
   return c >= 0x400 && c <= 0x40F ? static_cast<wchar_t>(c + 80) : c;
 }
 
-// Narrow text may hold halves of two-byte characters, which look like letters: only ASCII changes
-// case, and the second byte of a pair is left alone by MakeUpper and MakeLower below.
+// Trail bytes of two-byte characters look like letters: only ASCII changes case, and MakeUpper and
+// MakeLower below skip the second byte of a pair.
 char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 
@@ -52,7 +52,7 @@ unsigned Rank(Char c) {
   return static_cast<std::make_unsigned_t<Char>>(c);
 }
 
-// The wide blank between ideographs counts.
+// The ideographic space (U+3000) counts too.
 template <class Char>
 bool IsBlank(Char c) {
   return c == ' ' || (c >= 9 && c <= 13) || Rank(c) == 0x3000u;

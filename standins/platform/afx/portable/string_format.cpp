@@ -1,4 +1,5 @@
-// Formatting: the directive is read here, numbers are left to snprintf, text is laid in by hand.
+// Formatting: directives are parsed here, numbers are printed by snprintf,
+// text is inserted directly.
 #include "string_format.h"
 
 #include <cstdint>
@@ -11,7 +12,7 @@
 
 namespace {
 
-constexpr int kWidestField = 32767;  // a width beyond this comes from a damaged format
+constexpr int kWidestField = 32767;  // a larger width comes from a damaged format
 
 enum class Size { Normal, Short, Byte, Long, LongLong, Pointer, Wide };
 
@@ -23,7 +24,7 @@ struct Directive {
   char conversion = 0;
 };
 
-// va_list may be an array type; inside a structure it can be handed on by reference everywhere.
+// va_list may be an array type; in a structure it can be passed by reference everywhere.
 struct Arguments {
   va_list list;
 };
@@ -183,7 +184,7 @@ std::basic_string<Char> Convert(std::string_view text) {
     return std::string(text);
 }
 
-// Capital letters mean the other width; h, l and w say the width outright.
+// Capital letters mean the other width; h, l and w give the width.
 template <class Char>
 bool IsWideText(const Directive& directive) {
   if (directive.size == Size::Short) return false;
@@ -254,7 +255,7 @@ void AppendDirective(std::basic_string<Char>* out, const Directive& directive,
       return;
     }
     default:
-      return;  // an unknown directive prints nothing and takes nothing
+      return;  // an unknown directive prints nothing and consumes no argument
   }
 }
 

@@ -1,6 +1,5 @@
-// Formatting with the rules of Windows' printf family, the same on every build. Used by CString
-// only; the widths of text and of long are what the C library would decide differently from place
-// to place.
+// Formatting with the rules of Windows' printf family, the same on every build: C libraries differ
+// in the width of text and of long. Used by CString only.
 #pragma once
 
 #include <cstdarg>

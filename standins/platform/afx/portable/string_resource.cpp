@@ -1,4 +1,4 @@
-// CString::LoadString. A string resource has no terminator: the loader tells its length.
+// CString::LoadString. A string resource has no terminator: the loader returns its length.
 #ifdef _WIN32
 #include "afx.h"
 

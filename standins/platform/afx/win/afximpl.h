@@ -1,8 +1,8 @@
-// What the window half keeps for itself: the state of one thread, the maps from handles to objects
-// and the one application state. No header of the library includes this.
+// Internals of the window part: the state of one thread, the maps from handles to objects and the
+// application state. Not included by headers of the library.
 //
-// The state of a thread is never freed. Static window objects of modules destroy their windows
-// after the thread's own storage would be gone, and they look into the maps to do it.
+// The state of a thread is never freed: static window objects of modules destroy their windows
+// after thread storage is released, and use the maps for it.
 #pragma once
 
 #include "../afxwin.h"
@@ -12,9 +12,9 @@
 #include <unordered_map>
 #include <vector>
 
-// Lasting objects are entered by Attach and leave by Detach; temporary ones are made for handles
-// that nobody attached and go all at once. Make and Disarm know how one kind of object holds its
-// handle; a disarmed object no longer owns anything, so that deleting it leaves the handle alone.
+// Attach enters permanent objects and Detach removes them; temporary ones are created for handles
+// without an object and all deleted together. Make and Disarm are defined for each object type; a
+// disarmed object does not own its handle, so deleting it keeps the handle.
 template <class Object>
 class AfxHandleMap {
  public:
@@ -34,7 +34,8 @@ class AfxHandleMap {
     return temporary;
   }
   void SetPermanent(void* handle, Object* object) { m_permanent[handle] = object; }
-  // Only the object's own entry: a stock handle may have been attached by another one since.
+  // Removes the entry only if it is this object's: a stock handle may have been
+  // attached to another one since.
   void Remove(void* handle, const Object* object) {
     auto at = m_permanent.find(handle);
     if (at != m_permanent.end() && at->second == object) m_permanent.erase(at);
@@ -64,15 +65,14 @@ struct AfxThreadState {
   AfxHandleMap<CGdiObject> objects;
   int tempLocks = 0;
 
-  CWnd* wndInit = nullptr;  // waits for the window that is about to be created
+  CWnd* wndInit = nullptr;  // attached to the next window created
   HHOOK creationHook = nullptr;
-  MSG lastSent{};  // the message that the innermost window procedure is handling
-  HWND lockoutNotify =
-      nullptr;  // a dialog whose controls are being filled: their notifications rest
+  MSG lastSent{};                // message of the innermost window procedure
+  HWND lockoutNotify = nullptr;  // dialog being filled: its controls' notifications are ignored
   HWND trackingWindow = nullptr;
   HMENU trackingMenu = nullptr;
   CWinThread* thread = nullptr;
-  MSG current{};  // the pump's message while there is no thread object
+  MSG current{};  // of the pump, without a thread object
   wchar_t className[96]{};
 
   CToolTipCtrl* toolTip = nullptr;  // serves the windows with EnableToolTips
@@ -93,7 +93,7 @@ class AFX_MODULE_STATE {
 
 BOOL AfxIsIdleMessage(const MSG* message, POINT* lastPoint, UINT* lastMessage);
 MSG* AfxCurrentMessage();
-// The entry of one table, or null.
+// The entry in one table, or null.
 const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP_ENTRY* entry, UINT message, UINT code,
                                             UINT id);
 void AfxReportException(const CException& e);

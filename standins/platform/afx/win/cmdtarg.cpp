@@ -1,4 +1,4 @@
-// The search of a command through message maps, and the state of menu rows and controls.
+// Command search through message maps, and the state of menu rows and controls.
 #include "afximpl.h"
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
@@ -88,10 +88,10 @@ CCmdUI::CCmdUI() = default;
 void CCmdUI::Enable(BOOL bOn) {
   m_bEnableChanged = TRUE;
   if (m_pMenu) {
-    if (m_pSubMenu) return;  // a pop-up row has no state of its own
+    if (m_pSubMenu) return;  // a row with a sub-menu has no state
     m_pMenu->EnableMenuItem(m_nIndex, MF_BYPOSITION | (bOn ? MF_ENABLED : MF_DISABLED | MF_GRAYED));
   } else if (m_pOther) {
-    // A window that is disabled while it has the focus would take the keyboard with it.
+    // Moves the focus first: a disabled window with the focus would receive the keys.
     if (!bOn && ::GetFocus() == m_pOther->m_hWnd)
       m_pOther->GetParent()->SendMessage(WM_NEXTDLGCTL, 0, FALSE);
     m_pOther->EnableWindow(bOn);
@@ -122,12 +122,12 @@ void CCmdUI::SetText(LPCTSTR lpszText) {
   } else if (m_pOther) {
     CString old;
     m_pOther->GetWindowText(old);
-    if (old != lpszText) m_pOther->SetWindowText(lpszText);  // an equal text would only flicker
+    if (old != lpszText) m_pOther->SetWindowText(lpszText);  // avoids flicker
   }
 }
 
 BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
-  if (m_nID == 0 || LOWORD(m_nID) == 0xFFFF) return TRUE;  // separators and pop-up rows
+  if (m_nID == 0 || LOWORD(m_nID) == 0xFFFF) return TRUE;  // separator or sub-menu
   m_bEnableChanged = FALSE;
   BOOL handled = pTarget->OnCmdMsg(m_nID, int(CN_UPDATE_COMMAND_UI), this, nullptr);
   if (bDisableIfNoHndler && !m_bEnableChanged) {

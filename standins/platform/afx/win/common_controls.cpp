@@ -6,7 +6,7 @@ IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
 
 namespace {
-// The window classes of the common controls exist once the library has been asked for them.
+// The classes of the common controls must be registered once.
 void RegisterCommonControls() {
   static const bool once = [] {
     INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_BAR_CLASSES | ICC_UPDOWN_CLASS};
@@ -40,7 +40,7 @@ BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) {
                         nullptr);
 }
 
-// Number 0 means the whole window, which is then found by its handle; other parts by their number.
+// Number 0 means the whole window, identified by its handle; other parts by their number.
 void CToolTipCtrl::FillTool(TOOLINFO& info, const CWnd* pWnd, UINT_PTR nIDTool) {
   info = {};
   info.cbSize = sizeof(TOOLINFO);

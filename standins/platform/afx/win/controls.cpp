@@ -1,4 +1,4 @@
-// The controls of Windows: creation, and giving owner drawing to the object.
+// The standard controls: creation, and reflected owner drawing.
 #include "afximpl.h"
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
@@ -96,7 +96,7 @@ void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
   if (!bNoScroll) SendMessage(EM_SCROLLCARET);
 }
 
-// The control wants the buffer's length in its first two bytes.
+// The control reads the buffer's length from its first two bytes.
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
   if (nMaxLength < 1) return 0;
   *reinterpret_cast<WORD*>(lpszBuffer) = WORD(nMaxLength);

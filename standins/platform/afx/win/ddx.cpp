@@ -1,5 +1,5 @@
-// Dialog data exchange: values to controls and back, with the messages for wrong input in the
-// user's language.
+// Dialog data exchange: values to controls and back, with the messages for invalid
+// input in the user's language.
 #include "afximpl.h"
 
 #include <cerrno>
@@ -8,7 +8,7 @@
 
 HWND CDataExchange::PrepareCtrl(int nIDC) {
   HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
-  if (!control) AfxThrowNotSupportedException();  // dialog resource and code disagree
+  if (!control) AfxThrowNotSupportedException();  // resource and code disagree
   m_idLastControl = nIDC;
   m_bEditLastControl = FALSE;
   return control;
@@ -34,13 +34,13 @@ void CDataExchange::Fail() {
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
   CDataExchange exchange(this, bSaveAndValidate);
   AfxThreadState& state = AfxGetThreadState();
-  HWND old = std::exchange(state.lockoutNotify, m_hWnd);  // filling a control is no user's change
+  HWND old = std::exchange(state.lockoutNotify, m_hWnd);  // suppress notifications
   BOOL done = FALSE;
   try {
     DoDataExchange(&exchange);
     done = TRUE;
   } catch (CUserException* e) {
-    e->Delete();  // the user has been told
+    e->Delete();  // its message was shown
   } catch (CException* e) {
     AfxReportException(*e);
     e->Delete();
@@ -65,7 +65,7 @@ CString TextOf(HWND control) {
 }
 
 void SetTextOf(HWND control, LPCTSTR text) {
-  if (TextOf(control) != text) ::SetWindowText(control, text);  // an edit keeps its caret
+  if (TextOf(control) != text) ::SetWindowText(control, text);  // keeps the caret
 }
 
 [[noreturn]] void Refuse(CDataExchange* pDX, LPCTSTR message) {
@@ -78,7 +78,7 @@ bool OnlyBlanks(const wchar_t* at) {
   return *at == 0;
 }
 
-// The whole text must be the number; blanks around it are let through.
+// The whole text must be the number; blanks around it are ignored.
 bool ParseInteger(LPCTSTR text, long long low, long long high, long long& value) {
   wchar_t* end = nullptr;
   errno = 0;
@@ -167,8 +167,8 @@ bool IsRadio(HWND control) {
 }
 }  // namespace
 
-// The group runs from its first button to the next control with WS_GROUP; other controls that stand
-// among the buttons are not counted.
+// The group runs from its first button to the next control with WS_GROUP; other controls among the
+// buttons are not counted.
 void DDX_Radio(CDataExchange* pDX, int nIDC, int& value) {
   HWND control = pDX->PrepareCtrl(nIDC);
   if (pDX->m_bSaveAndValidate) value = -1;
@@ -209,7 +209,7 @@ void DDX_CBString(CDataExchange* pDX, int nIDC, CString& value) {
   }
   LRESULT found = ::SendMessage(control, CB_SELECTSTRING, WPARAM(-1),
                                 reinterpret_cast<LPARAM>(static_cast<LPCTSTR>(value)));
-  if (found == CB_ERR) ::SetWindowText(control, value);  // an editable box shows any text
+  if (found == CB_ERR) ::SetWindowText(control, value);  // an editable box takes any text
 }
 
 void DDX_LBString(CDataExchange* pDX, int nIDC, CString& value) {

@@ -1,5 +1,5 @@
-// Dialogs: creation from a template, the modal loop that keeps the thread's own message filters in
-// play, the standard buttons.
+// Dialogs: creation from a template, the modal loop, which applies the thread's message
+// filters, the standard buttons.
 #include "afximpl.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -17,7 +17,7 @@ CDialog::~CDialog() {
   if (m_hWnd) DestroyWindow();
 }
 
-// ---- the modal loop, of any window
+// ---- modal loop of any window
 
 namespace {
 void ShowAtIdle(CWnd* wnd, bool& pending) {
@@ -27,13 +27,14 @@ void ShowAtIdle(CWnd* wnd, bool& pending) {
   pending = false;
 }
 
-// What happens each time the queue has run empty. False: nothing more to do.
+// Called each time the queue is empty. False: no more idle work.
 bool ModalIdle(CWnd* wnd, DWORD flags, HWND parent, LONG count) {
   if (!(flags & MLF_NOIDLEMSG) && parent && count == 0)
     ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(wnd->m_hWnd));
   return !(flags & MLF_NOKICKIDLE) && wnd->SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, count);
 }
-constexpr UINT kSysTimer = 0x0118;  // the caret's blinking; not published in the headers
+// Blinks the caret; not in the published headers.
+constexpr UINT kSysTimer = 0x0118;
 }  // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
@@ -52,7 +53,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     }
     do {
       if (!AfxPumpMessage()) {
-        AfxPostQuitMessage(int(message->wParam));  // for the loop outside
+        AfxPostQuitMessage(int(message->wParam));  // for the outer loop
         m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
         return -1;
       }
@@ -75,7 +76,7 @@ void CWnd::EndModalLoop(int nResult) {
   m_nModalResult = nResult;
   if (!(m_nFlags & WF_CONTINUEMODAL)) return;
   m_nFlags &= ~WF_CONTINUEMODAL;
-  PostMessage(WM_NULL);  // wakes the loop
+  PostMessage(WM_NULL);  // ends GetMessage
 }
 
 // ---- creation
@@ -104,7 +105,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
   HWND window =
       ::CreateDialogIndirect(hInst, lpDialogTemplate, AfxHandleOf(pParentWnd), AfxDlgProc);
   if (!AfxUnhookWindowCreate()) PostNcDestroy();
-  // EndDialog was called while the dialog was being set up: it ends before it was seen.
+  // EndDialog was called during creation: the dialog ends without being shown.
   if (window && !(m_nFlags & WF_CONTINUEMODAL)) {
     ::DestroyWindow(window);
     window = nullptr;
@@ -180,7 +181,7 @@ INT_PTR CDialog::DoModal() {
     e->Delete();
     m_nModalResult = -1;
   }
-  // The owner comes back before the dialog goes, or Windows would activate another program.
+  // Enables the owner before the dialog is destroyed, or Windows would activate another program.
   if (disabled) ::EnableWindow(owner, TRUE);
   if (owner && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(owner);
   DestroyWindow();
@@ -213,10 +214,11 @@ LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
   return Default();
 }
 
-// A template that names no place is centred; one that asks for a place by its style is left alone.
+// A template at the default place is centred; one with a style for its place is not.
 BOOL CDialog::CheckAutoCenter() {
   if (!m_lpDialogTemplate) return TRUE;
-  struct Extended {  // the newer form of a template; told from the older by its first four bytes
+  // The newer form of a template, identified by its first four bytes.
+  struct Extended {
     WORD version, signature;
     DWORD helpId, exStyle, style;
     WORD items;
@@ -243,14 +245,14 @@ void CDialog::OnOK() {
 
 void CDialog::OnCancel() { EndDialog(IDCANCEL); }
 
-// Keys of the dialog: Tab, arrows, Enter, Esc and mnemonics. A multi-line edit that keeps Esc to
-// itself closes its dialog on its own.
+// Dialog keys: Tab, arrows, Enter, Esc and mnemonics. A multi-line edit that handles Esc
+// itself closes its dialog.
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
   return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
 }
 
-// Commands that the dialog does not know go on to its owner and to the program; the numbers of
-// controls and of system commands don't.
+// Commands without a handler here go to the owner and the program, except identifiers of
+// controls and of system commands.
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
   if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
   bool command = nCode == CN_COMMAND || UINT(nCode) == CN_UPDATE_COMMAND_UI;

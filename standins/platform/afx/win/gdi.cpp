@@ -1,5 +1,5 @@
-// Graphics objects and device contexts: handle maps, owners, and the few drawings that Windows has
-// no call for.
+// Graphics objects and device contexts: handle maps, owners, and drawing functions
+// that Windows does not offer.
 #include "afximpl.h"
 
 IMPLEMENT_DYNCREATE(CGdiObject, CObject)
@@ -160,7 +160,7 @@ void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) {
   FillSolidRect(CRect(x, y, x + cx, y + cy), clr);
 }
 
-// The corners at lower left and upper right take the second colour.
+// The corners at lower left and upper right have the second colour.
 void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight) {
   FillSolidRect(x, y, cx - 1, 1, clrTopLeft);
   FillSolidRect(x, y, 1, cy - 1, clrTopLeft);
@@ -178,7 +178,8 @@ CBrush* CDC::GetHalftoneBrush() {
     for (int i = 0; i < 8; ++i) rows[i] = WORD(0x5555 << (i & 1));
     CBitmap pattern;
     pattern.CreateBitmap(8, 8, 1, 1, rows);
-    auto* made = new CBrush;  // stays: whoever selected it may outlive the library's own statics
+    // Never freed: it may still be selected after the library's static objects are destroyed.
+    auto* made = new CBrush;
     made->CreatePatternBrush(&pattern);
     return made;
   }();
@@ -217,7 +218,7 @@ void CDC::DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeL
   if (lpRectLast) {
     CRgn last;
     MakeFrameRegion(last, lpRectLast, sizeLast);
-    if (pBrush == pBrushLast) {  // what both cover stays as it is: no flicker
+    if (pBrush == pBrushLast) {  // keeps the overlap: no flicker
       fresh.CombineRgn(&fresh, &last, RGN_XOR);
     } else {
       InvertRegion(*this, last, pBrushLast);

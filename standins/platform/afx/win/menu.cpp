@@ -43,7 +43,7 @@ int CMenu::GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const {
 }
 
 namespace {
-// Remembers, while a menu is tracked, whose rows its owner is asked to measure.
+// The menu being tracked, whose objects measure the rows for the owner window.
 class Tracking {
  public:
   Tracking(HWND owner, HMENU menu)

@@ -1,10 +1,11 @@
-// The state behind the Afx functions: one for the process (application, resources, modules), one
-// for each thread (handle maps, the message at hand).
+// The state of the Afx functions: one for the process (application, resources, modules), one for
+// each thread (handle maps, current message).
 #include "afximpl.h"
 
 namespace {
 AFX_MODULE_STATE& ModuleState() {
-  static auto* state = new AFX_MODULE_STATE;  // outlives every static object of every module
+  // Never freed: outlives the static objects of all modules.
+  static auto* state = new AFX_MODULE_STATE;
   return *state;
 }
 
@@ -140,7 +141,8 @@ CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state)
 CDynLinkLibrary::~CDynLinkLibrary() { std::erase(ModuleState().libraries, this); }
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hMod) {
-  if (state.bInitialized) return TRUE;  // each way into a DLL may come here
+  // A DLL may have several entry points that call this.
+  if (state.bInitialized) return TRUE;
   state = {TRUE, hMod, hMod};
   return TRUE;
 }

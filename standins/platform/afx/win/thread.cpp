@@ -56,8 +56,8 @@ BOOL CWinThread::PumpMessage() {
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
   CWnd* main = AfxGetMainWnd();
   if (CWnd::WalkPreTranslateTree(AfxHandleOf(main), pMsg)) return TRUE;
-  // A modeless dialog or floating bar is no child of the main window, whose accelerators serve it
-  // too.
+  // A modeless dialog or floating bar is not a child of the main window, whose
+  // accelerators apply to it too.
   if (main && pMsg->hwnd && CWnd::FromHandle(pMsg->hwnd)->GetTopLevelParent() != main)
     return main->PreTranslateMessage(pMsg);
   return FALSE;
@@ -70,7 +70,7 @@ BOOL AfxIsIdleMessage(const MSG* message, POINT* lastPoint, UINT* lastMessage) {
                 message->message == *lastMessage;
     *lastPoint = message->pt;
     *lastMessage = message->message;
-    return !same;  // Windows repeats moves that are none
+    return !same;  // Windows repeats WM_MOUSEMOVE
   }
   return message->message != WM_PAINT && message->message != kSysTimer;
 }
@@ -102,7 +102,7 @@ void UpdateCommands(CWnd* wnd) {
   wnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
 }
 
-// Frames beside the main window, floating bars among them, update themselves too.
+// Frames other than the main window, floating bars among them, are updated too.
 BOOL CALLBACK UpdateFrame(HWND window, LPARAM mainWindow) {
   CWnd* wnd = CWnd::FromHandlePermanent(window);
   if (wnd && window != reinterpret_cast<HWND>(mainWindow) && wnd->IsFrameWnd()) UpdateCommands(wnd);
@@ -143,7 +143,7 @@ void AfxReportException(const CException& e) {
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
   if (pMsg->message == WM_CREATE) return -1;
   if (pMsg->message == WM_PAINT) {
-    // A window that can't paint itself would be asked again for ever.
+    // Without this the window would get WM_PAINT for ever.
     ::ValidateRect(pMsg->hwnd, nullptr);
     return 0;
   }
@@ -215,7 +215,7 @@ int AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
 }
 
 namespace {
-// A box that names no picture gets the one that goes with its buttons.
+// A box without an icon gets the one that fits its buttons.
 UINT WithIcon(UINT type) {
   if (type & MB_ICONMASK) return type;
   UINT buttons = type & MB_TYPEMASK;

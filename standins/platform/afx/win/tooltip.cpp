@@ -1,5 +1,5 @@
-// Tips for parts of a window that are no windows themselves. One tool tip control serves the
-// thread: as the pointer comes over another part, that part becomes its only tool.
+// Tips for parts of a window that are not windows. The thread has one tool tip control; the part
+// under the pointer is its only tool.
 #include "afximpl.h"
 
 #include <cstdlib>
@@ -11,7 +11,7 @@ BOOL CWnd::EnableToolTips(BOOL bEnable) {
   return old;
 }
 
-// The base knows the window's child controls as parts.
+// The base class supports the child controls as parts.
 INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
   HWND child = ::ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
   if (!child || child == m_hWnd) return -1;
@@ -33,16 +33,16 @@ void DropTool(AfxThreadState& state) {
   state.tipWindow = nullptr;
 }
 
-// Made anew when its owner has gone and taken the control along.
+// Created again after its owner was destroyed with the control.
 bool EnsureControl(AfxThreadState& state, CWnd* owner) {
-  if (!state.toolTip) state.toolTip = new CToolTipCtrl;  // lives with the thread
+  if (!state.toolTip) state.toolTip = new CToolTipCtrl;  // never freed, like the state
   if (state.toolTip->m_hWnd) return true;
   if (!state.toolTip->Create(owner->GetTopLevelParent(), TTS_ALWAYSTIP)) return false;
   state.toolTip->SendMessage(TTM_ACTIVATE, TRUE);
   return true;
 }
 
-// The control counts time from a pointer move over the tool's own window.
+// The control starts its delay at a pointer move over the tool's own window.
 void Relay(CToolTipCtrl* control, MSG message, HWND window) {
   message.hwnd = window;
   CPoint client(message.pt);

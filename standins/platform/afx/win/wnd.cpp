@@ -1,5 +1,5 @@
-// CWnd's longer wrappers: relations between windows, scrolling, the layout of bars, sending to all
-// descendants, the routing of a message before it is dispatched.
+// CWnd's longer functions: relations between windows, scrolling, the layout of bars, sending to all
+// descendants, PreTranslateMessage.
 #include "afximpl.h"
 
 // ---- text and style
@@ -65,7 +65,7 @@ BOOL CWnd::IsTopParentActive() const {
 }
 
 CWnd* CWnd::GetDescendantWindow(HWND hWnd, int nID, BOOL bOnlyPerm) {
-  // A child of its own that is found comes before the children of that child.
+  // A direct child is preferred to the children of that child.
   if (HWND found = ::GetDlgItem(hWnd, nID)) {
     if (::GetTopWindow(found))
       if (CWnd* deeper = GetDescendantWindow(found, nID, bOnlyPerm)) return deeper;
@@ -159,7 +159,7 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
 }
 
 void AfxRepositionWindow(AFX_SIZEPARENTPARAMS* lpLayout, HWND hWnd, LPCRECT lpRect) {
-  if (lpLayout && !lpLayout->hDWP) return;  // only asked
+  if (lpLayout && !lpLayout->hDWP) return;  // query only
   CRect old;
   ::GetWindowRect(hWnd, old);
   ::MapWindowPoints(nullptr, ::GetParent(hWnd), reinterpret_cast<LPPOINT>(&old), 2);
@@ -215,7 +215,7 @@ void CWnd::ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect, LPCRECT lpClip
     ::ScrollWindow(m_hWnd, xAmount, yAmount, lpRect, lpClipRect);
     return;
   }
-  // Windows scrolls nothing in a hidden window; its children move all the same.
+  // Windows does not scroll a hidden window; its children are moved all the same.
   for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
     CRect rect;
     ::GetWindowRect(child, rect);
@@ -264,7 +264,7 @@ BOOL CWnd::SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
   ::SetScrollInfo(at.window, at.bar, lpScrollInfo, bRedraw);
   return TRUE;
 }
-// The highest position that scrolling can reach: a page from the end of the range.
+// The highest position: a page before the end of the range.
 int CWnd::GetScrollLimit(int nBar) {
   int low = 0, high = 0;
   GetScrollRange(nBar, &low, &high);
@@ -323,7 +323,7 @@ BOOL CWnd::PreTranslateInput(LPMSG lpMsg) {
 // ---- state of the controls
 
 namespace {
-// Only push buttons are greyed for want of a handler: a check box or an edit works without one.
+// Only push buttons are greyed if there is no handler: a check box or an edit works without one.
 bool IsPushButton(CWnd* control) {
   if (!(control->SendMessage(WM_GETDLGCODE) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
     return false;
@@ -338,7 +338,7 @@ void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
     CCmdUI state;
     state.m_nID = WORD(::GetDlgCtrlID(child));
     state.m_pOther = FromHandle(child);
-    // This window's own handlers answer before those of the target.
+    // This window's own handlers take precedence over the target's.
     if (CWnd::OnCmdMsg(state.m_nID, int(CN_UPDATE_COMMAND_UI), &state, nullptr)) continue;
     state.DoUpdate(pTarget, bDisableIfNoHndler && IsPushButton(state.m_pOther));
   }

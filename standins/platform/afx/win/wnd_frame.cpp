@@ -1,5 +1,5 @@
-// From a window to the frames around it. Apart from the rest of CWnd because it alone has to know
-// the frame classes.
+// From a window to its frames. Separate from the rest of CWnd because only this
+// needs the frame classes.
 #include "afximpl.h"
 
 CFrameWnd* CWnd::GetParentFrame() const {

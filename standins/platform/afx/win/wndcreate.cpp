@@ -1,6 +1,5 @@
-// How a window gets its object: the hook that catches a window in the moment of its creation, the
-// window procedure that all windows of the library share, attaching and subclassing, window
-// classes.
+// Attaching windows to objects: the hook that attaches a window during its creation, the window
+// procedure of all windows of the library, subclassing, window classes.
 #include "afximpl.h"
 
 #include <cwchar>
@@ -56,7 +55,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
 }
 
 namespace {
-// What a message gets whose handler threw: the creation fails, the painting counts as done.
+// The result of a message whose handler threw: creation fails, painting counts as done.
 LRESULT ResultAfterException(const MSG& message) {
   if (message.message == WM_CREATE) return -1;
   if (message.message == WM_PAINT) ::ValidateRect(message.hwnd, nullptr);
@@ -102,7 +101,7 @@ void AttachAndSubclass(CWnd* wnd, HWND window) {
   if (old != AfxWndProc) *wnd->GetSuperWndProcAddr() = old;
 }
 
-// The input method makes a window of its own in the middle of the first creation.
+// The input method creates a window of its own during the first creation.
 bool IsInputMethodWindow(HWND window) {
   wchar_t name[8] = L"";
   return ::GetClassName(window, name, 8) && _wcsicmp(name, L"ime") == 0;
@@ -138,8 +137,7 @@ BOOL AfxUnhookWindowCreate() {
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
-  // As published: a class of our own without a background brush, so whoever wants one erases
-  // itself.
+  // As published: a class of the library without a background brush; the window erases itself.
   if (!cs.lpszClass)
     cs.lpszClass =
         AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW));
@@ -160,7 +158,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
   HWND window =
       ::CreateWindowEx(cs.dwExStyle, cs.lpszClass, cs.lpszName, DWORD(cs.style), cs.x, cs.y, cs.cx,
                        cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
-  if (!AfxUnhookWindowCreate()) PostNcDestroy();  // no window was ever made
+  if (!AfxUnhookWindowCreate()) PostNcDestroy();  // no window was created
   return window != nullptr;
 }
 
@@ -179,14 +177,14 @@ BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, 
 
 BOOL CWnd::DestroyWindow() {
   if (!m_hWnd) return FALSE;
-  // A lasting object is detached while its window goes, and may be deleted by then.
+  // A permanent object is detached while its window is destroyed, and may be deleted by then.
   bool lasting = FromHandlePermanent(m_hWnd) != nullptr;
   BOOL destroyed = ::DestroyWindow(m_hWnd);
   if (!lasting) Detach();
   return destroyed;
 }
 
-// The last message a window gets. Puts the procedure back, lets go of the handle and, for the main
+// The last message of a window. Restores the procedure, detaches the handle and, for the main
 // window, ends the program.
 void CWnd::OnNcDestroy() {
   CWinThread* thread = AfxGetThread();

@@ -1,5 +1,5 @@
-// The road of a message: from the shared procedure through WindowProc and the message maps to the
-// handler, or on to the procedure that the window had before.
+// Message dispatch: from the shared procedure through WindowProc and the message maps to the
+// handler, or to the procedure that the window had before.
 #include "afximpl.h"
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
@@ -34,7 +34,7 @@ const MSG* CWnd::GetCurrentMessage() { return &AfxGetThreadState().lastSent; }
 // ---- calling a typed handler
 
 namespace {
-// What a reflected colour query carries.
+// The data of a reflected colour query.
 struct CtlColor {
   HDC hDC;
   UINT nCtlType;
@@ -64,7 +64,7 @@ Result Call(CWnd* wnd, AFX_PMSG pfn, std::type_identity_t<Arguments>... argument
   return (wnd->*std::bit_cast<Result (CWnd::*)(Arguments...)>(pfn))(arguments...);
 }
 
-// A colour query is answered by a brush; without one the message goes its default way.
+// The result of a colour query is a brush; without one the default handling follows.
 bool CallColour(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m, LRESULT& result) {
   HBRUSH brush;
   if (entry.nSig == AfxSig_h_D_u) {
@@ -78,7 +78,7 @@ bool CallColour(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m, LRES
   return brush != nullptr;
 }
 
-// Handlers whose answer is the message's result. False: not handled, the default follows.
+// Handlers whose result is the message's result. False: not handled, the default follows.
 bool CallForResult(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m, LRESULT& result) {
   AFX_PMSG pfn = entry.pfn;
   switch (entry.nSig) {
@@ -94,7 +94,7 @@ bool CallForResult(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m, L
     case AfxSig_b_W_u_u:
       result = Call<BOOL, CWnd*, UINT, UINT>(wnd, pfn, m.WndW(), m.LowL(), m.HighL());
       return true;
-    case AfxSig_b_u_i_p:  // the wheel: FALSE sends the message on to the parent
+    case AfxSig_b_u_i_p:  // WM_MOUSEWHEEL: FALSE passes it to the parent
       result = Call<BOOL, UINT, short, CPoint>(wnd, pfn, m.LowW(), short(m.HighW()), m.PointL());
       return result != 0;
     case AfxSig_h_D_W_u:
@@ -124,14 +124,14 @@ bool CallForResult(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m, L
   }
 }
 
-// A scroll bar that is no lasting object is known by its handle only; no virtual of CScrollBar may
-// be called on it. Code and position are signed 16 bit numbers.
+// A scroll bar without a permanent object is identified by its handle; no virtual function of
+// CScrollBar may be called on it. Code and position are signed 16-bit numbers.
 void CallScroll(CWnd* wnd, AFX_PMSG pfn, const Message& m) {
   Call<void, UINT, UINT, CScrollBar*>(wnd, pfn, UINT(short(m.LowW())), UINT(short(m.HighW())),
                                       static_cast<CScrollBar*>(m.WndL()));
 }
 
-// Handlers without an answer: the message's result is 0.
+// Handlers without a result: the message's result is 0.
 void CallForEffect(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m) {
   AFX_PMSG pfn = entry.pfn;
   switch (entry.nSig) {
@@ -186,7 +186,8 @@ void CallForEffect(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m) {
       return Call<void, CMenu*, UINT, BOOL>(wnd, pfn, m.MenuW(), m.LowL(), BOOL(m.HighL()));
     case AfxSig_v_b_s:
       return Call<void, BOOL, NCCALCSIZE_PARAMS*>(wnd, pfn, BOOL(m.w), m.As<NCCALCSIZE_PARAMS*>());
-    case AfxSig_v_b_W_W:  // lParam is the child that comes, wParam the one that goes
+    // lParam is the child being activated, wParam the one being deactivated.
+    case AfxSig_v_b_W_W:
       return Call<void, BOOL, CWnd*, CWnd*>(wnd, pfn, m.As<HWND>() == wnd->m_hWnd, m.WndL(),
                                             m.WndW());
     case AfxSig_v_WINDOWPOS:
@@ -200,12 +201,12 @@ void CallForEffect(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const Message& m) {
 
 bool HasResult(UINT_PTR sig) { return sig <= AfxSig_u_v; }
 
-// All colour queries are one message to the maps.
+// All colour queries are one message in the maps.
 UINT MapMessage(UINT message) {
   return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC ? WM_CTLCOLOR : message;
 }
 
-// A frame learns that it became active, also when one of its pop-ups did.
+// Notifies a frame of its activation, also through one of its pop-ups.
 void TellTopLevelOfActivation(CWnd* wnd, UINT state, CWnd* other) {
   if (wnd->GetStyle() & WS_CHILD) return;
   CWnd* top = wnd->GetTopLevelParent();
@@ -246,7 +247,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 // ---- commands and notifications
 
 namespace {
-// Asks whether a command is enabled without touching any menu row.
+// Queries whether a command is enabled without changing a menu row.
 class TestCmdUI : public CCmdUI {
  public:
   void Enable(BOOL bOn) override {
@@ -264,12 +265,12 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
   UINT id = LOWORD(wParam);
   auto control = reinterpret_cast<HWND>(lParam);
   int code = HIWORD(wParam);
-  if (!control) {  // menu or accelerator; the accelerator's 1 means the same
+  if (!control) {  // menu or accelerator
     if (id == 0) return FALSE;
     TestCmdUI test;
     test.m_nID = id;
     OnCmdMsg(id, int(CN_UPDATE_COMMAND_UI), &test, nullptr);
-    if (!test.enabled) return TRUE;  // a disabled command is swallowed
+    if (!test.enabled) return TRUE;  // a disabled command is ignored
     code = CN_COMMAND;
   } else {
     if (AfxGetThreadState().lockoutNotify == m_hWnd) return TRUE;
@@ -288,7 +289,7 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
   return OnCmdMsg(UINT(id), int(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
 }
 
-// ---- what a parent gives back to its control
+// ---- reflection to the control
 
 BOOL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
   CWnd* child = FromHandlePermanent(hWndChild);
@@ -349,7 +350,7 @@ void CWnd::OnVScroll(UINT, UINT, CScrollBar* pScrollBar) {
 }
 
 namespace {
-// The lasting menu object whose own rows hold the identifier. A row that opens a sub-menu has none.
+// The permanent menu object with a row of this identifier. A row with a sub-menu has none.
 CMenu* FindPopupById(HMENU menu, UINT id) {
   for (int i = 0, count = ::GetMenuItemCount(menu); i < count; ++i) {
     if (HMENU sub = ::GetSubMenu(menu, i)) {
