@@ -1,4 +1,4 @@
-// CArchive: the exact bytes, and a reader that trusts no length.
+// CArchive: the exact bytes, and the checks of lengths while loading.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -18,7 +18,7 @@ Bytes Stored(const std::function<void(CArchive&)>& write, int bufferSize = 4096)
   return Bytes(file.GetBufferPtr(), file.GetBufferPtr() + file.GetLength());
 }
 
-// The cause of the exception that reading raised, or none.
+// The cause of the exception that `read` threw, or none.
 int Loaded(const Bytes& bytes, const std::function<void(CArchive&)>& read) {
   CMemFile file(bytes.data(), static_cast<UINT>(bytes.size()));
   CArchive archive(&file, CArchive::load);
@@ -47,7 +47,7 @@ TEST(Archive, NumbersAreLittleEndian) {
                           0,    0,    0,    0xF0, 0x3F, 0,    0,    0x80, 0x3F}));
 }
 
-TEST(Archive, NumbersComeBack) {
+TEST(Archive, NumbersAreReadBack) {
   const Bytes bytes = Stored([](CArchive& archive) {
     archive << short{-2} << LONG{-3} << DWORD{4} << true << 'c' << L'墙' << 2.5 << 1.5f << 5ull;
   });
@@ -129,8 +129,8 @@ TEST(Archive, EveryPrefixOfAStringEndsTheFile) {
   }
 }
 
-// A length of four milliards in a file of ten bytes once asked for the memory before it looked.
-TEST(Archive, AClaimedLengthIsHeldAgainstTheFileBeforeRoomIsMade) {
+// Regression: a length of 4 billion in a file of ten bytes was allocated before it was checked.
+TEST(Archive, ALengthIsCheckedAgainstTheFileBeforeAnyAllocation) {
   CString text = L"kept";
   EXPECT_EQ(Loaded({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF},
                    [&](CArchive& archive) { archive >> text; }),
@@ -144,7 +144,7 @@ TEST(Archive, ANumberPastTheEndEndsTheFile) {
             CArchiveException::endOfFile);
 }
 
-TEST(Archive, ReadGivesWhatIsLeft) {
+TEST(Archive, ReadReturnsTheBytesThatAreLeft) {
   BYTE buffer[8];
   UINT taken = 0;
   EXPECT_EQ(Loaded({1, 2, 3},
@@ -164,7 +164,7 @@ TEST(Archive, TheBufferSizeDoesNotChangeTheBytes) {
   EXPECT_EQ(Stored(write, 1), Stored(write, 409600));
 }
 
-TEST(Archive, DirectionsDoNotMix) {
+TEST(Archive, UsingTheWrongDirectionThrows) {
   EXPECT_EQ(Loaded({1}, [](CArchive& archive) { archive << 1; }), CArchiveException::readOnly);
   CMemFile file;
   CArchive archive(&file, CArchive::store);
@@ -178,7 +178,7 @@ TEST(Archive, DirectionsDoNotMix) {
   }
 }
 
-TEST(Archive, FlushWhileLoadingGivesTheReadAheadBack) {
+TEST(Archive, FlushWhileLoadingMovesTheFileBackOverTheReadAhead) {
   const Bytes bytes{1, 2, 3, 4};
   CMemFile file(bytes.data(), 4);
   CArchive archive(&file, CArchive::load);
@@ -194,7 +194,7 @@ TEST(Archive, TheDestructorWritesTheRest) {
   EXPECT_EQ(file.GetLength(), 4u);
 }
 
-// More than the buffer holds goes past it, in the order of the calls.
+// Blocks larger than the buffer bypass it, in the order of the calls.
 TEST(Archive, LargeAndSmallWritesKeepTheirOrder) {
   Bytes bytes(1000);
   std::iota(bytes.begin(), bytes.end(), BYTE{0});

@@ -1,4 +1,4 @@
-// CArray, CList, CMap and the ready-made collections.
+// CArray, CList, CMap and the collections of common element types.
 #include <gtest/gtest.h>
 
 #include "afx.h"
@@ -14,7 +14,7 @@ TEST(Array, GrowsBySetAtGrow) {
   EXPECT_EQ(array.GetUpperBound(), 3);
 }
 
-TEST(Array, InsertsAndRemovesRuns) {
+TEST(Array, InsertsAndRemovesRanges) {
   CStringArray array;
   array.Add(L"a");
   array.Add(L"d");
@@ -27,15 +27,15 @@ TEST(Array, InsertsAndRemovesRuns) {
   EXPECT_TRUE(array.IsEmpty());
 }
 
-TEST(Array, AnIndexThatIsNotThereIsRefused) {
+TEST(Array, AnIndexOutOfRangeThrows) {
   CPtrArray array;
   EXPECT_THROW(array.GetAt(0), CInvalidArgException*);
   EXPECT_THROW(array.SetSize(-1), CInvalidArgException*);
   EXPECT_THROW(array.RemoveAt(0, 1), CInvalidArgException*);
 }
 
-// Adding an element of the array itself once read it after the storage had moved.
-TEST(Array, AnElementOfItsOwnMayBeAdded) {
+// Regression: the element was read after the storage had been reallocated.
+TEST(Array, AnElementOfTheArrayItselfCanBeAdded) {
   CArray<CString> array;
   array.Add(CString(L'x', 100));
   for (int i = 0; i < 20; ++i) array.Add(array[0]);
@@ -45,7 +45,7 @@ TEST(Array, AnElementOfItsOwnMayBeAdded) {
   EXPECT_EQ(array.GetSize(), 1002);
 }
 
-TEST(List, WalksBothWays) {
+TEST(List, IsIteratedBothWays) {
   CPtrList list;
   int a, b, c;
   list.AddTail(&b);
@@ -94,7 +94,7 @@ TEST(Map, FindsSetsAndRemoves) {
   EXPECT_EQ(map.GetCount(), 1);
 }
 
-TEST(Map, WalksEveryPairOnce) {
+TEST(Map, IteratesOverEveryPairOnce) {
   CMapPtrToPtr map;
   int keys[50];
   for (int& key : keys) map.SetAt(&key, &key);
@@ -110,7 +110,7 @@ TEST(Map, WalksEveryPairOnce) {
   EXPECT_EQ(count, 49);
 }
 
-TEST(Map, GivesThePairInPlace) {
+TEST(Map, ReturnsThePairInPlace) {
   CMap<int, int, CString, LPCTSTR> map;
   map.SetAt(3, L"three");
   ASSERT_NE(map.PLookup(3), nullptr);

@@ -43,8 +43,8 @@ TEST_F(FileTest, WhatIsWrittenIsReadBack) {
 }
 
 #ifndef _WIN32
-// Under Wine such a name needs a UTF-8 locale, which a build machine may lack.
-TEST_F(FileTest, ANameMayHoldAnyCharacter) {
+// Under Wine such a name needs a UTF-8 locale, which the build machine may lack.
+TEST_F(FileTest, ANameMayContainAnyCharacter) {
   CFile(Path(L"菜单.qmc"), CFile::modeCreate | CFile::modeWrite).Write("x", 1);
   EXPECT_TRUE(std::filesystem::exists(m_folder / "菜单.qmc"));
   CFile in(Path(L"菜单.qmc"), CFile::modeRead);
@@ -52,7 +52,7 @@ TEST_F(FileTest, ANameMayHoldAnyCharacter) {
 }
 #endif
 
-TEST_F(FileTest, CreatingCutsWhatWasThereUnlessAskedNotTo) {
+TEST_F(FileTest, CreatingTruncatesTheFileUnlessModeNoTruncateIsGiven) {
   CFile(Path(L"a"), CFile::modeCreate | CFile::modeWrite).Write("12345", 5);
   CFile(Path(L"a"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite).Write("x", 1);
   EXPECT_EQ(SizeOf(L"a"), 5u);
@@ -60,7 +60,7 @@ TEST_F(FileTest, CreatingCutsWhatWasThereUnlessAskedNotTo) {
   EXPECT_EQ(SizeOf(L"a"), 1u);
 }
 
-TEST_F(FileTest, AMissingFileSaysSo) {
+TEST_F(FileTest, AMissingFileIsReported) {
   CFile file;
   CFileException why;
   EXPECT_FALSE(file.Open(Path(L"none"), CFile::modeRead, &why));
@@ -76,7 +76,7 @@ TEST_F(FileTest, AMissingFileSaysSo) {
   }
 }
 
-TEST_F(FileTest, AFolderIsNoFile) {
+TEST_F(FileTest, AFolderCannotBeOpenedAsAFile) {
   CFile file;
   CFileException why;
   EXPECT_FALSE(file.Open(Path(L"."), CFile::modeRead, &why));
@@ -97,7 +97,7 @@ TEST_F(FileTest, AFileIsRenamedAndRemoved) {
   }
 }
 
-TEST_F(FileTest, SetLengthCutsAndGrows) {
+TEST_F(FileTest, SetLengthTruncatesAndGrows) {
   CFile file(Path(L"a"), CFile::modeCreate | CFile::modeReadWrite);
   file.Write("12345", 5);
   file.SetLength(2);
@@ -106,7 +106,7 @@ TEST_F(FileTest, SetLengthCutsAndGrows) {
   EXPECT_EQ(file.GetLength(), 7u);
 }
 
-TEST_F(FileTest, LinesComeWithoutTheirEnds) {
+TEST_F(FileTest, LinesAreReadWithoutTheirEnds) {
   CFile(Path(L"t"), CFile::modeCreate | CFile::modeWrite).Write("one\r\n\ntwo", 9);
   CStdioFile file(Path(L"t"), CFile::modeRead);
   CString line;

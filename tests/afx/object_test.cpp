@@ -19,7 +19,7 @@ IMPLEMENT_DYNAMIC(CShape, CObject)
 IMPLEMENT_DYNCREATE(CCircle, CShape)
 IMPLEMENT_SERIAL(COther, CObject, 1)
 
-TEST(RuntimeClass, KnowsItsAncestors) {
+TEST(RuntimeClass, ReportsItsBaseClasses) {
   const CCircle circle;
   EXPECT_TRUE(circle.IsKindOf(RUNTIME_CLASS(CCircle)));
   EXPECT_TRUE(circle.IsKindOf(RUNTIME_CLASS(CShape)));
@@ -28,7 +28,7 @@ TEST(RuntimeClass, KnowsItsAncestors) {
   EXPECT_STREQ(circle.GetRuntimeClass()->m_lpszClassName, "CCircle");
 }
 
-TEST(RuntimeClass, CreatesOnlyWhatMayBeCreated) {
+TEST(RuntimeClass, CreatesOnlyClassesWithDynamicCreation) {
   std::unique_ptr<CObject> made(RUNTIME_CLASS(CCircle)->CreateObject());
   ASSERT_TRUE(made);
   EXPECT_EQ(dynamic_cast<CCircle*>(made.get())->m_radius, 3);
@@ -40,7 +40,7 @@ TEST(RuntimeClass, ASchemaMakesAClassSerial) {
   EXPECT_FALSE(CCircle().IsSerializable());
 }
 
-TEST(RuntimeClass, DynamicDowncastRefusesAnotherKind) {
+TEST(RuntimeClass, DynamicDowncastReturnsNullForAnotherClass) {
   CCircle circle;
   CObject* object = &circle;
   EXPECT_EQ(DYNAMIC_DOWNCAST(CShape, object), &circle);
@@ -59,7 +59,7 @@ TEST(Exceptions, AFileExceptionCarriesItsCause) {
   }
 }
 
-TEST(Exceptions, AnyOfThemIsCaughtByTheBase) {
+TEST(Exceptions, AllAreCaughtByTheBaseClass) {
   int caught = 0;
   for (void (*raise)() : {&AfxThrowMemoryException, &AfxThrowUserException,
                           &AfxThrowNotSupportedException, &AfxThrowInvalidArgException}) {
@@ -73,7 +73,7 @@ TEST(Exceptions, AnyOfThemIsCaughtByTheBase) {
   EXPECT_EQ(caught, 4);
 }
 
-TEST(Exceptions, TheMessageIsCutToTheRoomGiven) {
+TEST(Exceptions, TheMessageIsTruncatedToTheBuffer) {
   CArchiveException exception(CArchiveException::endOfFile);
   wchar_t text[5];
   EXPECT_TRUE(exception.GetErrorMessage(text, 5));

@@ -29,21 +29,21 @@ TEST(StringFormat, CapitalTextDirectivesHaveTheOtherWidth) {
   EXPECT_STREQ(Narrow("[%S]", L"wall"), "[wall]");
 }
 
-TEST(StringFormat, SizePrefixesSayTheWidthOutright) {
+TEST(StringFormat, SizePrefixesGiveTheWidth) {
   EXPECT_STREQ(Wide(L"%hs %ls %ws", "a", L"b", L"c"), L"a b c");
   EXPECT_STREQ(Narrow("%hs %ls", "a", L"b"), "a b");
 }
 
-TEST(StringFormat, TextIsPaddedAndCut) {
+TEST(StringFormat, TextIsPaddedAndTruncated) {
   EXPECT_STREQ(Wide(L"%5s|%-5s|%.2s|%*s", L"ab", L"ab", L"abc", 3, L"x"), L"   ab|ab   |ab|  x");
 }
 
-TEST(StringFormat, APrecisionKeepsReadingInside) {
+TEST(StringFormat, APrecisionLimitsTheReadOfAnUnterminatedText) {
   const wchar_t unterminated[2] = {L'a', L'b'};
   EXPECT_STREQ(Wide(L"%.2s", unterminated), L"ab");
 }
 
-TEST(StringFormat, NullTextPrintsAMark) {
+TEST(StringFormat, NullTextPrintsAPlaceholder) {
   EXPECT_STREQ(Wide(L"%s", static_cast<const wchar_t*>(nullptr)), L"(null)");
 }
 
@@ -56,12 +56,12 @@ TEST(StringFormat, LongIs32BitsEverywhere) {
   EXPECT_STREQ(Wide(L"%ld|%lu|%lX", -7, 4294967295u, 0xFFFFFFFFu), L"-7|4294967295|FFFFFFFF");
 }
 
-TEST(StringFormat, SixtyFourBitsAreAskedForTwoWays) {
+TEST(StringFormat, SixtyFourBitsHaveTwoPrefixes) {
   EXPECT_STREQ(Wide(L"%lld %I64d %I64X", -5000000000LL, 5000000000LL, 0x1FFFFFFFFULL),
                L"-5000000000 5000000000 1FFFFFFFF");
 }
 
-TEST(StringFormat, ShortNumbersAreCut) { EXPECT_STREQ(Wide(L"%hd", 65537), L"1"); }
+TEST(StringFormat, ShortNumbersAreTruncated) { EXPECT_STREQ(Wide(L"%hd", 65537), L"1"); }
 
 TEST(StringFormat, RealNumbers) {
   EXPECT_STREQ(Wide(L"%.2f %g %8.3f %lf", 1.005, 100.0, 3.14159, 0.5),
@@ -70,19 +70,19 @@ TEST(StringFormat, RealNumbers) {
 
 TEST(StringFormat, CharactersAndPercent) { EXPECT_STREQ(Wide(L"%c%%%C", L'墙', 'x'), L"墙%x"); }
 
-TEST(StringFormat, ADamagedFormatTakesNoArgument) {
+TEST(StringFormat, AnInvalidFormatReadsNoArgument) {
   EXPECT_STREQ(Wide(L"a%"), L"a");
   EXPECT_STREQ(Wide(L"a%qb"), L"ab");
 }
 
-TEST(StringFormat, AppendFormatKeepsWhatWasThere) {
+TEST(StringFormat, AppendFormatKeepsTheText) {
   CString text = L"a";
   text.AppendFormat(L"%d", 1);
   EXPECT_STREQ(text, L"a1");
 }
 
-// The arguments of Format may be the string that is being written.
-TEST(StringFormat, AStringMayFormatItself) {
+// The string written may be an argument of Format.
+TEST(StringFormat, AStringMayBeItsOwnArgument) {
   CString text = L"x";
   text.Format(L"<%s>", text.GetString());
   EXPECT_STREQ(text, L"<x>");

@@ -1,4 +1,4 @@
-// CString and CStringA as values: building, searching, cutting, trimming, tokens, buffers.
+// CString and CStringA as values: construction, searching, extracting, trimming, tokens, buffers.
 #include <gtest/gtest.h>
 
 #include "afx.h"
@@ -45,7 +45,7 @@ TEST(CStringValue, ComparisonTakesTextOnEitherSide) {
   EXPECT_EQ(text.Compare(L"a"), 1);
 }
 
-TEST(CStringValue, FindGivesMinusOneWhenNothingIsThere) {
+TEST(CStringValue, FindReturnsMinusOneWhenNothingIsFound) {
   const CString text = L"abcabc";
   EXPECT_EQ(text.Find(L'c'), 2);
   EXPECT_EQ(text.Find(L'c', 3), 5);
@@ -58,7 +58,7 @@ TEST(CStringValue, FindGivesMinusOneWhenNothingIsThere) {
   EXPECT_EQ(text.FindOneOf(L"xc"), 2);
 }
 
-TEST(CStringValue, CuttingNeverLeavesTheText) {
+TEST(CStringValue, ExtractingStaysInsideTheText) {
   const CString text = L"abc";
   EXPECT_STREQ(text.Left(9), L"abc");
   EXPECT_STREQ(text.Left(-1), L"");
@@ -72,7 +72,7 @@ TEST(CStringValue, CuttingNeverLeavesTheText) {
   EXPECT_STREQ(CString(L"aab1").SpanExcluding(L"1"), L"aab");
 }
 
-TEST(CStringValue, AnIndexOutsideTheTextIsRefused) {
+TEST(CStringValue, AnIndexOutsideTheTextThrows) {
   CString text = L"ab";
   EXPECT_EQ(text[2], L'\0');
   EXPECT_THROW(text.GetAt(3), CInvalidArgException*);
@@ -80,7 +80,7 @@ TEST(CStringValue, AnIndexOutsideTheTextIsRefused) {
   EXPECT_THROW((void)text[-1], CInvalidArgException*);
 }
 
-TEST(CStringValue, TrimTakesBlanksOrGivenCharacters) {
+TEST(CStringValue, TrimRemovesBlanksOrGivenCharacters) {
   EXPECT_STREQ(CString(L" \t a b \r\n").Trim(), L"a b");
   EXPECT_STREQ(CString(L"\x3000墙\x3000").Trim(), L"墙");
   EXPECT_STREQ(CString(L"xxaxx").Trim(L'x'), L"a");
@@ -94,12 +94,12 @@ TEST(CStringValue, CaseChangesForLettersOnly) {
   EXPECT_STREQ(CString(L"AÉ墙-Z9").MakeLower(), L"aé墙-z9");
 }
 
-// The second byte of a two-byte character may look like a letter.
-TEST(CStringValue, NarrowCaseLeavesTwoByteCharactersAlone) {
+// The trail byte of a two-byte character may look like a letter.
+TEST(CStringValue, NarrowCaseDoesNotChangeTwoByteCharacters) {
   EXPECT_STREQ(CStringA("\x81\x61z").MakeUpper(), "\x81\x61Z");
 }
 
-TEST(CStringValue, ReplaceCountsItsPlaces) {
+TEST(CStringValue, ReplaceReturnsTheNumberOfPlaces) {
   CString text = L"a.b.c";
   EXPECT_EQ(text.Replace(L".", L"::"), 2);
   EXPECT_STREQ(text, L"a::b::c");
@@ -130,7 +130,7 @@ TEST(CStringValue, TokenizeSkipsRunsOfSeparators) {
   EXPECT_THROW(text.Tokenize(L";", at), CInvalidArgException*);
 }
 
-TEST(CStringValue, ABufferIsMeasuredWhenItIsReleased) {
+TEST(CStringValue, ABufferIsMeasuredOnRelease) {
   CString text;
   wchar_t* buffer = text.GetBuffer(20);
   std::wmemcpy(buffer, L"three", 6);
@@ -143,7 +143,7 @@ TEST(CStringValue, ABufferIsMeasuredWhenItIsReleased) {
   EXPECT_STREQ(text, L"th");
 }
 
-TEST(CStringValue, TextMayHoldATerminatorInside) {
+TEST(CStringValue, TextMayContainATerminator) {
   const CString text(L"a\0b", 3);
   EXPECT_EQ(text.GetLength(), 3);
   EXPECT_EQ(text[2], L'b');
