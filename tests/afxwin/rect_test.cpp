@@ -1,4 +1,4 @@
-// CPoint, CSize and CRect: the arithmetic that layout code leans on.
+// CPoint, CSize and CRect arithmetic.
 #include "atltypes.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ TEST(Rect, InflatingGrowsAllFourSidesAndKeepsTheCentre) {
   EXPECT_TRUE(r.CenterPoint() == centre);
 }
 
-TEST(Rect, RightAndBottomEdgeLieOutside) {
+TEST(Rect, RightAndBottomEdgeAreOutside) {
   CRect r(0, 0, 10, 10);
   EXPECT_TRUE(r.PtInRect(CPoint(0, 0)));
   EXPECT_TRUE(r.PtInRect(CPoint(9, 9)));
@@ -19,7 +19,7 @@ TEST(Rect, RightAndBottomEdgeLieOutside) {
   EXPECT_FALSE(r.PtInRect(CPoint(5, 10)));
 }
 
-TEST(Rect, RectanglesThatOnlyTouchHaveTheNullRectangleInCommon) {
+TEST(Rect, AdjacentRectanglesIntersectInTheNullRectangle) {
   CRect common(1, 2, 3, 4);
   EXPECT_FALSE(common.IntersectRect(CRect(0, 0, 5, 5), CRect(5, 0, 9, 5)));
   EXPECT_TRUE(common.IsRectNull());
@@ -27,20 +27,20 @@ TEST(Rect, RectanglesThatOnlyTouchHaveTheNullRectangleInCommon) {
   EXPECT_TRUE(common == CRect(4, 3, 5, 5));
 }
 
-TEST(Rect, AnEmptyRectangleAddsNothingToAUnion) {
+TEST(Rect, AnEmptyRectangleIsIgnoredInAUnion) {
   CRect all;
   EXPECT_TRUE(all.UnionRect(CRect(5, 5, 5, 90), CRect(1, 2, 3, 4)));
   EXPECT_TRUE(all == CRect(1, 2, 3, 4));
   EXPECT_FALSE(all.UnionRect(CRect(), CRect()));
 }
 
-TEST(Rect, IntersectingWithItselfInPlaceKeepsTheOther) {
+TEST(Rect, IntersectingInPlaceIsCorrect) {
   CRect inside(-5, -5, 8, 8);
   inside.IntersectRect(inside, CRect(0, 0, 4, 20));
   EXPECT_TRUE(inside == CRect(0, 0, 4, 8));
 }
 
-TEST(Rect, NormalizingSwapsSidesThatStandTheWrongWayRound) {
+TEST(Rect, NormalizingSwapsSidesInTheWrongOrder) {
   CRect r(30, 9, 10, 4);
   r.NormalizeRect();
   EXPECT_TRUE(r == CRect(10, 4, 30, 9));
@@ -52,7 +52,7 @@ TEST(Point, PackedCoordinatesAreSigned) {
   EXPECT_EQ(-2, p.y);
 }
 
-TEST(Point, TheDifferenceOfTwoPointsIsADistance) {
+TEST(Point, TheDifferenceOfTwoPointsIsASize) {
   CSize d = CPoint(10, 4) - CPoint(3, 9);
   EXPECT_EQ(7, d.cx);
   EXPECT_EQ(-5, d.cy);

@@ -1,4 +1,4 @@
-// Controls: that each class speaks to its control in the right words.
+// Controls: the messages that each class sends to its control.
 #include "test_app.h"
 
 namespace {
@@ -34,7 +34,7 @@ TEST_F(Controls, AnEditSelectsReplacesAndCountsLines) {
   EXPECT_EQ(MAKELONG(0, 6), LONG(edit.GetSel()));
 }
 
-TEST_F(Controls, AListBoxHoldsRowsWithData) {
+TEST_F(Controls, AListBoxKeepsRowsWithData) {
   CListBox list;
   ASSERT_TRUE(list.Create(WS_CHILD, kBox, &w, 1));
   EXPECT_EQ(0, list.AddString(L"甲"));
@@ -85,7 +85,7 @@ TEST_F(Controls, ACheckBoxKeepsItsState) {
   EXPECT_EQ(UINT(BS_AUTOCHECKBOX), button.GetButtonStyle());
 }
 
-TEST_F(Controls, ASpinButtonTellsItsRange) {
+TEST_F(Controls, ASpinButtonReportsItsRange) {
   CSpinButtonCtrl spin;
   ASSERT_TRUE(spin.Create(WS_CHILD | WS_VISIBLE | UDS_HORZ, CRect(0, 0, 40, 20), &w, 1));
   spin.SetRange(0, 7);

@@ -1,5 +1,5 @@
-// Dialogs: modal and modeless, their ends, their keys, and data between members and controls at the
-// start and the end.
+// Dialogs: modal and modeless, closing, keys, and the transfer of data between members and controls
+// at the start and the end.
 #include "test_app.h"
 
 #include <functional>
@@ -62,7 +62,7 @@ TEST(Dialog, ReturnsTheButtonAndTheDataOfItsControls) {
   EXPECT_EQ(nullptr, d.m_hWnd);
 }
 
-TEST(Dialog, CancelLeavesTheDataAlone) {
+TEST(Dialog, CancelKeepsTheData) {
   ScaleDialog d;
   d.atIdle = [](ScaleDialog& self) {
     self.SetDlgItemText(1001, L"250");
@@ -72,7 +72,7 @@ TEST(Dialog, CancelLeavesTheDataAlone) {
   EXPECT_EQ(100, d.scale);
 }
 
-TEST(Dialog, StaysOpenAndSaysWhyWhenTheInputIsNoNumber) {
+TEST(Dialog, StaysOpenWithAMessageWhenTheInputIsNoNumber) {
   ScaleDialog d;
   App().boxes.clear();
   bool stillOpen = false;
@@ -88,7 +88,7 @@ TEST(Dialog, StaysOpenAndSaysWhyWhenTheInputIsNoNumber) {
   EXPECT_EQ(L"请输入一个数。", App().boxes[0]);
 }
 
-TEST(Dialog, CanBeOpenedAgainAndAgain) {
+TEST(Dialog, CanBeOpenedRepeatedly) {
   ScaleDialog d;
   for (int i = 0; i < 100; ++i) {
     d.atStart = [](ScaleDialog& self) { self.PostMessage(WM_COMMAND, IDOK); };
@@ -120,7 +120,7 @@ TEST(Dialog, WithoutATemplateFailsAndDisablesNothing) {
   EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
-TEST(Dialog, DisablesItsOwnerWhileItIsUp) {
+TEST(Dialog, DisablesItsOwnerWhileItIsOpen) {
   TestWindow owner;
   ASSERT_TRUE(owner.Make(WS_OVERLAPPEDWINDOW | WS_VISIBLE));
   ScaleDialog d(&owner);
@@ -159,7 +159,7 @@ TEST(Dialog, EscapeCancelsOutOfAMultilineEditToo) {
   EXPECT_EQ(IDCANCEL, d.DoModal());
 }
 
-TEST(Dialog, IsCentredWhenItsTemplateNamesNoPlace) {
+TEST(Dialog, IsCentredWhenItsTemplateGivesNoPosition) {
   ScaleDialog d;
   CRect rect, work;
   d.atIdle = [&](ScaleDialog& self) {
@@ -172,7 +172,7 @@ TEST(Dialog, IsCentredWhenItsTemplateNamesNoPlace) {
   EXPECT_NEAR(work.CenterPoint().y, rect.CenterPoint().y, 1);
 }
 
-TEST(Dialog, ModelessComesUpAndGoesWithItsObject) {
+TEST(Dialog, AModelessOneIsDestroyedWithItsObject) {
   HWND handle;
   {
     ScaleDialog d;

@@ -1,4 +1,4 @@
-// DDX and DDV: each kind of value to its control and back, and what wrong input gets.
+// DDX and DDV: each type of value to its control and back, and the handling of invalid input.
 #include "test_app.h"
 
 namespace {
@@ -80,7 +80,7 @@ TEST_F(Exchange, NoRadioButtonChosenReadsMinusOne) {
   EXPECT_EQ(-1, d.radio);
 }
 
-TEST_F(Exchange, RefusesTextThatIsNoWholeNumber) {
+TEST_F(Exchange, RejectsTextThatIsNotAnInteger) {
   for (LPCTSTR wrong : {L"", L"12a", L"1.5", L"2147483648"}) {
     App().boxes.clear();
     d.number = 3;
@@ -91,7 +91,7 @@ TEST_F(Exchange, RefusesTextThatIsNoWholeNumber) {
   }
 }
 
-TEST_F(Exchange, RefusesANumberOutOfRangeWithBothLimits) {
+TEST_F(Exchange, RejectsANumberOutOfRangeWithAMessageOfBothLimits) {
   d.range = true;
   d.SetDlgItemText(1001, L"11");
   EXPECT_FALSE(d.UpdateData(TRUE));
@@ -101,14 +101,14 @@ TEST_F(Exchange, RefusesANumberOutOfRangeWithBothLimits) {
   EXPECT_TRUE(d.UpdateData(TRUE));
 }
 
-TEST_F(Exchange, ShowsAValueOutOfRangeWithoutComplaint) {
+TEST_F(Exchange, ShowsAValueOutOfRangeWithoutAMessage) {
   d.range = true;
   d.number = 99;
   EXPECT_TRUE(d.UpdateData(FALSE));
   EXPECT_TRUE(App().boxes.empty());
 }
 
-TEST_F(Exchange, LimitsWhatCanBeTyped) {
+TEST_F(Exchange, LimitsTheLengthOfTypedText) {
   d.maximum = true;
   ASSERT_TRUE(d.UpdateData(FALSE));
   EXPECT_EQ(4u, d.edit.GetLimitText());
@@ -116,14 +116,14 @@ TEST_F(Exchange, LimitsWhatCanBeTyped) {
   EXPECT_FALSE(d.UpdateData(TRUE));
 }
 
-TEST_F(Exchange, SubclassesItsControlsOnceAndLetsThemGoWithTheDialog) {
+TEST_F(Exchange, SubclassesItsControlsOnceAndDetachesThemWithTheDialog) {
   EXPECT_EQ(&d.edit, d.GetDlgItem(1002));
   EXPECT_TRUE(d.UpdateData(FALSE));
   d.DestroyWindow();
   EXPECT_EQ(nullptr, d.edit.m_hWnd);
 }
 
-TEST_F(Exchange, FillingAControlIsNoChangeByTheUser) {
+TEST_F(Exchange, FillingAControlSendsNoChangeNotification) {
   d.changes = 0;
   d.number = 4711;
   d.UpdateData(FALSE);

@@ -1,8 +1,8 @@
-// Graphics objects and device contexts: owners, selection and the few drawings of our own.
+// Graphics objects and device contexts: owners, selection and the drawing functions of the library.
 #include "test_app.h"
 
 namespace {
-// A small memory picture to draw into and to look at.
+// A small memory bitmap with access to its pixels.
 class Canvas {
  public:
   Canvas() {
@@ -38,7 +38,7 @@ TEST(GdiObject, AFailedCreationLeavesItEmpty) {
   EXPECT_FALSE(bitmap.DeleteObject());
 }
 
-TEST(GdiObject, TemporaryObjectsAreOfTheHandlesKindAndDeleteNothing) {
+TEST(GdiObject, TemporaryObjectsHaveTheHandlesTypeAndDeleteNothing) {
   HBRUSH brush = ::CreateSolidBrush(kRed);
   CGdiObject* object = CGdiObject::FromHandle(brush);
   EXPECT_TRUE(object->IsKindOf(RUNTIME_CLASS(CBrush)));
@@ -47,7 +47,7 @@ TEST(GdiObject, TemporaryObjectsAreOfTheHandlesKindAndDeleteNothing) {
   ::DeleteObject(brush);
 }
 
-TEST(GdiObject, AFontTellsItsDescription) {
+TEST(GdiObject, AFontReturnsItsDescription) {
   CFont stock;
   ASSERT_TRUE(stock.CreateStockObject(DEFAULT_GUI_FONT));
   LOGFONT font{};
@@ -63,7 +63,7 @@ TEST(GdiObject, AFontTellsItsDescription) {
   dc.SelectObject(old);
 }
 
-TEST(DeviceContext, GivesBackWhatWasSelectedBefore) {
+TEST(DeviceContext, SelectObjectReturnsThePreviousObject) {
   Canvas c;
   CBrush brush(kRed);
   CBrush* before = c.dc.SelectObject(&brush);
@@ -84,7 +84,7 @@ TEST(DeviceContext, FillSolidRectKeepsTheBackgroundColour) {
   EXPECT_EQ(kWhite, c.dc.GetPixel(4, 6));
 }
 
-TEST(DeviceContext, Draw3dRectGivesTheMixedCornersToTheSecondColour) {
+TEST(DeviceContext, Draw3dRectUsesTheSecondColourForTheMixedCorners) {
   Canvas c;
   c.dc.Draw3dRect(CRect(2, 2, 10, 8), kRed, kBlue);
   EXPECT_EQ(kRed, c.dc.GetPixel(2, 2));
@@ -97,7 +97,7 @@ TEST(DeviceContext, Draw3dRectGivesTheMixedCornersToTheSecondColour) {
   EXPECT_EQ(kWhite, c.dc.GetPixel(10, 7));
 }
 
-TEST(DeviceContext, TheViewportOriginMovesTheDrawing) {
+TEST(DeviceContext, TheViewportOriginOffsetsTheDrawing) {
   Canvas c;
   CPoint before = c.dc.SetViewportOrg(5, 0);
   EXPECT_TRUE(before == CPoint(0, 0));
@@ -115,7 +115,7 @@ TEST(DeviceContext, TransparentBltLeavesOutOneColour) {
   EXPECT_EQ(kWhite, target.dc.GetPixel(5, 5));
 }
 
-TEST(DeviceContext, ADragRectangleDrawnTwiceIsGone) {
+TEST(DeviceContext, DrawingADragRectangleTwiceErasesIt) {
   Canvas c;
   CRect rect(2, 2, 18, 18);
   c.dc.DrawDragRect(rect, CSize(2, 2), nullptr, CSize(0, 0));
@@ -126,7 +126,7 @@ TEST(DeviceContext, ADragRectangleDrawnTwiceIsGone) {
   for (int i = 0; i < 20; ++i) EXPECT_EQ(kWhite, c.dc.GetPixel(i, 2)) << i;
 }
 
-TEST(DeviceContext, OfAWindowIsGivenBack) {
+TEST(DeviceContext, OfAWindowIsReleased) {
   TestWindow w;
   ASSERT_TRUE(w.Make(WS_OVERLAPPEDWINDOW | WS_VISIBLE));
   HDC handle;

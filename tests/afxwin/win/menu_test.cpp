@@ -1,5 +1,5 @@
-// Menus: rows, handle map, resources, and rows that the menu object measures and draws while
-// tracked.
+// Menus: rows, handle map, resources, and rows that the menu object measures
+// and draws during tracking.
 #include "test_app.h"
 
 namespace {
@@ -14,7 +14,7 @@ class DrawnMenu : public CMenu {
   void DrawItem(LPDRAWITEMSTRUCT item) override { drawn.push_back(item->itemData); }
 };
 
-// Ends the menu's loop at its first idle moment, when all its rows have been painted.
+// Ends the menu's loop at its first idle time, when all rows have been painted.
 class MenuOwner : public TestWindow {
  public:
   std::vector<UINT> selected;
@@ -31,7 +31,7 @@ ON_WM_EXITMENULOOP()
 END_MESSAGE_MAP()
 }  // namespace
 
-TEST(Menu, DestroysItsHandleAtItsEnd) {
+TEST(Menu, DestroysItsHandleInTheDestructor) {
   HMENU handle;
   {
     CMenu menu;
@@ -43,7 +43,7 @@ TEST(Menu, DestroysItsHandleAtItsEnd) {
   EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(handle));
 }
 
-TEST(Menu, DetachedStaysAlive) {
+TEST(Menu, IsNotDestroyedWhenDetached) {
   CMenu menu;
   ASSERT_TRUE(menu.CreatePopupMenu());
   HMENU handle = menu.Detach();
@@ -70,7 +70,7 @@ TEST(Menu, RowsAreCountedNamedAndChecked) {
   sub.Detach();
 }
 
-TEST(Menu, ComesFromTheResources) {
+TEST(Menu, IsLoadedFromTheResources) {
   CMenu menu;
   ASSERT_TRUE(menu.LoadMenu(101));
   CMenu* popup = menu.GetSubMenu(0);
@@ -96,14 +96,14 @@ TEST(Menu, ATrackedMenuMeasuresAndDrawsItsOwnRows) {
 }
 
 namespace {
-// Asks the owner for the size of one row, as Windows does while it lays the menu out.
+// Sends WM_MEASUREITEM for one row, as Windows does for the layout of the menu.
 UINT HeightAsked(CWnd& owner, UINT id, ULONG_PTR data) {
   MEASUREITEMSTRUCT item{ODT_MENU, 0, id, 0, 0, data};
   owner.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
   return item.itemHeight;
 }
 
-// Measures while a menu is being tracked: the moment the loop begins.
+// Measures a row at the start of a menu's loop.
 class AskingOwner : public MenuOwner {
  public:
   UINT subRow = 0, unknownRow = 1;
@@ -134,7 +134,7 @@ TEST(Menu, ARowOfASubMenuIsMeasuredByThatSubMenu) {
   menu.RemoveMenu(0, MF_BYPOSITION);
 }
 
-TEST(Menu, OutsideOfTrackingNothingIsMeasured) {
+TEST(Menu, OutsideOfTrackingNoRowIsMeasured) {
   TestWindow w;
   ASSERT_TRUE(w.Make());
   DrawnMenu menu;

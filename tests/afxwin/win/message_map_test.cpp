@@ -1,5 +1,5 @@
-// The message map: each handler gets its arguments out of the message in the published form, and a
-// derived class's entry comes before its base's.
+// The message map: each handler gets the message's arguments in the published form, and entries of
+// a derived class take precedence over its base's.
 #include "test_app.h"
 
 namespace {
@@ -97,7 +97,7 @@ struct Case {
 
 }  // namespace
 
-TEST(MessageMap, TakesEachMessageApartForItsHandler) {
+TEST(MessageMap, UnpacksEachMessageForItsHandler) {
   Recorder w;
   ASSERT_TRUE(w.Make());
   auto self = reinterpret_cast<WPARAM>(w.m_hWnd);
@@ -128,7 +128,7 @@ TEST(MessageMap, TakesEachMessageApartForItsHandler) {
   }
 }
 
-TEST(MessageMap, GivesTheHandlersAnswerBack) {
+TEST(MessageMap, ReturnsTheHandlersResult) {
   Recorder w;
   ASSERT_TRUE(w.Make());
   EXPECT_EQ(305, w.SendMessage(0x500, 3, 5));
@@ -146,7 +146,7 @@ TEST(MessageMap, ScrollHandlersGetTheControlThatSent) {
   EXPECT_EQ(L"hscroll 3 0 100", w.last);
 }
 
-TEST(MessageMap, PopupMenusAreGivenAsObjects) {
+TEST(MessageMap, PopupMenusArePassedAsObjects) {
   Recorder w;
   ASSERT_TRUE(w.Make());
   CMenu menu;
@@ -157,7 +157,7 @@ TEST(MessageMap, PopupMenusAreGivenAsObjects) {
   EXPECT_EQ(L"popup 2 3 0", w.last);
 }
 
-TEST(MessageMap, AWheelThatIsNotTakenGoesOnToTheParent) {
+TEST(MessageMap, AWheelMessageThatIsNotHandledGoesToTheParent) {
   Recorder parent, child;
   ASSERT_TRUE(parent.Make());
   ASSERT_TRUE(child.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &parent, 1));
@@ -171,12 +171,12 @@ TEST(MessageMap, AWheelThatIsNotTakenGoesOnToTheParent) {
   EXPECT_EQ(L"", parent.last);
 }
 
-TEST(MessageMap, DefaultRunsThePresentMessageWithItsOwnParameters) {
+TEST(MessageMap, DefaultHandlesTheCurrentMessageWithItsOwnParameters) {
   struct Upper : TestWindow {
     CString seen;
     LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
       if (m == WM_SETTEXT) {
-        // A message sent in between must not become the present one for good.
+        // A nested message must not replace the current one permanently.
         SendMessage(WM_NULL);
         return Default();
       }
@@ -215,7 +215,7 @@ ON_WM_TIMER()
 END_MESSAGE_MAP()
 }  // namespace
 
-TEST(MessageMap, OfADerivedClassComesBeforeItsBase) {
+TEST(MessageMap, OfADerivedClassTakesPrecedenceOverItsBase) {
   DerivedRecorder w;
   ASSERT_TRUE(w.Make());
   w.SendMessage(WM_TIMER, 1);

@@ -26,7 +26,7 @@ TEST(Pump, RunsIdleUntilNothingIsLeftAndReturnsTheQuitCode) {
   EXPECT_GE(thread.idles, 3);
 }
 
-TEST(Pump, PointerMovesThatAreNoneStartNoIdleTime) {
+TEST(Pump, RepeatedPointerMovesStartNoIdleTime) {
   CountingThread thread;
   MSG move{nullptr, WM_MOUSEMOVE, 0, 0, 0, {5, 6}};
   EXPECT_TRUE(thread.IsIdleMessage(&move));
@@ -37,7 +37,7 @@ TEST(Pump, PointerMovesThatAreNoneStartNoIdleTime) {
   EXPECT_FALSE(thread.IsIdleMessage(&paint));
 }
 
-TEST(Pump, TheMainWindowsEndEndsTheProgram) {
+TEST(Pump, DestroyingTheMainWindowEndsTheProgram) {
   TestWindow w;
   ASSERT_TRUE(w.Make());
   App().m_pMainWnd = &w;
@@ -48,7 +48,7 @@ TEST(Pump, TheMainWindowsEndEndsTheProgram) {
   EXPECT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
-TEST(Pump, IdleTimeAsksTheMainWindowAndAllInIt) {
+TEST(Pump, IdleTimeUpdatesTheMainWindowAndItsChildren) {
   struct Asked : TestWindow {
     int count = 0;
     LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
@@ -84,7 +84,7 @@ TEST(App, AMessageBoxWithoutAnEntryInTheResourcesIsEmpty) {
   EXPECT_EQ((std::vector<std::wstring>{L""}), App().boxes);
 }
 
-TEST(Resources, AreLookedForInTheCurrentModuleAndThenInTheExtensions) {
+TEST(Resources, AreSearchedInTheCurrentModuleAndThenInTheExtensions) {
   HINSTANCE self = ::GetModuleHandle(nullptr);
   HINSTANCE library = ::GetModuleHandle(L"user32.dll");
   HINSTANCE old = AfxGetResourceHandle();

@@ -1,5 +1,5 @@
-// Where a command or notification goes: virtual OnCommand, message maps, back to the control that
-// sent it, and PreTranslateMessage from the window outwards.
+// Routing of commands and notifications: virtual OnCommand, message maps, reflection to the control
+// that sent it, and PreTranslateMessage from the window to its parents.
 #include "test_app.h"
 
 namespace {
@@ -73,12 +73,12 @@ TEST(Commands, ReachTheirHandlerFromMenusAndRanges) {
   ASSERT_TRUE(w.Make());
   EXPECT_NE(0, w.SendMessage(WM_COMMAND, 3));
   w.SendMessage(WM_COMMAND, 5001);
-  w.SendMessage(WM_COMMAND, MAKEWPARAM(6000, 1));  // by an accelerator
+  w.SendMessage(WM_COMMAND, MAKEWPARAM(6000, 1));  // from an accelerator
   w.SendMessage(WM_COMMAND, 6001);
   EXPECT_EQ((std::vector<std::string>{"three", "range 5001", "range 6000"}), w.diary);
 }
 
-TEST(Commands, ThatAreDisabledAreSwallowed) {
+TEST(Commands, ThatAreDisabledAreIgnored) {
   Parent w;
   ASSERT_TRUE(w.Make());
   w.greyCommand = true;
@@ -102,7 +102,7 @@ TEST(Commands, GoThroughTheVirtualOnCommandFirst) {
   EXPECT_EQ((std::vector<std::string>{"click"}), group.diary);
 }
 
-TEST(Commands, AskWithoutActingWhoWouldTakeThem) {
+TEST(Commands, CanBeSearchedForTheirTargetWithoutACall) {
   Parent w;
   AFX_CMDHANDLERINFO info{};
   EXPECT_TRUE(w.OnCmdMsg(3, CN_COMMAND, nullptr, &info));
@@ -111,7 +111,7 @@ TEST(Commands, AskWithoutActingWhoWouldTakeThem) {
   EXPECT_TRUE(w.diary.empty());
 }
 
-TEST(Reflection, AControlSeesItsOwnClickFirstAndMayKeepIt) {
+TEST(Reflection, AControlGetsItsOwnClickFirstAndMayHandleIt) {
   Parent w;
   ReflectingButton button;
   ASSERT_TRUE(w.Make());
@@ -152,7 +152,7 @@ TEST(Reflection, AnEditChoosesItsOwnColours) {
   EXPECT_EQ(RGB(9, 8, 7), dc.GetTextColor());
 }
 
-TEST(Reflection, ANotificationThatTheControlHandledStaysFromTheParent) {
+TEST(Reflection, ANotificationHandledByTheControlDoesNotReachTheParent) {
   Parent w;
   ColouredEdit reflecting;
   CEdit plain;
@@ -167,7 +167,7 @@ TEST(Reflection, ANotificationThatTheControlHandledStaysFromTheParent) {
   EXPECT_EQ((std::vector<std::string>{"change"}), w.diary);
 }
 
-TEST(Reflection, AWindowWithoutAnObjectKeepsNothing) {
+TEST(Reflection, AWindowWithoutAnObjectHandlesNothing) {
   Parent w;
   ASSERT_TRUE(w.Make());
   HWND button = ::CreateWindowEx(0, L"BUTTON", L"", WS_CHILD, 0, 0, 9, 9, w.m_hWnd,
@@ -176,7 +176,7 @@ TEST(Reflection, AWindowWithoutAnObjectKeepsNothing) {
   EXPECT_EQ((std::vector<std::string>{"click"}), w.diary);
 }
 
-TEST(Notifications, CarryTheHandlersResultBack) {
+TEST(Notifications, ReturnTheHandlersResult) {
   Parent w;
   CButton button;
   ASSERT_TRUE(w.Make());
@@ -222,7 +222,7 @@ TEST(PreTranslate, WalksFromTheWindowToItsOutermostParent) {
   EXPECT_EQ("item group ", diary);
 }
 
-TEST(PreTranslate, PassesOverWindowsThatHaveNoObject) {
+TEST(PreTranslate, SkipsWindowsWithoutAnObject) {
   std::string diary;
   Filter frame("frame ", diary);
   ASSERT_TRUE(frame.Make());
@@ -233,7 +233,7 @@ TEST(PreTranslate, PassesOverWindowsThatHaveNoObject) {
   EXPECT_EQ("frame ", diary);
 }
 
-TEST(PreTranslate, AMessageThatWasEatenIsNotDispatched) {
+TEST(PreTranslate, AMessageThatWasHandledIsNotDispatched) {
   std::string diary;
   Filter w("w ", diary);
   ASSERT_TRUE(w.Make());

@@ -1,4 +1,5 @@
-// Scroll bars of windows and of controls, scrolling with children, places and the layout of bars.
+// Scroll bars of windows and of controls, scrolling with children,
+// coordinates and the layout of bars.
 #include "test_app.h"
 
 namespace {
@@ -11,7 +12,7 @@ class ScrollHost : public TestWindow {
 };
 }  // namespace
 
-TEST(Scroll, AWindowWithABarOfItsOwnIsScrolledByIt) {
+TEST(Scroll, AWindowWithAScrollBarControlIsScrolledByIt) {
   ScrollHost w;
   ASSERT_TRUE(w.Make(WS_OVERLAPPEDWINDOW | WS_VSCROLL));
   ASSERT_TRUE(w.bar.Create(WS_CHILD | SBS_VERT, CRect(0, 0, 8, 90), &w, 100));
@@ -23,10 +24,10 @@ TEST(Scroll, AWindowWithABarOfItsOwnIsScrolledByIt) {
   w.bar.GetScrollRange(&low, &high);
   EXPECT_EQ(0, low);
   EXPECT_EQ(340, high);
-  EXPECT_EQ(0, ::GetScrollPos(w.m_hWnd, SB_VERT));  // the window's own bar is not touched
+  EXPECT_EQ(0, ::GetScrollPos(w.m_hWnd, SB_VERT));  // the window's own bar does not change
 }
 
-TEST(Scroll, ThePositionIsHeldInsideTheRange) {
+TEST(Scroll, ThePositionIsLimitedToTheRange) {
   ScrollHost w;
   ASSERT_TRUE(w.Make());
   ASSERT_TRUE(w.bar.Create(WS_CHILD | SBS_VERT, CRect(0, 0, 8, 90), &w, 100));
@@ -35,7 +36,7 @@ TEST(Scroll, ThePositionIsHeldInsideTheRange) {
   EXPECT_EQ(100, w.bar.GetScrollPos());
 }
 
-TEST(Scroll, TheLimitIsAPageShortOfTheRange) {
+TEST(Scroll, TheLimitIsTheRangeLessAPage) {
   ScrollHost w;
   ASSERT_TRUE(w.Make());
   ASSERT_TRUE(w.bar.Create(WS_CHILD | SBS_VERT, CRect(0, 0, 8, 90), &w, 100));
@@ -60,7 +61,7 @@ TEST(Scroll, ChildrenOfAHiddenWindowMoveToo) {
   EXPECT_TRUE(rect == CRect(10, 30, 30, 40));
 }
 
-TEST(Place, RectanglesGoToTheScreenAndBack) {
+TEST(Place, RectanglesAreConvertedToTheScreenAndBack) {
   TestWindow w;
   ASSERT_TRUE(w.Make());
   CRect rect(3, 4, 30, 40), before(rect);
@@ -120,7 +121,7 @@ CRect PlaceIn(CWnd& parent, CWnd& child) {
 }
 }  // namespace
 
-TEST(Bars, TakeTheirStripsAndLeaveTheRestToThePane) {
+TEST(Bars, TakeTheirStripsAndThePaneGetsTheRest) {
   TestWindow w;
   TopStrip bar(25);
   CWnd pane;
@@ -134,7 +135,7 @@ TEST(Bars, TakeTheirStripsAndLeaveTheRestToThePane) {
   EXPECT_TRUE(PlaceIn(w, pane) == CRect(0, 25, client.right, client.bottom));
 }
 
-TEST(Bars, AskedForTheRestNothingMoves) {
+TEST(Bars, AQueryForTheRestMovesNothing) {
   TestWindow w;
   TopStrip bar(25);
   CWnd pane;

@@ -1,5 +1,5 @@
-// What the tests of windows share: one program object that writes down message boxes instead of
-// showing them, a plain top-level window, and pumping what waits in the queue.
+// Shared by the tests of windows: one program object that records message boxes instead of showing
+// them, a top-level window, and processing of the waiting messages.
 #pragma once
 
 #include "afxwin.h"

@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-TEST(ToolTip, HoldsTheTextOfEachTool) {
+TEST(ToolTip, KeepsTheTextOfEachTool) {
   TestWindow w;
   ASSERT_TRUE(w.Make());
   CButton button;
@@ -35,7 +35,7 @@ TEST(ToolTip, KeepsItsWidthAndDelay) {
 }
 
 namespace {
-// Two parts side by side, 50 pixels wide each; beyond them nothing.
+// Two adjacent parts, 50 pixels wide each; no part elsewhere.
 class Strip : public TestWindow {
  public:
   mutable int asked = 0;
@@ -81,7 +81,7 @@ void MovePointer(CWnd& w, int x) {
 LRESULT ToolCount(CWnd& w) { return ::SendMessage(TipOf(w.m_hWnd), TTM_GETTOOLCOUNT, 0, 0); }
 }  // namespace
 
-TEST(ToolHitTest, IsNotAskedUntilToolTipsAreOn) {
+TEST(ToolHitTest, IsNotCalledUntilToolTipsAreEnabled) {
   Strip w;
   ASSERT_TRUE(w.Make(WS_OVERLAPPEDWINDOW | WS_VISIBLE));
   MovePointer(w, 10);
@@ -105,7 +105,7 @@ TEST(ToolHitTest, ThePartUnderThePointerIsTheOnlyTool) {
   EXPECT_EQ(0, ToolCount(w));
 }
 
-TEST(ToolHitTest, APressedKeyTakesTheTipAway) {
+TEST(ToolHitTest, APressedKeyHidesTheTip) {
   Strip w;
   ASSERT_TRUE(w.Make(WS_OVERLAPPEDWINDOW | WS_VISIBLE));
   w.EnableToolTips();
@@ -116,7 +116,7 @@ TEST(ToolHitTest, APressedKeyTakesTheTipAway) {
   EXPECT_EQ(0, ToolCount(w));
 }
 
-TEST(ToolHitTest, WorksForTheNextWindowAfterTheFirstHasGone) {
+TEST(ToolHitTest, WorksForTheNextWindowAfterTheFirstIsDestroyed) {
   {
     Strip first;
     ASSERT_TRUE(first.Make(WS_OVERLAPPEDWINDOW | WS_VISIBLE));

@@ -45,7 +45,7 @@ END_MESSAGE_MAP()
 using Diary = std::vector<std::string>;
 }  // namespace
 
-TEST(Window, IsKnownToItsObjectFromTheFirstMessageToTheLast) {
+TEST(Window, IsAttachedToItsObjectFromTheFirstMessageToTheLast) {
   LifeWindow w;
   ASSERT_TRUE(w.Make());
   HWND handle = w.m_hWnd;
@@ -61,7 +61,7 @@ TEST(Window, IsKnownToItsObjectFromTheFirstMessageToTheLast) {
             w.diary);
 }
 
-TEST(Window, WhoseCreationIsRefusedBeforehandIsNeverMade) {
+TEST(Window, IsNotCreatedWhenPreCreateWindowRefuses) {
   LifeWindow w;
   w.refuseCreate = true;
   EXPECT_FALSE(w.Make());
@@ -69,7 +69,7 @@ TEST(Window, WhoseCreationIsRefusedBeforehandIsNeverMade) {
   EXPECT_EQ((Diary{"PreCreateWindow", "PostNcDestroy"}), w.diary);
 }
 
-TEST(Window, WhoseOnCreateAnswersMinusOneIsGoneAfterwards) {
+TEST(Window, IsDestroyedWhenOnCreateReturnsMinusOne) {
   LifeWindow w;
   w.createAnswer = -1;
   EXPECT_FALSE(w.Make());
@@ -79,7 +79,7 @@ TEST(Window, WhoseOnCreateAnswersMinusOneIsGoneAfterwards) {
   EXPECT_TRUE(w.Make());  // the object can be used again
 }
 
-TEST(Window, WhoseNcCreateFailsIsGoneAfterwards) {
+TEST(Window, IsDestroyedWhenNcCreateFails) {
   LifeWindow w;
   w.refuseNcCreate = true;
   EXPECT_FALSE(w.Make());
@@ -91,7 +91,7 @@ TEST(Window, OfAClassThatDoesNotExistReportsFailureAndLeavesNoHook) {
   LifeWindow w;
   EXPECT_FALSE(w.CreateEx(0, L"NoSuchClass", L"", WS_OVERLAPPED, 0, 0, 1, 1, nullptr, nullptr));
   EXPECT_EQ((Diary{"PreCreateWindow", "PostNcDestroy"}), w.diary);
-  // A window made by others afterwards must not fall to the object that failed.
+  // A window created by others later must not be attached to the object that failed.
   HWND other = ::CreateWindowEx(0, L"STATIC", L"", WS_OVERLAPPED, 0, 0, 1, 1, nullptr, nullptr,
                                 nullptr, nullptr);
   EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(other));
@@ -115,10 +115,10 @@ TEST(Window, CreatesAChildInItsOwnOnCreate) {
   EXPECT_EQ(&parent, parent.child.GetParent());
   EXPECT_TRUE(parent.child.GetStyle() & WS_CHILD);
   parent.DestroyWindow();
-  EXPECT_EQ(nullptr, parent.child.m_hWnd);  // went with its parent
+  EXPECT_EQ(nullptr, parent.child.m_hWnd);  // destroyed with its parent
 }
 
-TEST(Window, DestructorDestroysALivingWindow) {
+TEST(Window, TheDestructorDestroysAnExistingWindow) {
   HWND handle;
   {
     TestWindow w;
@@ -128,7 +128,7 @@ TEST(Window, DestructorDestroysALivingWindow) {
   EXPECT_FALSE(::IsWindow(handle));
 }
 
-TEST(Window, ThatDeletesItselfAtItsEndMayBeDestroyedThroughItsObject) {
+TEST(Window, CanBeDestroyedThroughAnObjectThatDeletesItself) {
   struct SelfMade : TestWindow {
     explicit SelfMade(bool& gone) : m_gone(gone) {}
     ~SelfMade() override { m_gone = true; }
@@ -142,7 +142,7 @@ TEST(Window, ThatDeletesItselfAtItsEndMayBeDestroyedThroughItsObject) {
   EXPECT_TRUE(gone);
 }
 
-TEST(Window, OpenedAndClosedAHundredTimesLeavesNothingInTheMap) {
+TEST(Window, CreatedAndDestroyedAHundredTimesLeavesNothingInTheMap) {
   for (int i = 0; i < 100; ++i) {
     TestWindow w;
     ASSERT_TRUE(w.Make());
@@ -154,7 +154,7 @@ TEST(Window, OpenedAndClosedAHundredTimesLeavesNothingInTheMap) {
 
 // ---- handle maps
 
-TEST(HandleMap, GivesOneTemporaryObjectUntilIdleTimeAndLeavesTheWindowAlone) {
+TEST(HandleMap, ReturnsOneTemporaryObjectUntilIdleTimeAndKeepsTheWindow) {
   HWND foreign = ::CreateWindowEx(0, L"STATIC", L"abc", WS_OVERLAPPED, 0, 0, 9, 9, nullptr, nullptr,
                                   nullptr, nullptr);
   CWnd* first = CWnd::FromHandle(foreign);
@@ -168,7 +168,7 @@ TEST(HandleMap, GivesOneTemporaryObjectUntilIdleTimeAndLeavesTheWindowAlone) {
   ::DestroyWindow(foreign);
 }
 
-TEST(HandleMap, TemporaryObjectsStayWhileTheMapsAreLocked) {
+TEST(HandleMap, TemporaryObjectsAreKeptWhileTheMapsAreLocked) {
   HWND foreign = ::GetDesktopWindow();
   AfxLockTempMaps();
   CWnd* temporary = CWnd::FromHandle(foreign);
@@ -183,7 +183,7 @@ TEST(HandleMap, ANullHandleHasNoObject) {
   EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
 }
 
-TEST(HandleMap, AttachingTwiceIsRefused) {
+TEST(HandleMap, AttachingTwiceFails) {
   TestWindow w;
   ASSERT_TRUE(w.Make());
   HWND handle = w.m_hWnd;
@@ -204,7 +204,7 @@ class TextCounter : public CWnd {
 };
 }  // namespace
 
-TEST(Subclass, SeesTheMessagesAndHandsThemToTheOldProcedure) {
+TEST(Subclass, GetsTheMessagesAndPassesThemToTheOldProcedure) {
   HWND edit = ::CreateWindowEx(0, L"EDIT", L"four", WS_OVERLAPPED, 0, 0, 50, 20, nullptr, nullptr,
                                nullptr, nullptr);
   auto before = ::GetWindowLongPtr(edit, GWLP_WNDPROC);
@@ -219,7 +219,7 @@ TEST(Subclass, SeesTheMessagesAndHandsThemToTheOldProcedure) {
   ::DestroyWindow(edit);
 }
 
-TEST(Subclass, OfAWindowThatHasAnObjectIsRefused) {
+TEST(Subclass, OfAWindowThatHasAnObjectFails) {
   TestWindow w;
   ASSERT_TRUE(w.Make());
   CWnd second;
@@ -272,7 +272,7 @@ ON_MESSAGE(WM_USER + 1, OnAsk)
 END_MESSAGE_MAP()
 }  // namespace
 
-TEST(Exceptions, OfAHandlerEndInTheWindowProcedure) {
+TEST(Exceptions, OfAHandlerAreCaughtInTheWindowProcedure) {
   Thrower w;
   ASSERT_TRUE(w.Make());
   EXPECT_EQ(7, w.SendMessage(WM_USER + 1));
@@ -281,7 +281,7 @@ TEST(Exceptions, OfAHandlerEndInTheWindowProcedure) {
     EXPECT_EQ(0, w.SendMessage(WM_USER + 1)) << kind;
   }
   w.kind = 0;
-  EXPECT_EQ(7, w.SendMessage(WM_USER + 1));  // and the window lives on
+  EXPECT_EQ(7, w.SendMessage(WM_USER + 1));  // the window still works
 }
 
 TEST(Exceptions, OtherThanTheLibrarysLeaveTheWindowProcedure) {
@@ -313,10 +313,10 @@ TEST(Exceptions, DuringPaintingEndThePainting) {
   w.Invalidate();
   w.UpdateWindow();
   EXPECT_EQ(1, w.paints);
-  EXPECT_FALSE(w.GetUpdateRect(nullptr));  // or it would be asked for ever
+  EXPECT_FALSE(w.GetUpdateRect(nullptr));  // or WM_PAINT would be sent for ever
 }
 
-TEST(Exceptions, InOnCreateMakeTheCreationFail) {
+TEST(Exceptions, InOnCreateFailTheCreation) {
   Thrower w;
   w.kind = 9;
   EXPECT_FALSE(w.Make());
