@@ -3,7 +3,7 @@
 #include "adslib.h"
 
 namespace {
-// The only chain that is ever given out; nodes of acutBuildList are told apart by their address.
+// The only chain that acedInvoke returns; nodes of acutBuildList have another address.
 wchar_t g_path[] = L"C:/lisp/";
 resbuf g_result{};
 resbuf g_call{};

@@ -1,6 +1,6 @@
-// A host that a test can look into: integer variables, the LISP call in progress, symbols, and a
-// diary of what was asked. Linked instead of the real host calls of the same names; only those that
-// the code under test makes are here.
+// A double of the host's calls: integer variables, the LISP call in progress, symbols, and a
+// record of the calls. Linked instead of the real functions of the same names; offers only those
+// that the code under test calls.
 #pragma once
 
 #include <map>
@@ -8,11 +8,11 @@
 #include <vector>
 
 struct HostDouble {
-  std::map<std::wstring, int> variables;  // what acedGetVar knows, all short integers
-  int functionCode = 0;                   // what acedGetFunCode answers
+  std::map<std::wstring, int> variables;  // for acedGetVar, all short integers
+  int functionCode = 0;                   // result of acedGetFunCode
   bool lispPathAnswers = false;           // whether acedInvoke succeeds, with the text "C:/lisp/"
   std::vector<std::wstring> diary;
-  int openChains = 0;  // result chains given out and not yet released
+  int openChains = 0;  // result chains not yet released
 };
 
 HostDouble& TheHostDouble();  // one for the program; tests reset it by assigning a new one

@@ -1,4 +1,4 @@
-// The host core without windows, for tests that need its support path, variables and printing.
+// The host core without windows, for tests that use its support path, variables and printing.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// Brings the window class library up before the first test of a program that makes windows, without
-// a program object of its own.
+// Initializes the window class library before the first test of a program that creates windows,
+// without a program object of its own.
 #include <gtest/gtest.h>
 
 #include "afxwin.h"

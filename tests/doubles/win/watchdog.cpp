@@ -1,5 +1,6 @@
-// Ends a test program whose test takes no message for five seconds: a user would see the host hang.
-// A test that pumps may take as long as it needs. Part of every test program on Windows.
+// Ends a test program whose test processes no message for five seconds, in which a user
+// would see the host hang. A test that processes messages has no time limit. Part of every
+// test program on Windows.
 #include <gtest/gtest.h>
 #include <windows.h>
 
