@@ -1,4 +1,4 @@
-// What a click comes to, and how a command waits for its turn.
+// The effect of a click on a line, and the wait of a command before it is sent.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -10,7 +10,7 @@ using namespace fixture;
 using qvx::ClickKind;
 using qvx::SwitchResult;
 
-TEST(ClickRules, ASubMenuFoldsASwitchFlipsAndAnyOtherLineSends) {
+TEST(ClickRules, ASubMenuFoldsASwitchAdvancesAndAnyOtherLineSends) {
   TMenuBar bar;
   AddHeader(bar, L"组");
   const auto shown = MakeSwitch(L"get", L"set", {L"开"});
@@ -23,7 +23,7 @@ TEST(ClickRules, ASubMenuFoldsASwitchFlipsAndAnyOtherLineSends) {
   EXPECT_EQ(qvx::DecideClick(*bar.At(3)), ClickKind::kNothing);
 }
 
-TEST(ClickRules, ASeparatorSendsNothingWhateverCommandItsLineHas) {
+TEST(ClickRules, ASeparatorSendsNothingEvenIfItsLineHasACommand) {
   TMenuBar bar;
   EXPECT_EQ(qvx::DecideClick(*AddLine(bar, L"--", L"TWall\n")), ClickKind::kNothing);
 }
@@ -85,7 +85,7 @@ TEST_F(SwitchClick, ASetFunctionThatFailsEndsItBeforeTheStateIsRead) {
   EXPECT_TRUE(line->m_strLabel == L"开关");
 }
 
-TEST_F(SwitchClick, AStateThatCannotBeReadLeavesTheCaptionButCountsAsFlipped) {
+TEST_F(SwitchClick, AStateThatCannotBeReadKeepsTheCaptionButCountsAsAdvanced) {
   lisp.Nil(L"set");
   EXPECT_EQ(qvx::FlipSwitch(*line, lisp), SwitchResult::kUnknown);
   EXPECT_TRUE(line->m_strLabel == L"开关");

@@ -40,7 +40,7 @@ TEST(EdgeRules, AHitCodePicksItsSideDirectly) {
   ExpectRect(r, 400, 0, 404, 600);
 }
 
-TEST(EdgeRules, AnyOtherCodeLeavesTheRectangleAlone) {
+TEST(EdgeRules, AnyOtherCodeKeepsTheRectangle) {
   RECT r{1, 2, 3, 4};
   EXPECT_EQ(EdgeRect(59999, kLeft, &r), 0);
   ExpectRect(r, 1, 2, 3, 4);
@@ -79,7 +79,7 @@ TEST(TrackRules, ARightDockedPaletteStopsAtTheSameWidth) {
   EXPECT_FALSE(TrackOffset({325, 0}, {296, 0, 300, 600}, kRight, kLeast, &way));
 }
 
-TEST(TrackRules, TopAndBottomDocksStopAtTheLeastHeight) {
+TEST(TrackRules, TopAndBottomDocksStopAtTheMinimumHeight) {
   POINT way{};
   EXPECT_TRUE(TrackOffset({0, 202}, {0, 250, 400, 255}, kTop, kLeast, &way));
   EXPECT_FALSE(TrackOffset({0, 201}, {0, 250, 400, 255}, kTop, kLeast, &way));
@@ -87,7 +87,7 @@ TEST(TrackRules, TopAndBottomDocksStopAtTheLeastHeight) {
   EXPECT_FALSE(TrackOffset({0, 398}, {0, 345, 400, 350}, kBottom, kLeast, &way));
 }
 
-TEST(TrackRules, TheDraggedSideMovesByTheTrackersWay) {
+TEST(TrackRules, TheDraggedSideMovesByTheTrackersDistance) {
   const RECT window{10, 20, 110, 620};
   ExpectRect(DraggedRect({150, 0, 154, 600}, kLeft, window), 10, 20, 160, 620);
   ExpectRect(DraggedRect({246, 0, 250, 600}, kRight, window), -40, 20, 110, 620);
@@ -95,11 +95,11 @@ TEST(TrackRules, TheDraggedSideMovesByTheTrackersWay) {
   ExpectRect(DraggedRect({0, 315, 400, 320}, kBottom, window), 10, -10, 110, 620);
 }
 
-TEST(TrackRules, AnUnmovedTrackerLeavesTheSize) {
+TEST(TrackRules, AnUnmovedTrackerKeepsTheSize) {
   ExpectRect(DraggedRect({100, 0, 104, 600}, kLeft, {0, 0, 100, 600}), 0, 0, 100, 600);
 }
 
-TEST(HostRules, TheEdgeIsTakenOverFromRelease172On) {
+TEST(HostRules, TheModuleHandlesTheEdgeFromRelease172On) {
   EXPECT_FALSE(HostLetsTakeEdge(16, 9));
   EXPECT_FALSE(HostLetsTakeEdge(17, 1));
   EXPECT_TRUE(HostLetsTakeEdge(17, 2));

@@ -1,4 +1,4 @@
-// One layout pass as arithmetic, and the fitting of the root group into the palette.
+// The arithmetic of one layout pass, and the fitting of the root group into the palette.
 #include <gtest/gtest.h>
 
 #include "screenmenu/group_layout.h"
@@ -27,14 +27,14 @@ class GroupLayout : public testing::Test {
   }
 };
 
-TEST_F(GroupLayout, RowsStandUnderEachOtherFromTwoPixelsDownAtFullWidth) {
+TEST_F(GroupLayout, RowsAreStackedFromTwoPixelsDownAtFullWidth) {
   const LayoutPlan plan = Plan();
   ExpectRect(plan.rows[0], 0, 2, 100, 26);
   ExpectRect(plan.rows[2], 0, 50, 100, 74);
   EXPECT_FALSE(plan.scroll.wanted);
 }
 
-TEST_F(GroupLayout, TheOpenGroupSitsTwoBelowItsHeaderAndTwoAboveTheNextRow) {
+TEST_F(GroupLayout, TheOpenGroupIsTwoBelowItsHeaderAndTwoAboveTheNextRow) {
   request.openIndex = 0;
   request.childHeight = 40;
   request.total = 120;
@@ -50,7 +50,7 @@ TEST_F(GroupLayout, ATreeExactlyAsTallAsTheClientHasNoScrollBar) {
   EXPECT_TRUE(Plan().scroll.wanted);
 }
 
-TEST_F(GroupLayout, TheScrollBarTakesItsWidthFromTheRowsAndRangesOverWhatDoesNotFit) {
+TEST_F(GroupLayout, TheScrollBarTakesItsWidthFromTheRowsAndItsRangeIsTheHiddenHeight) {
   request.total = 500;
   const LayoutPlan plan = Plan();
   ExpectRect(plan.scroll.bar, 92, 0, 100, 200);
@@ -59,7 +59,7 @@ TEST_F(GroupLayout, TheScrollBarTakesItsWidthFromTheRowsAndRangesOverWhatDoesNot
   EXPECT_EQ(plan.rows[0].right, 92);
 }
 
-TEST_F(GroupLayout, ABarOfNoWidthLeavesTheRowsTheFullWidthAndStillScrolls) {
+TEST_F(GroupLayout, ABarOfZeroWidthKeepsTheRowsAtFullWidthAndStillScrolls) {
   request.total = 500;
   request.barWidth = 0;
   const LayoutPlan plan = Plan();
@@ -75,7 +75,7 @@ TEST_F(GroupLayout, TheScrollPositionMovesAllRowsUp) {
   EXPECT_EQ(Plan().rows[0].top, 2 - 120);
 }
 
-TEST_F(GroupLayout, ATreeThatShrankBelowThePositionIsPulledBackInTheSamePass) {
+TEST_F(GroupLayout, ATreeThatShrankBelowThePositionScrollsBackInTheSamePass) {
   request.total = 260;
   request.hasBar = true;
   request.scrollPos = 250;
@@ -99,7 +99,7 @@ TEST_F(GroupLayout, AGroupThatIsNotItsOwnHostGetsNoBar) {
   EXPECT_FALSE(Plan().scroll.wanted);
 }
 
-TEST_F(GroupLayout, ALimitedRootGivesItsOpenGroupAllThatItsRowsLeaveAndNeverScrolls) {
+TEST_F(GroupLayout, ALimitedRootGivesItsOpenGroupTheRestOfTheHeightAndNeverScrolls) {
   request.limitHeight = true;
   request.total = 200;
   request.openIndex = 1;
@@ -111,7 +111,7 @@ TEST_F(GroupLayout, ALimitedRootGivesItsOpenGroupAllThatItsRowsLeaveAndNeverScro
   EXPECT_EQ(plan.end, 200 - 2) << "the last row ends where the margin begins";
 }
 
-TEST_F(GroupLayout, RowsThatFillALimitedRootLeaveItsOpenGroupNothing) {
+TEST_F(GroupLayout, RowsThatFillALimitedRootLeaveItsOpenGroupNoHeight) {
   request.limitHeight = true;
   request.client.bottom = 60;
   request.openIndex = 0;

@@ -1,4 +1,4 @@
-// The tree of groups before it has windows: heights, nesting, the open index, who scrolls.
+// The tree of groups before its windows are built: heights, nesting, the open index, scrolling.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -30,7 +30,7 @@ TEST_F(GroupPlans, AnEmptyBarHasContentHeightFourAndNoRows) {
   EXPECT_EQ(qvx::ContentHeight(tree.get()), 4);
 }
 
-TEST_F(GroupPlans, TwoSeparatorsInARowMakeTwoThinRows) {
+TEST_F(GroupPlans, TwoAdjacentSeparatorsMakeTwoThinRows) {
   AddLine(bar, L"--");
   AddLine(bar, L"--");
   EXPECT_EQ(Plan()->RowHeights(), (std::vector<int>{8, 8}));
@@ -48,7 +48,7 @@ TEST_F(GroupPlans, EveryLineHasASlotAndOnlyHeadersHaveAGroupInIt) {
   EXPECT_EQ(tree->children[1]->parent, tree.get());
 }
 
-TEST_F(GroupPlans, LispRunsOnceForEachLineInLineOrderNestedGroupsInPlace) {
+TEST_F(GroupPlans, LispRunsOnceForEachLineInLineOrderWithNestedGroupsInPlace) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开"});
   TMenuItem* first = AddLine(bar, L"a", L"x");
   first->m_nFlags = TMenuItem::kHasGrayFn;
@@ -62,7 +62,7 @@ TEST_F(GroupPlans, LispRunsOnceForEachLineInLineOrderNestedGroupsInPlace) {
   EXPECT_EQ(lisp.diary, (std::vector<std::wstring>{L"gray1", L"get", L"gray2", L"check2"}));
 }
 
-TEST_F(GroupPlans, OnlyTheRootOpensWhatTheSettingsRemember) {
+TEST_F(GroupPlans, OnlyTheRootOpensTheSavedGroup) {
   AddHeader(*AddHeader(bar, L"组"), L"内");
   remembered = 0;
   const auto tree = Plan();
@@ -70,7 +70,7 @@ TEST_F(GroupPlans, OnlyTheRootOpensWhatTheSettingsRemember) {
   EXPECT_EQ(tree->children[0]->cursor, -1);
 }
 
-TEST_F(GroupPlans, ARememberedIndexBeyondASmallerMenuOpensNothing) {
+TEST_F(GroupPlans, ASavedIndexBeyondASmallerMenuOpensNothing) {
   AddHeader(bar, L"组");
   for (int value : {1, 99, -7}) {
     remembered = value;
@@ -78,7 +78,7 @@ TEST_F(GroupPlans, ARememberedIndexBeyondASmallerMenuOpensNothing) {
   }
 }
 
-TEST_F(GroupPlans, ARememberedLeafOpensNothingAndStaysRemembered) {
+TEST_F(GroupPlans, ASavedLeafOpensNothingAndStaysSaved) {
   AddLine(bar, L"墙", L"TWall\n");
   AddHeader(bar, L"组");
   remembered = 0;
@@ -87,7 +87,7 @@ TEST_F(GroupPlans, ARememberedLeafOpensNothingAndStaysRemembered) {
   EXPECT_EQ(tree->cursor, 0) << "this is what the palette writes back";
 }
 
-TEST_F(GroupPlans, OpeningTheFirstOutranksWhatIsRememberedAndGoesDownEveryLevel) {
+TEST_F(GroupPlans, OpeningTheFirstOverridesTheSavedGroupAtEveryLevel) {
   AddHeader(*AddHeader(bar, L"一"), L"二");
   AddHeader(bar, L"别");
   openFirst = true;
@@ -98,7 +98,7 @@ TEST_F(GroupPlans, OpeningTheFirstOutranksWhatIsRememberedAndGoesDownEveryLevel)
   EXPECT_EQ(tree->children[0]->children[0]->cursor, -1) << "an empty list has no first";
 }
 
-TEST_F(GroupPlans, OpeningTheFirstOnALeafOpensNothingAndTheNextHeaderHasNothingToFold) {
+TEST_F(GroupPlans, OpeningTheFirstOnALeafOpensNothingSoTheNextHeaderFoldsNothing) {
   AddLine(bar, L"墙", L"TWall\n");
   AddHeader(bar, L"组");
   openFirst = true;
@@ -142,7 +142,7 @@ TEST_F(GroupPlans, TheRootScrollsForAllUnlessItsHeightIsLimited) {
   EXPECT_EQ(qvx::ScrollHostOf(tree.get()), tree.get());
 }
 
-TEST_F(GroupPlans, AMenuDeeperThanTheLimitIsCutAndNotFollowed) {
+TEST_F(GroupPlans, AMenuDeeperThanTheLimitIsCut) {
   TMenuBar* at = &bar;
   for (int i = 0; i < 300; ++i) at = AddHeader(*at, L"组");
   const auto tree = Plan();
@@ -157,7 +157,7 @@ TEST(FoldRules, TheOpenHeaderFoldsAndAnyOtherRowSwitches) {
   EXPECT_EQ(qvx::DecideFold(0, 5, -1), qvx::FoldStep::kSwitch);
 }
 
-TEST(FoldRules, AnIndexThatIsNoRowDoesNothing) {
+TEST(FoldRules, AnIndexOutOfRangeDoesNothing) {
   EXPECT_EQ(qvx::DecideFold(5, 5, -1), qvx::FoldStep::kNothing);
   EXPECT_EQ(qvx::DecideFold(0xFFFFFFFFu, 5, -1), qvx::FoldStep::kNothing);
   EXPECT_EQ(qvx::DecideFold(0, 0, -1), qvx::FoldStep::kNothing);

@@ -1,5 +1,5 @@
-// Menus built by hand, and a LISP caller that answers from a table and keeps a diary, for the tests
-// of the screen menu's logic.
+// Menus built in code, and a LISP caller with a table of results and a record of calls, for the
+// tests of the screen menu's logic.
 #pragma once
 
 #include <functional>
@@ -33,7 +33,8 @@ class FakeLisp : public qvx::LispCaller {
   void Fail(const wchar_t* function) { answers.erase(function); }
 
   std::map<std::wstring, qvx::LispAnswer> answers;
-  std::map<std::wstring, std::function<void()>> actions;  // what a function does before it answers
+  // Run when a function is called, before it returns.
+  std::map<std::wstring, std::function<void()>> actions;
   std::vector<std::wstring> diary;
 };
 
@@ -49,7 +50,7 @@ inline TMenuBar* AddHeader(TMenuBar& bar, const wchar_t* label, TMenuBar* below 
   return line->m_pSubMenu;
 }
 
-// A switch with states 1, 2, ... labelled in turn, every one with its own icon from 0 on.
+// A switch with states 1, 2, ... with the given labels and icons 0, 1, ...
 inline std::unique_ptr<TMenuSwitchItem> MakeSwitch(const wchar_t* getFn, const wchar_t* setFn,
                                                    const std::vector<const wchar_t*>& labels) {
   auto made = std::make_unique<TMenuSwitchItem>();

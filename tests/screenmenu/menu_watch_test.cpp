@@ -1,5 +1,5 @@
-// LISP functions that replace the menu in the middle of being asked: whoever asked touches nothing
-// of it any more. What is freed too early or used too late ends the test under the sanitizers.
+// LISP functions that replace the menu while they are called: the caller must not use any part of
+// the old menu after that. The sanitizers detect use after free.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -10,7 +10,7 @@ namespace {
 
 using namespace fixture;
 
-// A menu that goes whole, lines, switches and icons, as soon as the named function runs.
+// A menu that is destroyed with lines, switches and icons when the named function runs.
 class GoingMenu : public testing::Test {
  protected:
   GoingMenu() : bar(std::make_unique<TMenuBar>()), system(std::make_unique<TMenuSystem>()) {
@@ -31,7 +31,7 @@ class GoingMenu : public testing::Test {
   std::unique_ptr<qvx::GroupPlan> Plan() {
     return qvx::PlanTree(*bar, {Sources(), false, false, -1, 500});
   }
-  // A line with both functions and an icon, behind a header and before another line.
+  // A line with both functions and an icon, after a header and before another line.
   void FillAround(TMenuBar& nested) {
     TMenuItem* line = AddLine(nested, L"墙", L"TWall\n");
     line->m_nIconIndex = 0;
@@ -53,7 +53,7 @@ class GoingMenu : public testing::Test {
   std::unique_ptr<TMenuSwitchItem> shown;
 };
 
-TEST(MenuWatch, SaysGoneAfterARenewalAndAfterTheEndOfTheMenu) {
+TEST(MenuWatch, IsGoneAfterAReplacementAndAfterTheEndOfTheMenu) {
   auto life = std::make_unique<qvx::MenuLife>();
   const qvx::MenuWatch first = life->Watch();
   EXPECT_FALSE(first.IsGone());
@@ -66,7 +66,7 @@ TEST(MenuWatch, SaysGoneAfterARenewalAndAfterTheEndOfTheMenu) {
   EXPECT_FALSE(qvx::MenuWatch().IsGone()) << "a menu that can't go";
 }
 
-TEST_F(GoingMenu, NoPlanIsLeftWhicheverFunctionTakesTheMenu) {
+TEST_F(GoingMenu, NoPlanIsReturnedWhicheverFunctionReplacesTheMenu) {
   for (const wchar_t* function : {L"check", L"gray", L"gray2", L"get"}) {
     for (bool nested : {false, true}) {
       SCOPED_TRACE(testing::Message() << function << (nested ? L" nested" : L""));
@@ -84,19 +84,19 @@ TEST_F(GoingMenu, NoPlanIsLeftWhicheverFunctionTakesTheMenu) {
   }
 }
 
-TEST_F(GoingMenu, APlanStandsWhenTheMenuStays) {
+TEST_F(GoingMenu, APlanIsReturnedWhenTheMenuStays) {
   FillAround(*AddHeader(*bar, L"组"));
   ASSERT_NE(Plan(), nullptr);
   EXPECT_EQ(lisp.diary, (std::vector<std::wstring>{L"gray", L"check", L"gray2", L"get"}));
 }
 
-TEST_F(GoingMenu, ARefreshedSwitchThatTakesItsMenuIsNotTouched) {
+TEST_F(GoingMenu, ARefreshedSwitchThatReplacesItsMenuIsNotUsed) {
   TMenuItem* line = AddSwitchLine(*bar, *shown);
   GoesIn(L"get");
   EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp, life.Watch()));
 }
 
-TEST_F(GoingMenu, AClickedSwitchEndsWithItsMenuInTheSetFunctionAndInTheGetFunction) {
+TEST_F(GoingMenu, AClickedSwitchStopsWhenTheSetOrTheGetFunctionReplacesItsMenu) {
   TMenuItem* line = AddSwitchLine(*bar, *shown);
   GoesIn(L"get");
   EXPECT_EQ(qvx::FlipSwitch(*line, lisp, life.Watch()), qvx::SwitchResult::kGone);
@@ -111,7 +111,7 @@ TEST_F(GoingMenu, AClickedSwitchEndsWithItsMenuInTheSetFunctionAndInTheGetFuncti
   EXPECT_EQ(lisp.diary, (std::vector<std::wstring>{L"set"}));
 }
 
-TEST_F(GoingMenu, ASetFunctionThatTakesTheMenuAndFailsIsGoneAndNotRefused) {
+TEST_F(GoingMenu, ASetFunctionThatReplacesTheMenuAndFailsIsGoneAndNotRefused) {
   TMenuItem* line = AddSwitchLine(*bar, *shown);
   lisp.Fail(L"set");
   GoesIn(L"set");

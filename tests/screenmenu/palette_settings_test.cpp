@@ -1,4 +1,4 @@
-// What the palette keeps in the settings store.
+// The settings of the palette.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -32,7 +32,7 @@ TEST(PaletteSettings, WhatIsSavedIsReadBackExceptTheHeight) {
   qvx::SavePaletteState({0, 1, {76, 80}, 0, 0, 0});
 }
 
-TEST(PaletteSettings, GoingDownWritesTheSizeAlone) {
+TEST(PaletteSettings, DestroyingThePaletteSavesTheSizeOnly) {
   qvx::SavePaletteState({1, 1, {76, 80}, 0, 0, 0});
   qvx::SavePaletteSize(90, 300);
   EXPECT_EQ(ReadValue(L"SizeX", -1), 90);
@@ -40,7 +40,7 @@ TEST(PaletteSettings, GoingDownWritesTheSizeAlone) {
   EXPECT_EQ(ReadValue(L"Alignment", -1), 1);
 }
 
-TEST(PaletteSettings, AWidthThatNobodyCouldTakeHoldOfIsLeftOut) {
+TEST(PaletteSettings, AWidthTooSmallToGrabIsNotSaved) {
   EXPECT_EQ(qvx::UsableWidth(120, 1000), 120);
   EXPECT_EQ(qvx::UsableWidth(1, 1000), 1);
   EXPECT_EQ(qvx::UsableWidth(1000, 1000), 1000);
@@ -48,14 +48,14 @@ TEST(PaletteSettings, AWidthThatNobodyCouldTakeHoldOfIsLeftOut) {
     EXPECT_EQ(qvx::UsableWidth(odd, 1000), 76);
 }
 
-TEST(PaletteSettings, TheOpenIndexIsKeptUnchangedWhateverItIs) {
+TEST(PaletteSettings, AnyOpenIndexIsSavedUnchanged) {
   for (int value : {3, 0, -1, 4711}) {
     qvx::SaveActiveSubMenu(value);
     EXPECT_EQ(qvx::LoadActiveSubMenu(), value);
   }
 }
 
-TEST(PaletteSettings, ThePaletteBelongsToTheNearerSideAndToTheLeftWhenBothAreAsNear) {
+TEST(PaletteSettings, ThePaletteBelongsToTheNearerSideAndToTheLeftOnATie) {
   const RECT frame{0, 0, 1000, 600};
   EXPECT_EQ(qvx::AlignmentOf({0, 0, 100, 600}, frame), 1);
   EXPECT_EQ(qvx::AlignmentOf({900, 0, 1000, 600}, frame), 0);

@@ -1,4 +1,4 @@
-// What a row tells a screen reader.
+// The accessible properties of a row.
 #include <gtest/gtest.h>
 
 #include "screenmenu/row_access.h"
@@ -11,7 +11,7 @@ RowFacts Leaf() {
   return {L"绘制墙体", false, false, false, false, true, true, false, false, false};
 }
 
-TEST(RowAccess, ANameIsReadWithoutTheAmpersandThatUnderlinesALetter) {
+TEST(RowAccess, TheNameOmitsTheAmpersandOfTheMnemonic) {
   EXPECT_EQ(AccessName(L"画墙(&W)"), L"画墙(W)");
   EXPECT_EQ(AccessName(L"门&&窗"), L"门&窗");
   EXPECT_EQ(AccessName(L"末尾&"), L"末尾");
@@ -44,7 +44,7 @@ TEST(RowAccess, ADisabledRowIsUnavailableAndCannotBeFocused) {
   EXPECT_EQ(AccessStates(row), kAccessUnavailable);
 }
 
-TEST(RowAccess, ASeparatorIsOneAndDoesNothing) {
+TEST(RowAccess, ASeparatorHasItsRoleAndNoAction) {
   RowFacts row = Leaf();
   row.separator = true;
   row.enabled = false;
@@ -53,7 +53,7 @@ TEST(RowAccess, ASeparatorIsOneAndDoesNothing) {
   EXPECT_STREQ(AccessAction(row), L"");
 }
 
-TEST(RowAccess, PointerFocusPressCheckAndFoldingAwayEachShow) {
+TEST(RowAccess, PointerFocusPressCheckAndFoldingAreReported) {
   RowFacts row = Leaf();
   row.hot = row.focused = row.pressed = row.checked = true;
   row.visible = false;

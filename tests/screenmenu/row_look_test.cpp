@@ -15,12 +15,12 @@ RowLook Look(int depth, bool hover, bool selected, bool disabled = false) {
   return LookOfRow(kItem, depth, {hover, selected, disabled}, true, kIcon);
 }
 
-TEST(MenuColors, SlotZeroIsTheRootsAndDeeperLevelsGoRound) {
+TEST(MenuColors, SlotZeroIsTheRootsAndDeeperLevelsWrapAround) {
   const int expected[] = {0, 1, 2, 3, 1, 2, 3, 1, 2};
   for (int depth = 0; depth < 9; ++depth) EXPECT_EQ(ColorSlot(depth), expected[depth]) << depth;
 }
 
-TEST(MenuColors, ArrowsGoRoundWithTheDepth) {
+TEST(MenuColors, ArrowsWrapAroundWithTheDepth) {
   EXPECT_EQ(ArrowBitmap(0, false), 5012);
   EXPECT_EQ(ArrowBitmap(0, true), 199);
   EXPECT_EQ(ArrowBitmap(1, false), 5015);
@@ -84,7 +84,7 @@ TEST(RowLooks, ARowWithoutTextIsAnEtchedLineInTheMiddle) {
   EXPECT_EQ(look.line.left, 3);
 }
 
-TEST(RowLooks, TextStandsBehindTheImageColumnAndIsCentredInHeight) {
+TEST(RowLooks, TextIsAfterTheImageColumnAndCentredVertically) {
   const RECT placed = PlaceText({7, 0, 120, 24}, {40, 15});
   EXPECT_EQ(placed.left, 28);
   EXPECT_EQ(placed.top, 4);
@@ -92,7 +92,7 @@ TEST(RowLooks, TextStandsBehindTheImageColumnAndIsCentredInHeight) {
   EXPECT_EQ(placed.bottom, 19);
 }
 
-TEST(RowLooks, TextTallerThanItsRowRisesByHalfTheDifferenceCutTowardZero) {
+TEST(RowLooks, TextTallerThanItsRowMovesUpByHalfTheDifferenceRoundedTowardZero) {
   EXPECT_EQ(PlaceText({7, 0, 120, 24}, {40, 27}).top, -1);
 }
 

@@ -1,5 +1,4 @@
-// Rows of the screen menu from lines of the model: the table of captions, heights, states and
-// images.
+// Rows of the screen menu from lines of the model: captions, heights, states and images.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -21,7 +20,7 @@ class RowPlans : public testing::Test {
   bool icons = true;
 };
 
-TEST_F(RowPlans, AHeaderIsOnAndCarriesAnArrow) {
+TEST_F(RowPlans, AHeaderIsEnabledAndHasAnArrow) {
   AddHeader(bar, L"墙体");
   const RowPlan plan = Plan(*bar.At(0));
   EXPECT_STREQ(plan.caption, L"墙体");
@@ -30,7 +29,7 @@ TEST_F(RowPlans, AHeaderIsOnAndCarriesAnArrow) {
   EXPECT_EQ(plan.image, RowImage::kArrow);
 }
 
-TEST_F(RowPlans, ASeparatorIsAThirdOfARowThinWithoutTextAndOff) {
+TEST_F(RowPlans, ASeparatorIsAThirdOfARowHighWithoutTextAndDisabled) {
   const RowPlan plan = Plan(*AddLine(bar, L"--", L"ignored"));
   EXPECT_STREQ(plan.caption, L"");
   EXPECT_EQ(plan.height, 8);
@@ -38,7 +37,7 @@ TEST_F(RowPlans, ASeparatorIsAThirdOfARowThinWithoutTextAndOff) {
   EXPECT_EQ(plan.image, RowImage::kNone);
 }
 
-TEST_F(RowPlans, ASeparatorShowsNoIconEvenWhenItsLineNamesOne) {
+TEST_F(RowPlans, ASeparatorShowsNoIconEvenIfItsLineHasOne) {
   AddResource(system, L"ID_A", L"A16");
   TMenuItem* line = AddLine(bar, L"--", L"TWall\n");
   line->m_nIconIndex = 0;
@@ -46,14 +45,16 @@ TEST_F(RowPlans, ASeparatorShowsNoIconEvenWhenItsLineNamesOne) {
   EXPECT_STREQ(Plan(*line).bitmap, L"");
 }
 
-TEST_F(RowPlans, ASeparatorsHeightIsCutAndNotRounded) {
+TEST_F(RowPlans, ASeparatorsHeightIsTruncated) {
   const RowPlan plan = qvx::PlanRow(*AddLine(bar, L"--"), {&lisp, &system, true, 24});
   EXPECT_EQ(plan.height, 7);  // 23 / 3
 }
 
-TEST_F(RowPlans, ALineWithoutCommandIsOff) { EXPECT_FALSE(Plan(*AddLine(bar, L"空")).enabled); }
+TEST_F(RowPlans, ALineWithoutCommandIsDisabled) {
+  EXPECT_FALSE(Plan(*AddLine(bar, L"空")).enabled);
+}
 
-TEST_F(RowPlans, ATrueGreyFunctionTurnsTheLineOffAndAnyOtherAnswerLeavesItOn) {
+TEST_F(RowPlans, AGreyFunctionThatReturnsTDisablesTheLineAndAnyOtherResultDoesNot) {
   TMenuItem* line = AddLine(bar, L"墙", L"TWall\n");
   line->m_nFlags = TMenuItem::kHasGrayFn;
   line->m_strGrayFn = L"IsGray";
@@ -66,7 +67,7 @@ TEST_F(RowPlans, ATrueGreyFunctionTurnsTheLineOffAndAnyOtherAnswerLeavesItOn) {
   EXPECT_FALSE(Plan(*line).enabled);
 }
 
-TEST_F(RowPlans, AnEmptyCommandIsOffBeforeItsGreyFunctionIsAsked) {
+TEST_F(RowPlans, AnEmptyCommandIsDisabledWithoutACallOfItsGreyFunction) {
   TMenuItem* line = AddLine(bar, L"墙");
   line->m_nFlags = TMenuItem::kHasGrayFn;
   line->m_strGrayFn = L"IsGray";
@@ -111,7 +112,7 @@ TEST_F(RowPlans, WithoutIconLibraryOrWithAnIndexBeyondTheTableThereIsNoImageCall
   EXPECT_EQ(qvx::PlanRow(*line, {&lisp, nullptr, true, 25}).image, RowImage::kNone);
 }
 
-TEST_F(RowPlans, ASwitchLineTakesLabelAndIconOfItsState) {
+TEST_F(RowPlans, ASwitchLineHasLabelAndIconOfItsState) {
   AddResource(system, L"a", L"A16");
   AddResource(system, L"b", L"B16");
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
@@ -124,7 +125,7 @@ TEST_F(RowPlans, ASwitchLineTakesLabelAndIconOfItsState) {
   EXPECT_TRUE(line->m_strLabel == L"关");
 }
 
-TEST_F(RowPlans, ASwitchValueThatNoStateHoldsShowsTheFirstStateEnabled) {
+TEST_F(RowPlans, ASwitchValueWithoutAStateShowsTheFirstStateEnabled) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
   lisp.Number(L"get", 77);
@@ -133,7 +134,7 @@ TEST_F(RowPlans, ASwitchValueThatNoStateHoldsShowsTheFirstStateEnabled) {
   EXPECT_STREQ(plan.caption, L"开");
 }
 
-TEST_F(RowPlans, ASwitchWhoseFunctionFailsOrGivesNoNumberIsOffWithItsOldLabel) {
+TEST_F(RowPlans, ASwitchWhoseFunctionFailsOrReturnsNoNumberIsDisabledWithItsOldLabel) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
   EXPECT_FALSE(Plan(*line).enabled);
@@ -142,13 +143,13 @@ TEST_F(RowPlans, ASwitchWhoseFunctionFailsOrGivesNoNumberIsOffWithItsOldLabel) {
   EXPECT_STREQ(Plan(*line).caption, L"开关");
 }
 
-TEST_F(RowPlans, ASwitchWithoutStatesIsOff) {
+TEST_F(RowPlans, ASwitchWithoutStatesIsDisabled) {
   const auto shown = MakeSwitch(L"get", L"set", {});
   lisp.Number(L"get", 1);
   EXPECT_FALSE(Plan(*AddSwitchLine(bar, *shown)).enabled);
 }
 
-TEST_F(RowPlans, RefreshingComparesIconsOnlyAndLeavesACaptionOfTheSameIconStanding) {
+TEST_F(RowPlans, RefreshingComparesIconsOnlyAndKeepsACaptionOfTheSameIcon) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
   lisp.Number(L"get", 1);

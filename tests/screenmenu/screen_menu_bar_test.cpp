@@ -1,4 +1,4 @@
-// The navigation bar of the palette, and taking the SCREEN block out of a loaded menu.
+// The navigation bar of the palette, and moving the SCREEN block out of a loaded menu.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -41,7 +41,7 @@ TEST_F(ScreenBar, ASecondBackToOfALineNotOnTheStackAppendsItsLinesAgain) {
   EXPECT_EQ(bar.At(2), walls);
 }
 
-TEST_F(ScreenBar, EnteringReplacesTheLinesAndRemembersWhereItCameFrom) {
+TEST_F(ScreenBar, EnteringReplacesTheLinesAndPushesThePreviousOne) {
   bar.BackTo(&root);
   EXPECT_EQ(bar.EnterSubMenu(walls), 1);
   ASSERT_EQ(bar.Length(), 1);
@@ -50,7 +50,7 @@ TEST_F(ScreenBar, EnteringReplacesTheLinesAndRemembersWhereItCameFrom) {
   EXPECT_EQ(bar.RootBar(), root.m_pSubMenu) << "the root bar is that of the stack's bottom";
 }
 
-TEST_F(ScreenBar, GoingBackToALineOnTheStackEmptiesTheListAndForgetsWhatIsBehindIt) {
+TEST_F(ScreenBar, GoingBackToALineOnTheStackEmptiesTheListAndDropsTheLinesAfterIt) {
   bar.BackTo(&root);
   bar.EnterSubMenu(walls);
   bar.EnterSubMenu(doors);
@@ -86,7 +86,7 @@ TMenuBar* AddBlock(TMenuSystem& system, const wchar_t* name) {
   return block;
 }
 
-TEST(AttachScreenBar, TakesTheFirstScreenBlockOfAnyCaseAndLeavesTheOthers) {
+TEST(AttachScreenBar, TakesTheFirstScreenBlockOfAnyCaseAndKeepsTheOthers) {
   TMenuSystem system;
   AddBlock(system, L"COMMON");
   TMenuBar* screen = AddBlock(system, L"Screen");
@@ -104,7 +104,7 @@ TEST(AttachScreenBar, WithoutAScreenBlockNothingChanges) {
   EXPECT_EQ(system.Length(), 1);
 }
 
-TEST(AttachScreenBar, AMenuWithoutTitleHasTheUsualName) {
+TEST(AttachScreenBar, AMenuWithoutTitleHasTheDefaultName) {
   TMenuSystem system;
   EXPECT_STREQ(qvx::RootTitle(system), L"奇维建筑");
   system.m_strTitle = L"我的菜单";

@@ -5,7 +5,7 @@
 
 namespace {
 
-TEST(ShellJson, WithoutAPaletteEveryFieldIsStillThere) {
+TEST(ShellJson, WithoutAPaletteAllFieldsArePresent) {
   EXPECT_EQ(qvx::ToJson({}),
             "{\"exists\":false,\"visible\":false,\"enabled\":false,\"floating\":false,"
             "\"dock\":\"none\",\"title\":\"\",\"rect\":[0,0,0,0],\"scroll\":null,\"rows\":[]}");

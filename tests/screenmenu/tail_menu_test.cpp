@@ -1,4 +1,4 @@
-// The pop-up of a right click on the palette and what its lines mean.
+// The pop-up of a right click on the palette and the effect of its lines.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -38,7 +38,7 @@ TEST_F(TailMenu, ALeafOffersHelpJumpsAndCustomising) {
   EXPECT_TRUE(tail->At(5)->m_strCommand == L"_TCustomize\n");
 }
 
-TEST_F(TailMenu, WithLimitedHeightAndWithoutHelpOnlyCustomisingIsLeft) {
+TEST_F(TailMenu, WithLimitedHeightAndWithoutHelpThereIsOnlyCustomising) {
   EXPECT_EQ(Labels(false, true), (Words{L"自 定 义"}));
 }
 
@@ -48,7 +48,7 @@ TEST_F(TailMenu, JumpsAreCopiesWithoutSubMenusOfTheRootsHeadersOnly) {
   EXPECT_NE(root.m_pSubMenu->At(0)->m_pSubMenu, nullptr) << "the originals keep theirs";
 }
 
-TEST_F(TailMenu, TheSeparatorComesAlsoWithoutAnyJump) {
+TEST_F(TailMenu, TheSeparatorIsThereAlsoWithoutAnyJump) {
   TMenuItem bare{L"x", L""};
   bare.m_pSubMenu = new TMenuBar;
   TScreenMenuBar empty;
@@ -58,7 +58,7 @@ TEST_F(TailMenu, TheSeparatorComesAlsoWithoutAnyJump) {
   EXPECT_TRUE(tail->At(0)->IsSeparator());
 }
 
-TEST_F(TailMenu, IconsAreThoseOfTheMenuAndNoneWithoutThem) {
+TEST_F(TailMenu, IconsAreThoseOfTheMenuIfItHasAny) {
   Labels(true, true);
   EXPECT_EQ(tail->At(0)->m_nIconIndex, -1);
   AddResource(system, L"ID_Customize", L"C");
@@ -74,17 +74,17 @@ TEST_F(TailMenu, AGroupsNameTogglesItsRow) {
   EXPECT_EQ(choice.index, 2);
 }
 
-TEST_F(TailMenu, TheHelpTextAsksForHelpExactly) {
+TEST_F(TailMenu, OnlyTheExactHelpTextMeansHelp) {
   EXPECT_EQ(qvx::DecideTail(L"实时助手", bar).kind, qvx::TailChoice::Kind::kHelp);
   EXPECT_EQ(qvx::DecideTail(L"实时助手 ", bar).kind, qvx::TailChoice::Kind::kNothing);
 }
 
-TEST_F(TailMenu, ANameThatNoLineHasDoesNothing) {
+TEST_F(TailMenu, AnUnknownNameDoesNothing) {
   EXPECT_EQ(qvx::DecideTail(L"画墙", bar).kind, qvx::TailChoice::Kind::kNothing);
   EXPECT_EQ(qvx::DecideTail(L"", TScreenMenuBar()).kind, qvx::TailChoice::Kind::kNothing);
 }
 
-TEST(HeaderPopup, OpensOnTheSideFartherFromTheFramesEdge) {
+TEST(HeaderPopup, OpensAwayFromTheFramesEdge) {
   const RECT frame{0, 0, 1000, 700};
   EXPECT_EQ(qvx::HeaderPopupX({4, 50, 100, 74}, frame), 100);
   EXPECT_EQ(qvx::HeaderPopupX({900, 50, 996, 74}, frame), 900);

@@ -20,8 +20,8 @@ class Accessibility : public TreeWindows {
     ::CoUninitialize();
   }
 
-  // Runs the reader and handles its questions meanwhile. Its lines are name, role, state, action,
-  // or name and place.
+  // Runs the reader and processes its messages meanwhile. A line has name, role, state and
+  // action, or name and rectangle.
   std::vector<std::string> ReadFromOutside(const wchar_t* what = L"") {
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
@@ -83,7 +83,7 @@ TEST_F(Accessibility, NamesRolesAndFoldedStatesAreReadFromAnotherProcess) {
                                 "没有命令\t2b\t1\t按下", "正交\t2b\t100010\t按下"}));
 }
 
-TEST_F(Accessibility, AnUnfoldedHeaderIsExpandedAndItsLinesAreSeen) {
+TEST_F(Accessibility, AnUnfoldedHeaderIsExpandedAndItsLinesAreVisible) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   Build();
   root->ToggleSubMenu(0);
@@ -93,9 +93,9 @@ TEST_F(Accessibility, AnUnfoldedHeaderIsExpandedAndItsLinesAreSeen) {
   EXPECT_EQ(lines[1], "画墙\t2b\t100000\t按下");
 }
 
-// A row far from the view is not moved by scrolling; a reader is told where it belongs all the
-// same.
-TEST_F(Accessibility, RowsFarFromTheViewTellTheirPlacesAfterScrolling) {
+// Rows far from the view keep their window position while scrolling; a screen reader must get
+// the position of the layout.
+TEST_F(Accessibility, RowsFarFromTheViewReportTheirPlacesAfterScrolling) {
   for (int i = 0; i < 300; ++i) AddLine(bar, std::to_wstring(i).c_str(), L"TLine\n");
   Build();
   root->WheelGroup(0, -12000, CPoint());

@@ -1,6 +1,5 @@
-// The tree of groups as real windows: what is built, what a click shows and hides, scrolling, the
-// limited height, clicks, painting, handles. The palette around it is a plain window here, and what
-// it would do is noted in a diary.
+// The tree of groups as real windows: building, folding, scrolling, the limited height, clicks,
+// painting, handles. The parent is a plain window that records the calls of the palette.
 #include <gtest/gtest.h>
 
 #include "tree_fixture.h"
@@ -31,7 +30,7 @@ TEST_F(GroupWindows, TheTreeIsBuiltHiddenAndARowHasItsFixedStyle) {
   EXPECT_FALSE(group.Row(1)->IsWindowEnabled());
 }
 
-TEST_F(GroupWindows, RowsStandWhereTheLayoutPassWantsThemFromTheStart) {
+TEST_F(GroupWindows, RowsAreAtTheirLayoutPositionsFromTheStart) {
   AddLine(bar, L"轴网", L"TAxis\n");
   AddLine(bar, L"--");
   AddLine(bar, L"标注", L"TDim\n");
@@ -58,7 +57,7 @@ TEST_F(GroupWindows, AClickOnAHeaderOpensItsGroupAndASecondOneFoldsIt) {
   EXPECT_EQ(group.Row(0)->ShownBitmap(), owner.Arrow(0, false));
 }
 
-TEST_F(GroupWindows, AnotherHeaderFoldsTheFirstAndOpensTheSecondInOneStep) {
+TEST_F(GroupWindows, AClickOnAnotherHeaderFoldsTheFirstAndOpensTheSecondInOneStep) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   AddLine(*AddHeader(bar, L"门窗"), L"画门", L"TDoor\n");
   CMenuGroup& group = Build();
@@ -70,7 +69,7 @@ TEST_F(GroupWindows, AnotherHeaderFoldsTheFirstAndOpensTheSecondInOneStep) {
   EXPECT_EQ(PlaceOf(group.Child(1)).top, 52);
 }
 
-// Counts how often a window is moved or sized, in place of its own procedure.
+// Counts the moves and resizes of a window by subclassing it.
 class MoveCounter {
  public:
   explicit MoveCounter(HWND window) : m_window(window) {
@@ -93,8 +92,8 @@ class MoveCounter {
   inline static int s_moves = 0;
 };
 
-// The two groups are equally high. A pass for the fold and one for the opening would move the last
-// row up and down again.
+// Both groups have the same height: one pass for the fold and another for the opening would move
+// the last row up and down again.
 TEST_F(GroupWindows, ChangingTheOpenGroupIsOneLayoutPass) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   AddLine(*AddHeader(bar, L"门窗"), L"画门", L"TDoor\n");
@@ -109,7 +108,7 @@ TEST_F(GroupWindows, ChangingTheOpenGroupIsOneLayoutPass) {
   EXPECT_EQ(last.Moves(), 1) << "a fold alone moves it";
 }
 
-TEST_F(GroupWindows, OpeningTheFirstOnALeafOpensNothingAndTheFirstClickOnAHeaderOpensIt) {
+TEST_F(GroupWindows, OpeningTheFirstOnALeafOpensNothingAndAClickOnAHeaderOpensIt) {
   g_bDefaultOpenFirst = 1;
   AddLine(bar, L"轴网", L"TAxis\n");
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
@@ -128,7 +127,7 @@ TEST_F(GroupWindows, AnEmptyBarIsAGroupOfFourPixelsWithoutButtons) {
   EXPECT_EQ(::GetWindow(group.m_hWnd, GW_CHILD), nullptr);
 }
 
-TEST_F(GroupWindows, AParentOpenedAgainShowsItsInnerGroupsAsTheyWereLeft) {
+TEST_F(GroupWindows, AParentOpenedAgainKeepsTheStateOfItsInnerGroups) {
   AddLine(*AddHeader(*AddHeader(bar, L"一"), L"二"), L"叶", L"x");
   CMenuGroup& group = Build();
   Click(group, 0);
@@ -140,7 +139,7 @@ TEST_F(GroupWindows, AParentOpenedAgainShowsItsInnerGroupsAsTheyWereLeft) {
   EXPECT_EQ(PlaceOf(group.Child(0)).Height(), 28 + 4 + 28);
 }
 
-TEST_F(GroupWindows, TheRememberedGroupIsOpenFromTheStart) {
+TEST_F(GroupWindows, TheSavedGroupIsOpenFromTheStart) {
   AddLine(bar, L"轴网", L"TAxis\n");
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   qvx::SaveActiveSubMenu(1);
@@ -161,7 +160,7 @@ TEST_F(GroupWindows, ATreeExactlyAsTallAsTheClientHasNoBarAndOnePixelMoreHasOne)
   EXPECT_EQ(PlaceOf(group.Row(0)).right, 112);
 }
 
-TEST_F(GroupWindows, ABarOfNoWidthStillAnswersTheWheel) {
+TEST_F(GroupWindows, ABarOfZeroWidthStillScrollsByTheWheel) {
   Fill(40);
   CMenuGroup& group = Build(200);
   ASSERT_TRUE(group.HasScrollBar());
@@ -172,7 +171,7 @@ TEST_F(GroupWindows, ABarOfNoWidthStillAnswersTheWheel) {
   EXPECT_EQ(PlaceOf(group.Row(0)).top, 2 - 40);
 }
 
-TEST_F(GroupWindows, ABarOfNoWidthStillBringsAnOpenedGroupIntoView) {
+TEST_F(GroupWindows, ABarOfZeroWidthStillScrollsAnOpenedGroupIntoView) {
   Fill(10);
   AddLine(*AddHeader(bar, L"组"), L"行", L"x");
   CMenuGroup& group = Build(200);
@@ -182,7 +181,7 @@ TEST_F(GroupWindows, ABarOfNoWidthStillBringsAnOpenedGroupIntoView) {
   EXPECT_EQ(PlaceOf(group.Child(10)).right, 120);
 }
 
-TEST_F(GroupWindows, ThePointerPassesThroughASeparatorSoItNeverLights) {
+TEST_F(GroupWindows, ASeparatorIsTransparentToThePointer) {
   AddLine(bar, L"--");
   AddLine(bar, L"轴网", L"TAxis\n");
   CMenuGroup& group = Build();
@@ -238,7 +237,7 @@ TEST_F(GroupWindows, WithoutTipsInTheSettingsARowHasNone) {
   g_hQvxDll = nullptr;
 }
 
-TEST_F(GroupWindows, ScrollingMovesTheRowsAndLeavesTheBarInPlace) {
+TEST_F(GroupWindows, ScrollingMovesTheRowsAndNotTheBar) {
   g_bScrollBar = 1;
   Fill(40);
   CMenuGroup& group = Build(200);
@@ -252,7 +251,7 @@ TEST_F(GroupWindows, ScrollingMovesTheRowsAndLeavesTheBarInPlace) {
   EXPECT_EQ(PlaceOf(group.Row(0)).top, 2);
 }
 
-TEST_F(GroupWindows, FoldingPullsThePositionBackAndABarThatIsNotNeededGoes) {
+TEST_F(GroupWindows, FoldingScrollsBackAndHidesABarThatIsNotNeeded) {
   TMenuBar* nested = AddHeader(bar, L"长");
   for (int i = 0; i < 20; ++i) AddLine(*nested, L"行", L"x");
   Fill(5);
@@ -267,7 +266,7 @@ TEST_F(GroupWindows, FoldingPullsThePositionBackAndABarThatIsNotNeededGoes) {
   EXPECT_EQ(PlaceOf(group.Row(0)).top, 2);
 }
 
-TEST_F(GroupWindows, AnOpenedGroupIsBroughtIntoViewWithItsHeader) {
+TEST_F(GroupWindows, AnOpenedGroupIsScrolledIntoViewWithItsHeader) {
   Fill(10);
   TMenuBar* nested = AddHeader(bar, L"组");
   for (int i = 0; i < 3; ++i) AddLine(*nested, L"行", L"x");
@@ -303,7 +302,7 @@ TEST_F(GroupWindows, RowsThatFillALimitedRootLeaveItsOpenGroupNoHeight) {
   EXPECT_EQ(PlaceOf(group.Child(0)).Height(), 0);
 }
 
-TEST_F(GroupWindows, AClickOnACommandArmsItAndASeparatorThatIsReachedDoesNothing) {
+TEST_F(GroupWindows, AClickOnACommandStartsItsWaitAndOneOnASeparatorDoesNothing) {
   AddLine(bar, L"轴网", L"TAxis\n");
   AddLine(bar, L"--");
   AddLine(bar, L"空");
@@ -317,8 +316,8 @@ TEST_F(GroupWindows, AClickOnACommandArmsItAndASeparatorThatIsReachedDoesNothing
   EXPECT_EQ(owner.notes.size(), 1u);
 }
 
-// Both groups have a row 5000.
-TEST_F(GroupWindows, AClickIsLookedUpInTheGroupThatReceivesItAlone) {
+// Both groups have a row with the identifier 5000.
+TEST_F(GroupWindows, AClickIsLookedUpOnlyInTheGroupThatReceivesIt) {
   AddLine(bar, L"轴网", L"TAxis\n");
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   CMenuGroup& group = Build();
@@ -329,7 +328,7 @@ TEST_F(GroupWindows, AClickIsLookedUpInTheGroupThatReceivesItAlone) {
   EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TWall\n", L"arm TAxis\n"}));
 }
 
-TEST_F(GroupWindows, FocusNotificationsAndUnknownIdentifiersAreNoClicks) {
+TEST_F(GroupWindows, FocusNotificationsAndUnknownIdentifiersAreIgnored) {
   AddLine(bar, L"轴网", L"TAxis\n");
   CMenuGroup& group = Build();
   const LPARAM button = reinterpret_cast<LPARAM>(group.Row(0)->m_hWnd);
@@ -339,7 +338,7 @@ TEST_F(GroupWindows, FocusNotificationsAndUnknownIdentifiersAreNoClicks) {
   EXPECT_TRUE(owner.notes.empty());
 }
 
-TEST_F(GroupWindows, ASwitchGivesWayToARunningCommand) {
+TEST_F(GroupWindows, ASwitchIsRefusedWhileACommandRuns) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   AddSwitchLine(bar, *shown);
   owner.lisp.Number(L"get", 1);
@@ -351,7 +350,7 @@ TEST_F(GroupWindows, ASwitchGivesWayToARunningCommand) {
   EXPECT_TRUE(owner.lisp.diary.empty());
 }
 
-TEST_F(GroupWindows, ASwitchClickShowsTheNewStateAndTellsTheOthers) {
+TEST_F(GroupWindows, ASwitchClickShowsTheNewStateAndRefreshesTheOthers) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   AddSwitchLine(bar, *shown);
   owner.lisp.Number(L"get", 1);
@@ -365,7 +364,7 @@ TEST_F(GroupWindows, ASwitchClickShowsTheNewStateAndTellsTheOthers) {
   EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"flipped"}));
 }
 
-TEST_F(GroupWindows, RefreshingReachesHiddenGroupsAndLeavesEveryOpenIndex) {
+TEST_F(GroupWindows, RefreshingIncludesHiddenGroupsAndKeepsEveryOpenIndex) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   AddLine(*AddHeader(bar, L"一"), L"行", L"x");
   TMenuBar* hidden = AddHeader(bar, L"二");
@@ -382,7 +381,7 @@ TEST_F(GroupWindows, RefreshingReachesHiddenGroupsAndLeavesEveryOpenIndex) {
   EXPECT_EQ(group.Child(1)->OpenIndex(), -1);
 }
 
-TEST_F(GroupWindows, ASwitchThatFailedStaysDisabledHoweverOftenItIsRefreshed) {
+TEST_F(GroupWindows, ASwitchThatFailedStaysDisabledAfterEveryRefresh) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   AddSwitchLine(bar, *shown);
   CMenuGroup& group = Build();
@@ -394,7 +393,7 @@ TEST_F(GroupWindows, ASwitchThatFailedStaysDisabledHoweverOftenItIsRefreshed) {
   EXPECT_TRUE(Build().Row(0)->IsWindowEnabled()) << "until the tree is built anew";
 }
 
-TEST_F(GroupWindows, ARightClickAsksForTheMenuOfTheHeaderOrOfTheLine) {
+TEST_F(GroupWindows, ARightClickOpensTheMenuOfTheHeaderOrOfTheLine) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   AddLine(bar, L"轴网", L"TAxis\n");
   CMenuGroup& group = Build();
@@ -405,7 +404,7 @@ TEST_F(GroupWindows, ARightClickAsksForTheMenuOfTheHeaderOrOfTheLine) {
   EXPECT_EQ(group.OpenIndex(), -1) << "the fold state is left alone";
 }
 
-TEST_F(GroupWindows, TheKeyboardsMenuOfARowHangsBelowIt) {
+TEST_F(GroupWindows, TheKeyboardsMenuOfARowOpensBelowIt) {
   AddLine(bar, L"轴网", L"TAxis\n");
   CMenuGroup& group = Build();
   group.Row(0)->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(group.Row(0)->m_hWnd),
@@ -442,7 +441,7 @@ TEST_F(GroupWindows, ARowPaintsItsGroupsColourAndTheHoverColourUnderThePointer) 
   ::ReleaseCapture();
 }
 
-TEST_F(GroupWindows, TheOpenGroupStandsInASunkenEdgeOfTwoPixels) {
+TEST_F(GroupWindows, TheOpenGroupHasASunkenEdgeOfTwoPixels) {
   AddLine(*AddHeader(bar, L"墙体"), L"行", L"x");
   AddLine(bar, L"轴网", L"x");
   CMenuGroup& group = Build();
@@ -458,7 +457,7 @@ TEST_F(GroupWindows, TheOpenGroupStandsInASunkenEdgeOfTwoPixels) {
   EXPECT_EQ(at(PlaceOf(group.Row(1)).bottom + 5), g_menuColors[0]);
 }
 
-TEST_F(GroupWindows, AHundredTreesLeaveNoHandleBehind) {
+TEST_F(GroupWindows, AHundredTreesLeakNoHandle) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   Fill(5);
   Build();
@@ -476,7 +475,7 @@ TEST_F(GroupWindows, AHundredTreesLeaveNoHandleBehind) {
   EXPECT_EQ(::GetWindow(palette.m_hWnd, GW_CHILD), nullptr);
 }
 
-TEST_F(GroupWindows, AMenuNestedDeeperThanWindowsNestComesUpAsFarAsItGoes) {
+TEST_F(GroupWindows, AMenuDeeperThanWindowsCanNestIsShownUpToTheLimit) {
   TMenuBar* at = &bar;
   for (int i = 0; i < 90; ++i) at = AddHeader(*at, L"组");
   AddLine(bar, L"末", L"TLast\n");
@@ -487,7 +486,7 @@ TEST_F(GroupWindows, AMenuNestedDeeperThanWindowsNestComesUpAsFarAsItGoes) {
   EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TLast\n"}));
 }
 
-// A group that counts what reaches the default handling.
+// A group that counts messages with default handling.
 class CountedGroup : public CMenuGroup {
  public:
   using CMenuGroup::CMenuGroup;
@@ -500,7 +499,7 @@ class CountedGroup : public CMenuGroup {
   }
 };
 
-TEST_F(GroupWindows, BringingAGroupIntoViewHasTheDefaultHandlingOfAScrollFirst) {
+TEST_F(GroupWindows, ScrollingAGroupIntoViewRunsTheDefaultHandlingOfAScrollFirst) {
   Fill(30);
   CountedGroup group(&bar, CRect(0, 0, 120, 300), &palette, 5000, false, &owner);
   ASSERT_TRUE(group.HasScrollBar());
@@ -510,7 +509,7 @@ TEST_F(GroupWindows, BringingAGroupIntoViewHasTheDefaultHandlingOfAScrollFirst) 
   EXPECT_EQ(group.ScrollBar().GetScrollPos(), 0) << "it shows whole";
 }
 
-TEST_F(GroupWindows, WithoutAScrollBarNothingIsHandledToBringAGroupIntoView) {
+TEST_F(GroupWindows, WithoutAScrollBarScrollingIntoViewHandlesNoMessage) {
   Fill(2);
   CountedGroup group(&bar, CRect(0, 0, 120, 300), &palette, 5000, false, &owner);
   ASSERT_FALSE(group.HasScrollBar());
@@ -519,7 +518,7 @@ TEST_F(GroupWindows, WithoutAScrollBarNothingIsHandledToBringAGroupIntoView) {
   EXPECT_EQ(group.defaults, 0);
 }
 
-TEST_F(GroupWindows, APressOnARowCarriedOffAndReleasedOutsideIsNoClickAndLeavesNoHover) {
+TEST_F(GroupWindows, APressOnARowReleasedOutsideIsNoClickAndLeavesNoHover) {
   AddLine(bar, L"轴网", L"TAxis\n");
   CSMenuItem& row = *Build().Row(0);
   row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
@@ -534,7 +533,7 @@ TEST_F(GroupWindows, APressOnARowCarriedOffAndReleasedOutsideIsNoClickAndLeavesN
   EXPECT_TRUE(owner.notes.empty());
 }
 
-TEST_F(GroupWindows, APressOnARowCarriedOffAndBackIsAClick) {
+TEST_F(GroupWindows, APressOnARowDraggedOffAndBackIsAClick) {
   AddLine(bar, L"轴网", L"TAxis\n");
   CSMenuItem& row = *Build().Row(0);
   row.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));

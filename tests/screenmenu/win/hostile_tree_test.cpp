@@ -1,6 +1,5 @@
-// Trees that nobody should have to show: huge, deep, with odd labels and broken icons, on a host
-// that has run out of windows. What could be made comes up, nothing is said, nothing is left
-// behind.
+// Extreme trees: huge, deep, with odd labels and broken icons, on a host without free window
+// handles. Windows that can be created are shown, without messages to the user or leaks.
 #include <string>
 
 #include "tests/doubles/win/palette_host.h"
@@ -24,12 +23,12 @@ class HostileTrees : public TreeWindows {
       AddSwitchLine(*below, *state);
     }
   }
-  // As a host does between two menus.
+  // Processes messages as a host does between two menus.
   static void TakeMessages() {
     ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
     ThePaletteHost().Pump();
   }
-  // What a user does with whatever came up.
+  // Operates every row that exists.
   void UseAll() {
     CMenuGroup& group = Build();
     for (int i = 0; i < group.RowCount(); i += 7) {
@@ -46,7 +45,7 @@ class HostileTrees : public TreeWindows {
   std::unique_ptr<TMenuSwitchItem> state;
 };
 
-TEST_F(HostileTrees, AnyOneWindowMayBeMissing) {
+TEST_F(HostileTrees, AnyOneWindowMayFail) {
   FillTwoHundred();
   const int bitmaps = qvx::OwnedBitmap::Alive(), fonts = qvx::OwnedFont::Alive();
   int asked = 0;
@@ -66,7 +65,7 @@ TEST_F(HostileTrees, AnyOneWindowMayBeMissing) {
   EXPECT_TRUE(owner.notes.empty());
 }
 
-TEST_F(HostileTrees, WhatCameUpWithoutSomeOfItsWindowsWorks) {
+TEST_F(HostileTrees, TheRestWorksWhenSomeWindowsFailed) {
   FillTwoHundred();
   for (int number : {0, 1, 2, 3, 11, 12, 60, 199}) {
     const RefusedWindows refused(number, false);
@@ -76,7 +75,7 @@ TEST_F(HostileTrees, WhatCameUpWithoutSomeOfItsWindowsWorks) {
   }
 }
 
-TEST_F(HostileTrees, AHostThatIsOutOfWindowsShowsWhatCouldBeMade) {
+TEST_F(HostileTrees, WithoutFreeWindowHandlesTheWindowsCreatedBeforeAreShown) {
   FillTwoHundred();
   for (int number : {0, 1, 2, 40, 150}) {
     const RefusedWindows refused(number, true);
@@ -87,7 +86,7 @@ TEST_F(HostileTrees, AHostThatIsOutOfWindowsShowsWhatCouldBeMade) {
   }
 }
 
-TEST_F(HostileTrees, RowsAreInOrderAroundOneThatIsMissing) {
+TEST_F(HostileTrees, RowsAreInOrderAroundOneThatFailed) {
   Fill(5);
   const RefusedWindows refused(3, false);  // the group, two rows, then this one
   CMenuGroup& group = Build();
@@ -97,7 +96,7 @@ TEST_F(HostileTrees, RowsAreInOrderAroundOneThatIsMissing) {
   EXPECT_EQ(owner.notes, (std::vector<std::wstring>{L"arm TLine\n"}));
 }
 
-TEST_F(HostileTrees, TwentyThousandRowsComeUpAndScrollToTheirEnd) {
+TEST_F(HostileTrees, TwentyThousandRowsAreShownAndScrollToTheirEnd) {
   Fill(20000);
   g_bScrollBar = 1;
   CMenuGroup& group = Build();
@@ -110,7 +109,7 @@ TEST_F(HostileTrees, TwentyThousandRowsComeUpAndScrollToTheirEnd) {
   EXPECT_EQ(PlaceOf(group.Row(0)), CRect(0, 2, 112, 26));
 }
 
-TEST_F(HostileTrees, RowsFarFromTheViewFollowWhenTheyComeNear) {
+TEST_F(HostileTrees, RowsFarFromTheViewAreMovedWhenTheyComeNear) {
   Fill(400);
   CMenuGroup& group = Build();
   group.ScrollGroup(SB_THUMBTRACK, 5000);
@@ -139,7 +138,7 @@ TEST_F(HostileTrees, RowsNearTheViewMoveWithEveryScroll) {
   }
 }
 
-TEST_F(HostileTrees, FiveThousandSwitchesAreAskedOnceEach) {
+TEST_F(HostileTrees, FiveThousandSwitchesAreReadOnceEach) {
   state = MakeSwitch(L"get-a", L"set-a", {L"开", L"关"});
   owner.lisp.Number(L"get-a", 2);
   for (int i = 0; i < 5000; ++i) AddSwitchLine(bar, *state);
@@ -155,7 +154,7 @@ TEST_F(HostileTrees, FiveThousandSwitchesAreAskedOnceEach) {
   EXPECT_EQ(caption, L"开");
 }
 
-TEST_F(HostileTrees, FunctionsThatFailInTheMiddleOfBuildingStopNothing) {
+TEST_F(HostileTrees, FunctionsThatFailDuringBuildingDoNotStopIt) {
   state = MakeSwitch(L"get-a", L"set-a", {L"开", L"关"});
   AddSwitchLine(bar, *state);
   TMenuItem* gray = AddLine(bar, L"灰", L"TGray\n");
@@ -187,8 +186,8 @@ TEST_F(HostileTrees, OddLabelsAreShownAndPainted) {
   }
 }
 
-TEST_F(HostileTrees, IconsThatAreMissingOrBrokenLeaveTheRowWithoutOne) {
-  g_hQvxDll = ::GetModuleHandleW(nullptr);  // a module without a single bitmap
+TEST_F(HostileTrees, MissingOrBrokenIconsLeaveTheRowWithoutOne) {
+  g_hQvxDll = ::GetModuleHandleW(nullptr);  // a module without bitmaps
   AddResource(owner.system, L"ID_A", L"NoSuchBitmap", L"");
   AddLine(bar, L"甲", L"TLine\n")->m_nIconIndex = 0;
   AddLine(bar, L"乙", L"TLine\n")->m_nIconIndex = 7;  // beyond the table
@@ -200,7 +199,7 @@ TEST_F(HostileTrees, IconsThatAreMissingOrBrokenLeaveTheRowWithoutOne) {
   g_hQvxDll = nullptr;
 }
 
-TEST_F(HostileTrees, RowHeightsOutOfRangeHurtNobody) {
+TEST_F(HostileTrees, RowHeightsOutOfRangeAreHarmless) {
   FillTwoHundred();
   for (int height : {0, 1, 2, 3, -1, -1000, 30000, 1 << 28}) {
     g_iMenuRowHeight = height;

@@ -1,5 +1,5 @@
-// Memory that this program frees is overwritten at once: an object that is used after its end is
-// seen to be broken instead of looking whole by chance.
+// Overwrites freed memory in this program, so that a use after free fails
+// instead of working by chance.
 #include <malloc.h>
 
 #include <cstdlib>

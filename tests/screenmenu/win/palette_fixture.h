@@ -1,5 +1,5 @@
-// The palette in a real frame, with a host that a test can look into and rooms beside it that note
-// what they are asked. For the tests of the palette as a real window.
+// The palette in a real frame, with doubles of the host and of the other rooms that record their
+// calls. For the tests of the palette as a real window.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ namespace fixture {
 
 using Words = std::vector<std::wstring>;
 
-// Counts those that live, to see that a palette that goes takes its menu along.
+// Counts its instances, to check that the palette destroys its menu.
 struct CountedBar : TMenuBar {
   CountedBar() { ++s_alive; }
   ~CountedBar() override { --s_alive; }

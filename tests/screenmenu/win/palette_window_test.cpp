@@ -1,5 +1,5 @@
-// The palette as a real window in a real frame: coming up docked, taking a menu, sending a command
-// after its wait, closing with and without the hint, what is kept, dragging its edge.
+// The palette as a real window in a real frame: docking, attaching a menu, sending a command after
+// its wait, closing with and without the hint, saved settings, dragging its edge.
 #include <gtest/gtest.h>
 
 #include "afxpriv.h"
@@ -21,14 +21,14 @@ namespace {
 
 using namespace fixture;
 
-TEST_F(Palette, WithoutOneTheExportsAnswerHarmlessly) {
+TEST_F(Palette, WithoutOneTheExportsReturnHarmlessly) {
   EXPECT_EQ(ShowScreenMenu(1), 5100);
   EXPECT_EQ(IsScreenMenuVisible(), 0);
   EXPECT_EQ(GetScreenMenuWidth(), 0);
   InitScreenMenu(false, true);
 }
 
-TEST_F(Palette, ComesUpDockedLeftAtItsSavedWidthWithoutATree) {
+TEST_F(Palette, IsCreatedDockedLeftAtItsSavedWidthWithoutATree) {
   ComeUp();
   ASSERT_NE(g_pScreenMenu, nullptr);
   EXPECT_EQ(IsScreenMenuVisible(), 1);
@@ -38,13 +38,13 @@ TEST_F(Palette, ComesUpDockedLeftAtItsSavedWidthWithoutATree) {
   EXPECT_EQ(g_pScreenMenu->RootGroup(), nullptr);
 }
 
-TEST_F(Palette, DocksRightWhenItWasThere) {
+TEST_F(Palette, DocksRightWhenThatWasSaved) {
   qvx::SavePaletteState({1, 0, {120, 80}, 0, 0, 1});
   ComeUp();
   EXPECT_EQ(::GetDlgCtrlID(::GetParent(g_pScreenMenu->m_hWnd)), 59421);
 }
 
-TEST_F(Palette, TakesTheScreenBlockOutOfTheMenuAndShowsIt) {
+TEST_F(Palette, TakesTheScreenBlockFromTheMenuAndShowsIt) {
   ComeUp();
   Attach();
   EXPECT_EQ(rooms.system.Length(), 0);
@@ -59,7 +59,7 @@ TEST_F(Palette, AMenuLoadedWithoutAPaletteLosesItsScreenBlock) {
   EXPECT_EQ(g_pScreenMenu, nullptr);
 }
 
-TEST_F(Palette, AMenuWithoutAScreenBlockLeavesItAsItWas) {
+TEST_F(Palette, AMenuWithoutAScreenBlockKeepsTheShownOne) {
   ComeUp();
   Attach();
   Click(Root(), 1);
@@ -89,7 +89,7 @@ TEST_F(Palette, TheRootGroupIsFittedThreeBelowTheTopAndTwoAboveTheBottom) {
   EXPECT_EQ(group.bottom, window.bottom - 2);
 }
 
-TEST_F(Palette, ACommandWaitsForTheTimerAndGoesOutOnceWithTheFocusToTheDrawing) {
+TEST_F(Palette, ACommandWaitsForTheTimerAndIsSentOnceWithTheFocusOnTheDrawing) {
   ComeUp();
   Attach();
   Click(Root(), 2);
@@ -101,7 +101,7 @@ TEST_F(Palette, ACommandWaitsForTheTimerAndGoesOutOnceWithTheFocusToTheDrawing) 
   EXPECT_EQ(rooms.system.m_recent.Length(), 1);
 }
 
-TEST_F(Palette, TheSecondOfTwoClicksWithinTheWaitIsTheOneThatGoes) {
+TEST_F(Palette, TheSecondOfTwoClicksWithinTheWaitIsSent) {
   ComeUp();
   Attach();
   Click(*Root().Child(0), 0);
@@ -119,7 +119,7 @@ TEST_F(Palette, ARunningCommandIsCancelledFirst) {
   EXPECT_EQ(Sent(), (Words{L"\x1B\x1BTAxis\n"}));
 }
 
-TEST_F(Palette, WithoutAWorkingDatabaseTheCommandWaitsOn) {
+TEST_F(Palette, WithoutAWorkingDatabaseTheCommandKeepsWaiting) {
   ComeUp();
   Attach();
   host.hasDatabase = false;
@@ -141,7 +141,7 @@ TEST_F(Palette, WithoutADocumentTheTextIsLostButRemembered) {
   EXPECT_EQ(rooms.system.m_recent.Length(), 1);
 }
 
-TEST_F(Palette, ClosingByTheUserNamesTheHotKeyAndByTheProgramSaysNothing) {
+TEST_F(Palette, ClosingByTheUserNamesTheHotKeyAndClosingByTheProgramPrintsNothing) {
   ComeUp();
   ShowScreenMenu(0);
   host.Pump();
@@ -162,7 +162,7 @@ TEST_F(Palette, ShowingAVisiblePaletteDoesNotMoveTheFocus) {
   EXPECT_EQ(::GetFocus(), focus);
 }
 
-TEST_F(Palette, GoingDownKeepsWhatItKnows) {
+TEST_F(Palette, DestroyingItSavesItsSettings) {
   ComeUp();
   Attach();
   Click(Root(), 1);
@@ -179,7 +179,7 @@ TEST_F(Palette, GoingDownKeepsWhatItKnows) {
   EXPECT_TRUE(Root().Child(1)->IsWindowVisible());
 }
 
-TEST_F(Palette, ARememberedLeafIsWrittenBackUnlessAGroupWasOpened) {
+TEST_F(Palette, ASavedLeafIsWrittenBackUnlessAGroupWasOpened) {
   const auto upWithNothingOpen = [this] {
     ComeUp();
     Attach();
@@ -195,7 +195,7 @@ TEST_F(Palette, ARememberedLeafIsWrittenBackUnlessAGroupWasOpened) {
   EXPECT_EQ(Saved(L"ActiveSubMenu"), 1);
 }
 
-TEST_F(Palette, ARememberedIndexBeyondTheMenuOpensNothing) {
+TEST_F(Palette, ASavedIndexBeyondTheMenuOpensNothing) {
   qvx::SaveActiveSubMenu(99);
   ComeUp();
   Attach();
@@ -203,7 +203,7 @@ TEST_F(Palette, ARememberedIndexBeyondTheMenuOpensNothing) {
   for (int i : {0, 1}) EXPECT_FALSE(Root().Child(i)->IsWindowVisible());
 }
 
-TEST_F(Palette, AWheelWithNothingToScrollIsTakenAndMovesNothing) {
+TEST_F(Palette, AWheelWithNothingToScrollIsHandledAndMovesNothing) {
   ComeUp();
   const auto turn = [] {
     return g_pScreenMenu->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), MAKELPARAM(60, 60));
@@ -235,7 +235,7 @@ TEST_F(Palette, TheFirstDrawingEnablesItAndTheLastOneDisablesIt) {
   EXPECT_EQ(rooms.order, "abcd");
 }
 
-TEST_F(Palette, ARowUnderThePointerLetsGoOfTheMouseWithTheLastDrawing) {
+TEST_F(Palette, ARowUnderThePointerReleasesTheCaptureWithTheLastDrawing) {
   ComeUp();
   Attach();
   CSMenuItem& row = *Root().Row(2);
@@ -246,13 +246,13 @@ TEST_F(Palette, ARowUnderThePointerLetsGoOfTheMouseWithTheLastDrawing) {
   EXPECT_FALSE(row.IsMouseOn());
 }
 
-TEST_F(Palette, ADrawingThatClosesBeforeThePaletteExistsIsNotRemembered) {
+TEST_F(Palette, ADrawingThatClosesBeforeThePaletteExistsIsIgnored) {
   TScreenMenuReactor().documentToBeDestroyed(nullptr);
   ComeUp();
   EXPECT_TRUE(g_pScreenMenu->IsWindowEnabled());
 }
 
-TEST_F(Palette, TheDraggedEdgeGivesTheNewWidthAndStopsAtTheLeast) {
+TEST_F(Palette, TheDraggedEdgeSetsTheNewWidthAndStopsAtTheMinimum) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   CRect place = PlaceOf(*g_pScreenMenu);
@@ -271,7 +271,7 @@ TEST_F(Palette, TheDraggedEdgeGivesTheNewWidthAndStopsAtTheLeast) {
   EXPECT_EQ(GetScreenMenuWidth(), 180) << "a jump beyond the least size is refused whole";
 }
 
-TEST_F(Palette, ADraggedEdgeMarksTheStyleThatThePaletteFloatsWith) {
+TEST_F(Palette, ADraggedEdgeSetsTheStyleThatThePaletteFloatsWith) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   ASSERT_NE(g_pScreenMenu->m_pDockContext, nullptr);
@@ -283,7 +283,7 @@ TEST_F(Palette, ADraggedEdgeMarksTheStyleThatThePaletteFloatsWith) {
   EXPECT_EQ(g_pScreenMenu->m_pDockContext->m_dwMRUFloatStyle & 0x0Cu, 0x0Cu);
 }
 
-TEST_F(Palette, AnEdgeDraggedPastTheLeastWidthStopsThereAndThePaletteTakesIt) {
+TEST_F(Palette, AnEdgeDraggedPastTheMinimumWidthStopsThereAndSetsIt) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   CRect place = PlaceOf(*g_pScreenMenu);
@@ -311,7 +311,7 @@ class Neighbour : public CControlBar {
   void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
 };
 
-TEST_F(Palette, AVisibleNeighbourGivesTheEdgeBackToTheHostAtTheNextLayout) {
+TEST_F(Palette, AVisibleNeighbourReturnsTheEdgeToTheHostAtTheNextLayout) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   const HWND otherSide = ::GetDlgItem(::GetParent(dockBar), AFX_IDW_DOCKBAR_RIGHT);
@@ -334,7 +334,7 @@ TEST_F(Palette, AVisibleNeighbourGivesTheEdgeBackToTheHostAtTheNextLayout) {
   bar.DestroyWindow();
 }
 
-TEST_F(Palette, BeforeRelease172TheDockBarIsLeftAlone) {
+TEST_F(Palette, BeforeRelease172TheDockBarIsNotChanged) {
   host.releaseMajor = 17;
   host.releaseMinor = 1;
   ComeUp();
@@ -377,7 +377,7 @@ TEST_F(Palette, ARightClickOnALeafOffersHelpUnlessTheRunModeIsOn) {
   g_bLimitHeight = 0;
 }
 
-TEST_F(Palette, SettingsOutOfRangeBringItUpAllTheSame) {
+TEST_F(Palette, SettingsOutOfRangeDoNotPreventIt) {
   for (int odd : {0, -1, -100000, 1, 77, 65536, 0x7FFFFFFF, static_cast<int>(0x80000000)}) {
     qvx::SavePaletteState({odd, odd, {odd, odd}, odd, odd, odd});
     qvx::SaveActiveSubMenu(odd);
@@ -397,7 +397,7 @@ TEST_F(Palette, SettingsOutOfRangeBringItUpAllTheSame) {
   }
 }
 
-TEST_F(Palette, WithoutAWindowOfItsOwnThereIsNoPaletteAndNothingIsSaid) {
+TEST_F(Palette, WhenItsWindowFailsThereIsNoPaletteAndNoMessage) {
   {
     const RefusedWindows refused(0, true);
     InitScreenMenu(true, true);
@@ -408,7 +408,7 @@ TEST_F(Palette, WithoutAWindowOfItsOwnThereIsNoPaletteAndNothingIsSaid) {
   EXPECT_NE(g_pScreenMenu, nullptr) << "the next attempt may do better";
 }
 
-TEST_F(Palette, WithoutAWindowForItsTreeThePaletteStaysEmptyAndWorksOn) {
+TEST_F(Palette, WhenTheWindowOfItsTreeFailsItStaysEmptyAndWorks) {
   ComeUp();
   {
     const RefusedWindows refused(0, true);
@@ -423,7 +423,7 @@ TEST_F(Palette, WithoutAWindowForItsTreeThePaletteStaysEmptyAndWorksOn) {
   EXPECT_TRUE(host.diary.empty());
 }
 
-TEST_F(Palette, WithLimitedHeightTheWheelTurnsItsOpenGroupAndNothingWithoutOne) {
+TEST_F(Palette, WithLimitedHeightTheWheelScrollsItsOpenGroupAndNothingWithoutOne) {
   g_bLimitHeight = 1;
   qvx::SavePaletteState({1, 1, {120, 80}, 1, 0, 1});
   ComeUp();
@@ -444,7 +444,7 @@ TEST_F(Palette, WithLimitedHeightTheWheelTurnsItsOpenGroupAndNothingWithoutOne) 
   g_bLimitHeight = 0;
 }
 
-TEST_F(Palette, GoingDownInTheMiddleOfADragGivesTheMouseBack) {
+TEST_F(Palette, DestroyingItDuringADragReleasesTheCapture) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   CRect place = PlaceOf(*g_pScreenMenu);
@@ -455,7 +455,7 @@ TEST_F(Palette, GoingDownInTheMiddleOfADragGivesTheMouseBack) {
   EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-TEST_F(Palette, AnEdgeDragEndsWithARightPressOrWhenTheMouseIsLost) {
+TEST_F(Palette, AnEdgeDragEndsWithARightPressOrWhenTheCaptureIsLost) {
   ComeUp();
   const HWND dockBar = ::GetParent(g_pScreenMenu->m_hWnd);
   const auto press = [this, dockBar] {
@@ -478,7 +478,7 @@ TEST_F(Palette, AnEdgeDragEndsWithARightPressOrWhenTheMouseIsLost) {
   ::ReleaseCapture();
 }
 
-TEST_F(Palette, F4StepsBackOnlyWhenSomethingWasEntered) {
+TEST_F(Palette, F4GoesBackOnlyWhenSomethingWasEntered) {
   ComeUp();
   Attach();
   MSG key{g_pScreenMenu->m_hWnd, WM_KEYDOWN, VK_F4, 0, 0, {}};
@@ -487,7 +487,7 @@ TEST_F(Palette, F4StepsBackOnlyWhenSomethingWasEntered) {
   EXPECT_EQ(g_pScreenMenu->RootBar()->Length(), 3);
 }
 
-TEST_F(Palette, TheShellStateShowsTheLiveRows) {
+TEST_F(Palette, TheShellStateShowsTheCurrentRows) {
   ComeUp();
   Attach();
   Click(Root(), 0);
@@ -505,7 +505,7 @@ TEST_F(Palette, TheShellStateShowsTheLiveRows) {
             std::string::npos);
 }
 
-// Every window of this thread, whatever its parent.
+// All windows of this thread, with or without a parent.
 int WindowsOfThread() {
   int count = 0;
   ::EnumThreadWindows(
@@ -526,7 +526,7 @@ SIZE_T PrivateBytes() {
   return memory.PrivateUsage;
 }
 
-TEST_F(Palette, TheShellStateTellsThePlacesOfRowsFarFromTheViewAfterScrolling) {
+TEST_F(Palette, TheShellStateReportsThePlacesOfRowsFarFromTheViewAfterScrolling) {
   ComeUp();
   auto* screen = new TMenuBar;
   screen->m_strName = L"SCREEN";
@@ -560,10 +560,10 @@ TEST_F(Palette, TheShellStateTellsThePlacesOfRowsFarFromTheViewAfterScrolling) {
   EXPECT_EQ(topTold("末"), behind + 200 * 24);
 }
 
-// Takes every timer from every window of this thread, whatever its parent, and says how many there
-// were. The window system tells of none; ending one tells whether it ran.
+// Kills all timers of all windows of this thread and returns their number. Windows cannot enumerate
+// timers, but KillTimer returns whether one was running.
 int EndTimers() {
-  constexpr UINT_PTR kIds = 64;  // the palette's is 10, those of tips are less
+  constexpr UINT_PTR kIds = 64;  // palette: 10, tips: less
   int count = 0;
   const auto end = [](HWND window, LPARAM n) -> BOOL {
     for (UINT_PTR id = 0; id < kIds; ++id)
@@ -603,15 +603,15 @@ Held HeldNow() {
           CountedBar::s_alive};
 }
 
-TEST_F(Palette, AThousandReloadsLeaveWhatTheFifthLeft) {
+TEST_F(Palette, AThousandReloadsKeepTheResourceCountsOfTheFifth) {
   const auto reload = [this] {
     InitScreenMenu(false, true);
     InitScreenMenu(true, true);
     Attach();
     Click(Root(), 0);
-    Click(Root(), 2);  // a command waits while the palette goes
+    Click(Root(), 2);  // a waiting command when the palette is destroyed
     g_pScreenMenu->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(g_pScreenMenu->m_hWnd),
-                               MAKELPARAM(60, 60));  // the pop-up's lines are the palette's
+                               MAKELPARAM(60, 60));  // the palette owns the pop-up's lines
     host.diary.clear();
     g_pScreenMenu->RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   };

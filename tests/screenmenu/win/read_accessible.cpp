@@ -1,7 +1,7 @@
-// A program of its own that reads the palette from outside, as a screen reader does: for each
-// button below the window whose handle it is given, in the order of the windows, one line of name,
-// role, state and default action, parted by tabs, in UTF-8; with a second argument the name and the
-// four numbers of its place instead. Run by the accessibility test.
+// A program that reads the palette from another process, as a screen reader does. Arguments: a
+// window handle. Output, UTF-8: for each button below that window, in window order, one line of
+// name, role, state and default action, separated by tabs; with a second argument the name and the
+// four numbers of its rectangle. Run by the accessibility test.
 #include <windows.h>
 // after windows.h
 #include <oleacc.h>

@@ -1,12 +1,12 @@
-// A host that has run out of windows, for the tests of what the palette does then.
+// A host without free window handles.
 #pragma once
 
 #include "afxwin.h"
 
 namespace fixture {
 
-// Lets the window system refuse windows of this thread: the one with this number, counted from 0,
-// or all from there on, as when handles have run out.
+// Fails window creations of this thread: that with the given number, counted from 0, or all from
+// there on, as when handles have run out.
 class RefusedWindows {
  public:
   RefusedWindows(int number, bool allFromThere) : m_number(number), m_all(allFromThere) {

@@ -1,6 +1,6 @@
-// LISP functions of the menu that load another one, or take the palette down, while its tree is
-// planned, while its switches are read again and while one is clicked. overwriting_delete.cpp makes
-// what is used too late be seen.
+// LISP functions of the menu that load another one, or destroy the palette, while its
+// tree is planned, its switches are refreshed or one is clicked. overwriting_delete.cpp
+// makes a use after free fail.
 #include "tests/screenmenu/win/palette_fixture.h"
 #include "screenmenu/win/describe_screen_menu.h"
 
@@ -14,8 +14,8 @@ class ReplacedMenu : public Palette {
     host.functions[L"get"] = [this] { return state; };
     host.functions[L"other"] = [] { return 1; };
   }
-  // Rows before and behind a switch on two levels, as a loaded menu has them: its switches are the
-  // system's and go with the next load.
+  // Rows before and after a switch on two levels, as in a loaded menu: the menu system owns its
+  // switches and destroys them at the next load.
   void Load() {
     shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
     others = MakeSwitch(L"other", L"set", {L"甲", L"乙"});
@@ -31,14 +31,14 @@ class ReplacedMenu : public Palette {
     rooms.system.Append(screen);
     AttachScreenBar(rooms.system);
   }
-  // What the four commands of the menu do.
+  // As the reload command does.
   void Reload() {
     ++reloads;
     InitScreenMenu(false, true);
     InitScreenMenu(true, true);
     Load();
   }
-  // The function acts as it is called for the first time from now on, then answers.
+  // The function runs `act` at its next call only, then returns.
   void Once(const wchar_t* function, std::function<void()> act) {
     host.functions[function] = [act, done = false, this]() mutable {
       if (!std::exchange(done, true)) act();
@@ -74,7 +74,7 @@ class ReplacedMenu : public Palette {
   int state = 1, reloads = 0;
 };
 
-TEST_F(ReplacedMenu, AStateFunctionThatReloadsWhileTheTreeIsPlannedLeavesTheSecondTree) {
+TEST_F(ReplacedMenu, AStateFunctionThatReloadsDuringPlanningLeavesTheSecondTree) {
   ComeUp();
   Once(L"get", [this] { Reload(); });
   Load();
@@ -82,21 +82,21 @@ TEST_F(ReplacedMenu, AStateFunctionThatReloadsWhileTheTreeIsPlannedLeavesTheSeco
   ExpectWholeTree();
 }
 
-TEST_F(ReplacedMenu, AStateFunctionThatTakesThePaletteDownWhileTheTreeIsPlannedLeavesNone) {
+TEST_F(ReplacedMenu, AStateFunctionThatDestroysThePaletteDuringPlanningLeavesNone) {
   ComeUp();
   Once(L"other", [] { InitScreenMenu(false, true); });
   Load();
   EXPECT_EQ(g_pScreenMenu, nullptr);
 }
 
-TEST_F(ReplacedMenu, AMenuLoadedOnTheSamePaletteWhileTheFirstIsPlannedTakesItsPlace) {
+TEST_F(ReplacedMenu, AMenuLoadedOnTheSamePaletteDuringPlanningReplacesTheFirst) {
   ComeUp();
   Once(L"other", [this] { Load(); });
   Load();
   ExpectWholeTree();
 }
 
-TEST_F(ReplacedMenu, AStateFunctionThatAlwaysReloadsComesToAnEnd) {
+TEST_F(ReplacedMenu, AStateFunctionThatAlwaysReloadsTerminates) {
   ComeUp();
   host.functions[L"get"] = [this] {
     Reload();
@@ -109,7 +109,7 @@ TEST_F(ReplacedMenu, AStateFunctionThatAlwaysReloadsComesToAnEnd) {
   EXPECT_FALSE(Root().Row(1)->IsWindowEnabled()) << "it could not be asked";
 }
 
-TEST_F(ReplacedMenu, ReloadingWhileSwitchesAreReadAgainEndsTheReading) {
+TEST_F(ReplacedMenu, ReloadingDuringARefreshOfSwitchesEndsTheRefresh) {
   ComeUp();
   Load();
   state = 2;
@@ -122,7 +122,7 @@ TEST_F(ReplacedMenu, ReloadingWhileSwitchesAreReadAgainEndsTheReading) {
   EXPECT_EQ(g_pScreenMenu, nullptr);
 }
 
-TEST_F(ReplacedMenu, AClickedSwitchMayReloadInItsSetFunctionOrInItsStateFunction) {
+TEST_F(ReplacedMenu, AClickedSwitchMayReloadInItsSetOrItsStateFunction) {
   for (const wchar_t* function : {L"set", L"get"}) {
     for (int level : {0, 1}) {
       SCOPED_TRACE(testing::Message() << function << " on level " << level);
@@ -143,7 +143,7 @@ TEST_F(ReplacedMenu, AClickedSwitchMayReloadInItsSetFunctionOrInItsStateFunction
   }
 }
 
-TEST_F(ReplacedMenu, ASwitchClickedWithTheMouseMayTakeItsPaletteDown) {
+TEST_F(ReplacedMenu, ASwitchClickedWithTheMouseMayDestroyItsPalette) {
   ComeUp();
   Load();
   Once(L"set", [] { InitScreenMenu(false, true); });
@@ -157,7 +157,7 @@ TEST_F(ReplacedMenu, ASwitchClickedWithTheMouseMayTakeItsPaletteDown) {
   EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-TEST_F(ReplacedMenu, PanesThatReloadAfterAFlipEndTheReadingOfTheOtherRows) {
+TEST_F(ReplacedMenu, PanesThatReloadAfterASwitchEndTheRefreshOfTheOtherRows) {
   ComeUp();
   Load();
   host.functions[L"set"] = [this] { return state = 3 - state; };
@@ -173,7 +173,7 @@ TEST_F(ReplacedMenu, PanesThatReloadAfterAFlipEndTheReadingOfTheOtherRows) {
   ExpectWholeTree();
 }
 
-TEST_F(ReplacedMenu, ASecondMenuOnThePaletteTakesTheSwitchesFromTheRowsThatStay) {
+TEST_F(ReplacedMenu, ASecondMenuOnThePaletteDetachesTheSwitchesFromTheOldRows) {
   ComeUp();
   Load();
   const std::size_t before = host.diary.size();

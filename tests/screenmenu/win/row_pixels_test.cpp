@@ -1,5 +1,6 @@
-// Rows as pixels: every state at the depths 0 to 7, held against row_pixels.golden. The label there
-// is a blank, so that no font takes part; where text stands is compared between states of one run.
+// Pixels of rows: every state at the depths 0 to 7, compared with row_pixels.golden. The
+// label there is a blank, so that no font matters; the position of text is compared
+// between states of one run.
 #include <cstdint>
 #include <fstream>
 #include <sstream>
@@ -42,7 +43,7 @@ class RowPixels : public TreeWindows {
     const qvx::OwnedBrush brush(::CreateSolidBrush(color));
     ::FillRect(dc, &place, brush.Get());
   }
-  // A chain of headers, so that row 0 of the group at each depth can be taken.
+  // Row 0 of the group at the given depth, in a chain of headers.
   CSMenuItem& RowAtDepth(int depth, const wchar_t* label) {
     root.reset();
     bar.Clear();
@@ -78,7 +79,7 @@ class RowPixels : public TreeWindows {
     if (color == ::GetSysColor(COLOR_BTNSHADOW)) return 'S';
     return color == ::GetSysColor(COLOR_BTNFACE) ? 'f' : '?';
   }
-  // Lines of letters with runs counted; equal neighbours are told once.
+  // Lines of letters, run-length encoded; equal adjacent lines are written once.
   std::string Told() const {
     std::ostringstream out;
     std::string last;
@@ -116,7 +117,7 @@ class RowPixels : public TreeWindows {
   COLORREF m_colors[4];
 };
 
-TEST_F(RowPixels, EveryStateAtEveryDepthIsAsAccepted) {
+TEST_F(RowPixels, EveryStateAtEveryDepthIsAsInTheGoldenFile) {
   struct State {
     const char* name;
     bool hover;

@@ -1,5 +1,5 @@
-// A tree of groups in a plain window instead of the palette; what the palette would do is noted in
-// a diary. For the tests of groups and rows as real windows.
+// A tree of groups in a plain window that records the calls of the palette. For the tests of groups
+// and rows as real windows.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ class Diary : public GroupOwner {
   const TMenuSystem* MenuSystem() override { return &system; }
   HBITMAP Arrow(int depth, bool open) override {
     return reinterpret_cast<HBITMAP>(
-        static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // only compared, never drawn
+        static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // compared, not drawn
   }
   HBITMAP Icon(const wchar_t* name) override {
     Note(L"icon " + std::wstring(name));
@@ -78,7 +78,7 @@ class TreeWindows : public testing::Test {
     ::MapWindowPoints(nullptr, ::GetParent(window->m_hWnd), reinterpret_cast<POINT*>(&place), 2);
     return place;
   }
-  // The text of the tip that a row made, empty without one.
+  // The text of a row's tip, empty without one.
   static std::wstring TipOf(const CSMenuItem& row) {
     struct Search {
       HWND row;
