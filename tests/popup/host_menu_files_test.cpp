@@ -1,4 +1,4 @@
-// Which of the add-on's menu files are loaded into which host.
+// Selection of the add-on's menu files for each host release.
 #include "popup/host_menu_files.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 
 namespace {
 
-// A host with files and groups; a loaded file brings the group of the same place in the list.
+// A host with files and groups; loading a file loads the group with the same index in the list.
 struct FakeHost : HostMenus {
   bool FindFile(const wchar_t* name, TWCString& path) override {
     if (!files.count(name)) return false;

@@ -1,5 +1,5 @@
-// What the module reads of a selection, over the real core of the host: sets and objects of the
-// kernel, and the description that blocks are matched against.
+// Reading a selection through the real core of the host: sets and objects of the kernel, and the
+// description that blocks are matched with.
 #include "popup/host_selection.h"
 
 #include <random>
@@ -36,7 +36,7 @@ class HostSelection : public hosttest::HostTest {
   }
 };
 
-TEST_F(HostSelection, TheImpliedSetComesInItsOrderAndEndsWithItsObject) {
+TEST_F(HostSelection, TheImpliedSetIsReadInItsOrderAndEndsWithItsObject) {
   Select({2, 0});
   TPickEntSet set;
   EXPECT_EQ(set.Length(), 0);
@@ -54,7 +54,7 @@ TEST_F(HostSelection, TheImpliedSetComesInItsOrderAndEndsWithItsObject) {
   EXPECT_EQ(acedSSLength(kept, &length), RTERROR) << "the host's set is released";
 }
 
-TEST_F(HostSelection, APointFindsTheObjectThatLiesThere) {
+TEST_F(HostSelection, APointFindsTheObjectAtIt) {
   TPickEntSet set;
   const AcGePoint3d onLine(5, 0, 0), beside(1000, 1000, 0);
   EXPECT_EQ(set.Get(nullptr, &onLine), RTNORM);
@@ -66,7 +66,7 @@ TEST_F(HostSelection, APointFindsTheObjectThatLiesThere) {
   EXPECT_NE(set.Get(nullptr, &onLine, nullptr, circles.Head()), RTNORM);
 }
 
-TEST_F(HostSelection, AnObjectTellsItsGroupsAndMissingOnesAreNoValues) {
+TEST_F(HostSelection, AnObjectReturnsItsGroupsAndNoValueForMissingOnes) {
   const TEntitySet line = Object(0);
   EXPECT_TRUE(line.Is(L"line"));
   EXPECT_FALSE(line.Is(L"CIRCLE"));
@@ -157,7 +157,7 @@ TEST_F(HostSelection, ASelectedViewportFitsNoMask) {
   port->close();
 }
 
-TEST_F(HostSelection, LogicalLayersAreTheStandardUnlessTheOfficeRenamesThem) {
+TEST_F(HostSelection, LogicalLayersAreTheStandardOnesUnlessRenamed) {
   std::wstring layer = L"before";
   EXPECT_FALSE(ResolveLayer(L"NOSUCHKEY", layer));
   EXPECT_FALSE(ResolveLayer(L"", layer));
@@ -174,8 +174,8 @@ TEST_F(HostSelection, LogicalLayersAreTheStandardUnlessTheOfficeRenamesThem) {
   EXPECT_EQ(layer, L"DOTE");
 }
 
-// Without a pointer in a view nothing is under it; what was there before is forgotten.
-TEST_F(HostSelection, WithPreviewOnTheMouseOnObjectIsWhatLiesUnderThePointer) {
+// Without a pointer in a view the mouse-on object is reset.
+TEST_F(HostSelection, WithPreviewOnTheMouseOnObjectIsTheOneUnderThePointer) {
   DocGetEntMouseOn() = Object(1);
   TPickEntSet set;
   ReadSelection(set);
@@ -183,7 +183,7 @@ TEST_F(HostSelection, WithPreviewOnTheMouseOnObjectIsWhatLiesUnderThePointer) {
   EXPECT_TRUE(DocGetEntMouseOn().IsEmpty());
 }
 
-TEST_F(HostSelection, WithPreviewOffOrASelectionTheMouseOnObjectStays) {
+TEST_F(HostSelection, WithPreviewOffOrASelectionTheMouseOnObjectIsKept) {
   DocGetEntMouseOn() = Object(1);
   g_bEnableSelectPreview = 0;
   TPickEntSet set;
@@ -208,7 +208,7 @@ TEST_F(HostSelection, EachDrawingHasItsOwnMouseOnObject) {
   EXPECT_TRUE(DocGetEntMouseOn().IsEmpty());
 }
 
-TEST(ChooseBlock, NothingSelectedShowsNothingFromSpeedMenuTwoOnUnlessForced) {
+TEST(ChooseBlock, WithoutASelectionThereIsNoMenuFromSpeedMenuTwoOnUnlessForced) {
   TMenuSystem system;
   auto* common = new TMenuBar;
   common->m_strName = L"COMMON";
@@ -224,7 +224,7 @@ TEST(ChooseBlock, NothingSelectedShowsNothingFromSpeedMenuTwoOnUnlessForced) {
   EXPECT_EQ(ChooseBlock(system, line, 2, false), 0);
 }
 
-TEST(PreviewAllowed, ByTheHostFrom1611OnAndByTheDrawingBefore) {
+TEST(PreviewAllowed, DependsOnTheHostFrom1611OnAndOnTheDrawingBefore) {
   EXPECT_TRUE(IsPreviewAllowed({24.0, true, 1, false}));
   EXPECT_TRUE(IsPreviewAllowed({24.0, true, 3, true}));
   EXPECT_FALSE(IsPreviewAllowed({24.0, true, 2, false}));

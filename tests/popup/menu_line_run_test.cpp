@@ -1,4 +1,4 @@
-// What the lines of a pop-up do when they are chosen.
+// The effect of choosing a line of a pop-up.
 #include "popup/menu_line_run.h"
 
 #include <gtest/gtest.h>
@@ -45,13 +45,13 @@ class RunLine : public testing::Test {
   TMenuBar bar;
 };
 
-TEST_F(RunLine, ACommandGoesIntoTheRecentListAndToTheHostAsItStands) {
+TEST_F(RunLine, ACommandIsAddedToTheRecentListAndSentUnchanged) {
   Line(2000, L"墙", L"TWall\n");
   EXPECT_EQ(ExecuteMenuLine(bar, 2000, host), 1);
   EXPECT_EQ(host.diary, (Words{L"recent TWall\n", L"send TWall\n"}));
 }
 
-TEST_F(RunLine, AnUnknownNumberASeparatorAndASubMenuAreNobodys) {
+TEST_F(RunLine, AnUnknownNumberASeparatorAndASubMenuRunNothing) {
   Line(2000, L"--", L"A\n");
   AddHeader(bar, L"下");
   bar.At(1)->m_nCommandId = 2000;
@@ -66,7 +66,7 @@ TEST_F(RunLine, ALineOfASubMenuIsFoundByItsNumber) {
   EXPECT_EQ(host.diary.back(), L"send TWall\n");
 }
 
-TEST_F(RunLine, ASwitchFlipsAndPanesAndRowsFollowWhateverItAnswers) {
+TEST_F(RunLine, ASwitchAdvancesAndRefreshesPanesAndRowsWhateverItReturns) {
   const auto toggle = MakeSwitch(L"get", L"set", {L"关", L"开"});
   TMenuItem* line = AddSwitchLine(bar, *toggle);
   line->m_nCommandId = 2000;
@@ -87,7 +87,7 @@ TEST_F(RunLine, AnEmptyCommandPrintsTheLabel) {
   EXPECT_EQ(host.diary, Words{L"print 说明"});
 }
 
-TEST_F(RunLine, AStarLeadsToTheScreenMenuWithoutARecentEntry) {
+TEST_F(RunLine, AStarOpensTheScreenMenuWithoutARecentEntry) {
   Line(2000, L"墙体", L"*墙体");
   Line(2001, L"星", L"*");
   EXPECT_EQ(ExecuteMenuLine(bar, 2000, host), 1);
@@ -95,8 +95,8 @@ TEST_F(RunLine, AStarLeadsToTheScreenMenuWithoutARecentEntry) {
   EXPECT_EQ(host.diary, (Words{L"tail 墙体", L"tail "}));
 }
 
-// The entry that was chosen is deleted when its command moves to the head of the list.
-TEST_F(RunLine, ARecentCommandRunsAgainThoughItsOwnLineGoes) {
+// The chosen entry is deleted when its command moves to the front of the list.
+TEST_F(RunLine, ARecentCommandRunsAgainAlthoughItsOwnLineIsDeleted) {
   for (const wchar_t* command : {L"C\n", L"B\n", L"A\n"}) host.recent.AddRecent(command);
   TMenuItem* header = AddLine(bar, L"最近命令", L"*Recent");
   header->m_pSubMenu = &host.recent;

@@ -1,4 +1,4 @@
-// The choice of a block by what is selected.
+// The choice of a block for a selection.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,7 +14,7 @@ bool Wild(const wchar_t* patterns, const wchar_t* text) {
   return WildCard(patterns).Matches(MatchCase(std::wstring_view(text)));
 }
 
-TEST(WildCard, PlainTextFitsWhateverItsCaseAndOnlyAsAWhole) {
+TEST(WildCard, PlainTextMatchesWithoutCaseAndOnlyAsAWhole) {
   EXPECT_TRUE(Wild(L"Qvx_Wall", L"QVX_wall"));
   EXPECT_TRUE(Wild(L"墙线", L"墙线"));
   EXPECT_FALSE(Wild(L"WALL", L"WALL1"));
@@ -22,7 +22,7 @@ TEST(WildCard, PlainTextFitsWhateverItsCaseAndOnlyAsAWhole) {
   EXPECT_TRUE(Wild(L"", L""));
 }
 
-TEST(WildCard, EachSignStandsForItsCharacters) {
+TEST(WildCard, EachSpecialCharacterMatchesItsSet) {
   EXPECT_TRUE(Wild(L"QVX_*", L"QVX_"));
   EXPECT_TRUE(Wild(L"*A*B*", L"xAyyB"));
   EXPECT_FALSE(Wild(L"*A*B*", L"BA"));
@@ -40,7 +40,7 @@ TEST(WildCard, EachSignStandsForItsCharacters) {
   EXPECT_TRUE(Wild(L"[~a-c]", L"D"));
 }
 
-TEST(WildCard, TildeBackQuoteAndCommaWorkOnWholePatterns) {
+TEST(WildCard, TildeBackQuoteAndCommaApplyToWholePatterns) {
   EXPECT_TRUE(Wild(L"~WALL", L"DOOR"));
   EXPECT_FALSE(Wild(L"~WALL", L"WALL"));
   EXPECT_TRUE(Wild(L"A,B", L"b"));
@@ -53,8 +53,8 @@ TEST(WildCard, TildeBackQuoteAndCommaWorkOnWholePatterns) {
   EXPECT_TRUE(Wild(L"~A*,AB", L"AB"));
 }
 
-// The host's own filters over random patterns; letters beyond ASCII depend on its locale there.
-TEST(WildCard, FitsExactlyWhatTheHostsFiltersFit) {
+// Compared with the host's own filters on random patterns; beyond ASCII those depend on its locale.
+TEST(WildCard, MatchesExactlyWhatTheHostsFiltersMatch) {
   const std::wstring signs = L"*?#@.~[]-`,ABab12 _-";
   std::mt19937 random(9);
   int fits = 0;
@@ -69,13 +69,13 @@ TEST(WildCard, FitsExactlyWhatTheHostsFiltersFit) {
   EXPECT_GE(fits, 10000);
 }
 
-TEST(WildCard, ManyStarsTakeNoTime) {
+TEST(WildCard, ManyStarsTakeLittleTime) {
   std::wstring pattern, text(2000, L'a');
   for (int i = 0; i < 500; ++i) pattern += L"*a";
   EXPECT_FALSE(WildCard(pattern + L"b").Matches(MatchCase(std::wstring_view(text))));
 }
 
-TEST(WildCard, AMovedOneStillFits) {
+TEST(WildCard, AMovedPatternStillMatches) {
   std::vector<WildCard> all;
   for (int i = 0; i < 100; ++i) all.emplace_back(L"A*B,[cd]");
   for (const WildCard& one : all) EXPECT_TRUE(one.Matches(L"AXB") && one.Matches(L"C"));
@@ -102,7 +102,7 @@ class ObjectMatch : public testing::Test {
   SelectionDescription m_selection;
 };
 
-TEST_F(ObjectMatch, WithNothingSelectedTheSpaceDecidesByNameWhateverItsCase) {
+TEST_F(ObjectMatch, WithoutASelectionTheSpaceSelectsTheBlockByNameWithoutCase) {
   AddBlock(L"SCREEN");
   AddBlock(L"Layout");
   AddBlock(L"common").AppendString(0, L"X");
@@ -140,7 +140,7 @@ TEST_F(ObjectMatch, TheFirstBlockThatFitsAllObjectsIsFound) {
   EXPECT_EQ(Match(1).group, m_system.At(1)->m_objectMask.Head());
 }
 
-TEST_F(ObjectMatch, EveryGroupOfTheMaskCounts) {
+TEST_F(ObjectMatch, EveryGroupOfTheMaskMustMatch) {
   TRBList& mask = AddBlock(L"A");
   mask.AppendString(0, L"LINE,CIRCLE");
   mask.AppendString(8, L"墙*");
@@ -151,7 +151,7 @@ TEST_F(ObjectMatch, EveryGroupOfTheMaskCounts) {
   EXPECT_EQ(Match(0).group, mask.Head()->Next());
 }
 
-TEST_F(ObjectMatch, ALogicalLayerKeyStandsForItsLayer) {
+TEST_F(ObjectMatch, ALogicalLayerKeyIsReplacedByItsLayer) {
   AddBlock(L"A").AppendString(8, L"@WALL");
   m_selection.Add(L"LINE", L"墙线");
   const LayerResolver layers = [](std::wstring_view key, std::wstring& layer) {
@@ -163,7 +163,7 @@ TEST_F(ObjectMatch, ALogicalLayerKeyStandsForItsLayer) {
 }
 
 // "@" is then the wild card for a letter.
-TEST_F(ObjectMatch, AKeyWithoutALayerCountsAsItIsWritten) {
+TEST_F(ObjectMatch, AKeyWithoutALayerIsMatchedAsText) {
   AddBlock(L"A").AppendString(8, L"@WALL");
   m_selection.Add(L"LINE", L"XWALL");
   EXPECT_EQ(Find(), 0);
@@ -171,7 +171,7 @@ TEST_F(ObjectMatch, AKeyWithoutALayerCountsAsItIsWritten) {
   EXPECT_EQ(Find(), -1);
 }
 
-TEST_F(ObjectMatch, TheLayerOfAKeyIsAPatternItself) {
+TEST_F(ObjectMatch, TheLayerOfAKeyIsAPattern) {
   AddBlock(L"A").AppendString(8, L"@K");
   const LayerResolver layers = [](std::wstring_view, std::wstring& layer) {
     layer = L"A#";
@@ -183,7 +183,7 @@ TEST_F(ObjectMatch, TheLayerOfAKeyIsAPatternItself) {
   EXPECT_EQ(Find(layers), -1);
 }
 
-TEST_F(ObjectMatch, AKeyIsOneOnlyInTheLayerGroup) {
+TEST_F(ObjectMatch, AKeyIsReplacedOnlyInTheLayerGroup) {
   AddBlock(L"A").AppendString(0, L"@WALL");
   m_selection.Add(L"XWALL", L"0");
   EXPECT_EQ(Find([](std::wstring_view, std::wstring& layer) {
@@ -205,7 +205,7 @@ TEST_F(ObjectMatch, AViewportOrAnObjectThatDoesNotOpenFitsNothing) {
   EXPECT_EQ(BlockMatcher(m_system).Match(0, other, NoLayers).why, MatchResult::kUnreadable);
 }
 
-TEST_F(ObjectMatch, FurtherGroupsAreAskedForAndUnknownOnesDoNotFit) {
+TEST_F(ObjectMatch, OtherGroupsAreReadFromTheObjectAndUnknownOnesDoNotFit) {
   AddBlock(L"A").AppendShort(62, 3);
   AddBlock(L"B").AppendString(6, L"dash*");
   AddBlock(L"C").AppendReal(48, 0.5);
@@ -232,14 +232,14 @@ TEST_F(ObjectMatch, FurtherGroupsAreAskedForAndUnknownOnesDoNotFit) {
   EXPECT_EQ(askedFor, 1);
 }
 
-TEST_F(ObjectMatch, ACodeWithoutAKindFitsNothing) {
+TEST_F(ObjectMatch, ACodeWithoutATypeFitsNothing) {
   AddBlock(L"A").SetHead(new TGroups(80));
   m_selection.Add(L"LINE", L"0");
   m_selection.SetGroupReader([](size_t, int) { return GroupValue(0LL); });
   EXPECT_EQ(Find(), -1);
 }
 
-TEST_F(ObjectMatch, MasksWithTheSameValueAskForItsLayerOnce) {
+TEST_F(ObjectMatch, MasksWithTheSameValueReadItsLayerOnce) {
   for (int i = 0; i < 5; ++i) AddBlock(L"A").AppendString(8, L"@K");
   m_selection.Add(L"LINE", L"0");
   int asked = 0;
@@ -252,7 +252,7 @@ TEST_F(ObjectMatch, MasksWithTheSameValueAskForItsLayerOnce) {
   EXPECT_EQ(asked, 1);
 }
 
-TEST(SelectionDescription, KeepsEachNameOnceAndWhereItWasSeenFirst) {
+TEST(SelectionDescription, KeepsEachNameOnceWithItsFirstObject) {
   SelectionDescription selection;
   std::mt19937 random(4);
   std::vector<std::wstring> layers;
@@ -272,8 +272,8 @@ TEST(SelectionDescription, KeepsEachNameOnceAndWhereItWasSeenFirst) {
               static_cast<long long>(name.firstObject));
 }
 
-// A plain reading of the rule, object by object, beside the one that looks at names.
-TEST(SelectionDescription, FindsWhatALookAtEachObjectFinds) {
+// Compared with a simple implementation that checks every object.
+TEST(SelectionDescription, GivesTheSameResultAsCheckingEachObject) {
   std::mt19937 random(8);
   const wchar_t* const patterns[] = {L"A*", L"*", L"~B", L"AB,B", L"@", L"B#", L"a"};
   const wchar_t* const names[] = {L"A", L"AB", L"B", L"B1", L"a1"};

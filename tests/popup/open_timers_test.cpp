@@ -32,7 +32,7 @@ void Fill(TDPtrList<CString>& queue) {
 
 }  // namespace
 
-TEST(RecentOpening, OpensOneFileAFiringInOrderAndThenStops) {
+TEST(RecentOpening, OpensOneFilePerFiringInOrderAndThenStops) {
   TDPtrList<CString> queue;
   Fill(queue);
   DiaryOpener opener;
@@ -55,7 +55,7 @@ TEST(RecentOpening, AFiringWhileAFileIsBeingOpenedDoesNothing) {
   EXPECT_EQ(opener.diary, Diary{L"open a.dwg"});
 }
 
-TEST(RecentOpening, OutsideApplicationContextItStopsForGood) {
+TEST(RecentOpening, OutsideApplicationContextItStopsPermanently) {
   TDPtrList<CString> queue;
   Fill(queue);
   DiaryOpener opener;

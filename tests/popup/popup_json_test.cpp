@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(PopupJson, IsWhatScriptsRead) {
+TEST(PopupJson, HasTheFieldsThatScriptsRead) {
   EXPECT_EQ(PopupToJson(false, {}), "{\"open\":false,\"rows\":[]}");
   ShellPopupRow row, line, below;
   row.label = L"墙\t\"F1\"";

@@ -1,4 +1,4 @@
-// The rows that a block's lines become: identifiers, grey, checks, switches, sub-menus, pictures.
+// The rows planned from a block's lines: identifiers, grey, checks, switches, sub-menus, bitmaps.
 #include "popup/popup_plan.h"
 
 #include <gtest/gtest.h>
@@ -45,7 +45,7 @@ TEST_F(PopupPlanning, LinesAreNumberedInOrderAndSeparatorsAreNot) {
   EXPECT_EQ(third->m_nCommandId, 2001);
 }
 
-TEST_F(PopupPlanning, ALineThatLeadsToASubMenuTakesItsNumberBehindTheLinesBelowIt) {
+TEST_F(PopupPlanning, ALineWithASubMenuIsNumberedAfterTheLinesBelowIt) {
   AddLine(bar, L"甲", L"A\n");
   TMenuBar* below = AddHeader(bar, L"下");
   AddLine(*below, L"乙", L"B\n");
@@ -61,13 +61,13 @@ TEST_F(PopupPlanning, ALineThatLeadsToASubMenuTakesItsNumberBehindTheLinesBelowI
   EXPECT_EQ(plan.menus[1][1].index, 1);
 }
 
-TEST_F(PopupPlanning, AnEmptyCommandIsOffAndAnEmptySubMenuStillOpens) {
+TEST_F(PopupPlanning, AnEmptyCommandIsDisabledAndAnEmptySubMenuStillOpens) {
   AddLine(bar, L"空");
   AddHeader(bar, L"下");
   EXPECT_EQ(Flags(), (std::vector<unsigned>{259, 256 | 16}));
 }
 
-TEST_F(PopupPlanning, TheGreyFunctionTurnsPlainLinesAndSubMenusOffWhenItGivesTrue) {
+TEST_F(PopupPlanning, AGreyFunctionThatReturnsTDisablesPlainLinesAndSubMenus) {
   for (int kind = 0; kind < 4; ++kind) {
     TMenuItem* line = AddLine(bar, L"甲", L"A\n");
     line->m_nFlags = TMenuItem::kHasGrayFn;
@@ -78,11 +78,11 @@ TEST_F(PopupPlanning, TheGreyFunctionTurnsPlainLinesAndSubMenusOffWhenItGivesTru
   header->m_strGrayFn = L"0";
   lisp.True(L"0");
   lisp.Number(L"1", 1);
-  lisp.Nil(L"2");  // and the fourth is missing
+  lisp.Nil(L"2");  // the fourth is missing
   EXPECT_EQ(Flags(), (std::vector<unsigned>{259, 256, 256, 256, 259 | 16}));
 }
 
-TEST_F(PopupPlanning, AGreyFunctionIsNotAskedWithoutItsFlag) {
+TEST_F(PopupPlanning, AGreyFunctionIsNotCalledWithoutItsFlag) {
   AddLine(bar, L"甲", L"A\n")->m_strGrayFn = L"gray";
   AddLine(bar, L"乙", L"B\n")->m_strCheckFn = L"check";
   lisp.True(L"gray");
@@ -91,7 +91,7 @@ TEST_F(PopupPlanning, AGreyFunctionIsNotAskedWithoutItsFlag) {
   EXPECT_TRUE(lisp.diary.empty());
 }
 
-TEST_F(PopupPlanning, TheCheckFunctionChecksPlainLinesGreyOnesAmongThem) {
+TEST_F(PopupPlanning, TheCheckFunctionChecksPlainLinesIncludingGreyOnes) {
   for (const wchar_t* command : {L"A\n", L""}) {
     TMenuItem* line = AddLine(bar, L"甲", command);
     line->m_nFlags = TMenuItem::kHasCheckFn;
@@ -105,7 +105,7 @@ TEST_F(PopupPlanning, TheCheckFunctionChecksPlainLinesGreyOnesAmongThem) {
   EXPECT_EQ(lisp.diary.size(), 2u) << "a line with a sub-menu is not asked";
 }
 
-TEST_F(PopupPlanning, ASwitchTakesLabelAndIconOfTheStateThatItsFunctionReports) {
+TEST_F(PopupPlanning, ASwitchHasLabelAndIconOfTheStateThatItsFunctionReturns) {
   AddResource(system, L"off", L"BMP_OFF");
   AddResource(system, L"on", L"BMP_ON");
   const auto toggle = MakeSwitch(L"get", L"set", {L"关", L"开"});
@@ -123,7 +123,7 @@ TEST_F(PopupPlanning, ASwitchTakesLabelAndIconOfTheStateThatItsFunctionReports) 
   EXPECT_EQ(line->m_strLabel, L"关") << "an unknown value shows the first state";
 }
 
-TEST_F(PopupPlanning, ASwitchWithoutAStateIsOffAndKeepsItsLabel) {
+TEST_F(PopupPlanning, ASwitchWithoutAStateIsDisabledAndKeepsItsLabel) {
   const auto toggle = MakeSwitch(L"get", L"set", {L"关", L"开"});
   const auto bare = MakeSwitch(L"number", L"set", {});
   TMenuItem* line = AddSwitchLine(bar, *toggle);
@@ -138,7 +138,7 @@ TEST_F(PopupPlanning, ASwitchWithoutAStateIsOffAndKeepsItsLabel) {
   }
 }
 
-TEST_F(PopupPlanning, PicturesComeFromTheIconTableWhileThereIsALibrary) {
+TEST_F(PopupPlanning, BitmapsAreLoadedByTheIconTableIfThereIsALibrary) {
   AddResource(system, L"a", L"BMP_A");
   AddResource(system, L"b", L"");
   const int indices[] = {0, 1, -1, 2, 1000000, -1000000};
@@ -150,7 +150,7 @@ TEST_F(PopupPlanning, PicturesComeFromTheIconTableWhileThereIsALibrary) {
   EXPECT_EQ(Plan().menus[0][0].bitmap, nullptr);
 }
 
-TEST_F(PopupPlanning, InTheEditorsMenusTheNumberIsTheCommandsText) {
+TEST_F(PopupPlanning, InTheEditorsMenusTheIdentifierIsTheNumberInTheCommandText) {
   TMenuItem* confirm = AddLine(bar, L"确定", L"5001\n");
   AddLine(bar, L"字", L"x5007");
   AddLine(bar, L"远", L"99999999999999999999");
@@ -164,7 +164,7 @@ TEST_F(PopupPlanning, InTheEditorsMenusTheNumberIsTheCommandsText) {
   EXPECT_EQ(plan.menus[1][0].id, 5007);
 }
 
-TEST_F(PopupPlanning, SubMenusThirtyDeepAreAllThereAndAMillionDeepEndEarly) {
+TEST_F(PopupPlanning, ThirtyNestedSubMenusAreCompleteAndAMillionAreCutOff) {
   TMenuBar* at = &bar;
   for (int depth = 0; depth < 30; ++depth) at = AddHeader(*at, L"下");
   AddLine(*at, L"底", L"A\n");
@@ -177,7 +177,7 @@ TEST_F(PopupPlanning, SubMenusThirtyDeepAreAllThereAndAMillionDeepEndEarly) {
   EXPECT_EQ(plan.menus[64][0].flags, 259u) << "grey, and leads nowhere";
 }
 
-TEST_F(PopupPlanning, LinesWhoseNumberNoChoiceCouldCarryAreLeftOut) {
+TEST_F(PopupPlanning, LinesWithNumbersThatNoChoiceCanReturnAreOmitted) {
   for (int i = 0; i < 70000; ++i) AddLine(bar, L"甲", L"A\n");
   const PopupPlan plan = Plan();
   EXPECT_EQ(plan.menus[0].size(), 65536u - 2000u);
@@ -198,7 +198,7 @@ TEST_F(PopupPlanning, AFunctionThatReplacesTheMenusEndsThePlan) {
   EXPECT_EQ(lisp.diary.size(), 1u);
 }
 
-TEST_F(PopupPlanning, TheRecentCommandsBecomeTheSecondLineOnceAndStay) {
+TEST_F(PopupPlanning, TheRecentCommandsAreInsertedOnceAsTheSecondLine) {
   AddLine(bar, L"甲", L"A\n");
   AddLine(bar, L"乙", L"B\n");
   system.m_recent.AddRecent(L"C\n");

@@ -1,4 +1,4 @@
-// The look of a row as computed: places, colours and what a state leaves out.
+// The computed look of a row: places, colours and what a state omits.
 #include "popup/row_layout.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ void ExpectRect(const RECT& r, LONG left, LONG top, LONG right, LONG bottom) {
   EXPECT_EQ(r.bottom, bottom);
 }
 
-TEST(PopupRowLook, ARowAtRestIsFilledWholeAndHasItsImageAtTwoTwo) {
+TEST(PopupRowLook, ANormalRowIsFilledWholeAndHasItsImageAtTwoTwo) {
   const PopupRowLook look = LookOfPopupRow(kRow, {}, false);
   EXPECT_TRUE(look.fillsRow);
   ExpectRect(look.imageBox, 10, 100, 30, 120);
@@ -32,7 +32,7 @@ TEST(PopupRowLook, ARowAtRestIsFilledWholeAndHasItsImageAtTwoTwo) {
   EXPECT_EQ(look.textColor, PopupColor::kMenuText);
 }
 
-TEST(PopupRowLook, ASelectedRowHasABandBehindTheTextAndARaisedBox) {
+TEST(PopupRowLook, ASelectedRowHasABandUnderTheTextAndARaisedBox) {
   const PopupRowLook look = LookOfPopupRow(kRow, {true, false, false}, false);
   EXPECT_FALSE(look.fillsRow);
   ExpectRect(look.band, 31, 100, 210, 120);
@@ -62,14 +62,15 @@ TEST(PopupRowLook, AGreyAndSelectedRowHasMenuColouredTextOnTheBandAndNoCopy) {
   EXPECT_EQ(look.imageKind, RowImageKind::kNone);
 }
 
-TEST(PopupRowLook, ACheckMarkStandsInPlaceOfTheIconAndAGreyRowShowsNeither) {
+TEST(PopupRowLook, ACheckMarkReplacesTheIconAndAGreyRowShowsNeither) {
   EXPECT_EQ(LookOfPopupRow(kRow, {false, false, true}, false).imageKind, RowImageKind::kCheckMark);
   EXPECT_EQ(LookOfPopupRow(kRow, {true, false, true}, false).imageKind, RowImageKind::kCheckMark);
   EXPECT_EQ(LookOfPopupRow(kRow, {false, true, true}, false).imageKind, RowImageKind::kNone);
   EXPECT_EQ(LookOfPopupRow(kRow, {true, true, true}, false).imageKind, RowImageKind::kNone);
 }
 
-// The image keeps its distance from the row's top: users see it above the middle of the box.
+// Deliberate: the image keeps its distance from the row's top, so users see it
+// above the middle of the box.
 TEST(PopupRowLook, AHigherRowCentresTheBoxButNotTheImage) {
   const PopupRowLook look = LookOfPopupRow({0, 0, 100, 31}, {true, false, false}, false);
   ExpectRect(look.imageBox, 0, 5, 20, 25);
@@ -78,16 +79,16 @@ TEST(PopupRowLook, AHigherRowCentresTheBoxButNotTheImage) {
   ExpectRect(look.band, 21, 0, 100, 31);
 }
 
-TEST(PopupRowLook, ALowerRowStartsTheBoxAtItsTop) {
+TEST(PopupRowLook, ALowerRowHasTheBoxAtItsTop) {
   ExpectRect(LookOfPopupRow({0, 50, 100, 65}, {}, false).imageBox, 0, 50, 20, 70);
 }
 
-TEST(PopupRowLook, ATabTakesSixteenFromTheTextsRight) {
+TEST(PopupRowLook, ATabEndsTheTextSixteenPixelsFromTheRight) {
   ExpectRect(LookOfPopupRow(kRow, {}, true).text, 35, 99, 194, 119);
   ExpectRect(LookOfPopupRow(kRow, {false, true, false}, true).shadow, 36, 100, 195, 120);
 }
 
-TEST(RowLabel, IsParted) {
+TEST(RowLabel, IsSplitAtItsTabs) {
   const RowLabel plain = SplitLabel(L"打开(&O)");
   EXPECT_EQ(plain.left, L"打开(&O)");
   EXPECT_FALSE(plain.hasTab);
@@ -104,7 +105,7 @@ TEST(RowLabel, IsParted) {
   EXPECT_FALSE(SplitLabel(L"").hasTab);
 }
 
-TEST(PopupRowSize, IsTheTextAndSixteenMoreAndNeverBelowTwenty) {
+TEST(PopupRowSize, IsTheTextPlusSixteenAndAtLeastTwenty) {
   EXPECT_EQ(MeasurePopupRow(100, 18).cx, 116);
   EXPECT_EQ(MeasurePopupRow(100, 18).cy, 20);
   EXPECT_EQ(MeasurePopupRow(0, 27).cy, 27);
@@ -115,20 +116,20 @@ class Labels : public MenuCharRows {
   explicit Labels(std::vector<const wchar_t*> labels) : m_labels(std::move(labels)) {}
   int Count() const override { return static_cast<int>(m_labels.size()); }
   std::wstring Label(int row) const override { return m_labels[static_cast<size_t>(row)]; }
-  int Position(int row) const override { return row * 2; }  // separators stand between
+  int Position(int row) const override { return row * 2; }  // separators in between
 
  private:
   std::vector<const wchar_t*> m_labels;
 };
 
-TEST(MenuChar, PicksTheFirstRowWithThatLetterInAnyCase) {
+TEST(MenuChar, SelectsTheFirstRowWithThatLetterInAnyCase) {
   const Labels rows({L"放大(&I)", L"缩小(&o)", L"另存(&O)", L"No mnemonic O"});
   EXPECT_EQ(PickMenuChar(L'o', 0x10, rows), 2u | 2u << 16);
   EXPECT_EQ(PickMenuChar(L'O', 0x10, rows), 2u | 2u << 16);
   EXPECT_EQ(PickMenuChar(L'i', 0x10, rows), 0u | 2u << 16);
 }
 
-TEST(MenuChar, LeavesTheRestToTheSystem) {
+TEST(MenuChar, OtherLettersAndMenusAreLeftToTheSystem) {
   const Labels rows({L"放大(&I)", L"Open"});
   EXPECT_EQ(PickMenuChar(L'p', 0x10, rows), 0u) << "no ampersand";
   EXPECT_EQ(PickMenuChar(L'i', 0, rows), 0u) << "not in a pop-up";

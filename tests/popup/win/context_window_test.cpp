@@ -1,5 +1,5 @@
-// The context window as a real child of a real frame: where it stands, its readiness timer, the
-// request to open a drawing, and that nothing of it is left when it is told to go.
+// The context window as a real child of a real frame: its position, its readiness timer, the
+// request to open a drawing, and that nothing is left after it is destroyed.
 #include <gtest/gtest.h>
 
 #include "kernel/globals.h"
@@ -29,7 +29,7 @@ class ContextWindow : public testing::Test {
   CountedSteps steps;
 };
 
-TEST_F(ContextWindow, IsAChildOfOnePixelOfTheHostFrameThatTheKernelKnows) {
+TEST_F(ContextWindow, IsAChildOfOnePixelOfTheHostFrameWithItsPointerInTheKernel) {
   CContextMenuWnd* window = TheContextWindow();
   ASSERT_TRUE(window && window->GetSafeHwnd());
   EXPECT_EQ(::GetParent(window->m_hWnd), host.frame->m_hWnd);
@@ -60,7 +60,7 @@ TEST_F(ContextWindow, ItsReadinessTimerRunsUntilItIsStopped) {
   EXPECT_FALSE(waitForFiring(300));
 }
 
-TEST_F(ContextWindow, ARequestToOpenADrawingIsSwallowedAndOtherMessagesPass) {
+TEST_F(ContextWindow, ARequestToOpenADrawingIsHandledAndOtherMessagesPass) {
   CContextMenuWnd* window = TheContextWindow();
   MSG message{};
   message.hwnd = window->m_hWnd;
@@ -70,7 +70,7 @@ TEST_F(ContextWindow, ARequestToOpenADrawingIsSwallowedAndOtherMessagesPass) {
   EXPECT_FALSE(window->PreTranslateMessage(&message));
 }
 
-TEST_F(ContextWindow, GoesWithItsPointerInTheKernel) {
+TEST_F(ContextWindow, ClearsItsPointerInTheKernelWhenDestroyed) {
   const HWND window = TheContextWindow()->m_hWnd;
   InitContextWindow(false, nullptr);
   EXPECT_FALSE(::IsWindow(window));

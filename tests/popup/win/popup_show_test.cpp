@@ -1,5 +1,5 @@
-// Pop-ups as they come up on the screen: rows of a real native menu, choices by real menu keys,
-// help on the status line, and nothing left behind when they go.
+// Pop-ups on the screen: rows of a real native menu, choices by real menu keys, help on the
+// status line, and no leaks.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -37,7 +37,7 @@ class Rooms : public qvx::ScreenMenuHost {
 
 std::vector<std::wstring> g_statusTexts;
 
-// Runs at the menu's idle moments: everything is painted and no input waits.
+// Called when the menu is idle: all is painted and no input waits.
 std::function<void()> g_whenIdle;
 
 LRESULT CALLBACK OnSent(int code, WPARAM wParam, LPARAM lParam) {
@@ -81,12 +81,12 @@ class PopupShow : public testing::Test {
     explicit Step(UINT message, WPARAM key)
         : run([=] { ::PostMessageW(Window().m_hWnd, message, key, 0); }), isInput(true) {}
     std::function<void()> run;
-    bool isInput = false;  // what follows waits until the menu is idle again
+    bool isInput = false;  // the next step waits until the menu is idle
   };
   static Step Key(WPARAM key) { return Step(WM_KEYDOWN, key); }
   static Step Letter(wchar_t letter) { return Step(WM_CHAR, letter); }
 
-  // Runs the steps while the menu shows; behind the last one the menu is dismissed.
+  // Runs the steps while the menu is shown; after the last one the menu is dismissed.
   int Show(std::vector<Step> idleSteps) {
     size_t next = 0;
     g_whenIdle = [&, steps = std::move(idleSteps)] {
@@ -116,7 +116,7 @@ class PopupShow : public testing::Test {
   HHOOK hook = nullptr;
 };
 
-TEST_F(PopupShow, AChosenLineSendsItsCommandAndBecomesARecentOne) {
+TEST_F(PopupShow, AChosenLineSendsItsCommandAndIsAddedToTheRecentOnes) {
   AddLine(*common, L"甲", L"A\n");
   AddLine(*common, L"乙", L"B\n");
   Show({Key(VK_DOWN), Key(VK_DOWN), Key(VK_DOWN), Key(VK_RETURN)});
@@ -127,7 +127,7 @@ TEST_F(PopupShow, AChosenLineSendsItsCommandAndBecomesARecentOne) {
   EXPECT_GT(Window().m_popups.Length(), 0);
 }
 
-TEST_F(PopupShow, TheDescriptionHasEveryRowWithItsStateAndItsPlace) {
+TEST_F(PopupShow, TheDescriptionHasEveryRowWithItsStateAndItsRectangle) {
   AddLine(*common, L"甲(&A)\tF1", L"A\n");
   AddLine(*common, L"--");
   AddLine(*common, L"空");
@@ -161,7 +161,7 @@ TEST_F(PopupShow, ASubMenuIsReachedByKeysAloneAndItsLineRuns) {
   EXPECT_EQ(Sent(), Words{L"D\n"});
 }
 
-TEST_F(PopupShow, ASwitchFlipsUnderARunningCommandWithoutAWord) {
+TEST_F(PopupShow, ASwitchAdvancesSilentlyDuringACommand) {
   System().m_switches.Append(MakeSwitch(L"get", L"set", {L"关", L"开"}).release());
   AddSwitchLine(*common, *System().m_switches.At(0));
   int state = 1;
@@ -181,7 +181,7 @@ TEST_F(PopupShow, ASwitchFlipsUnderARunningCommandWithoutAWord) {
   host.commandNames.clear();
 }
 
-TEST_F(PopupShow, ARowsHelpStandsOnTheStatusLineWhileItIsSelected) {
+TEST_F(PopupShow, ARowsHelpIsShownOnTheStatusLineWhileItIsSelected) {
   AddResource(System(), L"a", L"", L"画墙");
   AddLine(*common, L"甲", L"A\n")->m_nIconIndex = 0;
   AddLine(*common, L"乙", L"B\n");
@@ -214,7 +214,7 @@ TEST_F(PopupShow, InRunModeAndInOtherBlocksThereIsNoLineOfRecentCommands) {
   EXPECT_EQ(common->Length(), 2);
 }
 
-TEST_F(PopupShow, NoViewNoMenuAtAPointAndNoBlockNoContextMenu) {
+TEST_F(PopupShow, WithoutAViewThereIsNoMenuAtAPointAndWithoutABlockNoContextMenu) {
   AddLine(*common, L"甲", L"A\n");
   const HWND view = host.view.Detach();
   EXPECT_EQ(ShowBlockMenu(*common, 300, 200, 0), 0);
@@ -228,7 +228,7 @@ TEST_F(PopupShow, NoViewNoMenuAtAPointAndNoBlockNoContextMenu) {
   EXPECT_EQ(Show({}), 0);
 }
 
-TEST_F(PopupShow, ABlockOfOthersIsNumberedFromThreeThousand) {
+TEST_F(PopupShow, ABlockOfAnotherModuleIsNumberedFromThreeThousand) {
   TMenuBar other;
   TMenuItem* line = AddLine(other, L"甲", L"A\n");
   g_whenIdle = [] { ::EndMenu(); };
@@ -262,7 +262,7 @@ TEST_F(PopupShow, AMenuThatIsReplacedWhileItsPopUpShowsClosesIt) {
   EXPECT_TRUE(Sent().empty());
 }
 
-TEST_F(PopupShow, APopUpThatIsKeptLetsGoOfLinesThatGo) {
+TEST_F(PopupShow, AStoredPopUpDropsLinesThatAreDestroyed) {
   auto bar = std::make_unique<TMenuBar>();
   AddLine(*bar, L"甲", L"A\n");
   g_whenIdle = [] { ::EndMenu(); };
@@ -275,7 +275,7 @@ TEST_F(PopupShow, APopUpThatIsKeptLetsGoOfLinesThatGo) {
   EXPECT_TRUE(Sent().empty());
 }
 
-TEST_F(PopupShow, OnlyItsOwnMenusAnswerLetters) {
+TEST_F(PopupShow, OnlyItsOwnMenusHandleLetters) {
   AddLine(*common, L"甲(&A)", L"A\n");
   Show({});
   CBitmapMenu foreign;
@@ -288,7 +288,7 @@ TEST_F(PopupShow, OnlyItsOwnMenusAnswerLetters) {
   EXPECT_EQ(ask(Window().m_pMenu->m_hMenu), MAKELRESULT(0, MNC_EXECUTE));
 }
 
-TEST_F(PopupShow, ABlockOfFiveHundredLinesAndSubMenusThirtyDeepComeUp) {
+TEST_F(PopupShow, ABlockOfFiveHundredLinesAndThirtyNestedSubMenusIsShown) {
   for (int i = 0; i < 500; ++i) AddLine(*common, std::wstring(255, L'墙').c_str(), L"A\n");
   TMenuBar* at = common;
   for (int depth = 0; depth < 30; ++depth) at = AddHeader(*at, L"下");
@@ -299,7 +299,7 @@ TEST_F(PopupShow, ABlockOfFiveHundredLinesAndSubMenusThirtyDeepComeUp) {
   EXPECT_EQ(Window().m_popups.Length(), 32);
 }
 
-TEST_F(PopupShow, MissingFunctionsAndIconsLeaveRowsThatShow) {
+TEST_F(PopupShow, MissingFunctionsAndIconsStillShowTheirRows) {
   AddResource(System(), L"a", L"BMP_NO_SUCH");
   System().m_switches.Append(MakeSwitch(L"missing", L"missing", {L"关"}).release());
   AddSwitchLine(*common, *System().m_switches.At(0));
@@ -329,7 +329,7 @@ int ThreadWindows() {
   return count;
 }
 
-TEST_F(PopupShow, AThousandPopUpsLeaveNothingBehind) {
+TEST_F(PopupShow, AThousandPopUpsLeakNothing) {
   System().m_switches.Append(MakeSwitch(L"get", L"set", {L"关", L"开"}).release());
   host.functions[L"get"] = [] { return 1; };
   AddSwitchLine(*common, *System().m_switches.At(0));

@@ -1,5 +1,5 @@
-// A canvas that rows of a pop-up are drawn on by their real code, with a font and system colours
-// that are the same everywhere. What nothing was drawn on keeps a colour that no row has.
+// A canvas on which the real code draws rows of a pop-up, with a fixed font and fixed system
+// colours. Untouched pixels have a colour that no row uses.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 class RowCanvas {
  public:
   static constexpr COLORREF kUntouched = RGB(255, 0, 255);
-  // Pinned, all different, so that a colour taken for another one shows.
+  // Fixed and all different, so that a wrong colour is detected.
   static constexpr COLORREF kMenu = RGB(212, 208, 200), kHighlight = RGB(10, 36, 106);
   static constexpr COLORREF kMenuText = RGB(1, 2, 3), kHighlightText = RGB(255, 255, 225);
   static constexpr COLORREF kGrayText = RGB(120, 120, 110), kLight = RGB(250, 250, 250);
@@ -22,12 +22,12 @@ class RowCanvas {
   RowCanvas(const RowCanvas&) = delete;
   RowCanvas& operator=(const RowCanvas&) = delete;
 
-  // Draws one row with these ODS_ flags.
+  // Draws one row with the given ODS_ flags.
   void Draw(const RECT& row, const wchar_t* label, UINT state, HBITMAP icon = nullptr);
   COLORREF At(int x, int y) const { return ::GetPixel(m_dc, x, y); }
   devhost::Picture Picture() const;
 
-  // Of this size, in the face colour, with a frame in kIconColor.
+  // An icon of this size in the face colour with a frame in kIconColor.
   static qvx::OwnedBitmap MakeIcon(int size = 16);
 
  private:
@@ -37,7 +37,7 @@ class RowCanvas {
   int m_width, m_height;
 };
 
-// Pins menu font and system colours while it lives.
+// Fixes menu font and system colours while it exists.
 class PinnedLook {
  public:
   explicit PinnedLook(const wchar_t* face = L"MS Sans Serif", int height = -11);

@@ -1,5 +1,5 @@
-// Rows as their real code draws them, point by point, and all states together as a picture.
-// tests/popup/golden/rows.png is what was accepted; tools/accept-golden takes a new one over.
+// Pixels of rows drawn by the real code, and all states together as an image, compared with
+// tests/popup/golden/rows.png; tools/accept-golden accepts a new one.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -16,7 +16,7 @@ using Colors = std::set<COLORREF>;
 
 class RowPixels : public testing::Test {
  protected:
-  // Bitmap handles of the canvas go to the record, which frees them.
+  // The record frees the bitmap handles of the canvas.
   HBITMAP Icon(int size = 16) {
     qvx::OwnedBitmap icon = RowCanvas::MakeIcon(size);
     const auto copy = static_cast<HBITMAP>(::CopyImage(icon.Get(), IMAGE_BITMAP, 0, 0, 0));
@@ -28,14 +28,14 @@ class RowPixels : public testing::Test {
       for (int x = place.left; x < place.right; ++x) colors.insert(canvas.At(x, y));
     return colors;
   }
-  // A frame of one pixel all in one colour.
+  // True if the edge of the rectangle, one pixel wide, has one colour.
   bool IsFramed(const RowCanvas& canvas, const RECT& r, COLORREF color) {
     return ColorsIn(canvas, {r.left, r.top, r.right, r.top + 1}) == Colors{color} &&
            ColorsIn(canvas, {r.left, r.bottom - 1, r.right, r.bottom}) == Colors{color} &&
            ColorsIn(canvas, {r.left, r.top, r.left + 1, r.bottom}) == Colors{color} &&
            ColorsIn(canvas, {r.right - 1, r.top, r.right, r.bottom}) == Colors{color};
   }
-  // Box of the points that have the colour; empty when there are none.
+  // Bounding box of the pixels with the colour; empty if there are none.
   RECT BoxOf(const RowCanvas& canvas, COLORREF color, int height = 20) {
     RECT box = {kWidth, height, 0, 0};
     for (int y = 0; y < height; ++y)
@@ -51,7 +51,7 @@ class RowPixels : public testing::Test {
   RowCanvas canvas{kWidth, 40};
 };
 
-TEST_F(RowPixels, ARowAtRestIsMenuColouredWithItsIconAtTwoTwo) {
+TEST_F(RowPixels, ANormalRowIsMenuColouredWithItsIconAtTwoTwo) {
   canvas.Draw(kRow, L"", 0, Icon());
   EXPECT_EQ(ColorsIn(canvas, kRow), (Colors{RowCanvas::kMenu, RowCanvas::kIconColor}));
   EXPECT_TRUE(IsFramed(canvas, {2, 2, 18, 18}, RowCanvas::kIconColor));
@@ -71,7 +71,7 @@ TEST_F(RowPixels, ASelectedRowHasABandFromTwentyOneAndARaisedBoxAndMovesItsIcon)
   EXPECT_EQ(ColorsIn(canvas, {1, 17, 19, 19}), Colors{RowCanvas::kMenu});
 }
 
-TEST_F(RowPixels, TextStandsFromTwentyFiveOnInTheColourOfItsState) {
+TEST_F(RowPixels, TextStartsAtTwentyFiveInTheColourOfItsState) {
   const struct {
     UINT state;
     COLORREF color;
@@ -84,7 +84,7 @@ TEST_F(RowPixels, TextStandsFromTwentyFiveOnInTheColourOfItsState) {
     own.Draw(kRow, L"HHH", one.state);
     RECT box = BoxOf(own, one.color);
     if (one.state & ODS_SELECTED && one.state & ODS_GRAYED) {
-      // The inner box has that colour too: look right of it.
+      // The inner box has that colour too: compare to the right of it.
       EXPECT_EQ(ColorsIn(own, {21, 0, kWidth, 20}),
                 (Colors{RowCanvas::kHighlight, RowCanvas::kMenu}));
       continue;
@@ -139,12 +139,12 @@ TEST_F(RowPixels, ACheckedGreyRowShowsNeither) {
   EXPECT_EQ(ColorsIn(canvas, kRow), Colors{RowCanvas::kMenu});
 }
 
-TEST_F(RowPixels, ARowWithoutAnIconIsEmptyThere) {
+TEST_F(RowPixels, ARowWithoutAnIconHasAnEmptyImageColumn) {
   canvas.Draw(kRow, L"", 0);
   EXPECT_EQ(ColorsIn(canvas, kRow), Colors{RowCanvas::kMenu});
 }
 
-TEST_F(RowPixels, AnIconOfAnotherSizeIsBroughtToSixteen) {
+TEST_F(RowPixels, AnIconOfAnotherSizeIsScaledToSixteen) {
   canvas.Draw(kRow, L"", 0, Icon(48));
   const RECT box = BoxOf(canvas, RowCanvas::kIconColor);
   EXPECT_TRUE(box.left >= 2 && box.top >= 2 && box.right <= 18 && box.bottom <= 18);
@@ -162,13 +162,13 @@ TEST_F(RowPixels, AHigherRowCentresItsBoxAndLeavesTheImageAtTheTop) {
   EXPECT_EQ(ColorsIn(canvas, {21, 0, kWidth, 31}), Colors{RowCanvas::kHighlight});
 }
 
-TEST_F(RowPixels, ALowerRowStartsItsBoxAtTheTop) {
+TEST_F(RowPixels, ALowerRowHasItsBoxAtTheTop) {
   canvas.Draw({0, 0, kWidth, 14}, L"", ODS_SELECTED);
   EXPECT_EQ(canvas.At(0, 0), RowCanvas::kLight);
   EXPECT_EQ(canvas.At(5, 19), RowCanvas::kShadow);
 }
 
-TEST_F(RowPixels, WhatFollowsTheLastTabEndsSixteenShortOfTheRight) {
+TEST_F(RowPixels, TextAfterTheLastTabEndsSixteenPixelsFromTheRight) {
   canvas.Draw(kRow, L"A\tHH", 0);
   const RECT box = BoxOf(canvas, RowCanvas::kMenuText);
   EXPECT_LE(box.right, kWidth - 16);
@@ -190,7 +190,7 @@ TEST_F(RowPixels, ALabelOf255CharactersStaysInItsRow) {
   EXPECT_EQ(ColorsIn(canvas, {0, 20, kWidth, 40}), Colors{RowCanvas::kUntouched});
 }
 
-TEST_F(RowPixels, ARowWhoseLineIsGoneDrawsNothing) {
+TEST_F(RowPixels, ARowWhoseLineWasDestroyedDrawsNothing) {
   TMenuItem line(L"A", L"a\n");
   CBitmapMenuItemData record;
   record.Show(&line, 0);
@@ -206,7 +206,7 @@ TEST_F(RowPixels, ARowWhoseLineIsGoneDrawsNothing) {
   EXPECT_EQ(size.itemWidth, 16u);
 }
 
-TEST_F(RowPixels, DrawingAHundredRowsLeavesNoHandleBehind) {
+TEST_F(RowPixels, DrawingAHundredRowsLeaksNoHandle) {
   const int before = qvx::LiveHandles::Count();
   for (int i = 0; i < 100; ++i)
     canvas.Draw(kRow, L"A\tB", i % 2 ? ODS_CHECKED : ODS_GRAYED, Icon());
@@ -235,8 +235,8 @@ std::string BytesOf(const std::string& path) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-// Every state with and without an icon, a higher row, labels in parts.
-TEST_F(RowPixels, AllStatesTogetherAreTheAcceptedPicture) {
+// Every state with and without an icon, a higher row, labels with tabs.
+TEST_F(RowPixels, AllStatesTogetherMatchTheGoldenImage) {
   RowCanvas sheet(2 * kWidth, 9 * 20 + 31);
   const UINT states[] = {0,
                          ODS_SELECTED,
