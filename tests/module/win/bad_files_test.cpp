@@ -1,6 +1,5 @@
-// Whole lives of the module, load to unload, with one of its files damaged: what a user is told,
-// and that everything else stands. What each reader makes of its file in detail is tested at the
-// reader.
+// The module from load to unload with one of its files damaged: the messages to the user, and that
+// everything else works. The tests of each reader have the details.
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -19,7 +18,7 @@ const char* NameOf(Form form) {
   return kNames[static_cast<int>(form)];
 }
 
-// Another program's exclusive hold.
+// An exclusive lock, as of another program.
 class Lock {
  public:
   explicit Lock(const fs::path& path)
@@ -33,7 +32,7 @@ class Lock {
   HANDLE m_file;
 };
 
-// The same bytes in every run. None begins a comment, which in a menu source would never end.
+// The same bytes in every run. None starts a comment, which in a menu source would not end.
 std::string RandomBytes(size_t count) {
   std::string bytes(count, 0);
   uint32_t seed = 4711;
@@ -58,7 +57,7 @@ class BadFiles : public Module {
     HostProcess::Get().Write(L"qvx.ini", "[Product]\nTitle=Test\nHelpFile=a.chm\n");
     HostProcess::Get().Write(L"dmload.rx", "missing.arx\r\nmissing2.arx\r\n");
     HostProcess::Get().Write(L"qvxtips.txt", "one\r\ntwo\r\nthree\r\n");
-    // The tips are read at the start and not shown: their dialog would wait for somebody.
+    // The tips are read at the start but not shown: a modal dialog would block the test.
     SetNumber(L"Settings", L"g_nCustomFlag", 0);
     SetNumber(L"Tips", L"StartUp", 0);
   }
@@ -74,7 +73,7 @@ class BadFiles : public Module {
     return fs::path(HostProcess::Get().Folder()) / name;
   }
 
-  // Brings a good file into a form; it stays locked as long as the result lives.
+  // Damages a good file; it stays locked as long as the result exists.
   static std::optional<Lock> Damage(const std::string& name, Form form) {
     const fs::path path = PathOf(name);
     const std::string good = ReadAll(path);
@@ -113,14 +112,14 @@ class BadFiles : public Module {
   }
 };
 
-// Without its file the tip dialog comes up to say so, whatever the switch; a play shows that.
+// Without its file the tip dialog opens with a message, whatever the switch; tested by a play.
 bool OpensADialog(const std::string& name, Form form) {
   return name == "qvxtips.txt" && (form == Form::kMissing || form == Form::kLocked);
 }
 
 }  // namespace
 
-TEST_F(BadFiles, ProductFileListTipsAndIconsAreMissedInSilence) {
+TEST_F(BadFiles, AnUnreadableProductFileListTipFileOrIconLibraryIsIgnoredSilently) {
   for (const char* name : {"qvx.ini", "dmload.rx", "qvxtips.txt", "qvx.dll"}) {
     const std::string good = ReadAll(PathOf(name));
     ASSERT_FALSE(good.empty()) << name;
@@ -141,7 +140,7 @@ TEST_F(BadFiles, ProductFileListTipsAndIconsAreMissedInSilence) {
   }
 }
 
-TEST_F(BadFiles, AMenuIsMissedWithItsMessageAndThePaletteComesUpWithoutRows) {
+TEST_F(BadFiles, AnUnreadableMenuPrintsItsMessageAndThePaletteHasNoRows) {
   const std::string good = ReadAll(PathOf("qvx.qmn"));
   for (const Form form : {Form::kLocked, Form::kEmpty, Form::kCut, Form::kRandom}) {
     SCOPED_TRACE(NameOf(form));
@@ -160,7 +159,7 @@ TEST_F(BadFiles, AMenuIsMissedWithItsMessageAndThePaletteComesUpWithoutRows) {
   }
 }
 
-TEST_F(BadFiles, AMenuThatIsNotThereIsToldTwiceAndThereIsNoPalette) {
+TEST_F(BadFiles, AMissingMenuIsReportedTwiceAndThereIsNoPalette) {
   HostProcess::Get().Remove(L"qvx.qmc");
   Damage("qvx.qmn", Form::kMissing);
   const Life life = Live();
@@ -170,7 +169,7 @@ TEST_F(BadFiles, AMenuThatIsNotThereIsToldTwiceAndThereIsNoPalette) {
   EXPECT_TRUE(Contains(life.shell, "\"exists\":false"));
 }
 
-TEST_F(BadFiles, ACompiledMenuIsMissedWithABox) {
+TEST_F(BadFiles, AnUnreadableCompiledMenuShowsAMessageBox) {
   HostProcess::Get().CopyProductFile(L"qvxavi.qmc");
   const std::string good = ReadAll(PathOf("qvxavi.qmc"));
   fs::remove(PathOf("qvxavi.qmc"));
@@ -195,8 +194,8 @@ TEST_F(BadFiles, ACompiledMenuIsMissedWithABox) {
   Forget(L"Settings", L"Menu");
 }
 
-// Texts and numbers of any form in every value that the module reads at its start.
-TEST_F(BadFiles, RegistryValuesOfAnyFormLetTheModuleComeUp) {
+// Texts and numbers of every form in every value that the module reads at its start.
+TEST_F(BadFiles, TheModuleStartsWithRegistryValuesOfAnyForm) {
   const struct {
     const wchar_t *folder, *name;
   } values[] = {

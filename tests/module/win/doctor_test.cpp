@@ -1,4 +1,4 @@
-// The doctor as a user runs it: the program's own process and its standard output.
+// The diagnostic run of the program in its own process, read from its standard output.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -18,7 +18,7 @@ struct DoctorRun {
   std::string out;
 };
 
-// Standard output goes through a pipe, which ends when the program does.
+// Reads standard output through a pipe, which ends with the program.
 DoctorRun Doctor(const std::wstring& words) {
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
   HANDLE from = nullptr, to = nullptr;
@@ -76,7 +76,7 @@ class DoctorTest : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(DoctorTest, PrintsTheHostsPartAndEverySetting) {
+TEST_F(DoctorTest, PrintsTheHostsPropertiesAndEverySetting) {
   Write("qvx.ini", "[Product]\nTitle=\xC6\xE6\xCE\xAC\n");
   const DoctorRun run = OnProduct();
   EXPECT_EQ(run.exitCode, 0u) << run.out;
@@ -109,13 +109,13 @@ TEST_F(DoctorTest, NamesTheFlagThatStopsTheFirstStartList) {
   EXPECT_TRUE(Has(run.out, "  InitFlag\\InitStart19 = 1  [registry]"));
 }
 
-TEST_F(DoctorTest, WarnsOfATipFileWithoutATip) {
+TEST_F(DoctorTest, WarnsOfATipFileWithoutTips) {
   Write("qvxtips.txt", "; nothing here\n");
   const DoctorRun run = OnProduct();
   EXPECT_TRUE(Has(run.out, "qvxtips.txt  warning: it has no tip\n")) << run.out;
 }
 
-TEST_F(DoctorTest, SaysWhenThereIsNoModule) {
+TEST_F(DoctorTest, ReportsAMissingModule) {
   const DoctorRun run = Doctor(L"--arx Z:\\none.arx --product Z:\\no-such-folder");
   EXPECT_EQ(run.exitCode, 3u);
   EXPECT_TRUE(Has(run.out, "Z:\\no-such-folder  warning: not there\n"));

@@ -19,7 +19,7 @@ bool HasFlag(const wchar_t* name) {
                         nullptr, nullptr, nullptr) == ERROR_SUCCESS;
 }
 
-// Gives the flags' key the rights that the text says ("KR" read, "KA" all) for everybody.
+// Sets everyone's rights on the flags' key ("KR" read, "KA" all).
 void AllowOnFlags(const wchar_t* rights) {
   HKEY key = nullptr;
   ::RegCreateKeyExW(HKEY_LOCAL_MACHINE, ProductKey(L"InitFlag").c_str(), 0, nullptr, 0, WRITE_DAC,
@@ -49,7 +49,7 @@ class FirstStart : public Module {
   }
   static void ForgetFlags() { ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey); }
 
-  // One start of the module; whether it loaded the sibling of the list.
+  // Starts the module once; true if it loaded the sibling of the list.
   static bool StartLoadsTheList() {
     EXPECT_TRUE(LoadModule());
     const bool loaded = IsMapped(kSibling);
@@ -68,27 +68,27 @@ TEST_F(FirstStart, LoadsTheListOnceAndNotAgain) {
   EXPECT_FALSE(StartLoadsTheList());
 }
 
-TEST_F(FirstStart, TheOlderValueAloneStopsTheList) {
+TEST_F(FirstStart, TheOlderValueAloneSuppressesTheList) {
   SetFlag(L"InitStart19", 1);
   EXPECT_FALSE(StartLoadsTheList());
   EXPECT_TRUE(HasFlag(L"InitStart19.1")) << "and both are there afterwards";
 }
 
-TEST_F(FirstStart, TheCustomFlagLeavesListAndValuesAlone) {
+TEST_F(FirstStart, TheCustomFlagSkipsTheListAndKeepsTheValues) {
   SetNumber(L"Settings", L"g_nCustomFlag", 2 | 8);
   EXPECT_FALSE(StartLoadsTheList());
   EXPECT_FALSE(HasFlag(L"InitStart19"));
   EXPECT_FALSE(HasFlag(L"InitStart19.1"));
 }
 
-TEST_F(FirstStart, AModuleThatIsThereIsNotLoadedAgain) {
+TEST_F(FirstStart, AModuleThatIsLoadedIsNotLoadedAgain) {
   ASSERT_TRUE(acrxLoadModule(kSibling, true));
   StartAnew();
   EXPECT_TRUE(LoadModule());
   EXPECT_FALSE(Contains(Told("module", "name"), "qvx_design")) << Told("module", "name");
 }
 
-TEST_F(FirstStart, WithoutWriteRightsTheStartGoesOnAndTheListIsProcessedEachTime) {
+TEST_F(FirstStart, WithoutWriteRightsTheStartContinuesAndProcessesTheListEachTime) {
   AllowOnFlags(L"KR");
   for (int start = 0; start < 3; ++start) {
     EXPECT_TRUE(StartLoadsTheList()) << start;

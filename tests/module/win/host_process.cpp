@@ -23,7 +23,7 @@ BOOL CALLBACK CountWindow(HWND, LPARAM count) {
   return TRUE;
 }
 
-// Message boxes are noted as the host notes them and answered at once: nobody sits here.
+// Records message boxes as the host does and closes them at once.
 class TestApp : public devhost::HostApp {
  public:
   using HostApp::HostApp;
@@ -34,8 +34,8 @@ class TestApp : public devhost::HostApp {
   }
 };
 
-// The module is to start without its tip of the day, a dialog that waits for somebody: the custom
-// flag of that meaning, where the kernel of the host's default release looks for it.
+// Sets the custom flag that skips the tip of the day, whose modal dialog would block the test,
+// where the kernel of the host's default release reads it.
 void LeaveOutTips() {
   const DWORD flags = 2;
   ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Quivera\\QVX\\R24.0\\QVX-1\\Settings",
@@ -61,7 +61,7 @@ HostProcess::HostProcess() {
   devhost::HostOptions options;
   options.supportPath = {m_folder, FolderOfProgram()};
   devhost::TheHost().Begin(options, &devhost::TheHostUi(), &g_loader);
-  auto* frame = new devhost::MainFrame;  // deletes itself with its window
+  auto* frame = new devhost::MainFrame;  // deletes itself
   frame->CreateAndShow(L"AutoCAD 2021");
   app.m_pMainWnd = frame;
 }

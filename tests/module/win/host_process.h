@@ -1,5 +1,5 @@
-// The development host brought up far enough to load modules: frame, document list, support path
-// with a menu of the test's own. One for the program, since the host is one for its process.
+// The development host, ready to load modules: frame, document list, support path with a menu of
+// the test's own. One per program, since the host has one instance per process.
 #pragma once
 
 #include <string>
@@ -11,14 +11,14 @@ class HostProcess {
   static HostProcess& Get();
 
   CWnd& Frame();
-  // The folder on the support path that belongs to the test.
+  // The test's own folder on the support path.
   const std::wstring& Folder() const { return m_folder; }
   void Write(const wchar_t* name, const std::string& bytes);
   void Remove(const wchar_t* name);
-  // Lays a file of the product, as it was built, into that folder.
+  // Copies a built file of the product into that folder.
   void CopyProductFile(const wchar_t* name);
 
-  // One firing of a timer of the module's context window; false when there is no such window.
+  // Fires a timer of the module's context window once; false without that window.
   bool FireTimer(UINT id);
   HWND ContextWindow();
   int ChildWindows();  // of the frame, at any depth

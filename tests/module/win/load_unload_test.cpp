@@ -1,5 +1,5 @@
-// The module and the kernel, loaded and unloaded by the real linker of the host, again and again in
-// one process. The kernel is not linked here, so that it can really go.
+// The module and the kernel, loaded and unloaded repeatedly by the host's real linker in one
+// process. The kernel is not linked here, so that it is really unloaded.
 #include "tests/module/win/module_test.h"
 
 #include <string>
@@ -14,7 +14,7 @@ BOOL CALLBACK CountTopWindow(HWND, LPARAM count) {
   return TRUE;
 }
 
-// Frames, tool tips and message boxes of the process, shown or not.
+// Top-level windows of the process, shown or not: frames, tool tips and message boxes.
 int TopWindows() {
   int count = 0;
   ::EnumThreadWindows(::GetCurrentThreadId(), CountTopWindow, reinterpret_cast<LPARAM>(&count));
@@ -34,7 +34,7 @@ std::wstring PathOfModule() {
   return path;
 }
 
-// Whatever would still call into a module that is gone: messages through the filters, and each
+// Everything that would still call an unloaded module: messages through the filters, and each
 // notification of the document manager.
 void UseTheHost() {
   MSG message{};
@@ -80,9 +80,9 @@ TEST_F(Module, LoadsUnloadsAndLoadsAgainInOneProcess) {
   HostProcess::Get().Remove(L"qvx.dll");
 }
 
-// A reference of the test's own keeps the library in memory, so that it can be asked after its
-// unload what its owners still hold, and so that the next load meets whatever the last one left.
-TEST_F(Module, LeavesNoHandleBehindAndComesUpAgainWhereItStayedInMemory) {
+// The test's own reference keeps the library in memory, so that the handle counts can be read after
+// the unload, and the next load finds the state that the last one left.
+TEST_F(Module, LeaksNoHandleAndLoadsAgainWhereItStayedInMemory) {
   for (int round = 0; round < 3; ++round) {
     SCOPED_TRACE(round);
     ASSERT_TRUE(LoadModule());
@@ -100,9 +100,9 @@ TEST_F(Module, LeavesNoHandleBehindAndComesUpAgainWhereItStayedInMemory) {
   EXPECT_FALSE(IsMapped(L"qvx_initstart.arx"));
 }
 
-// The host takes commands back itself when a module goes. Here only the module hears that it is to
-// unload, so that what it does not take back would still be there.
-TEST_F(Module, TakesBackItselfWhatItBroughtAlong) {
+// The host itself removes a module's commands at its unload. Here only the module gets the unload
+// message, so that whatever it does not remove would be left.
+TEST_F(Module, RemovesItsRegistrationsItself) {
   HostProcess::Get().CopyProductFile(L"qvx.dll");
   devhost::TheHost().documents.New();
   const int windows = HostProcess::Get().ChildWindows(), tops = TopWindows(), panes = Panes();
@@ -123,7 +123,7 @@ TEST_F(Module, TakesBackItselfWhatItBroughtAlong) {
   HostProcess::Get().Remove(L"qvx.dll");
 }
 
-TEST_F(Module, AnswersEveryMessageWithFine) {
+TEST_F(Module, ReturnsOkForEveryMessage) {
   ASSERT_TRUE(LoadModule());
   const auto entry = Export<int (*)(int, void*)>(L"qvx_initstart.arx", "acrxEntryPoint");
   for (const int message :
@@ -142,7 +142,7 @@ TEST_F(Module, ExportsWhatSiblingModulesCall) {
     EXPECT_NE(::GetProcAddress(::GetModuleHandleW(L"qvx_initstart.arx"), name), nullptr) << name;
 }
 
-TEST_F(Module, LoadMenuForSunBringsThePaletteUpAtOnce) {
+TEST_F(Module, LoadMenuForSunShowsThePaletteAtOnce) {
   ASSERT_TRUE(LoadModule());
   EXPECT_TRUE(Contains(Shell(), "\"exists\":false")) << Shell();
   Export<void (*)()>(L"qvx_initstart.arx", "LoadMenuForSun")();
@@ -150,7 +150,7 @@ TEST_F(Module, LoadMenuForSunBringsThePaletteUpAtOnce) {
   EXPECT_EQ(Export<int (*)()>(L"qvx_initstart.arx", "IsScreenMenuVisible")(), 1);
 }
 
-TEST_F(Module, AnyProductNumberOfTheRegistryBringsThePaletteUp) {
+TEST_F(Module, AnyProductNumberOfTheRegistryShowsThePalette) {
   const wchar_t kRelease[] = L"Software\\Quivera\\QVX\\R24.0";
   for (const int product : {0, 12, 17, 2000000000, -2000000000}) {
     const std::wstring own = kRelease + (L"\\QVX-" + std::to_wstring(product));
@@ -178,7 +178,7 @@ TEST_F(Module, SetsTheFramesTitleFromTheProductFile) {
   HostProcess::Get().Remove(L"qvx.ini");
 }
 
-TEST_F(Module, WithoutAHyphenInTheFramesTextTheReleaseNamesTheHost) {
+TEST_F(Module, WithoutAHyphenInTheFramesTextTheReleaseDeterminesTheHostsName) {
   HostProcess::Get().Write(L"qvx.ini", "[Product]\nTitle=Test Product\n");
   HostProcess::Get().Frame().SetWindowText(L"Some host");
   ASSERT_TRUE(LoadModule());
@@ -189,7 +189,7 @@ TEST_F(Module, WithoutAHyphenInTheFramesTextTheReleaseNamesTheHost) {
   HostProcess::Get().Frame().SetWindowText(L"AutoCAD 2021");
 }
 
-TEST_F(Module, WithoutATitleInTheProductFileTheFramesTextStartsAtFor) {
+TEST_F(Module, WithoutATitleInTheProductFileTheFramesTextStartsWithFor) {
   for (const char* product : {"[Product]\nHelpFile=a.chm\n", "[Product]\n", "[Other]\nTitle=x\n"}) {
     HostProcess::Get().Write(L"qvx.ini", product);
     HostProcess::Get().Frame().SetWindowText(L"AutoCAD 2021 - [a.dxf]");
@@ -202,8 +202,8 @@ TEST_F(Module, WithoutATitleInTheProductFileTheFramesTextStartsAtFor) {
   HostProcess::Get().Remove(L"qvx.ini");
 }
 
-// A dialog would wait for ever here.
-TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndMovesOnByOne) {
+// A modal dialog would block this test.
+TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndAdvancesByOne) {
   HostProcess::Get().Write(L"qvxtips.txt", "one\r\ntwo\r\n");
   SetNumber(L"Settings", L"g_nCustomFlag", 0);
   SetNumber(L"Tips", L"StartUp", 0);
@@ -221,7 +221,7 @@ TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndMovesOnByOne) {
   HostProcess::Get().Remove(L"qvxtips.txt");
 }
 
-TEST_F(Module, ListsWhatHasNoRoomYetAndCountsItsCalls) {
+TEST_F(Module, ListsWhatIsNotBuiltYetAndCountsItsCalls) {
   ASSERT_TRUE(LoadModule());
   EXPECT_TRUE(Contains(Shell(), "{\"name\":\"CreateDocTabBar\",\"room\":\"doctabs\",\"calls\":1}"))
       << Shell();

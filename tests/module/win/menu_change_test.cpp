@@ -1,5 +1,5 @@
-// The commands that change the menu, on the real module: which file they take, what they print and
-// remember, and what they leave as it was.
+// The commands that change the menu, on the real module: the file they load, what they print and
+// save, and what they do not change.
 #include <filesystem>
 
 #include "tests/module/win/module_test.h"
@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A menu whose first row and title tell which it is.
+// A menu that is identified by its first row and its title.
 std::string MenuNamed(const std::string& name) {
   return "MENU_TITLE = \"" + name + "\"\r\n***SCREEN\r\n[" + name +
          "]^C^CTWall;\r\n***SWITCH\r\n***RESOURCE\r\n";
@@ -28,7 +28,7 @@ class MenuChange : public Module {
     devhost::TheHost().documents.New();
     ASSERT_TRUE(LoadModule());
     BringUp();
-    Run(L"");  // what the start itself sent
+    Run(L"");  // texts sent by the start
     StartAnew();
   }
   void TearDown() override {
@@ -45,7 +45,7 @@ class MenuChange : public Module {
   }
   static bool Exists(const char* name) { return fs::exists(Folder() / name); }
 
-  // Whether the palette shows the menu of that name, by its one row.
+  // True if the palette shows the menu of that name, by its one row.
   static bool Shows(const std::string& name) {
     return Contains(Shell(), "\"label\":\"" + name + "\"");
   }
@@ -56,7 +56,7 @@ class MenuChange : public Module {
 
 }  // namespace
 
-TEST_F(MenuChange, ASourceIsCompiledShownAndRememberedWithoutItsExtension) {
+TEST_F(MenuChange, ASourceIsCompiledShownAndSavedWithoutItsExtension) {
   EXPECT_TRUE(Shows("standard")) << Shell();
   Run(L"(TSetMenu \"own.qmn\")\n");
   EXPECT_TRUE(Shows("own")) << Shell();
@@ -65,7 +65,7 @@ TEST_F(MenuChange, ASourceIsCompiledShownAndRememberedWithoutItsExtension) {
   EXPECT_EQ(TextOf(L"Settings", L"Menu"), (Folder() / "own").wstring());
 }
 
-TEST_F(MenuChange, ACompiledFileIsShownAndItsSourceNotTouched) {
+TEST_F(MenuChange, ACompiledFileIsShownAndItsSourceIsNotRead) {
   Run(L"(TSetMenu \"own.qmn\")\n");
   Write(L"own.qmn", "this is no menu");
   Run(L"(TSetMenu \"qvx.qmn\")\n");
@@ -78,7 +78,7 @@ TEST_F(MenuChange, ACompiledFileIsShownAndItsSourceNotTouched) {
   EXPECT_EQ(TextOf(L"Settings", L"Menu"), (Folder() / "own").wstring());
 }
 
-TEST_F(MenuChange, AMenuThatIsNotThereChangesNothing) {
+TEST_F(MenuChange, AMissingMenuChangesNothing) {
   for (const wchar_t* call : {L"(TSetMenu \"none.qmn\")\n", L"(TSetMenu 5)\n", L"(TSetMenu)\n"})
     Run(call);
   EXPECT_TRUE(Shows("standard"));
@@ -86,7 +86,7 @@ TEST_F(MenuChange, AMenuThatIsNotThereChangesNothing) {
   EXPECT_EQ(TextOf(L"Settings", L"Menu"), L"");
 }
 
-TEST_F(MenuChange, ReloadTakesTheRememberedSourceAsItIsNow) {
+TEST_F(MenuChange, ReloadReadsTheSavedSourceAgain) {
   Run(L"(TSetMenu \"own.qmn\")\n");
   Write(L"own.qmn", MenuNamed("changed"));
   Run(L"QmnLoad\n");
@@ -96,7 +96,7 @@ TEST_F(MenuChange, ReloadTakesTheRememberedSourceAsItIsNow) {
   EXPECT_TRUE(devhost::TheHost().documents.Current()->lispSymbols[L"_QVXATOML"].IsNil());
 }
 
-TEST_F(MenuChange, ReloadOfAMenuThatIsGoneResetsTheModesAndStops) {
+TEST_F(MenuChange, ReloadOfAMenuThatWasDeletedResetsTheModesAndStops) {
   SetText(L"Settings", L"Menu", L"C:\\gone\\menu");
   SetKernelSetting(L"g_nRunMode", L"1");
   SetKernelSetting(L"g_iMenuType", L"2");
@@ -114,9 +114,8 @@ TEST_F(MenuChange, ReloadBySearchFallsBackToTheStandardMenu) {
   EXPECT_EQ(TextOf(L"Settings", L"Menu"), L"C:\\gone\\menu") << "only TSetMenu writes it";
 }
 
-// The palette is made anew before the menu is read, so that nothing of the old one is there to
-// stay.
-TEST_F(MenuChange, AMenuWithoutAScreenBlockLeavesTheNewPaletteAsItCame) {
+// The palette is created again before the menu is read, so nothing of the old one can remain.
+TEST_F(MenuChange, AMenuWithoutAScreenBlockLeavesTheNewPaletteEmpty) {
   Write(L"noscreen.qmn",
         "MENU_TITLE = \"x\"\r\n***COMMON\r\n[a]b;\r\n***SWITCH\r\n***RESOURCE\r\n");
   Run(L"(TSetMenu \"noscreen.qmn\")\n");
@@ -125,7 +124,7 @@ TEST_F(MenuChange, AMenuWithoutAScreenBlockLeavesTheNewPaletteAsItCame) {
   EXPECT_TRUE(Contains(Shell(), "\"rows\":[]")) << Shell();
 }
 
-TEST_F(MenuChange, TheIconLibraryOfTheMenuComesAndGoesWithIt) {
+TEST_F(MenuChange, TheIconLibraryOfTheMenuIsLoadedAndFreedWithIt) {
   EXPECT_FALSE(IsMapped(L"own.dll"));
   HostProcess::Get().CopyProductFile(L"qvx.dll");
   fs::rename(Folder() / "qvx.dll", Folder() / "own.dll");
@@ -135,7 +134,7 @@ TEST_F(MenuChange, TheIconLibraryOfTheMenuComesAndGoesWithIt) {
   EXPECT_FALSE(IsMapped(L"own.dll")) << "the other menu has none";
 }
 
-TEST_F(MenuChange, RunModeReloadsAndGoesBack) {
+TEST_F(MenuChange, RunModeReloadsAndSwitchesBack) {
   Write(L"qvx2d.qmn", MenuNamed("flat"));
   Run(L"TSetRunMode\n");
   EXPECT_EQ(KernelSetting(L"g_nRunMode"), L"1");
@@ -146,24 +145,24 @@ TEST_F(MenuChange, RunModeReloadsAndGoesBack) {
   EXPECT_EQ(KernelSetting(L"g_iMenuType"), L"0");
 }
 
-TEST_F(MenuChange, RunModeWithoutItsFileChangesNothingInSilence) {
+TEST_F(MenuChange, RunModeWithoutItsFileChangesNothingSilently) {
   Run(L"TSetRunMode\n");
   EXPECT_EQ(KernelSetting(L"g_nRunMode"), L"0");
   EXPECT_EQ(KernelSetting(L"g_iMenuType"), L"0");
   EXPECT_FALSE(Contains(Printed(), devhost::Utf8(L"加载奇维菜单文件"))) << Printed();
 }
 
-TEST_F(MenuChange, DemonstrationModeTriedTwiceWithoutItsFileStaysOffInSilence) {
+TEST_F(MenuChange, DemonstrationModeTriedTwiceWithoutItsFileStaysOffSilently) {
   Run(L"TSetAviMode\n");
   Run(L"TSetAviMode\n");
   EXPECT_FALSE(Contains(Printed(), devhost::Utf8(L"加载奇维菜单文件"))) << Printed();
-  // Were the mode on now, the next call would look for the standard menu, which is there.
+  // If the mode were on now, the next call would load the standard menu, which exists.
   HostProcess::Get().CopyProductFile(L"qvxavi.qmc");
   Run(L"TSetAviMode\n");
   EXPECT_TRUE(Contains(Printed(), Loading("qvxavi.qmc"))) << Printed();
 }
 
-TEST_F(MenuChange, DemonstrationModeShowsItsCompiledMenuAndGoesBack) {
+TEST_F(MenuChange, DemonstrationModeShowsItsCompiledMenuAndSwitchesBack) {
   HostProcess::Get().CopyProductFile(L"qvxavi.qmc");
   Run(L"TSetAviMode\n");
   EXPECT_TRUE(Shows(devhost::Utf8(L"轴网演示"))) << Shell();
@@ -172,7 +171,7 @@ TEST_F(MenuChange, DemonstrationModeShowsItsCompiledMenuAndGoesBack) {
   EXPECT_TRUE(Shows("standard"));
 }
 
-TEST_F(MenuChange, WhatSiblingModulesCallReloadsAsTheCommandDoes) {
+TEST_F(MenuChange, TheExportForSiblingModulesReloadsAsTheCommandDoes) {
   Export<void (*)()>(L"qvx_initstart.arx", "LoadContexMenu")();
   EXPECT_TRUE(Contains(Printed(), Loading("qvx.qmn"))) << Printed();
 }

@@ -1,5 +1,5 @@
-// What the tests of the whole module share: loading it as the host does, its exports, the shell
-// state, the registry of the release that the host process says it is, and command texts.
+// Shared by the tests of the whole module: loading it as the host does, its exports, the shell
+// state, the registry of the host process's release, and command texts.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -65,7 +65,7 @@ inline std::wstring TextOf(const wchar_t* folder, const wchar_t* name) {
   return text;
 }
 
-// Kernel globals of the loaded module, by name and as text.
+// A kernel global of the loaded module, by name and as text.
 inline void SetKernelSetting(const wchar_t* name, const wchar_t* text) {
   const auto set =
       Export<int (*)(const wchar_t*, const wchar_t*)>(L"qvx_kernal.arx", "QvxSetSetting");
@@ -102,7 +102,7 @@ class Module : public ::testing::Test {
     HostProcess::Get().Write(L"qvx.qmn",
                              "MENU_TITLE = \"T\"\r\n***SCREEN\r\n[A]^C^CTWall;\r\n[->B]\r\n"
                              "[<-C]^C^CTDoor;\r\n[D]^C^CTWindow;\r\n***SWITCH\r\n***RESOURCE\r\n");
-    // No tip of the day: its dialog would wait for ever for somebody.
+    // No tip of the day: its modal dialog would block the test.
     SetNumber(L"Settings", L"g_nCustomFlag", 2);
     m_journalStart = devhost::TheJournal().Count();
   }
@@ -112,16 +112,16 @@ class Module : public ::testing::Test {
     while (documents.Current()) documents.Close(documents.Current());
   }
 
-  // The two firings that bring the screen menu up and find it there.
+  // Fires the timer twice: the first creates the screen menu, the second finds it.
   static void BringUp() {
     HostProcess::Get().FireTimer(20);
     HostProcess::Get().FireTimer(20);
   }
 
-  // Whether a timer of the context window runs; it does not any more afterwards.
+  // Stops a timer of the context window; true if it was running.
   static bool StopTimer(UINT id) { return ::KillTimer(HostProcess::Get().ContextWindow(), id); }
 
-  // Runs what the text names in the current drawing, as typed there.
+  // Runs the commands of the text in the current drawing, as if typed.
   static void Run(const std::wstring& text) {
     auto& host = devhost::TheHost();
     host.documents.sendStringToExecute(host.documents.Current(), text.c_str(), true, false, true);
@@ -129,7 +129,7 @@ class Module : public ::testing::Test {
     }
   }
 
-  // All that the journal holds of one event and field since the test began, one behind the other.
+  // The values of one event and field in the journal since the test began, concatenated.
   std::string Told(const std::string& event, const char* field) const {
     std::string text;
     for (const devhost::JournalEntry& entry : devhost::TheJournal().Since(m_journalStart))

@@ -1,6 +1,6 @@
-// The order in which the real module comes up, as the host's side of the calls saw it, held against
-// the list of steps. The diary of load_sequence_test has the steps that cross no seam; a room that
-// is built later adds its own line here.
+// The order of the real module's start and unload as the host's side of the calls sees it, compared
+// with the list of steps. load_sequence_test has the steps that make no call to the host. A room
+// that is built later adds its own line here.
 #include "devhost/core/base/start_trace.h"
 #include "devhost/ui/messages/start_watch.h"
 #include "tests/module/win/module_test.h"
@@ -11,9 +11,8 @@ using List = std::vector<std::string>;
 
 bool Begins(const std::string& text, const char* with) { return text.rfind(with, 0) == 0; }
 
-// The steps of the module itself: what other modules do in their own start is left out, and so are
-// host variables and windows but the context window. Calls of one name in a row are one step, told
-// with how many there were.
+// The steps of the module itself, without the start of other modules, host variables and windows
+// other than the context window. Consecutive calls of one name are one step with their number.
 List OwnSteps() {
   List own;
   std::string inside;  // the other module that is starting
@@ -32,14 +31,14 @@ List OwnSteps() {
   return own;
 }
 
-// What of the module stands, and what it has kept already.
+// What exists of the module, and what it has saved already.
 std::string Standing() {
   return "kept \"" + devhost::Utf8(TextOf(L"Settings", L"RecentCmd")) + "\", commands " +
          std::to_string(ModuleCommands()) + (Panes() > 0 ? ", panes" : "") +
          (IsMapped(L"qvx.dll") ? ", icons" : "");
 }
 
-// mutable: the diary of the windows that go while the hook is set; several in a row are one line.
+// mutable: the record of windows destroyed while the hook is set; several in a row are one line.
 HWND g_contextWindow = nullptr;
 List g_gone;
 
@@ -54,7 +53,7 @@ LRESULT CALLBACK NoteDestroyed(int code, WPARAM window, LPARAM details) {
 
 }  // namespace
 
-TEST_F(Module, ComesUpInTheWrittenOrder) {
+TEST_F(Module, StartsInTheSpecifiedOrder) {
   ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);  // a first start
   HostProcess::Get().Write(L"dmload.rx", "qvx_design.arx\r\n");
   HostProcess::Get().Write(L"qvx.ini", "[Product]\nTitle=Test\n");
@@ -75,16 +74,16 @@ TEST_F(Module, ComesUpInTheWrittenOrder) {
                   "kInitAppMsg done qvx_initstart.arx"}));
   for (const wchar_t* name : {L"dmload.rx", L"qvx.ini", L"qvxtips.txt"})
     HostProcess::Get().Remove(name);
-  ASSERT_TRUE(UnloadModule());  // which keeps the flags
+  ASSERT_TRUE(UnloadModule());  // which saves the flags
   SetNumber(L"Settings", L"g_nCustomFlag", 2);
   SetNumber(L"Tips", L"StartUp", 1);
   acrxUnloadModule(L"qvx_design.arx");
   ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);
 }
 
-// Seen from the two windows: when each goes, what stands before it in the list has happened and
-// what stands behind it has not.
-TEST_F(Module, GoesDownInTheWrittenOrder) {
+// Observed when each of the two windows is destroyed: the steps before it in the list are
+// done, those after it are not.
+TEST_F(Module, UnloadsInTheSpecifiedOrder) {
   HostProcess::Get().CopyProductFile(L"qvx.dll");
   SetText(L"Settings", L"RecentCmd", L"a,b,");
   ASSERT_TRUE(LoadModule());

@@ -1,4 +1,4 @@
-// What the timers of the context window finish after the load, and what each drawing is told.
+// The part of the start that the timers of the context window run, and the setup of each drawing.
 #include <algorithm>
 
 #include "devhost/ui/messages/message_pump.h"
@@ -46,7 +46,7 @@ TEST_F(StartUp, TheSecondFiringStopsTheReadinessTimerAndSendsShowBar) {
   EXPECT_EQ(Told("sent", "text"), "\ntshowbar ") << "once only";
 }
 
-TEST_F(StartUp, ObsoleteKeepsTheReadinessTimerGoingWithoutAScreenMenu) {
+TEST_F(StartUp, ObsoleteKeepsTheReadinessTimerRunningWithoutAScreenMenu) {
   SetNumber(L"Settings\\ScreenMenu", L"Obsolete", 1);
   ASSERT_TRUE(LoadModule());
   for (int firing = 0; firing < 20; ++firing) HostProcess::Get().FireTimer(20);
@@ -57,7 +57,7 @@ TEST_F(StartUp, ObsoleteKeepsTheReadinessTimerGoingWithoutAScreenMenu) {
   EXPECT_TRUE(Contains(Shell(), "\"exists\":true")) << "the next firing finds the changed value";
 }
 
-TEST_F(StartUp, WithoutAMenuTheFirstFiringSaysSoAndStopsTheTimer) {
+TEST_F(StartUp, WithoutAMenuTheFirstFiringReportsItAndStopsTheTimer) {
   ASSERT_TRUE(LoadModule());
   HostProcess::Get().Remove(L"qvx.qmn");
   HostProcess::Get().Remove(L"qvx.qmc");
@@ -68,7 +68,7 @@ TEST_F(StartUp, WithoutAMenuTheFirstFiringSaysSoAndStopsTheTimer) {
   EXPECT_FALSE(StopTimer(20));
 }
 
-TEST_F(StartUp, ProductSeventeenAboveSixPointNineIsNotPointedToTheLoadCommand) {
+TEST_F(StartUp, ProductSeventeenAboveSixPointNineDoesNotPrintTheLoadCommand) {
   const struct {
     const wchar_t *product, *version;
     bool isLimited;
@@ -89,7 +89,7 @@ TEST_F(StartUp, ProductSeventeenAboveSixPointNineIsNotPointedToTheLoadCommand) {
   }
 }
 
-TEST_F(StartUp, AHiddenScreenMenuIsThereAndTellsNothing) {
+TEST_F(StartUp, AHiddenScreenMenuExistsAndPrintsNothing) {
   SetNumber(L"Settings\\ScreenMenu", L"Visible", 0);
   ASSERT_TRUE(LoadModule());
   BringUp();
@@ -108,7 +108,7 @@ TEST_F(StartUp, ASecondBringUpReturnsAtOnce) {
   EXPECT_FALSE(Contains(Printed(), devhost::Utf8(L"加载奇维菜单文件"))) << Printed();
 }
 
-TEST_F(StartUp, TheCaptionGoesWhenTheSettingSaysSo) {
+TEST_F(StartUp, TheCaptionIsHiddenWhenTheSettingIsOn) {
   SetNumber(L"Settings", L"g_bHideCaption", 1);
   CWnd& frame = HostProcess::Get().Frame();
   ASSERT_TRUE(frame.GetStyle() & WS_CAPTION);
@@ -117,7 +117,7 @@ TEST_F(StartUp, TheCaptionGoesWhenTheSettingSaysSo) {
   frame.ModifyStyle(0, WS_CAPTION);
 }
 
-TEST_F(StartUp, RecentFilesAreReopenedOneAFiring) {
+TEST_F(StartUp, RecentFilesAreReopenedOnePerFiring) {
   SetNumber(L"Settings", L"g_bAutoOpenRecent", 1);
   SetText(L"Settings", L"g_sRecentFiles", L"a.dxf,missing.dxf,b.dxf,");
   ASSERT_TRUE(LoadModule());
@@ -136,14 +136,14 @@ TEST_F(StartUp, RecentFilesAreReopenedOneAFiring) {
   EXPECT_TRUE(next.ends_with(L"\\b.dxf,")) << devhost::Utf8(next);
 }
 
-TEST_F(StartUp, WithNoRecentFileThatIsThereNoTimerStarts) {
+TEST_F(StartUp, WithoutAnExistingRecentFileNoTimerStarts) {
   SetNumber(L"Settings", L"g_bAutoOpenRecent", 1);
   SetText(L"Settings", L"g_sRecentFiles", L"missing.dxf,");
   ASSERT_TRUE(LoadModule());
   EXPECT_FALSE(StopTimer(10));
 }
 
-TEST_F(StartUp, RecentFilesStayWhereTheyAreUnlessAsked) {
+TEST_F(StartUp, RecentFilesAreNotReopenedUnlessTheSettingIsOn) {
   SetText(L"Settings", L"g_sRecentFiles", L"a.dxf,");
   ASSERT_TRUE(LoadModule());
   EXPECT_FALSE(StopTimer(10));
@@ -151,7 +151,7 @@ TEST_F(StartUp, RecentFilesStayWhereTheyAreUnlessAsked) {
   EXPECT_EQ(TextOf(L"Settings", L"g_sRecentFiles"), L"a.dxf,");
 }
 
-TEST_F(StartUp, ARequestFromOutsideOpensItsFileAndThenSendsItsCommand) {
+TEST_F(StartUp, ARequestFromAnotherProcessOpensItsFileAndThenSendsItsCommand) {
   ASSERT_TRUE(LoadModule());
   SetKernelSetting(L"g_szFileNameToOpen", L"b.dxf");
   SetKernelSetting(L"g_szInitCmdStr", L"_.LINE ");
@@ -166,7 +166,7 @@ TEST_F(StartUp, ARequestFromOutsideOpensItsFileAndThenSendsItsCommand) {
   EXPECT_FALSE(StopTimer(5)) << "it has stopped itself";
 }
 
-TEST_F(StartUp, RecentCommandsComeBackInTheirOrderAndAreKept) {
+TEST_F(StartUp, RecentCommandsAreRestoredInTheirOrderAndSaved) {
   SetText(L"Settings", L"RecentCmd", L"first,second,third,lost");
   ASSERT_TRUE(LoadModule());
   BringUp();
