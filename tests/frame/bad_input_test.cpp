@@ -1,5 +1,5 @@
-// What each bad file and each bad value gives: the default, in silence. One table a file; every
-// case runs to its end without a hang, and natively under the sanitizers.
+// The result of every bad file and bad value: the default, without a message. One table for each
+// file; no case may hang, and the native build runs under the sanitizers.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -27,8 +27,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Keeps a file from being read while it lives: another program's exclusive hold on Windows, a
-// folder of that name elsewhere (rights mean nothing to the superuser).
+// Makes a file unreadable while it exists: an exclusive lock on Windows, a folder of that name
+// elsewhere (the superuser ignores permissions).
 class Lock {
  public:
   explicit Lock(const fs::path& path) : m_path(path) {
@@ -61,7 +61,7 @@ std::string RandomBytes(uint32_t seed, size_t count) {
   for (char& byte : bytes) {
     seed = seed * 1664525u + 1013904223u;
     byte = static_cast<char>(seed >> 24);
-    if (byte == '[') byte = 'x';  // which would end the section of a product file
+    if (byte == '[') byte = 'x';  // '[' would end the section of a product file
   }
   return bytes;
 }
@@ -140,7 +140,7 @@ TRegProperty UserKey(const wchar_t* folder) {
 
 }  // namespace
 
-TEST_F(BadInput, TheProductFileGivesItsValuesOrNothing) {
+TEST_F(BadInput, TheProductFileReturnsItsValuesOrNone) {
   const struct {
     const char* what;
     std::string bytes;
@@ -171,7 +171,8 @@ TEST_F(BadInput, TheProductFileGivesItsValuesOrNothing) {
     EXPECT_EQ(product.title, one.title);
     EXPECT_EQ(product.helpFile, one.helpFile);
   }
-  Write("qvx.ini", "[Product]\nTitle=a\xCE");  // the sign for half a character is the system's
+  // The system chooses the replacement of half a character.
+  Write("qvx.ini", "[Product]\nTitle=a\xCE");
   EXPECT_EQ(ReadProduct().title.substr(0, 1), L"a");
   EXPECT_EQ(ReadProduct().title.size(), 2u) << "cut in a character";
   fs::remove(s_folder / "qvx.ini");
@@ -197,7 +198,7 @@ TEST_F(BadInput, EveryPrefixOfAProductFileAndRandomBytesAreRead) {
   }
 }
 
-TEST_F(BadInput, TheFirstStartListGivesTheNamesThatAreThere) {
+TEST_F(BadInput, TheFirstStartListReturnsTheNamesThatExist) {
   Write("a.arx", "");
   const struct {
     const char* what;
@@ -236,7 +237,7 @@ TEST_F(BadInput, TheFirstStartListGivesTheNamesThatAreThere) {
   EXPECT_EQ(FirstStartList(), List{}) << "locked";
 }
 
-TEST_F(BadInput, RandomBytesOfAFirstStartListNameNothing) {
+TEST_F(BadInput, AFirstStartListOfRandomBytesHasNoNames) {
   for (uint32_t seed = 1; seed <= 100; ++seed) {
     Write("dmload.rx", RandomBytes(seed, 41 * seed));
     EXPECT_EQ(FirstStartList(), List{}) << seed;
@@ -244,7 +245,7 @@ TEST_F(BadInput, RandomBytesOfAFirstStartListNameNothing) {
   fs::remove(s_folder / "dmload.rx");
 }
 
-TEST_F(BadInput, ANumberThatIsNoNumberLeavesTheDefault) {
+TEST_F(BadInput, TextThatIsNoNumberKeepsTheDefault) {
   for (const wchar_t* text : {L"", L" ", L"x", L"12x", L"1 2", L"0x10", L"一"}) {
     UserKey(L"Settings\\ScreenMenu").SetValue(L"SizeX", text);
     qvx::PaletteSettings settings;
@@ -253,7 +254,7 @@ TEST_F(BadInput, ANumberThatIsNoNumberLeavesTheDefault) {
   }
 }
 
-TEST_F(BadInput, AGlobalOfTheWrongFormKeepsItsDefault) {
+TEST_F(BadInput, AGlobalOfTheWrongTypeKeepsItsDefault) {
   TRegProperty key = UserKey(L"Settings");
   key.SetValue(L"g_nSpeedMenu", L"often");
   key.SetValue(L"g_menuColors[1]", L"red");
@@ -268,7 +269,7 @@ TEST_F(BadInput, AGlobalOfTheWrongFormKeepsItsDefault) {
   EXPECT_STREQ(g_sRecentFiles.GetString(), L"");
 }
 
-TEST_F(BadInput, ARememberedMenuOfAnyLengthIsReadAsItStands) {
+TEST_F(BadInput, ASavedMenuOfAnyLengthIsReadUnchanged) {
   for (const size_t length : {0, 1, 254, 255, 256, 259, 260, 261, 5000}) {
     SaveMenuSetting(WideX(length).c_str());
     TWCString value;
@@ -294,7 +295,7 @@ TEST_F(BadInput, AProfileWithoutANameKeepsItsMenuUnderSettings) {
   EXPECT_STREQ(value, L"D:\\own");
 }
 
-TEST_F(BadInput, RecentCommandsOfAnyFormEndInAList) {
+TEST_F(BadInput, RecentCommandsOfAnyFormGiveAList) {
   std::wstring commas(5000, L','), many, random;
   for (int i = 0; i < 5000; ++i) many += L"c" + std::to_wstring(i) + L",";
   for (const char byte : RandomBytes(5, 5000))
@@ -318,7 +319,7 @@ TEST_F(BadInput, RecentCommandsOfAnyFormEndInAList) {
 }
 
 #ifndef _WIN32
-TEST_F(BadInput, AUserWithoutRightsOnTheMachinesKeyGoesThroughTheListAtEachStart) {
+TEST_F(BadInput, AUserWithoutRightsOnTheMachinesKeyProcessesTheListAtEachStart) {
   Write("a.arx", "");
   Write("dmload.rx", "a.arx\n");
   RefuseSettingsWrites(true);
@@ -331,7 +332,7 @@ TEST_F(BadInput, AUserWithoutRightsOnTheMachinesKeyGoesThroughTheListAtEachStart
   EXPECT_TRUE(HasStartedBefore(24.0)) << "with rights it is once";
 }
 
-TEST_F(BadInput, ASettingsFileOfAnyBytesIsAsGoodAsNone) {
+TEST_F(BadInput, ASettingsFileOfRandomBytesIsIgnored) {
   const std::string path = (s_folder / "settings.txt").string();
   for (uint32_t seed = 1; seed <= 100; ++seed) {
     Write("settings.txt", RandomBytes(seed, 53 * seed));

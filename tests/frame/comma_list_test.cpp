@@ -16,7 +16,7 @@ std::vector<std::wstring> Split(const wchar_t* text) {
 using List = std::vector<std::wstring>;
 }  // namespace
 
-TEST(CommaList, GivesThePiecesInTextOrder) {
+TEST(CommaList, ReturnsThePiecesInTextOrder) {
   EXPECT_EQ(Split(L"墙,门\n,窗 ,"), (List{L"墙", L"门\n", L"窗 "}));
 }
 
@@ -25,12 +25,12 @@ TEST(CommaList, ATextThatDoesNotEndInACommaLosesItsLastPiece) {
   EXPECT_EQ(Split(L"a"), List{});
 }
 
-TEST(CommaList, AnEmptyTextHasNoPiecesAndEmptyPiecesStay) {
+TEST(CommaList, AnEmptyTextHasNoPiecesAndEmptyPiecesAreKept) {
   EXPECT_EQ(Split(L""), List{});
   EXPECT_EQ(Split(L",,"), (List{L"", L""}));
 }
 
-TEST(CommaList, WhatIsAppendedIsSplitAgain) {
+TEST(CommaList, AppendedPiecesAreReadBack) {
   TWCString text;
   AppendToCommaList(text, L"TWall\n");
   AppendToCommaList(text, L"TDoor ");

@@ -25,7 +25,7 @@ TEST(ParentFolder, IsTheFolderAboveTheProgramFolder) {
   EXPECT_STREQ(ParentFolder(L"C:\\QVX\\Sys"), L"C:\\QVX\\");
 }
 
-TEST(ParentFolder, ATextWithoutAFolderAboveStandsAsItIs) {
+TEST(ParentFolder, ATextWithoutAParentFolderIsUnchanged) {
   EXPECT_STREQ(ParentFolder(L"C:\\"), L"C:\\");
   EXPECT_STREQ(ParentFolder(L"Sys"), L"Sys");
   EXPECT_STREQ(ParentFolder(L""), L"");
@@ -40,7 +40,7 @@ TEST(FindDocument, PrefersTheFolderAboveTheProgram) {
   EXPECT_STREQ(found, L"D:\\Setup\\ShowMe\\a.chm");
 }
 
-TEST(FindDocument, NamesTheSecondPlaceWhenNeitherHasIt) {
+TEST(FindDocument, ReturnsTheSecondPlaceWhenNeitherHasIt) {
   TWCString found, lastTried;
   EXPECT_FALSE(Find(L"elsewhere", found, lastTried));
   EXPECT_STREQ(lastTried, L"D:\\Setup\\ShowMe\\a.chm");

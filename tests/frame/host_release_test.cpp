@@ -15,7 +15,7 @@ std::vector<std::wstring> Names(double release) {
 using List = std::vector<std::wstring>;
 }  // namespace
 
-// Each limit belongs to the row below it; the least number above it is the next row's.
+// Each limit belongs to the row below it; the next greater number belongs to the next row.
 TEST(FirstStartValues, EachReleaseHasItsOwnFromJustAboveItsLimit) {
   const struct {
     double limit;
@@ -33,7 +33,7 @@ TEST(FirstStartValues, EachReleaseHasItsOwnFromJustAboveItsLimit) {
   }
 }
 
-TEST(FirstStartValues, TheReleasesThatThereWereHaveTheirOwn) {
+TEST(FirstStartValues, TheExistingReleasesHaveTheirOwn) {
   const struct {
     double release;
     const wchar_t* name;
@@ -53,12 +53,12 @@ TEST(FirstStartValues, AboveNineteenTwoAreReadAndTheOlderOneLast) {
   EXPECT_EQ(Names(24.0), (List{L"InitStart19.1", L"InitStart19"}));
 }
 
-TEST(FrameTitle, TakesTheHostsNameFromAheadOfTheHyphen) {
+TEST(FrameTitle, TakesTheHostsNameBeforeTheHyphen) {
   EXPECT_STREQ(FrameTitle(L"奇维建筑", L"AutoCAD 2021 - [Drawing1.dwg]", 24.0),
                L"奇维建筑 For AutoCAD 2021");
 }
 
-TEST(FrameTitle, TheFirstHyphenCountsAndOneUnitAheadOfItIsDropped) {
+TEST(FrameTitle, TheFirstHyphenCountsAndTheCharacterBeforeItIsDropped) {
   EXPECT_STREQ(FrameTitle(L"Q", L"Draw-It - x", 24.0), L"Q For Dra");
 }
 
@@ -67,8 +67,8 @@ TEST(FrameTitle, AHyphenAtTheStartLeavesNoHostName) {
   EXPECT_STREQ(FrameTitle(L"Q", L" - x", 24.0), L"Q For ");
 }
 
-// Each limit belongs to the row above it; the greatest number below it is the row's own.
-TEST(FrameTitle, WithoutAHyphenTheReleaseDecides) {
+// Each limit belongs to the row above it; the next smaller number belongs to its own row.
+TEST(FrameTitle, WithoutAHyphenTheReleaseDeterminesTheName) {
   const struct {
     double limit;
     const wchar_t *below, *fromIt;
@@ -92,6 +92,6 @@ TEST(FrameTitle, WithoutAHyphenTheReleaseDecides) {
   EXPECT_STREQ(FrameTitle(L"Q", L"Host", 24.3), L"Q For AutoCAD 2013");
 }
 
-TEST(FrameTitle, WithoutATitleTheTextStartsAtFor) {
+TEST(FrameTitle, WithoutATitleTheTextStartsWithFor) {
   EXPECT_STREQ(FrameTitle(L"", L"Host 1 - a", 24.0), L" For Host 1");
 }

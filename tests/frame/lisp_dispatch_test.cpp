@@ -47,14 +47,14 @@ TEST_F(LispDispatch, ACommandStyleFunctionIsOneUndoGroupAndReturnsVoid) {
   EXPECT_EQ(g_echo, 0);
 }
 
-TEST_F(LispDispatch, APlainFunctionFinishesItsCallItself) {
+TEST_F(LispDispatch, APlainFunctionReturnsItsResultItself) {
   EXPECT_EQ(Dispatch(0), RTNORM);
   EXPECT_EQ(TheHostDouble().diary,
             (Diary{L"CMDECHO=0", L"BLIPMODE=0", L"handler", L"BLIPMODE=1", L"CMDECHO=1"}));
   EXPECT_EQ(g_undoDepth, 0);
 }
 
-TEST_F(LispDispatch, ABadCodeIsAnErrorAndTheVariablesAreRestoredAllTheSame) {
+TEST_F(LispDispatch, ABadCodeIsAnErrorAndTheVariablesAreRestored) {
   for (const int code : {-1, 2, 6, RTERROR}) {
     TheHostDouble().diary.clear();
     EXPECT_EQ(Dispatch(code), RTERROR);
@@ -63,7 +63,7 @@ TEST_F(LispDispatch, ABadCodeIsAnErrorAndTheVariablesAreRestoredAllTheSame) {
   }
 }
 
-TEST_F(LispDispatch, AVariableThatCannotBeReadIsRestoredAsEighty) {
+TEST_F(LispDispatch, AVariableThatCannotBeReadIsRestoredToEighty) {
   TheHostDouble().variables.clear();
   { const TPushAcadVar<int, 0> held(L"CMDECHO"); }
   EXPECT_EQ(TheHostDouble().diary, (Diary{L"CMDECHO=0", L"CMDECHO=80"}));
@@ -77,7 +77,7 @@ TEST_F(LispDispatch, TheLispPathIsPublishedAndItsResultReleased) {
   EXPECT_EQ(TheHostDouble().openChains, 0);
 }
 
-TEST_F(LispDispatch, WithoutALispPathTheTwoSymbolsStay) {
+TEST_F(LispDispatch, WithoutALispPathTheTwoSymbolsAreUnchanged) {
   PublishLispPath();
   EXPECT_EQ(TheHostDouble().diary, (Diary{L"_qvxatoml:nil", L"invoke"}));
 }

@@ -1,4 +1,4 @@
-// Both sequences, told as the diary that a set of steps writes.
+// The load and the unload sequence, with steps that record their calls.
 #include "frame/start/load_sequence.h"
 
 #include <gtest/gtest.h>
@@ -96,13 +96,13 @@ TEST(LoadSequence, RunsEveryStepInItsOrder) {
                    "+bold",   "+dyndim",      "+scale"}));
 }
 
-TEST(LoadSequence, LeavesTheCaptionAndTheRecentFilesAloneUnlessAsked) {
+TEST(LoadSequence, KeepsTheCaptionAndTheRecentFilesUnlessTheSettingsAreOn) {
   const Diary diary = Loaded(0);
   EXPECT_FALSE(Contains(diary, "caption"));
   EXPECT_FALSE(Contains(diary, "recent files"));
 }
 
-TEST(LoadSequence, EachCustomFlagLeavesOutItsOwnStepsOnly) {
+TEST(LoadSequence, EachCustomFlagSkipsItsOwnStepsOnly) {
   const Diary all = Loaded(0);
   const struct {
     int flag;
@@ -129,7 +129,7 @@ TEST(UnloadSequence, RunsEveryStepInItsOrder) {
                    "-fill", "-bold", "-dyndim", "-scale", "unload kernel"}));
 }
 
-TEST(UnloadSequence, TakesBaseLineAndDynamicDimensionAwayEvenWhenTheyWereNeverAdded) {
+TEST(UnloadSequence, RemovesBaseLineAndDynamicDimensionEvenWhenTheyWereNotAdded) {
   const Diary diary = Unloaded(0x20);
   EXPECT_TRUE(Contains(diary, "-baseline"));
   EXPECT_TRUE(Contains(diary, "-dyndim"));
@@ -137,6 +137,6 @@ TEST(UnloadSequence, TakesBaseLineAndDynamicDimensionAwayEvenWhenTheyWereNeverAd
   EXPECT_FALSE(Contains(diary, "-bold"));
 }
 
-TEST(UnloadSequence, LeavesTheScalePaneThatWasNeverAdded) {
+TEST(UnloadSequence, DoesNotRemoveAScalePaneThatWasNotAdded) {
   EXPECT_FALSE(Contains(Unloaded(0x01), "-scale"));
 }

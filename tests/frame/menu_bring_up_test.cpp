@@ -73,14 +73,14 @@ TEST(MenuBringUp, AnInvisiblePaletteIsStillCreatedAndNothingIsPrinted) {
   for (const auto& line : steps.diary) EXPECT_NE(line.substr(0, 5), L"print");
 }
 
-TEST(MenuBringUp, WithoutASourceFileThePaletteComesUpEmptyAndTheRestGoesOn) {
+TEST(MenuBringUp, WithoutASourceFileThePaletteIsEmptyAndTheStartContinues) {
   DiarySteps steps;
   steps.sourceFound = false;
   MenuBringUp().Run(steps);
   EXPECT_EQ(steps.diary, (Diary{L"palette shown", L"lisp path", L"doc status", L"recent"}));
 }
 
-TEST(MenuBringUp, ObsoleteSwitchesTheScreenMenuOffAndIsAskedAgainEachTime) {
+TEST(MenuBringUp, ObsoleteTurnsTheScreenMenuOffAndIsReadEachTime) {
   DiarySteps steps;
   steps.settings[L"Obsolete"] = 1;
   MenuBringUp bringUp;
@@ -92,7 +92,7 @@ TEST(MenuBringUp, ObsoleteSwitchesTheScreenMenuOffAndIsAskedAgainEachTime) {
   EXPECT_EQ(steps.diary, kWhole);
 }
 
-TEST(MenuBringUp, WithNoMenuItIsDoneAllTheSame) {
+TEST(MenuBringUp, WithoutAMenuItCountsAsDone) {
   DiarySteps steps;
   steps.menuFound = false;
   MenuBringUp bringUp;
@@ -101,7 +101,7 @@ TEST(MenuBringUp, WithNoMenuItIsDoneAllTheSame) {
   EXPECT_TRUE(bringUp.IsDone());
 }
 
-TEST(MenuReadiness, TheFiringAfterTheBringUpStopsTheTimerAndSendsShowBarOnce) {
+TEST(MenuReadiness, TheFiringAfterTheFirstStopsTheTimerAndSendsShowBarOnce) {
   DiarySteps steps;
   MenuBringUp bringUp;
   bringUp.StepReadiness(steps);
@@ -114,7 +114,7 @@ TEST(MenuReadiness, TheFiringAfterTheBringUpStopsTheTimerAndSendsShowBarOnce) {
   EXPECT_EQ(steps.diary, Diary{L"stop"});
 }
 
-TEST(MenuReadiness, WithoutAMenuItSaysSoOnceAndStops) {
+TEST(MenuReadiness, WithoutAMenuItReportsThatOnceAndStops) {
   DiarySteps steps;
   steps.menuFound = false;
   MenuBringUp().StepReadiness(steps);
@@ -124,7 +124,7 @@ TEST(MenuReadiness, WithoutAMenuItSaysSoOnceAndStops) {
                                 L"stop"}));
 }
 
-TEST(MenuReadiness, ProductSeventeenIsNotPointedToTheLoadCommand) {
+TEST(MenuReadiness, ProductSeventeenDoesNotPrintTheLoadCommand) {
   DiarySteps steps;
   steps.menuFound = false;
   steps.limitedProduct = true;

@@ -15,7 +15,8 @@ using Diary = std::vector<std::wstring>;
 class DiarySteps : public MenuSteps {
  public:
   Diary diary;
-  std::set<std::wstring> files;  // on the support path; found under C:\s\ unless a path is given
+  // On the support path; found under C:\s\ if the name has no path.
+  std::set<std::wstring> files;
   std::wstring setting, base;
 
   bool ReadMenuSetting(TWCString& value) override {
@@ -62,14 +63,14 @@ class MenuCommandsTest : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(MenuCommandsTest, ReloadTakesTheDefaultMenuWhenNoneIsRemembered) {
+TEST_F(MenuCommandsTest, ReloadLoadsTheDefaultMenuWhenNoneIsSaved) {
   steps.files = {L"qvx.qmn"};
   commands.Reload(steps);
   EXPECT_EQ(steps.diary, (Diary{L"icons qvx.dll", L"palette", L"compile C:\\s\\qvx.qmn",
                                 L"lisp path", L"doc status"}));
 }
 
-TEST_F(MenuCommandsTest, ReloadTakesTheRememberedMenu) {
+TEST_F(MenuCommandsTest, ReloadLoadsTheSavedMenu) {
   steps.setting = L"D:\\m\\own";
   steps.files = {L"qvx.qmn", L"D:\\m\\own.qmn"};
   commands.Reload(steps);
@@ -77,7 +78,7 @@ TEST_F(MenuCommandsTest, ReloadTakesTheRememberedMenu) {
   EXPECT_EQ(steps.diary[2], L"compile D:\\m\\own.qmn");
 }
 
-TEST_F(MenuCommandsTest, ReloadOfAMenuThatIsGoneResetsTheModesAndStops) {
+TEST_F(MenuCommandsTest, ReloadOfAMenuThatWasDeletedResetsTheModesAndStops) {
   steps.setting = L"D:\\m\\gone";
   steps.files = {L"qvx.qmn"};
   g_iMenuType = 2;
@@ -88,7 +89,7 @@ TEST_F(MenuCommandsTest, ReloadOfAMenuThatIsGoneResetsTheModesAndStops) {
   EXPECT_EQ(g_nRunMode, 0);
 }
 
-TEST_F(MenuCommandsTest, ReloadBySearchStopsAtTheMenuAndLeavesTheLispSymbolsAlone) {
+TEST_F(MenuCommandsTest, ReloadBySearchDoesTheMenuOnlyAndKeepsTheLispSymbols) {
   steps.base = L"C:\\s\\qvx";
   steps.files = {L"C:\\s\\qvx.qmn"};
   commands.ReloadBySearch(steps);
@@ -101,19 +102,19 @@ TEST_F(MenuCommandsTest, ReloadBySearchFallsBackToTheDefaultName) {
   EXPECT_EQ(steps.diary.back(), L"compile C:\\s\\qvx.qmn");
 }
 
-TEST_F(MenuCommandsTest, ReloadBySearchSaysWhenThereIsNone) {
+TEST_F(MenuCommandsTest, ReloadBySearchReportsThatThereIsNone) {
   commands.ReloadBySearch(steps);
   EXPECT_EQ(steps.diary, Diary{L"box 未找到菜单文件!"});
 }
 
-TEST_F(MenuCommandsTest, SetMenuCompilesASourceAndRemembersItsBase) {
+TEST_F(MenuCommandsTest, SetMenuCompilesASourceAndSavesItsBaseName) {
   steps.files = {L"simple.qmn"};
   EXPECT_TRUE(commands.SetMenu(steps, L"simple.qmn"));
   EXPECT_EQ(steps.diary, (Diary{L"icons C:\\s\\simple.dll", L"palette",
                                 L"compile C:\\s\\simple.qmn", L"remember C:\\s\\simple"}));
 }
 
-TEST_F(MenuCommandsTest, SetMenuNeverTouchesTheSourceOfACompiledFile) {
+TEST_F(MenuCommandsTest, SetMenuDoesNotReadTheSourceOfACompiledFile) {
   steps.files = {L"simple.QMC", L"simple.qmn"};
   EXPECT_TRUE(commands.SetMenu(steps, L"simple.QMC"));
   EXPECT_EQ(steps.diary[2], L"compiled C:\\s\\simple.QMC");
@@ -145,7 +146,7 @@ TEST_F(MenuCommandsTest, RunModeWithoutItsFileChangesNothing) {
   EXPECT_EQ(steps.diary, Diary{});
 }
 
-TEST_F(MenuCommandsTest, AviModeLoadsItsCompiledMenuAndGoesBack) {
+TEST_F(MenuCommandsTest, AviModeLoadsItsCompiledMenuAndSwitchesBack) {
   steps.files = {L"qvxavi.qmc", L"qvx.qmc"};
   commands.ToggleAviMode(steps);
   EXPECT_EQ(steps.diary, (Diary{L"icons qvx.dll", L"palette", L"compiled C:\\s\\qvxavi.qmc"}));

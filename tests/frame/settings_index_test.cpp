@@ -1,5 +1,5 @@
-// The index of settings against everything that could disagree with it: the sources of the rooms in
-// both directions, the kernel's table, and what a fresh start gives.
+// Compares the index of settings with the sources of the rooms in both directions, with the
+// kernel's table, and with the values after a fresh start.
 #include "frame/settings/settings_index.h"
 
 #include <gtest/gtest.h>
@@ -57,10 +57,10 @@ std::string ReadFile(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// What each room names, by the calls that reach a store and by the names of exported data.
+// The names used by each room, from calls that access a store and from names of exported data.
 using NamesByRoom = std::map<std::string, std::set<std::string>>;
 
-// The names that the kernel's header declares.
+// The names declared in the kernel's header.
 const std::set<std::string>& ExportedGlobals() {
   static const std::set<std::string> names = [] {
     std::set<std::string> found;
@@ -76,7 +76,7 @@ const std::set<std::string>& ExportedGlobals() {
   return names;
 }
 
-// The literal that follows a call of this name, behind at most one other argument.
+// Collects the string literal of each call of this name, as first or second argument.
 void CollectCall(const std::string& text, const std::string& call, std::set<std::string>& names) {
   const std::string identifier = "_0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
   for (size_t at = text.find(call); at != text.npos; at = text.find(call, at + 1)) {
@@ -105,7 +105,7 @@ void CollectFile(const std::string& text, std::set<std::string>& names) {
         "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "ShortVariable(",
         "TextOf(product, ", "TPushAcadVar<int, 0> "})
     CollectCall(text, call, names);
-  const std::string flag = "L\"InitStart";  // chosen by release, read by variable
+  const std::string flag = "L\"InitStart";  // the release selects the name
   for (size_t at = text.find(flag); at != text.npos; at = text.find(flag, at + 1))
     names.insert(text.substr(at + 2, text.find('"', at + 2) - at - 2));
   for (const std::string& global : ExportedGlobals())
@@ -129,7 +129,7 @@ NamesByRoom NamesInSources() {
   return found;
 }
 
-// Rooms that the frame still passes by: what they will use cannot be seen yet.
+// Rooms that are not built yet, whose use of settings is unknown.
 bool IsUnbuilt(const std::string& room) {
   int count = 0;
   const UnbuiltStep* steps = UnbuiltSteps(&count);
@@ -164,7 +164,7 @@ IndexType TypeOf(SettingType type) {
 
 }  // namespace
 
-TEST(SettingsIndex, EveryRowIsWholeAndStandsOnce) {
+TEST(SettingsIndex, EveryRowIsCompleteAndUnique) {
   std::set<std::wstring> places;
   for (const IndexRow& row : Rows()) {
     const std::wstring place =
@@ -177,7 +177,7 @@ TEST(SettingsIndex, EveryRowIsWholeAndStandsOnce) {
   }
 }
 
-TEST(SettingsIndex, WhateverTheSourcesReadOrWriteHasARowThatNamesTheRoom) {
+TEST(SettingsIndex, EverythingThatTheSourcesReadOrWriteHasARowThatNamesTheRoom) {
   std::map<std::string, std::set<std::string>> roomsOf;
   for (const IndexRow& row : Rows()) roomsOf[Bytes(row.name)].merge(Words(row.rooms));
   EXPECT_EQ(ExportedGlobals().size(), 37u);
@@ -221,9 +221,9 @@ TEST(SettingsIndex, GlobalsAreThoseOfTheKernelWithItsTypesDefaultsAndMeanings) {
   }
 }
 
-TEST(SettingsIndex, AFreshStartGivesTheDefaultsOfTheGlobals) {
+TEST(SettingsIndex, AFreshStartHasTheDefaultsOfTheGlobals) {
   LoadSettings();
-  g_dHostVersion = 94.1;  // that nobody has
+  g_dHostVersion = 94.1;  // a release that does not exist
   LoadSettings();
   int count = 0;
   const Setting* kernel = Settings(&count);
@@ -247,7 +247,7 @@ TEST(SettingsIndex, AFreshStartGivesTheDefaultsOfTheGlobals) {
   }
 }
 
-TEST(SettingsIndex, AFreshStartGivesTheDefaultsOfTheScreenMenusValues) {
+TEST(SettingsIndex, AFreshStartHasTheDefaultsOfTheScreenMenusValues) {
   g_dHostVersion = 94.1;
   qvx::PaletteSettings settings;
   settings.limitHeight = g_bLimitHeight;
@@ -263,7 +263,7 @@ TEST(SettingsIndex, AFreshStartGivesTheDefaultsOfTheScreenMenusValues) {
     EXPECT_EQ(std::to_wstring(value), RowOf(name).defaultText) << Bytes(name);
 }
 
-TEST(SettingsIndex, HasEveryFirstStartValueThatAReleaseAsksFor) {
+TEST(SettingsIndex, HasEveryFirstStartValueThatAReleaseReads) {
   std::set<std::wstring> asked, listed;
   for (double release = 15.0; release < 25.0; release += 0.05) {
     const wchar_t* names[2];

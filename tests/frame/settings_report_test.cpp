@@ -1,4 +1,4 @@
-// The report of all settings: each row has its line, with the value and the place it comes from.
+// The report of all settings: a line for each row, with the value and its source.
 #include "frame/settings/settings_report.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class Report : public ::testing::Test {
     options.profile = L"report";
     options.supportPath = {s_folder.wstring()};
     devhost::TheHost().Begin(options, &m_ui, nullptr);
-    // A release of its own for every test, so that nobody's values are there.
+    // Each test uses a release of its own, so that no stored values exist.
     static double s_release = 60;
     g_dHostVersion = s_release += 0.1;
 #ifdef _WIN32
@@ -51,7 +51,7 @@ class Report : public ::testing::Test {
 };
 fs::path Report::s_folder;
 
-// The report's line that begins so; empty when there is none.
+// The report's line with that beginning; empty if there is none.
 std::string LineOf(const std::string& begin) {
   std::istringstream lines(SettingsReport());
   for (std::string line; std::getline(lines, line);)
@@ -98,7 +98,7 @@ TEST_F(Report, AMissingValueShowsItsDefault) {
   EXPECT_EQ(LineOf("  g_nSpeedMenu = ").substr(0, 31), "  g_nSpeedMenu = 3  [default]  ");
 }
 
-TEST_F(Report, AKeptValueShowsThatItComesFromTheRegistry) {
+TEST_F(Report, AStoredValueShowsThatItIsInTheRegistry) {
   SetUser(L"Settings\\ScreenMenu", L"SizeX", L"120");
   SetUser(L"Settings", L"g_nSpeedMenu", L"1");
   SetUser(L"report", L"Menu", L"D:\\\x56FE\\own");
@@ -108,7 +108,7 @@ TEST_F(Report, AKeptValueShowsThatItComesFromTheRegistry) {
   EXPECT_TRUE(Has(LineOf("  report\\Menu ="), "= D:\\\xE5\x9B\xBE\\own  [registry]"));
 }
 
-TEST_F(Report, AValueOfTheWrongFormIsNamedAndTheDefaultShown) {
+TEST_F(Report, AValueOfTheWrongTypeIsReportedWithTheDefault) {
   SetUser(L"Settings\\ScreenMenu", L"SizeX", L"wide");
   SetUser(L"Settings", L"g_nSpeedMenu", L"often");
   LoadSettings();
@@ -125,7 +125,7 @@ TEST_F(Report, TheProductFileIsNamedAndRead) {
   EXPECT_TRUE(Has(LineOf("  Title ="), "= \xE5\xA5\x87\xE7\xBB\xB4  [qvx.ini]"));
 }
 
-TEST_F(Report, TellsWhichFlagStopsTheFirstStartList) {
+TEST_F(Report, NamesTheFlagThatSuppressesTheFirstStartList) {
   EXPECT_TRUE(Has(LineOf("first-start list"), "processed at the next start, no value"));
   SetFlag(L"InitStart19.1", 1);
   EXPECT_TRUE(Has(LineOf("first-start list"), "stopped by InitStart19.1 = 1"));
@@ -137,7 +137,7 @@ TEST_F(Report, TellsWhichFlagStopsTheFirstStartList) {
   EXPECT_TRUE(Has(LineOf("first-start list"), "left out by bit 0x08"));
 }
 
-TEST_F(Report, WarnsOfATipFileWithoutATip) {
+TEST_F(Report, WarnsOfATipFileWithoutTips) {
   EXPECT_TRUE(Has(LineOf("tip file"), "not found"));
   Write("qvxtips.txt", "; a\n\n\tb\n c\n");
   EXPECT_TRUE(Has(LineOf("tip file"), "warning: it has no tip"));
@@ -145,7 +145,7 @@ TEST_F(Report, WarnsOfATipFileWithoutATip) {
   EXPECT_FALSE(Has(LineOf("tip file"), "warning"));
 }
 
-TEST_F(Report, ALineEndInAValueKeepsToItsLine) {
+TEST_F(Report, ALineEndInAValueDoesNotBreakItsLine) {
   SetUser(L"Settings", L"RecentCmd", L"TWall\n,");
   EXPECT_TRUE(Has(LineOf("  Settings\\RecentCmd ="), "= TWall ,  [registry]"));
 }

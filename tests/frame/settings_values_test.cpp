@@ -1,5 +1,5 @@
-// What the frame keeps in the registry: recent commands, the first-start flags. Runs under a host
-// release that nobody has.
+// The frame's values in the registry: recent commands, the first-start flags. Uses a host release
+// number that does not exist.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -42,7 +42,7 @@ void SetFlag(const wchar_t* name, int value) {
   key.SetValue(name, value);
 }
 
-// Whatever earlier tests and runs left under the machine's key.
+// Deletes the values that earlier tests and runs left in the machine's key.
 void ForgetMachineValues() {
 #ifdef _WIN32
   CString path(GetRegLocation());
@@ -62,7 +62,7 @@ int Flag(const wchar_t* name) {
 
 }  // namespace
 
-TEST_F(FrameValues, RecentCommandsComeBackInTheirOrder) {
+TEST_F(FrameValues, RecentCommandsAreReadBackInTheirOrder) {
   TMenuStack recent;
   recent.AddRecent(L"TWall\n");
   recent.AddRecent(L"TDoor ");
@@ -90,7 +90,7 @@ TEST_F(FrameValues, AnEmptyListIsWrittenAsEmptyText) {
   EXPECT_STREQ(RecentText().GetString(), L"");
 }
 
-TEST_F(FrameValues, AFirstStartOfEachReleaseIsOneOnlyAndTouchesItsOwnValueAlone) {
+TEST_F(FrameValues, TheFirstStartOfEachReleaseHappensOnceAndWritesItsOwnValueOnly) {
   const struct {
     double release;
     const wchar_t* name;
@@ -117,8 +117,8 @@ TEST_F(FrameValues, AValueOfZeroIsAFirstStart) {
   EXPECT_EQ(Flag(L"InitStart17.2"), 1);
 }
 
-// -1 stands for a value that is not there. The second read decides when it finds a value.
-TEST_F(FrameValues, AboveNineteenTheSecondValueDecidesWhereItIsThere) {
+// -1: the value does not exist. If the second one exists, it decides.
+TEST_F(FrameValues, AboveNineteenTheSecondValueDecidesIfItExists) {
   for (const int newer : {-1, 0, 1}) {
     for (const int older : {-1, 0, 1}) {
       ForgetMachineValues();

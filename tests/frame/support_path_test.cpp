@@ -1,4 +1,4 @@
-// What the frame and the kernel find and read along the support path of a host without windows.
+// Files that the frame and the kernel find along the support path of a host without windows.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -57,7 +57,7 @@ using List = std::vector<std::wstring>;
 
 }  // namespace
 
-TEST_F(SupportPath, FindsAFileAndGivesItsFullPath) {
+TEST_F(SupportPath, FindsAFileAndReturnsItsFullPath) {
   Write("here.txt", "x");
   wchar_t path[QvxExport::kPathUnits] = L"untouched";
   EXPECT_EQ(QvxExport::FindFile(L"missing.txt", path), 0);
@@ -69,7 +69,7 @@ TEST_F(SupportPath, FindsAFileAndGivesItsFullPath) {
   EXPECT_EQ(QvxExport::FindFile(L"", path), 0);
 }
 
-TEST_F(SupportPath, FindsAFileWhoseNameTheLocaleLacks) {
+TEST_F(SupportPath, FindsAFileWhoseNameIsNotInTheLocale) {
   std::ofstream(s_folder / fs::u8path("\u5899\uFFFD.txt"), std::ios::binary) << "x";
   wchar_t path[QvxExport::kPathUnits] = L"";
   EXPECT_EQ(QvxExport::FindFile(L"\u5899\uFFFD.txt", path), 1);
@@ -77,7 +77,7 @@ TEST_F(SupportPath, FindsAFileWhoseNameTheLocaleLacks) {
   EXPECT_EQ(QvxExport::FindFile(L"\u95E8.txt", path), 0);
 }
 
-TEST_F(SupportPath, TheFirstStartListGivesTheNamesThatExistAsWritten) {
+TEST_F(SupportPath, TheFirstStartListReturnsTheNamesThatExistUnchanged) {
   Write("a.arx", "");
   Write("b c.arx", "");
   Write("dmload.rx", "a.arx once\r\n\r\nmissing.arx\r\n   \"b c.arx\" 2\r\n; none\r\na.arx");
@@ -95,14 +95,14 @@ TEST_F(SupportPath, WithoutAFirstStartListThereAreNoNames) {
   EXPECT_EQ(FirstStartList(), List{});
 }
 
-TEST_F(SupportPath, TheKernelTakesTheReleaseFromTheHost) {
+TEST_F(SupportPath, TheKernelReadsTheReleaseFromTheHost) {
   StartKernel(L"C:\\QVX\\Sys\\qvx_kernal.arx");
   EXPECT_EQ(g_dHostVersion, 16.2);
   EXPECT_STREQ(QvxGeLib::g_sAppPath, L"C:\\QVX\\Sys\\");
   EXPECT_STREQ(GetRegLocation(), L"Software\\Quivera\\QVX\\R16.2\\QVX-1");
 }
 
-TEST_F(SupportPath, TheRememberedMenuLiesUnderTheHostsProfile) {
+TEST_F(SupportPath, TheSavedMenuIsUnderTheHostsProfile) {
   g_dHostVersion = 96.1;
   SaveMenuSetting(L"D:\\菜单\\own");
   TWCString value;

@@ -1,5 +1,5 @@
-// The LISP functions of the module as a drawing calls them, through the real host core, with the
-// shell as a double that answers what a test tells it to and notes what it was asked to open.
+// The module's LISP functions as a drawing calls them, through the real host core. The shell is a
+// double that returns what a test sets and records the files to open.
 #include "frame/commands/win/lisp_functions.h"
 
 #include "afxwin.h"
@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 INT_PTR g_answer = 33;
 std::vector<std::wstring> g_opened;    // verb and file
-std::vector<std::wstring> g_menusSet;  // what TSetMenu was given
+std::vector<std::wstring> g_menusSet;  // arguments of TSetMenu
 
 HINSTANCE WINAPI ShellCall(HWND, LPCWSTR verb, LPCWSTR file, LPCWSTR parameters, LPCWSTR folder,
                            INT show) {
@@ -64,7 +64,7 @@ class LispFunctionsTest : public hosttest::HostTest {
   std::wstring Setup() const { return folder.wstring() + L"\\setup"; }
   std::wstring Opens(const wchar_t* tail) const { return L"open " + folder.wstring() + tail; }
 
-  // What the expression gives, as LISP prints it.
+  // The result of the expression, as LISP prints it.
   std::string Call(const wchar_t* expression) {
     std::wstring error;
     const devhost::LispValue value = devhost::Evaluate(*m_drawing, expression, &error);
@@ -78,7 +78,7 @@ class LispFunctionsTest : public hosttest::HostTest {
 
 }  // namespace
 
-// Where calls of the shell in this program go instead of to the system.
+// Replaces the system's shell calls in this program.
 extern "C" {
 decltype(&ShellCall) __imp_ShellExecuteW = &ShellCall;
 }
@@ -88,7 +88,7 @@ bool SetMenuFile(const wchar_t* file) {
   return file != nullptr;
 }
 
-TEST_F(LispFunctionsTest, TheTutorialIsLookedForAboveTheProgramAndThenInTheSetUpFolder) {
+TEST_F(LispFunctionsTest, TheTutorialIsSearchedAboveTheProgramAndThenInTheSetUpFolder) {
   MakeFile("setup/ShowMe/qvxtut.chm", "");
   EXPECT_EQ(Call(L"(C:QvxTut)"), "nil");
   MakeFile("ShowMe/qvxtut.chm", "");
@@ -98,13 +98,13 @@ TEST_F(LispFunctionsTest, TheTutorialIsLookedForAboveTheProgramAndThenInTheSetUp
   EXPECT_EQ(ui.printed, L"");
 }
 
-TEST_F(LispFunctionsTest, AMissingTutorialIsToldWithItsSecondPlace) {
+TEST_F(LispFunctionsTest, AMissingTutorialIsReportedWithItsSecondPlace) {
   EXPECT_EQ(Call(L"(C:QvxTut)"), "nil");
   EXPECT_EQ(ui.printed, L"\n尚未安装有自学教程电子文档" + Setup() + L"\\ShowMe\\qvxtut.chm");
   EXPECT_EQ(g_opened, List{});
 }
 
-TEST_F(LispFunctionsTest, ATutorialThatTheShellRefusesIsTold) {
+TEST_F(LispFunctionsTest, ATutorialThatTheShellCannotOpenIsReported) {
   MakeFile("ShowMe/qvxtut.chm", "");
   g_answer = 32;
   Call(L"(C:QvxTut)");
@@ -112,7 +112,7 @@ TEST_F(LispFunctionsTest, ATutorialThatTheShellRefusesIsTold) {
             L"\n帮助文件qvxtut.chm不存在，或您没有安装HTML帮助系统(安装IE 4.0或更高的版本)。");
 }
 
-TEST_F(LispFunctionsTest, TheAnimatedTutorialLiesAboveTheProgramOnly) {
+TEST_F(LispFunctionsTest, TheAnimatedTutorialIsSearchedAboveTheProgramOnly) {
   Call(L"(C:TFlashTut)");
   EXPECT_EQ(ui.printed, L"\n尚未安装有Flash教学文档" + folder.wstring() + L"\\FlashTut\\index.htm");
   MakeFile("FlashTut/index.htm", "");
@@ -138,7 +138,7 @@ TEST_F(LispFunctionsTest, TheQuestionsAreFoundOnTheSupportPath) {
   EXPECT_EQ(ui.printed, L"\n无法打开FAQ.DOC!");
 }
 
-TEST_F(LispFunctionsTest, AClipGivenWithItsPathIsLookedForByItsFileNameAlone) {
+TEST_F(LispFunctionsTest, AClipGivenWithItsPathIsSearchedByItsFileNameAlone) {
   MakeFile("ShowMe/wall.avi", "");
   MakeFile("other.avi", "");
   EXPECT_EQ(Call(L"(tcmdavi \"C:\\\\elsewhere\\\\wall.txt\")"), "nil");
@@ -155,14 +155,14 @@ TEST_F(LispFunctionsTest, AClipOfTheSetUpFolderComesSecond) {
   EXPECT_EQ(g_opened, List{Opens(L"\\setup\\ShowMe\\door.avi")});
 }
 
-TEST_F(LispFunctionsTest, AClipThatTheShellRefusesIsTold) {
+TEST_F(LispFunctionsTest, AClipThatTheShellCannotOpenIsReported) {
   MakeFile("ShowMe/wall.avi", "");
   g_answer = 32;
   Call(L"(tcmdavi \"wall\")");
   EXPECT_EQ(ui.printed, L"\n您没有AVI的播放程序。");
 }
 
-TEST_F(LispFunctionsTest, ANumberNoArgumentOrNoNamePlaysNothingAndGivesNil) {
+TEST_F(LispFunctionsTest, ANumberNoArgumentOrNoNamePlaysNothingAndReturnsNil) {
   MakeFile("ShowMe/.avi", "");
   for (const wchar_t* call : {L"(tcmdavi 5)", L"(tcmdavi)", L"(tcmdavi \"\")",
                               L"(tcmdavi \"C:\\\\folder\\\\\")", L"(tcmdavi 5 \"wall\")"})
@@ -171,14 +171,14 @@ TEST_F(LispFunctionsTest, ANumberNoArgumentOrNoNamePlaysNothingAndGivesNil) {
   EXPECT_EQ(ui.printed, L"");
 }
 
-TEST_F(LispFunctionsTest, TheMenuIsGivenAsOneText) {
+TEST_F(LispFunctionsTest, TheMenuIsPassedAsOneText) {
   EXPECT_EQ(Call(L"(TSetMenu \"simple.qmn\")"), "nil");
   EXPECT_EQ(Call(L"(TSetMenu 5)"), "nil");
   EXPECT_EQ(Call(L"(TSetMenu)"), "nil");
   EXPECT_EQ(g_menusSet, (List{L"simple.qmn", L"(none)", L"(none)"}));
 }
 
-TEST_F(LispFunctionsTest, EchoAndBlipsAreAsBeforeAfterEachCall) {
+TEST_F(LispFunctionsTest, EchoAndBlipsAreRestoredAfterEachCall) {
   host.variables.Set(L"CMDECHO", L"1");
   host.variables.Set(L"BLIPMODE", L"1");
   const int before = devhost::TheJournal().Count();
