@@ -129,7 +129,7 @@ void ExpectAgreement(const std::string& source) {
   }
 }
 
-TEST(CheckAgrees, TheProductMenusHaveNothingToReport) {
+TEST(CheckAgrees, TheProductMenusHaveNoFindings) {
   for (const auto& entry : fs::directory_iterator(ProductFolder()))
     if (entry.path().extension() == ".qmn") {
       EXPECT_EQ(CodesOf(ReadBytes(entry.path())), std::set<std::string>{}) << entry.path();
@@ -191,7 +191,7 @@ bool AnyArrowIsLeft(const std::string& source) {
   return false;
 }
 
-TEST(CheckAgrees, ArrowsAreReportedExactlyWhereTheEngineLeavesOneInALabel) {
+TEST(CheckAgrees, ArrowsAreReportedExactlyIfTheEngineLeavesOneInALabel) {
   Mutator mutator(31);
   int left = 0;
   for (int i = 0; i < 5000; ++i) {
@@ -209,7 +209,7 @@ TEST(CheckAgrees, ArrowsAreReportedExactlyWhereTheEngineLeavesOneInALabel) {
   EXPECT_LT(left, 4900);
 }
 
-TEST(CheckAgrees, DeepAndLongFilesNeedNoStack) {
+TEST(CheckAgrees, DeepAndLongFilesDoNotOverflowTheStack) {
   std::string lines;
   for (int i = 0; i < 20000; ++i) lines += "[->x]\n";
   EXPECT_EQ(CodesOf(Framed("lines", lines)), std::set<std::string>{"QMN041"});

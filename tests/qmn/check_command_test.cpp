@@ -40,7 +40,7 @@ TEST_F(CheckCommand, RefusesMissingAndUnknownArguments) {
   EXPECT_EQ(Check("", {"--list-rules"}).code, 2);
 }
 
-TEST_F(CheckCommand, AFileThatCanNotBeReadGivesThreeAfterTheOthersWereChecked) {
+TEST_F(CheckCommand, AnUnreadableFileExitsWithThreeAfterTheOthersAreChecked) {
   const std::string bad = Write(u8"bad.qmn", kRefused);
   const QmnRun run = Qmn({"check", Name(u8"missing.qmn"), bad});
   EXPECT_EQ(run.code, 3);
@@ -48,7 +48,7 @@ TEST_F(CheckCommand, AFileThatCanNotBeReadGivesThreeAfterTheOthersWereChecked) {
   EXPECT_EQ(run.out.rfind(bad + ":4:1: error: ", 0), 0u) << run.out;
 }
 
-TEST_F(CheckCommand, FilesComeInTheOrderInWhichTheyWereGiven) {
+TEST_F(CheckCommand, FilesAreReportedInTheOrderOfTheArguments) {
   const std::string one = Write(u8"一.qmn", kRefused);
   const std::string two = Write(u8"a.qmn", kWarned);
   const QmnRun run = Qmn({"check", one, two});
@@ -64,7 +64,7 @@ TEST_F(CheckCommand, SyntaxErrorsNameTheExpectedAndTheFoundToken) {
             "^~~\n");
 }
 
-TEST_F(CheckCommand, OneRunFindsEveryFault) {
+TEST_F(CheckCommand, OneRunFindsAllErrors) {
   const QmnRun run = Check(
       "MENU_TITLE \"T\"\n"
       "***COMMON\n"
@@ -146,7 +146,7 @@ TEST_F(CheckCommand, FindingsBeyondTheLimitAreCounted) {
   EXPECT_EQ(text.substr(text.size() - 35), "-: 500 more findings are not shown\n");
 }
 
-TEST_F(CheckCommand, JsonNamesEveryFinding) {
+TEST_F(CheckCommand, JsonHasEveryFinding) {
   const Json document = Json::parse(Check(kWarned, {"--format", "json"}).out);
   EXPECT_EQ(document["version"], 1);
   const Json& file = document["files"][0];
@@ -200,7 +200,7 @@ TEST_F(CheckCommand, GitHubWorkflowCommandsAreEscaped) {
   EXPECT_NE(out.find("::'%25' means nothing"), std::string::npos) << out;
 }
 
-TEST_F(CheckCommand, AnotherCodePageIsReadWhenItIsNamed) {
+TEST_F(CheckCommand, AnotherCodePageIsUsedWhenItIsGiven) {
   const std::string source = Framed("lines", "[\xC0\xF0\xA4\x5D]^C^PWALL;\n");
   const QmnRun run = Check(source, {"--codepage", "950"});
   EXPECT_EQ(run.out,

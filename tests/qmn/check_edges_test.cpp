@@ -80,7 +80,7 @@ TEST(CheckEdges, AnEditingActionMayHaveABlankBeforeAndWordsAfterIt) {
   EXPECT_EQ(Blocks("***INPLACE\n[a]5025\n[b]-5001\n[c]x5001\n"), Codes{"QMN054"});
 }
 
-TEST(CheckEdges, TextsAndLinesMayBeAsLongAsTheirLimit) {
+TEST(CheckEdges, TextsAndLinesMayHaveTheirMaximumLength) {
   EXPECT_EQ(Lines(MenuBytes("[‹98×墙›]x\n")), Codes{});
   EXPECT_EQ(Lines(MenuBytes("[‹98×墙›]xx\n")), Codes{"QMN008"});
 }

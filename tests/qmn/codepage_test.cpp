@@ -61,7 +61,7 @@ TEST_F(QmnCodePage, DecompileAndFmtKeepThePage) {
   }
 }
 
-TEST_F(QmnCodePage, DecompileNamesTheCharacterThatThePageLacks) {
+TEST_F(QmnCodePage, DecompileReportsACharacterThatIsNotInThePage) {
   const std::string compiled = Qmn({"compile", "-"}, Source("\xC7\xBD")).out;
   EXPECT_EQ(Qmn({"decompile", "-", "--codepage", "1252"}, compiled).err,
             "-: error: block B, line 1: text: U+5899 is not in code page 1252\n");
@@ -126,7 +126,7 @@ TEST_F(QmnCodePage, DamageIsReportedTheSameInEveryPage) {
   EXPECT_EQ(WithWideTexts(bytes, 1252), bytes);
 }
 
-TEST_F(QmnCodePage, AnUnknownPageIsWrongUsage) {
+TEST_F(QmnCodePage, AnUnknownPageIsAUsageError) {
   for (const char* page : {"1", "1200", "37", "99999", "x", "-1"}) {
     const QmnRun run = Qmn({"compile", "-", "--codepage", page}, kGoodSource);
     EXPECT_EQ(run.code, 2) << page;

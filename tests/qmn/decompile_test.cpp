@@ -97,7 +97,7 @@ TEST_F(QmnDecompile, WritesACompleteOutputAndNothingAfterARefusal) {
   EXPECT_EQ(FileCount(), 3);
 }
 
-TEST_F(QmnDecompile, FilesThatCannotBeReadOrWrittenAreNamed) {
+TEST_F(QmnDecompile, UnreadableAndUnwritableFilesAreReported) {
   EXPECT_EQ(Qmn({"decompile", Name(u8"none.qmc")}).code, 3);
   const QmnRun run = Qmn({"decompile", "-", "-o", Name(u8"no/such.qmn")}, GoodBytes());
   EXPECT_EQ(run.code, 3);
@@ -131,7 +131,7 @@ TEST_F(QmnDecompile, QuotingIsToggledWhereACommandNeedsIt) {
   EXPECT_EQ(Command(L"\"x;\n"), "\"x;;");
 }
 
-TEST_F(QmnDecompile, CommandsThatNoLineMakesAreRefused) {
+TEST_F(QmnDecompile, CommandsThatNoLineCanExpressAreRejected) {
   const auto refused = [](const wchar_t* command) {
     return Refused([&](Model& m) { m.Line(1).m_strCommand = command; });
   };
@@ -171,7 +171,7 @@ TEST_F(QmnDecompile, ConditionsRoundTripAlsoWithAnEmptyFunction) {
             "block PLAIN, line 1: grey function: \"a b\"; a source gives \"a\"\n");
 }
 
-TEST_F(QmnDecompile, LabelsThatThePassesWouldChangeAreRefused) {
+TEST_F(QmnDecompile, LabelsThatThePassesWouldChangeAreRejected) {
   const auto refused = [](const wchar_t* label) {
     return Refused([&](Model& m) { m.Plain().m_strLabel = label; });
   };
@@ -191,7 +191,7 @@ TEST_F(QmnDecompile, SubMenusCloseSeveralLevelsInOneLine) {
   EXPECT_EQ(Qmn({"decompile", "-"}, Qmn({"compile", "-"}, source).out).out, source);
 }
 
-TEST_F(QmnDecompile, SubMenusThatNoArrowsMakeAreRefused) {
+TEST_F(QmnDecompile, SubMenusThatNoArrowsCanExpressAreRejected) {
   EXPECT_EQ(Refused([](Model& m) { m.Plain().m_pSubMenu = new TMenuBar; }),
             "block PLAIN, line 1: sub-menu: without lines; a source has no such\n");
   EXPECT_EQ(Refused([](Model& m) { m.Line(0).m_pSubMenu->m_strName = L"N"; }),
@@ -239,7 +239,7 @@ TEST_F(QmnDecompile, StringsAreRefusedForTheirLengthAndForTerminators) {
   EXPECT_EQ(Written(title(std::wstring(197, L'x')), "TITLE").size(), 212u);
 }
 
-TEST_F(QmnDecompile, MasksOfMoreThanTwoGroupsAndKindsWithoutValuesAreRefused) {
+TEST_F(QmnDecompile, MasksOfMoreThanTwoGroupsAndTypesWithoutValuesAreRejected) {
   EXPECT_EQ(Refused([](Model& m) { m.system.At(0)->m_objectMask.AppendShort(70, 1); }),
             "block WALL: mask: 3 groups; a source keeps no more than two\n");
   const auto mask = [](const std::function<void(TRBList&)>& add) {
@@ -260,7 +260,7 @@ TEST_F(QmnDecompile, MasksOfMoreThanTwoGroupsAndKindsWithoutValuesAreRefused) {
             "block WALL: mask: stands in a source only behind a kind\n");
 }
 
-TEST_F(QmnDecompile, NumbersAreTheShortestThatReadBack) {
+TEST_F(QmnDecompile, NumbersHaveTheShortestFormThatReadsBack) {
   const auto head = [](const std::function<void(TRBList&)>& add) {
     return Written(
         [=](Model& m) {
@@ -281,7 +281,7 @@ TEST_F(QmnDecompile, NumbersAreTheShortestThatReadBack) {
   EXPECT_EQ(head([](TRBList& l) { l.AppendShort(62, -1); }), "***WALL W = 62,65535");
 }
 
-TEST_F(QmnDecompile, EmptyListsAndNegativeStatesAreRefusedAllInOneRun) {
+TEST_F(QmnDecompile, EmptyListsAndNegativeStatesAreRejectedAllInOneRun) {
   EXPECT_EQ(Refused([](Model& m) {
               m.system.At(1)->Clear();
               m.State().m_nValue = -1;
@@ -297,7 +297,7 @@ TEST_F(QmnDecompile, EmptyListsAndNegativeStatesAreRefusedAllInOneRun) {
             "-: error: file: blocks: none; a source has at least one\n");
 }
 
-TEST_F(QmnDecompile, ThousandsOfRefusalsAreCounted) {
+TEST_F(QmnDecompile, ThousandsOfErrorsAreCounted) {
   const std::string said = Refused([](Model& m) {
     for (int i = 0; i < 2000; ++i) m.system.At(1)->Append(new TMenuItem(L"a]b", L""));
   });

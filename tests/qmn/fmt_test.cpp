@@ -27,7 +27,7 @@ std::string Block(const std::string& lines) {
   return "MENU_TITLE = \"T\"\n\n***B\n" + lines + "\n***SWITCH\n\n***RESOURCE\n";
 }
 
-TEST_F(QmnFmt, LaysOutEveryConstruct) {
+TEST_F(QmnFmt, FormatsEveryConstruct) {
   EXPECT_EQ(
       Formatted("\n\nMENU_TITLE\n=\n\"T\"***A K=0,\"X\"\n,\n62\t,  3 \n\n\nWALL[a]x;  \t\n"
                 "  [--]\n ICONS   [<-b]y\n***B X[c]\n"
@@ -56,7 +56,7 @@ TEST_F(QmnFmt, LaysOutEveryConstruct) {
       "LONGER = \"j\",\"\"\n");
 }
 
-TEST_F(QmnFmt, ALongNameDoesNotMoveTheOthers) {
+TEST_F(QmnFmt, ALongNameDoesNotChangeTheAlignmentOfOthers) {
   const std::string wide(25, 'W'), fits(24, 'F');
   EXPECT_EQ(Formatted(Block("A [a]\n" + wide + "[b]\n")), Block("A [a]\n" + wide + " [b]\n"));
   EXPECT_EQ(Formatted(Block("A [a]\n" + fits + "[b]\n")),
@@ -154,7 +154,7 @@ TEST_F(QmnFmt, ASourceWithErrorsIsNotChangedAndTheOthersAre) {
   EXPECT_EQ(Read(u8"d.qmn"), Block("[a]\n"));
 }
 
-TEST_F(QmnFmt, BytesThatTheLanguageSkipsAreNeverDropped) {
+TEST_F(QmnFmt, BytesThatTheLanguageSkipsAreKept) {
   const std::string zero("\0x", 2);
   for (const std::string& stray : {std::string("-"), std::string("\xEF\xBB\xBF"), std::string("\f"),
                                    std::string("*"), std::string("/ "), zero, std::string("\r ")}) {
@@ -169,7 +169,7 @@ TEST_F(QmnFmt, BytesThatTheLanguageSkipsAreNeverDropped) {
   }
 }
 
-TEST_F(QmnFmt, FilesThatCannotBeReadGiveThreeAndTheOthersAreDone) {
+TEST_F(QmnFmt, UnreadableFilesExitWithThreeAndTheOthersAreFormatted) {
   const std::string fine = Write(u8"d.qmn", "\n" + Block("[a]\n"));
   const QmnRun run = Qmn({"fmt", Name(u8"none.qmn"), fine});
   EXPECT_EQ(run.code, 3);

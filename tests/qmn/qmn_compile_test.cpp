@@ -94,7 +94,7 @@ TEST_F(QmnCompile, StandardInputGoesToStandardOutput) {
   EXPECT_EQ(run.err, "");
 }
 
-TEST_F(QmnCompile, AnErrorLeavesAnOldOutputAsItWas) {
+TEST_F(QmnCompile, AnErrorKeepsAnOldOutput) {
   Write(u8"a.qmc", "old");
   const QmnRun run = Qmn({"compile", Write(u8"a.qmn", "MENU_TITLE\n\"T\"\n")});
   EXPECT_EQ(run.code, 1);
@@ -102,7 +102,7 @@ TEST_F(QmnCompile, AnErrorLeavesAnOldOutputAsItWas) {
   EXPECT_EQ(Read(u8"a.qmc"), "old");
 }
 
-TEST_F(QmnCompile, NothingButTheOutputStaysInTheFolder) {
+TEST_F(QmnCompile, NoOtherFileIsLeftInTheFolder) {
   const std::string in = Write(u8"a.qmn", kGoodSource);
   EXPECT_EQ(Qmn({"compile", in}).code, 0);
   EXPECT_EQ(Qmn({"compile", in}).code, 0);
@@ -126,7 +126,7 @@ TEST_F(QmnCompile, AsHostReportsAFileItCannotOpenOrCreateInTheModulesWords) {
   EXPECT_EQ(run.err, "\n加载奇维菜单文件: -\n无法创建文件" + out + "\n");
 }
 
-TEST_F(QmnCompile, FilesThatCannotBeReadOrWrittenAreNamed) {
+TEST_F(QmnCompile, UnreadableAndUnwritableFilesAreReported) {
   QmnRun run = Qmn({"compile", Name(u8"none.qmn")});
   EXPECT_EQ(run.code, 3);
   EXPECT_EQ(run.err, Name(u8"none.qmn") + ": error: can't be read\n");
@@ -137,7 +137,7 @@ TEST_F(QmnCompile, FilesThatCannotBeReadOrWrittenAreNamed) {
   EXPECT_EQ(run.err, Utf8Name(m_folder) + ": error: can't be written\n");
 }
 
-TEST_F(QmnCompile, ACommentThatNeverEndsIsRefusedWithTheLineWhereItBegins) {
+TEST_F(QmnCompile, ACommentWithoutEndIsRejectedWithTheLineWhereItBegins) {
   const std::string source = std::string(kGoodSource) + "/* open\n\n";
   for (const bool asHost : {false, true}) {
     std::vector<std::string> args{"compile", Write(u8"a.qmn", source)};

@@ -56,7 +56,7 @@ class CountingBuffer : public std::streambuf {
   }
 };
 
-TEST_F(QmnDump, EachFormIsAsTheGoldenFileHasIt) {
+TEST_F(QmnDump, EachFormMatchesTheGoldenFile) {
   for (const char* form : {"json", "tree", "bytes"}) {
     const QmnRun run = Qmn({"dump", Utf8Name(Case("whole.qmn")), std::string("--") + form});
     EXPECT_EQ(run.code, 0) << run.err;
@@ -97,7 +97,7 @@ TEST_F(QmnDump, ARefusedSourceShowsTheEmptyModelAndReturnsOne) {
             "  \"resources\": [],\n  \"switches\": [],\n  \"bars\": []\n}\n");
 }
 
-TEST_F(QmnDump, ADamagedFileShowsTheFieldsUpToTheDamage) {
+TEST_F(QmnDump, ADamagedFileDumpsTheFieldsUpToTheDamage) {
   const std::string bytes = GoodBytes();
   const std::string whole = Qmn({"dump", "-", "--bytes"}, bytes).out;
   for (size_t size = 60; size < bytes.size(); size += 7) {
@@ -160,13 +160,13 @@ TEST_F(QmnDump, BytesAfterTheModelAreCounted) {
   EXPECT_TRUE(run.out.ends_with("  3 bytes behind the model\n")) << run.out;
 }
 
-TEST_F(QmnDump, AFileThatCannotBeReadGivesThree) {
+TEST_F(QmnDump, AnUnreadableFileExitsWithThree) {
   const QmnRun run = Qmn({"dump", Name(u8"none.qmn")});
   EXPECT_EQ(run.code, 3);
   EXPECT_EQ(run.out, "");
 }
 
-TEST(QmnJson, RealsAreTheShortestThatReadBack) {
+TEST(QmnJson, RealsHaveTheShortestFormThatReadsBack) {
   EXPECT_EQ(Real(0.1), "0.1");
   EXPECT_EQ(Real(3), "3");
   EXPECT_EQ(Real(-2.5), "-2.5");

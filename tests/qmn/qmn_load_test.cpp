@@ -20,7 +20,7 @@ TEST_F(QmnLoad, WithoutAnOutputItReadsAndWritesNothing) {
   EXPECT_EQ(FileCount(), 1);
 }
 
-TEST_F(QmnLoad, EveryPrefixIsRefusedAndNothingIsWritten) {
+TEST_F(QmnLoad, EveryPrefixIsRejectedAndNothingIsWritten) {
   const std::string bytes = GoodBytes();
   for (size_t size = 0; size < bytes.size(); ++size) {
     const QmnRun run = Qmn({"load", "-", "-o", Name(u8"out.qmc")}, bytes.substr(0, size));
@@ -49,7 +49,7 @@ TEST_F(QmnLoad, AsHostReportsAForeignFileAndAMissingOne) {
   EXPECT_EQ(run.err, "无法读取文件" + Name(u8"none.qmc") + "\n");
 }
 
-TEST_F(QmnLoad, FilesThatCannotBeReadOrWrittenGiveThree) {
+TEST_F(QmnLoad, UnreadableAndUnwritableFilesExitWithThree) {
   EXPECT_EQ(Qmn({"load", Name(u8"none.qmc")}).code, 3);
   const std::string out = Name(u8"no/such.qmc");
   QmnRun run = Qmn({"load", "-", "-o", out}, GoodBytes());

@@ -1,4 +1,4 @@
-// The command line itself: help, version, wrong usage, colour.
+// The command line itself: help, version, usage errors, colour.
 #include "tests/qmn/qmn_testing.h"
 
 namespace {

@@ -53,7 +53,7 @@ TEST_F(WhichTest, WithoutASettingTheDefaultWins) {
   EXPECT_EQ(run.out.substr(run.out.rfind("menu: ") + 6), file + "\n");
 }
 
-TEST_F(WhichTest, TheRememberedMenuOfTheProfileWinsOverTheDefault) {
+TEST_F(WhichTest, TheSavedMenuOfTheProfileWinsOverTheDefault) {
   Write(u8"qvx.qmn", "");
   const std::string own = Write(u8"own.qmn", "");
   Remember(L"test", L"Menu", L"own");
@@ -63,7 +63,7 @@ TEST_F(WhichTest, TheRememberedMenuOfTheProfileWinsOverTheDefault) {
   EXPECT_TRUE(Has(Which("other").out, "\\other: not set\n")) << "of this profile only";
 }
 
-TEST_F(WhichTest, AProfileWithoutANameAsksSettings) {
+TEST_F(WhichTest, AProfileWithoutANameUsesSettings) {
   Write(u8"own.qmn", "");
   Remember(L"Settings", L"Menu", L"own");
   EXPECT_TRUE(Has(Which("").out, "\\Settings: \"own\"\n"));
@@ -82,7 +82,7 @@ TEST_F(WhichTest, AMissingMenuFallsBackSourceBeforeCompiled) {
   EXPECT_TRUE(Has(run.out, "menu: " + file + "\n"));
 }
 
-TEST_F(WhichTest, ACompiledFileAloneGivesABaseAndNoMenuAtStart) {
+TEST_F(WhichTest, ACompiledFileAloneGivesABaseNameAndNoMenuAtStart) {
   Write(u8"qvx.qmc", "");
   const QmnRun run = Which();
   EXPECT_EQ(run.code, kFindings);
@@ -139,7 +139,7 @@ TEST_F(WhichTest, TheSettingsFileIsRead) {
 }
 #endif
 
-TEST_F(WhichTest, AMissingSettingsFileIsFileTrouble) {
+TEST_F(WhichTest, AMissingSettingsFileIsAFileError) {
   const QmnRun run = Qmn({"which", "--registry", Name(u8"none.txt")});
   EXPECT_EQ(run.code, kFileTrouble);
   EXPECT_TRUE(Has(run.err, "can't be read"));

@@ -18,7 +18,7 @@ class QmnWhy : public QmnTest {
   }
 };
 
-TEST_F(QmnWhy, NamesTheBlockAndTheReasonsOfThoseBefore) {
+TEST_F(QmnWhy, PrintsTheBlockAndTheReasonsAgainstThoseBefore) {
   const QmnRun run =
       Why({"--type", "QVX_WALL", "--layer", "墙线", "--layer-key", "WALL=墙*", "--count", "3"});
   EXPECT_EQ(run.code, 0) << run.err;
@@ -30,7 +30,7 @@ TEST_F(QmnWhy, NamesTheBlockAndTheReasonsOfThoseBefore) {
             "chosen: WALL, block 3 of 5\n");
 }
 
-TEST_F(QmnWhy, SaysWhichObjectAndWhichGroupDoNotFit) {
+TEST_F(QmnWhy, PrintsTheObjectAndTheGroupThatDoNotFit) {
   EXPECT_EQ(Why({"--type", "QVX_WALL", "--layer", "A"}).out,
             "selected: 1 x QVX_WALL on layer A\n"
             "COMMON: has no mask, so that no selection gets it\n"
@@ -45,7 +45,7 @@ TEST_F(QmnWhy, SaysWhichObjectAndWhichGroupDoNotFit) {
             std::string::npos);
 }
 
-TEST_F(QmnWhy, WithoutATypeNothingIsSelected) {
+TEST_F(QmnWhy, WithoutATypeTheSelectionIsEmpty) {
   EXPECT_EQ(Why({}).out,
             "nothing selected, in model space\nCOMMON: fits\nchosen: COMMON, block 1 of 5\n");
   EXPECT_EQ(Why({"--paper"}).out,
@@ -53,7 +53,7 @@ TEST_F(QmnWhy, WithoutATypeNothingIsSelected) {
             "space with nothing selected\nLAYOUT: fits\nchosen: LAYOUT, block 2 of 5\n");
 }
 
-TEST_F(QmnWhy, SeveralKindsOfObjectsAndFurtherGroupsCanBeGiven) {
+TEST_F(QmnWhy, SeveralTypesOfObjectsAndFurtherGroupsCanBeGiven) {
   const std::string mixed = Why({"--type", "LINE", "--type", "ARC", "--count", "2"}).out;
   EXPECT_NE(mixed.find("selected: 2 x LINE on layer 0\nselected: 2 x ARC on layer 0\n"),
             std::string::npos);
@@ -64,7 +64,7 @@ TEST_F(QmnWhy, SeveralKindsOfObjectsAndFurtherGroupsCanBeGiven) {
       std::string::npos);
 }
 
-TEST_F(QmnWhy, JsonHasTheSameAnswer) {
+TEST_F(QmnWhy, JsonHasTheSameResult) {
   EXPECT_EQ(
       Why({"--json", "--type", "LINE", "--group", "62=5"}).out,
       "{\n  \"selection\": [\n    {\n      \"type\": \"LINE\",\n      \"layer\": \"0\",\n"
@@ -84,7 +84,7 @@ TEST_F(QmnWhy, JsonHasTheSameAnswer) {
   EXPECT_TRUE(Why({"--json", "--type", "X"}).out.ends_with("  \"chosen\": null\n}\n"));
 }
 
-TEST_F(QmnWhy, SourceAndCompiledFileGiveTheSameAnswer) {
+TEST_F(QmnWhy, SourceAndCompiledFileGiveTheSameResult) {
   const std::string compiled = Qmn({"compile", "-"}, kMenu).out;
   EXPECT_EQ(Qmn({"why", "-", "--type", "LINE"}, compiled).out, Why({"--type", "LINE"}).out);
 }
@@ -99,7 +99,7 @@ TEST_F(QmnWhy, ContradictoryOptionsAreWrongUsage) {
   EXPECT_EQ(Why({"--type", "A", "--group", "62"}).code, 2);
 }
 
-TEST_F(QmnWhy, AMenuWithErrorsHasNoAnswer) {
+TEST_F(QmnWhy, AMenuWithErrorsHasNoResult) {
   EXPECT_EQ(Qmn({"why", Name(u8"none.qmn")}).code, 3);
   const QmnRun run = Qmn({"why", "-"}, "x");
   EXPECT_EQ(run.code, 1);
