@@ -40,7 +40,7 @@ void TipOfTheDay::LoadSettings() {
   key.GetValue(L"Indicator", m_nOffset);
 }
 
-// The position is valid only for the file it was saved for: after a change the tips begin anew.
+// The position is valid only for the file it was saved for: after a change the first tip is next.
 void TipOfTheDay::Restamp() {
   TRegProperty key = TipKey();
   const CString stamp = TipFileStamp(m_pTipFile.get());

@@ -4,7 +4,7 @@ namespace qvx {
 
 namespace {
 
-// Added to the family's first number: the step of the scale that the bitmap is drawn for.
+// Steps of the scale that a bitmap is drawn for, added to the first resource number.
 constexpr int kNormal = 0;
 constexpr int kFiveQuarters = 30100;
 constexpr int kThreeHalves = 30200;

@@ -7,7 +7,7 @@
 #include <new>
 
 // `delete` on a plain node pointer frees a node of every derived list, the larger ones of
-// TDualPtrList too: the owner of a detached node needs not know its list.
+// TDualPtrList too: the owner of a detached node does not depend on its list.
 template <class T>
 struct TListNode {
   T value{};  // first member: a node pointer is also a pointer to its value

@@ -115,7 +115,7 @@ BOOL AfxRegisterClass(WNDCLASS* lpWndClass);
 // Temporary objects are kept while the count is not 0.
 void AfxLockTempMaps();
 BOOL AfxUnlockTempMaps(BOOL bDeleteTemps = TRUE);
-// Sends the message to the window and, on the same thread, to nobody else if it was destroyed.
+// TRUE if hWndChild is hWndParent or has it among its parents and owners.
 BOOL AfxIsDescendant(HWND hWndParent, HWND hWndChild);
 
 // --- modules

@@ -88,7 +88,7 @@ class AcApStatusBar {
   virtual int GetIndex(AcPane* pane) const = 0;              // -1 when it is not on the bar
   virtual BOOL GetRect(AcPane* pane, RECT& rect) const = 0;  // client coordinates of the bar
   virtual HWND GetWindow() const = 0;
-  virtual void Update() = 0;  // measures all panes anew and repaints
+  virtual void Update() = 0;  // measures all panes and repaints
 };
 
 AcApStatusBar* acedGetApplicationStatusBar();  // null without a frame

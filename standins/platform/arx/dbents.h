@@ -220,7 +220,7 @@ class AcDbBlockReference : public AcDbEntity {
 };
 
 // All kinds of dimensions. Drawn by their block, which stays where it was created and is shifted
-// with the dimension. Turning or scaling fails, because blocks are not created anew.
+// with the dimension. Turning or scaling fails, because no new block is created.
 class AcDbDimension : public AcDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(AcDbDimension);

@@ -92,7 +92,7 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpcs) {
 
 void CFrameWnd::OnDestroy() {
   DestroyDockBars();
-  // Windows destroys only the menu that is shown; the default menu is destroyed here.
+  // Windows destroys the window's current menu only, so the default menu is set again.
   if (m_hMenuDefault && m_hMenuDefault != ::GetMenu(m_hWnd) && ::IsMenu(m_hMenuDefault))
     ::SetMenu(m_hWnd, m_hMenuDefault);
   CWinApp* app = AfxGetApp();
