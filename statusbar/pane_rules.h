@@ -33,7 +33,7 @@ struct BaseLineClick {
   bool iconOn;  // to show at once
   bool flips;
 };
-// Deliberate: the icon changes first, and only then is the click rejected if a command runs. The
+// Deliberate: the icon changes first, and only then is the click refused if a command runs. The
 // user then sees the icon of the other state until the next refresh.
 constexpr BaseLineClick OnBaseLineClick(bool isOn, int cmdActive) {
   return {!isOn, cmdActive == 0};

@@ -1,6 +1,5 @@
-// Compares the check with the engine over mutated menus and over garbage: an error for each source
-// that the engine refuses, none for one that it accepts, and termination in every case. The seed is
-// fixed.
+// Compares the check with the engine over mutated menus and random bytes: an error for each source
+// that the engine refuses, none for one that it accepts, and termination. The seed is fixed.
 #include <random>
 
 #include "menu/menu_model.h"

@@ -43,8 +43,8 @@ std::string Refused(const std::function<void(Model&)>& change) {
   return run.err.starts_with("-: error: ") ? run.err.substr(10) : run.err;
 }
 
-// The first line that contains `mark` in the source of a model; checks that it compiles to the same
-// bytes.
+// The first line that contains `mark` in the source of a model; checks that the source compiles to
+// the same bytes.
 std::string Written(const std::function<void(Model&)>& change, const std::string& mark) {
   Model model;
   change(model);
@@ -131,7 +131,7 @@ TEST_F(QmnDecompile, QuotingIsToggledWhereACommandNeedsIt) {
   EXPECT_EQ(Command(L"\"x;\n"), "\"x;;");
 }
 
-TEST_F(QmnDecompile, CommandsThatNoLineCanExpressAreRejected) {
+TEST_F(QmnDecompile, CommandsThatNoLineCanExpressAreRefused) {
   const auto refused = [](const wchar_t* command) {
     return Refused([&](Model& m) { m.Line(1).m_strCommand = command; });
   };
@@ -171,7 +171,7 @@ TEST_F(QmnDecompile, ConditionsRoundTripAlsoWithAnEmptyFunction) {
             "block PLAIN, line 1: grey function: \"a b\"; a source gives \"a\"\n");
 }
 
-TEST_F(QmnDecompile, LabelsThatThePassesWouldChangeAreRejected) {
+TEST_F(QmnDecompile, LabelsThatThePassesWouldChangeAreRefused) {
   const auto refused = [](const wchar_t* label) {
     return Refused([&](Model& m) { m.Plain().m_strLabel = label; });
   };
@@ -191,7 +191,7 @@ TEST_F(QmnDecompile, SubMenusCloseSeveralLevelsInOneLine) {
   EXPECT_EQ(Qmn({"decompile", "-"}, Qmn({"compile", "-"}, source).out).out, source);
 }
 
-TEST_F(QmnDecompile, SubMenusThatNoArrowsCanExpressAreRejected) {
+TEST_F(QmnDecompile, SubMenusThatNoArrowsCanExpressAreRefused) {
   EXPECT_EQ(Refused([](Model& m) { m.Plain().m_pSubMenu = new TMenuBar; }),
             "block PLAIN, line 1: sub-menu: without lines; a source has no such\n");
   EXPECT_EQ(Refused([](Model& m) { m.Line(0).m_pSubMenu->m_strName = L"N"; }),
@@ -239,7 +239,7 @@ TEST_F(QmnDecompile, StringsAreRefusedForTheirLengthAndForTerminators) {
   EXPECT_EQ(Written(title(std::wstring(197, L'x')), "TITLE").size(), 212u);
 }
 
-TEST_F(QmnDecompile, MasksOfMoreThanTwoGroupsAndTypesWithoutValuesAreRejected) {
+TEST_F(QmnDecompile, MasksOfMoreThanTwoGroupsAndTypesWithoutValuesAreRefused) {
   EXPECT_EQ(Refused([](Model& m) { m.system.At(0)->m_objectMask.AppendShort(70, 1); }),
             "block WALL: mask: 3 groups; a source keeps no more than two\n");
   const auto mask = [](const std::function<void(TRBList&)>& add) {
@@ -281,7 +281,7 @@ TEST_F(QmnDecompile, NumbersHaveTheShortestFormThatReadsBack) {
   EXPECT_EQ(head([](TRBList& l) { l.AppendShort(62, -1); }), "***WALL W = 62,65535");
 }
 
-TEST_F(QmnDecompile, EmptyListsAndNegativeStatesAreRejectedAllInOneRun) {
+TEST_F(QmnDecompile, EmptyListsAndNegativeStatesAreRefusedAllInOneRun) {
   EXPECT_EQ(Refused([](Model& m) {
               m.system.At(1)->Clear();
               m.State().m_nValue = -1;

@@ -137,7 +137,7 @@ TEST_F(QmnCompile, UnreadableAndUnwritableFilesAreReported) {
   EXPECT_EQ(run.err, Utf8Name(m_folder) + ": error: can't be written\n");
 }
 
-TEST_F(QmnCompile, ACommentWithoutEndIsRejectedWithTheLineWhereItBegins) {
+TEST_F(QmnCompile, ACommentWithoutEndIsRefusedWithTheLineWhereItBegins) {
   const std::string source = std::string(kGoodSource) + "/* open\n\n";
   for (const bool asHost : {false, true}) {
     std::vector<std::string> args{"compile", Write(u8"a.qmn", source)};

@@ -20,7 +20,7 @@ TEST_F(QmnLoad, WithoutAnOutputItReadsAndWritesNothing) {
   EXPECT_EQ(FileCount(), 1);
 }
 
-TEST_F(QmnLoad, EveryPrefixIsRejectedAndNothingIsWritten) {
+TEST_F(QmnLoad, EveryPrefixIsRefusedAndNothingIsWritten) {
   const std::string bytes = GoodBytes();
   for (size_t size = 0; size < bytes.size(); ++size) {
     const QmnRun run = Qmn({"load", "-", "-o", Name(u8"out.qmc")}, bytes.substr(0, size));

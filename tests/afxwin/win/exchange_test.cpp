@@ -80,7 +80,7 @@ TEST_F(Exchange, NoRadioButtonChosenReadsMinusOne) {
   EXPECT_EQ(-1, d.radio);
 }
 
-TEST_F(Exchange, RejectsTextThatIsNotAnInteger) {
+TEST_F(Exchange, RefusesTextThatIsNotAnInteger) {
   for (LPCTSTR wrong : {L"", L"12a", L"1.5", L"2147483648"}) {
     App().boxes.clear();
     d.number = 3;
@@ -91,7 +91,7 @@ TEST_F(Exchange, RejectsTextThatIsNotAnInteger) {
   }
 }
 
-TEST_F(Exchange, RejectsANumberOutOfRangeWithAMessageOfBothLimits) {
+TEST_F(Exchange, RefusesANumberOutOfRangeWithAMessageOfBothLimits) {
   d.range = true;
   d.SetDlgItemText(1001, L"11");
   EXPECT_FALSE(d.UpdateData(TRUE));
