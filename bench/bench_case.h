@@ -20,8 +20,8 @@ struct BenchCase {
 
 // Ends the program with a message when engine and peer differ, or when a source does not compile.
 const BenchCase& CaseOf(int lines);
-// Checks generator and peer on small inputs, including the given source files (the product's
-// menus).
+// Checks generator and peer on small inputs, including the given source
+// files (the product's menus).
 void CheckPeer(const std::string& folder);
 
 // Ends the program on any message: a benchmark of a failing compilation is meaningless.

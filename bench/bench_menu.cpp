@@ -62,8 +62,8 @@ const BenchCase& Input(const benchmark::State& state) {
 
 void EngineCompile(benchmark::State& state) {
   const BenchCase& in = Input(state);
-  // The engine takes ownership of the source text, so each round gets a copy, made outside the
-  // measurement.
+  // The engine takes ownership of the source text, so each round gets a copy,
+  // made outside the measurement.
   std::string source;
   Measure(
       state, in, in.source.size(), [&] { return CompileWithEngine(std::move(source)); },

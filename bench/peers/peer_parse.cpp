@@ -1,5 +1,5 @@
-// Runs flex and bison over a source in memory, and implements the functions of the grammar's
-// actions.
+// Runs flex and bison over a source in memory, and implements the functions
+// of the grammar's actions.
 #include <algorithm>
 #include <string>
 

@@ -1,6 +1,6 @@
-// qmn check: every problem of menu sources, including those that the engine ignores without a
-// message. Findings are data and go to standard output; errors of the tool itself go to standard
-// error.
+// qmn check: every problem of menu sources, including those that the engine ignores
+// without a message. Findings are data and go to standard output; errors of the tool
+// itself go to standard error.
 #include <ostream>
 #include <utility>
 

@@ -1,6 +1,6 @@
-// qmn compile: source to compiled file. By default nothing is written after an error; with
-// --as-host the tool prints and writes what the module would, including the empty model after an
-// error.
+// qmn compile: source to compiled file. By default nothing is written after an error;
+// with --as-host the tool prints and writes what the module would, including the empty
+// model after an error.
 #include <ostream>
 
 #include "tools/qmn/commands.h"

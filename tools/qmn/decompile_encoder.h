@@ -1,6 +1,6 @@
-// Encodes wide text as the narrow text that decodes to it. A character that the code page lacks is
-// reported, never replaced. U+FFFD is written as a byte that is no character, where the page has
-// one.
+// Encodes wide text as the narrow text that decodes to it. A character that the code page
+// lacks is reported, never replaced. U+FFFD is written as a byte that is no character, where
+// the page has one.
 #pragma once
 
 #include <string>

@@ -40,8 +40,8 @@ std::wstring WrittenCommand(std::wstring_view command, LineForm form) {
   return text;
 }
 
-// The engine removes one ';' at the end, trailing blanks and tabs, and treats an empty text as no
-// command.
+// The engine removes one ';' at the end, trailing blanks and tabs, and treats an empty
+// text as no command.
 bool IsEndNeeded(std::wstring_view written) {
   return written.empty() || written.back() == L';' || written.back() == L' ' ||
          written.back() == L'\t';

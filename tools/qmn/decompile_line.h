@@ -1,6 +1,6 @@
-// Writes one line of a menu as the text after its '[': the reverse of the line parser and of the
-// passes. Does not detect what no source line can express; the caller compiles the result and
-// compares.
+// Writes one line of a menu as the text after its '[': the reverse of the line parser
+// and of the passes. Does not detect what no source line can express; the caller
+// compiles the result and compares.
 #pragma once
 
 #include <string>

@@ -149,8 +149,8 @@ class SourceWriter {
     const std::string field = "mask group " + std::to_string(CodeOf(group));
     switch (KindOf(group)) {
       case RTSHORT:
-        // The engine truncates numbers to 16 bits, so a negative one is written as its unsigned
-        // value.
+        // The engine truncates numbers to 16 bits, so a negative one is written
+        // as its unsigned value.
         m_out += std::to_string(static_cast<unsigned short>(group.resval.rint));
         return;
       case RTREAL:

@@ -11,9 +11,9 @@ struct TGroups;
 void DumpJson(TMenuSystem& system, std::ostream& out);
 // An outline for reading; its layout may change.
 void DumpOutline(TMenuSystem& system, std::ostream& out);
-// Every field of a compiled file with its offset; `page` is the code page of texts without marker.
-// Returns false when the file is truncated or not a menu file; the fields read until then are
-// written.
+// Every field of a compiled file with its offset; `page` is the code page of texts without
+// marker. Returns false when the file is truncated or not a menu file; the fields read
+// until then are written.
 bool DumpFields(const std::string& bytes, unsigned page, std::ostream& out);
 
 // The value of a mask group: its code as in the file, and the value type of that code: RTSHORT,

@@ -227,9 +227,9 @@ class Layout {
 
   // --- Between rows
 
-  // Comments after the previous row on its line stay there, all others get lines of their own.
-  // Several empty lines become one; a section is preceded by one, placed before the section's
-  // comments.
+  // Comments after the previous row on its line stay there, all others get lines of
+  // their own. Several empty lines become one; a section is preceded by one, placed
+  // before the section's comments.
   void PutGap(size_t token, bool hasRowBefore, bool section) {
     size_t i = m_source.tokens[token].firstComment;
     const size_t end = CommentsEnd(token);

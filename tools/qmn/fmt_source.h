@@ -16,6 +16,6 @@ FormattedSource FormatSource(const std::string& source, unsigned page);
 
 // The line end style of the first line.
 LineEnds LineEndsOf(const std::string& source);
-// Restores line ends in folded text. A CR before a line end is doubled, so that folding restores
-// it.
+// Restores line ends in folded text. A CR before a line end is doubled, so
+// that folding restores it.
 std::string Unfolded(const std::string& folded, LineEnds ends);

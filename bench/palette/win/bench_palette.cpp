@@ -163,8 +163,8 @@ void MeasureFolding() {
   TakeDown("folding_down");
 }
 
-// From the old palette with 600 rows to the last paint of the new one; reading the menu is
-// excluded.
+// From the old palette with 600 rows to the last paint of the new one; reading
+// the menu is excluded.
 void MeasureReload(const char* part, int openIndex) {
   const auto attach = [] {
     InitScreenMenu(true, true);

@@ -1,6 +1,6 @@
-// Unmatched "->" and "<-". The engine nests a range only where the depth returns to exactly zero,
-// so one wrong arrow also keeps the lines around it from nesting; only the wrong arrows are
-// reported.
+// Unmatched "->" and "<-". The engine nests a range only where the depth returns to
+// exactly zero, so one wrong arrow also keeps the lines around it from nesting; only the
+// wrong arrows are reported.
 #include "tools/qmn/check/line_rules.h"
 
 namespace {

@@ -70,8 +70,8 @@ class TokenReader {
     return std::min(at, to);
   }
 
-  // The scanner's only state is its position, so blanking the skipped bytes is equivalent to a
-  // jump.
+  // The scanner's only state is its position, so blanking the skipped bytes is
+  // equivalent to a jump.
   void SkipTo(size_t to) {
     const size_t from = Offset(m_scanner.Position());
     for (size_t i = from; i < to; ++i) m_bytes[i] = ' ';

@@ -34,8 +34,8 @@ class MaskCover {
 
   std::unordered_map<std::string, const LintBlock*> m_masks;
   std::vector<Pattern> m_patterns;  // patterns with wild cards, which the key lookup can't find
-  // Pattern comparisons left before the search gives up. Bounds the time for files with very many
-  // blocks.
+  // Pattern comparisons left before the search gives up. Bounds the time for files
+  // with very many blocks.
   int m_budget = 4'000'000;
 };
 

@@ -1,5 +1,5 @@
-// The entry point on Windows: UTF-16 arguments, binary standard streams, a console that shows
-// UTF-8.
+// The entry point on Windows: UTF-16 arguments, binary standard streams, a
+// console that shows UTF-8.
 #include <fcntl.h>
 #include <io.h>
 #include "afx.h"
