@@ -5,7 +5,7 @@
 #pragma once
 
 #include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "ground/lisp_caller.h"
 
 class MenuLineHost {
  public:

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "ground/lisp_caller.h"
 
 // The window system's own bits for a row.
 enum PopupRowFlags : unsigned {

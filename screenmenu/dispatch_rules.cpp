@@ -11,8 +11,6 @@ ClickKind DecideClick(const TMenuItem& line) {
   return line.IsSeparator() ? ClickKind::kNothing : ClickKind::kCommand;
 }
 
-bool IsBusy(const HostActivity& host) { return host.active != 0 || !host.names.IsEmpty(); }
-
 // The name is copied: what the function does to the line is not known.
 SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch) {
   const TWCString set(line.m_pSwitch->m_strSetFn);

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "ground/lisp_caller.h"
 #include "screenmenu/menu_watch.h"
 
 namespace qvx {
@@ -20,14 +20,6 @@ enum class ClickKind {
   kCommand,
 };
 ClickKind DecideClick(const TMenuItem& line);
-
-// What the host says of running commands. A value that can't be read counts as 0 or as empty text.
-struct HostActivity {
-  int active = 0;   // CMDACTIVE
-  TWCString names;  // CMDNAMES
-};
-// Names alone make the host busy too: some commands are named while CMDACTIVE is still 0.
-bool IsBusy(const HostActivity& host);
 
 enum class SwitchResult {
   kRefused,  // the set function failed: nothing else happens

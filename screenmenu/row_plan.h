@@ -4,7 +4,7 @@
 #pragma once
 
 #include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "ground/lisp_caller.h"
 #include "screenmenu/menu_watch.h"
 
 namespace qvx {

@@ -123,11 +123,6 @@ TWCString CurrentScaleText() {
   return ScalePaneText(DocGetPScale(), walk);
 }
 
-void WriteHatchScale() {
-  resbuf value{};
-  value.restype = RTREAL;
-  value.resval.rreal = DocGetPScale();
-  acedSetVar(L"HPSCALE", &value);
-}
+void WriteHatchScale() { SetRealVariable(L"HPSCALE", DocGetPScale()); }
 
 }  // namespace qvx

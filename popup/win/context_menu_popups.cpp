@@ -2,6 +2,7 @@
 // thread, so all of it arrives while TrackPopupMenu has not returned.
 #include "acdocman.h"
 #include "afxext.h"
+#include "ground/command_line.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
 #include "popup/win/context_menu_wnd.h"

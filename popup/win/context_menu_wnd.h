@@ -9,7 +9,7 @@
 #include "menu/menu_system.h"
 #include "popup/open_timers.h"
 #include "popup/win/popup_build.h"
-#include "screenmenu/win/host_lisp.h"
+#include "ground/host_lisp.h"
 
 // What the window's readiness timer asks of the module. The frame implements it.
 class StartupSteps {

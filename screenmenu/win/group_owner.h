@@ -5,7 +5,7 @@
 
 #include "afxwin.h"
 #include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "ground/lisp_caller.h"
 #include "screenmenu/menu_watch.h"
 
 class CMenuGroup;

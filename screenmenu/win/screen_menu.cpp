@@ -3,6 +3,7 @@
 #include "screenmenu/win/screen_menu.h"
 
 #include "adslib.h"
+#include "ground/command_line.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
 #include "ground/win/module_handle.h"
@@ -162,7 +163,7 @@ void CScreenMenu::CloseSilently() {
 bool CScreenMenu::OnClosing() {
   if (m_bCloseHint) {
     acutPrintf(L"热键<Ctrl +>显示屏幕菜单\n");
-    acedPostCommandPrompt();
+    qvx::PostPrompt();
   }
   m_bCloseHint = 1;
   return CAdUiPaletteSet::OnClosing();

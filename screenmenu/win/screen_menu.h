@@ -14,7 +14,7 @@
 #include "ground/win/owned_handle.h"
 #include "screenmenu/dispatch_rules.h"
 #include "screenmenu/edge_drag.h"
-#include "screenmenu/win/host_lisp.h"
+#include "ground/host_lisp.h"
 #include "screenmenu/menu_colors.h"
 #include "screenmenu/win/menu_group.h"
 #include "screenmenu/screen_menu_bar.h"

@@ -1,5 +1,6 @@
 // CScreenMenu: how a chosen command gets to the host. It does not start from inside the button's
 // click: it waits, cancels what runs, and hands the keyboard back to the drawing.
+#include "ground/command_line.h"
 #include "rxmfcapi.h"
 #include "screenmenu/row_plan.h"
 #include "screenmenu/win/screen_menu.h"

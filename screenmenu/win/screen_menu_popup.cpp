@@ -1,5 +1,6 @@
 // CScreenMenu: right clicks on rows and on the palette, what a line chosen there does, help for a
 // line. The pop-ups themselves are shown by the room that owns them.
+#include "ground/support_files.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "rxmfcapi.h"
@@ -52,8 +53,8 @@ void CScreenMenu::TailCommand(const wchar_t* text) {
 // The help file opens, looks the label up as a keyword, and falls back to its index.
 void CScreenMenu::ShowHelpFor(const TMenuItem& line) {
   qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  wchar_t path[QvxExport::kPathUnits];
-  if (!host || !QvxExport::FindFile(host->HelpFile(), path)) return;
+  TWCString path;
+  if (!host || !qvx::FindFile(host->HelpFile(), path)) return;
   const TWCString label(line.m_strLabel);
   ::HtmlHelpW(nullptr, path, HH_DISPLAY_TOPIC, 0);
   HH_AKLINK link{};

@@ -1,9 +1,10 @@
 // The palette comes up and goes down: creation, docking, title and icon from the product file, and
 // the functions that sibling modules call.
 #include "adscodes.h"
+#include "ground/command_line.h"
 #include "ground/product_section.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "rxmfcapi.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/win/screen_menu.h"
@@ -27,8 +28,8 @@ PaletteFace ReadPaletteFace() {
 // the host may still draw them while the palette goes down.
 void GiveIcons(CWnd& window, const wchar_t* iconFile) {
   static qvx::OwnedIcon s_large, s_small;
-  wchar_t path[QvxExport::kPathUnits];
-  if (!*iconFile || !QvxExport::FindFile(iconFile, path)) return;
+  TWCString path;
+  if (!*iconFile || !qvx::FindFile(iconFile, path)) return;
   HICON large = nullptr, small = nullptr;
   ::ExtractIconExW(path, 0, &large, &small, 1);
   window.SendMessage(WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large));

@@ -28,12 +28,6 @@ TEST(ClickRules, ASeparatorSendsNothingWhateverCommandItsLineHas) {
   EXPECT_EQ(qvx::DecideClick(*AddLine(bar, L"--", L"TWall\n")), ClickKind::kNothing);
 }
 
-TEST(BusyCheck, AnActiveCommandOrANamedOneIsBusy) {
-  EXPECT_FALSE(qvx::IsBusy({0, TWCString(L"")}));
-  EXPECT_TRUE(qvx::IsBusy({1, TWCString(L"")}));
-  EXPECT_TRUE(qvx::IsBusy({0, TWCString(L"LINE")}));
-}
-
 TEST(PendingCommands, TheSecondOfTwoQuickClicksReplacesTheFirst) {
   qvx::PendingCommand pending;
   pending.Arm(TWCString(L"TWall\n"));

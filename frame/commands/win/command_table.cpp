@@ -6,7 +6,7 @@
 #include "frame/commands/win/live_menu_commands.h"
 #include "frame/start/win/shell.h"
 #include "frame/commands/win/show_bar.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/unbuilt_rooms.h"
 #include "screenmenu/win/screen_menu.h"
 
 namespace {

@@ -6,8 +6,8 @@
 #include "frame/commands/lisp_path.h"
 #include "frame/settings/menu_setting.h"
 #include "frame/start/win/shell.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "screenmenu/win/screen_menu.h"
 
 namespace {
@@ -24,17 +24,9 @@ class LiveMenuSteps : public MenuSteps {
     base = path;
     return true;
   }
-  bool FindFile(const wchar_t* name, TWCString& path) override {
-    wchar_t found[QvxExport::kPathUnits];
-    if (!QvxExport::FindFile(name, found)) return false;
-    path = found;
-    return true;
-  }
+  bool FindFile(const wchar_t* name, TWCString& path) override { return qvx::FindFile(name, path); }
   bool FindHostFile(const wchar_t* name, TWCString& path) override {
-    wchar_t found[512];
-    if (acedFindFile(name, found) != RTNORM) return false;
-    path = found;
-    return true;
+    return qvx::FindHostFile(name, path);
   }
   void ReplaceIconLibrary(const wchar_t* name) override { ::ReplaceIconLibrary(name); }
   void RecreateScreenMenu() override {

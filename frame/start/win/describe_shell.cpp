@@ -4,13 +4,13 @@
 // no dialog up it is what was left behind.
 #include <string>
 
-#include "ground/win/owned_handle.h"
 #include "frame/settings/settings_report.h"
 #include "frame/start/win/shell.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/json_text.h"
+#include "ground/unbuilt_rooms.h"
+#include "ground/win/owned_handle.h"
 #include "popup/win/describe_popup.h"
 #include "screenmenu/win/describe_screen_menu.h"
-#include "screenmenu/shell_json.h"
 #include "statusbar/win/status_panes.h"
 
 namespace {

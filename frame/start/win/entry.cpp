@@ -6,7 +6,7 @@
 #include "frame/commands/win/lisp_functions.h"
 #include "frame/commands/win/live_menu_commands.h"
 #include "frame/start/win/shell.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "rxdlinkr.h"
 #include "rxregsvc.h"

@@ -3,12 +3,11 @@
 #include "frame/commands/lisp_path.h"
 #include "frame/settings/recent_commands.h"
 #include "frame/start/win/shell.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/unbuilt_rooms.h"
+#include "ground/product_registry.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
-#include "kernel/tadsprintf.h"
-#include "kernel/tregproperty.h"
-#include "screenmenu/win/host_lisp.h"
+#include "ground/command_line.h"
 #include "screenmenu/win/screen_menu.h"
 #include "statusbar/drawing_scale_change.h"
 #include "statusbar/win/status_panes.h"
@@ -25,18 +24,9 @@ class LiveBringUp : public BringUpSteps {
     base = path;
     return true;
   }
-  bool FindFile(const wchar_t* name, TWCString& path) override {
-    wchar_t found[QvxExport::kPathUnits];
-    if (!QvxExport::FindFile(name, found)) return false;
-    path = found;
-    return true;
-  }
+  bool FindFile(const wchar_t* name, TWCString& path) override { return qvx::FindFile(name, path); }
   int ScreenMenuSetting(const wchar_t* name, int value) override {
-    TWCString path(GetRegLocation());
-    path += L"\\Settings";
-    TRegProperty key(path, L"ScreenMenu");
-    key.SetTopRootKey(HKEY_CURRENT_USER);
-    key.GetValue(name, value);
+    qvx::ScreenMenuKey().GetValue(name, value);
     return value;
   }
   void CreateScreenMenu(bool show) override { InitScreenMenu(true, show); }
@@ -48,10 +38,7 @@ class LiveBringUp : public BringUpSteps {
   }
   bool ScreenMenuHasWindow() override { return g_pScreenMenu && ::IsWindow(g_pScreenMenu->m_hWnd); }
   bool IsLimitedProduct() override { return g_nProductId == 17 && g_nVersion > 6.9; }
-  void Print(const wchar_t* text) override {
-    adsout << text;
-    acedPostCommandPrompt();
-  }
+  void Print(const wchar_t* text) override { qvx::PrintOutsideCommand(text); }
   void StopReadinessTimer() override {
     if (CContextMenuWnd* window = TheContextWindow()) window->StopReadinessTimer();
   }

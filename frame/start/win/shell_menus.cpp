@@ -3,8 +3,8 @@
 #include "afxwin.h"
 #include "frame/settings/menu_setting.h"
 #include "frame/start/win/shell.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "kernel/tadsprintf.h"
 #include "screenmenu/win/screen_menu.h"
 
@@ -23,7 +23,10 @@ void ShellMenus::AttachToolBar(TMenuSystem& system) {
 }
 
 bool ShellMenus::FindFile(const wchar_t* name, wchar_t* out) {
-  return QvxExport::FindFile(name, out) != 0;
+  TWCString path;
+  if (!qvx::FindFile(name, path)) return false;
+  std::wcscpy(out, path);
+  return true;
 }
 
 bool ShellMenus::ReadMenuSetting(wchar_t* out) {

@@ -10,11 +10,12 @@
 #include "frame/commands/win/command_table.h"
 #include "frame/start/first_start.h"
 #include "ground/host_registry.h"
+#include "ground/support_files.h"
 #include "frame/start/win/host_window.h"
 #include "frame/start/win/icon_library.h"
 #include "frame/settings/recent_commands.h"
 #include "frame/start/win/shell.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "kernel/tsplitpath.h"
@@ -106,8 +107,7 @@ void Shell::QueueRecentFiles() {
     TWCStringList files;
     SplitCommaList(g_sRecentFiles, files);
     for (int i = 0; i < files.Length(); ++i)
-      if (QvxExport::FindFile(files[i], nullptr))
-        window->m_openQueue.Append(new CString(files[i].c_str()));
+      if (qvx::FindFile(files[i])) window->m_openQueue.Append(new CString(files[i].c_str()));
   }
   g_sRecentFiles.Empty();
   if (window) window->StartOpening();
