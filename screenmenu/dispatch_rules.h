@@ -3,9 +3,7 @@
 // while a switch gives way to it. No window and no host: both are asked through what is passed in.
 #pragma once
 
-#include "menu/menu_model.h"
-#include "ground/lisp_caller.h"
-#include "screenmenu/menu_watch.h"
+#include "menu/line_state.h"
 
 namespace qvx {
 
@@ -28,7 +26,7 @@ enum class SwitchResult {
   kGone,     // a function replaced the menu: the line is no more, nor is the row that was clicked
 };
 // Runs the set function, then reads the state into the line. Busy hosts are the caller's to refuse.
-SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch = {});
+SwitchResult FlipSwitch(TMenuItem& line, const LineSources& sources);
 
 // One command text or none. A click overwrites what waits, so there is never more than one.
 class PendingCommand {

@@ -15,6 +15,7 @@
 #include "kernel/tpickentset.h"
 #include "kernel/trblist.h"
 #include "statusbar/scale_rules.h"
+#include "statusbar/status_bar_door.h"
 
 namespace qvx {
 namespace {

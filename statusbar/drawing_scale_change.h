@@ -17,7 +17,4 @@ void SetDrawingScale(double scale);
 bool HasFamilySelection();
 TWCString CurrentScaleText();
 
-// The scale in force to HPSCALE: hatches follow the drawing scale.
-void WriteHatchScale();
-
 }  // namespace qvx

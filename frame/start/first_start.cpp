@@ -3,8 +3,11 @@
 #include "frame/start/host_release.h"
 #include "ground/product_registry.h"
 #include "ground/support_files.h"
+#include "kernel/globals.h"
 #include "kernel/native_file.h"
 #include "kernel/qvxexport.h"
+#include "kernel/tsplitpath.h"
+#include "rxregsvc.h"
 
 namespace {
 
@@ -47,4 +50,13 @@ void ReadFirstStartModules(const wchar_t* listPath, TWCStringList& names) {
 void FindFirstStartModules(TWCStringList& names) {
   TWCString path;
   if (qvx::FindFile(L"dmload.rx", path)) ReadFirstStartModules(path, names);
+}
+
+void RunFirstStartModules() {
+  if (HasStartedBefore(g_dHostVersion)) return;
+  TWCStringList names;
+  FindFirstStartModules(names);
+  for (int i = 0; i < names.Length(); ++i)
+    if (!QvxExport::IsArxAppLoaded(TSplitpathOperator(names[i]).FileName()))
+      acrxLoadModule(names[i], true, true);
 }

@@ -79,8 +79,8 @@ class CMenuGroup : public CWnd {
   void ShowOpenChild(bool show);
   int FindRow(UINT ctrlId) const;  // -1 when no button of this group has it
   void ClickSwitch(CSMenuItem& row);
-  void RefreshWatched(const qvx::MenuWatch& watch);
-  void RefreshSwitch(CSMenuItem& row, const qvx::MenuWatch& watch);
+  void RefreshWatched(const qvx::LineSources& lines);
+  void RefreshSwitch(CSMenuItem& row, const qvx::LineSources& lines);
 
   TMenuBar* m_pBar;                // not owned
   TDPtrList<CSMenuItem> m_items;   // one for each line, in line order

@@ -79,8 +79,7 @@ void CSMenuItem::ShowIcon(const wchar_t* bitmap) {
 
 void CSMenuItem::ShowState() {
   SetWindowTextW(m_pMenuItem->m_strLabel);
-  const qvx::RowSources sources{nullptr, m_pOwner->MenuSystem(), g_hQvxDll != nullptr, 0};
-  const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, sources);
+  const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, m_pOwner->Lines());
   if (bitmap) ShowIcon(bitmap);
 }
 
@@ -91,9 +90,7 @@ void CSMenuItem::ReleaseMouse() {
 // The tip's text is set at the first time the pointer comes and never changes again, also on a
 // switch line that shows another state since.
 void CSMenuItem::OnMouseEnter() {
-  const wchar_t* help =
-      m_pMenuItem ? qvx::HelpOfLine(*m_pMenuItem, m_pOwner->MenuSystem(), g_hQvxDll != nullptr)
-                  : nullptr;
+  const wchar_t* help = m_pMenuItem ? qvx::HelpOfLine(*m_pMenuItem, m_pOwner->Lines()) : nullptr;
   if (help && g_bShowMenuTip) {
     SetTooltipText(help);
     ActivateTooltip(TRUE);
@@ -105,7 +102,7 @@ void CSMenuItem::OnMouseEnter() {
 
 // The keyboard gives no place: the pop-up then hangs below the row.
 void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
-  if (!m_pOwner->MenuSystem() || !m_pMenuItem) return;
+  if (!m_pOwner->Lines().system || !m_pMenuItem) return;
   ReleaseMouse();
   m_pOwner->RestoreStatusBar();
   ClearHover();
@@ -143,7 +140,7 @@ qvx::RowFacts CSMenuItem::Facts() const {
 }
 
 std::wstring CSMenuItem::Help() const {
-  const wchar_t* help = qvx::HelpOfLine(*m_pMenuItem, m_pOwner->MenuSystem(), g_hQvxDll != nullptr);
+  const wchar_t* help = qvx::HelpOfLine(*m_pMenuItem, m_pOwner->Lines());
   return help ? help : L"";
 }
 

@@ -114,12 +114,13 @@ void InitScreenMenu(bool create, bool show) {
     TakeDown();
 }
 
+bool ScreenMenuHasWindow() { return g_pScreenMenu && ::IsWindow(g_pScreenMenu->m_hWnd); }
+
 void RefreshScreenMenu() {
   CMenuGroup* root = g_pScreenMenu ? g_pScreenMenu->RootGroup() : nullptr;
   if (root) root->RefreshSwitches();
 }
 
-// In spite of its command's name, TFloatMenuBar, this docks.
 void DockFloatingScreenMenu() {
   if (!qvx::HasWorkingDatabase() || !g_pScreenMenu || !g_pScreenMenu->IsFloating()) return;
   acedGetAcadFrame()->DockControlBar(g_pScreenMenu, AFX_IDW_DOCKBAR_LEFT, nullptr);

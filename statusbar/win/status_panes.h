@@ -16,10 +16,6 @@ class TPScalePane;
 void InitStatusPane(qvx::SwitchPane pane, bool add);
 void InitScalePane(bool add);
 
-void UpdateStatusPanes();    // all switches: style and icon, then the bar
-void RefreshDrawingPanes();  // those of the drawing; the bar is the caller's
-void RefreshScaleText();
-
 CADStatusPane& StatusPaneOf(qvx::SwitchPane pane);
 TDynPane& TheDynInputPane();  // stays off the bar until somebody calls its Init
 TPScalePane& TheScalePane();

@@ -13,7 +13,7 @@ using qvx::RowPlan;
 
 class RowPlans : public testing::Test {
  protected:
-  RowPlan Plan(TMenuItem& line) { return qvx::PlanRow(line, {&lisp, &system, icons, 25}); }
+  RowPlan Plan(TMenuItem& line) { return qvx::PlanRow(line, {{&lisp, &system, icons}, 25}); }
 
   FakeLisp lisp;
   TMenuSystem system;
@@ -47,7 +47,7 @@ TEST_F(RowPlans, ASeparatorShowsNoIconEvenWhenItsLineNamesOne) {
 }
 
 TEST_F(RowPlans, ASeparatorsHeightIsCutAndNotRounded) {
-  const RowPlan plan = qvx::PlanRow(*AddLine(bar, L"--"), {&lisp, &system, true, 24});
+  const RowPlan plan = qvx::PlanRow(*AddLine(bar, L"--"), {{&lisp, &system, true}, 24});
   EXPECT_EQ(plan.height, 7);  // 23 / 3
 }
 
@@ -108,7 +108,7 @@ TEST_F(RowPlans, WithoutIconLibraryOrWithAnIndexBeyondTheTableThereIsNoImageCall
   line->m_nIconIndex = 0;
   icons = false;
   EXPECT_EQ(Plan(*line).image, RowImage::kNone);
-  EXPECT_EQ(qvx::PlanRow(*line, {&lisp, nullptr, true, 25}).image, RowImage::kNone);
+  EXPECT_EQ(qvx::PlanRow(*line, {{&lisp, nullptr, true}, 25}).image, RowImage::kNone);
 }
 
 TEST_F(RowPlans, ASwitchLineTakesLabelAndIconOfItsState) {
@@ -153,30 +153,30 @@ TEST_F(RowPlans, RefreshingComparesIconsOnlyAndLeavesACaptionOfTheSameIconStandi
   TMenuItem* line = AddSwitchLine(bar, *shown);
   lisp.Number(L"get", 1);
   Plan(*line);
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp)) << "the state is the same";
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, {&lisp})) << "the state is the same";
   lisp.Number(L"get", 2);
-  EXPECT_TRUE(qvx::RefreshSwitchLine(*line, lisp));
+  EXPECT_TRUE(qvx::RefreshSwitchLine(*line, {&lisp}));
   EXPECT_TRUE(line->m_strLabel == L"关");
   shown->m_states.At(0)->m_nIconIndex = shown->m_states.At(1)->m_nIconIndex;
   lisp.Number(L"get", 1);
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp));
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, {&lisp}));
   EXPECT_TRUE(line->m_strLabel == L"关");
 }
 
 TEST_F(RowPlans, RefreshingASwitchThatFailsChangesNothing) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp));
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, {&lisp}));
   EXPECT_TRUE(line->m_strLabel == L"开关");
 }
 
 TEST_F(RowPlans, TheHelpOfALineIsTheSecondTextOfItsIcon) {
   AddResource(system, L"ID_A", L"A16", L"绘制墙体");
   TMenuItem* line = AddLine(bar, L"墙", L"TWall\n");
-  EXPECT_EQ(qvx::HelpOfLine(*line, &system, true), nullptr);
+  EXPECT_EQ(qvx::HelpOfLine(*line, {nullptr, &system, true}), nullptr);
   line->m_nIconIndex = 0;
-  EXPECT_STREQ(qvx::HelpOfLine(*line, &system, true), L"绘制墙体");
-  EXPECT_EQ(qvx::HelpOfLine(*line, &system, false), nullptr);
+  EXPECT_STREQ(qvx::HelpOfLine(*line, {nullptr, &system, true}), L"绘制墙体");
+  EXPECT_EQ(qvx::HelpOfLine(*line, {nullptr, &system, false}), nullptr);
 }
 
 }  // namespace
