@@ -6,7 +6,15 @@
 #include "afxwin.h"
 #include "menu/line_state.h"
 
-class CMenuGroup;
+// A group as its rows see it; the parent window of a row is one.
+class RowHolder {
+ public:
+  // Puts rows that the last scrolling left behind, far from the view, where they belong.
+  virtual void SettleRows() = 0;
+
+ protected:
+  ~RowHolder() = default;
+};
 
 class GroupOwner {
  public:

@@ -4,7 +4,6 @@
 
 #include "kernel/globals.h"
 #include "screenmenu/menu_colors.h"
-#include "screenmenu/win/menu_group.h"
 #include "ground/win/module_handle.h"
 
 namespace {
@@ -146,7 +145,7 @@ std::wstring CSMenuItem::Help() const {
 
 void CSMenuItem::SettlePlace() const {
   for (HWND at = ::GetParent(m_hWnd); at; at = ::GetParent(at)) {
-    auto* group = DYNAMIC_DOWNCAST(CMenuGroup, CWnd::FromHandlePermanent(at));
+    auto* group = dynamic_cast<RowHolder*>(CWnd::FromHandlePermanent(at));
     if (!group) return;
     group->SettleRows();
   }
