@@ -101,7 +101,7 @@ TEST_F(PopupShow, AChosenLineSendsItsCommandAndBecomesARecentOne) {
   Show({Key(VK_DOWN), Key(VK_DOWN), Key(VK_DOWN), Key(VK_RETURN)});
   EXPECT_EQ(Sent(), Words{L"B\n"}) << "the second row is that of the recent commands";
   ASSERT_EQ(System().m_recent.Length(), 1);
-  EXPECT_EQ(System().m_recent.At(0)->m_strLabel, L"B\n");
+  EXPECT_EQ(System().m_recent.At(0)->m_strLabel, L"乙") << "of the line it came from";
   EXPECT_NE(Window().Bar(), nullptr) << "kept until the next one";
   EXPECT_GT(Window().Popups().Length(), 0);
 }
