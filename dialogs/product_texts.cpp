@@ -17,9 +17,9 @@ CString TextOf(const ProductSection& product, const wchar_t* key, const wchar_t*
 AboutTexts LoadAboutTexts(FindFileFunction find) {
   const ProductSection product(find);
   AboutTexts texts;
-  wchar_t path[QvxExport::kPathUnits];
+  TWCString path;
   if (const wchar_t* icon = product.Value(L"IconFile"); icon && find(icon, path))
-    texts.iconFile = path;
+    texts.iconFile = path.c_str();
   texts.group = TextOf(product, L"QQ群", kChatGroup);
   texts.mail = TextOf(product, L"Email", kContactAddress);
   texts.name = TextOf(product, L"About");
@@ -34,7 +34,7 @@ HelpTarget FindHelpFile(FindFileFunction find) {
   const ProductSection product(find);
   if (!product.IsThere()) return {};
   const wchar_t* name = product.Value(L"HelpFile");
-  wchar_t path[QvxExport::kPathUnits];
+  TWCString path;
   if (!name || !find(name, path)) return {false, {}};
   return {true, path};
 }

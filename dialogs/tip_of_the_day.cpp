@@ -1,18 +1,13 @@
 #include "dialogs/tip_of_the_day.h"
 
 #include "dialogs/tip_file.h"
-#include "kernel/globals.h"
-#include "kernel/tregproperty.h"
+#include "ground/product_registry.h"
 
 namespace qvx {
 
 namespace {
 
-TRegProperty TipKey() {
-  TRegProperty key(GetRegLocation(), L"Tips");
-  key.SetTopRootKey(HKEY_CURRENT_USER);
-  return key;
-}
+TRegProperty TipKey() { return UserKey(L"Tips"); }
 
 }  // namespace
 

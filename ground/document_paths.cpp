@@ -1,7 +1,5 @@
 #include "ground/document_paths.h"
 
-#include "kernel/qvxexport.h"
-
 TWCString ParentFolder(const wchar_t* folder) {
   TWCString parent(folder);
   for (int i = parent.Length() - 2; i >= 0; --i) {
@@ -19,8 +17,5 @@ bool FindDocument(const DocumentSearch& search, const wchar_t* tail, TWCString& 
   lastTried = search.setup;
   lastTried += L'\\';
   lastTried += tail;
-  wchar_t path[QvxExport::kPathUnits];
-  if (!search.find(first, path) && !search.find(lastTried, path)) return false;
-  found = path;
-  return true;
+  return search.find(first, found) || search.find(lastTried, found);
 }

@@ -2,7 +2,7 @@
 // the folder that the product was set up from.
 #pragma once
 
-#include "kernel/twcstring.h"
+#include "ground/support_files.h"
 
 // The folder above `folder` ("C:\QVX\Sys\" gives "C:\QVX\"); the text itself when there is none.
 TWCString ParentFolder(const wchar_t* folder);
@@ -12,7 +12,7 @@ TWCString ParentFolder(const wchar_t* folder);
 struct DocumentSearch {
   TWCString parent;  // ends in a backslash
   TWCString setup;
-  int (*find)(const wchar_t* name, wchar_t* out);  // as QvxExport::FindFile
+  qvx::FindFileFunction find;
 };
 bool FindDocument(const DocumentSearch& search, const wchar_t* tail, TWCString& found,
                   TWCString& lastTried);

@@ -2,17 +2,15 @@
 // itself and its files. For everybody who shows or opens something of it.
 #pragma once
 
+#include "ground/support_files.h"
 #include "kernel/qvxexport.h"
 
 namespace qvx {
 
-// As QvxExport::FindFile: a file along the support path, its full path in `out` (260 units).
-using FindFileFunction = int (*)(const wchar_t* name, wchar_t* out);
-
 class ProductSection {
  public:
-  explicit ProductSection(FindFileFunction find = QvxExport::FindFile) {
-    wchar_t path[QvxExport::kPathUnits];
+  explicit ProductSection(FindFileFunction find = FindFile) {
+    TWCString path;
     if (find(L"qvx.ini", path)) QvxExport::GetIniFileToIniBufer(path, L"Product", &m_buffer);
   }
   ~ProductSection() { QvxExport::FreeIniBuffer(m_buffer); }

@@ -4,8 +4,7 @@ int ExecuteMenuLine(TMenuBar& bar, int id, MenuLineHost& host) {
   const TMenuItem* line = bar.FindItemById(id);
   if (!line) return 0;
   if (line->m_pSwitch) {
-    const TWCString function(line->m_pSwitch->m_strSetFn);
-    host.Lisp().Call(function);
+    qvx::AskLine(line->m_pSwitch->m_strSetFn, host.Lines());
     host.UpdateStatusBar();
     host.RefreshSwitches();
     return 1;

@@ -4,13 +4,12 @@
 // buttons of the screen menu, and users know it so. Called by the context window.
 #pragma once
 
-#include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "menu/line_state.h"
 
 class MenuLineHost {
  public:
   virtual ~MenuLineHost() = default;
-  virtual qvx::LispCaller& Lisp() = 0;
+  virtual qvx::LineSources Lines() = 0;
   virtual void UpdateStatusBar() = 0;
   virtual void RefreshSwitches() = 0;  // of the screen menu, if there is one
   virtual void Print(const wchar_t* text) = 0;

@@ -1,6 +1,6 @@
 #include "popup/popup_json.h"
 
-#include "screenmenu/shell_json.h"
+#include "ground/json_text.h"
 
 namespace {
 

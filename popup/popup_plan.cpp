@@ -4,8 +4,6 @@
 #include <climits>
 #include <cwchar>
 
-#include "screenmenu/row_plan.h"
-
 namespace {
 
 constexpr wchar_t kRecentLabel[] = L"最近命令";
@@ -20,13 +18,13 @@ int NumberOf(const wchar_t* command) {
 // leads to a sub-menu gets its row when everything below it has one.
 class Planner {
  public:
-  Planner(PopupIds ids, int firstId, const PopupSources& sources)
+  Planner(PopupIds ids, int firstId, const qvx::LineSources& sources)
       : m_ids(ids), m_nextId(firstId), m_sources(sources) {}
 
   PopupPlan Run(TMenuBar& bar) {
     Enter(bar);
-    while (!m_path.empty() && !m_isGone) Step();
-    if (m_isGone) return {};
+    while (!m_path.empty() && !IsGone()) Step();
+    if (IsGone()) return {};
     return std::move(m_plan);
   }
 
@@ -76,7 +74,7 @@ class Planner {
     row.flags = line.m_pSwitch ? FlagsOfSwitch(line, id)
                 : leadsOn      ? FlagsOfSubMenu(line, row.subMenu)
                                : FlagsOfPlain(line, id);
-    if (m_isGone) return;
+    if (IsGone()) return;
     if (!leadsOn) row.id = id;
     row.bitmap = BitmapOf(line);
     menu.push_back(row);
@@ -84,10 +82,7 @@ class Planner {
 
   unsigned FlagsOfSwitch(TMenuItem& line, int id) {
     line.m_nCommandId = id;
-    const qvx::LispAnswer answer = Ask(line.m_pSwitch->m_strGetFn);
-    if (m_isGone) return 0;
-    const TSwitchStateItem* state =
-        qvx::GivesNumber(answer) ? line.m_pSwitch->FindState(answer.number) : nullptr;
+    const TSwitchStateItem* state = qvx::AskSwitch(line, m_sources);
     if (!state) return kRowOwnerDrawn | kRowOff;
     qvx::CopyState(*state, line);
     return kRowOwnerDrawn;
@@ -100,43 +95,34 @@ class Planner {
   unsigned FlagsOfPlain(TMenuItem& line, int id) {
     line.m_nCommandId = id;
     unsigned flags = FlagsOfGrayFunction(line);
-    if (m_isGone) return 0;
+    if (IsGone()) return 0;
     if (line.m_strCommand.IsEmpty()) flags |= kRowOff;
-    if ((line.m_nFlags & TMenuItem::kHasCheckFn) && qvx::GivesTrue(Ask(line.m_strCheckFn)))
-      flags |= kRowChecked;
+    if (qvx::IsLineChecked(line, m_sources)) flags |= kRowChecked;
     return flags;
   }
 
   unsigned FlagsOfGrayFunction(const TMenuItem& line) {
-    const bool gray =
-        (line.m_nFlags & TMenuItem::kHasGrayFn) && qvx::GivesTrue(Ask(line.m_strGrayFn));
-    return gray ? kRowOwnerDrawn | kRowOff : static_cast<unsigned>(kRowOwnerDrawn);
+    return qvx::IsLineGray(line, m_sources) ? kRowOwnerDrawn | kRowOff
+                                            : static_cast<unsigned>(kRowOwnerDrawn);
   }
 
-  // The name is copied: what the function does to the menus is not known.
-  qvx::LispAnswer Ask(const TWCString& function) {
-    const TWCString name(function);
-    const qvx::LispAnswer answer = m_sources.lisp->Call(name);
-    m_isGone = m_sources.isMenuGone && m_sources.isMenuGone();
-    return answer;
-  }
+  bool IsGone() const { return m_sources.watch.IsGone(); }
 
   const wchar_t* BitmapOf(const TMenuItem& line) const {
-    const wchar_t* name = qvx::IconOfLine(line, {nullptr, m_sources.system, m_sources.hasIcons, 0});
+    const wchar_t* name = qvx::IconOfLine(line, m_sources);
     return name && *name ? name : nullptr;
   }
 
   PopupIds m_ids;
   int m_nextId;
-  const PopupSources& m_sources;
+  const qvx::LineSources& m_sources;
   PopupPlan m_plan;
   std::vector<Place> m_path;
-  bool m_isGone = false;
 };
 
 }  // namespace
 
-PopupPlan PlanPopup(TMenuBar& bar, PopupIds ids, int firstId, const PopupSources& sources) {
+PopupPlan PlanPopup(TMenuBar& bar, PopupIds ids, int firstId, const qvx::LineSources& sources) {
   return Planner(ids, firstId, sources).Run(bar);
 }
 

@@ -4,11 +4,9 @@
 // window and the in-place editor build the native ones from the plan.
 #pragma once
 
-#include <functional>
 #include <vector>
 
-#include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "menu/line_state.h"
 
 // The window system's own bits for a row.
 enum PopupRowFlags : unsigned {
@@ -46,16 +44,8 @@ struct PopupPlan {
   std::vector<std::vector<PopupRow>> menus;  // the first one is the top; empty: nothing to show
 };
 
-struct PopupSources {
-  qvx::LispCaller* lisp;
-  const TMenuSystem* system;  // for the icons; may be null
-  bool hasIcons;              // the icon library is loaded
-  // True when a LISP function has replaced the menus: their lines are gone then, and so is the
-  // plan. Null where that can't be.
-  std::function<bool()> isMenuGone;
-};
-
-PopupPlan PlanPopup(TMenuBar& bar, PopupIds ids, int firstId, const PopupSources& sources);
+// Empty when a LISP function replaced the menus: their lines are gone then.
+PopupPlan PlanPopup(TMenuBar& bar, PopupIds ids, int firstId, const qvx::LineSources& sources);
 
 // Puts the recent commands under their own line, the second one of the block, where it is not there
 // already.

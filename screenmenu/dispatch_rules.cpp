@@ -1,8 +1,6 @@
 // See dispatch_rules.h.
 #include "screenmenu/dispatch_rules.h"
 
-#include "screenmenu/row_plan.h"
-
 namespace qvx {
 
 ClickKind DecideClick(const TMenuItem& line) {
@@ -11,16 +9,12 @@ ClickKind DecideClick(const TMenuItem& line) {
   return line.IsSeparator() ? ClickKind::kNothing : ClickKind::kCommand;
 }
 
-bool IsBusy(const HostActivity& host) { return host.active != 0 || !host.names.IsEmpty(); }
-
-// The name is copied: what the function does to the line is not known.
-SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch) {
-  const TWCString set(line.m_pSwitch->m_strSetFn);
-  const bool isSet = lisp.Call(set).called;
-  if (watch.IsGone()) return SwitchResult::kGone;
-  if (!isSet) return SwitchResult::kRefused;
-  const TSwitchStateItem* state = AskSwitch(line, lisp, watch);
-  if (watch.IsGone()) return SwitchResult::kGone;
+SwitchResult FlipSwitch(TMenuItem& line, const LineSources& sources) {
+  const LineAnswer set = AskLine(line.m_pSwitch->m_strSetFn, sources);
+  if (set.isGone) return SwitchResult::kGone;
+  if (!set.called) return SwitchResult::kRefused;
+  const TSwitchStateItem* state = AskSwitch(line, sources);
+  if (sources.watch.IsGone()) return SwitchResult::kGone;
   if (!state) return SwitchResult::kUnknown;
   CopyState(*state, line);
   return SwitchResult::kChanged;

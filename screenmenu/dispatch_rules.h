@@ -3,9 +3,7 @@
 // while a switch gives way to it. No window and no host: both are asked through what is passed in.
 #pragma once
 
-#include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
-#include "screenmenu/menu_watch.h"
+#include "menu/line_state.h"
 
 namespace qvx {
 
@@ -21,14 +19,6 @@ enum class ClickKind {
 };
 ClickKind DecideClick(const TMenuItem& line);
 
-// What the host says of running commands. A value that can't be read counts as 0 or as empty text.
-struct HostActivity {
-  int active = 0;   // CMDACTIVE
-  TWCString names;  // CMDNAMES
-};
-// Names alone make the host busy too: some commands are named while CMDACTIVE is still 0.
-bool IsBusy(const HostActivity& host);
-
 enum class SwitchResult {
   kRefused,  // the set function failed: nothing else happens
   kUnknown,  // flipped, but the state could not be read: the caption stays
@@ -36,7 +26,7 @@ enum class SwitchResult {
   kGone,     // a function replaced the menu: the line is no more, nor is the row that was clicked
 };
 // Runs the set function, then reads the state into the line. Busy hosts are the caller's to refuse.
-SwitchResult FlipSwitch(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch = {});
+SwitchResult FlipSwitch(TMenuItem& line, const LineSources& sources);
 
 // One command text or none. A click overwrites what waits, so there is never more than one.
 class PendingCommand {

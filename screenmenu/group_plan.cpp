@@ -16,11 +16,11 @@ std::unique_ptr<GroupPlan> PlanGroup(TMenuBar& bar, GroupPlan* parent, const Tre
   for (int i = 0; i < bar.Length(); ++i) {
     TMenuItem& line = *bar.At(i);
     group->rows.push_back(PlanRow(line, request.sources));
-    if (request.sources.watch.IsGone()) return nullptr;
+    if (request.sources.lines.watch.IsGone()) return nullptr;
     group->rowsHeight += group->rows.back().height;
     const bool nests = line.m_pSubMenu && group->depth < kDeepestGroup;
     group->children.push_back(nests ? PlanGroup(*line.m_pSubMenu, group.get(), request) : nullptr);
-    if (request.sources.watch.IsGone()) return nullptr;
+    if (request.sources.lines.watch.IsGone()) return nullptr;
   }
   group->rowsHeight += kGroupMargin;
   const int wanted =

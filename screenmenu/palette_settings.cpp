@@ -3,21 +3,12 @@
 
 #include <cstdlib>
 
-#include "kernel/globals.h"
-#include "kernel/tregproperty.h"
+#include "ground/product_registry.h"
 #include "screenmenu/edge_drag.h"
 #include "screenmenu/group_rules.h"
 
 namespace qvx {
 namespace {
-
-TRegProperty PaletteKey() {
-  CString path(GetRegLocation());
-  path += L"\\Settings";
-  TRegProperty key(path, L"ScreenMenu");
-  key.SetTopRootKey(HKEY_CURRENT_USER);
-  return key;
-}
 
 constexpr unsigned kAlignLeft = 0x1420;   // CBRS_ALIGN_LEFT, CBRS_BORDER_RIGHT, CBRS_FLYBY
 constexpr unsigned kAlignRight = 0x4120;  // CBRS_ALIGN_RIGHT, CBRS_BORDER_LEFT, CBRS_FLYBY
@@ -37,7 +28,7 @@ int UsableWidth(int saved, int screenWidth) {
 }
 
 void LoadPaletteSettings(PaletteSettings& settings) {
-  const TRegProperty key = PaletteKey();
+  const TRegProperty key = ScreenMenuKey();
   key.GetValue(L"Alignment", settings.alignment);
   key.GetValue(L"SizeX", settings.sizeX);
   key.GetValue(L"LimitHeight", settings.limitHeight);
@@ -46,13 +37,13 @@ void LoadPaletteSettings(PaletteSettings& settings) {
 }
 
 void SavePaletteSize(int width, int height) {
-  TRegProperty key = PaletteKey();
+  TRegProperty key = ScreenMenuKey();
   key.SetValue(L"SizeX", width);
   key.SetValue(L"SizeY", height);
 }
 
 void SavePaletteState(const PaletteState& state) {
-  TRegProperty key = PaletteKey();
+  TRegProperty key = ScreenMenuKey();
   key.SetValue(L"Visible", state.visible);
   key.SetValue(L"Alignment", state.alignment);
   key.SetValue(L"SizeX", static_cast<int>(state.size.cx));
@@ -64,11 +55,11 @@ void SavePaletteState(const PaletteState& state) {
 
 int LoadActiveSubMenu() {
   int openIndex = kNothingOpen;
-  PaletteKey().GetValue(L"ActiveSubMenu", openIndex);
+  ScreenMenuKey().GetValue(L"ActiveSubMenu", openIndex);
   return openIndex;
 }
 
-void SaveActiveSubMenu(int openIndex) { PaletteKey().SetValue(L"ActiveSubMenu", openIndex); }
+void SaveActiveSubMenu(int openIndex) { ScreenMenuKey().SetValue(L"ActiveSubMenu", openIndex); }
 
 int AlignmentOf(const RECT& palette, const RECT& frameClient) {
   const LONG fromLeft = palette.left - frameClient.left;

@@ -3,9 +3,7 @@
 // the group's window creates what is planned here. Called by CMenuGroup and CSMenuItem.
 #pragma once
 
-#include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
-#include "screenmenu/menu_watch.h"
+#include "menu/line_state.h"
 
 namespace qvx {
 
@@ -24,13 +22,10 @@ struct RowPlan {
   const wchar_t* bitmap = L"";  // for kFromLibrary; never null
 };
 
-// What a row needs beyond its line. `system` may be null; without icons no bitmap is looked up.
+// What a row needs beyond its line.
 struct RowSources {
-  LispCaller* lisp;
-  const TMenuSystem* system;
-  bool hasIcons;         // the icon library is loaded
-  int rowHeight;         // the setting
-  MenuWatch watch = {};  // over the line and the system
+  LineSources lines;
+  int rowHeight;  // the setting
 };
 
 // Runs the line's functions and, for a switch line, copies the state's label and icon into the
@@ -38,23 +33,9 @@ struct RowSources {
 // the line is gone then.
 RowPlan PlanRow(TMenuItem& line, const RowSources& sources);
 
-// A line with an empty command is off. Its grey function turns it off with a true result; a
-// function that fails leaves it on. With the menu gone the answer means nothing.
-bool IsLineEnabled(const TMenuItem& line, LispCaller& lisp);
-
-// Asks the switch for its state; null when the function gives no number or the switch has no
-// states, or when the menu is gone.
-TSwitchStateItem* AskSwitch(const TMenuItem& line, LispCaller& lisp, const MenuWatch& watch);
-void CopyState(const TSwitchStateItem& state, TMenuItem& line);
-
 // True when the line took over another state. Only the icon is compared: two states that share an
 // icon keep the old caption, and users of such switches know it so. False too when the menu is
 // gone.
-bool RefreshSwitchLine(TMenuItem& line, LispCaller& lisp, const MenuWatch& watch = {});
-
-// The image name of the line's icon, or null when the button must get no image call.
-const wchar_t* IconOfLine(const TMenuItem& line, const RowSources& sources);
-// The help text behind the line's icon, or null without one.
-const wchar_t* HelpOfLine(const TMenuItem& line, const TMenuSystem* system, bool hasIcons);
+bool RefreshSwitchLine(TMenuItem& line, const LineSources& sources);
 
 }  // namespace qvx

@@ -36,14 +36,4 @@ struct ShellScreenMenu {
 
 std::string ToJson(const ShellScreenMenu& menu);
 
-// The code point at i, which moves to its last unit; U+FFFD for a lone surrogate.
-unsigned CodePointAt(const std::wstring& text, std::size_t& i);
-void AppendUtf8(std::string& out, unsigned code);
-
-// A JSON string with its quotes. Lone surrogates become U+FFFD, so the result is always valid
-// UTF-8.
-std::string JsonString(const std::wstring& text);
-const char* JsonWord(bool value);
-std::string JsonRect(const RECT& r);
-
 }  // namespace qvx

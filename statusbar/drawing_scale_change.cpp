@@ -15,6 +15,7 @@
 #include "kernel/tpickentset.h"
 #include "kernel/trblist.h"
 #include "statusbar/scale_rules.h"
+#include "statusbar/status_bar_door.h"
 
 namespace qvx {
 namespace {
@@ -123,11 +124,6 @@ TWCString CurrentScaleText() {
   return ScalePaneText(DocGetPScale(), walk);
 }
 
-void WriteHatchScale() {
-  resbuf value{};
-  value.restype = RTREAL;
-  value.resval.rreal = DocGetPScale();
-  acedSetVar(L"HPSCALE", &value);
-}
+void WriteHatchScale() { SetRealVariable(L"HPSCALE", DocGetPScale()); }
 
 }  // namespace qvx

@@ -16,7 +16,4 @@ void SetDrawingScale(double scale);
 bool HasFamilySelection();
 TWCString CurrentScaleText();
 
-// Writes the current scale to HPSCALE: hatches follow the drawing scale.
-void WriteHatchScale();
-
 }  // namespace qvx

@@ -1,7 +1,6 @@
 #include "dialogs/win/about_dialog.h"
 
 #include "ground/win/module_resources.h"
-#include "kernel/qvxexport.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -17,7 +16,7 @@ HICON FirstIcon(const wchar_t* file) {
 }  // namespace
 
 CAboutVexraDlg::CAboutVexraDlg(CWnd* parent) : GuardedWindow(IDD_ABOUT, parent) {
-  const qvx::AboutTexts texts = qvx::LoadAboutTexts(QvxExport::FindFile);
+  const qvx::AboutTexts texts = qvx::LoadAboutTexts(qvx::FindFile);
   m_strName = texts.name;
   m_strGroup = texts.group;
   m_strVersion = texts.version;

@@ -1,7 +1,7 @@
 #include "dialogs/win/day_tip_dialog.h"
 
 #include "dialogs/tip_pictures.h"
-#include "kernel/qvxexport.h"
+#include "ground/support_files.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -20,11 +20,11 @@ const ModuleMessages kMessages;
 // The path of the tip file, or null.
 class TipPath {
  public:
-  TipPath() : m_found(QvxExport::FindFile(L"qvxtips.txt", m_path) != 0) {}
-  const wchar_t* Get() const { return m_found ? m_path : nullptr; }
+  TipPath() : m_found(qvx::FindFile(L"qvxtips.txt", m_path)) {}
+  const wchar_t* Get() const { return m_found ? m_path.c_str() : nullptr; }
 
  private:
-  wchar_t m_path[QvxExport::kPathUnits] = L"";
+  TWCString m_path;
   bool m_found;
 };
 

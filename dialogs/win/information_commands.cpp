@@ -7,7 +7,6 @@
 #include "ground/win/module_resources.h"
 #include "ground/win/open_by_shell.h"
 #include "dialogs/product_texts.h"
-#include "kernel/qvxexport.h"
 #include "kernel/tadsprintf.h"
 #include "rxmfcapi.h"
 
@@ -28,7 +27,7 @@ void ShowTipsAtStart() {
 }
 
 void OpenHelp() {
-  const qvx::HelpTarget target = qvx::FindHelpFile(QvxExport::FindFile);
+  const qvx::HelpTarget target = qvx::FindHelpFile(qvx::FindFile);
   if (!target.found)
     adsout << L"\n未找到帮助文件Vexra.chm！";
   else if (!qvx::OpenByShell(adsw_acadMainWnd(), target.path))
@@ -36,7 +35,7 @@ void OpenHelp() {
 }
 
 void ReportBug() {
-  const CString address = qvx::LoadContactAddress(QvxExport::FindFile);
+  const CString address = qvx::LoadContactAddress(qvx::FindFile);
   if (qvx::OpenByShell(nullptr, L"mailto:" + address)) return;
   adsout << L"\n需要安装配置一个发送邮件软件（如Microsoft Outlook)!您可以将问题报告发送到:"
          << address.GetString();

@@ -2,17 +2,14 @@
 
 #include "aced.h"
 #include "adslib.h"
+#include "ground/host_lisp.h"
 
 void PublishLispPath() {
   resbuf nil{};
   nil.restype = RTNIL;
   acedPutSym(L"_qvxatoml", &nil);
-  resbuf* call = acutBuildList(RTSTR, L"TGetLispPath", RTNONE);
-  resbuf* result = nullptr;
-  if (acedInvoke(call, &result) == RTNORM && result) {
-    acedPutSym(L"_prefix", result);
-    acedPutSym(L"_prefix1", result);
-    acutRelRb(result);
-  }
-  acutRelRb(call);
+  const qvx::OwnedChain path = qvx::InvokeLisp(L"TGetLispPath");
+  if (!path) return;
+  acedPutSym(L"_prefix", path.get());
+  acedPutSym(L"_prefix1", path.get());
 }

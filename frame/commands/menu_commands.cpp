@@ -1,8 +1,15 @@
 #include "frame/commands/menu_commands.h"
 
+#include "frame/commands/lisp_path.h"
+#include "frame/settings/menu_setting.h"
+#include "frame/start/menu_engine.h"
+#include "frame/start/win/icon_library.h"
+#include "ground/message_box.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
 #include "kernel/tsplitpath.h"
 #include "menu/menu_loading.h"
+#include "screenmenu/screen_menu_door.h"
 
 namespace {
 
@@ -12,75 +19,76 @@ TWCString With(const wchar_t* base, const wchar_t* extension) {
   return name;
 }
 
-void PrepareFor(MenuSteps& steps, const wchar_t* base) {
-  steps.ReplaceIconLibrary(With(base, L".dll"));
-  steps.RecreateScreenMenu();
+void PrepareFor(const wchar_t* base) {
+  ReplaceIconLibrary(With(base, L".dll"));
+  InitScreenMenu(false, true);
+  InitScreenMenu(true, true);
 }
 
-void LoadByExtension(MenuSteps& steps, const TWCString& path) {
+void LoadByExtension(const TWCString& path) {
   const TSplitpathOperator parts(path);
   if (TWCString(parts.Extension()).EqualsNoCase(L".qmc"))
-    steps.LoadCompiledMenu(path);
+    LoadCompiledMenu(path);
   else
-    steps.CompileMenu(path);
+    CompileMenu(path);
 }
 
 }  // namespace
 
-void MenuCommands::Reload(MenuSteps& steps) {
+void MenuCommands::Reload() {
   TWCString base(L"qvx"), path;
-  steps.ReadMenuSetting(base);
-  if (!steps.FindFile(With(base, L".qmn"), path)) {
+  LoadMenuSetting(base);
+  if (!qvx::FindFile(With(base, L".qmn"), path)) {
     g_iMenuType = g_nRunMode = 0;
     return;
   }
-  PrepareFor(steps, base);
-  steps.CompileMenu(path);
-  steps.PublishLispPath();
-  steps.RefreshDocStatus();
+  PrepareFor(base);
+  CompileMenu(path);
+  PublishLispPath();
+  DocStatus();
 }
 
-void MenuCommands::ReloadBySearch(MenuSteps& steps) {
+void MenuCommands::ReloadBySearch() {
   TWCString base, path;
-  if (!steps.FindMenuBase(base)) base = L"qvx";
-  if (!steps.FindFile(With(base, L".qmn"), path)) {
-    steps.ShowMessage(L"未找到菜单文件!");
+  if (!FindMenuBase(base)) base = L"qvx";
+  if (!qvx::FindFile(With(base, L".qmn"), path)) {
+    qvx::ShowMessageBox(L"未找到菜单文件!");
     return;
   }
-  PrepareFor(steps, base);
-  LoadByExtension(steps, path);
+  PrepareFor(base);
+  LoadByExtension(path);
 }
 
-bool MenuCommands::SetMenu(MenuSteps& steps, const wchar_t* file) {
+bool MenuCommands::SetMenu(const wchar_t* file) {
   TWCString path;
-  if (!file || !steps.FindFile(file, path)) return false;
+  if (!file || !qvx::FindFile(file, path)) return false;
   const TWCString base = TSplitpathOperator(path).Base();
-  PrepareFor(steps, base);
-  LoadByExtension(steps, path);
-  steps.WriteMenuSetting(base);
+  PrepareFor(base);
+  LoadByExtension(path);
+  SaveMenuSetting(base);
   return true;
 }
 
-void MenuCommands::ToggleRunMode(MenuSteps& steps) {
+void MenuCommands::ToggleRunMode() {
   const int type = g_iMenuType, mode = g_nRunMode;
   g_nRunMode = !g_nRunMode;
   g_iMenuType = g_nRunMode ? 2 : 0;
   TWCString path;
-  if (!steps.FindFile(MenuLoading::DefaultMenuFile(g_iMenuType), path)) {
+  if (!qvx::FindFile(MenuLoading::DefaultMenuFile(g_iMenuType), path)) {
     g_iMenuType = type;
     g_nRunMode = mode;
     return;
   }
-  Reload(steps);
+  Reload();
 }
 
-void MenuCommands::ToggleAviMode(MenuSteps& steps) {
+void MenuCommands::ToggleAviMode() {
   m_aviMode = !m_aviMode;
   TWCString path;
-  if (!steps.FindHostFile(m_aviMode ? L"qvxavi.qmc" : L"qvx.qmc", path)) {
+  if (!qvx::FindHostFile(m_aviMode ? L"qvxavi.qmc" : L"qvx.qmc", path)) {
     m_aviMode = !m_aviMode;
     return;
   }
-  PrepareFor(steps, L"qvx");
-  steps.LoadCompiledMenu(path);
+  PrepareFor(L"qvx");
+  LoadCompiledMenu(path);
 }

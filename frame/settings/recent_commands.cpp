@@ -1,23 +1,22 @@
 #include "frame/settings/recent_commands.h"
 
 #include "frame/settings/comma_list.h"
-#include "kernel/globals.h"
-#include "kernel/tregproperty.h"
+#include "ground/product_registry.h"
+#include "menu/menu_in_force.h"
 
-void SaveRecentCommands(TMenuStack& recent) {
+void SaveRecentCommands() {
+  TMenuSystem* system = LoadedMenu();
+  if (!system) return;
+  TMenuStack& recent = system->m_recent;
   TWCString text;
   for (int i = recent.Length() - 1; i >= 0; --i) AppendToCommaList(text, recent[i]->m_strCommand);
-  TRegProperty key(GetRegLocation(), L"Settings");
-  key.SetTopRootKey(HKEY_CURRENT_USER);
-  key.SetValue(L"RecentCmd", text.c_str());
+  qvx::UserKey(L"Settings").SetValue(L"RecentCmd", text.c_str());
 }
 
-void LoadRecentCommands(TMenuStack& recent) {
-  TRegProperty key(GetRegLocation(), L"Settings");
-  key.SetTopRootKey(HKEY_CURRENT_USER);
+void LoadRecentCommands() {
   CString text;
-  key.GetValue(L"RecentCmd", text);
+  qvx::UserKey(L"Settings").GetValue(L"RecentCmd", text);
   TWCStringList commands;
   SplitCommaList(text.GetString(), commands);
-  for (int i = 0; i < commands.Length(); ++i) recent.AddRecent(commands[i]);
+  for (int i = 0; i < commands.Length(); ++i) NoteRecentCommand(commands[i]);
 }

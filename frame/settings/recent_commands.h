@@ -2,7 +2,5 @@
 // in text order when read, which restores the order.
 #pragma once
 
-#include "menu/menu_stack.h"
-
-void SaveRecentCommands(TMenuStack& recent);
-void LoadRecentCommands(TMenuStack& recent);
+void SaveRecentCommands();  // of the menu in force; nothing is written without one
+void LoadRecentCommands();

@@ -140,9 +140,8 @@ const IndexRow kRows[] = {
 
     {kVariable, L"", L"ACADVER", kText, L"24.0", L"kernel",
      L"read at start: the host's release number"},
-    {kVariable, L"", L"CMDACTIVE", kInt, L"0", L"screenmenu statusbar",
-     L"read: what kind of command runs"},
-    {kVariable, L"", L"CMDNAMES", kText, L"", L"screenmenu", L"read: the commands that run"},
+    {kVariable, L"", L"CMDACTIVE", kInt, L"0", L"ground", L"read: what kind of command runs"},
+    {kVariable, L"", L"CMDNAMES", kText, L"", L"ground", L"read: the commands that run"},
     {kVariable, L"", L"CVPORT", kInt, nullptr, L"popup editor statusbar",
      L"read: the current viewport"},
     {kVariable, L"", L"TILEMODE", kInt, nullptr, L"editor statusbar",

@@ -8,16 +8,17 @@
 
 #include "aced.h"
 #include "adslib.h"
-#include "ground/product_section.h"
 #include "dialogs/tip_file.h"
 #include "frame/start/host_release.h"
 #include "frame/settings/menu_setting.h"
 #include "frame/settings/settings_index.h"
+#include "ground/host_variables.h"
+#include "ground/json_text.h"
+#include "ground/product_registry.h"
+#include "ground/product_section.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "kernel/settings.h"
-#include "kernel/tregproperty.h"
-#include "screenmenu/shell_json.h"
 
 namespace {
 
@@ -26,15 +27,11 @@ struct PresentValue {
   const wchar_t* source = L"default";
 };
 
-// Replaces line ends and other control characters by blanks, so that each
-// setting stays on one line.
-std::string Utf8(const std::wstring& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    const unsigned code = qvx::CodePointAt(text, i);
-    qvx::AppendUtf8(out, code < 0x20 ? ' ' : code);
-  }
-  return out;
+// Line ends and other controls become blanks, so that each setting keeps to its line.
+std::string LineText(std::wstring text) {
+  for (wchar_t& unit : text)
+    if (static_cast<unsigned>(unit) < 0x20) unit = L' ';
+  return qvx::ToUtf8(text);
 }
 
 std::wstring FolderOf(const IndexRow& row) {
@@ -56,8 +53,9 @@ bool StoredText(const TRegProperty& key, const wchar_t* name, std::wstring& text
 
 PresentValue RegistryValue(const IndexRow& row) {
   PresentValue value{row.defaultText ? row.defaultText : L""};
-  TRegProperty key(GetRegLocation(), FolderOf(row).c_str());
-  key.SetTopRootKey(row.store == IndexStore::kMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER);
+  const std::wstring folder = FolderOf(row);
+  const TRegProperty key = row.store == IndexStore::kMachine ? qvx::MachineKey(folder.c_str())
+                                                             : qvx::UserKey(folder.c_str());
   CString text;
   int number = 0;
   bool exists = false;
@@ -84,11 +82,7 @@ const Setting* KernelSetting(const std::wstring& name) {
 }
 
 TRegProperty HomeOf(const Setting& setting) {
-  if (setting.home == SettingHome::kRelease) {
-    std::wstring location = GetRegLocation();
-    return {location.substr(0, location.rfind(L'\\')).c_str(), L""};
-  }
-  return {GetRegLocation(), L"Settings"};
+  return setting.home == SettingHome::kRelease ? qvx::ReleaseKey() : qvx::UserKey(L"Settings");
 }
 
 PresentValue GlobalValue(const IndexRow& row) {
@@ -116,19 +110,7 @@ PresentValue GlobalValue(const IndexRow& row) {
 
 PresentValue HostValue(const IndexRow& row) {
   PresentValue value{row.defaultText ? row.defaultText : L""};
-  resbuf asked{};
-  if (acedGetVar(row.name, &asked) != RTNORM) return value;
-  value.source = L"host";
-  if (asked.restype == RTSHORT) {
-    value.text = std::to_wstring(asked.resval.rint);
-  } else if (asked.restype == RTREAL) {
-    wchar_t text[40];
-    std::swprintf(text, 40, L"%g", asked.resval.rreal);
-    value.text = text;
-  } else if (asked.restype == RTSTR && asked.resval.rstring) {
-    value.text = asked.resval.rstring;
-    std::free(asked.resval.rstring);
-  }
+  if (qvx::VariableAsText(row.name, value.text)) value.source = L"host";
   return value;
 }
 
@@ -177,14 +159,14 @@ std::wstring RowLine(const IndexRow& row, const PresentValue& value) {
 }
 
 std::wstring Found(const wchar_t* name) {
-  wchar_t path[QvxExport::kPathUnits];
-  return QvxExport::FindFile(name, path) ? path : L"not found";
+  TWCString path(L"not found");
+  qvx::FindFile(name, path);
+  return path.c_str();
 }
 
 // The effect of the first-start list at the next start; reads the values as the start does.
 std::wstring FirstStartLine() {
-  TRegProperty flags(GetRegLocation(), L"InitFlag");
-  flags.SetTopRootKey(HKEY_LOCAL_MACHINE);
+  const TRegProperty flags = qvx::MachineKey(L"InitFlag");
   const wchar_t* names[2];
   const wchar_t* decided = nullptr;
   const int count = FirstStartValueNames(g_dHostVersion, names);
@@ -198,13 +180,13 @@ std::wstring FirstStartLine() {
 }
 
 std::wstring TipLine() {
-  wchar_t path[QvxExport::kPathUnits];
-  if (!QvxExport::FindFile(L"qvxtips.txt", path)) return L"not found";
+  TWCString path;
+  if (!qvx::FindFile(L"qvxtips.txt", path)) return L"not found";
   const FileOwner file = qvx::OpenTipFile(path);
-  if (!file) return std::wstring(path) + L"  warning: it can't be opened";
+  if (!file) return std::wstring(path.c_str()) + L"  warning: it can't be opened";
   CString tip;
   const bool has = qvx::ReadNextTip(file.get(), tip) == qvx::TipFound::kYes;
-  return std::wstring(path) + (has ? L"" : L"  warning: it has no tip");
+  return std::wstring(path.c_str()) + (has ? L"" : L"  warning: it has no tip");
 }
 
 }  // namespace
@@ -212,7 +194,7 @@ std::wstring TipLine() {
 std::string SettingsReport() {
   const qvx::ProductSection section;
   std::string out;
-  const auto line = [&out](const std::wstring& text) { out += Utf8(text) + "\n"; };
+  const auto line = [&out](const std::wstring& text) { out += LineText(text) + "\n"; };
   line(L"location: " + std::wstring(GetRegLocation()));
   line(L"product file qvx.ini: " + Found(L"qvx.ini") +
        (section.IsThere() ? L"" : L"  warning: no section Product was read"));

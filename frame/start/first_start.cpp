@@ -1,10 +1,13 @@
 #include "frame/start/first_start.h"
 
 #include "frame/start/host_release.h"
+#include "ground/product_registry.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
 #include "kernel/native_file.h"
 #include "kernel/qvxexport.h"
-#include "kernel/tregproperty.h"
+#include "kernel/tsplitpath.h"
+#include "rxregsvc.h"
 
 namespace {
 
@@ -22,8 +25,7 @@ TWCString TakeLine(const TWCString& text, int& at) {
 }  // namespace
 
 bool HasStartedBefore(double release) {
-  TRegProperty flags(GetRegLocation(), L"InitFlag");
-  flags.SetTopRootKey(HKEY_LOCAL_MACHINE);
+  TRegProperty flags = qvx::MachineKey(L"InitFlag");
   const wchar_t* names[2];
   const int count = FirstStartValueNames(release, names);
   int started = 0;
@@ -41,12 +43,20 @@ void ReadFirstStartModules(const wchar_t* listPath, TWCStringList& names) {
   for (int at = 0; at < text.Length();) {
     const TWCString line = TakeLine(text, at);
     wchar_t name[QvxExport::kPathUnits];
-    if (QvxExport::GetStringAtIndex(line, 1, name) && QvxExport::FindFile(name, nullptr))
-      names.Add(name);
+    if (QvxExport::GetStringAtIndex(line, 1, name) && qvx::FindFile(name)) names.Add(name);
   }
 }
 
 void FindFirstStartModules(TWCStringList& names) {
-  wchar_t path[QvxExport::kPathUnits];
-  if (QvxExport::FindFile(L"dmload.rx", path)) ReadFirstStartModules(path, names);
+  TWCString path;
+  if (qvx::FindFile(L"dmload.rx", path)) ReadFirstStartModules(path, names);
+}
+
+void RunFirstStartModules() {
+  if (HasStartedBefore(g_dHostVersion)) return;
+  TWCStringList names;
+  FindFirstStartModules(names);
+  for (int i = 0; i < names.Length(); ++i)
+    if (!QvxExport::IsArxAppLoaded(TSplitpathOperator(names[i]).FileName()))
+      acrxLoadModule(names[i], true, true);
 }

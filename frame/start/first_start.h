@@ -15,3 +15,7 @@ void ReadFirstStartModules(const wchar_t* listPath, TWCStringList& names);
 
 // The same for the list where the support path has it.
 void FindFirstStartModules(TWCStringList& names);
+
+// Loads the modules of the list, so that the host registers them, unless this release has been
+// through it. Those that are loaded already are left alone.
+void RunFirstStartModules();

@@ -1,68 +1,102 @@
 #include "frame/start/load_sequence.h"
 
+#include "dialogs/win/information_commands.h"
+#include "frame/commands/win/command_table.h"
+#include "frame/settings/recent_commands.h"
+#include "frame/start/first_start.h"
+#include "frame/start/host_modules.h"
+#include "frame/start/menu_engine.h"
+#include "frame/start/product_names.h"
+#include "frame/start/recent_files.h"
+#include "frame/start/shell.h"
+#include "frame/start/win/host_window.h"
+#include "frame/start/win/icon_library.h"
+#include "ground/message_box.h"
+#include "ground/unbuilt_rooms.h"
+#include "kernel/globals.h"
+#include "popup/popup_door.h"
+#include "screenmenu/screen_menu_door.h"
+#include "statusbar/win/status_panes.h"
+
 namespace {
 
-bool Has(ShellSteps& steps, CustomFlag flag) { return (steps.CustomFlags() & flag) != 0; }
+using qvx::SwitchPane;
 
-void RunCoreStart(ShellSteps& steps) {
-  if (!Has(steps, kNoTipsAtStart)) steps.ShowTipsAtStart();
-  steps.LoadIconLibrary();
-  steps.InitContextWindow(true);
-  steps.InitMessageFilter(true);
-  steps.InitCommands(true);
-  steps.InitScreenMenuReactor(true);
-  if (!Has(steps, kNoFirstStart)) steps.RunFirstStartModules();
-  steps.ReadProductFile();
-  steps.SetFrameTitle();
-  if (steps.HidesCaption()) steps.HideFrameCaption();
-  if (steps.ReopensRecentFiles()) steps.QueueRecentFiles();
+// Read anew at each use: the kernel that holds the flags is loaded by the first step.
+bool Has(CustomFlag flag) { return (GetCustomFlag() & flag) != 0; }
+
+void OnMenuReadiness() {
+  if (Shell* shell = TheShell()) shell->bringUp.StepReadiness();
 }
 
-void AddPanes(ShellSteps& steps) {
-  steps.InitPane(StatusPane::kMakeGroup, true);
-  if (!Has(steps, kNoDrawingPanes)) {
-    steps.InitPane(StatusPane::kBaseLine, true);
-    steps.InitPane(StatusPane::kFill, true);
-    steps.InitPane(StatusPane::kBoldLine, true);
-    steps.InitPane(StatusPane::kDynDim, true);
+void LoadMenuIcons() {
+  TWCString base;
+  if (!FindMenuBase(base)) return qvx::ShowMessageBox(L"\n找不到菜单文件!");
+  base += L".dll";
+  ReplaceIconLibrary(base);
+}
+
+void RunCoreStart() {
+  if (!Has(kNoTipsAtStart)) ShowTipsAtStart();
+  LoadMenuIcons();
+  InitContextWindow(true, OnMenuReadiness);
+  unbuilt::InitMessageFilter(true);
+  RegisterCommands();
+  InitScreenMenuReactor(true);
+  if (!Has(kNoFirstStart)) RunFirstStartModules();
+  const ProductNames names = ReadProductNames();
+  SetScreenMenuHelpFile(names.helpFile);
+  SetFrameTitle(names.title);
+  if (g_bHideCaption) HideFrameCaption();
+  if (g_bAutoOpenRecent) ReopenRecentFiles();
+}
+
+void AddPanes() {
+  InitStatusPane(SwitchPane::kMakeGroup, true);
+  if (!Has(kNoDrawingPanes)) {
+    InitStatusPane(SwitchPane::kBaseLine, true);
+    InitStatusPane(SwitchPane::kFill, true);
+    InitStatusPane(SwitchPane::kBoldLine, true);
+    InitStatusPane(SwitchPane::kDynDim, true);
   }
-  if (!Has(steps, kNoScalePane)) steps.InitScalePane(true);
+  if (!Has(kNoScalePane)) InitScalePane(true);
 }
 
 // Deliberately not the mirror of AddPanes: the base line and dynamic dimension panes are taken away
 // whether or not they were ever added. The user sees nothing of it.
-void RemovePanes(ShellSteps& steps) {
-  steps.InitPane(StatusPane::kMakeGroup, false);
-  steps.InitPane(StatusPane::kBaseLine, false);
-  if (!Has(steps, kNoDrawingPanes)) {
-    steps.InitPane(StatusPane::kFill, false);
-    steps.InitPane(StatusPane::kBoldLine, false);
+void RemovePanes() {
+  InitStatusPane(SwitchPane::kMakeGroup, false);
+  InitStatusPane(SwitchPane::kBaseLine, false);
+  if (!Has(kNoDrawingPanes)) {
+    InitStatusPane(SwitchPane::kFill, false);
+    InitStatusPane(SwitchPane::kBoldLine, false);
   }
-  steps.InitPane(StatusPane::kDynDim, false);
-  if (!Has(steps, kNoScalePane)) steps.InitScalePane(false);
+  InitStatusPane(SwitchPane::kDynDim, false);
+  if (!Has(kNoScalePane)) InitScalePane(false);
 }
 
 }  // namespace
 
-void RunLoadSequence(ShellSteps& steps) {
-  steps.LoadKernel();
-  steps.UnlockModule();
-  steps.RegisterMdiAware();
-  RunCoreStart(steps);
-  steps.CreateDocTabBar();
-  AddPanes(steps);
+void RunLoadSequence(void* packet) {
+  LoadKernel();
+  UnlockModule(packet);
+  RegisterMdiAware(packet);
+  RunCoreStart();
+  unbuilt::CreateDocTabBar();
+  unbuilt::InitDocTabBar();
+  AddPanes();
 }
 
-void RunUnloadSequence(ShellSteps& steps) {
-  steps.SaveSettings();
-  steps.SaveRecentCommands();
-  steps.InitScreenMenuReactor(false);
-  steps.RemoveScreenMenu();
-  steps.InitContextWindow(false);
-  steps.InitMessageFilter(false);
-  steps.InitCommands(false);
-  steps.FreeIconLibrary();
-  steps.DestroyDocTabBar();
-  RemovePanes(steps);
-  steps.UnloadKernel();
+void RunUnloadSequence() {
+  SaveGlobalToReg();
+  SaveRecentCommands();
+  InitScreenMenuReactor(false);
+  InitScreenMenu(false, true);
+  InitContextWindow(false, nullptr);
+  unbuilt::InitMessageFilter(false);
+  RemoveCommands();
+  FreeIconLibrary();
+  unbuilt::DestroyDocTabBar();
+  RemovePanes();
+  UnloadKernel();
 }

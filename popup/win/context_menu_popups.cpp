@@ -4,23 +4,23 @@
 #include "afxext.h"
 
 #include "acdocman.h"
+#include "ground/command_line.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
 #include "popup/win/context_menu_wnd.h"
 #include "popup/host_selection.h"
 #include "popup/menu_line_run.h"
 #include "rxmfcapi.h"
-#include "screenmenu/row_plan.h"
-#include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
+#include "screenmenu/screen_menu_door.h"
+#include "statusbar/status_bar_door.h"
 
 // What a LISP function or a message inside the loop may not start again.
-class CContextMenuWnd::Showing {
+class CContextMenuWnd::ShowingScope {
  public:
-  explicit Showing(bool& flag) : m_flag(flag) { m_flag = true; }
-  ~Showing() { m_flag = false; }
-  Showing(const Showing&) = delete;
-  Showing& operator=(const Showing&) = delete;
+  explicit ShowingScope(bool& flag) : m_flag(flag) { m_flag = true; }
+  ~ShowingScope() { m_flag = false; }
+  ShowingScope(const ShowingScope&) = delete;
+  ShowingScope& operator=(const ShowingScope&) = delete;
 
  private:
   bool& m_flag;
@@ -30,24 +30,13 @@ namespace {
 
 class LiveLineHost : public MenuLineHost {
  public:
-  LiveLineHost(qvx::LispCaller& lisp, TMenuStack& recent) : m_lisp(lisp), m_recent(recent) {}
-  qvx::LispCaller& Lisp() override { return m_lisp; }
-  void UpdateStatusBar() override {
-    if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->UpdateStatusBar();
-  }
-  void RefreshSwitches() override {
-    if (g_pScreenMenu && g_pScreenMenu->RootGroup()) g_pScreenMenu->RootGroup()->RefreshSwitches();
-  }
+  qvx::LineSources Lines() override { return MenuLines(); }
+  void UpdateStatusBar() override { UpdateStatusPanes(); }
+  void RefreshSwitches() override { RefreshScreenMenu(); }
   void Print(const wchar_t* text) override { adsout << text; }
-  void TailCommand(const wchar_t* text) override {
-    if (g_pScreenMenu) g_pScreenMenu->TailCommand(text);
-  }
-  void AddRecent(const wchar_t* command) override { m_recent.AddRecent(command); }
+  void TailCommand(const wchar_t* text) override { ::TailCommand(text); }
+  void AddRecent(const wchar_t* command) override { NoteRecentCommand(command); }
   void SendToHost(const wchar_t* text) override { qvx::SendToHost(text); }
-
- private:
-  qvx::LispCaller& m_lisp;
-  TMenuStack& m_recent;
 };
 
 }  // namespace
@@ -74,7 +63,7 @@ int CContextMenuWnd::IsOurMenu(const CMenu* menu) const {
 }
 
 void CContextMenuWnd::ForgetLines() {
-  ++m_linesForgotten;
+  m_menuLife.Renew();
   m_pBar = nullptr;
   for (CBitmapMenu* menu : m_popups)
     for (CBitmapMenuItemData* row : menu->m_items) row->Forget();
@@ -112,12 +101,8 @@ int CContextMenuWnd::Track(TMenuBar& bar, int firstId, CPoint point, UINT flags)
   int result = 0;
   bool isShown = false;
   {
-    const Showing showing(m_isShowing);
-    const auto isMenuGone = [this, before = m_linesForgotten] {
-      return m_linesForgotten != before;
-    };
-    const PopupPlan plan = PlanPopup(bar, PopupIds::kRunning, firstId,
-                                     {&m_lisp, &m_menuSystem, g_hQvxDll != nullptr, isMenuGone});
+    const ShowingScope showing(m_isShowing);
+    const PopupPlan plan = PlanPopup(bar, PopupIds::kRunning, firstId, Lines());
     isShown = !plan.menus.empty();
     if (isShown) {
       BuildPopup(plan, *m_pMenu, *this);
@@ -130,7 +115,7 @@ int CContextMenuWnd::Track(TMenuBar& bar, int firstId, CPoint point, UINT flags)
 
 // The choice arrives when the menu has closed; its objects are alive until the next pop-up.
 BOOL CContextMenuWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-  LiveLineHost host(m_lisp, m_menuSystem.m_recent);
+  LiveLineHost host;
   if (HIWORD(wParam) == 0 && m_pBar && ExecuteMenuLine(*m_pBar, LOWORD(wParam), host)) return TRUE;
   return CWnd::OnCommand(wParam, lParam);
 }
@@ -157,7 +142,7 @@ void CContextMenuWnd::OnMenuSelect(UINT id, UINT flags, HMENU menu) {
   CMDIFrameWnd* frame = acedGetAcadFrame();
   if (!frame) return;
   const TMenuItem* line = m_pBar->FindItemById(static_cast<int>(id));
-  const wchar_t* help = line ? qvx::HelpOfLine(*line, &m_menuSystem, true) : nullptr;
+  const wchar_t* help = line ? qvx::HelpOfLine(*line, Lines()) : nullptr;
   frame->SetMessageText(help ? help : L"");
   m_bStatusText = 1;
 }
@@ -174,7 +159,7 @@ int ShowContextMenu(CPoint point, int force) {
   return window ? window->ShowContextMenu(point, force) : 0;
 }
 
-int ShowBlockMenu(TMenuBar& block, int x, int y, UINT flags) {
+int ShowBlockMenu(TMenuBar& block, int x, int y, unsigned flags) {
   CContextMenuWnd* window = TheContextWindow();
   return window ? window->ShowMenuAt(block, CPoint(x, y), flags) : 0;
 }

@@ -7,32 +7,14 @@
 #include "acdocman.h"
 #include "aced.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "rxmfcapi.h"
+#include "screenmenu/screen_menu_door.h"
 
 namespace {
 
-constexpr UINT kStartPeriod = 10;  // also of the recent files
-constexpr UINT kOpenRequestPeriod = 150;
+constexpr UINT kReadinessPeriod = 10;
 
 std::unique_ptr<CContextMenuWnd> g_window;
-
-class HostOpener : public DocumentOpener {
- public:
-  explicit HostOpener(CWnd& window) : m_window(window) {}
-  bool IsApplicationContext() override {
-    AcApDocManager* documents = acDocManagerPtr();
-    return documents && documents->isApplicationContext();
-  }
-  void OpenDocument(const wchar_t* path) override {
-    acDocManagerPtr()->appContextOpenDocument(path);
-  }
-  void StopTimer(int id) override { m_window.KillTimer(static_cast<UINT_PTR>(id)); }
-  void PostCommand(const wchar_t* text) override { QvxExport::PostCommand(text, 0); }
-
- private:
-  CWnd& m_window;
-};
 
 }  // namespace
 
@@ -44,8 +26,14 @@ ON_WM_MENUSELECT()
 ON_WM_EXITMENULOOP()
 END_MESSAGE_MAP()
 
+CContextMenuWnd::CContextMenuWnd(void (*onReadiness)()) : m_onReadiness(onReadiness) {
+  m_menuSystem.m_recent.SetSources(this);
+  SetMenuInForce(this);
+}
+
 // A line of the menu may show the recent list, which would go before the line does.
 CContextMenuWnd::~CContextMenuWnd() {
+  SetMenuInForce(nullptr);
   m_isShowing = false;
   ResetPopups();
   m_menuSystem.EmptyLists();
@@ -54,36 +42,40 @@ CContextMenuWnd::~CContextMenuWnd() {
 BOOL CContextMenuWnd::CreateIn(CWnd* frame) {
   const RECT onePixel = {0, 0, 1, 1};
   if (!Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, onePixel, frame, kControlId)) return FALSE;
-  SetTimer(kReadinessTimer, kStartPeriod, nullptr);
+  SetTimer(kReadinessTimer, kReadinessPeriod, nullptr);
   return TRUE;
 }
 
-void CContextMenuWnd::StartOpening() {
-  if (!m_openQueue.IsEmpty()) SetTimer(kRecentFilesTimer, kStartPeriod, nullptr);
+void CContextMenuWnd::ReopenDrawings(const TWCStringList& files) {
+  for (int i = 0; i < files.Length(); ++i) m_openQueue.Append(new CString(files[i].c_str()));
+  m_opening.Start();
 }
 
 BOOL CContextMenuWnd::PreTranslateMessage(MSG* message) {
   if (message->message != kOpenRequestMessage) return CWnd::PreTranslateMessage(message);
-  SetTimer(kOpenRequestTimer, kOpenRequestPeriod, nullptr);
+  m_opening.RequestOpen();
   return TRUE;
 }
 
 void CContextMenuWnd::OnTimer(UINT_PTR id) {
-  HostOpener opener(*this);
   if (id == kReadinessTimer)
-    m_steps.OnMenuReadiness();
-  else if (id == kRecentFilesTimer)
-    m_recentOpening.Step(m_openQueue, opener);
-  else if (id == kOpenRequestTimer)
-    OpenRequestedFile(g_szFileNameToOpen, g_szInitCmdStr, opener);
-  else
+    m_onReadiness();
+  else if (!m_opening.OnTimer(id))
     CWnd::OnTimer(id);
 }
 
-void InitContextWindow(bool create, StartupSteps* steps) {
+qvx::LineSources CContextMenuWnd::Lines() {
+  return {&m_lisp, &m_menuSystem, g_hQvxDll != nullptr, m_menuLife.Watch()};
+}
+
+bool CContextMenuWnd::IsRunMode() { return g_nRunMode != 0; }
+
+TMenuBar* CContextMenuWnd::ScreenRoot() { return ScreenMenuRootBar(); }
+
+void InitContextWindow(bool create, void (*onReadiness)()) {
   if (create) {
-    if (g_window || !steps) return;
-    g_window = std::make_unique<CContextMenuWnd>(*steps);
+    if (g_window || !onReadiness) return;
+    g_window = std::make_unique<CContextMenuWnd>(onReadiness);
     g_window->CreateIn(acedGetAcadFrame());
     g_pContextMenu = g_window.get();
     return;
@@ -92,6 +84,14 @@ void InitContextWindow(bool create, StartupSteps* steps) {
   if (::IsWindow(g_window->m_hWnd)) g_window->DestroyWindow();
   g_window.reset();
   g_pContextMenu = nullptr;
+}
+
+void StopReadinessTimer() {
+  if (g_window) g_window->StopReadinessTimer();
+}
+
+void ReopenDrawings(const TWCStringList& files) {
+  if (g_window) g_window->ReopenDrawings(files);
 }
 
 CContextMenuWnd* TheContextWindow() { return g_window.get(); }

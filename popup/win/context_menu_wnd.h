@@ -1,38 +1,35 @@
 // The context window: a child of the host frame, one pixel in size, that owns the one loaded menu
-// and every pop-up of the system, carries the timers which finish the start-up, and opens drawings
-// that were asked for from outside. Where to look: context_menu_wnd.cpp coming up, timers, opening;
-// context_menu_popups.cpp pop-ups and their messages. Made and ended by InitContextWindow alone.
+// and every pop-up of the system, and carries the timers of the start-up. Others reach the menu
+// through menu/menu_in_force.h and the pop-ups through popup/popup_door.h. Where to look:
+// context_menu_wnd.cpp coming up, timers, the menu; context_menu_popups.cpp pop-ups and their
+// messages; drawing_opening.h opening drawings. Made and destroyed by InitContextWindow alone.
 #pragma once
 
 #include "afxwin.h"
 #include "frame/containers/tdptrlist.h"
-#include "menu/menu_system.h"
-#include "popup/open_timers.h"
+#include "ground/host_lisp.h"
+#include "menu/menu_in_force.h"
+#include "popup/popup_door.h"
+#include "popup/win/drawing_opening.h"
 #include "popup/win/popup_build.h"
-#include "screenmenu/win/host_lisp.h"
 
-// What the window's readiness timer asks of the module. The frame implements it.
-class StartupSteps {
- public:
-  virtual ~StartupSteps() = default;
-  virtual void OnMenuReadiness() = 0;
-};
-
-class CContextMenuWnd : public CWnd, private PopupOwner {
+class CContextMenuWnd : public CWnd,
+                        private PopupOwner,
+                        private MenuInForce,
+                        private RecentSources {
  public:
   static constexpr int kReadinessTimer = 20;
   static constexpr UINT kControlId = 310;
   static constexpr UINT kOpenRequestMessage = 0x500;
 
-  explicit CContextMenuWnd(StartupSteps& steps) : m_steps(steps) {}
+  // Registers itself as the menu in force. `onReadiness` is called by the readiness timer.
+  explicit CContextMenuWnd(void (*onReadiness)());
   ~CContextMenuWnd() override;
 
   // Child of the frame; starts the readiness timer.
   BOOL CreateIn(CWnd* frame);
   void StopReadinessTimer() { KillTimer(kReadinessTimer); }
-
-  // Starts reopening what stands in m_openQueue; nothing with an empty queue.
-  void StartOpening();
+  void ReopenDrawings(const TWCStringList& files);
 
   // The menu for what is selected, at a screen point; `force` shows one also with nothing selected.
   // What TrackPopupMenu gives, or 0 when no menu is shown.
@@ -40,23 +37,16 @@ class CContextMenuWnd : public CWnd, private PopupOwner {
   // A given block, which has to live until the next pop-up. `flags` go to the system beside ours.
   int ShowMenuAt(TMenuBar& bar, CPoint point, UINT flags);
 
-  // Ends the pop-up of the last time. Not while one is on the screen: it does nothing then.
+  // Destroys the pop-up of the last time. Does nothing while one is on the screen.
   void ResetPopups();
   int IsOurMenu(const CMenu* menu) const;
-  // Lines that a pop-up may show are going, because another menu was loaded or the screen menu
-  // goes: rows that are left lose their lines, and what shows closes.
-  void ForgetLines();
+
+  const TMenuBar* Bar() const { return m_pBar; }  // of the present pop-up; null when none
+  const CBitmapMenu* Menu() const { return m_pMenu; }
+  const TDPtrList<CBitmapMenu>& Popups() const { return m_popups; }
+  int IsHelpShown() const { return m_bStatusText; }
 
   BOOL PreTranslateMessage(MSG* message) override;
-
-  TDPtrList<CBitmapMenu> m_popups;  // every menu and sub-menu of the present pop-up
-  TMenuSystem m_menuSystem;
-  TMenuBar* m_pBar = nullptr;      // of the present pop-up; not owned
-  CBitmapMenu* m_pMenu = nullptr;  // its top menu; not owned
-  TDPtrList<CString> m_openQueue;  // files waiting to be opened
-  int m_bStatusText = 0;           // the status bar shows a row's help text
-
-  TMenuBar* m_pToolBar = nullptr;  // the menu's ToolBar block; stays in m_menuSystem
 
  protected:
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -68,23 +58,38 @@ class CContextMenuWnd : public CWnd, private PopupOwner {
   DECLARE_MESSAGE_MAP()
 
  private:
-  class Showing;
+  class ShowingScope;
+
+  // MenuInForce.
+  TMenuSystem& System() override { return m_menuSystem; }
+  qvx::LineSources Lines() override;
+  void ForgetLines() override;
+  void SetToolBar(TMenuBar* bar) override { m_pToolBar = bar; }
+
+  // RecentSources: where a recent command's label and icon come from.
+  bool IsRunMode() override;
+  TMenuBar* ScreenRoot() override;
+  TMenuSystem* CurrentSystem() override { return &m_menuSystem; }
+
   CBitmapMenu* AddPopup() override;
   int FindBlock(bool force);
   int Track(TMenuBar& bar, int firstId, CPoint point, UINT flags);
 
-  StartupSteps& m_steps;
-  RecentOpening m_recentOpening;
+  TDPtrList<CBitmapMenu> m_popups;  // every menu and sub-menu of the present pop-up
+  TMenuSystem m_menuSystem;
+  TMenuBar* m_pBar = nullptr;      // of the present pop-up; not owned
+  CBitmapMenu* m_pMenu = nullptr;  // its top menu; not owned
+  TDPtrList<CString> m_openQueue;  // files waiting to be opened
+  int m_bStatusText = 0;           // the status bar shows a row's help text
+
+  TMenuBar* m_pToolBar = nullptr;  // the menu's ToolBar block; stays in m_menuSystem
+  void (*m_onReadiness)();
+  DrawingOpening m_opening{*this, m_openQueue};
   qvx::HostLisp m_lisp;
-  bool m_isShowing = false;  // from the first question to a LISP function until the menu closes
-  int m_linesForgotten = 0;
+  qvx::MenuLife m_menuLife;
+  bool m_isShowing = false;  // from the first call of a LISP function until the menu closes
 };
 
-// Makes the one window, or destroys it; g_pContextMenu follows. The steps are needed for making
-// only and must outlive the window.
-void InitContextWindow(bool create, StartupSteps* steps);
 CContextMenuWnd* TheContextWindow();  // null when there is none
 
-// 0 without a context window.
-int ShowContextMenu(CPoint point, int force);
-int ShowBlockMenu(TMenuBar& block, int x, int y, UINT flags);
+int ShowContextMenu(CPoint point, int force);  // 0 without a context window

@@ -4,20 +4,25 @@
 #pragma once
 
 #include "afxwin.h"
-#include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
-#include "screenmenu/menu_watch.h"
+#include "menu/line_state.h"
 
-class CMenuGroup;
+// A group as its rows see it; the parent window of a row is one.
+class RowHolder {
+ public:
+  // Puts rows that the last scrolling left behind, far from the view, where they belong.
+  virtual void SettleRows() = 0;
+
+ protected:
+  ~RowHolder() = default;
+};
 
 class GroupOwner {
  public:
   virtual ~GroupOwner() = default;
 
-  virtual qvx::LispCaller& Lisp() = 0;
-  // Over the lines, the rows that show them and this owner: any LISP call may end them all.
-  virtual qvx::MenuWatch Watch() const = 0;
-  virtual const TMenuSystem* MenuSystem() = 0;  // null with no context window
+  // The watch is over the lines, the rows that show them and this owner: any LISP call may end
+  // them all.
+  virtual qvx::LineSources Lines() = 0;
   // Kept for the palette's life; null when the bitmap did not load.
   virtual HBITMAP Arrow(int depth, bool open) = 0;
   // The same for a bitmap of the icon library: many rows show one icon, and loading is slow.

@@ -13,8 +13,7 @@ constexpr int kEdgeReach = 2;      // the sunken edge around an open group
 
 qvx::TreeRequest RequestTree(GroupOwner& owner, bool limitHeight, int clientHeight) {
   qvx::TreeRequest request{};
-  request.sources = {&owner.Lisp(), owner.MenuSystem(), g_hQvxDll != nullptr, g_iMenuRowHeight,
-                     owner.Watch()};
+  request.sources = {owner.Lines(), g_iMenuRowHeight};
   request.limitHeight = limitHeight;
   request.openFirst = g_bDefaultOpenFirst != 0;
   request.rememberedOpen = request.openFirst ? qvx::kNothingOpen : qvx::LoadActiveSubMenu();
@@ -134,23 +133,22 @@ void CMenuGroup::ShowOpenChild(bool show) {
 }
 
 // The list's cursor is the open index: children are reached by node, so that it stays where it is.
-void CMenuGroup::RefreshSwitches() { RefreshWatched(m_pOwner->Watch()); }
+void CMenuGroup::RefreshSwitches() { RefreshWatched(m_pOwner->Lines()); }
 
 // Ends at once when the menu goes: this group is gone too then.
-void CMenuGroup::RefreshWatched(const qvx::MenuWatch& watch) {
+void CMenuGroup::RefreshWatched(const qvx::LineSources& lines) {
   for (CSMenuItem* row : m_items) {
-    if (row->Line()->m_pSwitch) RefreshSwitch(*row, watch);
-    if (watch.IsGone()) return;
+    if (row->Line()->m_pSwitch) RefreshSwitch(*row, lines);
+    if (lines.watch.IsGone()) return;
   }
   for (auto* node = m_children.FirstNode(); node; node = m_children.NextNode(node)) {
-    if (node->value) node->value->RefreshWatched(watch);
-    if (watch.IsGone()) return;
+    if (node->value) node->value->RefreshWatched(lines);
+    if (lines.watch.IsGone()) return;
   }
 }
 
-void CMenuGroup::RefreshSwitch(CSMenuItem& row, const qvx::MenuWatch& watch) {
-  if (qvx::RefreshSwitchLine(*row.Line(), m_pOwner->Lisp(), watch) && row.GetSafeHwnd())
-    row.ShowState();
+void CMenuGroup::RefreshSwitch(CSMenuItem& row, const qvx::LineSources& lines) {
+  if (qvx::RefreshSwitchLine(*row.Line(), lines) && row.GetSafeHwnd()) row.ShowState();
 }
 
 void CMenuGroup::OnPaint() {

@@ -10,7 +10,7 @@
 #include "screenmenu/group_plan.h"
 #include "screenmenu/win/menu_item_button.h"
 
-class CMenuGroup : public CWnd {
+class CMenuGroup : public CWnd, public RowHolder {
   DECLARE_DYNAMIC(CMenuGroup)
  public:
   // Bar and owner outlive the group. The tree below the bar is planned and built here, unseen; the
@@ -29,9 +29,8 @@ class CMenuGroup : public CWnd {
 
   void LayoutGroup();
   void ScrollGroup(UINT code, int position);
-  // Puts rows that the last scrolling left behind, far from the view, where they belong. For those
-  // who ask for places; changes nothing that is seen.
-  void SettleRows();
+  // For those who ask for places; changes nothing that is seen.
+  void SettleRows() override;
   int WheelGroup(UINT flags, short delta, CPoint point);  // 1 when it scrolled
   void RevealRect(const CRect& rect);
 
@@ -79,8 +78,8 @@ class CMenuGroup : public CWnd {
   void ShowOpenChild(bool show);
   int FindRow(UINT ctrlId) const;  // -1 when no button of this group has it
   void ClickSwitch(CSMenuItem& row);
-  void RefreshWatched(const qvx::MenuWatch& watch);
-  void RefreshSwitch(CSMenuItem& row, const qvx::MenuWatch& watch);
+  void RefreshWatched(const qvx::LineSources& lines);
+  void RefreshSwitch(CSMenuItem& row, const qvx::LineSources& lines);
 
   TMenuBar* m_pBar;                // not owned
   TDPtrList<CSMenuItem> m_items;   // one for each line, in line order

@@ -42,8 +42,7 @@ void CMenuGroup::ClickSwitch(CSMenuItem& row) {
     return;
   }
   row.ReleaseMouse();
-  const qvx::SwitchResult result =
-      qvx::FlipSwitch(*row.Line(), m_pOwner->Lisp(), m_pOwner->Watch());
+  const qvx::SwitchResult result = qvx::FlipSwitch(*row.Line(), m_pOwner->Lines());
   if (result == qvx::SwitchResult::kGone || result == qvx::SwitchResult::kRefused) return;
   if (result == qvx::SwitchResult::kChanged) {
     row.SetBitmaps(nullptr, nullptr, 0, 0);

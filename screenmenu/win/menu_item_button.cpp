@@ -4,7 +4,6 @@
 
 #include "kernel/globals.h"
 #include "screenmenu/menu_colors.h"
-#include "screenmenu/win/menu_group.h"
 #include "ground/win/module_handle.h"
 
 namespace {
@@ -79,8 +78,7 @@ void CSMenuItem::ShowIcon(const wchar_t* bitmap) {
 
 void CSMenuItem::ShowState() {
   SetWindowTextW(m_pMenuItem->m_strLabel);
-  const qvx::RowSources sources{nullptr, m_pOwner->MenuSystem(), g_hQvxDll != nullptr, 0};
-  const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, sources);
+  const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, m_pOwner->Lines());
   if (bitmap) ShowIcon(bitmap);
 }
 
@@ -91,9 +89,7 @@ void CSMenuItem::ReleaseMouse() {
 // The tip's text is set at the first time the pointer comes and never changes again, also on a
 // switch line that shows another state since.
 void CSMenuItem::OnMouseEnter() {
-  const wchar_t* help =
-      m_pMenuItem ? qvx::HelpOfLine(*m_pMenuItem, m_pOwner->MenuSystem(), g_hQvxDll != nullptr)
-                  : nullptr;
+  const wchar_t* help = m_pMenuItem ? qvx::HelpOfLine(*m_pMenuItem, m_pOwner->Lines()) : nullptr;
   if (help && g_bShowMenuTip) {
     SetTooltipText(help);
     ActivateTooltip(TRUE);
@@ -105,7 +101,7 @@ void CSMenuItem::OnMouseEnter() {
 
 // The keyboard gives no place: the pop-up then hangs below the row.
 void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
-  if (!m_pOwner->MenuSystem() || !m_pMenuItem) return;
+  if (!m_pOwner->Lines().system || !m_pMenuItem) return;
   ReleaseMouse();
   m_pOwner->RestoreStatusBar();
   ClearHover();
@@ -144,13 +140,13 @@ qvx::RowFacts CSMenuItem::Facts() const {
 }
 
 std::wstring CSMenuItem::Help() const {
-  const wchar_t* help = qvx::HelpOfLine(*m_pMenuItem, m_pOwner->MenuSystem(), g_hQvxDll != nullptr);
+  const wchar_t* help = qvx::HelpOfLine(*m_pMenuItem, m_pOwner->Lines());
   return help ? help : L"";
 }
 
 void CSMenuItem::SettlePlace() const {
   for (HWND at = ::GetParent(m_hWnd); at; at = ::GetParent(at)) {
-    auto* group = DYNAMIC_DOWNCAST(CMenuGroup, CWnd::FromHandlePermanent(at));
+    auto* group = dynamic_cast<RowHolder*>(CWnd::FromHandlePermanent(at));
     if (!group) return;
     group->SettleRows();
   }

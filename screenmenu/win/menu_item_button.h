@@ -4,12 +4,11 @@
 
 #include "dialogs/win/button_st.h"
 #include "screenmenu/win/group_owner.h"
-#include "screenmenu/row_access.h"
 #include "screenmenu/win/row_accessible.h"
 #include "screenmenu/row_look.h"
 #include "screenmenu/row_plan.h"
 
-class CSMenuItem : public CButtonST {
+class CSMenuItem : public CButtonST, public AccessibleRow {
   DECLARE_DYNAMIC(CSMenuItem)
  public:
   // Line and owner outlive the row.
@@ -35,10 +34,9 @@ class CSMenuItem : public CButtonST {
   void ReleaseMouse();
 
   // What screen readers are told.
-  qvx::RowFacts Facts() const;
-  std::wstring Help() const;
-  // Before somebody asks where the row is.
-  void SettlePlace() const;
+  qvx::RowFacts Facts() const override;
+  std::wstring Help() const override;
+  void SettlePlace() const override;
 
  protected:
   void OnMouseEnter() override;

@@ -7,9 +7,7 @@
 
 #include <atomic>
 
-#include "screenmenu/win/menu_item_button.h"
 #include "ground/guard.h"
-#include "screenmenu/row_access.h"
 
 namespace {
 
@@ -66,36 +64,36 @@ class RowAccessible final : public IAccessible {
   }
 
   STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
-    return Ask(child, [name](const CSMenuItem& row) {
+    return Ask(child, [name](const AccessibleRow& row) {
       return GiveText(qvx::AccessName(row.Facts().caption), name);
     });
   }
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
-    return Ask(child, [role](const CSMenuItem& row) {
+    return Ask(child, [role](const AccessibleRow& row) {
       return GiveNumber(qvx::AccessRole(row.Facts()), role);
     });
   }
   STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override {
-    return Ask(child, [state](const CSMenuItem& row) {
+    return Ask(child, [state](const AccessibleRow& row) {
       return GiveNumber(qvx::AccessStates(row.Facts()), state);
     });
   }
   STDMETHODIMP get_accHelp(VARIANT child, BSTR* help) override {
-    return Ask(child, [help](const CSMenuItem& row) { return GiveText(row.Help(), help); });
+    return Ask(child, [help](const AccessibleRow& row) { return GiveText(row.Help(), help); });
   }
   STDMETHODIMP get_accKeyboardShortcut(VARIANT child, BSTR* key) override {
-    return Ask(child, [key](const CSMenuItem& row) {
+    return Ask(child, [key](const AccessibleRow& row) {
       return GiveText(qvx::AccessKey(row.Facts().caption), key);
     });
   }
   STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
-    return Ask(child, [action](const CSMenuItem& row) {
+    return Ask(child, [action](const AccessibleRow& row) {
       return GiveText(qvx::AccessAction(row.Facts()), action);
     });
   }
   // Posted: a click may open a box, and the reader would wait until it closes.
   STDMETHODIMP accDoDefaultAction(VARIANT child) override {
-    return Ask(child, [this](const CSMenuItem& row) -> HRESULT {
+    return Ask(child, [this](const AccessibleRow& row) -> HRESULT {
       if (!row.Facts().enabled) return E_INVALIDARG;
       return ::PostMessageW(m_row, BM_CLICK, 0, 0) ? S_OK : E_FAIL;
     });
@@ -127,7 +125,7 @@ class RowAccessible final : public IAccessible {
     return m_standard->accSelect(flags, child);
   }
   STDMETHODIMP accLocation(long* x, long* y, long* width, long* height, VARIANT child) override {
-    Ask(child, [](const CSMenuItem& row) {
+    Ask(child, [](const AccessibleRow& row) {
       row.SettlePlace();
       return S_OK;
     });
@@ -145,16 +143,16 @@ class RowAccessible final : public IAccessible {
  private:
   ~RowAccessible() { m_standard->Release(); }
 
-  const CSMenuItem* Row(const VARIANT& child) const {
+  const AccessibleRow* Row(const VARIANT& child) const {
     if (!IsSelf(child)) return nullptr;
-    return DYNAMIC_DOWNCAST(CSMenuItem, CWnd::FromHandlePermanent(m_row));
+    return dynamic_cast<const AccessibleRow*>(CWnd::FromHandlePermanent(m_row));
   }
 
   // The answer of the row; E_INVALIDARG for another child or a row that is gone.
   template <class Answer>
   HRESULT Ask(const VARIANT& child, Answer answer) const {
     return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY}, [&]() -> HRESULT {
-      const CSMenuItem* row = Row(child);
+      const AccessibleRow* row = Row(child);
       return row ? answer(*row) : E_INVALIDARG;
     });
   }

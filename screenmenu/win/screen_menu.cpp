@@ -6,11 +6,11 @@
 
 #include "aced.h"
 #include "adslib.h"
+#include "ground/command_line.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
 #include "ground/win/module_handle.h"
 #include "screenmenu/palette_settings.h"
-#include "screenmenu/screen_menu_host.h"
 
 namespace {
 
@@ -31,7 +31,7 @@ END_MESSAGE_MAP()
 CScreenMenu::CScreenMenu() = default;
 
 CScreenMenu::~CScreenMenu() {
-  if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->ForgetPopups();
+  ForgetMenuLines();
   m_pTailMenu.reset();
   m_pRootGroup.reset();
   if (::IsWindow(m_hDockBar)) RestoreDockBar();
@@ -55,12 +55,14 @@ void CScreenMenu::TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* ti
 
 void AttachScreenBar(TMenuSystem& system) {
   std::unique_ptr<TMenuBar> bar = qvx::DetachScreenBar(system);
+  ForgetMenuLines();
   if (g_pScreenMenu) g_pScreenMenu->MenuWasLoaded();
   if (bar && g_pScreenMenu) g_pScreenMenu->TakeScreenBar(std::move(bar), qvx::RootTitle(system));
 }
 
+TMenuBar* ScreenMenuRootBar() { return g_pScreenMenu ? g_pScreenMenu->RootBar() : nullptr; }
+
 void CScreenMenu::MenuWasLoaded() {
-  m_menuLife.Renew();
   if (m_rootItem.m_pSubMenu) qvx::DropSwitches(*m_rootItem.m_pSubMenu);
 }
 
@@ -71,7 +73,7 @@ void CScreenMenu::EnsureRootGroup() {
   GetUsedRect(used);
   if (m_pRootGroup) return;
   const CRect place(qvx::FirstRootGroup(used, IsFloating() != FALSE));
-  const qvx::MenuWatch watch = Watch();
+  const qvx::MenuWatch watch = Lines().watch;
   std::unique_ptr<CMenuGroup> tree(
       new CMenuGroup(&m_bar, place, this, kRootGroupId, g_bLimitHeight == 1, this));
   if (watch.IsGone()) return;
@@ -85,11 +87,6 @@ int CScreenMenu::StepBack() {
   m_bar.BackTo(line);
   EnsureRootGroup();
   return 1;
-}
-
-const TMenuSystem* CScreenMenu::MenuSystem() {
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  return host ? host->MenuSystem() : nullptr;
 }
 
 // Six bitmaps serve all headers of all depths.
@@ -165,7 +162,7 @@ void CScreenMenu::CloseSilently() {
 bool CScreenMenu::OnClosing() {
   if (m_bCloseHint) {
     acutPrintf(L"热键<Ctrl +>显示屏幕菜单\n");
-    acedPostCommandPrompt();
+    qvx::PostPrompt();
   }
   m_bCloseHint = 1;
   return CAdUiPaletteSet::OnClosing();

@@ -15,12 +15,13 @@
 
 #include "adui.h"
 #include "ground/win/owned_handle.h"
+#include "menu/menu_in_force.h"
 #include "screenmenu/dispatch_rules.h"
 #include "screenmenu/edge_drag.h"
-#include "screenmenu/win/host_lisp.h"
 #include "screenmenu/menu_colors.h"
 #include "screenmenu/win/menu_group.h"
 #include "screenmenu/screen_menu_bar.h"
+#include "screenmenu/screen_menu_door.h"
 
 class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   DECLARE_DYNAMIC(CScreenMenu)
@@ -65,9 +66,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   DECLARE_MESSAGE_MAP()
 
  private:
-  qvx::LispCaller& Lisp() override { return m_lisp; }
-  qvx::MenuWatch Watch() const override { return m_menuLife.Watch(); }
-  const TMenuSystem* MenuSystem() override;
+  qvx::LineSources Lines() override { return MenuLines(); }
   HBITMAP Arrow(int depth, bool open) override;
   HBITMAP Icon(const wchar_t* name) override;
   void ArmCommand(const TWCString& command) override;
@@ -113,25 +112,11 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   HWND m_hDockBar = nullptr;                 // the dock bar whose window procedure is replaced
   WNDPROC m_pfnDockBarProc = nullptr;        // its own procedure
 
-  qvx::HostLisp m_lisp;
-  qvx::MenuLife m_menuLife;
   qvx::OwnedBitmap m_arrows[qvx::kArrowKinds][2];    // folded, open; loaded at first use
   std::map<std::wstring, qvx::OwnedBitmap> m_icons;  // by name, null for one that did not load
 };
 
 extern CScreenMenu* g_pScreenMenu;  // null when there is no palette
-
-// Creates the palette, docks and shows it, or takes an existing one back to its dock; with false
-// saves and destroys it. A reload of the menu does both in turn.
-void InitScreenMenu(bool create, bool show);
-
-// Hands the "SCREEN" block of a menu that has just been loaded to the palette. Without such a block
-// nothing changes; without a palette the block is deleted.
-void AttachScreenBar(TMenuSystem& system);
-
-// The two commands that act on the palette.
-void RefreshScreenMenu();
-void DockFloatingScreenMenu();
 
 extern "C" {
 __declspec(dllexport) int ShowScreenMenu(int show);

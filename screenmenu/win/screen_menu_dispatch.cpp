@@ -2,10 +2,11 @@
 // click: it waits, cancels what runs, and hands the keyboard back to the drawing.
 #include "afxwin.h"
 
+#include "ground/command_line.h"
 #include "rxmfcapi.h"
 #include "screenmenu/row_plan.h"
 #include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
+#include "statusbar/status_bar_door.h"
 
 void CScreenMenu::ArmCommand(const TWCString& command) {
   m_pending.Arm(command);
@@ -20,9 +21,7 @@ void CScreenMenu::OnTimer(UINT_PTR timer) {
   KillTimer(qvx::kSendTimer);
   if (CWnd* view = acedGetAcadDwgView()) view->SetFocus();
   const bool busy = IsHostBusy();
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  if (TMenuSystem* system = host ? host->MenuSystem() : nullptr)
-    system->m_recent.AddRecent(m_pending.Text());
+  NoteRecentCommand(m_pending.Text());
   qvx::SendToHost(m_pending.Take(busy));
 }
 
@@ -33,8 +32,8 @@ void CScreenMenu::ReportBusy() { AfxMessageBox(L"有命令未完成"); }
 // Status panes show some of the same switches, and other rows may be on the same one. The panes ask
 // LISP functions too, which may end this palette.
 void CScreenMenu::SwitchWasFlipped() {
-  const qvx::MenuWatch watch = Watch();
-  if (qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost()) host->UpdateStatusBar();
+  const qvx::MenuWatch watch = Lines().watch;
+  UpdateStatusPanes();
   if (!watch.IsGone() && m_pRootGroup) m_pRootGroup->RefreshSwitches();
 }
 
@@ -84,7 +83,7 @@ void CScreenMenu::FlipDirectly(CSMenuItem& item) {
     return;
   }
   item.ReleaseMouse();
-  if (qvx::FlipSwitch(*item.Line(), m_lisp, Watch()) != qvx::SwitchResult::kChanged) return;
+  if (qvx::FlipSwitch(*item.Line(), Lines()) != qvx::SwitchResult::kChanged) return;
   item.SetBitmaps(nullptr, nullptr, 0, 0);
   item.ShowState();
   item.Invalidate();

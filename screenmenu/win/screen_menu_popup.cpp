@@ -2,46 +2,59 @@
 // line. The pop-ups themselves are shown by the room that owns them.
 #include "afxwin.h"
 
+#include "ground/support_files.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
+#include "popup/popup_door.h"
 #include "rxmfcapi.h"
 #include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
 #include "screenmenu/tail_menu.h"
 
 #include <htmlhelp.h>
 
+namespace {
+
+// Named by the frame once a load, before any palette, and read by every palette after.
+TWCString& HelpFile() {
+  static TWCString s_name;
+  return s_name;
+}
+
+}  // namespace
+
+void SetScreenMenuHelpFile(const wchar_t* name) { HelpFile() = name; }
+
 TMenuBar& CScreenMenu::BuildTail(bool withHelp) {
-  m_pTailMenu = qvx::BuildTailMenu({withHelp, g_bLimitHeight != 0, RootBar(), MenuSystem(),
+  m_pTailMenu = qvx::BuildTailMenu({withHelp, g_bLimitHeight != 0, RootBar(), LoadedMenu(),
                                     QvxExport::GetFullCmdName(L"TCustomize")});
   return *m_pTailMenu;
 }
 
 void CScreenMenu::ShowLineMenu(TMenuItem& line, CPoint at) {
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  if (!host) return;
   m_pClickedItem = &line;
-  host->ShowMenuAt(BuildTail(g_nRunMode == 0), at, 0);
+  ShowBlockMenu(BuildTail(g_nRunMode == 0), at.x, at.y, 0);
 }
 
 // A header gives its own lines, without unfolding, on the side that is farther from the frame's
 // edge.
 void CScreenMenu::ShowHeaderMenu(TMenuBar& bar, const CRect& button, CPoint at) {
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
   CWnd* frame = acedGetAcadFrame();
-  if (!host || !frame) return;
+  if (!frame) return;
   CRect frameRect;
   frame->GetWindowRect(&frameRect);
-  host->ShowMenuAt(bar, {qvx::HeaderPopupX(button, frameRect), at.y}, 0);
+  ShowBlockMenu(bar, qvx::HeaderPopupX(button, frameRect), at.y, 0);
 }
 
 void CScreenMenu::RestoreStatusBar() { acedRestoreStatusBar(); }
 
 void CScreenMenu::OnContextMenu(CWnd*, CPoint point) {
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  if (!host || !host->MenuSystem()) return;
+  if (!LoadedMenu()) return;
   RestoreStatusBar();
-  host->ShowMenuAt(BuildTail(false), point, 0);
+  ShowBlockMenu(BuildTail(false), point.x, point.y, 0);
+}
+
+void TailCommand(const wchar_t* text) {
+  if (g_pScreenMenu) g_pScreenMenu->TailCommand(text);
 }
 
 void CScreenMenu::TailCommand(const wchar_t* text) {
@@ -53,9 +66,8 @@ void CScreenMenu::TailCommand(const wchar_t* text) {
 
 // The help file opens, looks the label up as a keyword, and falls back to its index.
 void CScreenMenu::ShowHelpFor(const TMenuItem& line) {
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  wchar_t path[QvxExport::kPathUnits];
-  if (!host || !QvxExport::FindFile(host->HelpFile(), path)) return;
+  TWCString path;
+  if (!qvx::FindFile(HelpFile(), path)) return;
   const TWCString label(line.m_strLabel);
   ::HtmlHelpW(nullptr, path, HH_DISPLAY_TOPIC, 0);
   HH_AKLINK link{};

@@ -4,8 +4,9 @@
 #include <utility>
 
 #include "acstatusbar.h"
+#include "ground/unbuilt_rooms.h"
 #include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
+#include "statusbar/status_bar_door.h"
 
 namespace {
 
@@ -29,13 +30,12 @@ void TScreenMenuReactor::documentToBeDestroyed(AcApDocument*) { EnableForOnlyDra
 
 void TScreenMenuReactor::documentActivated(AcApDocument*) {
   AcApDocManager* documents = acDocManagerPtr();
-  qvx::ScreenMenuHost* host = qvx::TheScreenMenuHost();
-  if (!host || documents->documentCount() == 0 || !documents->curDocument()) return;
-  host->WriteDrawingScale();
-  host->RefreshDrawingPanes();
-  host->RefreshScaleText();
+  if (documents->documentCount() == 0 || !documents->curDocument()) return;
+  qvx::WriteHatchScale();
+  RefreshDrawingPanes();
+  RefreshScaleText();
   if (AcApStatusBar* bar = acedGetApplicationStatusBar()) bar->Update();
-  host->ResetPreviewCounters();
+  unbuilt::ResetPreviewCounters();
 }
 
 void InitScreenMenuReactor(bool add) {

@@ -12,6 +12,3 @@ class TScreenMenuReactor : public AcApDocManagerReactor {
   void documentToBeDestroyed(AcApDocument* document) override;
   void documentActivated(AcApDocument* document) override;
 };
-
-// True makes the reactor and registers it, false takes it out again and deletes it.
-void InitScreenMenuReactor(bool add);

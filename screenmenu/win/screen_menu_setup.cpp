@@ -3,9 +3,10 @@
 #include "afxwin.h"
 
 #include "adscodes.h"
+#include "ground/command_line.h"
 #include "ground/product_section.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "rxmfcapi.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/win/screen_menu.h"
@@ -29,8 +30,8 @@ PaletteFace ReadPaletteFace() {
 // the host may still draw them while the palette goes down.
 void GiveIcons(CWnd& window, const wchar_t* iconFile) {
   static qvx::OwnedIcon s_large, s_small;
-  wchar_t path[QvxExport::kPathUnits];
-  if (!*iconFile || !QvxExport::FindFile(iconFile, path)) return;
+  TWCString path;
+  if (!*iconFile || !qvx::FindFile(iconFile, path)) return;
   HICON large = nullptr, small = nullptr;
   ::ExtractIconExW(path, 0, &large, &small, 1);
   window.SendMessage(WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large));
@@ -115,12 +116,13 @@ void InitScreenMenu(bool create, bool show) {
     TakeDown();
 }
 
+bool ScreenMenuHasWindow() { return g_pScreenMenu && ::IsWindow(g_pScreenMenu->m_hWnd); }
+
 void RefreshScreenMenu() {
   CMenuGroup* root = g_pScreenMenu ? g_pScreenMenu->RootGroup() : nullptr;
   if (root) root->RefreshSwitches();
 }
 
-// In spite of its command's name, TFloatMenuBar, this docks.
 void DockFloatingScreenMenu() {
   if (!qvx::HasWorkingDatabase() || !g_pScreenMenu || !g_pScreenMenu->IsFloating()) return;
   acedGetAcadFrame()->DockControlBar(g_pScreenMenu, AFX_IDW_DOCKBAR_LEFT, nullptr);

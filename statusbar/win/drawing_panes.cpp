@@ -4,11 +4,12 @@
 
 #include "adslib.h"
 #include "ground/host_variables.h"
+#include "ground/command_line.h"
+#include "ground/product_registry.h"
 #include "kernel/drawing_switches.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "kernel/tdbconfig.h"
-#include "kernel/tregproperty.h"
 #include "statusbar/win/switch_panes.h"
 
 namespace {
@@ -23,20 +24,16 @@ bool IsSwitchOn(int (TDbConfig::*read)() const) {
 
 // The sibling module's options dialog opens at the page given by this value.
 void OpenPaneOptions() {
-  TRegProperty key(GetRegLocation(), L"Settings\\ScreenMenu");
-  key.SetTopRootKey(HKEY_CURRENT_USER);
-  key.SetValue(L"PaneCallOption", 1);
+  qvx::ScreenMenuKey().SetValue(L"PaneCallOption", 1);
   QvxExport::PostCommand(L"TOptions\n", 0);
 }
-
-int CommandActive() { return qvx::ShortVariable(L"CMDACTIVE").value_or(0); }
 
 }  // namespace
 
 bool TaKhsKsj123::IsOn() { return IsSwitchOn(&TDbConfig::SolidFill); }
 
 void TaKhsKsj123::OnToggle() {
-  if (!qvx::DrawingSwitchActs(CommandActive())) return;
+  if (!qvx::DrawingSwitchActs(qvx::CommandActive())) return;
   const bool on = !IsOn();
   ShowIcon(on);
   on ? SolidFillOn() : SolidFillOff();
@@ -48,7 +45,7 @@ void TaKhsKsj123::OnSetting() { OpenPaneOptions(); }
 bool TBoldLinePane::IsOn() { return IsSwitchOn(&TDbConfig::BoldLine); }
 
 void TBoldLinePane::OnToggle() {
-  if (!qvx::DrawingSwitchActs(CommandActive())) return;
+  if (!qvx::DrawingSwitchActs(qvx::CommandActive())) return;
   const bool on = !IsOn();
   ShowIcon(on);
   on ? BoldLineOn() : TasGhdHsj123();
@@ -60,7 +57,7 @@ void TBoldLinePane::OnSetting() { OpenPaneOptions(); }
 bool TBaseLinePane::IsOn() { return IsSwitchOn(&TDbConfig::WallBase); }
 
 void TBaseLinePane::OnToggle() {
-  const int active = CommandActive();
+  const int active = qvx::CommandActive();
   const qvx::BaseLineClick click = qvx::OnBaseLineClick(IsOn(), active);
   ShowIcon(click.iconOn);
   if (!click.flips) return;

@@ -7,6 +7,7 @@
 #include "statusbar/pane_rules.h"
 #include "statusbar/win/scale_dialog.h"
 #include "statusbar/scale_rules.h"
+#include "statusbar/status_bar_door.h"
 
 namespace {
 constexpr int kStyleWithMenu = ACSBPS_POPUP;

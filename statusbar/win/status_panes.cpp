@@ -2,6 +2,7 @@
 
 #include "resources/resource_ids.h"
 #include "statusbar/pane_icons.h"
+#include "statusbar/status_bar_door.h"
 #include "statusbar/win/scale_pane.h"
 #include "statusbar/win/switch_panes.h"
 

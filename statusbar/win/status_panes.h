@@ -16,10 +16,6 @@ class TPScalePane;
 void InitStatusPane(qvx::SwitchPane pane, bool add);
 void InitScalePane(bool add);
 
-void UpdateStatusPanes();    // style and icon of all switches, then the bar
-void RefreshDrawingPanes();  // those of the drawing; the caller updates the bar
-void RefreshScaleText();
-
 CADStatusPane& StatusPaneOf(qvx::SwitchPane pane);
 TDynPane& TheDynInputPane();  // not on the bar until its Init(true) is called
 TPScalePane& TheScalePane();

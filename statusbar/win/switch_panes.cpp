@@ -6,6 +6,7 @@
 
 #include "aced.h"
 #include "adslib.h"
+#include "ground/command_line.h"
 #include "ground/guard.h"
 #include "ground/host_variables.h"
 #include "kernel/globals.h"
@@ -15,16 +16,7 @@
 
 namespace {
 
-void PostPromptUnlessBusy() {
-  if (qvx::ShortVariable(L"CMDACTIVE").value_or(0) == 0) acedPostCommandPrompt();
-}
-
-void WritePickStyle(int value) {
-  resbuf short_{};
-  short_.restype = RTSHORT;
-  short_.resval.rint = static_cast<short>(value);
-  acedSetVar(L"pickstyle", &short_);
-}
+void WritePickStyle(int value) { qvx::SetShortVariable(L"pickstyle", value); }
 
 }  // namespace
 
@@ -52,8 +44,7 @@ void TDynDimPane::OnToggle() {
   const bool on = !IsOn();
   ShowIcon(on);
   g_bDynamicCoord = on ? 1 : 0;
-  adsout << (on ? L"<动态标注开>" : L"<动态标注关>");
-  PostPromptUnlessBusy();
+  qvx::PrintOutsideCommand(on ? L"<动态标注开>" : L"<动态标注关>");
 }
 
 bool TMakeGroupPane::IsOn() { return g_bMakeGroup == 1; }
@@ -64,7 +55,7 @@ void TMakeGroupPane::OnToggle() {
   adsout << (on ? L"<编组启动>" : L"<编组关闭>");
   ShowIcon(on);
   WritePickStyle(qvx::PickStyleAfterClick(qvx::ShortVariable(L"pickstyle"), on));
-  PostPromptUnlessBusy();
+  qvx::PostPromptWhenIdle();
 }
 
 // PICKSTYLE is updated when the pane is added and when it is removed.
@@ -79,8 +70,7 @@ bool TDynPane::IsOn() { return QvxGeLib::g_bDynInput == 1; }
 void TDynPane::OnToggle() {
   const bool on = !IsOn();
   QvxGeLib::g_bDynInput = on ? 1 : 0;
-  adsout << (on ? L"<动态输入开>" : L"<动态输入关>");
-  PostPromptUnlessBusy();
+  qvx::PrintOutsideCommand(on ? L"<动态输入开>" : L"<动态输入关>");
 }
 
 void TDynPane::OnSetting() { ShowDynInputDialog(); }

@@ -13,11 +13,11 @@ namespace fs = std::filesystem;
 
 fs::path Folder() { return fs::temp_directory_path() / "qvx_product_texts"; }
 
-int FindInFolder(const wchar_t* name, wchar_t* out) {
+bool FindInFolder(const wchar_t* name, TWCString& out) {
   const fs::path path = Folder() / name;
-  if (!*name || !fs::exists(path)) return 0;
-  std::wcscpy(out, path.wstring().c_str());
-  return 1;
+  if (!*name || !fs::exists(path)) return false;
+  out = path.wstring().c_str();
+  return true;
 }
 
 class ProductTexts : public ::testing::Test {

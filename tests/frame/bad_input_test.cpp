@@ -21,6 +21,7 @@
 #include "tests/doubles/silent_ui.h"
 #ifndef _WIN32
 #include "kernel/native/file_store.h"
+#include "tests/doubles/loaded_menu.h"
 #endif
 
 namespace {
@@ -307,15 +308,16 @@ TEST_F(BadInput, RecentCommandsOfAnyFormGiveAList) {
                {many, 1, 5000}, {random, 0, 5000}, {WideX(300) + L",", 1, 1}};
   for (const auto& one : cases) {
     UserKey(L"Settings").SetValue(L"RecentCmd", one.text.c_str());
-    TMenuStack recent;
-    LoadRecentCommands(recent);
+    LoadedMenuDouble menu;
+    LoadRecentCommands();
+    const TMenuStack& recent = menu.system.m_recent;
     EXPECT_GE(recent.Length(), one.atLeast);
     EXPECT_LE(recent.Length(), one.atMost);
   }
   UserKey(L"Settings").SetValue(L"RecentCmd", 9);
-  TMenuStack recent;
-  LoadRecentCommands(recent);
-  EXPECT_EQ(recent.Length(), 0) << "a number is no list";
+  LoadedMenuDouble menu;
+  LoadRecentCommands();
+  EXPECT_EQ(menu.system.m_recent.Length(), 0) << "a number is no list";
 }
 
 #ifndef _WIN32

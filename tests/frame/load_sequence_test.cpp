@@ -1,86 +1,42 @@
-// The load and the unload sequence, with steps that record their calls.
+// Both sequences, as the diary of the calls that they make.
 #include "frame/start/load_sequence.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include "kernel/globals.h"
+#include "tests/doubles/frame_steps.h"
 
 namespace {
 
-using Diary = std::vector<std::string>;
+using Diary = std::vector<std::wstring>;
 
-const char* NameOf(StatusPane pane) {
-  switch (pane) {
-    case StatusPane::kMakeGroup:
-      return "group";
-    case StatusPane::kBaseLine:
-      return "baseline";
-    case StatusPane::kFill:
-      return "fill";
-    case StatusPane::kBoldLine:
-      return "bold";
-    case StatusPane::kDynDim:
-      return "dyndim";
+class SequenceTest : public ::testing::Test {
+ protected:
+  void TearDown() override { g_nCustomFlag = g_bHideCaption = g_bAutoOpenRecent = 0; }
+
+  Diary Loaded(int flags, bool hidesCaption = false, bool reopens = false) {
+    TheFrameSteps() = {};
+    TheFrameSteps().base = base;
+    g_nCustomFlag = flags;
+    g_bHideCaption = hidesCaption;
+    g_bAutoOpenRecent = reopens;
+    int packet = 0;
+    RunLoadSequence(&packet);
+    return TheFrameSteps().diary;
   }
-  return "?";
-}
+  Diary Unloaded(int flags) {
+    TheFrameSteps() = {};
+    g_nCustomFlag = flags;
+    RunUnloadSequence();
+    return TheFrameSteps().diary;
+  }
 
-class DiarySteps : public ShellSteps {
- public:
-  Diary diary;
-  int flags = 0;
-  bool hidesCaption = false, reopens = false;
-
-  int CustomFlags() override { return flags; }
-  void LoadKernel() override { Note("kernel"); }
-  void UnlockModule() override { Note("unlock"); }
-  void RegisterMdiAware() override { Note("mdi aware"); }
-  void ShowTipsAtStart() override { Note("tips"); }
-  void LoadIconLibrary() override { Note("icons"); }
-  void RunFirstStartModules() override { Note("first start"); }
-  void ReadProductFile() override { Note("product file"); }
-  void SetFrameTitle() override { Note("title"); }
-  bool HidesCaption() override { return hidesCaption; }
-  void HideFrameCaption() override { Note("caption"); }
-  bool ReopensRecentFiles() override { return reopens; }
-  void QueueRecentFiles() override { Note("recent files"); }
-  void CreateDocTabBar() override { Note("tabs"); }
-  void InitContextWindow(bool on) override { Note("window", on); }
-  void InitMessageFilter(bool on) override { Note("filter", on); }
-  void InitCommands(bool on) override { Note("commands", on); }
-  void InitScreenMenuReactor(bool on) override { Note("reactor", on); }
-  void InitPane(StatusPane pane, bool on) override { Note(NameOf(pane), on); }
-  void InitScalePane(bool on) override { Note("scale", on); }
-  void SaveSettings() override { Note("save settings"); }
-  void SaveRecentCommands() override { Note("save recent"); }
-  void RemoveScreenMenu() override { Note("remove screen menu"); }
-  void FreeIconLibrary() override { Note("free icons"); }
-  void DestroyDocTabBar() override { Note("destroy tabs"); }
-  void UnloadKernel() override { Note("unload kernel"); }
-
- private:
-  void Note(const std::string& text) { diary.push_back(text); }
-  void Note(const std::string& text, bool on) { diary.push_back((on ? "+" : "-") + text); }
+  std::wstring base = L"C:\\m\\qvx";
 };
+using LoadSequence = SequenceTest;
+using UnloadSequence = SequenceTest;
 
-Diary Loaded(int flags, bool hidesCaption = false, bool reopens = false) {
-  DiarySteps steps;
-  steps.flags = flags;
-  steps.hidesCaption = hidesCaption;
-  steps.reopens = reopens;
-  RunLoadSequence(steps);
-  return steps.diary;
-}
-
-Diary Unloaded(int flags) {
-  DiarySteps steps;
-  steps.flags = flags;
-  RunUnloadSequence(steps);
-  return steps.diary;
-}
-
-bool Contains(const Diary& diary, const std::string& entry) {
+bool Contains(const Diary& diary, const std::wstring& entry) {
   for (const auto& line : diary)
     if (line == entry) return true;
   return false;
@@ -88,31 +44,49 @@ bool Contains(const Diary& diary, const std::string& entry) {
 
 }  // namespace
 
-TEST(LoadSequence, RunsEveryStepInItsOrder) {
-  EXPECT_EQ(Loaded(0, true, true),
-            (Diary{"kernel",  "unlock",       "mdi aware", "tips",        "icons",        "+window",
-                   "+filter", "+commands",    "+reactor",  "first start", "product file", "title",
-                   "caption", "recent files", "tabs",      "+group",      "+baseline",    "+fill",
-                   "+bold",   "+dyndim",      "+scale"}));
+TEST_F(LoadSequence, RunsEveryStepInItsOrder) {
+  EXPECT_EQ(Loaded(0, true, true), (Diary{L"kernel",
+                                          L"unlock",
+                                          L"mdi aware",
+                                          L"tips",
+                                          L"icons C:\\m\\qvx.dll",
+                                          L"+window",
+                                          L"+filter",
+                                          L"+commands",
+                                          L"+reactor",
+                                          L"first start",
+                                          L"product file",
+                                          L"help file a.chm",
+                                          L"title Title",
+                                          L"caption",
+                                          L"recent files",
+                                          L"tabs",
+                                          L"init tabs",
+                                          L"+group",
+                                          L"+baseline",
+                                          L"+fill",
+                                          L"+bold",
+                                          L"+dyndim",
+                                          L"+scale"}));
 }
 
-TEST(LoadSequence, KeepsTheCaptionAndTheRecentFilesUnlessTheSettingsAreOn) {
+TEST_F(LoadSequence, LeavesTheCaptionAndTheRecentFilesAloneUnlessAsked) {
   const Diary diary = Loaded(0);
-  EXPECT_FALSE(Contains(diary, "caption"));
-  EXPECT_FALSE(Contains(diary, "recent files"));
+  EXPECT_FALSE(Contains(diary, L"caption"));
+  EXPECT_FALSE(Contains(diary, L"recent files"));
 }
 
-TEST(LoadSequence, EachCustomFlagSkipsItsOwnStepsOnly) {
+TEST_F(LoadSequence, EachCustomFlagLeavesOutItsOwnStepsOnly) {
   const Diary all = Loaded(0);
   const struct {
     int flag;
     Diary missing;
   } rows[] = {
-      {0x01, {"+scale"}},
-      {0x02, {"tips"}},
-      {0x08, {"first start"}},
+      {0x01, {L"+scale"}},
+      {0x02, {L"tips"}},
+      {0x08, {L"first start"}},
       {0x10, {}},
-      {0x20, {"+baseline", "+fill", "+bold", "+dyndim"}},
+      {0x20, {L"+baseline", L"+fill", L"+bold", L"+dyndim"}},
   };
   for (const auto& row : rows) {
     Diary expected;
@@ -122,21 +96,32 @@ TEST(LoadSequence, EachCustomFlagSkipsItsOwnStepsOnly) {
   }
 }
 
-TEST(UnloadSequence, RunsEveryStepInItsOrder) {
+TEST_F(UnloadSequence, RunsEveryStepInItsOrder) {
   EXPECT_EQ(Unloaded(0),
-            (Diary{"save settings", "save recent", "-reactor", "remove screen menu", "-window",
-                   "-filter", "-commands", "free icons", "destroy tabs", "-group", "-baseline",
-                   "-fill", "-bold", "-dyndim", "-scale", "unload kernel"}));
+            (Diary{L"save settings", L"save recent", L"-reactor", L"palette gone", L"-window",
+                   L"-filter", L"-commands", L"free icons", L"destroy tabs", L"-group",
+                   L"-baseline", L"-fill", L"-bold", L"-dyndim", L"-scale", L"unload kernel"}));
 }
 
-TEST(UnloadSequence, RemovesBaseLineAndDynamicDimensionEvenWhenTheyWereNotAdded) {
+TEST_F(UnloadSequence, TakesBaseLineAndDynamicDimensionAwayEvenWhenTheyWereNeverAdded) {
   const Diary diary = Unloaded(0x20);
-  EXPECT_TRUE(Contains(diary, "-baseline"));
-  EXPECT_TRUE(Contains(diary, "-dyndim"));
-  EXPECT_FALSE(Contains(diary, "-fill"));
-  EXPECT_FALSE(Contains(diary, "-bold"));
+  EXPECT_TRUE(Contains(diary, L"-baseline"));
+  EXPECT_TRUE(Contains(diary, L"-dyndim"));
+  EXPECT_FALSE(Contains(diary, L"-fill"));
+  EXPECT_FALSE(Contains(diary, L"-bold"));
 }
 
-TEST(UnloadSequence, DoesNotRemoveAScalePaneThatWasNotAdded) {
-  EXPECT_FALSE(Contains(Unloaded(0x01), "-scale"));
+TEST_F(UnloadSequence, LeavesTheScalePaneThatWasNeverAdded) {
+  EXPECT_FALSE(Contains(Unloaded(0x01), L"-scale"));
+}
+
+TEST_F(LoadSequence, WithoutAMenuItSaysSoAndGoesOnWithoutIcons) {
+  const Diary all = Loaded(0);
+  base.clear();
+  Diary without = Loaded(0);
+  ASSERT_TRUE(Contains(without, L"box \n找不到菜单文件!"));
+  std::erase(without, L"box \n找不到菜单文件!");
+  Diary expected = all;
+  std::erase(expected, L"icons C:\\m\\qvx.dll");
+  EXPECT_EQ(without, expected);
 }

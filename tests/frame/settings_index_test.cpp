@@ -16,7 +16,7 @@
 
 #include "frame/start/first_start.h"
 #include "frame/start/host_release.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "kernel/settings.h"
 #include "kernel/tregproperty.h"
@@ -101,9 +101,9 @@ bool HasWord(const std::string& text, const std::string& word) {
 
 void CollectFile(const std::string& text, std::set<std::string>& names) {
   for (const char* call :
-       {"GetValue(", "SetValue(", "ScreenMenuSetting(", "acedGetVar(", "acedSetVar(", "acedPutSym(",
-        "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "ShortVariable(",
-        "TextOf(product, ", "TPushAcadVar<int, 0> "})
+       {"GetValue(", "SetValue(", "ScreenMenuSetting(", "acedGetVar(", "acedPutSym(",
+        "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "ShortVariable(", "TextVariable(",
+        "SetRealVariable(", "TextOf(product, ", "TPushAcadVar<int, 0> "})
     CollectCall(text, call, names);
   const std::string flag = "L\"InitStart";  // the release selects the name
   for (size_t at = text.find(flag); at != text.npos; at = text.find(flag, at + 1))

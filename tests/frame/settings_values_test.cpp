@@ -13,6 +13,7 @@
 #include "menu/menu_item.h"
 #ifndef _WIN32
 #include "kernel/native/file_store.h"
+#include "tests/doubles/loaded_menu.h"
 #endif
 
 namespace {
@@ -63,14 +64,16 @@ int Flag(const wchar_t* name) {
 }  // namespace
 
 TEST_F(FrameValues, RecentCommandsAreReadBackInTheirOrder) {
-  TMenuStack recent;
+  LoadedMenuDouble menu;
+  TMenuStack& recent = menu.system.m_recent;
   recent.AddRecent(L"TWall\n");
   recent.AddRecent(L"TDoor ");
   recent.AddRecent(L"(foo)\n");
-  SaveRecentCommands(recent);
+  SaveRecentCommands();
   EXPECT_STREQ(RecentText().GetString(), L"TWall\n,TDoor ,(foo)\n,");
-  TMenuStack again;
-  LoadRecentCommands(again);
+  LoadedMenuDouble reloaded;
+  LoadRecentCommands();
+  const TMenuStack& again = reloaded.system.m_recent;
   ASSERT_EQ(again.Length(), 3);
   EXPECT_STREQ(again.At(0)->m_strCommand, L"(foo)\n");
   EXPECT_STREQ(again.At(2)->m_strCommand, L"TWall\n");
@@ -78,15 +81,16 @@ TEST_F(FrameValues, RecentCommandsAreReadBackInTheirOrder) {
 
 TEST_F(FrameValues, RecentCommandsWithoutALastCommaLoseTheLast) {
   SetRecentText(L"a,b,c");
-  TMenuStack recent;
-  LoadRecentCommands(recent);
+  LoadedMenuDouble menu;
+  LoadRecentCommands();
+  const TMenuStack& recent = menu.system.m_recent;
   ASSERT_EQ(recent.Length(), 2);
   EXPECT_STREQ(recent.At(0)->m_strCommand, L"b");
 }
 
 TEST_F(FrameValues, AnEmptyListIsWrittenAsEmptyText) {
-  TMenuStack recent;
-  SaveRecentCommands(recent);
+  const LoadedMenuDouble empty;
+  SaveRecentCommands();
   EXPECT_STREQ(RecentText().GetString(), L"");
 }
 

@@ -11,7 +11,7 @@ using namespace fixture;
 
 class DiaryHost : public MenuLineHost {
  public:
-  qvx::LispCaller& Lisp() override { return lisp; }
+  qvx::LineSources Lines() override { return {&lisp}; }
   void UpdateStatusBar() override { diary.push_back(L"panes"); }
   void RefreshSwitches() override { diary.push_back(L"rows"); }
   void Print(const wchar_t* text) override { Note(L"print ", text); }

@@ -12,7 +12,7 @@ using namespace fixture;
 class PopupPlanning : public testing::Test {
  protected:
   PopupPlan Plan(PopupIds ids = PopupIds::kRunning, int first = kFirstContextId) {
-    return PlanPopup(bar, ids, first, {&lisp, &system, hasIcons, isGone});
+    return PlanPopup(bar, ids, first, {&lisp, &system, hasIcons, life.Watch()});
   }
   std::vector<unsigned> Flags() {
     std::vector<unsigned> flags;
@@ -25,7 +25,7 @@ class PopupPlanning : public testing::Test {
   TMenuSystem system;
   TMenuBar bar;
   bool hasIcons = true;
-  std::function<bool()> isGone;
+  qvx::MenuLife life;
 };
 
 TEST_F(PopupPlanning, LinesAreNumberedInOrderAndSeparatorsAreNot) {
@@ -190,9 +190,9 @@ TEST_F(PopupPlanning, AFunctionThatReplacesTheMenusEndsThePlan) {
   line->m_nFlags = TMenuItem::kHasGrayFn | TMenuItem::kHasCheckFn;
   line->m_strGrayFn = L"gray";
   line->m_strCheckFn = L"check";
-  isGone = [this] {
-    if (lisp.diary.back() == L"gray") bar.Clear();
-    return lisp.diary.back() == L"gray";
+  lisp.actions[L"gray"] = [this] {
+    bar.Clear();
+    life.Renew();
   };
   EXPECT_TRUE(Plan().menus.empty());
   EXPECT_EQ(lisp.diary.size(), 1u);

@@ -28,12 +28,6 @@ TEST(ClickRules, ASeparatorSendsNothingEvenIfItsLineHasACommand) {
   EXPECT_EQ(qvx::DecideClick(*AddLine(bar, L"--", L"TWall\n")), ClickKind::kNothing);
 }
 
-TEST(BusyCheck, AnActiveCommandOrANamedOneIsBusy) {
-  EXPECT_FALSE(qvx::IsBusy({0, TWCString(L"")}));
-  EXPECT_TRUE(qvx::IsBusy({1, TWCString(L"")}));
-  EXPECT_TRUE(qvx::IsBusy({0, TWCString(L"LINE")}));
-}
-
 TEST(PendingCommands, TheSecondOfTwoQuickClicksReplacesTheFirst) {
   qvx::PendingCommand pending;
   pending.Arm(TWCString(L"TWall\n"));
@@ -72,7 +66,7 @@ class SwitchClick : public testing::Test {
 TEST_F(SwitchClick, SetsThenReadsAndShowsTheNewState) {
   lisp.Nil(L"set");
   lisp.Number(L"get", 2);
-  EXPECT_EQ(qvx::FlipSwitch(*line, lisp), SwitchResult::kChanged);
+  EXPECT_EQ(qvx::FlipSwitch(*line, {&lisp}), SwitchResult::kChanged);
   EXPECT_EQ(lisp.diary, (std::vector<std::wstring>{L"set", L"get"}));
   EXPECT_TRUE(line->m_strLabel == L"关");
   EXPECT_EQ(line->m_nIconIndex, 1);
@@ -80,14 +74,14 @@ TEST_F(SwitchClick, SetsThenReadsAndShowsTheNewState) {
 
 TEST_F(SwitchClick, ASetFunctionThatFailsEndsItBeforeTheStateIsRead) {
   lisp.Number(L"get", 2);
-  EXPECT_EQ(qvx::FlipSwitch(*line, lisp), SwitchResult::kRefused);
+  EXPECT_EQ(qvx::FlipSwitch(*line, {&lisp}), SwitchResult::kRefused);
   EXPECT_EQ(lisp.diary, (std::vector<std::wstring>{L"set"}));
   EXPECT_TRUE(line->m_strLabel == L"开关");
 }
 
 TEST_F(SwitchClick, AStateThatCannotBeReadKeepsTheCaptionButCountsAsAdvanced) {
   lisp.Nil(L"set");
-  EXPECT_EQ(qvx::FlipSwitch(*line, lisp), SwitchResult::kUnknown);
+  EXPECT_EQ(qvx::FlipSwitch(*line, {&lisp}), SwitchResult::kUnknown);
   EXPECT_TRUE(line->m_strLabel == L"开关");
 }
 

@@ -13,7 +13,7 @@ using qvx::GroupPlan;
 class GroupPlans : public testing::Test {
  protected:
   std::unique_ptr<GroupPlan> Plan() {
-    return qvx::PlanTree(bar, {{&lisp, nullptr, false, 25}, limit, openFirst, remembered, 500});
+    return qvx::PlanTree(bar, {{{&lisp, nullptr, false}, 25}, limit, openFirst, remembered, 500});
   }
 
   FakeLisp lisp;

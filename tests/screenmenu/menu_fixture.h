@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "menu/menu_model.h"
-#include "screenmenu/lisp_caller.h"
+#include "ground/lisp_caller.h"
 
 namespace fixture {
 

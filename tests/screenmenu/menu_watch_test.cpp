@@ -27,7 +27,8 @@ class GoingMenu : public testing::Test {
       life.Renew();
     };
   }
-  qvx::RowSources Sources() { return {&lisp, system.get(), true, 25, life.Watch()}; }
+  qvx::RowSources Sources() { return {Lines(), 25}; }
+  qvx::LineSources Lines() { return {&lisp, system.get(), true, life.Watch()}; }
   std::unique_ptr<qvx::GroupPlan> Plan() {
     return qvx::PlanTree(*bar, {Sources(), false, false, -1, 500});
   }
@@ -93,13 +94,13 @@ TEST_F(GoingMenu, APlanIsReturnedWhenTheMenuStays) {
 TEST_F(GoingMenu, ARefreshedSwitchThatReplacesItsMenuIsNotUsed) {
   TMenuItem* line = AddSwitchLine(*bar, *shown);
   GoesIn(L"get");
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp, life.Watch()));
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, Lines()));
 }
 
 TEST_F(GoingMenu, AClickedSwitchStopsWhenTheSetOrTheGetFunctionReplacesItsMenu) {
   TMenuItem* line = AddSwitchLine(*bar, *shown);
   GoesIn(L"get");
-  EXPECT_EQ(qvx::FlipSwitch(*line, lisp, life.Watch()), qvx::SwitchResult::kGone);
+  EXPECT_EQ(qvx::FlipSwitch(*line, Lines()), qvx::SwitchResult::kGone);
 
   bar = std::make_unique<TMenuBar>();
   shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
@@ -107,7 +108,7 @@ TEST_F(GoingMenu, AClickedSwitchStopsWhenTheSetOrTheGetFunctionReplacesItsMenu) 
   lisp.actions.clear();
   lisp.diary.clear();
   GoesIn(L"set");
-  EXPECT_EQ(qvx::FlipSwitch(*line, lisp, life.Watch()), qvx::SwitchResult::kGone);
+  EXPECT_EQ(qvx::FlipSwitch(*line, Lines()), qvx::SwitchResult::kGone);
   EXPECT_EQ(lisp.diary, (std::vector<std::wstring>{L"set"}));
 }
 
@@ -115,7 +116,7 @@ TEST_F(GoingMenu, ASetFunctionThatReplacesTheMenuAndFailsIsGoneAndNotRefused) {
   TMenuItem* line = AddSwitchLine(*bar, *shown);
   lisp.Fail(L"set");
   GoesIn(L"set");
-  EXPECT_EQ(qvx::FlipSwitch(*line, lisp, life.Watch()), qvx::SwitchResult::kGone);
+  EXPECT_EQ(qvx::FlipSwitch(*line, Lines()), qvx::SwitchResult::kGone);
 }
 
 }  // namespace

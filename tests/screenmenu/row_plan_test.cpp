@@ -1,4 +1,5 @@
-// Rows of the screen menu from lines of the model: captions, heights, states and images.
+// Rows of the screen menu from lines of the model: the table of captions, heights, states and
+// images.
 #include <gtest/gtest.h>
 
 #include "menu_fixture.h"
@@ -12,7 +13,7 @@ using qvx::RowPlan;
 
 class RowPlans : public testing::Test {
  protected:
-  RowPlan Plan(TMenuItem& line) { return qvx::PlanRow(line, {&lisp, &system, icons, 25}); }
+  RowPlan Plan(TMenuItem& line) { return qvx::PlanRow(line, {{&lisp, &system, icons}, 25}); }
 
   FakeLisp lisp;
   TMenuSystem system;
@@ -20,7 +21,7 @@ class RowPlans : public testing::Test {
   bool icons = true;
 };
 
-TEST_F(RowPlans, AHeaderIsEnabledAndHasAnArrow) {
+TEST_F(RowPlans, AHeaderIsOnAndCarriesAnArrow) {
   AddHeader(bar, L"墙体");
   const RowPlan plan = Plan(*bar.At(0));
   EXPECT_STREQ(plan.caption, L"墙体");
@@ -29,7 +30,7 @@ TEST_F(RowPlans, AHeaderIsEnabledAndHasAnArrow) {
   EXPECT_EQ(plan.image, RowImage::kArrow);
 }
 
-TEST_F(RowPlans, ASeparatorIsAThirdOfARowHighWithoutTextAndDisabled) {
+TEST_F(RowPlans, ASeparatorIsAThirdOfARowThinWithoutTextAndOff) {
   const RowPlan plan = Plan(*AddLine(bar, L"--", L"ignored"));
   EXPECT_STREQ(plan.caption, L"");
   EXPECT_EQ(plan.height, 8);
@@ -37,7 +38,7 @@ TEST_F(RowPlans, ASeparatorIsAThirdOfARowHighWithoutTextAndDisabled) {
   EXPECT_EQ(plan.image, RowImage::kNone);
 }
 
-TEST_F(RowPlans, ASeparatorShowsNoIconEvenIfItsLineHasOne) {
+TEST_F(RowPlans, ASeparatorShowsNoIconEvenWhenItsLineNamesOne) {
   AddResource(system, L"ID_A", L"A16");
   TMenuItem* line = AddLine(bar, L"--", L"TWall\n");
   line->m_nIconIndex = 0;
@@ -45,16 +46,14 @@ TEST_F(RowPlans, ASeparatorShowsNoIconEvenIfItsLineHasOne) {
   EXPECT_STREQ(Plan(*line).bitmap, L"");
 }
 
-TEST_F(RowPlans, ASeparatorsHeightIsTruncated) {
-  const RowPlan plan = qvx::PlanRow(*AddLine(bar, L"--"), {&lisp, &system, true, 24});
+TEST_F(RowPlans, ASeparatorsHeightIsCutAndNotRounded) {
+  const RowPlan plan = qvx::PlanRow(*AddLine(bar, L"--"), {{&lisp, &system, true}, 24});
   EXPECT_EQ(plan.height, 7);  // 23 / 3
 }
 
-TEST_F(RowPlans, ALineWithoutCommandIsDisabled) {
-  EXPECT_FALSE(Plan(*AddLine(bar, L"空")).enabled);
-}
+TEST_F(RowPlans, ALineWithoutCommandIsOff) { EXPECT_FALSE(Plan(*AddLine(bar, L"空")).enabled); }
 
-TEST_F(RowPlans, AGreyFunctionThatReturnsTDisablesTheLineAndAnyOtherResultDoesNot) {
+TEST_F(RowPlans, ATrueGreyFunctionTurnsTheLineOffAndAnyOtherAnswerLeavesItOn) {
   TMenuItem* line = AddLine(bar, L"墙", L"TWall\n");
   line->m_nFlags = TMenuItem::kHasGrayFn;
   line->m_strGrayFn = L"IsGray";
@@ -67,7 +66,7 @@ TEST_F(RowPlans, AGreyFunctionThatReturnsTDisablesTheLineAndAnyOtherResultDoesNo
   EXPECT_FALSE(Plan(*line).enabled);
 }
 
-TEST_F(RowPlans, AnEmptyCommandIsDisabledWithoutACallOfItsGreyFunction) {
+TEST_F(RowPlans, AnEmptyCommandIsOffBeforeItsGreyFunctionIsAsked) {
   TMenuItem* line = AddLine(bar, L"墙");
   line->m_nFlags = TMenuItem::kHasGrayFn;
   line->m_strGrayFn = L"IsGray";
@@ -109,10 +108,10 @@ TEST_F(RowPlans, WithoutIconLibraryOrWithAnIndexBeyondTheTableThereIsNoImageCall
   line->m_nIconIndex = 0;
   icons = false;
   EXPECT_EQ(Plan(*line).image, RowImage::kNone);
-  EXPECT_EQ(qvx::PlanRow(*line, {&lisp, nullptr, true, 25}).image, RowImage::kNone);
+  EXPECT_EQ(qvx::PlanRow(*line, {{&lisp, nullptr, true}, 25}).image, RowImage::kNone);
 }
 
-TEST_F(RowPlans, ASwitchLineHasLabelAndIconOfItsState) {
+TEST_F(RowPlans, ASwitchLineTakesLabelAndIconOfItsState) {
   AddResource(system, L"a", L"A16");
   AddResource(system, L"b", L"B16");
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
@@ -125,7 +124,7 @@ TEST_F(RowPlans, ASwitchLineHasLabelAndIconOfItsState) {
   EXPECT_TRUE(line->m_strLabel == L"关");
 }
 
-TEST_F(RowPlans, ASwitchValueWithoutAStateShowsTheFirstStateEnabled) {
+TEST_F(RowPlans, ASwitchValueThatNoStateHoldsShowsTheFirstStateEnabled) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
   lisp.Number(L"get", 77);
@@ -134,7 +133,7 @@ TEST_F(RowPlans, ASwitchValueWithoutAStateShowsTheFirstStateEnabled) {
   EXPECT_STREQ(plan.caption, L"开");
 }
 
-TEST_F(RowPlans, ASwitchWhoseFunctionFailsOrReturnsNoNumberIsDisabledWithItsOldLabel) {
+TEST_F(RowPlans, ASwitchWhoseFunctionFailsOrGivesNoNumberIsOffWithItsOldLabel) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
   EXPECT_FALSE(Plan(*line).enabled);
@@ -143,41 +142,41 @@ TEST_F(RowPlans, ASwitchWhoseFunctionFailsOrReturnsNoNumberIsDisabledWithItsOldL
   EXPECT_STREQ(Plan(*line).caption, L"开关");
 }
 
-TEST_F(RowPlans, ASwitchWithoutStatesIsDisabled) {
+TEST_F(RowPlans, ASwitchWithoutStatesIsOff) {
   const auto shown = MakeSwitch(L"get", L"set", {});
   lisp.Number(L"get", 1);
   EXPECT_FALSE(Plan(*AddSwitchLine(bar, *shown)).enabled);
 }
 
-TEST_F(RowPlans, RefreshingComparesIconsOnlyAndKeepsACaptionOfTheSameIcon) {
+TEST_F(RowPlans, RefreshingComparesIconsOnlyAndLeavesACaptionOfTheSameIconStanding) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
   lisp.Number(L"get", 1);
   Plan(*line);
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp)) << "the state is the same";
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, {&lisp})) << "the state is the same";
   lisp.Number(L"get", 2);
-  EXPECT_TRUE(qvx::RefreshSwitchLine(*line, lisp));
+  EXPECT_TRUE(qvx::RefreshSwitchLine(*line, {&lisp}));
   EXPECT_TRUE(line->m_strLabel == L"关");
   shown->m_states.At(0)->m_nIconIndex = shown->m_states.At(1)->m_nIconIndex;
   lisp.Number(L"get", 1);
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp));
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, {&lisp}));
   EXPECT_TRUE(line->m_strLabel == L"关");
 }
 
 TEST_F(RowPlans, RefreshingASwitchThatFailsChangesNothing) {
   const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
   TMenuItem* line = AddSwitchLine(bar, *shown);
-  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, lisp));
+  EXPECT_FALSE(qvx::RefreshSwitchLine(*line, {&lisp}));
   EXPECT_TRUE(line->m_strLabel == L"开关");
 }
 
 TEST_F(RowPlans, TheHelpOfALineIsTheSecondTextOfItsIcon) {
   AddResource(system, L"ID_A", L"A16", L"绘制墙体");
   TMenuItem* line = AddLine(bar, L"墙", L"TWall\n");
-  EXPECT_EQ(qvx::HelpOfLine(*line, &system, true), nullptr);
+  EXPECT_EQ(qvx::HelpOfLine(*line, {nullptr, &system, true}), nullptr);
   line->m_nIconIndex = 0;
-  EXPECT_STREQ(qvx::HelpOfLine(*line, &system, true), L"绘制墙体");
-  EXPECT_EQ(qvx::HelpOfLine(*line, &system, false), nullptr);
+  EXPECT_STREQ(qvx::HelpOfLine(*line, {nullptr, &system, true}), L"绘制墙体");
+  EXPECT_EQ(qvx::HelpOfLine(*line, {nullptr, &system, false}), nullptr);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "kernel/globals.h"
 #include "kernel/tdbconfig.h"
 #include "statusbar/drawing_scale_change.h"
+#include "statusbar/status_bar_door.h"
 #include "tests/hostcore/host_fixture.h"
 
 namespace {

@@ -13,8 +13,8 @@
 #include "kernel/globals.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
 #include "tests/doubles/win/palette_host.h"
+#include "tests/doubles/win/rooms.h"
 
 namespace {
 
@@ -67,20 +67,9 @@ void AttachMenu(const char* part, std::unique_ptr<TMenuBar> menu) {
 }
 
 // A menu system whose first resource is the icon of every line.
-class IconHost : public qvx::ScreenMenuHost {
+class IconMenu : public MenuDouble {
  public:
-  IconHost() { m_system.m_resources.Append(new TMenuResItem(L"WALL", L"BMP_WALL", L"")); }
-  TMenuSystem* MenuSystem() override { return &m_system; }
-  void ShowMenuAt(TMenuBar&, POINT, UINT) override {}
-  void UpdateStatusBar() override {}
-  const wchar_t* HelpFile() override { return L""; }
-  void WriteDrawingScale() override {}
-  void RefreshDrawingPanes() override {}
-  void RefreshScaleText() override {}
-  void ResetPreviewCounters() override {}
-
- private:
-  TMenuSystem m_system;
+  IconMenu() { system.m_resources.Append(new TMenuResItem(L"WALL", L"BMP_WALL", L"")); }
 };
 
 // Positions of the visible rows of the root.
@@ -189,13 +178,13 @@ void MeasureReload(const char* part, int openIndex) {
 void MeasureIcons(const wchar_t* library) {
   g_hQvxDll = ::LoadLibraryW(library);
   if (!g_hQvxDll) return;
-  IconHost host;
-  qvx::SetScreenMenuHost(&host);
+  IconMenu host;
+  SetMenuInForce(&menu);
   AttachMenu("icons", bench::FoldingMenu(kHeaders, kRows));
   TakeDown("icons_down");
   MeasureReload("reload_600_folded", -1);
   MeasureReload("reload_600_open", 5);
-  qvx::SetScreenMenuHost(nullptr);
+  SetMenuInForce(nullptr);
   ::FreeLibrary(std::exchange(g_hQvxDll, nullptr));
 }
 

@@ -62,11 +62,6 @@ double Median(std::vector<Times> all, double Times::*part) {
 class App : public CWinApp {
 } g_app;  // rows are measured on its main window
 
-class NoSteps : public StartupSteps {
- public:
-  void OnMenuReadiness() override {}
-};
-
 // The names of the bitmaps in the icon library.
 std::vector<std::wstring> IconNames(HMODULE library) {
   std::vector<std::wstring> names;
@@ -123,14 +118,13 @@ int main(int argc, char** argv) {
   PaletteHost& host = ThePaletteHost();
   host.OpenFrame();
   g_app.m_pMainWnd = host.frame;
-  NoSteps steps;
-  InitContextWindow(true, &steps);
-  TheContextWindow()->StopReadinessTimer();
+  InitContextWindow(true, [] {});
+  StopReadinessTimer();
   g_dHostVersion = 24.0;
   g_nSpeedMenu = 1;
   g_hQvxDll = argc > 1 ? ::LoadLibraryA(argv[1]) : nullptr;
   const std::vector<std::wstring> icons = IconNames(g_hQvxDll);
-  FillMenu(TheContextWindow()->m_menuSystem, icons);
+  FillMenu(*LoadedMenu(), icons);
   const HHOOK hook =
       ::SetWindowsHookExW(WH_CALLWNDPROCRET, OnReturned, nullptr, ::GetCurrentThreadId());
 

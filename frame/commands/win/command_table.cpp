@@ -6,17 +6,17 @@
 #include "dialogs/win/information_commands.h"
 #include "ground/host_registry.h"
 #include "frame/commands/win/live_menu_commands.h"
-#include "frame/start/win/shell.h"
+#include "frame/start/shell.h"
 #include "frame/commands/win/show_bar.h"
-#include "frame/unbuilt_rooms.h"
-#include "screenmenu/win/screen_menu.h"
+#include "ground/unbuilt_rooms.h"
+#include "screenmenu/screen_menu_door.h"
 
 namespace {
 
 constexpr const wchar_t* kGroup = L"QVX_INITSTART";
 
 void LoadMenu() {
-  if (Shell* shell = TheShell()) shell->BringUpMenu();
+  if (Shell* shell = TheShell()) shell->bringUp.Run();
 }
 
 struct CommandRow {

@@ -6,23 +6,21 @@
 
 #include "aced.h"
 #include "adslib.h"
-#include "ground/win/open_by_shell.h"
-#include "ground/document_paths.h"
 #include "frame/commands/win/live_menu_commands.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/document_paths.h"
+#include "ground/host_lisp.h"
+#include "ground/product_registry.h"
+#include "ground/support_files.h"
+#include "ground/unbuilt_rooms.h"
+#include "ground/win/open_by_shell.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "kernel/tadsprintf.h"
-#include "kernel/tregproperty.h"
 #include "kernel/tsplitpath.h"
 #include "rxmfcapi.h"
 
 namespace {
 
-struct ChainFree {
-  void operator()(resbuf* chain) const { acutRelRb(chain); }
-};
-using OwnedChain = std::unique_ptr<resbuf, ChainFree>;
+using qvx::OwnedChain;
 
 // The first argument when it is a text, else null; valid as long as the list.
 const wchar_t* FirstText(const OwnedChain& arguments) {
@@ -32,11 +30,9 @@ const wchar_t* FirstText(const OwnedChain& arguments) {
 bool OpenDocument(const wchar_t* path) { return qvx::OpenByShell(adsw_acadMainWnd(), path); }
 
 DocumentSearch ProductDocuments() {
-  TRegProperty key(GetRegLocation(), L"");
-  key.SetTopRootKey(HKEY_LOCAL_MACHINE);
   CString setup;
-  key.GetValue(L"SetupLocation", setup);
-  return {ParentFolder(QvxGeLib::g_sAppPath), TWCString(setup), QvxExport::FindFile};
+  qvx::MachineKey(L"").GetValue(L"SetupLocation", setup);
+  return {ParentFolder(QvxGeLib::g_sAppPath), TWCString(setup), qvx::FindFile};
 }
 
 void OpenTutorial() {
@@ -50,16 +46,16 @@ void OpenTutorial() {
 void OpenFlashTutorial() {
   TWCString path = ParentFolder(QvxGeLib::g_sAppPath);
   path += L"FlashTut\\index.htm";
-  wchar_t found[QvxExport::kPathUnits];
-  if (!QvxExport::FindFile(path, found))
+  TWCString found;
+  if (!qvx::FindFile(path, found))
     adsout << L"\n尚未安装有Flash教学文档" << path;
   else if (!OpenDocument(found))
     adsout << L"\n未能启动Flash教学";
 }
 
 void OpenQuestions() {
-  wchar_t found[QvxExport::kPathUnits];
-  if (!QvxExport::FindFile(L"faq.doc", found))
+  TWCString found;
+  if (!qvx::FindFile(L"faq.doc", found))
     adsout << L"\n尚未有常见问题文件";
   else if (!OpenDocument(found))
     adsout << L"\n无法打开FAQ.DOC!";

@@ -11,53 +11,12 @@
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "screenmenu/win/screen_menu.h"
+#include "frame/start/shell.h"
 
 namespace {
 
-class LiveMenuSteps : public MenuSteps {
- public:
-  explicit LiveMenuSteps(ShellMenus& menus) : m_menus(menus) {}
-
-  bool ReadMenuSetting(TWCString& value) override { return LoadMenuSetting(value); }
-  void WriteMenuSetting(const wchar_t* base) override { SaveMenuSetting(base); }
-  bool FindMenuBase(TWCString& base) override {
-    wchar_t path[MenuLoading::kPathUnits];
-    if (!m_menus.Loading().FindMenuBase(path)) return false;
-    base = path;
-    return true;
-  }
-  bool FindFile(const wchar_t* name, TWCString& path) override {
-    wchar_t found[QvxExport::kPathUnits];
-    if (!QvxExport::FindFile(name, found)) return false;
-    path = found;
-    return true;
-  }
-  bool FindHostFile(const wchar_t* name, TWCString& path) override {
-    wchar_t found[512];
-    if (acedFindFile(name, found) != RTNORM) return false;
-    path = found;
-    return true;
-  }
-  void ReplaceIconLibrary(const wchar_t* name) override { ::ReplaceIconLibrary(name); }
-  void RecreateScreenMenu() override {
-    InitScreenMenu(false, true);
-    InitScreenMenu(true, true);
-  }
-  void CompileMenu(const wchar_t* path) override { m_menus.Loading().CompileMenu(path); }
-  void LoadCompiledMenu(const wchar_t* path) override { m_menus.Loading().LoadCompiledMenu(path); }
-  void PublishLispPath() override { ::PublishLispPath(); }
-  void RefreshDocStatus() override { DocStatus(); }
-  void ShowMessage(const wchar_t* text) override { m_menus.ShowMessage(text); }
-
- private:
-  ShellMenus& m_menus;
-};
-
-void Run(void (MenuCommands::*command)(MenuSteps&)) {
-  Shell* shell = TheShell();
-  if (!shell) return;
-  LiveMenuSteps steps(shell->Menus());
-  (shell->Commands().*command)(steps);
+void Run(void (MenuCommands::*command)()) {
+  if (Shell* shell = TheShell()) (shell->commands.*command)();
 }
 
 }  // namespace
@@ -69,7 +28,5 @@ void ToggleAviMode() { Run(&MenuCommands::ToggleAviMode); }
 
 bool SetMenuFile(const wchar_t* file) {
   Shell* shell = TheShell();
-  if (!shell) return false;
-  LiveMenuSteps steps(shell->Menus());
-  return shell->Commands().SetMenu(steps, file);
+  return shell && shell->commands.SetMenu(file);
 }

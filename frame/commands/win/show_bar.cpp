@@ -3,20 +3,15 @@
 #include "aced.h"
 #include "acedcmdnf.h"
 #include "adslib.h"
+#include "ground/support_files.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 #include "popup/host_menu_files.h"
 
 namespace {
 
 class LiveHostMenus : public HostMenus {
  public:
-  bool FindFile(const wchar_t* name, TWCString& path) override {
-    wchar_t found[QvxExport::kPathUnits];
-    if (!QvxExport::FindFile(name, found)) return false;
-    path = found;
-    return true;
-  }
+  bool FindFile(const wchar_t* name, TWCString& path) override { return qvx::FindFile(name, path); }
   bool IsGroupLoaded(const wchar_t* group) override { return acedIsMenuGroupLoaded(group); }
   void Run(const wchar_t* command, const wchar_t* argument) override {
     acedCommandS(RTSTR, command, RTSTR, argument, RTNONE);

@@ -4,21 +4,21 @@
 // no dialog up it is what was left behind.
 #include <string>
 
-#include "ground/win/owned_handle.h"
 #include "frame/settings/settings_report.h"
-#include "frame/start/win/shell.h"
-#include "frame/unbuilt_rooms.h"
+#include "ground/json_text.h"
+#include "ground/unbuilt_rooms.h"
+#include "ground/win/owned_handle.h"
+#include "menu/menu_in_force.h"
+#include "popup/win/context_menu_wnd.h"
 #include "popup/win/describe_popup.h"
 #include "screenmenu/win/describe_screen_menu.h"
-#include "screenmenu/shell_json.h"
 #include "statusbar/win/status_panes.h"
 
 namespace {
 
 std::string RecentSection() {
   std::string json = "[";
-  Shell* shell = TheShell();
-  TMenuSystem* system = shell ? shell->MenuSystem() : nullptr;
+  const TMenuSystem* system = LoadedMenu();
   for (int i = 0; system && i < system->m_recent.Length(); ++i) {
     if (i) json += ",";
     json += qvx::JsonString(system->m_recent.At(i)->m_strCommand.c_str());

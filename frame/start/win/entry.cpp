@@ -5,14 +5,15 @@
 #include "afxwin.h"
 #include "frame/commands/win/lisp_functions.h"
 #include "frame/commands/win/live_menu_commands.h"
-#include "frame/start/win/shell.h"
-#include "frame/unbuilt_rooms.h"
+#include "frame/start/load_sequence.h"
+#include "frame/start/shell.h"
+#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "rxdlinkr.h"
 #include "rxregsvc.h"
 #include "screenmenu/win/screen_menu.h"
+#include "statusbar/status_bar_door.h"
 #include "statusbar/win/cad_status_pane.h"
-#include "statusbar/win/status_panes.h"
 
 #define QVX_EXPORT extern "C" __declspec(dllexport)
 
@@ -21,14 +22,14 @@ namespace {
 std::unique_ptr<Shell> g_shell;
 
 void Load(void* packet) {
-  g_shell = std::make_unique<Shell>(packet);
+  g_shell = std::make_unique<Shell>();
   SetPaneMenuRefresh(RefreshScreenMenu);
-  RunLoadSequence(*g_shell);
+  RunLoadSequence(packet);
 }
 
 void Unload() {
   if (!g_shell) return;
-  RunUnloadSequence(*g_shell);
+  RunUnloadSequence();
   g_shell.reset();
 }
 
@@ -76,7 +77,7 @@ QVX_EXPORT void LoadContexMenu() { ReloadMenu(); }
 
 QVX_EXPORT void LoadMenuForSun() {
   if (!g_shell) return;
-  g_shell->BringUpMenu();
+  g_shell->bringUp.Run();
   ShowScreenMenu(1);
 }
 

@@ -1,9 +1,9 @@
 #include "frame/start/win/icon_library.h"
 
 #include "afxwin.h"
+#include "ground/support_files.h"
 #include "ground/win/owned_handle.h"
 #include "kernel/globals.h"
-#include "kernel/qvxexport.h"
 
 namespace {
 
@@ -17,8 +17,8 @@ qvx::OwnedHandle<LibraryKind> g_library;
 
 void ReplaceIconLibrary(const wchar_t* name) {
   FreeIconLibrary();
-  wchar_t path[QvxExport::kPathUnits];
-  if (!QvxExport::FindFile(name, path)) return;
+  TWCString path;
+  if (!qvx::FindFile(name, path)) return;
   g_library.Reset(::LoadLibraryW(path));
   g_hQvxDll = g_library.Get();
 }

@@ -8,17 +8,13 @@
 
 namespace {
 
-class CountedSteps : public StartupSteps {
- public:
-  void OnMenuReadiness() override { ++firings; }
-  int firings = 0;
-};
+int g_firings = 0;  // of the readiness timer
 
 class ContextWindow : public testing::Test {
  protected:
   ContextWindow() : host(ThePaletteHost()) {
     host.OpenFrame();
-    InitContextWindow(true, &steps);
+    InitContextWindow(true, [] { ++g_firings; });
   }
   ~ContextWindow() override {
     InitContextWindow(false, nullptr);
@@ -26,7 +22,6 @@ class ContextWindow : public testing::Test {
   }
 
   PaletteHost& host;
-  CountedSteps steps;
 };
 
 TEST_F(ContextWindow, IsAChildOfOnePixelOfTheHostFrameWithItsPointerInTheKernel) {
@@ -40,22 +35,22 @@ TEST_F(ContextWindow, IsAChildOfOnePixelOfTheHostFrameWithItsPointerInTheKernel)
   window->GetWindowRect(&place);
   EXPECT_EQ(place.Size(), CSize(1, 1));
   EXPECT_EQ(g_pContextMenu, window);
+  EXPECT_NE(TheMenuInForce(), nullptr);
 }
 
 TEST_F(ContextWindow, ItsReadinessTimerRunsUntilItIsStopped) {
-  CContextMenuWnd* window = TheContextWindow();
   const auto waitForFiring = [this](DWORD limit) {
-    const int before = steps.firings;
+    const int before = g_firings;
     for (const DWORD start = ::GetTickCount(); ::GetTickCount() - start < limit;) {
       host.Pump();
-      if (steps.firings > before) return true;
+      if (g_firings > before) return true;
       ::Sleep(5);
     }
     return false;
   };
   EXPECT_TRUE(waitForFiring(5000));
   EXPECT_TRUE(waitForFiring(5000)) << "it goes on";
-  window->StopReadinessTimer();
+  StopReadinessTimer();
   host.Pump();
   EXPECT_FALSE(waitForFiring(300));
 }
@@ -76,6 +71,8 @@ TEST_F(ContextWindow, ClearsItsPointerInTheKernelWhenDestroyed) {
   EXPECT_FALSE(::IsWindow(window));
   EXPECT_EQ(TheContextWindow(), nullptr);
   EXPECT_EQ(g_pContextMenu, nullptr);
+  EXPECT_EQ(TheMenuInForce(), nullptr);
+  EXPECT_EQ(LoadedMenu(), nullptr);
 }
 
 }  // namespace

@@ -8,32 +8,14 @@
 #include "kernel/globals.h"
 #include "popup/win/context_menu_wnd.h"
 #include "popup/win/describe_popup.h"
-#include "screenmenu/screen_menu_host.h"
 #include "tests/doubles/win/palette_host.h"
+#include "tests/doubles/win/rooms.h"
 #include "tests/screenmenu/menu_fixture.h"
 
 namespace {
 
 using namespace fixture;
 using Words = std::vector<std::wstring>;
-
-class NoSteps : public StartupSteps {
- public:
-  void OnMenuReadiness() override {}
-};
-
-class Rooms : public qvx::ScreenMenuHost {
- public:
-  TMenuSystem* MenuSystem() override { return &TheContextWindow()->m_menuSystem; }
-  void ShowMenuAt(TMenuBar&, POINT, UINT) override {}
-  void UpdateStatusBar() override { ++panesUpdated; }
-  const wchar_t* HelpFile() override { return L""; }
-  void WriteDrawingScale() override {}
-  void RefreshDrawingPanes() override {}
-  void RefreshScaleText() override {}
-  void ResetPreviewCounters() override {}
-  int panesUpdated = 0;
-};
 
 std::vector<std::wstring> g_statusTexts;
 
@@ -55,8 +37,8 @@ class PopupShow : public testing::Test {
     host.OpenFrame();
     host.diary.clear();
     host.functions.clear();
-    qvx::SetScreenMenuHost(&rooms);
-    InitContextWindow(true, &steps);
+    TheRooms() = {};
+    InitContextWindow(true, [] {});
     g_nRunMode = 0;
     g_nSpeedMenu = 1;
     g_dHostVersion = 24.0;
@@ -69,11 +51,10 @@ class PopupShow : public testing::Test {
     g_whenIdle = nullptr;
     ::UnhookWindowsHookEx(hook);
     InitContextWindow(false, nullptr);
-    qvx::SetScreenMenuHost(nullptr);
     host.CloseFrame();
     g_hQvxDll = nullptr;
   }
-  TMenuSystem& System() { return Window().m_menuSystem; }
+  TMenuSystem& System() { return *LoadedMenu(); }
   static CContextMenuWnd& Window() { return *TheContextWindow(); }
 
   struct Step {
@@ -110,8 +91,6 @@ class PopupShow : public testing::Test {
   }
 
   PaletteHost& host;
-  NoSteps steps;
-  Rooms rooms;
   TMenuBar* common = nullptr;
   HHOOK hook = nullptr;
 };
@@ -122,9 +101,9 @@ TEST_F(PopupShow, AChosenLineSendsItsCommandAndIsAddedToTheRecentOnes) {
   Show({Key(VK_DOWN), Key(VK_DOWN), Key(VK_DOWN), Key(VK_RETURN)});
   EXPECT_EQ(Sent(), Words{L"B\n"}) << "the second row is that of the recent commands";
   ASSERT_EQ(System().m_recent.Length(), 1);
-  EXPECT_EQ(System().m_recent.At(0)->m_strLabel, L"B\n");
-  EXPECT_NE(Window().m_pBar, nullptr) << "kept until the next one";
-  EXPECT_GT(Window().m_popups.Length(), 0);
+  EXPECT_EQ(System().m_recent.At(0)->m_strLabel, L"乙") << "of the line it came from";
+  EXPECT_NE(Window().Bar(), nullptr) << "kept until the next one";
+  EXPECT_GT(Window().Popups().Length(), 0);
 }
 
 TEST_F(PopupShow, TheDescriptionHasEveryRowWithItsStateAndItsRectangle) {
@@ -173,7 +152,7 @@ TEST_F(PopupShow, ASwitchAdvancesSilentlyDuringACommand) {
   Show({Step([&] { shown = DescribePopup(); }), Key(VK_DOWN), Key(VK_RETURN)});
   EXPECT_NE(shown.find("\"label\":\"关\""), std::string::npos) << shown;
   EXPECT_EQ(state, 2);
-  EXPECT_EQ(rooms.panesUpdated, 1);
+  EXPECT_EQ(TheRooms().panesUpdated, 1);
   EXPECT_TRUE(Sent().empty());
   Show({Step([&] { shown = DescribePopup(); })});
   EXPECT_NE(shown.find("\"label\":\"开\""), std::string::npos) << shown;
@@ -188,14 +167,14 @@ TEST_F(PopupShow, ARowsHelpIsShownOnTheStatusLineWhileItIsSelected) {
   g_hQvxDll = ::GetModuleHandleW(nullptr);
   g_statusTexts.clear();
   int during = 0;
-  Show({Key(VK_DOWN), Step([&] { during = Window().m_bStatusText; })});
+  Show({Key(VK_DOWN), Step([&] { during = Window().IsHelpShown(); })});
   EXPECT_EQ(during, 1);
-  EXPECT_EQ(Window().m_bStatusText, 0) << "given back as the loop ends";
+  EXPECT_EQ(Window().IsHelpShown(), 0) << "given back as the loop ends";
   EXPECT_EQ(g_statusTexts, Words{L"画墙"});
   Show({Key(VK_DOWN), Key(VK_UP)});
   EXPECT_EQ(g_statusTexts, (Words{L"画墙", L"画墙", L""})) << "no help clears the line";
   g_hQvxDll = nullptr;
-  Show({Key(VK_DOWN), Step([&] { during = Window().m_bStatusText; })});
+  Show({Key(VK_DOWN), Step([&] { during = Window().IsHelpShown(); })});
   EXPECT_EQ(during, 0) << "without an icon library there are no helps";
 }
 
@@ -218,11 +197,11 @@ TEST_F(PopupShow, WithoutAViewThereIsNoMenuAtAPointAndWithoutABlockNoContextMenu
   AddLine(*common, L"甲", L"A\n");
   const HWND view = host.view.Detach();
   EXPECT_EQ(ShowBlockMenu(*common, 300, 200, 0), 0);
-  EXPECT_EQ(Window().m_pMenu, nullptr);
+  EXPECT_EQ(Window().Menu(), nullptr);
   host.view.Attach(view);
   common->m_strName = L"OTHER";
   EXPECT_EQ(Show({}), 0);
-  EXPECT_EQ(Window().m_pBar, nullptr);
+  EXPECT_EQ(Window().Bar(), nullptr);
   g_nSpeedMenu = 2;
   common->m_strName = L"COMMON";
   EXPECT_EQ(Show({}), 0);
@@ -234,7 +213,7 @@ TEST_F(PopupShow, ABlockOfAnotherModuleIsNumberedFromThreeThousand) {
   g_whenIdle = [] { ::EndMenu(); };
   ShowBlockMenu(other, 300, 200, TPM_LEFTALIGN);
   EXPECT_EQ(line->m_nCommandId, 3000);
-  EXPECT_EQ(Window().m_pBar, &other);
+  EXPECT_EQ(Window().Bar(), &other);
   EXPECT_EQ(other.FindItemByLabel(L"最近命令"), nullptr);
   Window().ResetPopups();
 }
@@ -245,7 +224,7 @@ TEST_F(PopupShow, ASecondPopUpInsideTheFirstIsRefusedAndTheFirstStays) {
   Show({Step([&] {
     second = ShowContextMenu(CPoint(10, 10), 1);
     Window().ResetPopups();
-    alive = Window().m_popups.Length();
+    alive = Window().Popups().Length();
   })});
   EXPECT_EQ(second, 0);
   EXPECT_EQ(alive, 2);
@@ -255,9 +234,9 @@ TEST_F(PopupShow, AMenuThatIsReplacedWhileItsPopUpShowsClosesIt) {
   AddLine(*common, L"甲", L"A\n");
   Show({Step([&] {
     System().EmptyLists();
-    Window().ForgetLines();
+    ForgetMenuLines();
   })});
-  EXPECT_EQ(Window().m_pBar, nullptr);
+  EXPECT_EQ(Window().Bar(), nullptr);
   ::SendMessageW(Window().m_hWnd, WM_COMMAND, 2000, 0);
   EXPECT_TRUE(Sent().empty());
 }
@@ -267,10 +246,10 @@ TEST_F(PopupShow, AStoredPopUpDropsLinesThatAreDestroyed) {
   AddLine(*bar, L"甲", L"A\n");
   g_whenIdle = [] { ::EndMenu(); };
   ShowBlockMenu(*bar, 300, 200, 0);
-  Window().ForgetLines();
+  ForgetMenuLines();
   bar.reset();
-  EXPECT_EQ(Window().m_pBar, nullptr);
-  EXPECT_EQ(Window().m_popups.Length(), 0);
+  EXPECT_EQ(Window().Bar(), nullptr);
+  EXPECT_EQ(Window().Popups().Length(), 0);
   ::SendMessageW(Window().m_hWnd, WM_COMMAND, 3000, 0);
   EXPECT_TRUE(Sent().empty());
 }
@@ -285,7 +264,7 @@ TEST_F(PopupShow, OnlyItsOwnMenusHandleLetters) {
                           reinterpret_cast<LPARAM>(menu));
   };
   EXPECT_EQ(ask(foreign.m_hMenu), 0);
-  EXPECT_EQ(ask(Window().m_pMenu->m_hMenu), MAKELRESULT(0, MNC_EXECUTE));
+  EXPECT_EQ(ask(Window().Menu()->m_hMenu), MAKELRESULT(0, MNC_EXECUTE));
 }
 
 TEST_F(PopupShow, ABlockOfFiveHundredLinesAndThirtyNestedSubMenusIsShown) {
@@ -296,7 +275,7 @@ TEST_F(PopupShow, ABlockOfFiveHundredLinesAndThirtyNestedSubMenusIsShown) {
   std::string shown;
   Show({Step([&] { shown = DescribePopup(); })});
   EXPECT_NE(shown.find("\"label\":\"底\",\"id\":2501"), std::string::npos);
-  EXPECT_EQ(Window().m_popups.Length(), 32);
+  EXPECT_EQ(Window().Popups().Length(), 32);
 }
 
 TEST_F(PopupShow, MissingFunctionsAndIconsStillShowTheirRows) {
@@ -342,7 +321,7 @@ TEST_F(PopupShow, AThousandPopUpsLeakNothing) {
   std::vector<HMENU> gone;
   for (int i = 0; i < 1000; ++i) {
     Show({});
-    for (const CBitmapMenu* menu : Window().m_popups) gone.push_back(menu->m_hMenu);
+    for (const CBitmapMenu* menu : Window().Popups()) gone.push_back(menu->m_hMenu);
     if (i % 100 == 0) host.diary.clear();
   }
   EXPECT_EQ(CBitmapMenu::Alive(), menus + 3) << "the last one is kept";

@@ -7,11 +7,11 @@
 #include "afxpriv.h"
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
-#include "menu_fixture.h"
+#include "tests/screenmenu/menu_fixture.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
 #include "tests/doubles/win/palette_host.h"
+#include "tests/doubles/win/rooms.h"
 
 namespace fixture {
 
@@ -24,29 +24,9 @@ struct CountedBar : TMenuBar {
   inline static int s_alive = 0;
 };
 
-class Rooms : public qvx::ScreenMenuHost {
- public:
-  TMenuSystem* MenuSystem() override { return &system; }
-  void ShowMenuAt(TMenuBar& bar, POINT, UINT) override { shownLines = bar.Length(); }
-  void UpdateStatusBar() override {
-    ++panesUpdated;
-    if (onPanes) onPanes();
-  }
-  const wchar_t* HelpFile() override { return L""; }
-  void WriteDrawingScale() override { order += 'a'; }
-  void RefreshDrawingPanes() override { order += 'b'; }
-  void RefreshScaleText() override { order += 'c'; }
-  void ResetPreviewCounters() override { order += 'd'; }
-
-  TMenuSystem system;
-  int shownLines = 0, panesUpdated = 0;
-  std::string order;
-  std::function<void()> onPanes;
-};
-
 class Palette : public testing::Test {
  protected:
-  Palette() : host(ThePaletteHost()) {
+  Palette() : host(ThePaletteHost()), rooms(TheRooms()) {
     g_iMenuRowHeight = 25;
     g_bScrollBar = 1;
     g_bLimitHeight = g_bDefaultOpenFirst = g_nRunMode = 0;
@@ -59,11 +39,13 @@ class Palette : public testing::Test {
     qvx::SavePaletteState({1, 1, {120, 80}, 0, 0, 1});
     qvx::SaveActiveSubMenu(-1);
     host.OpenFrame();
-    qvx::SetScreenMenuHost(&rooms);
+    rooms = {};
+    SetMenuInForce(&menu);
   }
   ~Palette() override {
     InitScreenMenu(false, true);
-    qvx::SetScreenMenuHost(nullptr);
+    SetMenuInForce(nullptr);
+    rooms = {};
     host.CloseFrame();
     host.diary.clear();
   }
@@ -78,8 +60,8 @@ class Palette : public testing::Test {
     AddLine(*AddHeader(*screen, L"墙体", new CountedBar), L"绘制墙体", L"TWall\n");
     AddLine(*AddHeader(*screen, L"门窗", new CountedBar), L"插入门", L"TDoor\n");
     AddLine(*screen, L"轴网", L"TAxis\n");
-    rooms.system.Append(screen);
-    AttachScreenBar(rooms.system);
+    menu.system.Append(screen);
+    AttachScreenBar(menu.system);
     host.Pump();
   }
   CMenuGroup& Root() { return *g_pScreenMenu->RootGroup(); }
@@ -105,7 +87,8 @@ class Palette : public testing::Test {
   }
 
   PaletteHost& host;
-  Rooms rooms;
+  RoomsDouble& rooms;
+  MenuDouble menu;
 };
 
 }  // namespace fixture

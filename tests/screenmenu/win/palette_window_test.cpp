@@ -13,7 +13,6 @@
 #include "screenmenu/win/describe_screen_menu.h"
 #include "screenmenu/palette_settings.h"
 #include "screenmenu/win/screen_menu.h"
-#include "screenmenu/screen_menu_host.h"
 #include "screenmenu/win/screen_menu_reactor.h"
 #include "tests/doubles/win/palette_host.h"
 
@@ -47,7 +46,7 @@ TEST_F(Palette, DocksRightWhenThatWasSaved) {
 TEST_F(Palette, TakesTheScreenBlockFromTheMenuAndShowsIt) {
   ComeUp();
   Attach();
-  EXPECT_EQ(rooms.system.Length(), 0);
+  EXPECT_EQ(menu.system.Length(), 0);
   EXPECT_EQ(Root().RowCount(), 3);
   EXPECT_TRUE(Root().Row(0)->IsWindowVisible());
   EXPECT_EQ(g_pScreenMenu->RootBar()->Length(), 3);
@@ -55,7 +54,7 @@ TEST_F(Palette, TakesTheScreenBlockFromTheMenuAndShowsIt) {
 
 TEST_F(Palette, AMenuLoadedWithoutAPaletteLosesItsScreenBlock) {
   Attach();
-  EXPECT_EQ(rooms.system.Length(), 0);
+  EXPECT_EQ(menu.system.Length(), 0);
   EXPECT_EQ(g_pScreenMenu, nullptr);
 }
 
@@ -68,13 +67,13 @@ TEST_F(Palette, AMenuWithoutAScreenBlockKeepsTheShownOne) {
   auto* common = new TMenuBar;
   common->m_strName = L"COMMON";
   AddLine(*common, L"别", L"TOther\n");
-  rooms.system.Append(common);
-  rooms.system.m_strTitle = L"别的菜单";
-  AttachScreenBar(rooms.system);
+  menu.system.Append(common);
+  menu.system.m_strTitle = L"别的菜单";
+  AttachScreenBar(menu.system);
   host.Pump();
   EXPECT_EQ(&Root(), root);
   EXPECT_EQ(DescribeScreenMenu(), before);
-  EXPECT_EQ(rooms.system.Length(), 1);
+  EXPECT_EQ(menu.system.Length(), 1);
 }
 
 TEST_F(Palette, TheRootGroupIsFittedThreeBelowTheTopAndTwoAboveTheBottom) {
@@ -98,7 +97,7 @@ TEST_F(Palette, ACommandWaitsForTheTimerAndIsSentOnceWithTheFocusOnTheDrawing) {
   EXPECT_EQ(Sent(), (Words{L"TAxis\n"}));
   FireTimer();
   EXPECT_EQ(Sent().size(), 1u);
-  EXPECT_EQ(rooms.system.m_recent.Length(), 1);
+  EXPECT_EQ(menu.system.m_recent.Length(), 1);
 }
 
 TEST_F(Palette, TheSecondOfTwoClicksWithinTheWaitIsSent) {
@@ -138,7 +137,7 @@ TEST_F(Palette, WithoutADocumentTheTextIsLostButRemembered) {
   Click(Root(), 2);
   FireTimer();
   EXPECT_TRUE(Sent().empty());
-  EXPECT_EQ(rooms.system.m_recent.Length(), 1);
+  EXPECT_EQ(menu.system.m_recent.Length(), 1);
 }
 
 TEST_F(Palette, ClosingByTheUserNamesTheHotKeyAndClosingByTheProgramPrintsNothing) {
@@ -431,8 +430,8 @@ TEST_F(Palette, WithLimitedHeightTheWheelScrollsItsOpenGroupAndNothingWithoutOne
   screen->m_strName = L"SCREEN";
   TMenuBar* tall = AddHeader(*screen, L"长");
   for (int i = 0; i < 60; ++i) AddLine(*tall, L"行", L"x");
-  rooms.system.Append(screen);
-  AttachScreenBar(rooms.system);
+  menu.system.Append(screen);
+  AttachScreenBar(menu.system);
   const auto turn = [] {
     return g_pScreenMenu->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), MAKELPARAM(60, 60));
   };
@@ -536,8 +535,8 @@ TEST_F(Palette, TheShellStateReportsThePlacesOfRowsFarFromTheViewAfterScrolling)
   for (int i = 0; i < 200; ++i) AddLine(*screen, L"后", L"x");
   AddLine(*screen, L"末", L"x");
   AddLine(*group, L"内末", L"x");
-  rooms.system.Append(screen);
-  AttachScreenBar(rooms.system);
+  menu.system.Append(screen);
+  AttachScreenBar(menu.system);
   Click(Root(), 200);
   Root().WheelGroup(0, 120 * 250, CPoint());
   Root().WheelGroup(0, -120 * 50, CPoint());

@@ -27,9 +27,9 @@ class ReplacedMenu : public Palette {
     AddLine(*nested, L"帮助", L"THelp\n");
     AddSwitchLine(*screen, *shown);
     AddSwitchLine(*screen, *others);
-    rooms.system.Clear();
-    rooms.system.Append(screen);
-    AttachScreenBar(rooms.system);
+    menu.system.Clear();
+    menu.system.Append(screen);
+    AttachScreenBar(menu.system);
   }
   // As the reload command does.
   void Reload() {

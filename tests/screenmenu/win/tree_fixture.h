@@ -16,9 +16,7 @@ namespace fixture {
 
 class Diary : public GroupOwner {
  public:
-  qvx::LispCaller& Lisp() override { return lisp; }
-  qvx::MenuWatch Watch() const override { return life.Watch(); }
-  const TMenuSystem* MenuSystem() override { return &system; }
+  qvx::LineSources Lines() override { return {&lisp, &system, g_hQvxDll != nullptr, life.Watch()}; }
   HBITMAP Arrow(int depth, bool open) override {
     return reinterpret_cast<HBITMAP>(
         static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // compared, not drawn

@@ -6,6 +6,7 @@
 #include "acstatusbar.h"
 #include "kernel/globals.h"
 #include "statusbar/win/scale_pane.h"
+#include "statusbar/status_bar_door.h"
 #include "statusbar/win/status_panes.h"
 #include "statusbar/win/switch_panes.h"
 

@@ -6,6 +6,7 @@
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
 #include "statusbar/pane_icons.h"
+#include "statusbar/status_bar_door.h"
 #include "statusbar/win/status_panes.h"
 #include "tests/statusbar/win/bar_host.h"
 

@@ -1,7 +1,7 @@
-// Whether the menu is still there. A LISP function of a line may load another menu or take the
-// palette down: lines, switches, rows and the palette itself are then gone when it returns. Who
-// calls such functions makes a watch first, keeps it on the stack and asks it behind every call;
-// once the menu is gone he touches nothing of it and leaves.
+// Whether the lines of the menu still exist. A LISP function of a line may load another menu or
+// destroy the palette: lines, switches, rows and the palette itself are then gone when it returns.
+// A caller of such functions makes a watch first, keeps it on the stack and checks it after each
+// call; once it says "gone" the caller touches nothing of the menu and returns.
 #pragma once
 
 #include <memory>
@@ -20,7 +20,7 @@ class MenuWatch {
   bool m_isSet = false;
 };
 
-// Stands for the menu as long as its palette shows it. The palette has one.
+// What watches are made from. The owner of the menu system has one.
 class MenuLife {
  public:
   MenuWatch Watch() const { return MenuWatch(m_token); }

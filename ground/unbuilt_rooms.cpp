@@ -1,4 +1,4 @@
-#include "frame/unbuilt_rooms.h"
+#include "ground/unbuilt_rooms.h"
 
 #include <cstring>
 

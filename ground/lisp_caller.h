@@ -1,5 +1,5 @@
-// A menu line's way to the LISP functions that it names, as the decisions of the screen menu see
-// it. The live one (host_lisp.h) asks the host; tests answer from a table.
+// Calls a LISP function by name, as the decisions of the rooms see it. HostLisp (host_lisp.h) calls
+// the host; tests answer from a table.
 #pragma once
 
 namespace qvx {

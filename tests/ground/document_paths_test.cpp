@@ -2,15 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <cwchar>
 #include <string>
 
 namespace {
 std::wstring g_existing;
-int FindExisting(const wchar_t* name, wchar_t* out) {
-  if (g_existing != name) return 0;
-  std::wcscpy(out, name);
-  return 1;
+bool FindExisting(const wchar_t* name, TWCString& path) {
+  if (g_existing != name) return false;
+  path = name;
+  return true;
 }
 bool Find(const wchar_t* existing, TWCString& found, TWCString& lastTried) {
   g_existing = existing;
