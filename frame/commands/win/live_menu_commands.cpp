@@ -7,7 +7,6 @@
 #include "frame/start/win/icon_library.h"
 #include "frame/commands/lisp_path.h"
 #include "frame/settings/menu_setting.h"
-#include "frame/start/win/shell.h"
 #include "kernel/globals.h"
 #include "kernel/qvxexport.h"
 #include "screenmenu/win/screen_menu.h"

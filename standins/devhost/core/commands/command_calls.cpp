@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "aced.h"
+#include "acedcmdnf.h"
+#include "adslib.h"
 #include "devhost/core/host/host.h"
 
 // Arguments are pairs of a type and a value: the command's name, then its input. RTNONE ends them.

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "aced.h"
+#include "adslib.h"
 #include "dbents.h"
 #include "dbsymtb.h"
 #include "devhost/core/commands/native_commands.h"

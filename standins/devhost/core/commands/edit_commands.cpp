@@ -1,5 +1,6 @@
 // Commands that change entities and settings: ERASE, MOVE, U, UNDO, LAYER, SETVAR.
 #include "aced.h"
+#include "adslib.h"
 #include "dbents.h"
 #include "dbsymtb.h"
 #include "devhost/core/commands/native_commands.h"

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "aced.h"
+#include "adslib.h"
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/host/host.h"

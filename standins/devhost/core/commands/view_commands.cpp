@@ -2,6 +2,7 @@
 #include <cwchar>
 
 #include "aced.h"
+#include "adslib.h"
 #include "devhost/core/base/text_case.h"
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/host/host.h"

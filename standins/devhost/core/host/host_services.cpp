@@ -1,11 +1,14 @@
 // Published services: system registry, application services, file search, redraw.
 #include <cwchar>
 
+#include "acdocman.h"
 #include "aced.h"
+#include "adslib.h"
 #include "dbapserv.h"
 #include "devhost/core/base/start_trace.h"
 #include "devhost/core/base/utf8.h"
 #include "devhost/core/host/host.h"
+#include "rxdlinkr.h"
 
 using devhost::TheHost;
 

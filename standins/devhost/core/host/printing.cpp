@@ -3,6 +3,7 @@
 #include <cwchar>
 
 #include "aced.h"
+#include "adslib.h"
 #include "devhost/core/host/host.h"
 
 using devhost::TheHost;
