@@ -52,9 +52,11 @@ void CContextMenuWnd::ReopenDrawings(const TWCStringList& files) {
 }
 
 BOOL CContextMenuWnd::PreTranslateMessage(MSG* message) {
-  if (message->message != kOpenRequestMessage) return CWnd::PreTranslateMessage(message);
-  m_opening.RequestOpen();
-  return TRUE;
+  return qvx::GuardedOr(FALSE, [&] {
+    if (message->message != kOpenRequestMessage) return CWnd::PreTranslateMessage(message);
+    m_opening.RequestOpen();
+    return TRUE;
+  });
 }
 
 void CContextMenuWnd::OnTimer(UINT_PTR id) {

@@ -8,12 +8,13 @@
 #include "afxwin.h"
 #include "frame/containers/tdptrlist.h"
 #include "ground/host_lisp.h"
+#include "ground/win/guarded_window.h"
 #include "menu/menu_in_force.h"
 #include "popup/popup_door.h"
 #include "popup/win/drawing_opening.h"
 #include "popup/win/popup_build.h"
 
-class CContextMenuWnd : public CWnd,
+class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
                         private PopupOwner,
                         private MenuInForce,
                         private RecentSources {

@@ -4,6 +4,7 @@
 
 #include "afxwin.h"
 
+#include "ground/guard.h"
 #include "popup/popup_json.h"
 #include "rxmfcapi.h"
 
@@ -20,7 +21,7 @@ BOOL CALLBACK CollectMenu(HWND window, LPARAM menus) {
       std::wcscmp(name, kMenuWindowClass))
     return TRUE;
   if (const auto menu = reinterpret_cast<HMENU>(::SendMessageW(window, kGetMenuOfWindow, 0, 0)))
-    reinterpret_cast<std::vector<HMENU>*>(menus)->push_back(menu);
+    qvx::Guarded([&] { reinterpret_cast<std::vector<HMENU>*>(menus)->push_back(menu); });
   return TRUE;
 }
 

@@ -6,11 +6,12 @@
 #include "afxwin.h"
 #include "frame/containers/tdptrlist.h"
 #include "frame/containers/tpdlist.h"
+#include "ground/win/guarded_window.h"
 #include "screenmenu/group_layout.h"
 #include "screenmenu/group_plan.h"
 #include "screenmenu/win/menu_item_button.h"
 
-class CMenuGroup : public CWnd, public RowHolder {
+class CMenuGroup : public qvx::GuardedWindow<CWnd>, public RowHolder {
   DECLARE_DYNAMIC(CMenuGroup)
  public:
   // Bar and owner outlive the group. The tree below the bar is planned and built here, unseen; the

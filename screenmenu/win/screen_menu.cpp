@@ -135,8 +135,10 @@ BOOL CScreenMenu::OnMouseWheel(UINT flags, short delta, CPoint point) {
 
 // F4 steps back as long as something was entered, and passes on to the host otherwise.
 BOOL CScreenMenu::PreTranslateMessage(MSG* message) {
-  if (message->message == WM_KEYDOWN && message->wParam == VK_F4) return StepBack();
-  return CAdUiPaletteSet::PreTranslateMessage(message);
+  return qvx::GuardedOr(FALSE, [&]() -> BOOL {
+    if (message->message == WM_KEYDOWN && message->wParam == VK_F4) return StepBack();
+    return CAdUiPaletteSet::PreTranslateMessage(message);
+  });
 }
 
 void CScreenMenu::GetFloatingMinSize(long* width, long* height) {
@@ -160,12 +162,14 @@ void CScreenMenu::CloseSilently() {
 // A close by the program passes in silence and arms the hint; a close by the user says how to get
 // the palette back.
 bool CScreenMenu::OnClosing() {
-  if (m_bCloseHint) {
-    acutPrintf(L"热键<Ctrl +>显示屏幕菜单\n");
-    qvx::PostPrompt();
-  }
-  m_bCloseHint = 1;
-  return CAdUiPaletteSet::OnClosing();
+  return qvx::GuardedOr(true, [this] {
+    if (m_bCloseHint) {
+      acutPrintf(L"热键<Ctrl +>显示屏幕菜单\n");
+      qvx::PostPrompt();
+    }
+    m_bCloseHint = 1;
+    return CAdUiPaletteSet::OnClosing();
+  });
 }
 
 // The window system hides a window before it tells it of its end, so what the user saw is noted

@@ -14,6 +14,7 @@
 #include "afxext.h"
 
 #include "adui.h"
+#include "ground/win/guarded_window.h"
 #include "ground/win/owned_handle.h"
 #include "menu/menu_in_force.h"
 #include "screenmenu/dispatch_rules.h"
@@ -23,7 +24,7 @@
 #include "screenmenu/screen_menu_bar.h"
 #include "screenmenu/screen_menu_door.h"
 
-class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
+class CScreenMenu : public qvx::GuardedWindow<CAdUiPaletteSet>, private GroupOwner {
   DECLARE_DYNAMIC(CScreenMenu)
  public:
   CScreenMenu();
@@ -88,6 +89,7 @@ class CScreenMenu : public CAdUiPaletteSet, private GroupOwner {
   LRESULT OnDockBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam);
   void TakeDockBar(HWND bar);
   void RestoreDockBar();
+  void FollowDockBar();  // takes or gives back the bar that the palette is docked in
   bool StandsAlone(CDockBar& bar);
   qvx::DockGeometry MeasureDock() const;
   SIZE LeastSize();

@@ -15,16 +15,21 @@ constexpr DWORD kSizedByUser = CBRS_SIZE_DYNAMIC | CBRS_HIDE_INPLACE;
 // The mouse is followed only while no other bar is docked beside the palette: with a neighbour the
 // edge is the host's again at the next layout.
 CSize CScreenMenu::CalcFixedLayout(BOOL stretch, BOOL horizontal) {
+  qvx::Guarded([this] { FollowDockBar(); });
+  return qvx::GuardedOr(CSize(),
+                        [&] { return CAdUiPaletteSet::CalcFixedLayout(stretch, horizontal); });
+}
+
+void CScreenMenu::FollowDockBar() {
   const AcDbHostApplicationServices* services = acdbHostApplicationServices();
-  if (services &&
-      qvx::HostLetsTakeEdge(services->releaseMajorVersion(), services->releaseMinorVersion())) {
-    CDockBar* bar = DYNAMIC_DOWNCAST(CDockBar, CWnd::FromHandlePermanent(::GetParent(m_hWnd)));
-    if (IsFloating() || (bar && !StandsAlone(*bar)))
-      RestoreDockBar();
-    else if (bar)
-      TakeDockBar(bar->m_hWnd);
-  }
-  return CAdUiPaletteSet::CalcFixedLayout(stretch, horizontal);
+  if (!services ||
+      !qvx::HostLetsTakeEdge(services->releaseMajorVersion(), services->releaseMinorVersion()))
+    return;
+  CDockBar* bar = DYNAMIC_DOWNCAST(CDockBar, CWnd::FromHandlePermanent(::GetParent(m_hWnd)));
+  if (IsFloating() || (bar && !StandsAlone(*bar)))
+    RestoreDockBar();
+  else if (bar)
+    TakeDockBar(bar->m_hWnd);
 }
 
 bool CScreenMenu::StandsAlone(CDockBar& bar) {
@@ -56,7 +61,8 @@ void CScreenMenu::RestoreDockBar() {
 
 LRESULT CALLBACK CScreenMenu::DockBarProc(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!g_pScreenMenu) return ::DefWindowProcW(bar, message, wParam, lParam);
-  return g_pScreenMenu->OnDockBarMessage(bar, message, wParam, lParam);
+  return qvx::GuardedOr(
+      LRESULT{0}, [&] { return g_pScreenMenu->OnDockBarMessage(bar, message, wParam, lParam); });
 }
 
 LRESULT CScreenMenu::OnDockBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "acstatusbar.h"
+#include "ground/guard.h"
 #include "ground/unbuilt_rooms.h"
 #include "screenmenu/win/screen_menu.h"
 #include "statusbar/status_bar_door.h"
@@ -22,13 +23,7 @@ void EnableForOnlyDrawing(BOOL enable) {
   if (!enable) g_pScreenMenu->DropHover();  // it holds the mouse and would take one more click
 }
 
-}  // namespace
-
-void TScreenMenuReactor::documentCreated(AcApDocument*) { EnableForOnlyDrawing(TRUE); }
-
-void TScreenMenuReactor::documentToBeDestroyed(AcApDocument*) { EnableForOnlyDrawing(FALSE); }
-
-void TScreenMenuReactor::documentActivated(AcApDocument*) {
+void FollowActiveDrawing() {
   AcApDocManager* documents = acDocManagerPtr();
   if (documents->documentCount() == 0 || !documents->curDocument()) return;
   qvx::WriteHatchScale();
@@ -37,6 +32,18 @@ void TScreenMenuReactor::documentActivated(AcApDocument*) {
   if (AcApStatusBar* bar = acedGetApplicationStatusBar()) bar->Update();
   unbuilt::ResetPreviewCounters();
 }
+
+}  // namespace
+
+void TScreenMenuReactor::documentCreated(AcApDocument*) {
+  qvx::Guarded([] { EnableForOnlyDrawing(TRUE); });
+}
+
+void TScreenMenuReactor::documentToBeDestroyed(AcApDocument*) {
+  qvx::Guarded([] { EnableForOnlyDrawing(FALSE); });
+}
+
+void TScreenMenuReactor::documentActivated(AcApDocument*) { qvx::Guarded(FollowActiveDrawing); }
 
 void InitScreenMenuReactor(bool add) {
   AcApDocManager* documents = acDocManagerPtr();

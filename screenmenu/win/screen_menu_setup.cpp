@@ -128,25 +128,37 @@ void DockFloatingScreenMenu() {
   acedGetAcadFrame()->DockControlBar(g_pScreenMenu, AFX_IDW_DOCKBAR_LEFT, nullptr);
 }
 
-extern "C" int ShowScreenMenu(int show) {
-  if (!g_pScreenMenu) return RTNORM;
+namespace {
+
+void ShowPalette(bool show) {
+  if (!g_pScreenMenu) return;
   if (!show && IsScreenMenuVisible()) {
     g_pScreenMenu->CloseSilently();
   } else if (show && !IsScreenMenuVisible()) {
     acedGetAcadFrame()->ShowControlBar(g_pScreenMenu, TRUE, TRUE);
     if (CWnd* view = acedGetAcadDwgView()) view->SetFocus();
   }
+}
+
+}  // namespace
+
+extern "C" int ShowScreenMenu(int show) {
+  qvx::Guarded([&] { ShowPalette(show != 0); });
   return RTNORM;
 }
 
 extern "C" int IsScreenMenuVisible() {
-  if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return 0;
-  return (g_pScreenMenu->GetStyle() & WS_VISIBLE) ? 1 : 0;
+  return qvx::GuardedOr(0, [] {
+    if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return 0;
+    return (g_pScreenMenu->GetStyle() & WS_VISIBLE) ? 1 : 0;
+  });
 }
 
 extern "C" int GetScreenMenuWidth() {
-  if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return 0;
-  CRect window;
-  g_pScreenMenu->GetWindowRect(&window);
-  return window.Width();
+  return qvx::GuardedOr(0, [] {
+    if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return 0;
+    CRect window;
+    g_pScreenMenu->GetWindowRect(&window);
+    return window.Width();
+  });
 }

@@ -4,6 +4,7 @@
 
 #include "accmd.h"
 #include "dialogs/win/information_commands.h"
+#include "ground/guard.h"
 #include "ground/host_registry.h"
 #include "frame/commands/win/live_menu_commands.h"
 #include "frame/start/shell.h"
@@ -25,20 +26,20 @@ struct CommandRow {
   int flags;
 };
 const CommandRow kCommands[] = {
-    {L"TShowBar", ShowBar, ACRX_CMD_MODAL},
-    {L"QmnLoad", ReloadMenu, ACRX_CMD_MODAL},
-    {L"QmnLoad1", ReloadMenuBySearch, ACRX_CMD_MODAL},
-    {L"TSetRunMode", ToggleRunMode, ACRX_CMD_MODAL},
-    {L"TSetAviMode", ToggleAviMode, ACRX_CMD_MODAL},
-    {L"TFloatMenuBar", DockFloatingScreenMenu, ACRX_CMD_MODAL},
-    {L"TLoadMenu", LoadMenu, ACRX_CMD_MODAL},
-    {L"TInPlaceEdit", unbuilt::InPlaceEdit, ACRX_CMD_USEPICKSET},
-    {L"TTextEditInBlock", unbuilt::TextEditInBlock, ACRX_CMD_TRANSPARENT},
-    {L"TCurTips", ShowCurrentTips, ACRX_CMD_TRANSPARENT},
-    {L"TAbout", ShowAbout, ACRX_CMD_TRANSPARENT},
-    {L"TReportBug", ReportBug, ACRX_CMD_TRANSPARENT},
-    {L"THelp", OpenHelp, ACRX_CMD_TRANSPARENT},
-    {L"TReScreenMenu", RefreshScreenMenu, ACRX_CMD_TRANSPARENT},
+    {L"TShowBar", qvx::GuardedHandler<ShowBar>, ACRX_CMD_MODAL},
+    {L"QmnLoad", qvx::GuardedHandler<ReloadMenu>, ACRX_CMD_MODAL},
+    {L"QmnLoad1", qvx::GuardedHandler<ReloadMenuBySearch>, ACRX_CMD_MODAL},
+    {L"TSetRunMode", qvx::GuardedHandler<ToggleRunMode>, ACRX_CMD_MODAL},
+    {L"TSetAviMode", qvx::GuardedHandler<ToggleAviMode>, ACRX_CMD_MODAL},
+    {L"TFloatMenuBar", qvx::GuardedHandler<DockFloatingScreenMenu>, ACRX_CMD_MODAL},
+    {L"TLoadMenu", qvx::GuardedHandler<LoadMenu>, ACRX_CMD_MODAL},
+    {L"TInPlaceEdit", qvx::GuardedHandler<unbuilt::InPlaceEdit>, ACRX_CMD_USEPICKSET},
+    {L"TTextEditInBlock", qvx::GuardedHandler<unbuilt::TextEditInBlock>, ACRX_CMD_TRANSPARENT},
+    {L"TCurTips", qvx::GuardedHandler<ShowCurrentTips>, ACRX_CMD_TRANSPARENT},
+    {L"TAbout", qvx::GuardedHandler<ShowAbout>, ACRX_CMD_TRANSPARENT},
+    {L"TReportBug", qvx::GuardedHandler<ReportBug>, ACRX_CMD_TRANSPARENT},
+    {L"THelp", qvx::GuardedHandler<OpenHelp>, ACRX_CMD_TRANSPARENT},
+    {L"TReScreenMenu", qvx::GuardedHandler<RefreshScreenMenu>, ACRX_CMD_TRANSPARENT},
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "frame/settings/settings_report.h"
+#include "ground/guard.h"
 #include "ground/json_text.h"
 #include "ground/unbuilt_rooms.h"
 #include "ground/win/owned_handle.h"
@@ -54,25 +55,30 @@ std::string UnbuiltSection() {
 
 // UTF-8, valid until the next call; main thread only.
 extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
-  static std::string json;
-  json = "{\"screenmenu\":" + DescribeScreenMenu() + ",\"popup\":" + DescribePopup() +
-         ",\"tabs\":null,\"panes\":" + PanesSection() +
-         ",\"editor\":null,\"recent\":" + RecentSection() +
-         ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
-         ",\"unbuilt\":" + UnbuiltSection() + "}";
-  return json.c_str();
+  return qvx::GuardedOr("{}", [] {
+    static std::string json;
+    json = "{\"screenmenu\":" + DescribeScreenMenu() + ",\"popup\":" + DescribePopup() +
+           ",\"tabs\":null,\"panes\":" + PanesSection() +
+           ",\"editor\":null,\"recent\":" + RecentSection() +
+           ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
+           ",\"faults\":" + std::to_string(qvx::FaultCount()) + ",\"unbuilt\":" + UnbuiltSection() +
+           "}";
+    return json.c_str();
+  });
 }
 
 // The settings as they stand, also while the module is not started; UTF-8, valid until the next
 // call.
 extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
-  static std::string report;
-  report = SettingsReport();
-  return report.c_str();
+  return qvx::GuardedOr("", [] {
+    static std::string report;
+    report = SettingsReport();
+    return report.c_str();
+  });
 }
 
 // Opens the menu that a right click at this screen point would, before anything else listens for
 // right clicks. 0 when no menu was shown.
 extern "C" __declspec(dllexport) int QvxShowContextMenu(int x, int y, int force) {
-  return ShowContextMenu(CPoint(x, y), force);
+  return qvx::GuardedOr(0, [&] { return ShowContextMenu(CPoint(x, y), force); });
 }

@@ -1,5 +1,5 @@
-// The host's way into the module, and what the module offers to its siblings. Every message is
-// answered with "fine"; nothing is ever reported back.
+// The module's entry point and its exports for sibling modules. Every message is answered with
+// kRetOK; no error and no exception is reported back.
 #include <memory>
 
 #include "afxwin.h"
@@ -7,6 +7,7 @@
 #include "frame/commands/win/live_menu_commands.h"
 #include "frame/start/load_sequence.h"
 #include "frame/start/shell.h"
+#include "ground/guard.h"
 #include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "rxdlinkr.h"
@@ -46,11 +47,7 @@ void RunLispFunction() {
   DispatchLisp(rows, count);
 }
 
-}  // namespace
-
-Shell* TheShell() { return g_shell.get(); }
-
-QVX_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packet) {
+void Dispatch(AcRx::AppMsgCode message, void* packet) {
   switch (message) {
     case AcRx::kInitAppMsg:
       Load(packet);
@@ -70,16 +67,26 @@ QVX_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packe
     default:
       break;
   }
+}
+
+}  // namespace
+
+Shell* TheShell() { return g_shell.get(); }
+
+QVX_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packet) {
+  qvx::Guarded([&] { Dispatch(message, packet); });
   return AcRx::kRetOK;
 }
 
-QVX_EXPORT void LoadContexMenu() { ReloadMenu(); }
+QVX_EXPORT void LoadContexMenu() { qvx::Guarded(ReloadMenu); }
 
 QVX_EXPORT void LoadMenuForSun() {
-  if (!g_shell) return;
-  g_shell->bringUp.Run();
-  ShowScreenMenu(1);
+  qvx::Guarded([] {
+    if (!g_shell) return;
+    g_shell->bringUp.Run();
+    ShowScreenMenu(1);
+  });
 }
 
-QVX_EXPORT void HideTabBar(int) { unbuilt::HideTabBar(); }
-QVX_EXPORT void UpdateStatusBar() { UpdateStatusPanes(); }
+QVX_EXPORT void HideTabBar(int) { qvx::Guarded(unbuilt::HideTabBar); }
+QVX_EXPORT void UpdateStatusBar() { qvx::Guarded(UpdateStatusPanes); }
