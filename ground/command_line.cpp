@@ -2,6 +2,7 @@
 #include "ground/command_line.h"
 
 #include "acdocman.h"
+#include "aced.h"
 #include "adslib.h"
 #include "dbapserv.h"
 #include "ground/host_variables.h"
