@@ -59,6 +59,34 @@ ACHAR* Copy(const ACHAR* text) {
   return copy;
 }
 
+// Reads the argument for the type of a node.
+void SetValue(resbuf* node, va_list* args) {
+  switch (ValueKindOf(node->restype)) {
+    case ValueKind::Short:
+      node->resval.rint = static_cast<short>(va_arg(*args, int));
+      break;
+    case ValueKind::Long:
+      node->resval.rlong = va_arg(*args, int);
+      break;
+    case ValueKind::Real:
+      node->resval.rreal = va_arg(*args, double);
+      break;
+    case ValueKind::Point:
+      std::memcpy(node->resval.rpoint, va_arg(*args, double*), sizeof(ads_point));
+      break;
+    case ValueKind::String: {
+      const ACHAR* text = va_arg(*args, const ACHAR*);
+      node->resval.rstring = Copy(text ? text : L"");
+      break;
+    }
+    case ValueKind::Name:
+      std::memcpy(node->resval.rlname, va_arg(*args, long long*), sizeof(ads_name));
+      break;
+    case ValueKind::Nothing:
+      break;
+  }
+}
+
 }  // namespace
 
 resbuf* acutNewRb(int type) {
@@ -95,36 +123,13 @@ resbuf* acutBuildList(int type, ...) {
   resbuf** tail = &head;
   // 0 ends the list, except as its first code, where it is the group of an entity's type.
   for (bool first = true; type != RTNONE && !(type == 0 && !first); first = false) {
-    // Inside a list, RTDXF0 stands for group 0.
+    // Inside a list, RTDXF0 means group 0.
     if (type == RTDXF0) type = 0;
     resbuf* node = acutNewRb(type);
     if (!node) break;
     *tail = node;
     tail = &node->rbnext;
-    switch (ValueKindOf(type)) {
-      case ValueKind::Short:
-        node->resval.rint = static_cast<short>(va_arg(args, int));
-        break;
-      case ValueKind::Long:
-        node->resval.rlong = va_arg(args, int);
-        break;
-      case ValueKind::Real:
-        node->resval.rreal = va_arg(args, double);
-        break;
-      case ValueKind::Point:
-        std::memcpy(node->resval.rpoint, va_arg(args, double*), sizeof(ads_point));
-        break;
-      case ValueKind::String: {
-        const ACHAR* text = va_arg(args, const ACHAR*);
-        node->resval.rstring = Copy(text ? text : L"");
-        break;
-      }
-      case ValueKind::Name:
-        std::memcpy(node->resval.rlname, va_arg(args, long long*), sizeof(ads_name));
-        break;
-      case ValueKind::Nothing:
-        break;
-    }
+    SetValue(node, &args);
     type = va_arg(args, int);
   }
   va_end(args);
