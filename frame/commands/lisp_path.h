@@ -1,6 +1,6 @@
-// The LISP symbols that tell the product's LISP programs where they lie.
+// The LISP symbols that hold the path of the product's LISP programs.
 #pragma once
 
-// Forgets _qvxatoml, asks the LISP function TGetLispPath and keeps its result in _prefix and
-// _prefix1; both stay as they were when it gives none.
+// Sets _qvxatoml to nil, and _prefix and _prefix1 to the result of the LISP function TGetLispPath;
+// without a result both are unchanged.
 void PublishLispPath();

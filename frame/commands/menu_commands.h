@@ -7,7 +7,7 @@ class MenuCommands {
  public:
   void Reload();          // QmnLoad: by the remembered menu, source only
   void ReloadBySearch();  // QmnLoad1
-  // TSetMenu; null is "no string given". False when nothing was changed.
+  // TSetMenu; null: no text given. False when nothing was changed.
   bool SetMenu(const wchar_t* file);
   void ToggleRunMode();
   void ToggleAviMode();

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kLongestLine = 255;  // a longer one counts as several
+constexpr int kLongestLine = 255;  // a longer line is read as several
 
 TWCString TakeLine(const TWCString& text, int& at) {
   const int start = at;
@@ -30,7 +30,7 @@ bool HasStartedBefore(double release) {
   const int count = FirstStartValueNames(release, names);
   int started = 0;
   for (int i = 0; i < count; ++i) {
-    flags.GetValue(names[i], started);  // of two, the second decides when it is there
+    flags.GetValue(names[i], started);  // the second value decides if it exists
     flags.SetValue(names[i], 1);
   }
   return started != 0;

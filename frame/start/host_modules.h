@@ -1,8 +1,8 @@
-// The module towards the host's linker: the kernel, and the module's own registration.
+// Calls to the host's linker: load and unload the kernel, register this module.
 #pragma once
 
 void LoadKernel();
 void UnloadKernel();
-// `packet` is what the host gave with the load message.
+// `packet`: the argument of the host's load message.
 void UnlockModule(void* packet);
 void RegisterMdiAware(void* packet);

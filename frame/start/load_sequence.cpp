@@ -22,7 +22,7 @@ namespace {
 
 using qvx::SwitchPane;
 
-// Read anew at each use: the kernel that holds the flags is loaded by the first step.
+// Not cached: the kernel, which holds the flags, is loaded by the first step.
 bool Has(CustomFlag flag) { return (GetCustomFlag() & flag) != 0; }
 
 void OnMenuReadiness() {
@@ -62,8 +62,8 @@ void AddPanes() {
   if (!Has(kNoScalePane)) InitScalePane(true);
 }
 
-// Deliberately not the mirror of AddPanes: the base line and dynamic dimension panes are taken away
-// whether or not they were ever added. The user sees nothing of it.
+// Deliberate: not the reverse of AddPanes. The base line and dynamic dimension panes are removed
+// even when they were not added. The user sees no difference.
 void RemovePanes() {
   InitStatusPane(SwitchPane::kMakeGroup, false);
   InitStatusPane(SwitchPane::kBaseLine, false);

@@ -1,7 +1,7 @@
-// The order in which the module comes up and goes down. Called by the module's entry function.
+// The load and unload sequences of the module, called by its entry function.
 #pragma once
 
-// Bits of the custom flags that leave something out.
+// Bits of the custom flags; each leaves out one part.
 enum CustomFlag : int {
   kNoScalePane = 0x01,
   kNoTipsAtStart = 0x02,
@@ -10,6 +10,6 @@ enum CustomFlag : int {
   kNoDrawingPanes = 0x20,
 };
 
-// `packet` is what the host gave with the load message.
+// `packet`: the argument of the host's load message.
 void RunLoadSequence(void* packet);
 void RunUnloadSequence();

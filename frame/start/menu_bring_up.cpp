@@ -21,7 +21,7 @@ int ScreenMenuSetting(const wchar_t* name, int value) {
   return value;
 }
 
-// Product 17 from version 7 on has no QMNLOAD to point to.
+// Product 17 has no QMNLOAD from version 7 on, so the message does not name it.
 bool IsLimitedProduct() { return g_nProductId == 17 && g_nVersion > 6.9; }
 
 }  // namespace

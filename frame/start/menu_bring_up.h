@@ -1,13 +1,13 @@
-// The end of the start-up, run from a timer when the host's message loop is free: looking for the
-// menu, bringing up the screen menu and the recent commands, and the one text that is sent when all
-// of it stands. Also the command TLoadMenu.
+// The last part of the start, run by a timer when the host's message loop is free: finds the
+// menu, creates the screen menu, loads the recent commands, then sends TShowBar once. Also the
+// command TLoadMenu.
 #pragma once
 
 class MenuBringUp {
  public:
-  // Runs once per load of the module; a second call returns at once. With the screen menu switched
-  // off in the settings nothing is done and nothing remembered, so the readiness timer calls here
-  // for as long as the host runs: that is how the setting works.
+  // Runs once per load of the module; a second call returns at once. When the setting Obsolete
+  // turns the screen menu off, it does nothing and does not count as run. Deliberate: the readiness
+  // timer then calls it as long as the host runs, and the user sees no screen menu.
   void Run();
 
   // One firing of the readiness timer.
@@ -18,6 +18,6 @@ class MenuBringUp {
  private:
   bool m_done = false;
   bool m_showBarPending = true;
-  // Nothing sets it, so its message is never printed; that is meant to stay.
+  // Deliberate: never set, so the message for a first run is never printed.
   bool m_firstRun = false;
 };

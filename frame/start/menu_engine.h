@@ -1,11 +1,11 @@
-// The menu engine as the module uses it: its files along the support path, its settings, and the
-// menu in force as the system it loads into.
+// The menu engine with files from the support path and the module's settings. It loads into the
+// menu in force.
 #pragma once
 
 #include "kernel/twcstring.h"
 
-// Drive, folder and name (no extension) of the menu that the settings ask for; false and untouched
-// when there is none.
+// Drive, folder and name (no extension) of the menu that the settings select; false, with `base`
+// unchanged, when there is none.
 bool FindMenuBase(TWCString& base);
 
 // Both do nothing without a context window.

@@ -1,4 +1,4 @@
-// The module's state from load to unload. Made by the entry function.
+// The module's state from load to unload. Created by the entry function.
 #pragma once
 
 #include "frame/commands/menu_commands.h"

@@ -1,5 +1,5 @@
-// The module's host commands, in one static table that is registered at load and taken back at
-// unload by its group name.
+// The module's host commands: one static table, registered at load and removed by its group name
+// at unload.
 #pragma once
 
 void RegisterCommands();

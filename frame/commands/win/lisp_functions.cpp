@@ -61,7 +61,7 @@ void OpenQuestions() {
     adsout << L"\n无法打开FAQ.DOC!";
 }
 
-// A path as argument gives only its file name to the lookup.
+// Only the file name of a path is looked up.
 void PlayNamedClip(const TWCString& name) {
   TWCString tail(L"ShowMe\\"), found, lastTried;
   tail += name;

@@ -1,5 +1,5 @@
-// The menu commands as the host and sibling modules call them: MenuCommands over the live host.
-// Each does nothing when the module is not up.
+// The menu commands for the host and sibling modules: MenuCommands of the loaded module. Each does
+// nothing while the module is not loaded.
 #pragma once
 
 void ReloadMenu();

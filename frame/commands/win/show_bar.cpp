@@ -18,7 +18,7 @@ class LiveHostMenus : public HostMenus {
   }
 };
 
-// mutable: whether this run of the host has its menus anew.
+// Mutable: whether this run of the host has reloaded its menus.
 bool g_isRefreshed = false;
 
 }  // namespace

@@ -1,7 +1,7 @@
-// The module's diagnostic exports: what its live windows show, as JSON, and its settings as text.
-// Sections whose room is not built are null, and the steps that wait for a room are listed with how
-// often they were asked for. "handles" counts the handles that owners hold; with no screen menu and
-// no dialog up it is what was left behind.
+// The module's diagnostic exports: the state of its windows as JSON, and its settings as text.
+// Sections of rooms that are not built are null; the steps that wait for a room are listed with the
+// number of calls. "handles" is the number of owned handles; those left without a screen menu and a
+// dialog are leaks.
 #include <string>
 
 #include "frame/settings/settings_report.h"
@@ -67,8 +67,7 @@ extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
   });
 }
 
-// The settings as they stand, also while the module is not started; UTF-8, valid until the next
-// call.
+// The present settings, also while the module is not started; UTF-8, valid until the next call.
 extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
   return qvx::GuardedOr("", [] {
     static std::string report;
@@ -77,8 +76,8 @@ extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
   });
 }
 
-// Opens the menu that a right click at this screen point would, before anything else listens for
-// right clicks. 0 when no menu was shown.
+// Opens the menu of a right click at this screen point, until the message filter is built and does
+// so. 0 when no menu was shown.
 extern "C" __declspec(dllexport) int QvxShowContextMenu(int x, int y, int force) {
   return qvx::GuardedOr(0, [&] { return ShowContextMenu(CPoint(x, y), force); });
 }

@@ -1,5 +1,5 @@
-// The module's entry point and its exports for sibling modules. Every message is answered with
-// kRetOK; no error and no exception is reported back.
+// The module's entry point and its exports for sibling modules. The result of every message is
+// kRetOK; errors and exceptions are not reported to the host.
 #include <memory>
 
 #include "afxwin.h"

@@ -1,4 +1,4 @@
-// The host's frame as the module changes it.
+// Changes to the host's frame window.
 #pragma once
 
 void SetFrameTitle(const wchar_t* title);  // from the product's title and the present text

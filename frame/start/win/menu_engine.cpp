@@ -14,7 +14,7 @@
 
 namespace {
 
-// What the engine is given: who uses the blocks, files, settings, printing, boxes.
+// The interfaces that the engine calls: users of the blocks, files, settings, printing, boxes.
 class EngineLinks : public MenuUsers, public MenuFiles, public MenuPrinter, public MenuBoxes {
  public:
   TMenuSystem* CurrentSystem() override { return LoadedMenu(); }
