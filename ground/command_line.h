@@ -1,31 +1,30 @@
-// The host's command line: sending commands, whether a command runs, the prompt after printing. The
-// one place of the product that calls sendStringToExecute and acedPostCommandPrompt.
+// The host's command line: sending text, whether a command runs, the prompt after printing. The
+// product calls sendStringToExecute and acedPostCommandPrompt only here.
 #pragma once
 
 #include "kernel/twcstring.h"
 
 namespace qvx {
 
-// To the current document: it is activated, an inactive document is not wrapped up, the text is
-// echoed. Nothing happens without a current document.
+// Sends to the current document: activates it, does not wrap up an inactive document, echoes the
+// text. Does nothing without a current document.
 void SendToHost(const wchar_t* text);
 
-// What the host says of running commands. A value that can't be read counts as 0 or as empty text.
+// The host's running commands. A value that can't be read is 0 or empty.
 struct HostActivity {
   int active = 0;   // CMDACTIVE
   TWCString names;  // CMDNAMES
 };
 HostActivity AskHostActivity();
-// Names alone make the host busy too: some commands are named while CMDACTIVE is still 0.
+// True when either value is set: some commands are in CMDNAMES while CMDACTIVE is still 0.
 bool IsBusy(const HostActivity& host);
 int CommandActive();  // CMDACTIVE alone; 0 when it can't be read
 
 bool HasWorkingDatabase();
 
-// Printing outside a command: the text, then the prompt unless a command is active, whose own
-// prompt would then be repeated.
+// Prints the text, then the prompt unless a command is active: its own prompt would be repeated.
 void PrintOutsideCommand(const wchar_t* text);
 void PostPromptWhenIdle();
-void PostPrompt();  // in every case
+void PostPrompt();  // also while a command is active
 
 }  // namespace qvx

@@ -1,4 +1,4 @@
-// Where the tutorial, the questions and the clips lie: plain text work over the program folder and
+// Paths of the tutorial, the questions and the clips: text functions over the program folder and
 // the folder that the product was set up from.
 #pragma once
 
@@ -7,8 +7,8 @@
 // The folder above `folder` ("C:\QVX\Sys\" gives "C:\QVX\"); the text itself when there is none.
 TWCString ParentFolder(const wchar_t* folder);
 
-// The first of `parent + tail` and `setup + "\" + tail` that `find` knows; false when neither is
-// there. `lastTried` gets the second one, which is what a message shows.
+// Sets `found` to the first of `parent + tail` and `setup + "\" + tail` that `find` finds; false
+// when neither exists. `lastTried` gets the second path, for a message.
 struct DocumentSearch {
   TWCString parent;  // ends in a backslash
   TWCString setup;

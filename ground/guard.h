@@ -1,7 +1,7 @@
-// The end of an exception on its way out of the module. Entry point, exports, commands, LISP
-// functions, reactors, panes, COM methods and window procedures are called by the host or the
-// window system, which cannot handle it: the operation is dropped in silence, and a counter records
-// it. Called at those borders only; between rooms exceptions pass freely.
+// Catches exceptions at the module's borders. Entry point, exports, commands, LISP functions,
+// reactors, panes, COM methods and window procedures are called by the host or the window system,
+// which cannot handle an exception: the operation ends without a message, and a counter records it.
+// For borders only; between rooms exceptions pass.
 #pragma once
 
 #include <utility>
@@ -34,7 +34,7 @@ Result GuardedOr(Result otherwise, Work&& work) noexcept {
   }
 }
 
-// A handler without arguments as the host may call it: GuardedHandler<Function>.
+// A handler without arguments as the host calls it, guarded: GuardedHandler<Function>.
 template <void (*Handler)()>
 void GuardedHandler() noexcept {
   Guarded(Handler);

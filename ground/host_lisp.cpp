@@ -11,8 +11,8 @@ LispAnswer::Kind KindOf(int restype) {
   return restype == RTT ? LispAnswer::Kind::kTrue : LispAnswer::Kind::kOther;
 }
 
-// A function that loads the menu whose lines call it would recurse without end: each new tree asks
-// it again. Calls beyond the limit are not made; their lines show what a failing function shows.
+// A function that loads a menu whose lines call it would recurse without end. Calls beyond the
+// limit are not made; their lines look as after a failed call.
 class Nesting {
  public:
   Nesting() { ++Depth(); }

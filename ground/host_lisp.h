@@ -1,4 +1,4 @@
-// LISP functions of the host, called by name. The one place of the product that calls acedInvoke.
+// LISP functions of the host, called by name. The product calls acedInvoke only here.
 #pragma once
 
 #include <memory>
@@ -13,8 +13,8 @@ struct ChainRelease {
 };
 using OwnedChain = std::unique_ptr<resbuf, ChainRelease>;
 
-// The result of the call; null when the call failed or gave nothing. `called`, when given, says
-// whether the call itself succeeded.
+// The result of the call; null when the call failed or returned nothing. `called`, if not null,
+// gets whether the call itself succeeded.
 OwnedChain InvokeLisp(const wchar_t* function, bool* called = nullptr);
 
 // Calls for lines of the menu. A function may load a menu whose lines call it again; calls nested

@@ -1,5 +1,5 @@
 // The host's system registry: the linker that loads modules and the stack that holds commands. Each
-// is looked up anew and given only when it is what its name says.
+// is looked up at every call; null when the entry is missing or of another class.
 #pragma once
 
 class AcRxDynamicLinker;

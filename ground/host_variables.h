@@ -1,5 +1,5 @@
-// Variables of the host by name. A variable that can't be read, or is of another type, gives
-// nothing: a missing value and an empty text. The one place of the product that calls acedGetVar.
+// Variables of the host by name. A variable that can't be read, or is of another type, has no value
+// or is an empty text. The product calls acedGetVar only here.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@ namespace qvx {
 
 std::optional<int> ShortVariable(const wchar_t* name);
 TWCString TextVariable(const wchar_t* name);
-// A number or text as text; a value of another type leaves `text` as it was. False when the
+// A number or text as text; a value of another type leaves `text` unchanged. False when the
 // variable can't be read.
 bool VariableAsText(const wchar_t* name, std::wstring& text);
 

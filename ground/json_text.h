@@ -1,4 +1,4 @@
-// JSON and UTF-8 text out of wide strings and rectangles.
+// JSON and UTF-8 text from wide strings and rectangles.
 #pragma once
 
 #include <string>

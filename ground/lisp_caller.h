@@ -1,5 +1,4 @@
-// Calls a LISP function by name, as the decisions of the rooms see it. HostLisp (host_lisp.h) calls
-// the host; tests answer from a table.
+// The interface by which the rooms call LISP functions. HostLisp (host_lisp.h) calls the host.
 #pragma once
 
 namespace qvx {
@@ -18,7 +17,7 @@ class LispCaller {
   virtual LispAnswer Call(const wchar_t* function) = 0;
 };
 
-// A result counts only when the call succeeded and gave something.
+// False unless the call succeeded and returned such a value.
 inline bool GivesNumber(const LispAnswer& answer) {
   return answer.called && answer.kind == LispAnswer::Kind::kNumber;
 }

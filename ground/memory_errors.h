@@ -1,5 +1,5 @@
-// Lack of memory in the two forms in which it is thrown: the C++ library's std::bad_alloc, and the
-// CMemoryException of the class library, whose own operator new throws that instead.
+// Catches both exceptions for lack of memory: std::bad_alloc of the C++ library, and
+// CMemoryException, which the class library's operator new throws instead.
 #pragma once
 
 #include <new>

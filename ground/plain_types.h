@@ -1,7 +1,6 @@
-// The few plain Windows types that decisions are written in. On Windows they are Windows' own, and
-// the class library brings them: it refuses a windows.h that was included ahead of it. On a machine
-// without Windows headers the same names stand here with the same layout, so that a file of pure
-// logic includes this and nothing else. Not a substitute for windows.h: no function is declared.
+// The plain Windows types for code without windows. On Windows they come from the class library,
+// which rejects a windows.h that was included before it. Elsewhere they are defined here with the
+// same layout. No function is declared: this does not replace windows.h.
 #pragma once
 
 #ifdef _WIN32

@@ -1,5 +1,5 @@
-// The product's keys in the settings store, below GetRegLocation(). The one place that says where
-// they lie; each room reads and writes its own values.
+// The product's keys in the settings store, below GetRegLocation(). Their paths are defined only
+// here; each room reads and writes its own values.
 #pragma once
 
 #include "kernel/tregproperty.h"

@@ -1,5 +1,4 @@
-// The section Product of qvx.ini, read once, for as long as this lives: what the product calls
-// itself and its files. For everybody who shows or opens something of it.
+// The section Product of qvx.ini, read once by the constructor: the product's name and its files.
 #pragma once
 
 #include "ground/support_files.h"
@@ -18,7 +17,7 @@ class ProductSection {
   ProductSection& operator=(const ProductSection&) = delete;
 
   bool IsThere() const { return m_buffer != nullptr; }
-  // Null for a key that is not there; valid as long as this.
+  // Null for a missing key; valid as long as this object.
   const wchar_t* Value(const wchar_t* key) const {
     return QvxExport::GetIniBuferValueByKey(m_buffer, key);
   }

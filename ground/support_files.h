@@ -1,17 +1,17 @@
-// Files along the host's support path. The one place of the product that searches for them.
+// Files along the host's support path. The product searches for them only here.
 #pragma once
 
 #include "kernel/twcstring.h"
 
 namespace qvx {
 
-// True when the file is there; `path` then gets its full path and is otherwise left as it was.
+// True when the file exists; `path` then gets its full path and is otherwise unchanged.
 bool FindFile(const wchar_t* name, TWCString& path);
 bool FindFile(const wchar_t* name);
-// The host's own search, which also knows folders that the product does not ask for.
+// The host's own search, which covers folders that FindFile does not.
 bool FindHostFile(const wchar_t* name, TWCString& path);
 
-// As FindFile, for those whom tests give another search.
+// The type of FindFile, for functions that take the search as a parameter.
 using FindFileFunction = bool (*)(const wchar_t* name, TWCString& path);
 
 }  // namespace qvx

@@ -4,7 +4,7 @@
 
 namespace {
 
-// mutable counts: this is the diary of the one loaded module.
+// Mutable: the calls of the one loaded module are counted here.
 UnbuiltStep g_steps[] = {
     {"message filter", "editor", 0},     {"CreateDocTabBar", "doctabs", 0},
     {"InitDocTabBar", "doctabs", 0},     {"DestroyDocTabBar", "doctabs", 0},

@@ -1,6 +1,6 @@
-// The one place for steps of the module whose room is not built yet. Each function does nothing,
-// says nothing and is noted in the list below; a function leaves this file when its room has it.
-// The list is part of what QvxDescribeShell tells ("unbuilt"), so nobody has to guess.
+// Steps of the module whose room is not built. Each function only counts its calls in the list
+// below, which QvxDescribeShell reports ("unbuilt"), and is removed from this file when its room
+// has it.
 #pragma once
 
 struct UnbuiltStep {

@@ -7,8 +7,8 @@
 
 namespace qvx {
 
-// What a window answers when the handler of a message threw. WM_CREATE fails the creation; a paint
-// that was not finished counts as done, or it would be asked for again without end.
+// The result of a message whose handler threw. WM_CREATE: the creation fails. WM_PAINT: the window
+// is validated, or the system would send the message again without end.
 inline LRESULT FaultResult(HWND window, UINT message) {
   if (message == WM_PAINT) ::ValidateRect(window, nullptr);
   return message == WM_CREATE ? -1 : 0;

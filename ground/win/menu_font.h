@@ -1,14 +1,14 @@
-// The font of the system's menus. Who draws rows asks for it at each use, so that a change of the
-// user's settings shows at once.
+// The font of the system's menus. Create it for each use, so that a change of the user's settings
+// shows at once.
 #pragma once
 
 #include "ground/win/owned_handle.h"
 
 namespace qvx {
 
-// Null when the system does not tell.
+// Null when the system gives no metrics.
 inline OwnedFont MakeMenuFont() {
-  // Without the field that later systems put behind: every system accepts this size.
+  // Without the field that later systems appended: every system accepts this size.
   constexpr UINT kMetricsSize = 500;
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = kMetricsSize;

@@ -1,5 +1,5 @@
-// The handle of the module that this code was linked into, for loading its own bitmaps at any time:
-// which resources are current when a message arrives is the host's affair.
+// The handle of the module that this code is linked into. The module's bitmaps are loaded by it,
+// because the host decides which resources are current when a message arrives.
 #pragma once
 
 #include "afxwin.h"

@@ -1,5 +1,5 @@
-// The module's own resources, made current for as long as this lives: texts, bitmaps and dialogs
-// are then found in it and not in the host.
+// Makes the module's own resources current for a scope: texts, bitmaps and dialogs are then found
+// in the module and not in the host.
 #pragma once
 
 #include "ground/win/module_handle.h"

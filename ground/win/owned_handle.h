@@ -1,7 +1,6 @@
-// One owner type for every kind of handle that the windows of this module make. An owner frees what
-// it holds when it goes, can be moved and not copied, and each kind counts the handles alive, so
-// that a test can open and close a window a hundred times and see whether the count came back.
-// Device contexts in use and what is selected into them are SelectedObject's.
+// Owners of the handles that the module's windows create. An owner frees its handle when it is
+// destroyed; it can be moved and not copied. Each kind counts its live handles, so that leaks are
+// found. SelectedObject and WindowDc restore and release device contexts; they are not counted.
 #pragma once
 
 #include <utility>
@@ -10,16 +9,16 @@
 
 namespace qvx {
 
-// All kinds together, for the shell state: 0 when the module has gone down.
+// Live handles of all kinds, for the shell state: 0 after the module is unloaded.
 class LiveHandles {
  public:
   static int Count() { return s_count; }
 
  protected:
-  inline static int s_count = 0;  // windows live on one thread, so does this
+  inline static int s_count = 0;  // not atomic: windows use one thread only
 };
 
-// A kind names the handle type and how it is freed. `alive` is shared by the whole module.
+// Kind: the handle type and how it is freed. The whole module shares one count per kind.
 template <class Kind>
 class OwnedHandle : private LiveHandles {
  public:
@@ -93,7 +92,7 @@ using OwnedCursor = OwnedHandle<CursorKind>;
 using OwnedIcon = OwnedHandle<IconKind>;
 using OwnedMemoryDc = OwnedHandle<MemoryDcKind>;
 
-// Selects an object into a device context and puts the earlier one back.
+// Selects an object into a device context and restores the previous one.
 class SelectedObject {
  public:
   SelectedObject(HDC dc, HGDIOBJ object) : m_dc(dc), m_old(::SelectObject(dc, object)) {}
@@ -108,7 +107,7 @@ class SelectedObject {
   HGDIOBJ m_old;
 };
 
-// A window's device context for as long as this lives.
+// Releases a window's device context at the end of the scope.
 class WindowDc {
  public:
   WindowDc(HWND window, HDC dc) : m_window(window), m_dc(dc) {}
