@@ -1,6 +1,6 @@
 // The door to the menu in force: the one loaded system, its recent commands, and the watch over its
-// lines. The context window owns the system and registers itself here; everybody else reaches it
-// through the functions below, which do nothing, or give nothing, without one.
+// lines. The context window owns the system and registers itself here; without one, the functions
+// below do nothing or return nothing.
 #pragma once
 
 #include "menu/line_state.h"
@@ -9,8 +9,9 @@ class MenuInForce {
  public:
   virtual TMenuSystem& System() = 0;
   virtual qvx::LineSources Lines() = 0;
-  // Lines that somebody may show are going, because another menu was loaded or the palette is
-  // destroyed: all watches say "gone", and pop-ups let go of their lines.
+  // Lines that may be shown are about to be destroyed, because another menu was loaded or the
+  // palette is destroyed: for all watches the menu is gone, and pop-ups drop their references
+  // to lines.
   virtual void ForgetLines() = 0;
   virtual void SetToolBar(TMenuBar* bar) = 0;  // the system's ToolBar block; null for none
 
@@ -19,7 +20,7 @@ class MenuInForce {
 };
 
 MenuInForce* TheMenuInForce();           // null without a context window
-void SetMenuInForce(MenuInForce* menu);  // not owned; null takes it away
+void SetMenuInForce(MenuInForce* menu);  // not owned; null removes it
 
 TMenuSystem* LoadedMenu();
 qvx::LineSources MenuLines();
