@@ -39,7 +39,7 @@ TEST(FindDocument, PrefersTheFolderAboveTheProgram) {
   EXPECT_STREQ(found, L"D:\\Setup\\ShowMe\\a.chm");
 }
 
-TEST(FindDocument, ReturnsTheSecondPlaceWhenNeitherHasIt) {
+TEST(FindDocument, ReturnsTheSecondPathWhenNeitherExists) {
   TWCString found, lastTried;
   EXPECT_FALSE(Find(L"elsewhere", found, lastTried));
   EXPECT_STREQ(lastTried, L"D:\\Setup\\ShowMe\\a.chm");

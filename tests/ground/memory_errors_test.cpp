@@ -1,4 +1,4 @@
-// Both forms in which a lack of memory is thrown.
+// Both exceptions for lack of memory.
 #include "ground/memory_errors.h"
 
 #include <gtest/gtest.h>
@@ -7,13 +7,13 @@
 
 namespace {
 
-TEST(MemoryErrors, WorkThatEndsHadMemory) {
+TEST(MemoryErrors, CompletedWorkReturnsTrue) {
   bool ran = false;
   EXPECT_TRUE(qvx::HasMemoryFor([&] { ran = true; }));
   EXPECT_TRUE(ran);
 }
 
-TEST(MemoryErrors, OfTheLanguageAndOfTheClassLibraryEndTheWork) {
+TEST(MemoryErrors, ExceptionsOfTheLanguageAndOfTheClassLibraryReturnFalse) {
   EXPECT_FALSE(qvx::HasMemoryFor([] { throw std::bad_alloc(); }));
   EXPECT_FALSE(qvx::HasMemoryFor([] { AfxThrowMemoryException(); }));
 }
