@@ -1,6 +1,6 @@
-// What the sequences and menu commands of the frame call, as a diary. Linked instead of the rooms,
-// the host and the kernel's own start and save functions; each entry is one call with its
-// arguments.
+// Records the calls of the frame's sequences and menu commands in a diary. Linked instead of
+// the rooms, the host and the kernel's own start and save functions; each entry is one call
+// with its arguments.
 #pragma once
 
 #include <set>
