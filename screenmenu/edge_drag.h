@@ -1,5 +1,5 @@
-// Dragging the inner edge of a docked palette, as arithmetic over rectangles in the dock bar's
-// client coordinates. Capture, drawing of the drag bar and docking are CScreenMenu's.
+// Arithmetic for dragging the inner edge of a docked palette, over rectangles in the dock bar's
+// client coordinates. CScreenMenu does mouse capture, drawing of the drag bar and docking.
 #pragma once
 
 #include "ground/plain_types.h"
@@ -30,25 +30,25 @@ struct DockGeometry {
   int frameY;
 };
 
-// The strip beside the palette that a dock bar identifier or a hit code means. Returns the hit
-// code, or 0 with the rectangle unchanged.
+// The strip beside the palette for a dock bar identifier or a hit code. Returns the hit code, or 0
+// with the rectangle unchanged.
 int EdgeRect(int code, const DockGeometry& dock, RECT* rect);
 
-// The hit code when the point lies on the palette's inner edge, else 0.
+// The hit code when the point is on the palette's inner edge, else 0.
 int EdgeHit(POINT point, const DockGeometry& dock);
 
-// The way of the tracker for a pointer at this place: along one axis only. False when the palette
-// would become narrower or lower than `least`; the tracker then stays where it is.
+// The tracker's displacement for this pointer position, along one axis only. False when the palette
+// would become narrower or shorter than `least`; the tracker then does not move.
 bool TrackOffset(POINT point, const RECT& tracker, const DockGeometry& dock, SIZE least,
                  POINT* offset);
 
-// The palette's window rectangle after the drag: one side moves by the tracker's way from the edge.
+// The palette's window rectangle after the drag: one side moves by the tracker's displacement.
 RECT DraggedRect(const RECT& tracker, const DockGeometry& dock, const RECT& window);
 
-// From this host release on the palette may take the edge of its dock bar over.
+// True from the host release on in which the palette may handle the edge of its dock bar.
 bool HostLetsTakeEdge(int major, int minor);
 
-// An entry of a dock bar's array is a neighbour when it is a bar and not a row marker.
+// True when an entry of a dock bar's array is a bar and not a row marker.
 bool IsBarEntry(const void* entry);
 
 }  // namespace qvx

@@ -8,8 +8,8 @@
 namespace qvx {
 namespace {
 
-constexpr int kDockedTop = 3;      // room that a docked palette keeps above the root group
-constexpr int kPaletteBottom = 2;  // and below it
+constexpr int kDockedTop = 3;      // above the root group of a docked palette
+constexpr int kPaletteBottom = 2;  // below the root group
 
 // A tree exactly as tall as the window needs no bar.
 ScrollPlan PlanScroll(const LayoutRequest& request, int& width) {

@@ -1,6 +1,6 @@
-// One layout pass over a group, as arithmetic: rectangles in, rectangles out. The window moves only
-// what differs from where it stands. Called by CMenuGroup::LayoutGroup; painting and hit testing
-// use the same rectangles, since rows are windows.
+// One layout pass over a group, as arithmetic on rectangles. CMenuGroup::LayoutGroup moves only
+// windows whose rectangle differs. Rows are windows: painting and hit tests use the same
+// rectangles.
 #pragma once
 
 #include <vector>
@@ -12,12 +12,12 @@ namespace qvx {
 constexpr int kScrollBarWidth = 8;
 constexpr int kTopMargin = 2;  // above the first row
 constexpr int kChildGap = 2;   // between a header and the group below it; the sunken edge fills it
-constexpr int kHeaderReach = 2;  // how far above an open group its header's row is counted to reach
+constexpr int kHeaderReach = 2;  // added to the header's height when a group is revealed
 
 struct LayoutRequest {
   RECT client;
-  bool limitHeight;  // the group keeps its rows still and gives its open child what is left
-  bool scrolls;      // it is its own scroll host, and may get a bar
+  bool limitHeight;  // the rows do not scroll; the open child gets the remaining height
+  bool scrolls;      // the group is its own scroll host and may get a bar
   int total;         // ContentHeight of the group
   int rowsHeight;    // its own rows plus the margin
   int barWidth;
@@ -29,23 +29,23 @@ struct LayoutRequest {
 };
 
 struct ScrollPlan {
-  bool wanted = false;  // otherwise a bar that exists is to go
+  bool wanted = false;  // false: destroy an existing bar
   RECT bar{};
-  int top = 0;  // the range runs from 0 to here
+  int top = 0;  // upper end of the range, which starts at 0
   int pos = 0;
 };
 
 struct LayoutPlan {
   ScrollPlan scroll;
   std::vector<RECT> rows;
-  RECT child{};  // of the open child; its height may be zero or negative when rows fill all
-  int end = 0;   // y behind the last row
+  RECT child{};  // of the open child; height zero or negative when the rows fill the client area
+  int end = 0;   // y below the last row
 };
 
 LayoutPlan PlanLayout(const LayoutRequest& request);
 
-// The palette's part of a root group: 3 pixels from the top while docked, 2 from the bottom.
-// `bottom` is the used rectangle's while floating and the window's own while docked.
+// The rectangle of a root group in the palette: 3 pixels from the top while docked, 2 from the
+// bottom. `bottom` is that of the used rectangle while floating and of the window while docked.
 RECT FitRootGroup(const RECT& used, bool floating, int windowBottom);
 RECT FirstRootGroup(const RECT& used, bool floating);
 

@@ -1,6 +1,6 @@
-// The whole tree of groups as a plan, before a single window exists: rows, heights, nested groups
-// and which of them is open. Planning runs every LISP function of the menu, once and in line order;
-// the windows are then created where the plan and the layout pass put them, hidden, and shown once.
+// The whole tree of groups as a plan, made before any window: rows, heights, nested groups and
+// which of them is open. Planning runs every LISP function of the menu once, in line order. The
+// windows are then created hidden at their final places and shown once.
 #pragma once
 
 #include <memory>
@@ -11,7 +11,7 @@
 
 namespace qvx {
 
-// Deeper menus than this are cut: windows don't nest that deep, and planning recurses.
+// Deeper menus are cut off: the window system limits nesting of windows, and planning recurses.
 constexpr int kDeepestGroup = 100;
 
 struct GroupPlan {
@@ -22,11 +22,11 @@ struct GroupPlan {
   int rowsHeight = 0;         // sum of the row heights plus the margin
   int clientHeight = 0;       // the root's, where its height is limited
   std::vector<RowPlan> rows;  // one for each line
-  std::vector<std::unique_ptr<GroupPlan>>
-      children;     // one slot for each line, null without sub-menu
-  int cursor = -1;  // the open index; may stand on a line without sub-menu
+  // One slot for each line, null without sub-menu.
+  std::vector<std::unique_ptr<GroupPlan>> children;
+  int cursor = -1;  // the open index; may be that of a line without sub-menu
 
-  // For the rules of group_rules.h.
+  // The node interface of group_rules.h.
   bool LimitHeight() const { return limitHeight; }
   int RowsHeight() const { return rowsHeight; }
   int ClientHeight() const { return clientHeight; }
@@ -40,13 +40,13 @@ struct TreeRequest {
   RowSources sources;
   bool limitHeight;    // of the root
   bool openFirst;      // the setting that opens the first line of each level
-  int rememberedOpen;  // the root's open index as the settings keep it
+  int rememberedOpen;  // the root's open index from the settings
   int clientHeight;    // of the root's window
 };
-// Null when a LISP function replaced the menu: bar and lines are gone then.
+// Null when a LISP function replaced the menu: bar and lines are destroyed then.
 std::unique_ptr<GroupPlan> PlanTree(TMenuBar& bar, const TreeRequest& request);
 
-// Where a cursor sent to `index` comes to rest in a list of `count` slots.
+// The open index in a list of `count` slots after setting it to `index`.
 constexpr int RestOfCursor(int index, int count) {
   return index >= 0 && index < count ? index : -1;
 }

@@ -1,9 +1,9 @@
-// Rules over the tree of groups: how high a group's contents are, who scrolls for it, what a click
-// on a header does, which group is open at the start. Written over any node type, so that the tests
-// walk them on plain records and CMenuGroup on itself.
+// Rules over the tree of groups: content height, which group scrolls, what a click on a header
+// does, which group is open at the start. Templates over a node type, so that they run on
+// CMenuGroup, on GroupPlan and on plain records.
 //
-// A node offers: bool LimitHeight(); int RowsHeight() (rows plus 4); int ClientHeight();
-// Node* OpenChild() (null when nothing shows); Node* ParentGroup().
+// A node has: bool LimitHeight(); int RowsHeight() (rows plus 4); int ClientHeight();
+// Node* OpenChild() (null when none is shown); Node* ParentGroup().
 #pragma once
 
 namespace qvx {
@@ -22,7 +22,8 @@ int ContentHeight(Node* group) {
   return height;
 }
 
-// A group of limited height scrolls for itself; of any other the topmost one below such a group.
+// The group that scrolls: the group itself when its height is limited, otherwise the topmost one
+// below a group of limited height.
 template <class Node>
 Node* ScrollHostOf(Node* group) {
   if (group->LimitHeight()) return group;
@@ -34,8 +35,8 @@ Node* ScrollHostOf(Node* group) {
 
 enum class FoldStep {
   kNothing,  // the index is no row
-  kFold,     // hide the open group, nothing is open then
-  kSwitch,   // hide what is open, open this one and bring it into view
+  kFold,     // hide the open group; none is open then
+  kSwitch,   // hide the open group, show this one and scroll it into view
 };
 
 inline FoldStep DecideFold(unsigned index, int rows, int openIndex) {
@@ -43,9 +44,8 @@ inline FoldStep DecideFold(unsigned index, int rows, int openIndex) {
   return static_cast<int>(index) == openIndex ? FoldStep::kFold : FoldStep::kSwitch;
 }
 
-// Where the cursor of a new group is sent; a value that is no row leaves nothing open. Opening the
-// first line at every level outranks what the settings remember of the root. `remembered` is only
-// asked for the root.
+// The open index of a new group; an index that is no row leaves none open. Opening the first line
+// at every level takes precedence over `remembered`, which is called only for the root.
 template <class Remembered>
 int OpenIndexAtStart(bool openFirst, int depth, Remembered remembered) {
   if (openFirst) return 0;

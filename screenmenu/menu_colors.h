@@ -1,10 +1,10 @@
-// Colour slots and arrow bitmaps by nesting depth. The colours themselves are settings; only their
-// choice stands here. Called by the painting of groups and rows.
+// Colour slots and arrow bitmaps by nesting depth. The colours themselves are settings. Used by the
+// painting of groups and rows.
 #pragma once
 
 namespace qvx {
 
-// Slot 0 belongs to the root alone; deeper levels go round the other three.
+// Slot 0 is for the root only; deeper levels cycle through the other three.
 constexpr int ColorSlot(int depth) {
   if (depth <= 3) return depth < 0 ? 0 : depth;
   return 1 + (depth - 4) % 3;

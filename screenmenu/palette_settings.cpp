@@ -13,7 +13,7 @@ namespace {
 constexpr unsigned kAlignLeft = 0x1420;   // CBRS_ALIGN_LEFT, CBRS_BORDER_RIGHT, CBRS_FLYBY
 constexpr unsigned kAlignRight = 0x4120;  // CBRS_ALIGN_RIGHT, CBRS_BORDER_LEFT, CBRS_FLYBY
 
-// One row for each product of the family.
+// One for each product number from 1.
 constexpr ToolId RowOf(unsigned short data2) {
   return {0x91239E2F, data2, 0x4165, {0x99, 0x85, 0xC6, 0x46, 0x26, 0x9F, 0x2B, 0xFD}};
 }

@@ -1,6 +1,6 @@
-// What the palette keeps in the user's settings, under GetRegLocation() + "\Settings", folder
-// ScreenMenu, and the fixed numbers of its window. A missing value leaves the caller's default
-// as it is. Called by CScreenMenu and by the root group.
+// The palette's values in the user's settings, under GetRegLocation() + "\Settings", folder
+// ScreenMenu, and the constants of its window. A missing value leaves the caller's default
+// unchanged. Used by CScreenMenu and the root group.
 #pragma once
 
 #include "ground/plain_types.h"
@@ -20,14 +20,14 @@ struct PaletteSettings {
   int scrollBar = 0;
 };
 
-// A saved width that no palette can have, or that no screen has room for, counts as none: nobody
-// could take hold of such a palette to make it right again.
+// A saved width that is not positive or exceeds the screen is replaced by the first width: the user
+// could not grab the edge of such a palette to correct it.
 int UsableWidth(int saved, int screenWidth);
 
 // In this order: Alignment, SizeX, LimitHeight, DefaultOpenFirst, ScrollBar.
 void LoadPaletteSettings(PaletteSettings& settings);
 
-// SizeY is written and never read back: a palette that was dragged lower comes up at full height.
+// SizeY is written and never read: a palette that was made shorter opens at full height.
 void SavePaletteSize(int width, int height);
 
 struct PaletteState {
@@ -40,13 +40,13 @@ struct PaletteState {
 };
 void SavePaletteState(const PaletteState& state);
 
-int LoadActiveSubMenu();  // -1 when nothing is remembered
+int LoadActiveSubMenu();  // -1 when none is saved
 void SaveActiveSubMenu(int openIndex);
 
-// 1 when the palette is nearer to the frame's left side, or as near to it as to the right.
+// 1 when the palette is nearer to the frame's left side or equally near to both, else 0.
 int AlignmentOf(const RECT& palette, const RECT& frameClient);
 
-// Styles and dock bar of a side, as numbers of the window library.
+// Styles and dock bar of a side, as the published numbers of the window library.
 struct DockChoice {
   unsigned barStyle;  // without WS_CHILD and WS_VISIBLE
   int dockBar;
@@ -58,8 +58,8 @@ struct ToolId {
   unsigned short data2, data3;
   unsigned char data4[8];
 };
-// The host keeps its layout by this. There are identifiers for the products 1 to 11; a caller asks
-// first, since the product comes from the registry and may be any number.
+// The host stores the palette's position under this identifier. Products 1 to 11 have one; call
+// HasToolId first, since the product number comes from the registry and may be any number.
 bool HasToolId(int product);
 const ToolId& ToolIdOf(int product);
 

@@ -1,6 +1,6 @@
-// What a row tells a screen reader: name, role, states, the default action. Role and state values
-// are those of the published accessibility interface. Decided here without a window; the object
-// that answers for a live row is in row_accessible.h.
+// Accessibility data of a row for screen readers: name, role, states, default action. Role and
+// state values are those of the published accessibility interface. No window; the accessible object
+// of a live row is in row_accessible.h.
 #pragma once
 
 #include <string>
@@ -10,11 +10,11 @@ namespace qvx {
 struct RowFacts {
   std::wstring caption;
   bool header;
-  bool open;  // of a header: its group shows
+  bool open;  // of a header: its group is shown
   bool separator;
   bool checked;  // shows the check mark
   bool enabled;
-  bool visible;  // on the screen, the groups around it included
+  bool visible;  // on the screen: all enclosing groups are shown too
   bool focused;
   bool hot;  // the pointer is over it
   bool pressed;
@@ -35,14 +35,15 @@ enum AccessState : long {
   kAccessFocusable = 0x100000,
 };
 
-// The caption as it is read: an ampersand only underlines the next letter, a double one is one.
+// The caption without mnemonic marks: an ampersand underlines the next letter, a double one is a
+// literal ampersand.
 std::wstring AccessName(const std::wstring& caption);
 // The letter that an ampersand underlines, empty without one.
 std::wstring AccessKey(const std::wstring& caption);
 
 long AccessRole(const RowFacts& row);
 long AccessStates(const RowFacts& row);
-// What pressing the row does, as a word for the user; empty for a separator.
+// The default action as a word for the user; empty for a separator.
 const wchar_t* AccessAction(const RowFacts& row);
 
 }  // namespace qvx

@@ -5,7 +5,7 @@ namespace qvx {
 namespace {
 
 constexpr int kTextInset = 4;
-constexpr int kImageColumn = 21;  // the text stands behind it, with an image or without
+constexpr int kImageColumn = 21;  // width; the text follows it, with or without an image
 
 // One pixel to the right under the pointer, one more down while held.
 POINT ImageCorner(const RECT& face, RowState state, SIZE image) {

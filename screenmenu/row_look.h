@@ -1,5 +1,5 @@
-// How a row looks in one state: which fill, which border, where image and text stand. Painting
-// walks this record and computes nothing itself. Called by CSMenuItem::DrawItem.
+// Appearance of a row in one state: fill, border, places of image and text. CSMenuItem::DrawItem
+// paints from this record and computes nothing itself.
 #pragma once
 
 #include "ground/plain_types.h"
@@ -16,22 +16,22 @@ enum class RowFill { kGroupColor, kHoverColor, kActiveColor };
 enum class RowBorder { kNone, kSunken, kRaised };
 
 struct RowLook {
-  RECT face;  // what is filled and framed
+  RECT face;  // the filled and framed part
   RowFill fill;
   RowBorder border;
   bool separator;  // an etched line at the top of `line` and nothing else
   RECT line;
   POINT image;  // upper left corner
-  RECT text;    // where the text is measured; PlaceText moves it from there
+  RECT text;    // for measuring; PlaceText gives the final rectangle
   bool grayText;
 };
 
-constexpr int kFaceInset = 3;                 // the group's colour shows through left of every row
+constexpr int kFaceInset = 3;                 // left of every row the group's colour is visible
 constexpr COLORREF kHoverColor = 0x00AAFFFF;  // a pale yellow
 
 RowLook LookOfRow(const RECT& item, int depth, RowState state, bool hasText, SIZE image);
 
-// The text's final rectangle once its size is known: behind the image column, centred in height.
+// The text's final rectangle for its measured size: right of the image column, centred vertically.
 RECT PlaceText(const RECT& text, SIZE measured);
 
 }  // namespace qvx

@@ -4,7 +4,7 @@
 namespace qvx {
 namespace {
 
-constexpr int kSeparatorShare = 3;  // a separator is a third of a row high, the rest cut off
+constexpr int kSeparatorShare = 3;  // a separator has a third of the row height, rounded down
 
 void PlanIcon(const TMenuItem& line, const LineSources& sources, RowPlan& plan) {
   const wchar_t* bitmap = IconOfLine(line, sources);

@@ -1,6 +1,6 @@
-// What one line of the menu becomes as a row: caption, height, whether it answers, which image. The
-// switch lines' state step stands here too, since it changes the line itself. No window, no bitmap:
-// the group's window creates what is planned here. Called by CMenuGroup and CSMenuItem.
+// How a menu line appears as a row: caption, height, enabled state, image. Updating a switch line
+// from its state is here too, since it changes the line. No window, no bitmap: CMenuGroup and
+// CSMenuItem create what is planned here.
 #pragma once
 
 #include "menu/line_state.h"
@@ -8,7 +8,7 @@
 namespace qvx {
 
 enum class RowImage {
-  kNone,   // the button gets no image call at all
+  kNone,   // no image call is made on the button
   kArrow,  // folded or open, by the group's depth
   kCheckMark,
   kFromLibrary,  // the bitmap of the icon library that RowPlan::bitmap names; an empty name clears
@@ -22,20 +22,18 @@ struct RowPlan {
   const wchar_t* bitmap = L"";  // for kFromLibrary; never null
 };
 
-// What a row needs beyond its line.
 struct RowSources {
   LineSources lines;
   int rowHeight;  // the setting
 };
 
 // Runs the line's functions and, for a switch line, copies the state's label and icon into the
-// line, which therefore always shows the last state seen. Empty when a function replaced the menu:
-// the line is gone then.
+// line, so that it shows the last state read. Empty when a function replaced the menu: the line is
+// destroyed then.
 RowPlan PlanRow(TMenuItem& line, const RowSources& sources);
 
-// True when the line took over another state. Only the icon is compared: two states that share an
-// icon keep the old caption, and users of such switches know it so. False too when the menu is
-// gone.
+// True when the line changed to another state; false also when the menu is gone. Deliberate: only
+// the icon is compared, so of two states with the same icon the row keeps showing the old caption.
 bool RefreshSwitchLine(TMenuItem& line, const LineSources& sources);
 
 }  // namespace qvx

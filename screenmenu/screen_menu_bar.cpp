@@ -59,7 +59,7 @@ std::unique_ptr<TMenuBar> DetachScreenBar(TMenuSystem& system) {
   return nullptr;
 }
 
-// Over a list on the heap: files may nest sub-menus without bound.
+// An explicit list instead of recursion: files may nest sub-menus without limit.
 void DropSwitches(TMenuBar& bar) {
   std::vector<TMenuBar*> bars{&bar};
   while (!bars.empty()) {

@@ -1,6 +1,6 @@
-// The bar that the palette navigates with: it mirrors the lines of the sub-menu it stands in and
-// remembers the lines it came through. It owns neither the lines nor the bars. Also the step that
-// takes the block of the screen menu out of a menu that has just been loaded.
+// The navigation bar of the palette: it mirrors the lines of the current sub-menu and keeps a stack
+// of the lines entered before. It owns neither lines nor bars. Also detaches the block of the
+// screen menu from a newly loaded menu.
 #pragma once
 
 #include <memory>
@@ -12,14 +12,13 @@ class TScreenMenuBar : public TMenuBar {
   TScreenMenuBar();
   ~TScreenMenuBar() override;
 
-  // Remembers the line it stands in, if any, and mirrors the lines of the new one. Returns 1.
+  // Pushes the current line, if any, and mirrors the lines of the new one. Returns 1.
   int EnterSubMenu(TMenuItem* line);
 
-  // Goes back to a line that was entered before and forgets those behind it. Returns 1.
-  // A line that is not on the stack empties the stack but not the mirrored lines: its own are put
-  // behind whatever the list holds. So a second call with such a line shows every row twice; the
-  // list has to be empty before a menu is attached, and it is, since every reload makes a new
-  // palette.
+  // Returns to a line that was entered before and pops those above it. Returns 1.
+  // A line that is not on the stack empties the stack but not the mirrored lines: its own are
+  // appended to them, so a second call with such a line shows every row twice. The list must
+  // therefore be empty before a menu is attached; it is, since every reload makes a new palette.
   int BackTo(TMenuItem* line);
 
   // The line on top of the stack, null when it is empty.
@@ -27,7 +26,7 @@ class TScreenMenuBar : public TMenuBar {
   bool IsOnStack(const TMenuItem* line) const { return StackPosition(line) >= 0; }
   TMenuItem* Current() const { return m_pCurrent; }
 
-  // The bar at the top of the navigation: that of the line entered first.
+  // The bar of the line that was entered first.
   TMenuBar* RootBar() const;
 
   // Position of a line among the mirrored ones, -1 when it is not there.
@@ -43,15 +42,15 @@ class TScreenMenuBar : public TMenuBar {
 
 namespace qvx {
 
-// Takes the first block named "SCREEN", in any case, out of the system without deleting it. Null,
-// and nothing changed, when there is none.
+// Detaches the first block named "SCREEN", in any case, from the system. Null, and nothing changed,
+// when there is none.
 std::unique_ptr<TMenuBar> DetachScreenBar(TMenuSystem& system);
 
-// Takes the switches from the lines of a bar and of all below it, because they are gone: rows that
-// still show such lines keep their captions and do nothing more.
+// Clears the switch pointers in a bar and all bars below it, because the switches are destroyed:
+// rows that still show such lines keep their captions and ignore clicks.
 void DropSwitches(TMenuBar& bar);
 
-// What the root line is called: the menu's title, or the product's usual name without one.
+// The root line's label: the menu's title, or the product's default name without one.
 const wchar_t* RootTitle(const TMenuSystem& system);
 
 }  // namespace qvx

@@ -11,8 +11,8 @@ namespace {
 constexpr int kLineStep = 20;
 constexpr int kPageStep = 100;
 constexpr double kWheelDivisor = 3.0;
-// More than any step but the longest pulls of the thumb, and less than what would make the wheel
-// stick: some sixty rows above and below.
+// About sixty rows above and below: more than any step except long drags of the thumb, and few
+// enough that the wheel does not lag.
 constexpr int kNearReach = 1500;
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The screen menu's section of the shell state as JSON text: plain records in, UTF-8 out. The
-// records are filled from live windows by describe_screen_menu.cpp; nothing here knows the model.
+// The screen menu's section of the shell state as JSON text in UTF-8, from plain records.
+// describe_screen_menu.cpp fills the records from live windows; no menu model is used here.
 #pragma once
 
 #include <optional>

@@ -16,8 +16,8 @@ void AppendLine(TMenuBar& bar, const wchar_t* label, const wchar_t* command, int
   bar.Append(line);
 }
 
-// A copy has no sub-menu, so the jump is a plain line that leads to the group by its label. The
-// separator comes also when no line was copied.
+// A copy has no sub-menu, so a jump is a plain line whose command is "*" and the label. The
+// separator is added also when no line was copied.
 void AppendJumps(TMenuBar& bar, const TMenuBar* rootBar) {
   for (int i = 0; rootBar && i < rootBar->Length(); ++i) {
     const TMenuItem& header = *rootBar->At(i);

@@ -1,6 +1,6 @@
-// The pop-up of a right click on the palette: help for a line, jumps to the root's groups, and the
-// door to customising. Built as lines of the menu model; showing it is the pop-ups' business. Also
-// what a chosen line of it means.
+// The pop-up of a right click on the palette, as lines of the menu model: help for a line, jumps to
+// the root's groups, the customising command. Also decides what a chosen line does. Does not show
+// the pop-up.
 #pragma once
 
 #include <memory>
@@ -14,7 +14,7 @@ inline constexpr wchar_t kHelpLabel[] = L"实时助手";
 
 struct TailMenuParts {
   bool withHelp;
-  bool limitHeight;           // then there are no jumps
+  bool limitHeight;           // true: no jumps
   const TMenuBar* rootBar;    // may be null
   const TMenuSystem* system;  // for the icons; may be null
   const wchar_t* customize;   // the customising command's full name
@@ -28,7 +28,7 @@ struct TailChoice {
 // `text` is the chosen command without its leading "*".
 TailChoice DecideTail(const wchar_t* text, const TScreenMenuBar& bar);
 
-// Where a header's pop-up begins: on the side of the button that is farther from the frame's edge.
+// X of a header's pop-up: the side of the button that is farther from the frame's edge.
 int HeaderPopupX(const RECT& button, const RECT& frame);
 
 }  // namespace qvx

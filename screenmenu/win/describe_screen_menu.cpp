@@ -26,7 +26,7 @@ const char* KindOf(const TMenuItem& line) {
 
 std::vector<qvx::ShellRow> DescribeRows(CMenuGroup& group);
 
-// A header is open when its group's window is shown, whether or not the groups around it are.
+// A header is open when its group's window is shown, whether or not the enclosing groups are.
 qvx::ShellRow DescribeRow(CMenuGroup& group, int index) {
   const CSMenuItem& item = *group.Row(index);
   qvx::ShellRow row;
@@ -52,7 +52,7 @@ std::vector<qvx::ShellRow> DescribeRows(CMenuGroup& group) {
   return rows;
 }
 
-// The bar that scrolls: the root's, or that of its open group where the root's height is limited.
+// The active scroll bar: the root's, or that of its open group when the root's height is limited.
 std::optional<qvx::ShellScroll> DescribeScroll(CMenuGroup& root) {
   CMenuGroup* group = root.LimitHeight() ? root.OpenChild() : &root;
   if (!group || !group->HasScrollBar()) return std::nullopt;

@@ -1,5 +1,5 @@
-// The screen menu as it stands on the screen at this moment, as the JSON object that the module's
-// diagnostic export shows under "screenmenu". Taken from live windows: text, visibility, places.
+// The current state of the screen menu as the JSON object "screenmenu" of the module's diagnostic
+// export. Read from live windows: text, visibility, rectangles.
 #pragma once
 
 #include <string>

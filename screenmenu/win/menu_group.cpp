@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr DWORD kGroupStyle = WS_CHILD | WS_CLIPCHILDREN;  // hidden until it is shown whole
+constexpr DWORD kGroupStyle = WS_CHILD | WS_CLIPCHILDREN;  // created hidden
 constexpr int kFirstRowId = 5000;  // buttons and nested groups share one sequence in each group
 constexpr int kEdgeReach = 2;      // the sunken edge around an open group
 
@@ -35,7 +35,7 @@ CMenuGroup::CMenuGroup(TMenuBar* bar, const CRect& rect, CWnd* parent, UINT id, 
                        GroupOwner* owner)
     : m_pBar(bar), m_pOwner(owner) {
   const auto plan = qvx::PlanTree(*bar, RequestTree(*owner, limitHeight, rect.Height()));
-  if (!plan) return;  // the menu went meanwhile, and so did the owner
+  if (!plan) return;  // the menu was replaced; the owner may be gone too
   Build(*plan, rect, parent, id);
   LayoutGroup();
 }
@@ -48,7 +48,7 @@ CMenuGroup::CMenuGroup(const qvx::GroupPlan& plan, const CRect& rect, CWnd* pare
 
 CMenuGroup::~CMenuGroup() { DestroyWindow(); }
 
-// A group whose window could not be made stays empty: the rows above it work on without it.
+// A group whose window could not be created stays empty; the rows above it still work.
 void CMenuGroup::Build(const qvx::GroupPlan& plan, const CRect& rect, CWnd* parent, UINT id) {
   m_bLimitHeight = plan.limitHeight;
   m_nContentHeight = plan.rowsHeight;
@@ -56,8 +56,8 @@ void CMenuGroup::Build(const qvx::GroupPlan& plan, const CRect& rect, CWnd* pare
   if (Create(nullptr, nullptr, kGroupStyle, rect, parent, id)) BuildRows(plan, rect);
 }
 
-// Every window is made where the layout pass will want it, so that the pass moves nothing. A scroll
-// bar comes with the pass.
+// Every window is created at the place that the layout pass gives it, so that the pass moves
+// nothing. The layout pass creates the scroll bar.
 void CMenuGroup::BuildRows(const qvx::GroupPlan& plan, const CRect& rect) {
   const CRect client(0, 0, rect.Width(), rect.Height());
   const std::vector<int> heights = plan.RowHeights();
@@ -117,7 +117,7 @@ void CMenuGroup::ToggleSubMenu(unsigned index) {
     return;
   }
   m_children.GoTo(static_cast<int>(index));
-  host->LayoutGroup();  // shows the group where it belongs
+  host->LayoutGroup();  // moves and shows the group
   CMenuGroup* opened = OpenChild();
   if (!opened || !opened->GetSafeHwnd()) return;
   CRect shown;
@@ -132,10 +132,10 @@ void CMenuGroup::ShowOpenChild(bool show) {
   if (child && child->GetSafeHwnd()) child->ShowWindow(show ? SW_SHOW : SW_HIDE);
 }
 
-// The list's cursor is the open index: children are reached by node, so that it stays where it is.
+// The list's cursor is the open index, so children are visited by node, which does not move it.
 void CMenuGroup::RefreshSwitches() { RefreshWatched(m_pOwner->Lines()); }
 
-// Ends at once when the menu goes: this group is gone too then.
+// Returns at once when the menu is gone: this group is destroyed then.
 void CMenuGroup::RefreshWatched(const qvx::LineSources& lines) {
   for (CSMenuItem* row : m_items) {
     if (row->Line()->m_pSwitch) RefreshSwitch(*row, lines);

@@ -1,6 +1,6 @@
 // One group of the screen menu: a column of rows, one for each line of a bar, with a nested group
-// under every header. The whole tree is built at once, hidden, from a plan; folding shows and hides
-// windows. Layout and scrolling stand in menu_group_layout.cpp, clicks in menu_group_command.cpp.
+// below each header. The whole tree is created hidden from a plan; folding shows and hides windows.
+// Layout and scrolling are in menu_group_layout.cpp, clicks in menu_group_command.cpp.
 #pragma once
 
 #include "afxwin.h"
@@ -14,25 +14,23 @@
 class CMenuGroup : public qvx::GuardedWindow<CWnd>, public RowHolder {
   DECLARE_DYNAMIC(CMenuGroup)
  public:
-  // Bar and owner outlive the group. The tree below the bar is planned and built here, unseen; the
-  // caller shows the root when it stands. With the owner's menu gone meanwhile the group is empty,
-  // good for nothing but to be deleted.
+  // Bar and owner outlive the group. Plans and creates the whole tree below the bar, hidden; the
+  // caller shows the root afterwards. If a LISP function replaced the owner's menu meanwhile, the
+  // group is empty and may only be deleted.
   CMenuGroup(TMenuBar* bar, const CRect& rect, CWnd* parent, UINT id, bool limitHeight,
              GroupOwner* owner);
   ~CMenuGroup() override;
 
-  // Opens the group of a header, folding the one that was open beside it, or folds it when it is
-  // the open one.
+  // Opens the group of a header and folds the one open before, or folds it when it is the open one.
   void ToggleSubMenu(unsigned index);
-  // Reads the state of every switch line, hidden groups included. Never changes whether a row is
-  // enabled.
+  // Reads the state of every switch line, in hidden groups too. Never enables or disables a row.
   void RefreshSwitches();
 
   void LayoutGroup();
   void ScrollGroup(UINT code, int position);
-  // For those who ask for places; changes nothing that is seen.
+  // For callers that read window rectangles; changes nothing visible.
   void SettleRows() override;
-  int WheelGroup(UINT flags, short delta, CPoint point);  // 1 when it scrolled
+  int WheelGroup(UINT flags, short delta, CPoint point);  // 1 if it scrolled
   void RevealRect(const CRect& rect);
 
   int ContentHeight();
@@ -70,7 +68,7 @@ class CMenuGroup : public qvx::GuardedWindow<CWnd>, public RowHolder {
   void CarryScroll(const qvx::ScrollPlan& plan);
   void SetScroll(int top, int pos);
   CRect PlaceOf(CWnd& child) const;  // in this group's client coordinates
-  // Both add to `changed` what has to be redrawn.
+  // Both add the area to redraw to `changed`.
   void PlaceRow(CSMenuItem& row, const CRect& place, CRect& changed);
   void PlaceChild(CMenuGroup& child, const CRect& place, CRect& changed);
   static void MoveUnseen(CWnd& child, const CRect& place);
@@ -88,7 +86,7 @@ class CMenuGroup : public qvx::GuardedWindow<CWnd>, public RowHolder {
   bool m_bLimitHeight = false;
   int m_nContentHeight = 0;  // row heights plus the margin
   short m_nDepth = 0;
-  bool m_isScrolledPast = false;  // rows far from the view may stand where they don't belong
+  bool m_isScrolledPast = false;  // rows far from the view may be misplaced
   CScrollBar m_scrollBar;         // its window exists only while it is needed
   GroupOwner* m_pOwner;           // not owned
 };

@@ -1,9 +1,9 @@
-// CMenuGroup: what a click on one of its rows comes to. The decision stands in dispatch_rules; here
-// it is carried out on the group, on the row and through the palette.
+// CMenuGroup: handles clicks on its rows. dispatch_rules decides; this file changes the group, the
+// row and the palette.
 #include "screenmenu/dispatch_rules.h"
 #include "screenmenu/win/menu_group.h"
 
-// Focus notifications of the buttons end at the first test: only a click has the code 0.
+// Rejects focus notifications of the buttons: only a click has code 0.
 BOOL CMenuGroup::OnCommand(WPARAM wParam, LPARAM lParam) {
   const BOOL handled = CWnd::OnCommand(wParam, lParam);
   if (handled || HIWORD(wParam) != 0) return handled;
@@ -27,15 +27,15 @@ BOOL CMenuGroup::OnCommand(WPARAM wParam, LPARAM lParam) {
   return TRUE;
 }
 
-// Each group numbers its rows from the same start, so only this one may be searched.
+// Each group numbers its rows from the same start, so only this group is searched.
 int CMenuGroup::FindRow(UINT ctrlId) const {
   for (int i = 0; i < m_items.Length(); ++i)
     if (static_cast<UINT>(m_items.At(i)->CtrlId()) == ctrlId) return i;
   return -1;
 }
 
-// A switch gives way to a running command, while a command row would cancel it. One that loads
-// another menu ends this group: the new tree has asked for all states by then.
+// A switch is refused while a command runs; a command row would cancel that command. If the
+// function loads another menu, this group is destroyed; the new tree has already read all states.
 void CMenuGroup::ClickSwitch(CSMenuItem& row) {
   if (m_pOwner->IsHostBusy()) {
     m_pOwner->ReportBusy();

@@ -1,4 +1,4 @@
-// CMenuGroup: carries out what group_layout and scroll_rules decide.
+// CMenuGroup: layout and scrolling, as group_layout and scroll_rules decide.
 #include "kernel/globals.h"
 #include "screenmenu/group_rules.h"
 #include "screenmenu/win/menu_group.h"
@@ -8,7 +8,7 @@ namespace {
 
 constexpr UINT kScrollBarId = 100;
 constexpr DWORD kScrollBarStyle = WS_CHILD | WS_VISIBLE | SBS_VERT;
-constexpr int kMessageThumbLimit = 0xFFFF;  // what fits into the position of WM_VSCROLL
+constexpr int kMessageThumbLimit = 0xFFFF;  // limit of the 16-bit position of WM_VSCROLL
 
 }  // namespace
 
@@ -36,8 +36,8 @@ qvx::LayoutPlan CMenuGroup::PlanNow(const CRect& client) {
   return qvx::PlanLayout(RequestLayout(client, heights));
 }
 
-// Rows and the open group are moved without being redrawn; what changed is then redrawn in one
-// step. Moving with a repaint each would ask the window server six times for every row.
+// Moves rows and the open group without redrawing, then redraws the changed area once. A repaint
+// with each move costs six requests to the window server for each row.
 void CMenuGroup::LayoutGroup() {
   if (!m_hWnd) return;
   CRect client;
@@ -72,8 +72,8 @@ void CMenuGroup::CarryScroll(const qvx::ScrollPlan& plan) {
   SetScroll(plan.top, plan.pos);
 }
 
-// Range and position in one step, and none for what they are already. The bar is drawn with the
-// rest later: a group that is brought into view moves it once more before.
+// Sets range and position in one call, and only if they changed. The bar is drawn later with the
+// rest: bringing a group into view moves it once more before.
 void CMenuGroup::SetScroll(int top, int pos) {
   SCROLLINFO info{};
   info.cbSize = sizeof info;
@@ -108,9 +108,9 @@ void CMenuGroup::MoveUnseen(CWnd& child, const CRect& place) {
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_NOCOPYBITS | SWP_DEFERERASE);
 }
 
-// A child that changes its size lays itself out as it is moved; one that does not has to be told,
-// since what is inside it may have changed. It is shown last, at its place. Windows takes a
-// negative height as zero.
+// Moving a child to another size lays it out; with the same size LayoutGroup is called, since its
+// contents may have changed. The child is shown last, at its place. Windows treats a negative
+// height as zero.
 void CMenuGroup::PlaceChild(CMenuGroup& child, const CRect& place, CRect& changed) {
   if (!child.GetSafeHwnd()) return;
   const CRect present = PlaceOf(child);
@@ -126,10 +126,9 @@ void CMenuGroup::PlaceChild(CMenuGroup& child, const CRect& place, CRect& change
   if (!shown) child.ShowWindow(SW_SHOW);
 }
 
-// Pixels are moved, and with them the windows of the rows in and near the view. Rows farther away
-// follow when they come near: moving each of a thousand rows at each step of the wheel would make
-// it stick. Until then they stand somewhere out of view; the next layout pass puts all of them
-// where they belong, and so does SettleRows for those who ask.
+// Scrolls the pixels and moves the windows of the rows in and near the view only: moving each of a
+// thousand rows at each step makes the wheel lag. Rows farther away stay misplaced, out of view,
+// until they come near, until the next layout pass, or until SettleRows.
 void CMenuGroup::ScrollGroup(UINT code, int position) {
   if (!HasScrollBar()) return;
   int low = 0, high = 0;
@@ -152,7 +151,7 @@ void CMenuGroup::ScrollGroup(UINT code, int position) {
   UpdateWindow();
 }
 
-// What belongs near the view and was too far away to be moved along.
+// Moves rows into the zone near the view that were too far away to be moved before.
 void CMenuGroup::BringNear(const CRect& zone, const CRect& view) {
   CRect client, changed(0, 0, 0, 0), seen;
   GetClientRect(&client);
@@ -169,8 +168,8 @@ void CMenuGroup::BringNear(const CRect& zone, const CRect& view) {
     RedrawWindow(&seen, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-// Only out of view, so nothing is drawn. A group that scrolls moves its own rows only: what is
-// below an open child moves with that child's window.
+// Affects only rows out of view, so nothing is drawn. A scrolling group moves its own rows only:
+// what is below an open child moves with that child's window.
 void CMenuGroup::SettleRows() {
   if (!m_isScrolledPast || !m_hWnd) return;
   m_isScrolledPast = false;
@@ -190,7 +189,7 @@ int CMenuGroup::WheelGroup(UINT, short delta, CPoint) {
   return 1;
 }
 
-// Goes the way of a scroll message, default handling first, but with the whole position: a message
+// Same steps as a scroll message, default handling first, but with the whole position: a message
 // would cut it to 16 bits.
 void CMenuGroup::RevealRect(const CRect& rect) {
   if (!HasScrollBar()) return;
@@ -206,7 +205,7 @@ void CMenuGroup::OnSize(UINT type, int cx, int cy) {
   LayoutGroup();
 }
 
-// The message carries 16 bits of the position; a longer tree asks the bar itself.
+// The message carries 16 bits of the position; for a longer tree the position is read from the bar.
 void CMenuGroup::OnVScroll(UINT code, UINT position, CScrollBar* bar) {
   CWnd::OnVScroll(code, position, bar);
   int thumb = static_cast<int>(position);

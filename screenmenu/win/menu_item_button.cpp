@@ -1,5 +1,4 @@
-// CSMenuItem as a window: creation, images, tip, right click. Its painting stands in
-// menu_item_paint.cpp.
+// CSMenuItem as a window: creation, images, tooltip, right click. menu_item_paint.cpp paints it.
 #include "screenmenu/win/menu_item_button.h"
 
 #include "kernel/globals.h"
@@ -33,9 +32,9 @@ CSMenuItem::~CSMenuItem() = default;
 
 bool CSMenuItem::CreateRow(const qvx::RowPlan& plan, const CRect& place, CWnd* group) {
   m_nRowHeight = plan.height;
-  ShowImage(plan);  // before there is a window, so that nothing has to be repainted
-  // Taken over once it stands, which spares six requests to the window server of fourteen: nobody
-  // wants to see a row's own creation messages.
+  ShowImage(plan);  // before the window exists, so that nothing is repainted
+  // Subclassed after creation: nothing here handles the creation messages, and it saves six of
+  // fourteen requests to the window server.
   const HWND window = ::CreateWindowExW(
       0, L"BUTTON", plan.caption, kRowStyle | (plan.enabled ? 0 : WS_DISABLED), place.left,
       place.top, place.Width(), place.Height(), group->GetSafeHwnd(),
@@ -86,8 +85,8 @@ void CSMenuItem::ReleaseMouse() {
   if (::GetCapture() == m_hWnd) ::ReleaseCapture();
 }
 
-// The tip's text is set at the first time the pointer comes and never changes again, also on a
-// switch line that shows another state since.
+// The tooltip's text is set when the pointer first enters and never changes, even when a switch
+// line shows another state later.
 void CSMenuItem::OnMouseEnter() {
   const wchar_t* help = m_pMenuItem ? qvx::HelpOfLine(*m_pMenuItem, m_pOwner->Lines()) : nullptr;
   if (help && g_bShowMenuTip) {
@@ -99,7 +98,7 @@ void CSMenuItem::OnMouseEnter() {
   CButtonST::OnMouseEnter();
 }
 
-// The keyboard gives no place: the pop-up then hangs below the row.
+// The keyboard gives no position: the pop-up then opens below the row.
 void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
   if (!m_pOwner->Lines().system || !m_pMenuItem) return;
   ReleaseMouse();
@@ -152,7 +151,7 @@ void CSMenuItem::SettlePlace() const {
   }
 }
 
-// Some readers take the place from the window itself once they have its object.
+// Some screen readers read the rectangle from the window itself once they have its object.
 LRESULT CSMenuItem::OnGetObject(WPARAM wParam, LPARAM lParam) {
   constexpr LONG kClientObject = -4;  // the published number of a window's client object
   if (static_cast<LONG>(lParam) != kClientObject) return Default();

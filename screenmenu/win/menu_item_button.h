@@ -1,5 +1,5 @@
-// One row of the screen menu: an owner-drawn button for one line. Looks and pointer answers are
-// here; a click is reported to the group by the window system and decided there.
+// One row of the screen menu: an owner-drawn button for one line, with its appearance and mouse
+// handling. Clicks reach the group as WM_COMMAND and are handled there.
 #pragma once
 
 #include "dialogs/win/button_st.h"
@@ -15,8 +15,7 @@ class CSMenuItem : public CButtonST, public AccessibleRow {
   CSMenuItem(TMenuItem* line, int ctrlId, int depth, GroupOwner* owner);
   ~CSMenuItem() override;
 
-  // Creates the button where the layout puts it. A button that could not be created stays without a
-  // window; its row remains empty.
+  // Creates the button at its place in the layout. If creation fails, the row stays empty.
   bool CreateRow(const qvx::RowPlan& plan, const CRect& place, CWnd* group);
 
   void DrawItem(LPDRAWITEMSTRUCT item) override;
@@ -29,11 +28,11 @@ class CSMenuItem : public CButtonST, public AccessibleRow {
   void ShowCheckMark();
   // Loads a bitmap of the icon library; an empty name clears the image.
   void ShowIcon(const wchar_t* bitmap);
-  // Caption and icon of a switch line after it took over another state.
+  // Shows caption and icon of a switch line after its state changed.
   void ShowState();
   void ReleaseMouse();
 
-  // What screen readers are told.
+  // For screen readers.
   qvx::RowFacts Facts() const override;
   std::wstring Help() const override;
   void SettlePlace() const override;

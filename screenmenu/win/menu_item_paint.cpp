@@ -1,4 +1,4 @@
-// The painting of a row: walks the RowLook that row_look.cpp computed and puts it on the device.
+// Painting of a row: draws the RowLook that row_look.cpp computed.
 #include <algorithm>
 
 #include "ground/win/menu_font.h"
@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kBitmapWidth = 16;  // of the source, whatever the bitmap's real width
+constexpr int kBitmapWidth = 16;  // of the source, regardless of the bitmap's real width
 
 void DrawPath(CDC& dc, int systemColor, POINT from, POINT corner, POINT to) {
   const qvx::OwnedPen pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor)));
@@ -28,8 +28,8 @@ void DrawBorder(CDC& dc, const RECT& r, int upper, int lower) {
 
 COLORREF MenuColor(int depth) { return g_menuColors[qvx::ColorSlot(depth)]; }
 
-// Everything right of the inset is drawn over at once, so only the inset is filled: it belongs to
-// the group's band. Left to the window system it would be grey, and every row would flicker.
+// DrawItem paints everything right of the inset, so only the inset is filled, with the colour of
+// the group. The default handling would fill it grey, and every row would flicker.
 BOOL CSMenuItem::OnEraseBkgnd(CDC* dc) {
   CRect inset;
   GetClientRect(&inset);
@@ -67,7 +67,7 @@ void CSMenuItem::PaintFace(CDC& dc, const qvx::RowLook& look) {
     DrawBorder(dc, look.face, COLOR_BTNHIGHLIGHT, COLOR_BTNSHADOW);
 }
 
-// The grey that LR_LOADMAP3DCOLORS turned into the face colour is what shows through.
+// LR_LOADMAP3DCOLORS mapped the bitmap's grey to the face colour, which is drawn as transparent.
 void CSMenuItem::PaintImage(CDC& dc, const qvx::RowLook& look) {
   BITMAP info{};
   ::GetObjectW(m_image.Get(), sizeof info, &info);

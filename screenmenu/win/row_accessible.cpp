@@ -1,6 +1,6 @@
-// See row_accessible.h. Where the row has nothing of its own to say, the window system's object for
-// the window answers. A reader in this process may hold an object for longer than the row lives, so
-// every call looks the row up again and fails when it is gone.
+// See row_accessible.h. Calls that the row does not implement are forwarded to the window system's
+// standard object. A client in this process may hold an object longer than the row lives, so every
+// call looks the row up again and fails when it is gone.
 #include "screenmenu/win/row_accessible.h"
 
 #include <oleacc.h>
@@ -60,7 +60,7 @@ class RowAccessible final : public IAccessible {
   }
   STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
                       UINT*) override {
-    return E_NOTIMPL;  // scripts would get the window system's answers instead of the row's
+    return E_NOTIMPL;  // else scripts get the standard object's data, not the row's
   }
 
   STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
@@ -91,7 +91,7 @@ class RowAccessible final : public IAccessible {
       return GiveText(qvx::AccessAction(row.Facts()), action);
     });
   }
-  // Posted: a click may open a box, and the reader would wait until it closes.
+  // Posted: a click may open a dialog box, and the client would wait until it closes.
   STDMETHODIMP accDoDefaultAction(VARIANT child) override {
     return Ask(child, [this](const AccessibleRow& row) -> HRESULT {
       if (!row.Facts().enabled) return E_INVALIDARG;
@@ -148,7 +148,7 @@ class RowAccessible final : public IAccessible {
     return dynamic_cast<const AccessibleRow*>(CWnd::FromHandlePermanent(m_row));
   }
 
-  // The answer of the row; E_INVALIDARG for another child or a row that is gone.
+  // The result of `answer` for the row; E_INVALIDARG for another child or a destroyed row.
   template <class Answer>
   HRESULT Ask(const VARIANT& child, Answer answer) const {
     return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY}, [&]() -> HRESULT {

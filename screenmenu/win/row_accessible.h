@@ -1,6 +1,6 @@
-// Lets screen readers read a row of the palette through the published accessibility interface:
-// name, role, help, and of a header whether it is expanded. Rows are owner-drawn buttons, of which
-// the window system itself knows neither header nor separator. Held by CSMenuItem.
+// Accessible object of a row of the palette: name, role, help, and for a header whether it is
+// expanded. Needed because rows are owner-drawn buttons: the window system's own object reports
+// neither headers nor separators. Owned by CSMenuItem.
 #pragma once
 
 #include <string>
@@ -10,20 +10,20 @@
 
 struct IAccessible;
 
-// What the accessible object asks of its row, which is a window.
+// The interface of the accessible object to its row, which is a window.
 class AccessibleRow {
  public:
   virtual qvx::RowFacts Facts() const = 0;
   virtual std::wstring Help() const = 0;
-  // Called before the row's place is read: it may stand elsewhere while it is out of view.
+  // Called before the row's rectangle is read: the window may be misplaced while out of view.
   virtual void SettlePlace() const = 0;
 
  protected:
   ~AccessibleRow() = default;
 };
 
-// One row's accessible object, made when somebody first asks. Readers in other processes are cut
-// off when the row goes: the object's code may leave the process after that.
+// One row's accessible object, created at the first request. Clients in other processes are
+// disconnected when the row is destroyed: the object's code may be unloaded after that.
 class RowAccess {
  public:
   RowAccess() = default;
@@ -31,7 +31,7 @@ class RowAccess {
   RowAccess(const RowAccess&) = delete;
   RowAccess& operator=(const RowAccess&) = delete;
 
-  // The answer to WM_GETOBJECT for the client object of the row's window.
+  // The result of WM_GETOBJECT for the client object of the row's window.
   LRESULT Answer(HWND row, WPARAM wParam);
 
  private:

@@ -1,5 +1,4 @@
-// CScreenMenu: taking a menu, fitting the tree, wheel, closing and what is kept when the window
-// goes.
+// CScreenMenu: attaching a menu, layout of the tree, wheel, closing, saving the settings.
 #include "screenmenu/win/screen_menu.h"
 
 #include "afxwin.h"
@@ -37,9 +36,9 @@ CScreenMenu::~CScreenMenu() {
   if (::IsWindow(m_hDockBar)) RestoreDockBar();
 }
 
-// A second menu on the same palette keeps the rows of the first, since nothing rebuilds a tree in
-// place; the lines that they show have to stay. With no rows yet, because a LISP function loads it
-// while the first one's are planned, the second takes its place.
+// With a second menu the palette keeps the rows of the first, since a tree is never rebuilt in
+// place; the lines that they show have to stay alive. If there are no rows yet, because a LISP
+// function loads the second menu while the rows of the first are planned, the second replaces it.
 void CScreenMenu::TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title) {
   if (m_pRootGroup && m_rootItem.m_pSubMenu) {
     m_pastBars.emplace_back(m_rootItem.m_pSubMenu);
@@ -66,8 +65,8 @@ void CScreenMenu::MenuWasLoaded() {
   if (m_rootItem.m_pSubMenu) qvx::DropSwitches(*m_rootItem.m_pSubMenu);
 }
 
-// The tree is built hidden and shown once, whole. A LISP function of the menu may load another one
-// or take the palette down meanwhile: what was begun is dropped then, and this object may be gone.
+// Builds the tree hidden and shows it once. A LISP function of the menu may load another menu or
+// destroy the palette meanwhile: the unfinished tree is dropped then, and this object may be gone.
 void CScreenMenu::EnsureRootGroup() {
   CRect used;
   GetUsedRect(used);
@@ -89,7 +88,7 @@ int CScreenMenu::StepBack() {
   return 1;
 }
 
-// Six bitmaps serve all headers of all depths.
+// Six bitmaps serve all headers.
 HBITMAP CScreenMenu::Arrow(int depth, bool open) {
   qvx::OwnedBitmap& arrow = m_arrows[depth % qvx::kArrowKinds][open];
   if (!arrow)
@@ -125,7 +124,7 @@ void CScreenMenu::FitGroup() {
   if (!present.EqualRect(&fit)) m_pRootGroup->MoveWindow(&fit, TRUE);
 }
 
-// With the root's height limited only its open group scrolls. The message is taken in every case.
+// When the root's height is limited, only its open group scrolls. Every message counts as handled.
 BOOL CScreenMenu::OnMouseWheel(UINT flags, short delta, CPoint point) {
   CMenuGroup* target = m_pRootGroup.get();
   if (target && target->LimitHeight()) target = target->OpenChild();
@@ -133,7 +132,7 @@ BOOL CScreenMenu::OnMouseWheel(UINT flags, short delta, CPoint point) {
   return TRUE;
 }
 
-// F4 steps back as long as something was entered, and passes on to the host otherwise.
+// F4 steps back while a line is entered; otherwise the host handles it.
 BOOL CScreenMenu::PreTranslateMessage(MSG* message) {
   return qvx::GuardedOr(FALSE, [&]() -> BOOL {
     if (message->message == WM_KEYDOWN && message->wParam == VK_F4) return StepBack();
@@ -159,8 +158,8 @@ void CScreenMenu::CloseSilently() {
   OnClosing();
 }
 
-// A close by the program passes in silence and arms the hint; a close by the user says how to get
-// the palette back.
+// A close by the user prints the hot key that shows the palette again. A close by the program
+// prints nothing and re-enables the hint.
 bool CScreenMenu::OnClosing() {
   return qvx::GuardedOr(true, [this] {
     if (m_bCloseHint) {
@@ -172,8 +171,8 @@ bool CScreenMenu::OnClosing() {
   });
 }
 
-// The window system hides a window before it tells it of its end, so what the user saw is noted
-// here; a palette that goes with its frame is still shown when it is told.
+// Visibility is saved here because the window system hides a window before WM_DESTROY. This is not
+// called for a palette that is destroyed with its frame, which is still visible in OnDestroy.
 BOOL CScreenMenu::DestroyWindow() {
   m_bShownAtEnd = IsScreenMenuVisible();
   return CAdUiPaletteSet::DestroyWindow();

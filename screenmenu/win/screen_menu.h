@@ -1,8 +1,8 @@
-// The palette of the screen menu: a dockable window of the host that carries the tree of groups. It
-// comes up empty; the tree appears when a menu is attached, and lives as long as the palette. Where
-// to look: screen_menu.cpp fitting and closing, screen_menu_setup.cpp coming up and going down,
-// screen_menu_dispatch.cpp clicks and the waiting command, screen_menu_popup.cpp right clicks,
-// screen_menu_drag.cpp the dragged edge.
+// The palette of the screen menu: a dockable window of the host that contains the tree of groups.
+// Created empty; the tree is created when a menu is attached and lives as long as the palette.
+// Files: screen_menu.cpp menu, layout, closing; screen_menu_setup.cpp creation and destruction;
+// screen_menu_dispatch.cpp clicks and the waiting command; screen_menu_popup.cpp right clicks;
+// screen_menu_drag.cpp dragging the edge.
 #pragma once
 
 #include <map>
@@ -30,24 +30,25 @@ class CScreenMenu : public qvx::GuardedWindow<CAdUiPaletteSet>, private GroupOwn
   CScreenMenu();
   ~CScreenMenu() override;
 
-  // Takes the bar over as the root of the tree and builds it.
+  // Takes ownership of the bar as the root of the tree, and builds the tree.
   void TakeScreenBar(std::unique_ptr<TMenuBar> bar, const wchar_t* title);
   void EnsureRootGroup();
 
-  // A menu was loaded, whatever is in it: the switches of the one before are gone.
+  // To be called after every load of a menu, whatever it contains: the switches of the previous one
+  // are destroyed.
   void MenuWasLoaded();
 
-  int StepBack();  // 1 if it stepped, 0 when nothing was entered
+  int StepBack();  // 1 if it stepped back, 0 when no line was entered
   TMenuBar* RootBar() const { return m_bar.RootBar(); }
   CMenuGroup* RootGroup() const { return m_pRootGroup.get(); }
 
-  // A line of a pop-up that this palette built: the command without its leading "*".
+  // For a line of a pop-up that this palette built: the command without its leading "*".
   void TailCommand(const wchar_t* text);
 
-  // A row under the pointer gives the mouse back and looks idle.
+  // Ends the hover state of the row under the pointer and releases its mouse capture.
   void DropHover();
 
-  // The next close says nothing.
+  // Suppresses the hint of the next close.
   void CloseSilently();
   bool AutoDeletes() const { return m_bAutoDelete != FALSE; }
 
@@ -89,30 +90,30 @@ class CScreenMenu : public qvx::GuardedWindow<CAdUiPaletteSet>, private GroupOwn
   LRESULT OnDockBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam);
   void TakeDockBar(HWND bar);
   void RestoreDockBar();
-  void FollowDockBar();  // takes or gives back the bar that the palette is docked in
+  void FollowDockBar();  // replaces or restores the window procedure of its dock bar
   bool StandsAlone(CDockBar& bar);
   qvx::DockGeometry MeasureDock() const;
   SIZE LeastSize();
   void TrackBegin(int code);
   void TrackMove(CPoint point);
   void TrackEnd();
-  void TrackCancel();  // the palette goes in the middle of a drag: nothing of it stays
+  void TrackCancel();  // ends a drag when the palette is destroyed; erases the tracker
   void DrawTracker();
 
   qvx::PendingCommand m_pending;                      // waits for the timer
-  TDPtrList<CSMenuItem> m_directItems;                // direct buttons; nothing places any
+  TDPtrList<CSMenuItem> m_directItems;                // direct buttons; none is ever added
   TMenuItem m_rootItem;                               // owns the bar of the screen menu
-  std::vector<std::unique_ptr<TMenuBar>> m_pastBars;  // replaced while rows still show their lines
+  std::vector<std::unique_ptr<TMenuBar>> m_pastBars;  // replaced, but rows still show their lines
   TScreenMenuBar m_bar;
   std::unique_ptr<TMenuBar> m_pTailMenu;  // the last pop-up of a right click, alive until the next
   TMenuItem* m_pClickedItem = nullptr;    // the leaf last right-clicked, not owned
   std::unique_ptr<CMenuGroup> m_pRootGroup;  // null until the first menu is attached
-  int m_bShownAtEnd = 0;                     // visible when it was told to go
-  int m_bCloseHint = 1;                      // say the hot key on closing
+  int m_bShownAtEnd = 0;                     // visible when DestroyWindow was called
+  int m_bCloseHint = 1;                      // print the hot key on closing
   int m_bTracking = 0;                       // an edge drag is running
   CRect m_rcTracker;                         // the drag bar, in the dock bar's client coordinates
   HWND m_hDockBar = nullptr;                 // the dock bar whose window procedure is replaced
-  WNDPROC m_pfnDockBarProc = nullptr;        // its own procedure
+  WNDPROC m_pfnDockBarProc = nullptr;        // its original procedure
 
   qvx::OwnedBitmap m_arrows[qvx::kArrowKinds][2];    // folded, open; loaded at first use
   std::map<std::wstring, qvx::OwnedBitmap> m_icons;  // by name, null for one that did not load

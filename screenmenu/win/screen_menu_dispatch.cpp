@@ -1,5 +1,5 @@
-// CScreenMenu: how a chosen command gets to the host. It does not start from inside the button's
-// click: it waits, cancels what runs, and hands the keyboard back to the drawing.
+// CScreenMenu: sending a chosen command to the host. It is not sent from inside the button's click:
+// it waits for a timer, cancels a running command, and returns the focus to the drawing.
 #include "afxwin.h"
 
 #include "ground/command_line.h"
@@ -29,16 +29,16 @@ bool CScreenMenu::IsHostBusy() { return qvx::IsBusy(qvx::AskHostActivity()); }
 
 void CScreenMenu::ReportBusy() { AfxMessageBox(L"有命令未完成"); }
 
-// Status panes show some of the same switches, and other rows may be on the same one. The panes ask
-// LISP functions too, which may end this palette.
+// Status panes and other rows may show the same switch. The panes call LISP functions too, which
+// may destroy this palette.
 void CScreenMenu::SwitchWasFlipped() {
   const qvx::MenuWatch watch = Lines().watch;
   UpdateStatusPanes();
   if (!watch.IsGone() && m_pRootGroup) m_pRootGroup->RefreshSwitches();
 }
 
-// The same decision for buttons directly on the palette. Nothing places any, so in use the base's
-// result is returned.
+// The same decision for buttons directly on the palette. None is ever added, so in practice the
+// base class handles the message.
 BOOL CScreenMenu::OnCommand(WPARAM wParam, LPARAM lParam) {
   const BOOL handled = CAdUiDockControlBar::OnCommand(wParam, lParam);
   if (handled || HIWORD(wParam) != 0) return handled;
@@ -76,7 +76,7 @@ void CScreenMenu::OpenDirectly(TMenuItem& line) {
   EnsureRootGroup();
 }
 
-// Unlike a row of a group this tells neither the status panes nor the other rows.
+// Deliberate: unlike a row of a group this updates neither the status panes nor the other rows.
 void CScreenMenu::FlipDirectly(CSMenuItem& item) {
   if (IsHostBusy()) {
     ReportBusy();

@@ -1,19 +1,19 @@
 // CScreenMenu: dragging the edge of a docked palette. From a certain host release on the palette
-// takes over the mouse handling of its dock bar while it stands alone there, by replacing the bar's
-// window procedure. The arithmetic stands in edge_drag.
+// handles the mouse for its dock bar while no other bar is docked beside it, by replacing the bar's
+// window procedure. The arithmetic is in edge_drag.
 #include "afxpriv.h"
 #include "dbapserv.h"
 #include "screenmenu/win/screen_menu.h"
 
 namespace {
 
-// Styles for the frame that a bar with a dragged edge is to float in later.
+// Styles of the frame in which a bar with a dragged edge floats later.
 constexpr DWORD kSizedByUser = CBRS_SIZE_DYNAMIC | CBRS_HIDE_INPLACE;
 
 }  // namespace
 
-// The mouse is followed only while no other bar is docked beside the palette: with a neighbour the
-// edge is the host's again at the next layout.
+// Handles the mouse only while no other bar is docked beside the palette: with a neighbour the host
+// handles the edge again from the next layout on.
 CSize CScreenMenu::CalcFixedLayout(BOOL stretch, BOOL horizontal) {
   qvx::Guarded([this] { FollowDockBar(); });
   return qvx::GuardedOr(CSize(),
@@ -113,7 +113,7 @@ void CScreenMenu::TrackBegin(int code) {
   DrawTracker();
 }
 
-// Drawn a second time it is gone again.
+// XOR: a second call erases it.
 void CScreenMenu::DrawTracker() {
   CRect screen(m_rcTracker);
   ::MapWindowPoints(m_hDockBar, nullptr, reinterpret_cast<POINT*>(&screen), 2);

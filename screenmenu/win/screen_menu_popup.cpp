@@ -1,5 +1,5 @@
-// CScreenMenu: right clicks on rows and on the palette, what a line chosen there does, help for a
-// line. The pop-ups themselves are shown by the room that owns them.
+// CScreenMenu: right clicks on rows and on the palette, the actions of lines chosen there, help for
+// a line. The popup folder shows the pop-ups.
 #include "afxwin.h"
 
 #include "ground/support_files.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-// Named by the frame once a load, before any palette, and read by every palette after.
+// Set by the frame once for each load, before any palette is created; used by all later palettes.
 TWCString& HelpFile() {
   static TWCString s_name;
   return s_name;
@@ -35,8 +35,7 @@ void CScreenMenu::ShowLineMenu(TMenuItem& line, CPoint at) {
   ShowBlockMenu(BuildTail(g_nRunMode == 0), at.x, at.y, 0);
 }
 
-// A header gives its own lines, without unfolding, on the side that is farther from the frame's
-// edge.
+// Shows a header's lines as a pop-up, without unfolding, on the side farther from the frame's edge.
 void CScreenMenu::ShowHeaderMenu(TMenuBar& bar, const CRect& button, CPoint at) {
   CWnd* frame = acedGetAcadFrame();
   if (!frame) return;
@@ -64,7 +63,7 @@ void CScreenMenu::TailCommand(const wchar_t* text) {
     m_pRootGroup->ToggleSubMenu(static_cast<unsigned>(choice.index));
 }
 
-// The help file opens, looks the label up as a keyword, and falls back to its index.
+// Opens the help file at the label as a keyword, or at its index.
 void CScreenMenu::ShowHelpFor(const TMenuItem& line) {
   TWCString path;
   if (!qvx::FindFile(HelpFile(), path)) return;

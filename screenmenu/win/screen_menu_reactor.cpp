@@ -13,14 +13,14 @@ namespace {
 
 TScreenMenuReactor* s_reactor = nullptr;
 
-// A drawing being made is counted already, one being destroyed still is: so one is the first and
-// the last in turn. Without a palette nothing is done and nothing remembered: one that is made
-// after the last drawing closed comes up enabled.
+// The count already includes a drawing being created and still includes one being destroyed, so 1
+// means the first or the last. Without a palette nothing is stored: a palette created after the
+// last drawing closed is enabled.
 void EnableForOnlyDrawing(BOOL enable) {
   if (acDocManagerPtr()->documentCount() != 1) return;
   if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return;
   g_pScreenMenu->EnableWindow(enable);
-  if (!enable) g_pScreenMenu->DropHover();  // it holds the mouse and would take one more click
+  if (!enable) g_pScreenMenu->DropHover();  // its mouse capture would take one more click
 }
 
 void FollowActiveDrawing() {

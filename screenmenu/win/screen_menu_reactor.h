@@ -1,5 +1,5 @@
-// Tells the module about drawings that open, close and change: the palette greys when the last
-// drawing goes, and the per-drawing panes follow the active one. One instance, from load to unload.
+// Reactor for drawings that are created, destroyed and activated: disables the palette when the
+// last drawing closes, and updates the per-drawing panes. One instance, from load to unload.
 #pragma once
 
 #include "afxwin.h"

@@ -1,5 +1,5 @@
-// The palette comes up and goes down: creation, docking, title and icon from the product file, and
-// the functions that sibling modules call.
+// CScreenMenu: creation and destruction, docking, title and icon from the product file, and the
+// functions that sibling modules call.
 #include "afxwin.h"
 
 #include "adscodes.h"
@@ -26,8 +26,8 @@ PaletteFace ReadPaletteFace() {
   return {product.Value(L"CName"), product.Value(L"IconFile")};
 }
 
-// The two icons live as long as the process: a window does not own what WM_SETICON gives it, and
-// the host may still draw them while the palette goes down.
+// Static: a window does not own its WM_SETICON icons, and the host may still draw them while the
+// palette is destroyed.
 void GiveIcons(CWnd& window, const wchar_t* iconFile) {
   static qvx::OwnedIcon s_large, s_small;
   TWCString path;
@@ -48,7 +48,7 @@ void DockAndShow(UINT dockBar, bool show) {
   frame->RecalcLayout();
 }
 
-// A product without an identifier has a palette whose place the host doesn't remember.
+// The host does not store the position of a palette whose product has no identifier.
 void GiveToolId() {
   if (!qvx::HasToolId(g_nProductId)) return;
   const qvx::ToolId& id = qvx::ToolIdOf(g_nProductId);
