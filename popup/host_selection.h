@@ -1,34 +1,34 @@
-// The description of what a right click is about, read from the host: the implied selection, or the
-// object under the pointer where selection preview is on. Needs the host's calls and no window.
-// Called by ShowContextMenu.
+// Describes what a right click applies to, read from the host: the implied selection, or with
+// selection preview on the object under the pointer. Uses host calls, no window.
 #pragma once
 
 #include "kernel/tpickentset.h"
 #include "popup/object_match.h"
 
-// What decides whether the object under the pointer counts as selected.
+// Inputs for whether the object under the pointer counts as selected.
 struct PreviewState {
   double hostVersion = 0;
   bool isEnabled = false;       // the user's setting
-  int hostVariable = 0;         // SELECTIONPREVIEW; read by hosts that preview themselves
-  bool isOffInDrawing = false;  // by the drawing's own setting
+  int hostVariable = 0;         // SELECTIONPREVIEW; only of hosts with their own preview
+  bool isOffInDrawing = false;  // setting of the drawing
 };
-// Hosts from 16.11 on preview themselves and are asked; before that the drawing can turn it off.
+// Requires the user's setting. Hosts from 16.11 on have their own preview, and SELECTIONPREVIEW
+// must be on; in earlier ones the drawing can turn preview off.
 bool IsPreviewAllowed(const PreviewState& state);
 PreviewState ReadPreviewState();
 
-// Fills the set with the implied selection; without one, and with preview on, with the object under
-// the pointer, which is kept as the drawing's mouse-on object.
+// Fills the set with the implied selection. If that is empty and preview is on, with the object
+// under the pointer, which is also stored as the drawing's mouse-on object.
 void ReadSelection(TPickEntSet& set);
 
-// The set outlives the description: groups beside type and layer are read from its objects when a
-// mask asks for them.
+// The set outlives the description: groups other than type and layer are read from its objects when
+// a mask needs them.
 SelectionDescription DescribeSelection(const TPickEntSet& set);
 
-// By the kernel's logical layers.
+// LayerResolver with the kernel's logical layers.
 bool ResolveLayer(std::wstring_view key, std::wstring& layer);
 
-// The block that a right click shows; -1 for none. With nothing selected a click shows no menu when
-// `speedMenu` is 2 or more, unless it is forced.
+// Index of the block to show; -1 for none. With nothing selected and `speedMenu` 2 or more there is
+// none, unless forced.
 int ChooseBlock(const TMenuSystem& system, const SelectionDescription& selection, int speedMenu,
                 bool force);

@@ -13,7 +13,7 @@ int ExecuteMenuLine(TMenuBar& bar, int id, MenuLineHost& host) {
     host.Print(line->m_strLabel);
     return 1;
   }
-  // The line may be an entry of the recent list, which makes a new one of it.
+  // A copy: AddRecent may replace the line when it is an entry of the recent list.
   const TWCString command(line->m_strCommand);
   if (command[0] == L'*') {
     host.TailCommand(command.c_str() + 1);

@@ -1,7 +1,7 @@
-// What a chosen line of a pop-up does: flip a switch, fold a group of the screen menu, or send a
-// command to the host. At once and with no care for what runs there: a switch flips under a running
-// command without a word, a command is sent without cancelling first. That is the difference to the
-// buttons of the screen menu, and users know it so. Called by the context window.
+// Executes a chosen line of a pop-up: sets a switch, folds a group of the screen menu, or sends a
+// command to the host. Called by the context window. Deliberate: unlike the buttons of the screen
+// menu it ignores a running command. A switch changes without a message, and a command is sent
+// without a cancel before it.
 #pragma once
 
 #include "menu/line_state.h"
@@ -18,5 +18,5 @@ class MenuLineHost {
   virtual void SendToHost(const wchar_t* text) = 0;
 };
 
-// 1 when a line of the block took the identifier, otherwise 0. The line may be gone afterwards.
+// 1 when the block has a line with the identifier, otherwise 0. May destroy the line.
 int ExecuteMenuLine(TMenuBar& bar, int id, MenuLineHost& host);

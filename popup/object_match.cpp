@@ -14,7 +14,7 @@ constexpr int kTypeCode = 0;
 constexpr int kLayerCode = 8;
 constexpr wchar_t kLayerKeyMark = L'@';
 
-// Length and end: names of one drawing are mostly told apart by their last characters.
+// From length and last characters: names in one drawing differ mostly at the end.
 size_t CheapHash(std::wstring_view text) {
   size_t hash = text.size();
   const std::wstring_view end = text.substr(text.size() - std::min<size_t>(text.size(), 4));
@@ -65,7 +65,7 @@ void SelectionDescription::Add(std::wstring_view type, std::wstring_view layer, 
   m_objects.push_back({m_types.IndexOf(type, object), m_layers.IndexOf(layer, object)});
 }
 
-// One selection against the patterns. Each is tried once, when a mask first asks for it.
+// Matches one selection. Each pattern is matched at most once, when a mask first needs it.
 class BlockMatcher::Run {
  public:
   Run(const BlockMatcher& matcher, const SelectionDescription& selection,
@@ -86,8 +86,8 @@ class BlockMatcher::Run {
  private:
   static constexpr size_t kUnknown = ~size_t{0};
 
-  // The layer that a key stands for is a pattern like any value of a mask: a layer named "A#1" is
-  // missed by its own name and "A.1" finds more than itself.
+  // Deliberate: the layer found for a key is itself used as a pattern. A layer named "A#1" is
+  // therefore not matched by its own name, and "A.1" matches other layers too.
   size_t Try(const Pattern& pattern) const {
     std::wstring layer;
     if (pattern.isLayerKey && m_layers &&
@@ -161,7 +161,7 @@ MatchResult BlockMatcher::Match(int block, Run& run) const {
   return {};
 }
 
-// Masks don't count here: a block of that name is found also if it has one.
+// Masks are ignored: a block of that name is found even if it has one.
 MatchResult BlockMatcher::MatchByName(const TMenuBar& bar, bool inPaperSpace) {
   if (bar.m_strName.EqualsNoCase(inPaperSpace ? L"LAYOUT" : L"COMMON")) return {};
   return Fail(MatchResult::kOtherName, 0);

@@ -1,11 +1,11 @@
-// Which block of the menus fits what is selected. A plain function over a description of the
-// selection, which the module fills from the host and the command line tool from its arguments;
-// nothing here opens an object or reads a host variable.
+// Finds the block whose mask fits the selected objects. Works on a description of the selection,
+// which the module fills from the host and the command line tool from its arguments; opens no
+// object and reads no host variable.
 //
 // A selection of thousands of objects has few types and few layers, and an object fits a mask when
-// its type fits and its layer does. So the description keeps each type and each layer once, and
-// each pattern of the masks, made ready once a menu, is held against them once a selection. Objects
-// are looked at one by one only for groups other than these two.
+// its type fits and its layer does. So the description stores each type and each layer once, and
+// each pattern, compiled once for a menu, is matched against them once for a selection. Only other
+// groups are matched object by object.
 #pragma once
 
 #include <cstdint>
@@ -29,10 +29,10 @@ enum class ObjectState : unsigned char {
   kUnreadable,  // does not open as an entity
 };
 
-// What an object has for a group code; nothing when that is not known, which fits no mask.
+// The value of an object for a group code; empty when unknown, which fits no mask.
 using GroupValue = std::variant<std::monostate, long long, double, std::wstring>;
 
-// Names that objects have, each once, in the order in which they were first seen.
+// Distinct names of types or layers, in the order of first occurrence.
 class SeenNames {
  public:
   struct Name {
@@ -42,7 +42,7 @@ class SeenNames {
     size_t hash;
   };
 
-  // The index of the name, for the object with that index.
+  // The index of the name; adds it, with `object` as its first object.
   uint32_t IndexOf(std::wstring_view text, size_t object);
   const std::vector<Name>& All() const { return m_names; }
 
@@ -53,22 +53,22 @@ class SeenNames {
   void Grow();
 
   std::vector<Name> m_names;
-  // The name that was seen last under a cheap hash, and all of them under a good one; the slots are
-  // a power of two and at most half full.
+  // m_recent: the last name for each cheap hash. m_slots: all names under a good hash; the number
+  // of slots is a power of two, at most half of them used.
   std::vector<uint32_t> m_recent = std::vector<uint32_t>(kRecent, kNone);
   std::vector<uint32_t> m_slots;
 };
 
 class SelectionDescription {
  public:
-  // Asked for groups other than type (0) and layer (8), while a block is matched.
+  // Called for groups other than type (0) and layer (8), while a block is matched.
   using GroupReader = std::function<GroupValue(size_t object, int code)>;
 
-  // `type` is the name that drawing files have for the class of the object.
+  // `type` is the name of the object's class in drawing files.
   void Add(std::wstring_view type, std::wstring_view layer,
            ObjectState state = ObjectState::kEntity);
   void SetGroupReader(GroupReader reader) { m_reader = std::move(reader); }
-  // Counts only while nothing is selected.
+  // Used only while nothing is selected.
   void SetPaperSpace(bool inPaperSpace) { m_inPaperSpace = inPaperSpace; }
 
   size_t Count() const { return m_objects.size(); }
@@ -81,7 +81,7 @@ class SelectionDescription {
   const std::wstring& LayerOf(size_t object) const {
     return m_layers.All()[m_objects[object].layer].text;
   }
-  // The first object that fits no block, whatever its mask; Count() without one.
+  // The first object that fits no mask at all (see ObjectState); Count() without one.
   size_t FirstMisfit() const { return m_misfit.object < Count() ? m_misfit.object : Count(); }
   ObjectState StateOfMisfit() const { return m_misfit.state; }
   GroupValue Group(size_t object, int code) const {
@@ -104,15 +104,15 @@ class SelectionDescription {
   bool m_inPaperSpace = false;
 };
 
-// The layer that a logical layer key stands for; false when there is none, and the mask's value is
-// then taken as it is written.
+// Gives the layer for a logical layer key. False when there is none; the mask's value is then used
+// as written.
 using LayerResolver = std::function<bool(std::wstring_view key, std::wstring& layer)>;
 
 struct MatchResult {
   enum Why {
     kMatches,
-    kOtherName,   // nothing is selected, and the block is not the one for that
-    kNoMask,      // something is selected, and the block is found by name only
+    kOtherName,   // nothing is selected, and the block is not COMMON or LAYOUT
+    kNoMask,      // objects are selected, and the block has no mask
     kUnreadable,  // `object` is no entity
     kViewport,    // `object` is a viewport
     kGroup,       // `object` does not fit `group`
@@ -123,7 +123,7 @@ struct MatchResult {
   bool Matches() const { return why == kMatches; }
 };
 
-// The masks of a system, made ready. The system stays as it is while the matcher lives.
+// The compiled masks of a system, which must not change while the matcher lives.
 class BlockMatcher {
  public:
   explicit BlockMatcher(const TMenuSystem& system);
@@ -145,8 +145,8 @@ class BlockMatcher {
     const TGroups* source;
     int code;
     short kind;       // RTSHORT, RTREAL, RTSTR, RTLONG or none
-    size_t pattern;   // of a type or layer
-    WildCard others;  // of another text
+    size_t pattern;   // for type or layer: index into m_patterns
+    WildCard others;  // for other groups of text
   };
   using Mask = std::vector<Group>;
   class Run;

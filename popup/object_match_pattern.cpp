@@ -8,7 +8,7 @@ bool IsBetween(wchar_t unit, unsigned first, unsigned last) {
 
 bool IsDigit(wchar_t unit) { return unit >= L'0' && unit <= L'9'; }
 
-// Letters of the scripts that layers are named in; an ideograph is one.
+// Letters of the scripts used in layer names; ideographs count as letters.
 bool IsLetter(wchar_t unit) {
   if (static_cast<unsigned>(unit) < 0x80)
     return (unit >= L'A' && unit <= L'Z') || (unit >= L'a' && unit <= L'z');
@@ -33,8 +33,8 @@ bool IsInClass(std::wstring_view characters, wchar_t unit) {
   return in != negated;
 }
 
-// Behind the end of the pattern that begins at `at`. A comma inside brackets or behind a back quote
-// parts nothing.
+// One past the end of the pattern that begins at `at`. A comma in brackets or after a back quote
+// does not separate.
 size_t PatternEnd(std::wstring_view patterns, size_t at) {
   const size_t lastBracket = patterns.rfind(L']');
   bool inClass = false;
@@ -103,7 +103,7 @@ WildCard::Step WildCard::Read(std::wstring_view pattern, size_t& at) const {
     case L'`':
       return {Kind::kLiteral, at < pattern.size() ? pattern[at++] : unit, {}};
     case L'[':
-      // One that nothing closes is a character like any other.
+      // Without a closing bracket it is a literal.
       if (const size_t close = pattern.find(L']', at); close != std::wstring_view::npos) {
         const std::wstring_view characters = pattern.substr(at, close - at);
         at = close + 1;
@@ -132,8 +132,8 @@ bool WildCard::Fits(const Step& step, wchar_t unit) {
   }
 }
 
-// A star takes as little as it can; when the rest doesn't fit, the latest one takes one more. An
-// earlier star never has to be asked again.
+// A star first matches as little as possible; on a mismatch the latest star matches one more
+// character. Earlier stars need no backtracking.
 bool WildCard::Fits(const Pattern& pattern, std::wstring_view text) {
   if (pattern.plain) return pattern.text == text;
   const std::vector<Step>& steps = pattern.steps;

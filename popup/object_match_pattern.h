@@ -1,15 +1,14 @@
-// The wild cards of the host's selection filters, made ready once for many texts: * any text, ? any
-// character, # a digit, @ a letter, . neither, [..] one of, [~..] none of, ~ in front none of the
-// pattern, ` takes the next character as it stands, commas part patterns of which one must fit.
-// Case is ignored. Made by the block matching from the strings of a mask.
+// Wild cards of the host's selection filters, compiled once and matched against many texts: * any
+// text, ? any character, # a digit, @ a letter, . neither, [..] one of, [~..] none of, ~ at the
+// start negates the pattern, ` makes the next character literal, commas separate alternatives. Case
+// is ignored. Used by the block matcher for the texts of masks.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-// The upper case that both sides of a match are brought to; the same on every build and in every
-// locale.
+// Upper case for matching; the same on every build and in every locale.
 wchar_t MatchCase(wchar_t unit);
 std::wstring MatchCase(std::wstring_view text);
 
@@ -19,7 +18,7 @@ class WildCard {
   WildCard(WildCard&&) = default;
   WildCard& operator=(WildCard&&) = default;
 
-  // `text` as MatchCase gives it.
+  // `text` must have passed MatchCase.
   bool Matches(std::wstring_view text) const;
 
  private:
@@ -41,7 +40,7 @@ class WildCard {
   static bool Fits(const Step& step, wchar_t unit);
   static bool Fits(const Pattern& pattern, std::wstring_view text);
 
-  // Views of the patterns point into it; a heap block, so that a move keeps them.
+  // The patterns have views into this text; a vector, so that a move keeps them valid.
   std::vector<wchar_t> m_text;
   std::vector<Pattern> m_patterns;
 };

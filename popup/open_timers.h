@@ -1,5 +1,5 @@
-// Opening drawings from the timers of the context window: the recent ones, one at a firing, and the
-// one that somebody outside asked for. The rules only; the window carries them out.
+// Rules for opening drawings from the timers of the context window: recent drawings, one for each
+// timer message, and a drawing requested from outside. DrawingOpening makes the host calls.
 #pragma once
 
 #include "afx.h"
@@ -19,15 +19,15 @@ constexpr int kRecentFilesTimer = 10;
 
 class RecentOpening {
  public:
-  // One firing. Opening a drawing pumps messages, so the timer fires again inside: the guard makes
-  // that firing do nothing. When the queue is done, or the host is no longer free to open, the
-  // timer stops and the guard stays set: nothing is reopened by this object again.
+  // Handles one timer message. Opening a drawing pumps messages, so the timer may fire inside; the
+  // guard makes that call do nothing. When the queue is empty, or the host cannot open drawings
+  // now, the timer stops and the guard stays set: this object opens nothing more.
   void Step(TDPtrList<CString>& queue, DocumentOpener& opener);
 
  private:
   bool m_opening = false;
 };
 
-// Stops its timer, opens the file if the host is free to, then sends the command text if there is
-// one.
+// Stops its timer. If the host can open drawings now, opens the file and then posts the command
+// text, if any.
 void OpenRequestedFile(const wchar_t* file, const wchar_t* command, DocumentOpener& opener);

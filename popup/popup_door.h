@@ -1,19 +1,19 @@
-// What other rooms ask of the pop-ups and of the window that carries them. No window header.
+// Pop-ups and the context window as other rooms use them. No window header.
 #pragma once
 
 class TMenuBar;
 class TWCStringList;
 
-// Shows a block as a pop-up at a screen point and runs what is chosen; `flags` go to TrackPopupMenu
-// beside its own. The block has to live until the next pop-up. What TrackPopupMenu gives; 0 without
-// a context window.
+// Shows a block as a pop-up at a screen point and runs the chosen line; `flags` are added to the
+// flags of TrackPopupMenu. The block must live until the next pop-up. Returns the result of
+// TrackPopupMenu; 0 without a context window.
 int ShowBlockMenu(TMenuBar& block, int x, int y, unsigned flags);
 
-// Makes the context window, or destroys it; g_pContextMenu and the menu in force follow.
-// `onReadiness` is needed for making only: it is called by the readiness timer, which creation
-// starts, until StopReadinessTimer.
+// Creates or destroys the context window; sets g_pContextMenu and the menu in force accordingly.
+// `onReadiness` is used for creation only: the readiness timer, which creation starts, calls it
+// until StopReadinessTimer.
 void InitContextWindow(bool create, void (*onReadiness)());
 void StopReadinessTimer();
 
-// Opens these drawings one after the other when the host is free to.
+// Opens the drawings one after the other while the host can open them.
 void ReopenDrawings(const TWCStringList& files);

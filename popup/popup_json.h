@@ -1,5 +1,5 @@
-// The pop-up section of the shell state as JSON text: plain records in, UTF-8 out. The records are
-// filled from live menus by describe_popup.cpp.
+// The pop-up section of the shell state as JSON text in UTF-8, from plain records.
+// describe_popup.cpp fills the records from live menus.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ struct ShellPopupRow {
   bool enabled = false;
   bool checked = false;
   bool separator = false;
-  RECT rect{};  // screen pixels; empty while its menu is not on the screen
+  RECT rect{};  // screen pixels; empty while the menu is not shown
   std::vector<ShellPopupRow> rows;
 };
 

@@ -14,8 +14,8 @@ int NumberOf(const wchar_t* command) {
       std::clamp<long long>(std::wcstoll(command, nullptr, 10), INT_MIN, INT_MAX));
 }
 
-// Walks the lines over a list on the heap: files may nest sub-menus without bound. A line that
-// leads to a sub-menu gets its row when everything below it has one.
+// An explicit stack instead of recursion: files may nest sub-menus without limit. A line with a
+// sub-menu gets its row after all rows below it.
 class Planner {
  public:
   Planner(PopupIds ids, int firstId, const qvx::LineSources& sources)
@@ -33,7 +33,7 @@ class Planner {
     TMenuBar* bar;
     size_t menu;
     int next;
-    int filled;  // the menu of the line at `next`, filled already; -1 before that
+    int filled;  // the finished menu of the line at `next`; -1 without one
   };
 
   void Enter(TMenuBar& bar) {

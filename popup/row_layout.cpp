@@ -7,10 +7,10 @@
 namespace {
 
 constexpr int kImageBox = 20;
-constexpr int kImageInset = 2;  // of the image at rest, from the row's left and top
+constexpr int kImageInset = 2;  // of an unselected row's image, from its left and top
 constexpr int kBandLeft = 21;
 constexpr int kTextLeft = 25;
-constexpr int kRightMargin = 16;  // behind the right side of a label, and beside a measured text
+constexpr int kRightMargin = 16;  // right of a label's right side; added to a measured text
 constexpr unsigned kFlagPopup = 0x10;
 
 RECT Moved(const RECT& r, int x, int y) {
@@ -30,8 +30,8 @@ RowLabel SplitLabel(std::wstring_view label) {
   return {label.substr(0, first), label.substr(label.rfind(L'\t') + 1), true};
 }
 
-// The image stands at a fixed distance from the row's top while its box is centred: on a row higher
-// than the box the two part, and the image sits above the middle of its raised box.
+// Deliberate: the image has a fixed distance from the row's top while its box is centred. On a row
+// higher than the box the image is above the middle of its raised box.
 PopupRowLook LookOfPopupRow(const RECT& row, PopupRowState state, bool hasTab) {
   const LONG height = row.bottom - row.top;
   PopupRowLook look{};

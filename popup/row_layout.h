@@ -1,6 +1,5 @@
-// How a row of a pop-up looks: where image, band and texts stand, which colours they have, what a
-// state leaves out. One computed value that measuring and drawing share. Plain arithmetic; the
-// painting walks this record and decides nothing itself.
+// Layout of a row of a pop-up: places of image, highlight and texts, colours, effects of states.
+// Measuring and painting share it; painting draws from this record and decides nothing itself.
 #pragma once
 
 #include <string>
@@ -8,7 +7,7 @@
 
 #include "ground/plain_types.h"
 
-// System colours, by what they are used for here.
+// System colours, by use.
 enum class PopupColor {
   kMenu,
   kHighlight,
@@ -19,8 +18,8 @@ enum class PopupColor {
   kButtonShadow,
 };
 
-// The two sides of a label. With a tab anywhere there is a right side: what follows the last one.
-// Text between the first and the last tab is not shown at all.
+// The two sides of a label. With a tab the right side is the text after the last tab. Deliberate:
+// text between the first and the last tab is not shown.
 struct RowLabel {
   std::wstring_view left, right;
   bool hasTab = false;
@@ -33,12 +32,12 @@ struct PopupRowState {
   bool checked = false;
 };
 
-// What stands in the image column. A grey row has nothing there, not even a check mark.
+// Content of the image column. A grey row has none, not even a check mark.
 enum class RowImageKind { kNone, kIcon, kCheckMark };
 
 struct PopupRowLook {
   RECT row;
-  bool fillsRow;           // with the menu colour, framed in the same; otherwise only the band
+  bool fillsRow;           // with the menu colour, framed in it; else the band only
   RECT band;               // filled with the highlight
   RECT imageBox;           // 20 by 20 at most
   RECT innerBox;           // always framed in the menu colour
@@ -48,7 +47,7 @@ struct PopupRowLook {
   RowImageKind imageKind;  // drawn 16 by 16 at `image`
   POINT image;
   RECT text;    // of both sides: left aligned and right aligned
-  RECT shadow;  // where the text is drawn first, in the light colour, when hasShadow
+  RECT shadow;  // if hasShadow: text drawn here first, in the light colour
   bool hasShadow;
   PopupColor textColor;
 };
@@ -57,13 +56,13 @@ constexpr int kPopupImageSize = 16;
 
 PopupRowLook LookOfPopupRow(const RECT& row, PopupRowState state, bool hasTab);
 
-// `textWidth` of the whole label with its tabs; `menuHeight` is what the system makes menus high.
-// The image column is not counted: the system adds the width of its own check marks.
+// `textWidth` is that of the whole label with its tabs, `menuHeight` the system's menu height. The
+// image column is not included: the system adds the width of its own check marks.
 SIZE MeasurePopupRow(int textWidth, int menuHeight);
 
-// The row that a letter picks, as the window system wants to be answered: its position, and in the
-// high word that it is to be executed. 0 leaves the letter to the system; so does a row without an
-// ampersand, which no letter picks.
+// The result of WM_MENUCHAR: the position of the row with this mnemonic in the low word,
+// kMenuCharExecute in the high word. 0 leaves the letter to the system; rows without an ampersand
+// have no mnemonic.
 constexpr unsigned kMenuCharExecute = 2;
 class MenuCharRows {
  public:

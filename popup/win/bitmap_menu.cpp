@@ -6,7 +6,7 @@
 
 IMPLEMENT_DYNAMIC(CBitmapMenu, CMenu)
 
-// Screen readers look for their record where the item data points.
+// Screen readers expect the record at the address in the item data.
 static_assert(offsetof(CBitmapMenuItemData, m_accessible) == 0);
 
 namespace {
@@ -59,8 +59,8 @@ CBitmapMenu::~CBitmapMenu() {
   --s_alive;
 }
 
-// The label is measured whole, its tab as a character like others, and the image column is not
-// added: a row with a long accelerator text is wider than it has to be, one without may be tight.
+// Deliberate: the label is measured whole, with its tab as a character, and the image column is not
+// added. A row with a long accelerator text is too wide; one without may be tight.
 void CBitmapMenu::MeasureItem(LPMEASUREITEMSTRUCT item) {
   const auto* record = reinterpret_cast<const CBitmapMenuItemData*>(item->itemData);
   const bool hasText = record && record->m_pMenuItem;
@@ -70,7 +70,7 @@ void CBitmapMenu::MeasureItem(LPMEASUREITEMSTRUCT item) {
   item->itemHeight = static_cast<UINT>(size.cy);
 }
 
-// A menu is made for one showing, and the question takes as long as measuring a row.
+// Cached: GetSystemMetrics costs as much as measuring a row, and a menu is shown only once.
 int CBitmapMenu::MenuHeight() {
   if (!m_nMenuHeight) m_nMenuHeight = ::GetSystemMetrics(SM_CYMENU);
   return m_nMenuHeight;

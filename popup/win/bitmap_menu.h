@@ -1,6 +1,6 @@
-// CBitmapMenu: a native menu whose rows the program draws, each with an icon or a check mark in a
-// box at the left and an accelerator text at the right. Its owner window passes measuring and menu
-// letters on (see CContextMenuWnd); what a row looks like is row_layout's.
+// CBitmapMenu: a native menu with owner-drawn rows, each with an icon or a check mark in a box at
+// the left and an accelerator text at the right. Its owner window forwards WM_MEASUREITEM and
+// WM_MENUCHAR (see CContextMenuWnd); row_layout computes the appearance.
 #pragma once
 
 #include "afxwin.h"
@@ -11,13 +11,12 @@
 
 #include <oleacc.h>
 
-// Both kinds of pictures of a row. As a device independent section, which every context draws from
-// without a copy of its own: a menu of forty icons comes up in half the time.
+// For icons and check marks. A DIB section, which a device context draws from without a copy:
+// halves the time to open a menu of forty icons.
 constexpr UINT kRowBitmapFlags = LR_LOADMAP3DCOLORS | LR_CREATEDIBSECTION;
 
-// One a row, separators have none; the item data of the native menu points here. Screen readers
-// find the row's text in the published record in front. Plain data but for the bitmap, which goes
-// with it.
+// One for each row, none for separators; the item data of the native menu points to it. Screen
+// readers read the row's text from the published record, the first member. Owns the bitmap.
 struct CBitmapMenuItemData {
   MSAAMENUINFO m_accessible{MSAA_MENU_SIG, 0, const_cast<wchar_t*>(L"")};
   TMenuItem* m_pMenuItem = nullptr;  // not owned
@@ -25,7 +24,7 @@ struct CBitmapMenuItemData {
   int m_nIndex = -1;  // of the line in its bar, and of the row in the menu
 
   void Show(TMenuItem* line, int index);
-  void Forget();  // the line goes while the row stays: nothing is drawn any more
+  void Forget();  // for a line destroyed before its row, which is no longer drawn
 };
 
 class CBitmapMenu : public CMenu, private qvx::LiveHandles {
@@ -39,16 +38,16 @@ class CBitmapMenu : public CMenu, private qvx::LiveHandles {
 
   void DrawItem(LPDRAWITEMSTRUCT item) override;
   void MeasureItem(LPMEASUREITEMSTRUCT item) override;
-  // The answer to WM_MENUCHAR.
+  // The result of WM_MENUCHAR.
   LRESULT MenuCharSearch(UINT character, UINT flags) const;
 
   TDPtrList<CBitmapMenuItemData> m_items;
 
-  static int Alive() { return s_alive; }  // menus that live, in this module
+  static int Alive() { return s_alive; }  // number of menus in this module
 
  private:
   int MenuHeight();
 
-  int m_nMenuHeight = 0;          // the system's, asked for at the first row; 0 before
+  int m_nMenuHeight = 0;          // the system's, cached at the first row; 0 before
   inline static int s_alive = 0;  // menus live on one thread
 };

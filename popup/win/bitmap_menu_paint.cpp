@@ -1,4 +1,4 @@
-// The painting of a row: walks the look that row_layout computed and puts it on the device.
+// Painting of a row: draws the record that row_layout computed.
 #include "ground/win/menu_font.h"
 #include "ground/win/module_handle.h"
 #include "popup/win/bitmap_menu.h"
@@ -50,8 +50,8 @@ void PaintGround(CDC& dc, const PopupRowLook& look) {
   if (look.framesImageBox) Frame(dc, look.imageBox, kMenu, kMenu);
 }
 
-// The grey that LR_LOADMAP3DCOLORS turned into the face colour is what shows through. A bitmap of
-// another size is brought to the one of the column.
+// LR_LOADMAP3DCOLORS mapped the bitmap's grey to the face colour, which is drawn as transparent. A
+// bitmap of another size is scaled.
 void PaintImage(CDC& dc, POINT at, HBITMAP image) {
   BITMAP info{};
   ::GetObjectW(image, sizeof info, &info);

@@ -1,5 +1,5 @@
-// CContextMenuWnd: showing pop-ups, and the messages of the menu loop. The loop runs on this very
-// thread, so all of it arrives while TrackPopupMenu has not returned.
+// CContextMenuWnd: showing pop-ups, and the messages of the menu loop. The loop runs on this
+// thread, so these messages arrive before TrackPopupMenu returns.
 #include "afxwin.h"
 #include "afxext.h"
 
@@ -14,7 +14,7 @@
 #include "screenmenu/screen_menu_door.h"
 #include "statusbar/status_bar_door.h"
 
-// What a LISP function or a message inside the loop may not start again.
+// Guard against showing a pop-up from a LISP function or from a message of the menu loop.
 class CContextMenuWnd::ShowingScope {
  public:
   explicit ShowingScope(bool& flag) : m_flag(flag) { m_flag = true; }
@@ -113,14 +113,15 @@ int CContextMenuWnd::Track(TMenuBar& bar, int firstId, CPoint point, UINT flags)
   return result;
 }
 
-// The choice arrives when the menu has closed; its objects are alive until the next pop-up.
+// WM_COMMAND arrives after the menu has closed; its objects live until the next pop-up.
 BOOL CContextMenuWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
   LiveLineHost host;
   if (HIWORD(wParam) == 0 && m_pBar && ExecuteMenuLine(*m_pBar, LOWORD(wParam), host)) return TRUE;
   return CWnd::OnCommand(wParam, lParam);
 }
 
-// A row that opens a sub-menu has no identifier to find its menu by; the row's record says all.
+// For a row with a sub-menu `itemID` is a menu handle, by which the base class cannot find the
+// menu; the row's record is enough to measure it.
 void CContextMenuWnd::OnMeasureItem(int control, LPMEASUREITEMSTRUCT item) {
   if (item->CtlType == ODT_MENU && m_pMenu &&
       ::IsMenu(reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item->itemID))))
@@ -135,7 +136,7 @@ LRESULT CContextMenuWnd::OnMenuChar(UINT character, UINT flags, CMenu* menu) {
   return CWnd::OnMenuChar(character, flags, menu);
 }
 
-// A row without help clears the line, so that no other row's help stands beside it.
+// A row without help clears the status text, so that the help of the previous row is not shown.
 void CContextMenuWnd::OnMenuSelect(UINT id, UINT flags, HMENU menu) {
   CWnd::OnMenuSelect(id, flags, menu);
   if (!g_hQvxDll || !m_pBar || (flags & (MF_POPUP | MF_SEPARATOR | MF_SYSMENU))) return;

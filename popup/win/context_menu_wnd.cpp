@@ -31,7 +31,8 @@ CContextMenuWnd::CContextMenuWnd(void (*onReadiness)()) : m_onReadiness(onReadin
   SetMenuInForce(this);
 }
 
-// A line of the menu may show the recent list, which would go before the line does.
+// Empties the lists here: a line of the menu may show the recent list, which TMenuSystem's own
+// destruction would destroy before the line.
 CContextMenuWnd::~CContextMenuWnd() {
   SetMenuInForce(nullptr);
   m_isShowing = false;

@@ -1,8 +1,8 @@
-// The context window: a child of the host frame, one pixel in size, that owns the one loaded menu
-// and every pop-up of the system, and carries the timers of the start-up. Others reach the menu
-// through menu/menu_in_force.h and the pop-ups through popup/popup_door.h. Where to look:
-// context_menu_wnd.cpp coming up, timers, the menu; context_menu_popups.cpp pop-ups and their
-// messages; drawing_opening.h opening drawings. Made and destroyed by InitContextWindow alone.
+// The context window: a child of the host frame, one pixel in size, that owns the menu in force and
+// the pop-ups, and has the timers of the start-up. Other rooms use menu/menu_in_force.h and
+// popup/popup_door.h. Files: context_menu_wnd.cpp creation, timers, the menu;
+// context_menu_popups.cpp pop-ups and their messages; drawing_opening.h opening drawings. Only
+// InitContextWindow creates and destroys it.
 #pragma once
 
 #include "afxwin.h"
@@ -32,17 +32,17 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
   void StopReadinessTimer() { KillTimer(kReadinessTimer); }
   void ReopenDrawings(const TWCStringList& files);
 
-  // The menu for what is selected, at a screen point; `force` shows one also with nothing selected.
-  // What TrackPopupMenu gives, or 0 when no menu is shown.
+  // Shows the menu for the selection at a screen point; with `force` also when nothing is selected.
+  // Returns the result of TrackPopupMenu, or 0 when no menu is shown.
   int ShowContextMenu(CPoint point, int force);
-  // A given block, which has to live until the next pop-up. `flags` go to the system beside ours.
+  // Shows a block, which must live until the next pop-up. `flags` are added to TPM_RIGHTBUTTON.
   int ShowMenuAt(TMenuBar& bar, CPoint point, UINT flags);
 
-  // Destroys the pop-up of the last time. Does nothing while one is on the screen.
+  // Destroys the last pop-up. Does nothing while one is shown.
   void ResetPopups();
   int IsOurMenu(const CMenu* menu) const;
 
-  const TMenuBar* Bar() const { return m_pBar; }  // of the present pop-up; null when none
+  const TMenuBar* Bar() const { return m_pBar; }  // of the current pop-up; null when none
   const CBitmapMenu* Menu() const { return m_pMenu; }
   const TDPtrList<CBitmapMenu>& Popups() const { return m_popups; }
   int IsHelpShown() const { return m_bStatusText; }
@@ -67,7 +67,7 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
   void ForgetLines() override;
   void SetToolBar(TMenuBar* bar) override { m_pToolBar = bar; }
 
-  // RecentSources: where a recent command's label and icon come from.
+  // RecentSources: sources of label and icon of a recent command.
   bool IsRunMode() override;
   TMenuBar* ScreenRoot() override;
   TMenuSystem* CurrentSystem() override { return &m_menuSystem; }
@@ -76,12 +76,12 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
   int FindBlock(bool force);
   int Track(TMenuBar& bar, int firstId, CPoint point, UINT flags);
 
-  TDPtrList<CBitmapMenu> m_popups;  // every menu and sub-menu of the present pop-up
+  TDPtrList<CBitmapMenu> m_popups;  // every menu and sub-menu of the current pop-up
   TMenuSystem m_menuSystem;
-  TMenuBar* m_pBar = nullptr;      // of the present pop-up; not owned
+  TMenuBar* m_pBar = nullptr;      // of the current pop-up; not owned
   CBitmapMenu* m_pMenu = nullptr;  // its top menu; not owned
   TDPtrList<CString> m_openQueue;  // files waiting to be opened
-  int m_bStatusText = 0;           // the status bar shows a row's help text
+  int m_bStatusText = 0;           // the status bar shows a row's help
 
   TMenuBar* m_pToolBar = nullptr;  // the menu's ToolBar block; stays in m_menuSystem
   void (*m_onReadiness)();

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr UINT kGetMenuOfWindow = 0x01E1;  // answered by every window that shows a menu
+constexpr UINT kGetMenuOfWindow = 0x01E1;  // MN_GETHMENU
 constexpr wchar_t kMenuWindowClass[] = L"#32768";
 
 BOOL CALLBACK CollectMenu(HWND window, LPARAM menus) {
@@ -37,7 +37,7 @@ bool Holds(HMENU menu, HMENU subMenu) {
   return false;
 }
 
-// The one that no other shown menu leads to; null without one.
+// The shown menu that is no sub-menu of another shown menu; null without one.
 HMENU TopOf(const std::vector<HMENU>& shown) {
   CWnd* frame = acedGetAcadFrame();
   const HMENU bar = frame ? ::GetMenu(frame->m_hWnd) : nullptr;
@@ -48,7 +48,7 @@ HMENU TopOf(const std::vector<HMENU>& shown) {
   return nullptr;
 }
 
-// Rows that draw themselves carry the record that screen readers look for.
+// Owner-drawn rows have the record for screen readers.
 std::wstring LabelOf(HMENU menu, UINT row, const MENUITEMINFOW& info) {
   const auto* accessible = reinterpret_cast<const MSAAMENUINFO*>(info.dwItemData);
   if ((info.fType & MFT_OWNERDRAW) && accessible &&

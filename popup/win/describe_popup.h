@@ -1,6 +1,6 @@
-// The pop-up menu that is on the screen at this moment, as the JSON object that the module's
-// diagnostic export shows under "popup". Taken from the live menu windows of the main thread, those
-// of panes and editor among them; the menus of the frame's menu bar are left out.
+// The pop-up menu shown at present as the JSON object "popup" of the module's diagnostic export.
+// Read from the menu windows of the main thread, including pop-ups of panes and of the editor; the
+// menus of the frame's menu bar are excluded.
 #pragma once
 
 #include <string>

@@ -1,6 +1,5 @@
-// Opens drawings from the timers of the context window: recent files, one at a firing, and the one
-// that was asked for from outside. The rules are those of open_timers.h; this carries them out on
-// the host.
+// Opens drawings from the timers of the context window: recent files, one for each timer message,
+// and a file requested from outside. open_timers.h has the rules; this class makes the host calls.
 #pragma once
 
 #include "afxwin.h"
@@ -8,12 +7,12 @@
 
 class DrawingOpening : private DocumentOpener {
  public:
-  // The window carries the timers; both outlive this.
+  // The window has the timers; window and queue outlive this object.
   DrawingOpening(CWnd& window, TDPtrList<CString>& queue) : m_window(window), m_queue(queue) {}
 
-  void Start();               // reopening what stands in the queue; nothing with an empty one
+  void Start();               // starts opening the queue; nothing when it is empty
   void RequestOpen();         // the file of g_szFileNameToOpen, after a delay
-  bool OnTimer(UINT_PTR id);  // false for a timer of somebody else
+  bool OnTimer(UINT_PTR id);  // false for other timers
 
  private:
   bool IsApplicationContext() override;

@@ -1,5 +1,5 @@
-// Native menus out of a plan, with a record and an icon for each row. The context window builds
-// with it, and so does any other owner of pop-ups.
+// Builds native menus from a plan, with a record and an icon for each row. Used by the context
+// window and by other owners of pop-ups.
 #pragma once
 
 #include "popup/win/bitmap_menu.h"
@@ -8,8 +8,8 @@
 class PopupOwner {
  public:
   virtual ~PopupOwner() = default;
-  virtual CBitmapMenu* AddPopup() = 0;  // the owner's; empty
+  virtual CBitmapMenu* AddPopup() = 0;  // an empty menu; the owner keeps it
 };
 
-// The plan is not empty.
+// The plan must not be empty.
 void BuildPopup(const PopupPlan& plan, CBitmapMenu& top, PopupOwner& owner);
