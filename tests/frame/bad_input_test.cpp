@@ -18,10 +18,10 @@
 #include "kernel/tregproperty.h"
 #include "menu/menu_item.h"
 #include "screenmenu/palette_settings.h"
+#include "tests/doubles/loaded_menu.h"
 #include "tests/doubles/silent_ui.h"
 #ifndef _WIN32
 #include "kernel/native/file_store.h"
-#include "tests/doubles/loaded_menu.h"
 #endif
 
 namespace {

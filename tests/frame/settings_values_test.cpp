@@ -11,9 +11,9 @@
 #include "kernel/native_file.h"
 #include "kernel/tregproperty.h"
 #include "menu/menu_item.h"
+#include "tests/doubles/loaded_menu.h"
 #ifndef _WIN32
 #include "kernel/native/file_store.h"
-#include "tests/doubles/loaded_menu.h"
 #endif
 
 namespace {
