@@ -1,9 +1,9 @@
 // The list of modules for the first start of a release, with the real module, a real sibling module
 // and the machine's part of the registry.
+#include "tests/module/win/module_test.h"
+
 #include <aclapi.h>
 #include <sddl.h>
-
-#include "tests/module/win/module_test.h"
 
 namespace {
 
