@@ -1,12 +1,12 @@
 // The palette as a screen reader in another process sees it.
 #include <gtest/gtest.h>
 
-#include <objbase.h>
-
 #include <sstream>
 
 #include "kernel/globals.h"
 #include "tree_fixture.h"
+
+#include <objbase.h>
 
 namespace {
 
