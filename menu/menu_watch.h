@@ -23,11 +23,15 @@ class MenuWatch {
 // The source of watches; a member of the owner of the menu system.
 class MenuLife {
  public:
-  MenuWatch Watch() const { return MenuWatch(m_token); }
-  void Renew() { m_token = std::make_shared<char>(); }  // all earlier watches: IsGone()
+  MenuWatch Watch() const {
+    if (!m_token) m_token = std::make_shared<char>();
+    return MenuWatch(m_token);
+  }
+  // All earlier watches: IsGone(). Allocates nothing: destructors call it.
+  void Renew() noexcept { m_token.reset(); }
 
  private:
-  std::shared_ptr<const void> m_token = std::make_shared<char>();
+  mutable std::shared_ptr<const void> m_token;  // created by the first watch
 };
 
 }  // namespace qvx
