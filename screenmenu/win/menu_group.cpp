@@ -1,6 +1,8 @@
 // CMenuGroup: building the tree from its plan, folding, switches, painting.
 #include "screenmenu/win/menu_group.h"
 
+#include <memory>
+
 #include "kernel/globals.h"
 #include "screenmenu/group_rules.h"
 #include "screenmenu/palette_settings.h"
@@ -69,16 +71,17 @@ void CMenuGroup::BuildRows(const qvx::GroupPlan& plan, const CRect& rect) {
   int nextId = kFirstRowId;
   for (int i = 0; i < plan.bar->Length(); ++i) {
     const auto slot = static_cast<std::size_t>(i);
-    auto* row = new CSMenuItem(plan.bar->At(i), nextId++, m_nDepth, m_pOwner);
-    m_items.Append(row);
-    row->CreateRow(plan.rows[slot], layout.rows[slot], this);
-    CMenuGroup* child = nullptr;
+    auto row = std::make_unique<CSMenuItem>(plan.bar->At(i), nextId++, m_nDepth, m_pOwner);
+    m_items.Append(row.get());
+    row.release()->CreateRow(plan.rows[slot], layout.rows[slot], this);
+    std::unique_ptr<CMenuGroup> child;
     if (const qvx::GroupPlan* nested = plan.children[slot].get()) {
       const CRect place =
           nested == open ? CRect(layout.child) : CRect(0, 0, CRect(layout.rows[slot]).Width(), 0);
-      child = new CMenuGroup(*nested, place, this, static_cast<UINT>(nextId++), m_pOwner);
+      child.reset(new CMenuGroup(*nested, place, this, static_cast<UINT>(nextId++), m_pOwner));
     }
-    m_children.Append(child);
+    m_children.Append(child.get());
+    child.release();
   }
   m_children.GoTo(plan.cursor);
 }

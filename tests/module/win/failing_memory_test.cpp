@@ -1,6 +1,7 @@
 // Every allocation of the module made to fail in turn, over what a user does all day. Nothing may
-// leave the module but the operation that failed: no exception, no handle, no window.
+// leave the module but the operation that failed: no exception, no handle, no window, no block.
 #include <functional>
+#include <optional>
 
 #include "tests/module/win/module_memory.h"
 #include "tests/module/win/module_test.h"
@@ -61,6 +62,8 @@ class FailingMemory : public Module {
     m_first = documents.New();
     m_second = documents.New();
     ASSERT_TRUE(LoadModule());
+    m_memory.emplace(L"qvx_initstart.arx");
+    ASSERT_TRUE(m_memory->IsPatched());
     BringUp();
     Run(L"");
   }
@@ -68,10 +71,11 @@ class FailingMemory : public Module {
   // Does it with the first allocation failing, then with the second, and so on, until none fails.
   // After each the module has to do it again without a fault, and to hold what it held before.
   void FailInTurn(const std::function<void()>& operation) {
-    const ModuleMemory memory(L"qvx_initstart.arx");
-    ASSERT_TRUE(memory.IsPatched());
     operation();
     Settle();
+    operation();
+    Settle();
+    const int blocks = ModuleMemory::LiveBlocks();
     const int handles = HandleCount();
     const int windows = HostProcess::Get().ChildWindows();
     int number = 1, faults = FaultCount();
@@ -87,6 +91,7 @@ class FailingMemory : public Module {
       operation();
       Settle();
       ASSERT_EQ(FaultCount(), faults) << "the operation without a failing allocation";
+      ASSERT_EQ(ModuleMemory::LiveBlocks(), blocks);
       ASSERT_EQ(HandleCount(), handles);
       ASSERT_EQ(HostProcess::Get().ChildWindows(), windows);
       if (!failed) break;
@@ -104,6 +109,12 @@ class FailingMemory : public Module {
     Shell();  // its text is kept until the next call
   }
 
+  void TearDown() override {
+    m_memory.reset();
+    Module::TearDown();
+  }
+
+  std::optional<ModuleMemory> m_memory;
   devhost::Document* m_first = nullptr;
   devhost::Document* m_second = nullptr;
 };
@@ -132,8 +143,6 @@ TEST_F(FailingMemory, AReloadIsDroppedWhenAnyOfItsAllocationsFails) {
 
 // It allocates nothing in the module today; that is why no failure of it is to be seen.
 TEST_F(FailingMemory, AChangeOfDrawingAllocatesNothing) {
-  const ModuleMemory memory(L"qvx_initstart.arx");
-  ASSERT_TRUE(memory.IsPatched());
   ModuleMemory::FailAt(1);
   devhost::TheHost().documents.Activate(m_first);
   devhost::TheHost().documents.Activate(m_second);

@@ -1,5 +1,7 @@
-// Makes allocations of a loaded module fail, by replacing operator new in the module's import
-// table. Allocations of the libraries that it calls are not touched. Main thread only.
+// Makes allocations of a loaded module fail and counts those that are not freed, by replacing
+// operator new in the module's import table and free in the one of the C++ library, through which
+// every operator delete of the process frees. Allocations of the libraries that the module calls
+// are not touched. Main thread only.
 #pragma once
 
 #include "afxwin.h"
@@ -12,18 +14,22 @@ class ModuleMemory {
   ModuleMemory(const ModuleMemory&) = delete;
   ModuleMemory& operator=(const ModuleMemory&) = delete;
 
-  // False when the module does not import operator new: nothing can fail then.
-  bool IsPatched() const { return m_count > 0; }
+  // False when a table has no such function: nothing can fail or be counted then.
+  bool IsPatched() const { return m_allocates && m_frees; }
+
+  // Blocks that the module has allocated since the patch and nobody has freed.
+  static int LiveBlocks();
 
   // The allocation of this number from now on throws std::bad_alloc, once; 0: none does.
   static void FailAt(int number);
   static bool HasFailed();  // since FailAt
 
  private:
-  void Patch(const char* name, void* replacement);
+  bool Patch(const wchar_t* module, const char* name, void* replacement);
 
-  HMODULE m_module;
-  void** m_slots[2] = {};
-  void* m_before[2] = {};
+  void** m_slots[3] = {};
+  void* m_before[3] = {};
   int m_count = 0;
+  bool m_allocates = false;
+  bool m_frees = false;
 };
