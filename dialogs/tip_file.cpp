@@ -4,30 +4,16 @@
 // therefore handled here, and a position is a byte offset.
 #include "dialogs/tip_file.h"
 
-#include <sys/stat.h>
-
-#include <ctime>
 #include <string>
 
+#include "dialogs/tip_file_system.h"
 #include "kernel/twcstring.h"
-
-#ifdef _WIN32
-#include <io.h>
-#endif
 
 namespace qvx {
 
 namespace {
 
 constexpr int kTextEnd = 0x1A;  // end mark of a text file, as for the system
-
-bool IsLeadByte(int byte) {
-#ifdef _WIN32
-  return ::IsDBCSLeadByte(static_cast<BYTE>(byte)) != 0;
-#else
-  return byte >= 0x81 && byte <= 0xFE;
-#endif
-}
 
 constexpr int kFirstTrailByte = 0x40;
 
@@ -142,18 +128,7 @@ bool FindTipBefore(std::FILE* file, int end, int& offset) {
 }
 
 CString TipFileStamp(std::FILE* file) {
-#ifdef _WIN32
-  struct _stat64i32 about;
-  if (::_fstat64i32(::_fileno(file), &about) != 0) return {};
-  const char* text = ::_ctime64(&about.st_mtime);
-#else
-  struct stat about;
-  char buffer[32];
-  if (::fstat(::fileno(file), &about) != 0) return {};
-  const char* text = ::ctime_r(&about.st_mtime, buffer);
-#endif
-  if (!text) return {};
-  CString stamp(text);
+  CString stamp(LastChangeOf(file).c_str());
   stamp.TrimRight();
   return stamp;
 }

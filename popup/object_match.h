@@ -17,7 +17,7 @@
 #include <variant>
 #include <vector>
 
-#include "popup/object_match_pattern.h"
+#include "ground/wild_card.h"
 
 class TMenuBar;
 class TMenuSystem;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "popup/object_match_pattern.h"
+#include "ground/wild_card.h"
 
 namespace {
 

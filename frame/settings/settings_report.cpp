@@ -13,7 +13,7 @@
 #include "frame/settings/menu_setting.h"
 #include "frame/settings/settings_index.h"
 #include "ground/host_variables.h"
-#include "ground/json_text.h"
+#include "ground/utf8_text.h"
 #include "ground/product_registry.h"
 #include "ground/product_section.h"
 #include "ground/support_files.h"

@@ -10,24 +10,6 @@
 #include "menu/menu_compiler.h"
 #include "menu/menu_passes.h"
 
-std::string Utf8(const wchar_t* text) {
-  std::u16string units;
-  for (; *text; ++text) units += static_cast<char16_t>(*text);
-  std::string out;
-  for (size_t i = 0; i < units.size(); ++i) {
-    const unsigned c = units[i];
-    if (c < 0x80) {
-      out += static_cast<char>(c);
-    } else if (c < 0x800) {
-      out += {static_cast<char>(0xC0 | c >> 6), static_cast<char>(0x80 | (c & 63))};
-    } else {
-      out += {static_cast<char>(0xE0 | c >> 12), static_cast<char>(0x80 | (c >> 6 & 63)),
-              static_cast<char>(0x80 | (c & 63))};
-    }
-  }
-  return out;
-}
-
 namespace {
 
 std::string Escaped(std::string_view text) {

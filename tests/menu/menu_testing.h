@@ -6,11 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "ground/utf8_text.h"
 #include "menu/menu_model.h"
 #include "menu/menu_users.h"
 #include "menu/source_messages.h"
 
-std::string Utf8(const wchar_t* text);
+inline std::string Utf8(const wchar_t* text) { return qvx::ToUtf8(text); }
 
 class CollectedMessages : public SourceMessages {
  public:

@@ -4,10 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "ground/utf8_text.h"
 #include "tools/qmn/qmn_tool.h"
 
 // An unpaired surrogate becomes U+FFFD.
-std::string Utf8(std::wstring_view units);
+inline std::string Utf8(std::wstring_view units) { return qvx::ToUtf8(units); }
 // Invalid UTF-8 becomes U+FFFD.
 std::wstring Wide(std::string_view utf8);
 

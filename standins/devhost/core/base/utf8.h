@@ -1,5 +1,4 @@
-// UTF-8 and wide text (one UTF-16 unit per wchar_t on every build), converted by the class
-// library's code page 65001. What is invalid becomes U+FFFD.
+// UTF-8 and wide text (one UTF-16 unit per wchar_t on every build). What is invalid becomes U+FFFD.
 #pragma once
 
 #include <string>

@@ -5,9 +5,7 @@
 
 namespace devhost {
 
-// Compares ignoring case. * matches any text, ? any character, # a digit, @ a letter, . a character
-// that is neither, [..] one of the characters, [~..] any other; ~ in front negates the pattern, `
-// quotes the next character, commas separate alternative patterns.
+// The patterns are those of ground/wild_card.h.
 bool WildMatch(const std::wstring& text, const std::wstring& patterns);
 
 }  // namespace devhost

@@ -1,7 +1,7 @@
 // Wild cards of the host's selection filters, compiled once and matched against many texts: * any
 // text, ? any character, # a digit, @ a letter, . neither, [..] one of, [~..] none of, ~ at the
 // start negates the pattern, ` makes the next character literal, commas separate alternatives. Case
-// is ignored. Used by the block matcher for the texts of masks.
+// is ignored. A class that is not closed is a literal bracket.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-#include "popup/object_match_pattern.h"
+#include "ground/wild_card.h"
 
 namespace {
 
