@@ -69,9 +69,10 @@ int acedRedraw(const ads_name entity, int mode);  // null entity: everything
 // by commas. Ignores case.
 int acutWcMatch(const ACHAR* text, const ACHAR* patterns);
 
-// Files, modules
-// -----------------------------------------------------------------------------
+// Files, modules, coordinates --------------------------------------------------------------------
 int acedFindFile(const ACHAR* name, ACHAR* path);  // along the support path
 resbuf* acedArxLoaded();                           // names of the loaded modules, or null
+// Systems are RTSHORT values: 0 world, 1 user, 2 display of the current viewport; others are
+// RTERROR. `vector` other than 0: a displacement. `result` may be `point`.
 int acedTrans(const ads_point point, const resbuf* from, const resbuf* to, int vector,
-              ads_point result);  // world and user coordinates are the same here
+              ads_point result);

@@ -152,6 +152,10 @@ class AcDbDatabase {
   AcDbObjectId layerTableId() const;
   AcDbObjectId currentSpaceId() const;  // model or paper space, by TILEMODE and CVPORT
   int approxNumObjects() const;
+  // The user coordinate system of the current space, in world coordinates.
+  AcGePoint3d ucsorg() const;
+  AcGeVector3d ucsxdir() const;
+  AcGeVector3d ucsydir() const;
 
   struct Body;  // private to the host
   Body& body() const { return *m_body; }

@@ -12,6 +12,7 @@ class AcGeVector3d {
     const double l = length();
     return l > 0 ? AcGeVector3d(x / l, y / l, z / l) : *this;
   }
+  AcGeVector3d& normalize() { return *this = normal(); }  // a zero vector is unchanged
   constexpr AcGeVector3d operator*(double f) const { return {x * f, y * f, z * f}; }
   constexpr AcGeVector3d operator-() const { return {-x, -y, -z}; }
   constexpr AcGeVector3d operator+(const AcGeVector3d& o) const {

@@ -58,6 +58,10 @@ AcDbObjectId AcDbDatabase::currentSpaceId() const {
   return id;
 }
 
+AcGePoint3d AcDbDatabase::ucsorg() const { return m_body->CurrentSystem().origin; }
+AcGeVector3d AcDbDatabase::ucsxdir() const { return m_body->CurrentSystem().x; }
+AcGeVector3d AcDbDatabase::ucsydir() const { return m_body->CurrentSystem().y; }
+
 Acad::ErrorStatus AcDbDatabase::getBlockTable(AcDbBlockTable*& table, AcDb::OpenMode mode) {
   return acdbOpenObject(table, m_body->blockTable, mode);
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dbmain.h"
+#include "devhost/core/drawing/user_system.h"
 
 // A group of a drawing file that the host does not interpret and writes back unchanged.
 struct KeptGroup {
@@ -25,12 +26,14 @@ struct AcDbDatabase::Body {
   std::vector<KeptGroup> otherTables;    // tables other than layers and block records, complete
   std::vector<KeptGroup> otherSections;  // sections that the host does not read, complete
   bool paperIsCurrent = false;
+  devhost::UserSystem modelSystem, paperSystem;
   int modified = 0;
   // Callbacks for undo recording, set by the document.
   std::function<void(AcDbObject*)> onErased, onAdded;
   std::function<void(AcDbObject*)> onChanging;  // before its data changes
   std::function<void(AcDbEntity*, const AcGeMatrix3d&)> onMoved;
 
+  devhost::UserSystem& CurrentSystem() { return paperIsCurrent ? paperSystem : modelSystem; }
   std::uint64_t NextHandle();
 };
 

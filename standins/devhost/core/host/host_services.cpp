@@ -66,9 +66,3 @@ int acedRedraw(const ads_name, int) {
 bool acedIsMenuGroupLoaded(const ACHAR* group) {
   return group && TheHost().menuGroups.IsLoaded(group);
 }
-
-int acedTrans(const ads_point point, const resbuf*, const resbuf*, int, ads_point result) {
-  if (!point || !result) return RTERROR;
-  for (int i = 0; i < 3; ++i) result[i] = point[i];
-  return RTNORM;
-}
