@@ -4,5 +4,6 @@
 #include <cstdint>
 
 namespace Adesk {
+typedef std::int16_t Int16;
 typedef std::int32_t Int32;
 }  // namespace Adesk

@@ -130,6 +130,7 @@ class AcDbEntity : public AcDbObject {
 
 class AcDbBlockTable;
 class AcDbLayerTable;
+class AcDbViewportTable;
 
 class AcDbDatabase {
  public:
@@ -147,6 +148,11 @@ class AcDbDatabase {
   }
   Acad::ErrorStatus getSymbolTable(AcDbLayerTable*& table, AcDb::OpenMode mode) {
     return getLayerTable(table, mode);
+  }
+  // Its records are those of the last acedVports2VportTableRecords.
+  Acad::ErrorStatus getViewportTable(AcDbViewportTable*& table, AcDb::OpenMode mode);
+  Acad::ErrorStatus getSymbolTable(AcDbViewportTable*& table, AcDb::OpenMode mode) {
+    return getViewportTable(table, mode);
   }
   AcDbObjectId blockTableId() const;
   AcDbObjectId layerTableId() const;

@@ -1,4 +1,4 @@
-// Symbol tables: layers and blocks. Names are compared without case.
+// Symbol tables: layers, blocks and viewports. Names are compared without case.
 #pragma once
 
 #include <map>
@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dbmain.h"
+#include "gepnt2d.h"
 
 class AcDbSymbolTableRecord : public AcDbObject {
  public:
@@ -61,6 +62,51 @@ class AcDbSymbolTable : public AcDbObject {
 class AcDbLayerTable : public AcDbSymbolTable {
  public:
   ACRX_DECLARE_MEMBERS(AcDbLayerTable);
+};
+
+// A tiled viewport of model space. All that are on the screen have the name "*Active". The corners are
+// parts of the drawing's window, from 0,0 at the lower left to 1,1.
+class AcDbViewportTableRecord : public AcDbSymbolTableRecord {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbViewportTableRecord);
+  AcGePoint2d lowerLeftCorner() const { return m_lowerLeft; }
+  void setLowerLeftCorner(const AcGePoint2d& corner) { m_lowerLeft = corner; }
+  AcGePoint2d upperRightCorner() const { return m_upperRight; }
+  void setUpperRightCorner(const AcGePoint2d& corner) { m_upperRight = corner; }
+  Adesk::Int16 number() const { return m_number; }  // the value that CVPORT has for it
+  Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
+  Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
+
+ private:
+  friend struct AcDbViewportTableAccess;
+  AcGePoint2d m_lowerLeft{0, 0}, m_upperRight{1, 1};
+  Adesk::Int16 m_number = 0;
+};
+
+// The record of the current viewport comes first.
+class AcDbViewportTableIterator {
+ public:
+  explicit AcDbViewportTableIterator(const std::vector<AcDbObjectId>& ids) : m_ids(ids) {}
+  bool done() const { return m_at >= m_ids.size(); }
+  void step() { ++m_at; }
+  Acad::ErrorStatus getRecordId(AcDbObjectId& id) const;
+  Acad::ErrorStatus getRecord(AcDbViewportTableRecord*& record, AcDb::OpenMode mode) const;
+
+ private:
+  std::vector<AcDbObjectId> m_ids;
+  std::size_t m_at = 0;
+};
+
+class AcDbViewportTable : public AcDbSymbolTable {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbViewportTable);
+  // The caller owns the iterator.
+  Acad::ErrorStatus newIterator(AcDbViewportTableIterator*& iterator) const;
+  Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id) const;  // the first of that name
+
+ private:
+  friend struct AcDbViewportTableAccess;
+  std::vector<AcDbObjectId> m_all, m_active;  // records that are not active are used again
 };
 
 class AcDbBlockTable : public AcDbSymbolTable {

@@ -16,8 +16,8 @@ struct Command;
 class Document;
 
 // The kind of input for which a command waits. The view shows a crosshair or a rubber
-// band for points.
-enum class InputRequest { Nothing, Point, Corner, Text, Keyword };
+// band for points, and turns its direction for View.
+enum class InputRequest { Nothing, Point, Corner, Text, Keyword, View };
 
 struct InputAnswer {
   enum class Kind { Cancelled, Enter, Text, Point } kind = Kind::Cancelled;

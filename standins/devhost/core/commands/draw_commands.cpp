@@ -1,5 +1,6 @@
 // Commands that add entities: LINE, CIRCLE, PLINE, TEXT.
 #include <algorithm>
+#include <cmath>
 #include <cwchar>
 #include <memory>
 
@@ -9,11 +10,14 @@
 #include "dbsymtb.h"
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/host/user_points.h"
 
 namespace devhost {
 namespace {
 
-AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
+AcGePoint3d Of(const ads_point p) { return WorldOfUser(p); }  // entities are in world coordinates
+
+double AngleOf(const AcGeVector3d& direction) { return std::atan2(direction.y, direction.x); }
 
 void Add(AcDbEntity* entity) {
   Document* document = TheHost().documents.Current();
@@ -76,7 +80,7 @@ void Text() {
   status = acedGetAngle(at, L"指定旋转角度 <0>: ", &angle);
   if (status != RTNORM && status != RTNONE) return;
   if (acedGetString(1, L"输入文字: ", text) == RTNORM && *text)
-    Add(new AcDbText(Of(at), text, height, angle));
+    Add(new AcDbText(Of(at), text, height, angle + AngleOf(CurrentUserSystem().x)));
 }
 
 constexpr NativeCommand kDraw[] = {

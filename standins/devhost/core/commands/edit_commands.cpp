@@ -5,6 +5,7 @@
 #include "dbsymtb.h"
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/host/user_points.h"
 #include "devhost/core/selection/selection.h"
 
 namespace devhost {
@@ -12,7 +13,7 @@ namespace {
 
 Document* CurrentDocument() { return TheHost().documents.Current(); }
 
-AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
+AcGePoint3d Of(const ads_point p) { return WorldOfUser(p); }
 
 // Calls `each` for every selected entity; prompts for a selection if there is none.
 template <class F>

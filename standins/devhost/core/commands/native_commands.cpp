@@ -6,7 +6,8 @@
 namespace devhost {
 
 void RegisterNativeCommands(CommandStack& stack) {
-  for (const auto& commands : {DrawCommands(), EditCommands(), ViewCommands(), FileCommands()})
+  for (const auto& commands : {DrawCommands(), EditCommands(), ViewCommands(), ViewportCommands(),
+                               UserSystemCommands(), FileCommands()})
     for (const NativeCommand& c : commands) stack.AddNative(c.name, c.flags, c.function);
 }
 

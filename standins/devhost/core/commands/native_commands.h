@@ -18,6 +18,8 @@ struct NativeCommand {
 std::span<const NativeCommand> DrawCommands();
 std::span<const NativeCommand> EditCommands();
 std::span<const NativeCommand> ViewCommands();
+std::span<const NativeCommand> ViewportCommands();
+std::span<const NativeCommand> UserSystemCommands();
 std::span<const NativeCommand> FileCommands();
 
 void RegisterNativeCommands(CommandStack& stack);

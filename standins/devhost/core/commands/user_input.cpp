@@ -8,6 +8,7 @@
 #include "adslib.h"
 #include "devhost/core/commands/typed_input.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/host/user_points.h"
 #include "devhost/core/view/scene.h"
 
 using namespace devhost;
@@ -69,11 +70,12 @@ int AskFor(InputRequest what, const ACHAR* prompt, bool blanks, const AcGePoint3
 
 int AskPoint(InputRequest what, const ads_point base, const ACHAR* prompt, ads_point result) {
   const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
-  return AskFor(what, prompt, false, base ? &from : nullptr, L"\n点无效。\n",
+  const AcGePoint3d rubber = base ? WorldOfUser(base) : AcGePoint3d();
+  return AskFor(what, prompt, false, base ? &rubber : nullptr, L"\n点无效。\n",
                 [&](const InputAnswer& answer, int) {
                   std::optional<AcGePoint3d> p;
                   if (answer.kind == InputAnswer::Kind::Point)
-                    p = answer.point;
+                    p = CurrentUserSystem().ToUser(answer.point);
                   else
                     p = ReadPoint(answer.text, base ? from : LastPoint());
                   if (!p) return false;
@@ -83,13 +85,15 @@ int AskPoint(InputRequest what, const ads_point base, const ACHAR* prompt, ads_p
                 });
 }
 
-int AskReal(const AcGePoint3d* base, const ACHAR* prompt, bool angle, ads_real* result) {
-  return AskFor(base ? InputRequest::Point : InputRequest::Text, prompt, false, base,
+int AskReal(const ads_point base, const ACHAR* prompt, bool angle, ads_real* result) {
+  const AcGePoint3d from = base ? WorldOfUser(base) : AcGePoint3d();
+  return AskFor(base ? InputRequest::Point : InputRequest::Text, prompt, false,
+                base ? &from : nullptr,
                 L"\n需要数值。\n", [&](const InputAnswer& answer, int flags) {
                   double value = 0;
                   if (answer.kind == InputAnswer::Kind::Point) {
                     if (!base) return false;
-                    const AcGeVector3d offset = answer.point - *base;
+                    const AcGeVector3d offset = CurrentUserSystem().ToUser(answer.point - from);
                     value = angle ? std::atan2(offset.y, offset.x) : offset.length();
                   } else {
                     const wchar_t* at = answer.text.c_str();
@@ -118,12 +122,10 @@ int acedGetCorner(const ads_point base, const ACHAR* prompt, ads_point result) {
 }
 
 int acedGetDist(const ads_point base, const ACHAR* prompt, ads_real* result) {
-  const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
-  return AskReal(base ? &from : nullptr, prompt, false, result);
+  return AskReal(base, prompt, false, result);
 }
 int acedGetAngle(const ads_point base, const ACHAR* prompt, ads_real* result) {
-  const AcGePoint3d from = base ? FromAds(base) : AcGePoint3d();
-  return AskReal(base ? &from : nullptr, prompt, true, result);
+  return AskReal(base, prompt, true, result);
 }
 int acedGetReal(const ACHAR* prompt, ads_real* result) {
   return AskReal(nullptr, prompt, false, result);
@@ -172,7 +174,7 @@ int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point) {
   if (status != RTNORM) return status;
   Document* document = TheHost().documents.Current();
   AcDbEntity* hit =
-      document ? EntityAt(*document->database(), FromAds(at), 6 / document->view.PixelsPerUnit())
+      document ? EntityAt(*document->database(), WorldOfUser(at), 6 / document->view.PixelsPerUnit())
                : nullptr;
   if (!hit) return RTERROR;
   if (point) ToAds(FromAds(at), point);

@@ -6,14 +6,13 @@
 #include "devhost/core/base/text_case.h"
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/host/user_points.h"
 #include "devhost/core/view/scene.h"
 
 namespace devhost {
 namespace {
 
 Document* CurrentDocument() { return TheHost().documents.Current(); }
-
-AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
 
 void Zoom() {
   Document* document = CurrentDocument();
@@ -34,7 +33,7 @@ void Zoom() {
       TheHost().Print(L"\n需要点或选项关键字。\n");
       return;
     }
-    document->view.ZoomAt({document->view.Width() / 2, document->view.Height() / 2}, factor);
+    document->view.ZoomAt(document->view.Middle(), factor);
   }
   TheHost().Ui().PictureChanged(*document);
 }
@@ -45,7 +44,7 @@ void Pan() {
   if (acedGetPoint(nullptr, L"指定基点: ", from) != RTNORM ||
       acedGetPoint(from, L"指定第二点: ", to) != RTNORM)
     return;
-  const POINT a = document->view.ToPixel(Of(from)), b = document->view.ToPixel(Of(to));
+  const POINT a = document->view.ToPixel(WorldOfUser(from)), b = document->view.ToPixel(WorldOfUser(to));
   document->view.PanBy(b.x - a.x, b.y - a.y);
   TheHost().Ui().PictureChanged(*document);
 }

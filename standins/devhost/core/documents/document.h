@@ -1,4 +1,4 @@
-// One open drawing: database, view, input queue, LISP functions and symbols,
+// One open drawing: database, viewports, input queue, LISP functions and symbols,
 // selections, undo steps.
 #pragma once
 
@@ -12,7 +12,7 @@
 #include "devhost/core/commands/input_queue.h"
 #include "devhost/core/lisp/lisp_value.h"
 #include "devhost/core/undo/undo.h"
-#include "devhost/core/view/view_transform.h"
+#include "devhost/core/view/viewport_set.h"
 
 namespace devhost {
 
@@ -41,7 +41,8 @@ class Document : public AcApDocument {
   void SetHasFile() { m_hasFile = true; }
 
   InputQueue input;
-  ViewTransform view;
+  ViewportSet viewports;
+  ViewTransform& view = viewports.Current();  // of the current viewport
   std::vector<std::wstring> commands;                  // running commands, the outermost first
   std::map<std::wstring, LispFunction> lispFunctions;  // by upper-case name
   std::map<std::wstring, LispValue> lispSymbols;       // by upper-case name

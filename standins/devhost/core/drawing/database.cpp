@@ -69,6 +69,12 @@ Acad::ErrorStatus AcDbDatabase::getLayerTable(AcDbLayerTable*& table, AcDb::Open
   return acdbOpenObject(table, m_body->layerTable, mode);
 }
 
+// Made late, so that the handles of a new drawing's first objects do not depend on it.
+Acad::ErrorStatus AcDbDatabase::getViewportTable(AcDbViewportTable*& table, AcDb::OpenMode mode) {
+  if (m_body->viewportTable.isNull()) addAcDbObject(m_body->viewportTable, new AcDbViewportTable);
+  return acdbOpenObject(table, m_body->viewportTable, mode);
+}
+
 Acad::ErrorStatus acdbSetDbmod(AcDbDatabase* database, int flags) {
   if (!database) return Acad::eInvalidInput;
   database->body().modified = flags;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "dbmain.h"
-#include "devhost/core/drawing/user_system.h"
+#include "devhost/core/base/user_system.h"
 
 // A group of a drawing file that the host does not interpret and writes back unchanged.
 struct KeptGroup {
@@ -21,6 +21,7 @@ struct AcDbDatabase::Body {
   std::unordered_map<std::uint64_t, AcDbObject*> byHandle;
   std::uint64_t nextHandle = 0x20;
   AcDbObjectId blockTable, layerTable;
+  AcDbObjectId viewportTable;  // null until it is asked for
   std::vector<KeptGroup> header;         // the header section: names (code 9) and their values
   std::vector<KeptGroup> classes;        // the CLASSES section
   std::vector<KeptGroup> otherTables;    // tables other than layers and block records, complete
@@ -35,6 +36,15 @@ struct AcDbDatabase::Body {
 
   devhost::UserSystem& CurrentSystem() { return paperIsCurrent ? paperSystem : modelSystem; }
   std::uint64_t NextHandle();
+};
+
+class AcDbViewportTableRecord;
+
+struct AcDbViewportTableAccess {
+  static void SetCount(AcDbViewportTable& table, std::size_t count);  // of active records
+  static std::size_t Count(const AcDbViewportTable& table);
+  static AcDbViewportTableRecord& At(const AcDbViewportTable& table, std::size_t i);
+  static void SetNumber(AcDbViewportTableRecord& record, int number);
 };
 
 struct AcDbObjectAccess {

@@ -12,6 +12,7 @@
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/dxf/dxf_objects.h"
 #include "devhost/core/dxf/dxf_text.h"
+#include "devhost/core/dxf/header_systems.h"
 
 namespace devhost {
 namespace {
@@ -181,6 +182,7 @@ void Reader::ReadHeader(std::size_t from, std::size_t to) {
   for (std::size_t i = from; i + 1 < to; ++i)
     if (m_groups[i].code == 9) ReadHeaderVariable(TrimBlanks(m_groups[i].value), m_groups[i + 1]);
   StoreGroups(from, to, m_body.header);
+  ReadHeaderSystems(m_body);
 }
 
 void Reader::ReadHeaderVariable(std::string_view name, const DxfGroup& value) {

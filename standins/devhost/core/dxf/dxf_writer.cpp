@@ -14,6 +14,7 @@
 #include "devhost/core/dxf/application_names.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/dxf/dxf_filer.h"
+#include "devhost/core/dxf/header_systems.h"
 #include "devhost/core/entities/dxf_name.h"
 
 namespace devhost {
@@ -109,8 +110,16 @@ void Writer::Header() {
       m_filer.WriteHandle(5, m_body.nextHandle + 0x10000);
     else if (SameName(name, L"$TILEMODE"))
       m_filer.writeInt(70, m_body.paperIsCurrent ? 0 : 1);
+    else if (const auto number = SystemNumber(m_body, name, group.code);
+             number && *number != std::wcstod(group.text.c_str(), nullptr))
+      m_filer.writeDouble(group.code, *number);
     else
       WriteGroup(group.code, group.text);
+  }
+  for (const std::wstring& variable : MissingSystemVariables(m_body)) {
+    WriteGroup(9, variable);
+    for (const short code : {10, 20, 30})
+      m_filer.writeDouble(code, *SystemNumber(m_body, variable, code));
   }
   WriteType(L"ENDSEC");
 }

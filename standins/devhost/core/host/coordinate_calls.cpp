@@ -20,12 +20,20 @@ void Store(double x, double y, double z, ads_point out) {
   out[2] = z;
 }
 
+// The axes of the current viewport's screen; all views have their target at the world's origin.
+UserSystem DisplaySystem() {
+  const Document* document =
+      TheHost().documents.FindDocument(TheHost().documents.curDocument());
+  return document ? UserSystem{{}, document->view.Right(), document->view.Up()} : UserSystem();
+}
+
 std::optional<UserSystem> SystemOf(const resbuf* code) {
   if (!code || code->restype != RTSHORT) return std::nullopt;
   switch (code->resval.rint) {
     case kWorld:
-    case kDisplay:  // all views look down the z axis at the world's origin
       return UserSystem();
+    case kDisplay:
+      return DisplaySystem();
     case kUser:
       return CurrentUserSystem();
   }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "adsdef.h"
-#include "devhost/core/drawing/user_system.h"
+#include "devhost/core/base/user_system.h"
 
 namespace devhost {
 

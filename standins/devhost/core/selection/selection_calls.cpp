@@ -5,6 +5,7 @@
 #include "dbsymtb.h"
 #include "devhost/core/base/text_case.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/host/user_points.h"
 #include "devhost/core/selection/selection.h"
 #include "devhost/core/selection/selection_filter.h"
 #include "devhost/core/view/scene.h"
@@ -39,6 +40,8 @@ AcDbEntity* EntityNear(Document& document, const AcGePoint3d& at) {
   return EntityAt(*document.database(), at, kPickReach / document.view.PixelsPerUnit());
 }
 
+AcGePoint3d PointOf(const double* p) { return WorldOfUser(p); }
+
 // Prompts for objects until Enter. A click picks one; "ALL", "Previous" and "Last" add those; a
 // click on empty space begins a box.
 int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObjectId>& set) {
@@ -58,7 +61,7 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
       for (AcDbObjectId id : source)
         if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
       AddAll(set, found, filter);
-    } else if (AcDbEntity* hit = EntityNear(document, {at[0], at[1], 0})) {
+    } else if (AcDbEntity* hit = EntityNear(document, PointOf(at))) {
       AddAll(set, {hit}, filter);
     } else {
       ads_point other{};
@@ -66,8 +69,8 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
       if (second == RTCAN) return RTCAN;
       if (second == RTNORM)
         AddAll(set,
-               EntitiesIn(*document.database(), {at[0], at[1], 0}, {other[0], other[1], 0},
-                          other[0] < at[0]),
+               EntitiesIn(*document.database(), PointOf(at), PointOf(other),
+                          PointOf(other).x < PointOf(at).x),
                filter);
     }
     TheHost().Print(L"找到 " + std::to_wstring(set.size()) + L" 个\n");
@@ -96,12 +99,12 @@ int acedSSGet(const ACHAR* mode, const void* first, const void* second, const re
   const double* b = static_cast<const double*>(second);
   std::vector<AcDbObjectId> ids;
   if (how.empty() && a) {
-    if (AcDbEntity* hit = EntityNear(*document, {a[0], a[1], 0})) AddAll(ids, {hit}, filter);
+    if (AcDbEntity* hit = EntityNear(*document, PointOf(a))) AddAll(ids, {hit}, filter);
   } else if (how.empty() && document->pickFirst.empty()) {
     const int status = AskForObjects(*document, filter, ids);
     if (status != RTNORM) return status;
   } else if ((how == L"C" || how == L"W") && a && b) {
-    AddAll(ids, EntitiesIn(*document->database(), {a[0], a[1], 0}, {b[0], b[1], 0}, how == L"C"),
+    AddAll(ids, EntitiesIn(*document->database(), PointOf(a), PointOf(b), how == L"C"),
            filter);
   } else if (const auto source = SourceOf(*document, how)) {
     for (AcDbObjectId id : *source) {

@@ -39,6 +39,11 @@ void Revert(Document& document, const UndoChange& change) {
     case UndoChange::Kind::Variable:
       RestoreVariable(document, change.name, change.value);
       break;
+    case UndoChange::Kind::System: {
+      AcDbDatabase::Body& body = document.database()->body();
+      (change.ofPaper ? body.paperSystem : body.modelSystem) = change.system;
+      break;
+    }
   }
 }
 
@@ -79,6 +84,15 @@ void RecordVariableForUndo(Document& document, const std::wstring& name) {
   UndoChange change{UndoChange::Kind::Variable, nullptr, {}, {}, name, {}};
   if (at != document.variables.end()) change.value = at->second;
   Record(document, std::move(change));
+}
+
+void ChangeUserSystem(Document& document, const UserSystem& system) {
+  AcDbDatabase::Body& body = document.database()->body();
+  UndoChange change{UndoChange::Kind::System, nullptr, {}, {}, {}, {}};
+  change.system = std::exchange(body.CurrentSystem(), system);
+  change.ofPaper = body.paperIsCurrent;
+  Record(document, std::move(change));
+  body.modified |= 1;
 }
 
 std::wstring UndoLatestStep(Document& document) {

@@ -1,6 +1,6 @@
 // Undo steps: the changes of a drawing during a command, a LISP call or a document lock, and
 // reverting them. Recorded are objects added and erased, moves, data of objects that were opened
-// for writing, and variables of the drawing; not selections and views. There is no redo.
+// for writing, variables of the drawing and its user coordinate systems; not selections and views. There is no redo.
 #pragma once
 
 #include <memory>
@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "devhost/core/base/user_system.h"
 #include "devhost/core/undo/object_state.h"
 #include "gepnt3d.h"
 
@@ -19,12 +20,14 @@ namespace devhost {
 class Document;
 
 struct UndoChange {
-  enum class Kind { Added, Erased, Moved, Data, Variable } kind;
+  enum class Kind { Added, Erased, Moved, Data, Variable, System } kind;
   AcDbObject* object = nullptr;
   AcGeMatrix3d back;                         // Moved
   std::unique_ptr<const ObjectState> state;  // Data: before the first change of the step
   std::wstring name;                         // Variable
   std::optional<std::wstring> value;         // Variable: the old value; none: the initial value
+  UserSystem system = {};                    // System: the old one
+  bool ofPaper = false;                      // System: that of the sheet
 };
 
 struct UndoStep {
@@ -54,6 +57,8 @@ class UndoRecording {
 void ConnectUndo(Document& document);
 // Call before a variable of the drawing changes.
 void RecordVariableForUndo(Document& document, const std::wstring& name);
+// Sets the user coordinate system of the current space.
+void ChangeUserSystem(Document& document, const UserSystem& system);
 // Reverts and removes the latest step, without recording. Returns its command's name; empty: there
 // was no step.
 std::wstring UndoLatestStep(Document& document);

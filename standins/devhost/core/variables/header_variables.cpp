@@ -28,7 +28,7 @@ void LoadHeaderVariables(Document& document) {
                                            : RealText(number);
     }
     document.variables[info->name] = value;
-    UpdateCurrentSpace(document, info->name, value);
+    UpdateCurrentSpace(document, info->name);
   }
 }
 

@@ -57,12 +57,20 @@ int acedSetVar(const ACHAR* name, const resbuf* value) {
     case RTREAL:
       text = RealText(value->resval.rreal);
       break;
+    case RTPOINT:
+    case RT3DPOINT: {
+      const double* p = value->resval.rpoint;
+      text = VectorText({p[0], p[1], value->restype == RT3DPOINT ? p[2] : 0});
+      break;
+    }
     case RTSTR:
       text = value->resval.rstring ? value->resval.rstring : L"";
       break;
     default:
       return RTERROR;
   }
+  const bool isPoint = value->restype == RTPOINT || value->restype == RT3DPOINT;
+  if ((info->type == VarType::Point) != isPoint) return RTERROR;
   if ((info->type == VarType::Text) != (value->restype == RTSTR)) return RTERROR;
   switch (TheHost().variables.Set(name, text)) {
     case VarResult::Ok:

@@ -15,6 +15,11 @@ std::wstring PointText(const AcGePoint3d& p) {
   return buffer;
 }
 
+// In full, as axes have to stay perpendicular.
+std::wstring VectorText(const AcGeVector3d& v) {
+  return RealText(v.x) + L"," + RealText(v.y) + L"," + RealText(v.z);
+}
+
 std::wstring RealText(double value) {
   wchar_t buffer[40];
   std::swprintf(buffer, 40, L"%.17g", value);
@@ -42,10 +47,18 @@ bool ComputedValue(const std::wstring& name, const Document* document, std::wstr
   else if (name == L"SCREENSIZE")
     *value = PointText({1.0 * document->view.Width(), 1.0 * document->view.Height(), 0});
   else if (name == L"VIEWCTR")
-    *value = PointText(
-        document->view.ToWorld({document->view.Width() / 2, document->view.Height() / 2}));
+    *value = PointText(document->database()->body().CurrentSystem().ToUser(
+        document->view.ToWorld(document->view.Middle())));
   else if (name == L"VIEWSIZE")
     *value = RealText(document->view.Height() / document->view.PixelsPerUnit());
+  else if (name == L"UCSORG")
+    *value = PointText(document->database()->ucsorg());
+  else if (name == L"UCSXDIR")
+    *value = VectorText(document->database()->ucsxdir());
+  else if (name == L"UCSYDIR")
+    *value = VectorText(document->database()->ucsydir());
+  else if (name == L"WORLDUCS")
+    *value = document->database()->body().CurrentSystem().IsWorld() ? L"1" : L"0";
   else if (name == L"DWGPREFIX") {
     const std::wstring path = document->fileName();
     *value = path.substr(0, path.size() - document->Title().size());

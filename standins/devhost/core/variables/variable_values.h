@@ -9,6 +9,7 @@
 namespace devhost {
 
 std::wstring PointText(const AcGePoint3d& p);
+std::wstring VectorText(const AcGeVector3d& v);
 std::wstring RealText(double value);
 
 // Sets the value of a variable that is computed from the state of the host; false

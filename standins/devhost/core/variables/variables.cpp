@@ -34,6 +34,7 @@ constexpr VariableInfo kVariables[] = {
     {L"EXTMIN", VarType::Point, true, true, 1, 0, L""},
     {L"FILEDIA", VarType::Short, false, false, 0, 1, L"1"},
     {L"GRIDMODE", VarType::Short, true, false, 0, 1, L"0"},
+    {L"GRIDUNIT", VarType::Point, true, false, 1e-9, 1e9, L"10,10,0"},
     {L"GRIPS", VarType::Short, false, false, 0, 2, L"2"},
     {L"HIGHLIGHT", VarType::Short, false, false, 0, 1, L"1"},
     {L"HPSCALE", VarType::Real, false, false, 0, 1e12, L"1"},
@@ -52,12 +53,16 @@ constexpr VariableInfo kVariables[] = {
     {L"SNAPMODE", VarType::Short, true, false, 0, 1, L"0"},
     {L"TEXTSIZE", VarType::Real, true, false, 1e-9, 1e9, L"2.5"},
     {L"TILEMODE", VarType::Short, true, false, 0, 1, L"1"},
+    {L"UCSORG", VarType::Point, true, true, 1, 0, L"0,0,0"},
+    {L"UCSXDIR", VarType::Point, true, true, 1, 0, L"1,0,0"},
+    {L"UCSYDIR", VarType::Point, true, true, 1, 0, L"0,1,0"},
     {L"UNDOCTL", VarType::Short, true, true, 1, 0, L"21"},
     {L"USERI1", VarType::Short, true, false, -32768, 32767, L"0"},
     {L"USERR1", VarType::Real, true, false, 1, 0, L"0"},
     {L"USERS1", VarType::Text, true, false, 1, 0, L""},
     {L"VIEWCTR", VarType::Point, true, true, 1, 0, L""},
     {L"VIEWSIZE", VarType::Real, true, true, 1, 0, L""},
+    {L"WORLDUCS", VarType::Short, true, true, 1, 0, L"1"},
 };
 
 // Undo reverts in reverse order, so variables that TILEMODE sets are recorded before it.
@@ -65,6 +70,28 @@ void RecordForUndo(Document& document, const std::wstring& name) {
   if (name == L"TILEMODE")
     for (const wchar_t* follower : {L"CVPORT", L"CTAB"}) RecordVariableForUndo(document, follower);
   RecordVariableForUndo(document, name);
+}
+
+// Points that can be set are steps along the axes: "x,y", or one number for both.
+bool ReadSteps(const std::wstring& value, const VariableInfo& info, std::wstring* stored) {
+  wchar_t* end = nullptr;
+  AcGePoint3d steps;
+  steps.x = steps.y = std::wcstod(value.c_str(), &end);
+  if (end == value.c_str()) return false;
+  if (*end == L',') {
+    const wchar_t* at = end + 1;
+    steps.y = std::wcstod(at, &end);
+    if (end == at) return false;
+  }
+  if (*end == L',') {  // the third number has no meaning
+    const wchar_t* at = end + 1;
+    std::wcstod(at, &end);
+    if (end == at) return false;
+  }
+  for (const double step : {steps.x, steps.y})
+    if (!(step >= info.low && step <= info.high)) return false;
+  *stored = PointText(steps);
+  return *end == 0;
 }
 
 Document* VariableDocument() {
@@ -111,9 +138,11 @@ VarResult VariableTable::Set(const std::wstring& name, const std::wstring& value
       stored = std::to_wstring(static_cast<int>(number));
     }
   }
+  if (info->type == VarType::Point && !ReadSteps(value, *info, &stored)) return VarResult::OutOfRange;
+  if (!IsViewportAccepted(document, info->name, stored)) return VarResult::OutOfRange;
   if (info->ofDrawing) RecordForUndo(*document, info->name);
   (info->ofDrawing ? document->variables : m_global)[info->name] = stored;
-  if (info->ofDrawing) UpdateCurrentSpace(*document, info->name, stored);
+  if (info->ofDrawing) UpdateCurrentSpace(*document, info->name);
   TheJournal().Record("var", {{"name", Utf8(info->name)}, {"value", Utf8(stored)}});
   TheHost().Ui().VariableChanged(info->name);
   return VarResult::Ok;
@@ -127,7 +156,7 @@ void RestoreVariable(Document& document, const std::wstring& name,
   else
     document.variables.erase(name);
   const std::wstring now = value ? *value : info->initial;
-  UpdateCurrentSpace(document, name, now);
+  UpdateCurrentSpace(document, name);
   TheJournal().Record("var", {{"name", Utf8(name)}, {"value", Utf8(now)}});
   TheHost().Ui().VariableChanged(name);
 }

@@ -1,4 +1,5 @@
-// The transform between world and pixels: a centre and a scale, world y up, pixel y down.
+// The transform between world and the pixels of one viewport, in client pixels of the view window: a
+// direction of view, a centre and a scale. Display y is up, pixel y is down.
 #pragma once
 
 #include "gepnt3d.h"
@@ -8,22 +9,43 @@ namespace devhost {
 
 class ViewTransform {
  public:
-  void Resize(int width, int height);  // keeps centre and scale; sizes below 1 become 1
+  void Place(const RECT& pixels);      // keeps centre and scale; sizes below 1 become 1
+  void Resize(int width, int height);  // places it at 0,0
   int Width() const { return m_width; }
   int Height() const { return m_height; }
+  RECT Pixels() const { return {m_left, m_top, m_left + m_width, m_top + m_height}; }
+  POINT Middle() const { return {m_left + m_width / 2, m_top + m_height / 2}; }
 
   POINT ToPixel(const AcGePoint3d& world) const;  // clamped to 28 bits
-  AcGePoint3d ToWorld(POINT pixel) const;         // z is 0
+  AcGePoint3d ToWorld(POINT pixel) const;         // on the plane z = 0
   double PixelsPerUnit() const { return m_scale; }
 
   void ZoomAt(POINT pixel, double factor);  // keeps the world point under the pixel
   void ZoomTo(const AcDbExtents& extents);  // with a margin of a twentieth; ignores invalid extents
   void PanBy(int dx, int dy);               // pixels
 
+  // Turns the direction of view about the world point in the middle, by a drag of these pixels. The
+  // plane z = 0 is never seen from its edge or from below.
+  void OrbitBy(int dx, int dy);
+  void LookDown();  // the plan view, with the same point in the middle
+  bool IsPlan() const { return m_plan; }
+  // World vectors that point right and up on the screen.
+  const AcGeVector3d& Right() const { return m_right; }
+  const AcGeVector3d& Up() const { return m_up; }
+
  private:
-  AcGePoint3d m_center{210, 148.5, 0};
+  struct Flat {
+    double x, y;  // along Right() and Up(), from the world's origin
+  };
+  Flat ToDisplay(const AcGePoint3d& world) const;
+  void SetDirection(double turn, double tilt);
+
+  Flat m_center{210, 148.5};
   double m_scale = 1.5;
-  int m_width = 800, m_height = 600;
+  int m_left = 0, m_top = 0, m_width = 800, m_height = 600;
+  double m_turn = 0, m_tilt = 0;  // radians: about z, and from the plan view to the side
+  bool m_plan = true;
+  AcGeVector3d m_right = AcGeVector3d::kXAxis, m_up = AcGeVector3d::kYAxis;
 };
 
 }  // namespace devhost

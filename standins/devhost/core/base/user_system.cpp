@@ -1,5 +1,5 @@
 // User coordinate systems; see the header.
-#include "devhost/core/drawing/user_system.h"
+#include "devhost/core/base/user_system.h"
 
 #include <cmath>
 
