@@ -6,7 +6,7 @@
 void acedPostCommandPrompt();  // the prompt again, after printing outside a command
 bool acedIsMenuGroupLoaded(const ACHAR* group);
 
-// The tiled viewports of the current drawing to the records "*Active" of its viewport table, and back
-// to the screen: eInvalidInput unless the records fill the window without overlap.
+// The tiled viewports of the current drawing to the records "*Active" of its viewport table, and
+// back to the screen: eInvalidInput unless the records fill the window without overlap.
 Acad::ErrorStatus acedVports2VportTableRecords();
 Acad::ErrorStatus acedVportTableRecords2Vports();

@@ -64,8 +64,8 @@ class AcDbLayerTable : public AcDbSymbolTable {
   ACRX_DECLARE_MEMBERS(AcDbLayerTable);
 };
 
-// A tiled viewport of model space. All that are on the screen have the name "*Active". The corners are
-// parts of the drawing's window, from 0,0 at the lower left to 1,1.
+// A tiled viewport of model space. All that are on the screen have the name "*Active". The corners
+// are parts of the drawing's window, from 0,0 at the lower left to 1,1.
 class AcDbViewportTableRecord : public AcDbSymbolTableRecord {
  public:
   ACRX_DECLARE_MEMBERS(AcDbViewportTableRecord);

@@ -88,8 +88,8 @@ int AskPoint(InputRequest what, const ads_point base, const ACHAR* prompt, ads_p
 int AskReal(const ads_point base, const ACHAR* prompt, bool angle, ads_real* result) {
   const AcGePoint3d from = base ? WorldOfUser(base) : AcGePoint3d();
   return AskFor(base ? InputRequest::Point : InputRequest::Text, prompt, false,
-                base ? &from : nullptr,
-                L"\n需要数值。\n", [&](const InputAnswer& answer, int flags) {
+                base ? &from : nullptr, L"\n需要数值。\n",
+                [&](const InputAnswer& answer, int flags) {
                   double value = 0;
                   if (answer.kind == InputAnswer::Kind::Point) {
                     if (!base) return false;
@@ -173,9 +173,9 @@ int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point) {
   const int status = acedGetPoint(nullptr, prompt ? prompt : L"\n选择对象: ", at);
   if (status != RTNORM) return status;
   Document* document = TheHost().documents.Current();
-  AcDbEntity* hit =
-      document ? EntityAt(*document->database(), WorldOfUser(at), 6 / document->view.PixelsPerUnit())
-               : nullptr;
+  AcDbEntity* hit = document ? EntityAt(*document->database(), WorldOfUser(at),
+                                        6 / document->view.PixelsPerUnit())
+                             : nullptr;
   if (!hit) return RTERROR;
   if (point) ToAds(FromAds(at), point);
   return acdbGetAdsName(entity, hit->objectId()) == Acad::eOk ? RTNORM : RTERROR;

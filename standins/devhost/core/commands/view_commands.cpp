@@ -44,7 +44,8 @@ void Pan() {
   if (acedGetPoint(nullptr, L"指定基点: ", from) != RTNORM ||
       acedGetPoint(from, L"指定第二点: ", to) != RTNORM)
     return;
-  const POINT a = document->view.ToPixel(WorldOfUser(from)), b = document->view.ToPixel(WorldOfUser(to));
+  const POINT a = document->view.ToPixel(WorldOfUser(from)),
+              b = document->view.ToPixel(WorldOfUser(to));
   document->view.PanBy(b.x - a.x, b.y - a.y);
   TheHost().Ui().PictureChanged(*document);
 }

@@ -54,8 +54,7 @@ void Vports() {
     TheHost().Print(L"** 命令只能在“模型”选项卡中使用 **\n");
     return;
   }
-  const std::wstring word =
-      AskKeyword(L"SIngle 2 3 4", L"输入选项 [单一(SI)/2/3/4] <3>: ", L"3");
+  const std::wstring word = AskKeyword(L"SIngle 2 3 4", L"输入选项 [单一(SI)/2/3/4] <3>: ", L"3");
   if (word.empty()) return;
   std::optional<Tiling> tiling = Tiling::Four;
   if (word == L"2") tiling = AskTilingOfTwo();

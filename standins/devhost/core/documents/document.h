@@ -42,7 +42,7 @@ class Document : public AcApDocument {
 
   InputQueue input;
   ViewportSet viewports;
-  ViewTransform& view = viewports.Current();  // of the current viewport
+  ViewTransform& view = viewports.Current();           // of the current viewport
   std::vector<std::wstring> commands;                  // running commands, the outermost first
   std::map<std::wstring, LispFunction> lispFunctions;  // by upper-case name
   std::map<std::wstring, LispValue> lispSymbols;       // by upper-case name

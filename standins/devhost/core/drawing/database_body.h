@@ -21,7 +21,7 @@ struct AcDbDatabase::Body {
   std::unordered_map<std::uint64_t, AcDbObject*> byHandle;
   std::uint64_t nextHandle = 0x20;
   AcDbObjectId blockTable, layerTable;
-  AcDbObjectId viewportTable;  // null until it is asked for
+  AcDbObjectId viewportTable;            // null until it is asked for
   std::vector<KeptGroup> header;         // the header section: names (code 9) and their values
   std::vector<KeptGroup> classes;        // the CLASSES section
   std::vector<KeptGroup> otherTables;    // tables other than layers and block records, complete

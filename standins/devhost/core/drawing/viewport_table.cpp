@@ -33,7 +33,8 @@ Acad::ErrorStatus AcDbViewportTable::newIterator(AcDbViewportTableIterator*& ite
 
 Acad::ErrorStatus AcDbViewportTable::getAt(const ACHAR* name, AcDbObjectId& id) const {
   for (AcDbObjectId record : m_active)
-    if (name && devhost::SameName(AcDbViewportTableRecord::cast(record.object())->getName(), name)) {
+    if (name &&
+        devhost::SameName(AcDbViewportTableRecord::cast(record.object())->getName(), name)) {
       id = record;
       return Acad::eOk;
     }

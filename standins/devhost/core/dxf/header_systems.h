@@ -1,5 +1,5 @@
-// The user coordinate systems of a drawing in the header section: $UCSORG, $UCSXDIR, $UCSYDIR, and the
-// same of the sheet with the prefix $P.
+// The user coordinate systems of a drawing in the header section: $UCSORG, $UCSXDIR, $UCSYDIR, and
+// the same of the sheet with the prefix $P.
 #pragma once
 
 #include <optional>

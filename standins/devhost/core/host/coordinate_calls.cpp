@@ -22,8 +22,7 @@ void Store(double x, double y, double z, ads_point out) {
 
 // The axes of the current viewport's screen; all views have their target at the world's origin.
 UserSystem DisplaySystem() {
-  const Document* document =
-      TheHost().documents.FindDocument(TheHost().documents.curDocument());
+  const Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
   return document ? UserSystem{{}, document->view.Right(), document->view.Up()} : UserSystem();
 }
 

@@ -1,6 +1,7 @@
 // Undo steps: the changes of a drawing during a command, a LISP call or a document lock, and
 // reverting them. Recorded are objects added and erased, moves, data of objects that were opened
-// for writing, variables of the drawing and its user coordinate systems; not selections and views. There is no redo.
+// for writing, variables of the drawing and its user coordinate systems; not selections and views.
+// There is no redo.
 #pragma once
 
 #include <memory>

@@ -31,8 +31,7 @@ void OnSpaceChanged(Document& document, bool viewIsValid) {
 }  // namespace
 
 bool IsViewportAccepted(Document* document, const std::wstring& name, const std::wstring& value) {
-  return name != L"CVPORT" || IsOnSheet(*document) ||
-         document->viewports.HasTile(NumberOf(value));
+  return name != L"CVPORT" || IsOnSheet(*document) || document->viewports.HasTile(NumberOf(value));
 }
 
 void UpdateCurrentSpace(Document& document, const std::wstring& name) {

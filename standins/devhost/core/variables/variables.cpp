@@ -138,7 +138,8 @@ VarResult VariableTable::Set(const std::wstring& name, const std::wstring& value
       stored = std::to_wstring(static_cast<int>(number));
     }
   }
-  if (info->type == VarType::Point && !ReadSteps(value, *info, &stored)) return VarResult::OutOfRange;
+  if (info->type == VarType::Point && !ReadSteps(value, *info, &stored))
+    return VarResult::OutOfRange;
   if (!IsViewportAccepted(document, info->name, stored)) return VarResult::OutOfRange;
   if (info->ofDrawing) RecordForUndo(*document, info->name);
   (info->ofDrawing ? document->variables : m_global)[info->name] = stored;

@@ -10,8 +10,8 @@ namespace devhost {
 
 constexpr int kDensestGrid = 8;  // pixels between dots; a denser grid is not shown
 
-// Pixels of the crossings in steps of `dx` and `dy` along the axes of `system`; empty for steps that
-// are not positive and for a grid that is too dense.
+// Pixels of the crossings in steps of `dx` and `dy` along the axes of `system`; empty for steps
+// that are not positive and for a grid that is too dense.
 std::vector<POINT> GridDots(const ViewTransform& view, const UserSystem& system, double dx,
                             double dy);
 

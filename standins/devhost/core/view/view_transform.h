@@ -1,5 +1,5 @@
-// The transform between world and the pixels of one viewport, in client pixels of the view window: a
-// direction of view, a centre and a scale. Display y is up, pixel y is down.
+// The transform between world and the pixels of one viewport, in client pixels of the view window:
+// a direction of view, a centre and a scale. Display y is up, pixel y is down.
 #pragma once
 
 #include "gepnt3d.h"

@@ -52,13 +52,11 @@ std::vector<UnitRect> Divide(const UnitRect& w, Tiling tiling) {
     case Tiling::TwoVertical:
       return {left, right};
     case Tiling::ThreeHorizontal:
-      return {{w.left, y2, w.right, w.top},
-              {w.left, y1, w.right, y2},
-              {w.left, w.bottom, w.right, y1}};
+      return {
+          {w.left, y2, w.right, w.top}, {w.left, y1, w.right, y2}, {w.left, w.bottom, w.right, y1}};
     case Tiling::ThreeVertical:
-      return {{w.left, w.bottom, x1, w.top},
-              {x1, w.bottom, x2, w.top},
-              {x2, w.bottom, w.right, w.top}};
+      return {
+          {w.left, w.bottom, x1, w.top}, {x1, w.bottom, x2, w.top}, {x2, w.bottom, w.right, w.top}};
     case Tiling::ThreeAbove:
       return {above, belowLeft, belowRight};
     case Tiling::ThreeBelow:

@@ -1,6 +1,6 @@
-// The viewports of one drawing: tiles of model space, which fill the view window without overlap, or
-// one view of the whole window on a sheet. Exactly one viewport is current; its view is Current(),
-// at a fixed address. Tiles keep their views while a sheet is shown.
+// The viewports of one drawing: tiles of model space, which fill the view window without overlap,
+// or one view of the whole window on a sheet. Exactly one viewport is current; its view is
+// Current(), at a fixed address. Tiles keep their views while a sheet is shown.
 #pragma once
 
 #include <vector>
@@ -9,8 +9,8 @@
 
 namespace devhost {
 
-constexpr int kSheetViewport = 1;      // the sheet itself
-constexpr int kFirstTile = 2;          // tiles are numbered from here
+constexpr int kSheetViewport = 1;  // the sheet itself
+constexpr int kFirstTile = 2;      // tiles are numbered from here
 constexpr std::size_t kMostTiles = 64;
 
 struct UnitRect {

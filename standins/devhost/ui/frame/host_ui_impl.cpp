@@ -129,7 +129,13 @@ void HostUiImpl::PromptChanged(const std::wstring& prompt) {
 
 void HostUiImpl::VariableChanged(const std::wstring& name) {
   Document* current = TheHost().documents.Current();
-  if (current && (name == L"TILEMODE" || name == L"CVPORT")) PictureChanged(*current);
+  DrawingChild* child = current ? ChildOf(*current) : nullptr;
+  if (!child) return;
+  const bool tileChanged = name == L"CVPORT" && !current->viewports.IsOnSheet();
+  if (tileChanged || name == L"GRIDMODE" || name == L"GRIDUNIT")
+    child->View().PictureChanged();  // the same entities
+  else if (name == L"TILEMODE" || name == L"CVPORT")
+    PictureChanged(*current);
 }
 
 void HostUiImpl::Alert(const std::wstring& text) { AfxMessageBox(text.c_str()); }

@@ -14,8 +14,6 @@ using devhost::TheHostUi;
 
 namespace {
 
-constexpr int kViewport = 2;  // number of the model space viewport
-
 devhost::DrawingView* View() {
   DrawingChild* child = TheHostUi().ActiveChild();
   return child ? &child->View() : nullptr;
@@ -46,43 +44,36 @@ namespace {
 
 devhost::Document* Current() { return devhost::TheHost().documents.Current(); }
 
-// The value of CVPORT: 1 in paper space, otherwise the model space viewport.
-int CurrentViewport() {
-  std::wstring tile, port;
-  devhost::TheHost().variables.Get(L"TILEMODE", &tile);
-  if (tile == L"0" && devhost::TheHost().variables.Get(L"CVPORT", &port) == devhost::VarResult::Ok)
-    return std::stoi(port);
-  return kViewport;
+// The view of a viewport on the screen; null: not there.
+devhost::ViewTransform* ViewOf(int viewport) {
+  return Current() && View() ? Current()->viewports.ViewOf(viewport) : nullptr;
 }
 
-bool Shows(int viewport) { return Current() && View() && viewport == CurrentViewport(); }
+void Store(const AcGePoint3d& p, ads_point out) {
+  out[0] = p.x;
+  out[1] = p.y;
+  out[2] = p.z;
+}
 
 }  // namespace
 
-int acedGetWinNum(int x, int y) {
-  if (!View()) return 0;
-  RECT client{};
-  ::GetClientRect(View()->m_hWnd, &client);
-  return ::PtInRect(&client, POINT{x, y}) ? CurrentViewport() : 0;
-}
+int acedGetWinNum(int x, int y) { return View() ? Current()->viewports.At({x, y}) : 0; }
 
 void acedCoordFromPixelToWorld(const CPoint& pixel, ads_point world) {
-  if (!Current()) return;
-  const AcGePoint3d at = Current()->view.ToWorld({pixel.x, pixel.y});
-  world[0] = at.x;
-  world[1] = at.y;
-  world[2] = at.z;
+  if (Current()) Store(Current()->view.ToWorld({pixel.x, pixel.y}), world);
 }
 
 int acedCoordFromPixelToWorld(int viewport, const CPoint& pixel, ads_point world) {
-  if (!Shows(viewport)) return 0;
-  acedCoordFromPixelToWorld(pixel, world);
+  const devhost::ViewTransform* view = ViewOf(viewport);
+  if (!view) return 0;
+  Store(view->ToWorld({pixel.x, pixel.y}), world);
   return 1;
 }
 
 int acedCoordFromWorldToPixel(int viewport, const ads_point world, CPoint& pixel) {
-  if (!Shows(viewport)) return 0;
-  const POINT at = Current()->view.ToPixel({world[0], world[1], world[2]});
+  const devhost::ViewTransform* view = ViewOf(viewport);
+  if (!view) return 0;
+  const POINT at = view->ToPixel({world[0], world[1], world[2]});
   pixel = CPoint(at.x, at.y);
   return 1;
 }

@@ -37,14 +37,22 @@ void DrawingView::SelectionChanged() {
   if (m_hWnd) ::InvalidateRect(m_hWnd, nullptr, FALSE);
 }
 
-void DrawingView::ZoomAt(POINT pixel, double factor) {
-  m_model.ZoomAt(pixel, factor);
+// An open selection box keeps its first corner at the same place of the drawing.
+template <class F>
+void DrawingView::ChangeView(F change) {
+  std::optional<AcGePoint3d> corner;
+  if (m_boxFrom) corner = m_model.WorldAt(*m_boxFrom);
+  change();
+  if (corner) m_boxFrom = m_model.PixelOf(corner->x, corner->y);
   PictureChanged();
 }
 
+void DrawingView::ZoomAt(POINT pixel, double factor) {
+  ChangeView([&] { m_model.ZoomAt(pixel, factor); });
+}
+
 void DrawingView::ZoomExtents() {
-  m_model.ZoomExtents();
-  PictureChanged();
+  ChangeView([this] { m_model.ZoomExtents(); });
 }
 
 // At the first size the whole drawing is shown; later sizes keep the scale.
@@ -72,6 +80,7 @@ void DrawingView::MoveCursor(std::optional<POINT> at) {
 
 void DrawingView::BeginPan(POINT at) {
   m_panFrom = at;
+  m_panViewport = m_model.ViewportAt(at);
   ::SetCapture(m_hWnd);
   ::SetCursor(::LoadCursorW(nullptr, IDC_SIZEALL));
 }
@@ -84,8 +93,12 @@ void DrawingView::EndPan() {
 
 void DrawingView::OnMove(WPARAM keys, POINT at) {
   if (m_panFrom) {
-    m_model.PanBy(at.x - m_panFrom->x, at.y - m_panFrom->y);
+    ChangeView([&] { m_model.PanBy(m_panViewport, at.x - m_panFrom->x, at.y - m_panFrom->y); });
     m_panFrom = at;
+  }
+  if (m_orbitFrom) {
+    m_model.OrbitBy(at.x - m_orbitFrom->x, at.y - m_orbitFrom->y);
+    m_orbitFrom = at;
     PictureChanged();
   }
   if (m_press && !m_boxFrom && (keys & MK_LBUTTON) && IsDrag(*m_press, at) &&
@@ -97,10 +110,33 @@ void DrawingView::OnMove(WPARAM keys, POINT at) {
   if (MainFrame* frame = TheFrame()) frame->Status().ShowCoordinates(m_model.CoordinatesAt(at));
 }
 
+// A press in another viewport makes that one current, and does nothing else.
+bool DrawingView::OnPressElsewhere(POINT at) {
+  if (!m_model.MakeCurrentAt(at)) return false;
+  m_boxFrom.reset();
+  m_press.reset();
+  MoveCursor(at);
+  return true;
+}
+
+bool DrawingView::BeginOrbit(POINT at) {
+  if (!m_model.WaitsForView()) return false;
+  m_orbitFrom = at;
+  ::SetCapture(m_hWnd);
+  return true;
+}
+
+void DrawingView::EndOrbit() {
+  if (!m_orbitFrom) return;
+  m_orbitFrom.reset();
+  if (::GetCapture() == m_hWnd) ::ReleaseCapture();
+}
+
 // A click enters a point if a command requests one. Otherwise it picks an entity; on empty space it
 // begins a selection box, which a second click or the end of a drag closes.
 void DrawingView::OnPress(WPARAM keys, POINT at) {
   ::SetFocus(m_hWnd);
+  if (OnPressElsewhere(at) || BeginOrbit(at)) return;
   if (m_model.CommandIsActive()) m_boxFrom.reset();  // a command was started meanwhile
   if (m_model.WaitsForPoint()) {
     m_model.EnterPoint(at);
@@ -122,6 +158,7 @@ void DrawingView::OnPress(WPARAM keys, POINT at) {
 }
 
 void DrawingView::OnRelease(WPARAM keys, POINT at) {
+  EndOrbit();
   const bool dragged = m_press && IsDrag(*m_press, at);
   if (dragged && m_boxFrom) PickBox(keys, *m_boxFrom, at);
   m_press.reset();
@@ -179,6 +216,8 @@ void DrawingView::OnKey(WPARAM key) {
     m_press.reset();
     if (CommandBar* commands = Commands()) commands->Escape();
     SelectionChanged();
+  } else if (key == VK_F7) {
+    m_model.ToggleGrid();
   } else if (IsTypingKey(key)) {
     if (CommandBar* commands = Commands()) commands->SendKey(key);
   } else if (key == VK_DELETE) {
@@ -186,9 +225,21 @@ void DrawingView::OnKey(WPARAM key) {
   }
 }
 
+// The crosshair is painted; other viewports than the current one have an arrow.
+void DrawingView::ShowPointer() {
+  POINT at{};
+  ::GetCursorPos(&at);
+  ::ScreenToClient(m_hWnd, &at);
+  const LPCWSTR shape = m_panFrom || m_orbitFrom  ? IDC_SIZEALL
+                        : m_model.IsInCurrent(at) ? nullptr
+                                                  : IDC_ARROW;
+  ::SetCursor(shape ? ::LoadCursorW(nullptr, shape) : nullptr);
+}
+
 ViewOverlay DrawingView::Overlay() const {
   ViewOverlay overlay;
-  overlay.cursor = m_panFrom ? std::nullopt : m_cursor;
+  overlay.clip = m_model.CurrentPixels();
+  if (m_cursor && !m_panFrom && m_model.IsInCurrent(*m_cursor)) overlay.cursor = m_cursor;
   overlay.pickBox = !m_model.WaitsForPoint();
   overlay.grips = m_model.Grips();
   if (m_model.WaitsForCorner()) {
@@ -197,7 +248,7 @@ ViewOverlay DrawingView::Overlay() const {
     if (!m_model.CommandIsActive()) overlay.boxFrom = m_boxFrom;
     overlay.rubberFrom = m_model.RubberBandStart();
   }
-  overlay.origin = m_model.Origin();
+  overlay.axes = m_model.Axes();
   return overlay;
 }
 
@@ -213,7 +264,7 @@ void DrawingView::PaintScene(HDC like, const RECT& client) {
     if (m_sceneDirty) {
       Brush ground(::CreateSolidBrush(ViewBackground()));
       ::FillRect(memory, &client, ground.Get());
-      m_model.PaintScene(memory, client);
+      m_model.PaintScene(memory);
       m_sceneDirty = false;
     }
     ::BitBlt(like, 0, 0, client.right, client.bottom, memory, 0, 0, SRCCOPY);
@@ -225,7 +276,7 @@ void DrawingView::Paint() {
   PaintScope dc(m_hWnd);
   if (dc.Client().right <= 0 || dc.Client().bottom <= 0) return;
   PaintScene(dc, dc.Client());
-  PaintOverlay(dc, dc.Client(), Overlay());
+  PaintOverlay(dc, Overlay());
 }
 
 LRESULT DrawingView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -246,6 +297,7 @@ LRESULT DrawingView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_CAPTURECHANGED:
       m_panFrom.reset();
+      m_orbitFrom.reset();
       break;
     case WM_KEYDOWN:
       OnKey(wParam);
@@ -256,7 +308,7 @@ LRESULT DrawingView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_SETCURSOR:
       if (LOWORD(lParam) != HTCLIENT) break;
-      ::SetCursor(m_panFrom ? ::LoadCursorW(nullptr, IDC_SIZEALL) : nullptr);
+      ShowPointer();
       return TRUE;
   }
   return CWnd::WindowProc(message, wParam, lParam);

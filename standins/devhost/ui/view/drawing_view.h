@@ -34,6 +34,12 @@ class DrawingView : public CWnd {
   void OnWheel(int delta, POINT screen);
   void OnResize(int width, int height);
   void OnKey(WPARAM key);
+  template <class F>
+  void ChangeView(F change);
+  bool OnPressElsewhere(POINT at);
+  bool BeginOrbit(POINT at);
+  void EndOrbit();
+  void ShowPointer();
   void BeginPan(POINT at);
   void EndPan();
   void PickBox(WPARAM keys, POINT from, POINT to);
@@ -47,7 +53,8 @@ class DrawingView : public CWnd {
   SIZE m_sceneSize{};
   bool m_sceneDirty = true;
   bool m_sized = false;
-  std::optional<POINT> m_cursor, m_press, m_boxFrom, m_panFrom;
+  std::optional<POINT> m_cursor, m_press, m_boxFrom, m_panFrom, m_orbitFrom;
+  int m_panViewport = 0;  // in which the pan began
 };
 
 }  // namespace devhost

@@ -5,9 +5,10 @@
 #include <cwchar>
 #include <set>
 
-#include "devhost/core/host/host.h"
+#include "devhost/core/view/grid.h"
 #include "devhost/ui/painting/scene_painter.h"
 #include "devhost/ui/view/pick_logic.h"
+#include "devhost/ui/view/viewport_paint.h"
 
 namespace devhost {
 namespace {
@@ -33,29 +34,71 @@ AcDbEntity* EntityOfHandle(Document& document, const std::string& handle) {
 
 }  // namespace
 
-void ViewModel::Resize(int width, int height) { m_document.view.Resize(width, height); }
+void ViewModel::Resize(int width, int height) { m_document.viewports.Resize(width, height); }
 
-void ViewModel::ZoomAt(POINT pixel, double factor) { m_document.view.ZoomAt(pixel, factor); }
+void ViewModel::ZoomAt(POINT pixel, double factor) {
+  if (ViewTransform* view = m_document.viewports.ViewOf(ViewportAt(pixel)))
+    view->ZoomAt(pixel, factor);
+}
 
 void ViewModel::ZoomExtents() { m_document.view.ZoomTo(ExtentsOf(*m_document.database())); }
 
-void ViewModel::PanBy(int dx, int dy) { m_document.view.PanBy(dx, dy); }
+void ViewModel::PanBy(int viewport, int dx, int dy) {
+  if (ViewTransform* view = m_document.viewports.ViewOf(viewport)) view->PanBy(dx, dy);
+}
+
+void ViewModel::OrbitBy(int dx, int dy) { m_document.view.OrbitBy(dx, dy); }
+
+bool ViewModel::IsInCurrent(POINT pixel) const {
+  return ViewportAt(pixel) == m_document.viewports.CurrentNumber();
+}
+
+bool ViewModel::MakeCurrentAt(POINT pixel) {
+  const int viewport = ViewportAt(pixel);
+  if (viewport == 0 || IsInCurrent(pixel)) return false;
+  TheHost().variables.Set(L"CVPORT", std::to_wstring(viewport));
+  return true;
+}
 
 // Arcs are approximated for a scale; a much larger or smaller scale needs new shapes.
 void ViewModel::BuildShapes() {
-  const double scale = m_document.view.PixelsPerUnit();
+  double scale = 0;  // the finest
+  for (const ViewportOnScreen& viewport : m_document.viewports.OnScreen())
+    scale = std::max(scale, m_document.viewports.ViewOf(viewport.number)->PixelsPerUnit());
   if (!m_shapesStale && scale < m_shapesScale * 2 && scale > m_shapesScale / 4) return;
   m_shapes = BuildScene(*m_document.database(), scale);
   m_shapesScale = scale;
   m_shapesStale = false;
 }
 
-void ViewModel::PaintScene(HDC dc, const RECT& client) {
+void ViewModel::PaintGrid(HDC dc, const ViewTransform& view) const {
+  if (VariableText(L"GRIDMODE") != L"1") return;
+  const std::wstring unit = VariableText(L"GRIDUNIT");
+  wchar_t* end = nullptr;
+  const double dx = std::wcstod(unit.c_str(), &end), dy = *end ? std::wcstod(end + 1, &end) : dx;
+  PaintGridDots(dc, GridDots(view, System(), dx, dy));
+}
+
+std::wstring ViewModel::VariableText(const wchar_t* name) const {
+  const auto at = m_document.variables.find(name);
+  return at == m_document.variables.end() ? TheHost().variables.Find(name)->initial : at->second;
+}
+
+UserSystem ViewModel::System() const {
+  const AcDbDatabase& database = *m_document.database();
+  return {database.ucsorg(), database.ucsxdir(), database.ucsydir()};
+}
+
+void ViewModel::PaintScene(HDC dc) {
   BuildShapes();
   std::set<const AcDbObject*> picked;
   for (const AcDbObjectId& id : m_document.pickFirst) picked.insert(id.object());
-  ScenePainter painter(dc, client, m_document.view);
-  for (const Shape& shape : m_shapes) painter.Paint(shape, picked.count(shape.entity) != 0);
+  ForEachViewport(dc, m_document.viewports, [&](const ViewTransform& view) {
+    PaintGrid(dc, view);
+    ScenePainter painter(dc, view.Pixels(), view);
+    for (const Shape& shape : m_shapes) painter.Paint(shape, picked.count(shape.entity) != 0);
+  });
+  PaintViewportBorders(dc, m_document.viewports.OnScreen());
 }
 
 std::optional<POINT> ViewModel::PixelOf(double x, double y) const {
@@ -70,13 +113,30 @@ std::optional<POINT> ViewModel::PixelOnEntity(const std::string& handle) const {
 }
 
 std::wstring ViewModel::CoordinatesAt(POINT pixel) const {
-  const AcGePoint3d at = m_document.view.ToWorld(pixel);
+  const AcGePoint3d at = System().ToUser(m_document.view.ToWorld(pixel));
   wchar_t text[96];
-  std::swprintf(text, 96, L"%.4f, %.4f, 0.0000", at.x, at.y);
+  std::swprintf(text, 96, L"%.4f, %.4f, %.4f", at.x, at.y, at.z + 0.0);
   return text;
 }
 
-POINT ViewModel::Origin() const { return m_document.view.ToPixel({0, 0, 0}); }
+AxisMark ViewModel::Axes() const {
+  const ViewTransform& view = m_document.view;
+  auto direction = [&](const AcGeVector3d& axis) {
+    const AcGeVector3d &right = view.Right(), &up = view.Up();
+    return AxisMark::Direction{axis.x * right.x + axis.y * right.y + axis.z * right.z,
+                               -(axis.x * up.x + axis.y * up.y + axis.z * up.z)};
+  };
+  const UserSystem system = System();
+  return {view.ToPixel(system.origin), direction(system.x), direction(system.y)};
+}
+
+void ViewModel::ToggleGrid() {
+  const bool on = VariableText(L"GRIDMODE") != L"1";
+  TheHost().variables.Set(L"GRIDMODE", on ? L"1" : L"0");
+  TheHost().Print(on ? L"<Grid on>" : L"<Grid off>");
+}
+
+bool ViewModel::WaitsForView() const { return TheHost().engine.Request() == InputRequest::View; }
 
 bool ViewModel::WaitsForPoint() const { return TheHost().engine.WaitsForPoint(); }
 

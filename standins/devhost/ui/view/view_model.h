@@ -6,31 +6,39 @@
 #include <string>
 #include <vector>
 
+#include "devhost/core/host/host.h"
 #include "devhost/core/view/scene.h"
-#include "ground/plain_types.h"
+#include "devhost/ui/view/view_overlay.h"
 
 namespace devhost {
-
-class Document;
 
 class ViewModel {
  public:
   explicit ViewModel(Document& document) : m_document(document) {}
 
   void Resize(int width, int height);
+  // In the viewport at the pixel, which need not be current.
   void ZoomAt(POINT pixel, double factor);  // keeps the world point under the pixel
-  void ZoomExtents();
-  void PanBy(int dx, int dy);
-  void PaintScene(HDC dc, const RECT& client);
+  void PanBy(int viewport, int dx, int dy);
+  void ZoomExtents();            // the current viewport
+  void OrbitBy(int dx, int dy);  // the current viewport
+  int ViewportAt(POINT pixel) const { return m_document.viewports.At(pixel); }  // 0: none
+  bool IsInCurrent(POINT pixel) const;
+  bool MakeCurrentAt(POINT pixel);  // false: that viewport is current already, or none is there
+  RECT CurrentPixels() const { return m_document.view.Pixels(); }
+  void PaintScene(HDC dc);  // all viewports, with grids and borders
   void EntitiesChanged() { m_shapesStale = true; }
 
   std::optional<POINT> PixelOf(double x, double y) const;
   std::optional<POINT> PixelOnEntity(const std::string& handle) const;  // where a click picks it
-  std::wstring CoordinatesAt(POINT pixel) const;
-  POINT Origin() const;  // pixel of world 0,0
+  AcGePoint3d WorldAt(POINT pixel) const { return m_document.view.ToWorld(pixel); }
+  std::wstring CoordinatesAt(POINT pixel) const;  // in the user's system
+  AxisMark Axes() const;                          // of the user's system
+  void ToggleGrid();
 
   bool WaitsForPoint() const;
   bool CommandIsActive() const;
+  bool WaitsForView() const;                     // a drag turns the direction of view
   bool WaitsForCorner() const;                   // the rubber band is a box, not a line
   std::optional<POINT> RubberBandStart() const;  // start of the rubber band
   void EnterPoint(POINT pixel);
@@ -41,6 +49,9 @@ class ViewModel {
 
  private:
   void BuildShapes();
+  void PaintGrid(HDC dc, const ViewTransform& view) const;
+  std::wstring VariableText(const wchar_t* name) const;  // of this drawing
+  UserSystem System() const;                             // the user's, of this drawing
   bool IsPicked(const AcDbObject* entity) const;
   void TakePicked(const std::vector<AcDbEntity*>& entities, bool remove);
 

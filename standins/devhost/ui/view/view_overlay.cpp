@@ -1,8 +1,11 @@
 // Painting the overlay; see the header.
 #include "devhost/ui/view/view_overlay.h"
 
+#include <cmath>
+
 #include "devhost/ui/painting/gdi.h"
 #include "devhost/ui/view/pick_logic.h"
+#include "devhost/ui/view/viewport_paint.h"
 
 namespace devhost {
 namespace {
@@ -66,26 +69,41 @@ void PaintBox(HDC dc, POINT from, POINT to) {
   Frame(dc, r);
 }
 
-// The axis mark, at the origin or else at the lower left: x to the right, y up.
-void PaintAxes(HDC dc, const RECT& client, POINT origin) {
+// One axis with its arrow head and letter.
+void PaintAxis(HDC dc, POINT from, const AxisMark::Direction& axis, const wchar_t* letter) {
+  const int size = Scaled(40);
+  const double x = axis.x * size, y = axis.y * size;
+  const POINT end = {from.x + std::lround(x), from.y + std::lround(y)};
+  Line(dc, from.x, from.y, end.x, end.y);
+  const double length = std::hypot(axis.x, axis.y);
+  if (length > 0.2) {  // an axis seen nearly from its end has no head
+    const double ux = axis.x / length, uy = axis.y / length;
+    for (const int side : {-3, 3})
+      Line(dc, end.x, end.y, end.x + std::lround(-6 * ux - side * uy),
+           end.y + std::lround(-6 * uy + side * ux));
+  }
+  const int away = Scaled(10);
+  ::TextOutW(dc, end.x + std::lround(axis.x * away), end.y + std::lround(axis.y * away) + Scaled(5),
+             letter, 1);
+}
+
+// The axis mark, at the origin or else at the lower left of the viewport.
+void PaintAxes(HDC dc, const RECT& clip, const AxisMark& axes) {
   const int size = Scaled(40), margin = Scaled(18);
-  const bool inside =
-      origin.x > 0 && origin.y > size && origin.x + size < client.right && origin.y < client.bottom;
-  const POINT at = inside ? origin : POINT{margin, client.bottom - margin};
+  RECT inner = clip;
+  ::InflateRect(&inner, -size, -size);
+  const bool inside = ::PtInRect(&inner, axes.origin) != FALSE;
+  const POINT at = inside ? axes.origin : POINT{clip.left + margin, clip.bottom - margin};
   Pen pen(::CreatePen(PS_SOLID, 1, RGB(150, 160, 170)));
   Selected selectedPen(dc, pen.Get());
-  Line(dc, at.x, at.y, at.x + size, at.y);
-  Line(dc, at.x, at.y, at.x, at.y - size);
-  Line(dc, at.x + size, at.y, at.x + size - 6, at.y - 3);
-  Line(dc, at.x + size, at.y, at.x + size - 6, at.y + 3);
-  Line(dc, at.x, at.y - size, at.x - 3, at.y - size + 6);
-  Line(dc, at.x, at.y - size, at.x + 3, at.y - size + 6);
   Font font = MenuFont();
   Selected selectedFont(dc, font.Get());
   ::SetBkMode(dc, TRANSPARENT);
   ::SetTextColor(dc, RGB(150, 160, 170));
-  ::TextOutW(dc, at.x + size + 4, at.y - Scaled(8), L"X", 1);
-  ::TextOutW(dc, at.x - 3, at.y - size - Scaled(17), L"Y", 1);
+  ::SetTextAlign(dc, TA_CENTER | TA_BASELINE);
+  PaintAxis(dc, at, axes.x, L"X");
+  PaintAxis(dc, at, axes.y, L"Y");
+  ::SetTextAlign(dc, TA_LEFT | TA_TOP);
 }
 
 }  // namespace
@@ -97,8 +115,9 @@ RECT CrosshairBounds(POINT cursor) {
   return {cursor.x - half, cursor.y - half, cursor.x + half, cursor.y + half};
 }
 
-void PaintOverlay(HDC dc, const RECT& client, const ViewOverlay& overlay) {
-  PaintAxes(dc, client, overlay.origin);
+void PaintOverlay(HDC dc, const ViewOverlay& overlay) {
+  ClipScope clip(dc, overlay.clip);
+  PaintAxes(dc, overlay.clip, overlay.axes);
   PaintGrips(dc, overlay.grips);
   if (!overlay.cursor) return;
   const POINT cursor = *overlay.cursor;
