@@ -41,8 +41,11 @@ POINT ViewTransform::ToPixel(const AcGePoint3d& world) const {
 }
 
 AcGePoint3d ViewTransform::ToWorld(POINT pixel) const {
-  const Flat at = {m_center.x + (pixel.x - m_left - m_width / 2.0) / m_scale,
-                   m_center.y - (pixel.y - m_top - m_height / 2.0) / m_scale};
+  return OnPlane({m_center.x + (pixel.x - m_left - m_width / 2.0) / m_scale,
+                  m_center.y - (pixel.y - m_top - m_height / 2.0) / m_scale});
+}
+
+AcGePoint3d ViewTransform::OnPlane(const Flat& at) const {
   if (m_plan) return {at.x, at.y, 0};
   const double det = m_right.x * m_up.y - m_right.y * m_up.x;  // at least cos(kMostTilted)
   return {(at.x * m_up.y - at.y * m_right.y) / det, (at.y * m_right.x - at.x * m_up.x) / det, 0};
@@ -76,16 +79,14 @@ void ViewTransform::PanBy(int dx, int dy) {
 }
 
 void ViewTransform::SetDirection(double turn, double tilt) {
-  const POINT middle = Middle();
-  const AcGePoint3d kept = ToWorld(middle);
+  const AcGePoint3d kept = Center();
   m_turn = turn;
   m_tilt = tilt;
   m_plan = turn == 0 && tilt == 0;
   const double c = std::cos(turn), s = std::sin(turn);
   m_right = {c, s, 0};
   m_up = {-s * std::cos(tilt), c * std::cos(tilt), std::sin(tilt)};
-  const Flat wanted = ToDisplay(kept), now = ToDisplay(ToWorld(middle));
-  m_center = {m_center.x + wanted.x - now.x, m_center.y + wanted.y - now.y};
+  m_center = ToDisplay(kept);
 }
 
 void ViewTransform::OrbitBy(int dx, int dy) {

@@ -18,6 +18,7 @@ class ViewTransform {
 
   POINT ToPixel(const AcGePoint3d& world) const;  // clamped to 28 bits
   AcGePoint3d ToWorld(POINT pixel) const;         // on the plane z = 0
+  AcGePoint3d Center() const { return OnPlane(m_center); }  // exact, unlike that of Middle()
   double PixelsPerUnit() const { return m_scale; }
 
   void ZoomAt(POINT pixel, double factor);  // keeps the world point under the pixel
@@ -38,6 +39,7 @@ class ViewTransform {
     double x, y;  // along Right() and Up(), from the world's origin
   };
   Flat ToDisplay(const AcGePoint3d& world) const;
+  AcGePoint3d OnPlane(const Flat& at) const;
   void SetDirection(double turn, double tilt);
 
   Flat m_center{210, 148.5};
