@@ -7,6 +7,7 @@
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/host/host.h"
 #include "devhost/core/host/user_points.h"
+#include "devhost/core/view/entity_index.h"
 #include "devhost/core/view/scene.h"
 
 namespace devhost {
@@ -52,6 +53,8 @@ void Pan() {
 
 void Regen() {
   TheHost().Print(L"正在重生成模型。\n");
+  // Objects of modules may draw by more than their own data.
+  EntityIndex::Of(*CurrentDocument()->database()).Reset();
   TheHost().Ui().PictureChanged(*CurrentDocument());
 }
 

@@ -16,6 +16,15 @@ struct KeptGroup {
   std::wstring text;
 };
 
+// Is notified of changes of a database's objects, before or after the change; an object that is
+// open for writing may change further.
+class DatabaseWatcher {
+ public:
+  virtual ~DatabaseWatcher() = default;
+  virtual void OnChange(AcDbObject& object) = 0;  // added, opened to write, moved, erased, restored
+  virtual void OnReplace() = 0;  // an object was exchanged for another; stored pointers are invalid
+};
+
 struct AcDbDatabase::Body {
   std::vector<std::unique_ptr<AcDbObject>> objects;  // in the order of insertion
   std::unordered_map<std::uint64_t, AcDbObject*> byHandle;
@@ -33,6 +42,7 @@ struct AcDbDatabase::Body {
   std::function<void(AcDbObject*)> onErased, onAdded;
   std::function<void(AcDbObject*)> onChanging;  // before its data changes
   std::function<void(AcDbEntity*, const AcGeMatrix3d&)> onMoved;
+  std::unique_ptr<DatabaseWatcher> watcher;  // null until the first hit test
 
   devhost::UserSystem& CurrentSystem() { return paperIsCurrent ? paperSystem : modelSystem; }
   std::uint64_t NextHandle();
@@ -66,4 +76,5 @@ struct AcDbObjectAccess {
   static bool HasLinetype(const AcDbEntity& entity) { return entity.m_linetype != nullptr; }
   static void ClearLinetype(AcDbEntity& entity);
   static void NotifyChanging(AcDbObject& object);
+  static void NotifyWatcher(AcDbObject& object);
 };

@@ -51,6 +51,7 @@ Acad::ErrorStatus AcDbObject::downgradeOpen() {
 Acad::ErrorStatus AcDbObject::erase(bool erasing) {
   if (m_erased == erasing) return erasing ? Acad::eWasErased : Acad::eNotApplicable;
   m_erased = erasing;
+  AcDbObjectAccess::NotifyWatcher(*this);
   if (erasing && m_database && m_database->body().onErased) m_database->body().onErased(this);
   return Acad::eOk;
 }
@@ -63,6 +64,12 @@ void AcDbObjectAccess::ClearLinetype(AcDbEntity& entity) {
 void AcDbObjectAccess::NotifyChanging(AcDbObject& object) {
   if (object.m_database && object.m_database->body().onChanging)
     object.m_database->body().onChanging(&object);
+  NotifyWatcher(object);
+}
+
+void AcDbObjectAccess::NotifyWatcher(AcDbObject& object) {
+  if (object.m_database && object.m_database->body().watcher)
+    object.m_database->body().watcher->OnChange(object);
 }
 
 Acad::ErrorStatus AcDbObject::dxfInFields(AcDbDxfFiler*) { return Acad::eOk; }
@@ -105,6 +112,7 @@ void AcDbObjectAccess::Replace(AcDbDatabase::Body& body, std::unique_ptr<AcDbObj
     for (AcDbObjectId& id : block->m_entities)
       if (id == held->objectId()) id = fresh->objectId();
   held.reset(fresh);
+  if (body.watcher) body.watcher->OnReplace();
 }
 
 Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,

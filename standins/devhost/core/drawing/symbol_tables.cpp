@@ -87,6 +87,7 @@ Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbE
   id = entity->objectId();
   entity->setOwnerId(objectId());
   m_entities.push_back(id);
+  AcDbObjectAccess::NotifyWatcher(*entity);
   if (database()->body().onAdded) database()->body().onAdded(entity);
   return Acad::eOk;
 }

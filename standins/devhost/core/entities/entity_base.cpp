@@ -47,6 +47,7 @@ Acad::ErrorStatus AcDbEntity::subTransformBy(const AcGeMatrix3d&) {
 
 Acad::ErrorStatus AcDbEntity::transformBy(const AcGeMatrix3d& matrix) {
   const Acad::ErrorStatus status = subTransformBy(matrix);
+  AcDbObjectAccess::NotifyWatcher(*this);
   if (status == Acad::eOk && database() && database()->body().onMoved)
     database()->body().onMoved(this, matrix);
   return status;

@@ -23,6 +23,7 @@ void ObjectState::Restore(AcDbObject& object) const {
   UndoInFiler filer(object.database(), m_items);
   object.dxfInFields(&filer);
   AcDbObjectAccess::SetXData(object, m_xdata);
+  AcDbObjectAccess::NotifyWatcher(object);
   AcDbEntity* entity = AcDbEntity::cast(&object);
   if (!entity) return;
   entity->setLayer(m_layer.c_str());

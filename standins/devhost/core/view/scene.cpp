@@ -5,6 +5,7 @@
 
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/view/entity_index.h"
 #include "devhost/core/view/shape_collector.h"
 #include "devhost/core/view/shape_geometry.h"
 
@@ -19,6 +20,55 @@ std::vector<AcDbEntity*> EntitiesOf(AcDbDatabase& database) {
     if (!id.isErased())
       if (AcDbEntity* entity = AcDbEntity::cast(id.object())) entities.push_back(entity);
   return entities;
+}
+
+constexpr double kSelectionPixels = 1e-3;  // coarse arcs, for boxes and fences
+
+// The entities that may draw something in a box, and their shapes on visible layers.
+class CandidateShapes {
+ public:
+  CandidateShapes(AcDbDatabase& database, const Box& box, double pixelsPerUnit)
+      : m_entities(EntityIndex::Of(database).Find(database, box)),
+        m_looks(m_entities.empty() ? LayerStyles() : LayerStylesOf(database)),
+        m_pixels(pixelsPerUnit) {}
+
+  const std::vector<AcDbEntity*>& Entities() const { return m_entities; }
+  std::vector<Shape> ShapesOf(AcDbEntity& entity) const {
+    std::vector<Shape> shapes;
+    ShapeCollector(m_looks, m_pixels, shapes).DrawEntity(entity);
+    return shapes;
+  }
+
+ private:
+  std::vector<AcDbEntity*> m_entities;
+  LayerStyles m_looks;
+  double m_pixels;
+};
+
+bool IsInside(const std::vector<Shape>& shapes, const Box& box) {
+  for (const Shape& shape : shapes)
+    for (const AcGePoint3d& p : OutlineOf(shape))
+      if (!box.Touches({p.x, p.y, p.x, p.y})) return false;
+  return !shapes.empty();
+}
+
+bool TouchesBox(const std::vector<Shape>& shapes, const Box& box) {
+  for (const Shape& shape : shapes) {
+    const std::vector<AcGePoint3d> outline = OutlineOf(shape);
+    for (std::size_t i = 0; i + 1 < outline.size(); ++i)
+      if (SegmentTouches(outline[i], outline[i + 1], box.x0, box.y0, box.x1, box.y1)) return true;
+  }
+  return false;
+}
+
+bool TouchesFence(const std::vector<Shape>& shapes, std::span<const AcGePoint3d> fence) {
+  for (const Shape& shape : shapes) {
+    const std::vector<AcGePoint3d> outline = OutlineOf(shape);
+    for (std::size_t i = 0; i + 1 < outline.size(); ++i)
+      for (std::size_t k = 0; k + 1 < fence.size(); ++k)
+        if (SegmentsTouch(outline[i], outline[i + 1], fence[k], fence[k + 1])) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -45,42 +95,49 @@ AcDbExtents ExtentsOf(AcDbDatabase& database) {
   return extents;
 }
 
-AcDbEntity* EntityAt(AcDbDatabase& database, const AcGePoint3d& at, double reach) {
-  AcDbObject* best = nullptr;
+AcDbEntity* EntityAt(AcDbDatabase& database, const AcGePoint3d& at, double reach,
+                     const EntityTest& accepts) {
+  const CandidateShapes candidates(database,
+                                   {at.x - reach, at.y - reach, at.x + reach, at.y + reach},
+                                   1 / std::max(reach, 1e-9));
+  AcDbEntity* best = nullptr;
   double nearest = reach;
-  for (const Shape& shape : BuildScene(database, 1 / std::max(reach, 1e-9))) {
-    const double distance = DistanceTo(shape, at);
-    // Of two at equal distance the later one, which is drawn on top.
-    if (distance > nearest) continue;
-    nearest = distance;
-    best = shape.entity;
+  for (AcDbEntity* entity : candidates.Entities()) {
+    if (accepts && !accepts(*entity)) continue;
+    for (const Shape& shape : candidates.ShapesOf(*entity)) {
+      const double distance = DistanceTo(shape, at);
+      // Of two at equal distance the later one, which is drawn on top.
+      if (distance > nearest) continue;
+      nearest = distance;
+      best = entity;
+    }
   }
-  return AcDbEntity::cast(best);
+  return best;
 }
 
 std::vector<AcDbEntity*> EntitiesIn(AcDbDatabase& database, const AcGePoint3d& a,
                                     const AcGePoint3d& b, bool crossing) {
-  const double x0 = std::min(a.x, b.x), x1 = std::max(a.x, b.x), y0 = std::min(a.y, b.y),
-               y1 = std::max(a.y, b.y);
+  const Box box = {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
+  const CandidateShapes candidates(database, box, kSelectionPixels);
   std::vector<AcDbEntity*> found;
-  AcDbObject* current = nullptr;
-  bool inside = false, touched = false;
-  auto finish = [&] {
-    if (current && (crossing ? touched : inside)) found.push_back(AcDbEntity::cast(current));
-  };
-  for (const Shape& shape : BuildScene(database, 1e-3)) {
-    if (shape.entity != current) {
-      finish();
-      current = shape.entity;
-      inside = true;
-      touched = false;
-    }
-    const std::vector<AcGePoint3d> outline = OutlineOf(shape);
-    for (const AcGePoint3d& p : outline) inside &= p.x >= x0 && p.x <= x1 && p.y >= y0 && p.y <= y1;
-    for (std::size_t i = 0; i + 1 < outline.size() && !touched; ++i)
-      touched = SegmentTouches(outline[i], outline[i + 1], x0, y0, x1, y1);
+  for (AcDbEntity* entity : candidates.Entities()) {
+    const std::vector<Shape> shapes = candidates.ShapesOf(*entity);
+    const bool hit = crossing ? TouchesBox(shapes, box) : IsInside(shapes, box);
+    if (hit) found.push_back(entity);
   }
-  finish();
+  return found;
+}
+
+std::vector<AcDbEntity*> EntitiesOnFence(AcDbDatabase& database,
+                                         std::span<const AcGePoint3d> points) {
+  AcDbExtents extents;
+  for (const AcGePoint3d& p : points) extents.addPoint(p);
+  std::vector<AcDbEntity*> found;
+  if (points.size() < 2) return found;
+  const AcGePoint3d lo = extents.minPoint(), hi = extents.maxPoint();
+  const CandidateShapes candidates(database, {lo.x, lo.y, hi.x, hi.y}, kSelectionPixels);
+  for (AcDbEntity* entity : candidates.Entities())
+    if (TouchesFence(candidates.ShapesOf(*entity), points)) found.push_back(entity);
   return found;
 }
 

@@ -36,6 +36,17 @@ bool InsidePolygon(const std::vector<AcGePoint3d>& corners, const AcGePoint3d& p
   return inside;
 }
 
+// Positive if `p` is to the left of the line from `a` to `b`, 0 on it.
+double SideOf(const AcGePoint3d& a, const AcGePoint3d& b, const AcGePoint3d& p) {
+  return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
+}
+
+// Whether a point on the line through `a` and `b` is between them.
+bool Between(const AcGePoint3d& a, const AcGePoint3d& b, const AcGePoint3d& p) {
+  return std::min(a.x, b.x) <= p.x && p.x <= std::max(a.x, b.x) && std::min(a.y, b.y) <= p.y &&
+         p.y <= std::max(a.y, b.y);
+}
+
 }  // namespace
 
 std::vector<AcGePoint3d> OutlineOf(const Shape& shape) {
@@ -67,6 +78,16 @@ bool SegmentTouches(AcGePoint3d a, AcGePoint3d b, double x0, double y0, double x
     return t0 <= t1;
   };
   return clip(-dx, a.x - x0) && clip(dx, x1 - a.x) && clip(-dy, a.y - y0) && clip(dy, y1 - a.y);
+}
+
+bool SegmentsTouch(const AcGePoint3d& a, const AcGePoint3d& b, const AcGePoint3d& c,
+                   const AcGePoint3d& d) {
+  const double sideA = SideOf(c, d, a), sideB = SideOf(c, d, b), sideC = SideOf(a, b, c),
+               sideD = SideOf(a, b, d);
+  const auto opposite = [](double p, double q) { return (p < 0 && q > 0) || (p > 0 && q < 0); };
+  if (opposite(sideA, sideB) && opposite(sideC, sideD)) return true;
+  return (sideA == 0 && Between(c, d, a)) || (sideB == 0 && Between(c, d, b)) ||
+         (sideC == 0 && Between(a, b, c)) || (sideD == 0 && Between(a, b, d));
 }
 
 }  // namespace devhost
