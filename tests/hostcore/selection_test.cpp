@@ -111,7 +111,6 @@ TEST_F(Selection, TheImpliedSetIsThePickFirstSet) {
 
 TEST_F(Selection, ThePickFirstSetIsReadAndWrittenThroughSets) {
   resbuf *grips = nullptr, *picked = nullptr;
-  EXPECT_EQ(acedSSGetFirst(&grips, &picked), RTERROR);
   ads_name set{};
   ASSERT_EQ(acedSSGet(L"X", nullptr, nullptr, nullptr, set), RTNORM);
   EXPECT_EQ(acedSSSetFirst(set, set), RTNORM);
@@ -129,6 +128,95 @@ TEST_F(Selection, ThePickFirstSetIsReadAndWrittenThroughSets) {
   acedSSFree(set);
   EXPECT_EQ(acedSSSetFirst(nullptr, nullptr), RTNORM);
   EXPECT_TRUE(host.documents.Current()->pickFirst.empty());
+}
+
+TEST_F(Selection, WithNothingSelectedBothListsAreNullAndTheCallSucceeds) {
+  resbuf unused{};
+  resbuf *grips = &unused, *picked = &unused;
+  EXPECT_EQ(acedSSGetFirst(&grips, &picked), RTNORM);
+  EXPECT_EQ(grips, nullptr);
+  EXPECT_EQ(picked, nullptr);
+  EXPECT_EQ(acedSSGetFirst(nullptr, nullptr), RTNORM);
+}
+
+TEST_F(Selection, APointPicksTheNearestObjectThatPassesTheFilter) {
+  host.documents.Current()->view.ZoomTo([] {
+    AcDbExtents extents;
+    extents.addPoint({0, 0, 0});
+    extents.addPoint({30, 30, 0});
+    return extents;
+  }());
+  const double pixel = 1 / host.documents.Current()->view.PixelsPerUnit();
+  const ads_point at = {5, 3 - pixel, 0};  // the circle is one pixel away, the line about 50
+  const auto picked = [&](resbuf* filter) {
+    ads_name set{}, name{};
+    AcDbObjectId id;
+    if (acedSSGet(nullptr, at, nullptr, filter, set) == RTNORM) {
+      acedSSName(set, 0, name);
+      acdbGetObjectId(id, name);
+      acedSSFree(set);
+    }
+    if (filter) acutRelRb(filter);
+    return id.object();
+  };
+  EXPECT_EQ(picked(nullptr), Entities()[1]);
+  EXPECT_EQ(picked(acutBuildList(0, L"LINE", 0)), nullptr) << "too far away";
+  Send(L"LINE 4,2.99 6,2.99 \n");
+  AcDbEntity* line = Entities().back();
+  EXPECT_EQ(picked(acutBuildList(0, L"LINE", 0)), line);
+  EXPECT_EQ(picked(acutBuildList(0, L"CIRCLE", 0)), Entities()[1])
+      << "the nearer line does not pass and is ignored";
+}
+
+TEST_F(Selection, AFenceSelectsWhatItsLinesTouch) {
+  const auto count = [&](std::vector<AcGePoint3d> points, resbuf* filter) {
+    resbuf* list = nullptr;
+    for (auto p = points.rbegin(); p != points.rend(); ++p) {
+      resbuf* node = acutNewRb(RT3DPOINT);
+      node->resval.rpoint[0] = p->x;
+      node->resval.rpoint[1] = p->y;
+      node->resval.rpoint[2] = p->z;
+      node->rbnext = list;
+      list = node;
+    }
+    ads_name set{};
+    int length = -1;
+    if (acedSSGet(L"F", list, nullptr, filter, set) == RTNORM) {
+      acedSSLength(set, &length);
+      acedSSFree(set);
+    }
+    if (list) acutRelRb(list);
+    if (filter) acutRelRb(filter);
+    return length;
+  };
+  EXPECT_EQ(count({{5, 1e9, 0}, {5, -1e9, 0}}, nullptr), 2) << "the line and the circle";
+  EXPECT_EQ(count({{5, 1e9, 0}, {5, -1e9, 0}}, acutBuildList(0, L"CIRCLE", 0)), 1);
+  EXPECT_EQ(count({{5, 1e9, 0}, {5, -1e9, 0}}, acutBuildList(0, L"QVX_*", 0)), -1);
+  EXPECT_EQ(count({{25, 1e9, 0}, {25, -1e9, 0}}, nullptr), 1) << "the line far away";
+  EXPECT_EQ(count({{15, 1e9, 0}, {15, -1e9, 0}}, nullptr), -1);
+  EXPECT_EQ(count({{15, -5, 0}, {15, 25, 0}, {25, 25, 0}}, nullptr), 1) << "its second piece";
+  EXPECT_EQ(count({{5, 0, 77}, {5, 0, 77}}, nullptr), 1) << "heights do not count";
+  EXPECT_EQ(count({{5, 0, 0}}, nullptr), -1) << "a fence has two points";
+  EXPECT_EQ(count({}, nullptr), -1);
+}
+
+TEST_F(Selection, HitTestsLeaveThePreviousSetAlone) {
+  host.documents.Current()->pickFirst = {Entities()[2]->objectId()};
+  ASSERT_EQ(Count(nullptr, L"I"), 1);
+  const ads_point at = {7, 5, 0};
+  ads_name set{};
+  ASSERT_EQ(acedSSGet(nullptr, at, nullptr, nullptr, set), RTNORM);
+  acedSSFree(set);
+  resbuf to{}, from{};
+  from.rbnext = &to;
+  from.restype = to.restype = RT3DPOINT;
+  from.resval.rpoint[0] = to.resval.rpoint[0] = 5;
+  from.resval.rpoint[1] = -1;
+  to.resval.rpoint[1] = 9;
+  ASSERT_EQ(acedSSGet(L"F", &from, nullptr, nullptr, set), RTNORM);
+  acedSSFree(set);
+  EXPECT_EQ(host.documents.Current()->previousSelection,
+            (std::vector<AcDbObjectId>{Entities()[2]->objectId()}));
 }
 
 TEST_F(Selection, MembersAreAddedRemovedAndFound) {

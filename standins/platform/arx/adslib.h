@@ -53,7 +53,9 @@ int acedGetInput(ACHAR* keyword);  // the keyword after RTKWORD
 int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point);
 
 // Selection sets ---------------------------------------------------------------------------------
-// Modes: null (prompt the user, or pick at the first point), "X", "I", "P", "L", "C", "W", "A".
+// Modes: null (prompt the user, or the nearest object at the first point that passes the filter),
+// "X", "I", "P", "L", "C", "W", "A", and "F" with a chain of RT3DPOINT. A point and "F" do not
+// change what "P" gives. RTERROR for an empty result.
 int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
               ads_name set);
 int acedSSFree(const ads_name set);
@@ -62,6 +64,7 @@ int acedSSName(const ads_name set, int index, ads_name entity);
 int acedSSAdd(const ads_name entity, const ads_name set, ads_name result);
 int acedSSDel(const ads_name entity, const ads_name set);
 int acedSSMemb(const ads_name entity, const ads_name set);
+// RTNORM with null lists when nothing is selected; otherwise the caller frees lists and sets.
 int acedSSGetFirst(resbuf** grips, resbuf** pickFirst);
 int acedSSSetFirst(const ads_name pickFirst, const ads_name unused);
 int acedRedraw(const ads_name entity, int mode);  // null entity: everything

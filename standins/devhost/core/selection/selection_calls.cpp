@@ -35,12 +35,22 @@ void AddAll(std::vector<AcDbObjectId>& set, const std::vector<AcDbEntity*>& foun
       set.push_back(e->objectId());
 }
 
-AcDbEntity* EntityNear(Document& document, const AcGePoint3d& at) {
+// The nearest entity that passes the filter; nearer ones that do not are ignored.
+AcDbEntity* EntityNear(Document& document, const AcGePoint3d& at, const resbuf* filter) {
   constexpr double kPickReach = 6;  // pixels
-  return EntityAt(*document.database(), at, kPickReach / document.view.PixelsPerUnit());
+  return EntityAt(*document.database(), at, kPickReach / document.view.PixelsPerUnit(),
+                  [filter](const AcDbEntity& e) { return PassesFilter(e, filter); });
 }
 
 AcGePoint3d PointOf(const double* p) { return WorldOfUser(p); }
+
+std::vector<AcGePoint3d> PointsOf(const resbuf* list) {
+  std::vector<AcGePoint3d> points;
+  for (; list; list = list->rbnext)
+    if (list->restype == RT3DPOINT || list->restype == RTPOINT)
+      points.push_back(PointOf(list->resval.rpoint));
+  return points;
+}
 
 // Prompts for objects until Enter. A click picks one; "ALL", "Previous" and "Last" add those; a
 // click on empty space begins a box.
@@ -61,7 +71,7 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
       for (AcDbObjectId id : source)
         if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
       AddAll(set, found, filter);
-    } else if (AcDbEntity* hit = EntityNear(document, PointOf(at))) {
+    } else if (AcDbEntity* hit = EntityNear(document, PointOf(at), filter)) {
       AddAll(set, {hit}, filter);
     } else {
       ads_point other{};
@@ -87,26 +97,34 @@ std::optional<std::vector<AcDbObjectId>> SourceOf(Document& document, const std:
   return all;
 }
 
-}  // namespace
+std::wstring ModeName(const ACHAR* mode) {
+  std::wstring name = mode ? UpperCase(mode) : L"";
+  if (name.size() == 2 && name[0] == L'_') name.erase(0, 1);
+  return name;
+}
 
-int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
-              ads_name set) {
-  Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
-  if (!document || !set) return RTERROR;
-  std::wstring how = mode ? UpperCase(mode) : L"";
-  if (how.size() == 2 && how[0] == L'_') how.erase(0, 1);
-  const double* a = static_cast<const double*>(first);
-  const double* b = static_cast<const double*>(second);
-  std::vector<AcDbObjectId> ids;
-  if (how.empty() && a) {
-    if (AcDbEntity* hit = EntityNear(*document, PointOf(a))) AddAll(ids, {hit}, filter);
-  } else if (how.empty() && document->pickFirst.empty()) {
-    const int status = AskForObjects(*document, filter, ids);
-    if (status != RTNORM) return status;
-  } else if ((how == L"C" || how == L"W") && a && b) {
-    AddAll(ids, EntitiesIn(*document->database(), PointOf(a), PointOf(b), how == L"C"),
-           filter);
-  } else if (const auto source = SourceOf(*document, how)) {
+// A program that asks what is at a place selects nothing for the user: "Previous" stays.
+bool IsHitTest(const std::wstring& mode, const void* first) {
+  return mode == L"F" || (mode.empty() && first);
+}
+
+// Collects the objects of one call of acedSSGet. RTERROR for an unknown mode or missing points.
+int Select(Document& document, const std::wstring& mode, const void* first, const void* second,
+           const resbuf* filter, std::vector<AcDbObjectId>& ids) {
+  const auto* a = static_cast<const double*>(first);
+  const auto* b = static_cast<const double*>(second);
+  AcDbDatabase& database = *document.database();
+  if (mode.empty() && a) {
+    if (AcDbEntity* hit = EntityNear(document, PointOf(a), filter)) ids = {hit->objectId()};
+  } else if (mode.empty() && document.pickFirst.empty()) {
+    return AskForObjects(document, filter, ids);
+  } else if ((mode == L"C" || mode == L"W") && a && b) {
+    AddAll(ids, EntitiesIn(database, PointOf(a), PointOf(b), mode == L"C"), filter);
+  } else if (mode == L"F") {
+    const std::vector<AcGePoint3d> fence = PointsOf(static_cast<const resbuf*>(first));
+    if (fence.size() < 2) return RTERROR;
+    AddAll(ids, EntitiesOnFence(database, fence), filter);
+  } else if (const auto source = SourceOf(document, mode)) {
     for (AcDbObjectId id : *source) {
       const AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
       if (e && PassesFilter(*e, filter)) ids.push_back(id);
@@ -114,8 +132,21 @@ int acedSSGet(const ACHAR* mode, const void* first, const void* second, const re
   } else {
     return RTERROR;
   }
+  return RTNORM;
+}
+
+}  // namespace
+
+int acedSSGet(const ACHAR* mode, const void* first, const void* second, const resbuf* filter,
+              ads_name set) {
+  Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
+  if (!document || !set) return RTERROR;
+  const std::wstring how = ModeName(mode);
+  std::vector<AcDbObjectId> ids;
+  const int status = Select(*document, how, first, second, filter, ids);
+  if (status != RTNORM) return status;
   if (ids.empty()) return RTERROR;
-  document->previousSelection = ids;
+  if (!IsHitTest(how, first)) document->previousSelection = ids;
   CreateSet(std::move(ids), set);
   return RTNORM;
 }
@@ -169,7 +200,8 @@ int acedSSGetFirst(resbuf** grips, resbuf** pickFirst) {
   Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
   if (grips) *grips = nullptr;
   if (pickFirst) *pickFirst = nullptr;
-  if (!document || document->pickFirst.empty()) return RTERROR;
+  if (!document) return RTERROR;
+  if (document->pickFirst.empty()) return RTNORM;
   for (resbuf** out : {grips, pickFirst}) {
     if (!out) continue;
     *out = acutNewRb(RTPICKS);
