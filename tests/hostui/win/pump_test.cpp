@@ -36,6 +36,21 @@ BOOL RemovesItself(MSG* message) {
   return FALSE;
 }
 
+BOOL RemovesTheFirst(MSG* message) {
+  if (message->message >= WM_APP) g_seen += "x";
+  acedRemoveFilterWinMsg(&First);
+  return FALSE;
+}
+
+BOOL PumpsOnce(MSG* message) {
+  if (message->message == WM_APP + 4) g_seen += "p";
+  if (message->message != WM_APP + 3) return FALSE;
+  g_seen += "<";
+  ThePump().PumpOne();
+  g_seen += ">";
+  return FALSE;
+}
+
 class Pump : public testing::Test {
  protected:
   void SetUp() override {
@@ -91,6 +106,24 @@ TEST_F(Pump, AFilterMayRemoveItselfWhileItRuns) {
   acedRegisterFilterWinMsg(&RemovesItself);
   EXPECT_EQ(Pumped(WM_APP), "r1t");
   EXPECT_EQ(Pumped(WM_APP), "1t");
+}
+
+TEST_F(Pump, EveryFilterIsAskedOnceWhenAnOlderOneIsRemovedMeanwhile) {
+  acedRegisterFilterWinMsg(&First);
+  acedRegisterFilterWinMsg(&Second);
+  acedRegisterFilterWinMsg(&RemovesTheFirst);
+  EXPECT_EQ(Pumped(WM_APP), "x2t") << "the removed one is not asked, no other is asked twice";
+  acedRemoveFilterWinMsg(&RemovesTheFirst);
+}
+
+TEST_F(Pump, AFilterMayRunTheMessageLoopItself) {
+  acedRegisterFilterWinMsg(&First);
+  acedRegisterFilterWinMsg(&PumpsOnce);
+  ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP + 3, 0, 0);
+  ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP + 4, 0, 0);
+  EXPECT_TRUE(ThePump().RunOnce());
+  EXPECT_EQ(g_seen, "<p1t>1t") << "the inner message is whole before the outer one goes on";
+  acedRemoveFilterWinMsg(&PumpsOnce);
 }
 
 TEST_F(Pump, IdleWorkRunsUntilNoneIsLeftBeforeWaiting) {

@@ -29,10 +29,14 @@ bool MessagePump::RemoveFilter(Filter filter) {
   return true;
 }
 
-// Filters may remove themselves and others while they run.
+// Filters may add and remove themselves and others while they run, and may process messages
+// themselves. One that was removed meanwhile is not called; a new one sees the next message.
 bool MessagePump::IsFiltered(MSG* message) {
-  for (size_t left = m_filters.size(); left > 0; left = std::min(left - 1, m_filters.size()))
-    if (m_filters[left - 1](message)) return true;
+  const std::vector<Filter> registered = m_filters;
+  for (auto filter = registered.rbegin(); filter != registered.rend(); ++filter)
+    if (std::find(m_filters.begin(), m_filters.end(), *filter) != m_filters.end() &&
+        (*filter)(message))
+      return true;
   return false;
 }
 
