@@ -67,7 +67,9 @@ int acedSSMemb(const ads_name entity, const ads_name set);
 // RTNORM with null lists when nothing is selected; otherwise the caller frees lists and sets.
 int acedSSGetFirst(resbuf** grips, resbuf** pickFirst);
 int acedSSSetFirst(const ads_name pickFirst, const ads_name unused);
-int acedRedraw(const ads_name entity, int mode);  // null entity: everything
+// Modes: 1 and 2 repaint, 3 highlights, 4 ends the highlight, also that of a selected entity. Null
+// entity: repaints everything. RTERROR for an erased entity, whose highlight mode 4 ends too.
+int acedRedraw(const ads_name entity, int mode);
 // RTNORM if the text matches one of the wild card patterns, which are separated
 // by commas. Ignores case.
 int acutWcMatch(const ACHAR* text, const ACHAR* patterns);

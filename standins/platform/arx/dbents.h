@@ -18,6 +18,14 @@ class AcDbLine : public AcDbCurve {
   AcDbLine(const AcGePoint3d& start, const AcGePoint3d& end) : m_start(start), m_end(end) {}
   AcGePoint3d startPoint() const { return m_start; }
   AcGePoint3d endPoint() const { return m_end; }
+  Acad::ErrorStatus setStartPoint(const AcGePoint3d& point) {
+    m_start = point;
+    return Acad::eOk;
+  }
+  Acad::ErrorStatus setEndPoint(const AcGePoint3d& point) {
+    m_end = point;
+    return Acad::eOk;
+  }
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
   Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix) override;
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
@@ -34,6 +42,10 @@ class AcDbCircle : public AcDbCurve {
   AcDbCircle(const AcGePoint3d& center, double radius) : m_center(center), m_radius(radius) {}
   AcGePoint3d center() const { return m_center; }
   double radius() const { return m_radius; }
+  Acad::ErrorStatus setRadius(double radius) {
+    m_radius = radius;
+    return Acad::eOk;
+  }
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
   Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix) override;
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
@@ -117,6 +129,9 @@ class AcDbPolyline : public AcDbCurve {
  public:
   ACRX_DECLARE_MEMBERS(AcDbPolyline);
   unsigned numVerts() const { return static_cast<unsigned>(m_vertices.size()); }
+  Acad::ErrorStatus getPointAt(unsigned index,
+                               AcGePoint3d& point) const;  // eInvalidInput: no such vertex
+  Acad::ErrorStatus setPointAt(unsigned index, const AcGePoint3d& point);
   Acad::ErrorStatus addVertexAt(unsigned index, const AcGePoint3d& point, double bulge = 0);
   bool isClosed() const { return m_closed; }
   void setClosed(bool closed) { m_closed = closed; }
@@ -182,6 +197,7 @@ class AcDbMText : public AcDbEntity {
  public:
   ACRX_DECLARE_MEMBERS(AcDbMText);
   const ACHAR* contents() const { return m_text.c_str(); }
+  Acad::ErrorStatus setContents(const ACHAR* text);
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
   Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix) override;
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;

@@ -5,8 +5,11 @@
 
 #include "devhost/core/base/journal.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/commands/native_commands.h"
 #include "devhost/core/host/host.h"
 #include "devhost/core/lisp/lisp_calls.h"
+#include "devhost/core/selection/highlight.h"
+#include "devhost/core/selection/selection.h"
 
 namespace devhost {
 namespace {
@@ -117,7 +120,7 @@ bool CommandEngine::ExecuteCommand(Document& document, std::wstring name, bool a
     TheHost().Print(L"** 命令嵌套太深 **\n");
     return true;
   }
-  if (!asTransparent) document.lastCommand = command.globalName;
+  if (!asTransparent && !(command.flags & kNotRepeated)) document.lastCommand = command.globalName;
   Call(document, command);
   return true;
 }
@@ -128,8 +131,10 @@ void CommandEngine::Call(Document& document, const Command& command) {
   const std::optional<AcGePoint3d> rubber = std::exchange(m_rubberFrom, std::nullopt);
   const std::wstring prompt = m_requestPrompt;
   const bool blanks = m_blanks;
+  const int objectPrompts = std::exchange(m_objectPrompts, 0);
   ++m_depth;
   const bool outerCancelled = std::exchange(m_cancelled, false);
+  EndPreview(document);
   document.commands.push_back(command.globalName);
   auto recording = std::make_unique<UndoRecording>(document, command.globalName);
   TheJournal().Record("command", {{"phase", "start"}, {"name", Utf8(command.globalName)}});
@@ -149,13 +154,11 @@ void CommandEngine::Call(Document& document, const Command& command) {
   m_rubberFrom = rubber;
   m_requestPrompt = prompt;
   m_blanks = blanks;
+  m_objectPrompts = objectPrompts;
   if (!TheHost().documents.FindDocument(self)) return;  // closed by the command
   if (!self->commands.empty()) self->commands.pop_back();
   recording.reset();
-  if (!keepsPickSet && !self->pickFirst.empty() && m_depth == 0) {
-    self->pickFirst.clear();
-    TheHost().Ui().SelectionChanged(*self);
-  }
+  if (!keepsPickSet && !self->pickFirst.empty() && m_depth == 0) SetPickFirst(*self, {});
   TheHost().Ui().PictureChanged(*self);
 }
 
@@ -233,13 +236,25 @@ void CommandEngine::PressEscape() {
     return;
   }
   TheHost().Print(L"\n命令: *取消*\n");
-  if (document->pickFirst.empty()) return;
-  document->pickFirst.clear();
-  TheHost().Ui().SelectionChanged(*document);
+  if (!document->pickFirst.empty()) SetPickFirst(*document, {});
 }
 
 void CommandEngine::EnterPoint(const AcGePoint3d& point) {
   if (WaitsForPoint()) m_givenPoint = point;
+}
+
+bool CommandEngine::StretchGrip(Document& document, AcDbObjectId entity, const AcGePoint3d& grip) {
+  if (m_depth > 0 || !document.input.IsEmpty()) return false;
+  document.hotGrip = HotGrip{entity, grip};
+  document.input.Append(L"GRIP_STRETCH\n");
+  return true;
+}
+
+bool CommandEngine::EditText(Document& document, AcDbObjectId text) {
+  if (m_depth > 0 || !document.input.IsEmpty()) return false;
+  document.textToEdit = text;
+  document.input.Append(L"TEXTEDIT\n");
+  return true;
 }
 
 bool CommandEngine::RunNested(const std::wstring& name, const std::vector<std::wstring>& input) {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "devhost/core/commands/input_queue.h"
-#include "gepnt3d.h"
+#include "dbmain.h"
 
 namespace devhost {
 
@@ -37,6 +37,9 @@ class CommandEngine {
   void EnterLine(const std::wstring& line);  // a line of the command line, without its Enter
   void PressEscape();  // cancels the running command; clears the pick-first set when idle
   void EnterPoint(const AcGePoint3d& point);  // a click in the view while a point is requested
+  // Start GRIP_STRETCH and TEXTEDIT. False while a command runs or its input is incomplete.
+  bool StretchGrip(Document& document, AcDbObjectId entity, const AcGePoint3d& grip);
+  bool EditText(Document& document, AcDbObjectId text);
 
   // Called by the published input functions. Returns when an answer or a cancel arrives.
   InputAnswer Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
@@ -47,6 +50,8 @@ class CommandEngine {
     return m_request == InputRequest::Point || m_request == InputRequest::Corner;
   }
   std::optional<AcGePoint3d> RubberBandStart() const { return m_rubberFrom; }
+  // True while a command asks the user to select objects, see SelectionPrompt.
+  bool AsksForObjects() const { return m_objectPrompts > 0 && WaitsForPoint(); }
   bool AcceptsBlanks() const { return m_request == InputRequest::Text && m_blanks; }
 
   // True while a command or LISP function of a drawing runs; false in the message loop, also in the
@@ -63,6 +68,7 @@ class CommandEngine {
   void CancelAll(Document& document);
 
  private:
+  friend class SelectionPrompt;
   void Execute(Document& document, const std::wstring& text);
   bool ExecuteCommand(Document& document, std::wstring name, bool asTransparent);
   void Call(Document& document, const Command& command);
@@ -76,7 +82,20 @@ class CommandEngine {
   std::optional<AcGePoint3d> m_rubberFrom;
   std::optional<AcGePoint3d> m_givenPoint;
   std::wstring m_requestPrompt;
+  int m_objectPrompts = 0;
   bool m_cancelled = false;  // the last input request of the running command was cancelled
+};
+
+// During its lifetime the points that a command asks for select objects.
+class SelectionPrompt {
+ public:
+  explicit SelectionPrompt(CommandEngine& engine) : m_engine(engine) { ++m_engine.m_objectPrompts; }
+  ~SelectionPrompt() { --m_engine.m_objectPrompts; }
+  SelectionPrompt(const SelectionPrompt&) = delete;
+  SelectionPrompt& operator=(const SelectionPrompt&) = delete;
+
+ private:
+  CommandEngine& m_engine;
 };
 
 }  // namespace devhost

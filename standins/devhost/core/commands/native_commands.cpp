@@ -6,8 +6,8 @@
 namespace devhost {
 
 void RegisterNativeCommands(CommandStack& stack) {
-  for (const auto& commands : {DrawCommands(), EditCommands(), ViewCommands(), ViewportCommands(),
-                               UserSystemCommands(), FileCommands()})
+  for (const auto& commands : {DrawCommands(), EditCommands(), ObjectCommands(), ViewCommands(),
+                               ViewportCommands(), UserSystemCommands(), FileCommands()})
     for (const NativeCommand& c : commands) stack.AddNative(c.name, c.flags, c.function);
 }
 

@@ -5,9 +5,14 @@
 
 #include "accmd.h"
 
+class AcDbEntity;
+
 namespace devhost {
 
 class CommandStack;
+
+// A flag of a native command: Enter alone does not repeat it.
+constexpr int kNotRepeated = 0x40000000;
 
 struct NativeCommand {
   const wchar_t* name;
@@ -17,10 +22,13 @@ struct NativeCommand {
 
 std::span<const NativeCommand> DrawCommands();
 std::span<const NativeCommand> EditCommands();
+std::span<const NativeCommand> ObjectCommands();
 std::span<const NativeCommand> ViewCommands();
 std::span<const NativeCommand> ViewportCommands();
 std::span<const NativeCommand> UserSystemCommands();
 std::span<const NativeCommand> FileCommands();
+
+bool IsPlainText(const AcDbEntity& entity);  // TEXT and MTEXT: what TEXTEDIT edits
 
 void RegisterNativeCommands(CommandStack& stack);
 

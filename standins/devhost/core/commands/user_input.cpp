@@ -170,6 +170,7 @@ int acedGetInput(ACHAR* keyword) {
 
 int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point) {
   ads_point at{};
+  const SelectionPrompt selecting(TheHost().engine);
   const int status = acedGetPoint(nullptr, prompt ? prompt : L"\n选择对象: ", at);
   if (status != RTNORM) return status;
   Document* document = TheHost().documents.Current();

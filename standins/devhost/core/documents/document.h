@@ -4,6 +4,8 @@
 
 #include <map>
 #include <memory>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,6 +23,12 @@ struct LoadedModule;
 struct LispFunction {
   LoadedModule* module;  // its entry point is called
   int code;
+};
+
+// A grip that was pressed in the view.
+struct HotGrip {
+  AcDbObjectId entity;
+  AcGePoint3d at;
 };
 
 class Document : public AcApDocument {
@@ -49,6 +57,10 @@ class Document : public AcApDocument {
   std::map<std::wstring, std::wstring> variables;      // variables stored with the drawing
   std::vector<AcDbObjectId> pickFirst;
   std::vector<AcDbObjectId> previousSelection;
+  std::set<AcDbObject*> highlighted;  // see selection/highlight.h
+  AcDbObjectId previewed;             // highlighted by the host's preview; may be null
+  std::optional<HotGrip> hotGrip;     // taken by the next GRIP_STRETCH
+  AcDbObjectId textToEdit;            // taken by the next TEXTEDIT; may be null
   std::vector<UndoStep> undo;
   UndoStep* recording = nullptr;
   int undoGroup = -1;  // number of steps when the open group began; -1: no open group

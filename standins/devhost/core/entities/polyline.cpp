@@ -14,6 +14,18 @@ Acad::ErrorStatus AcDbPolyline::addVertexAt(unsigned index, const AcGePoint3d& p
   return Acad::eOk;
 }
 
+Acad::ErrorStatus AcDbPolyline::getPointAt(unsigned index, AcGePoint3d& point) const {
+  if (index >= m_vertices.size()) return Acad::eInvalidInput;
+  point = m_vertices[index].point;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::setPointAt(unsigned index, const AcGePoint3d& point) {
+  if (index >= m_vertices.size()) return Acad::eInvalidInput;
+  m_vertices[index].point = point;
+  return Acad::eOk;
+}
+
 bool AcDbPolyline::subWorldDraw(AcGiWorldDraw* draw) const {
   if (m_vertices.empty()) return false;
   std::vector<AcGePoint3d> points{m_vertices[0].point};

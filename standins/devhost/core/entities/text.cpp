@@ -99,6 +99,12 @@ Acad::ErrorStatus AcDbText::dxfOutFields(AcDbDxfFiler* filer) const {
   return m_vertical ? filer->writeInt(73, m_vertical) : Acad::eOk;
 }
 
+Acad::ErrorStatus AcDbMText::setContents(const ACHAR* text) {
+  if (!text) return Acad::eInvalidInput;
+  m_text = text;
+  return Acad::eOk;
+}
+
 bool AcDbMText::subWorldDraw(AcGiWorldDraw* draw) const {
   const std::vector<std::wstring> lines = MTextLines(m_text, m_height > 0 ? m_width / m_height : 0);
   if (lines.empty() || m_height <= 0) return false;

@@ -1,4 +1,4 @@
-// Published services: system registry, application services, file search, redraw.
+// Published services: system registry, application services, file search.
 #include <cwchar>
 
 #include "acdocman.h"
@@ -53,13 +53,6 @@ int acedFindFile(const ACHAR* name, ACHAR* path) {
   const std::wstring found = name ? TheHost().FindFile(name) : std::wstring();
   if (found.empty() || found.size() >= 260) return RTERROR;
   std::wcscpy(path, found.c_str());
-  return RTNORM;
-}
-
-int acedRedraw(const ads_name, int) {
-  devhost::Document* current = TheHost().documents.Current();
-  if (!current) return RTERROR;
-  TheHost().Ui().PictureChanged(*current);
   return RTNORM;
 }
 

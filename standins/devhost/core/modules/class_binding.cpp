@@ -12,6 +12,7 @@
 #include "devhost/core/dxf/dxf_objects.h"
 #include "devhost/core/entities/dxf_name.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/selection/highlight.h"
 #include "devhost/core/selection/selection.h"
 
 namespace devhost {
@@ -48,6 +49,7 @@ void ReplaceEntities(Document& document, F replacement) {
     if (!fresh) continue;
     if (!changed) {  // drop all stored ids first
       SetPickFirst(document, {});
+      ForgetHighlights(document);
       document.previousSelection.clear();
       DiscardUndo(document);
       changed = true;

@@ -16,6 +16,8 @@ std::map<long long, std::vector<AcDbObjectId>>& AllSets() {
 }  // namespace
 
 void SetPickFirst(Document& document, std::vector<AcDbObjectId> ids) {
+  for (AcDbObjectId id : document.pickFirst) document.highlighted.erase(id.object());
+  for (AcDbObjectId id : ids) document.highlighted.insert(id.object());
   document.pickFirst = std::move(ids);
   TheHost().Ui().SelectionChanged(document);
 }

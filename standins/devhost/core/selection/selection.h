@@ -9,6 +9,7 @@ namespace devhost {
 
 class Document;
 
+// Highlights the objects that it adds and ends the highlight of those that it removes.
 void SetPickFirst(Document& document, std::vector<AcDbObjectId> ids);
 
 // Selection sets by name; a pointer is valid until acedSSFree.

@@ -55,6 +55,7 @@ std::vector<AcGePoint3d> PointsOf(const resbuf* list) {
 // Prompts for objects until Enter. A click picks one; "ALL", "Previous" and "Last" add those; a
 // click on empty space begins a box.
 int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObjectId>& set) {
+  const SelectionPrompt prompt(TheHost().engine);
   for (;;) {
     acedInitGet(0, L"ALL Previous Last");
     ads_point at{};

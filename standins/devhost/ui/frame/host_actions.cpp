@@ -2,9 +2,12 @@
 #include "devhost/ui/frame/host_actions.h"
 
 #include "dbsymtb.h"
+#include "devhost/core/base/journal.h"
 #include "devhost/core/base/json.h"
 #include "devhost/core/base/utf8.h"
 #include "devhost/core/host/host.h"
+#include "devhost/core/selection/highlight.h"
+#include "devhost/core/selection/selection.h"
 
 namespace devhost {
 namespace {
@@ -89,9 +92,26 @@ bool SelectByHandles(const std::vector<std::string>& handles) {
     if (!entity) return false;
     picked.push_back(entity->objectId());
   }
-  document->pickFirst = std::move(picked);
-  TheHost().Ui().SelectionChanged(*document);
+  SetPickFirst(*document, std::move(picked));
   return true;
+}
+
+std::vector<std::string> HighlightedHandles() {
+  std::vector<std::string> handles;
+  const Document* document = TheHost().documents.Current();
+  if (!document) return handles;
+  for (AcDbObjectId id : HighlightedObjects(*document)) {
+    ACHAR handle[17] = L"";
+    id.handle().getIntoAsciiBuffer(handle);
+    handles.push_back(Utf8(handle));
+  }
+  return handles;
+}
+
+void ShowHostHelp() {
+  const std::wstring command = TheHost().engine.CommandNames();
+  TheJournal().Record("hosthelp", {{"command", Utf8(command)}});
+  TheHost().Print(L"\n帮助: " + (command.empty() ? std::wstring(L"命令一览") : command) + L"\n");
 }
 
 bool SetVariableText(const std::wstring& name, const std::wstring& value) {

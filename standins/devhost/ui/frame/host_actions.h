@@ -21,6 +21,9 @@ bool SelectByHandles(const std::vector<std::string>& handles);
 bool SetVariableText(const std::wstring& name, const std::wstring& value);
 bool GetVariableText(const std::wstring& name, std::wstring* value);
 
+std::vector<std::string> HighlightedHandles();  // of the active drawing
+void ShowHostHelp();  // F1: prints and records which command help was asked for
+
 std::string DescribeActiveDatabase();  // JSON
 
 }  // namespace devhost

@@ -114,7 +114,7 @@ void HostUiImpl::PictureChanged(Document& document) {
 }
 
 void HostUiImpl::SelectionChanged(Document& document) {
-  if (DrawingChild* child = ChildOf(document)) child->View().PictureChanged();
+  if (DrawingChild* child = ChildOf(document)) child->View().HighlightChanged();
 }
 
 void HostUiImpl::Print(const std::wstring& text) {

@@ -125,6 +125,9 @@ bool MainFrame::RunMenuCommand(UINT id) {
     case kWindowTileVertical:
       ::SendMessageW(m_hWndMDIClient, WM_MDITILE, MDITILE_VERTICAL, 0);
       return true;
+    case kHelpTopics:
+      ShowHostHelp();
+      return true;
   }
   return false;
 }

@@ -1,6 +1,8 @@
 // Tables of the menu bar; see the header.
 #include "devhost/ui/frame/main_menu.h"
 
+#include <iterator>
+
 namespace devhost {
 namespace {
 
@@ -46,8 +48,10 @@ MainMenu MakeMainMenu() {
 }
 
 HACCEL MakeMainKeys() {
-  ACCEL keys[] = {{FCONTROL | FVIRTKEY, 'N', kFileNew}, {FCONTROL | FVIRTKEY, 'O', kFileOpen}};
-  return ::CreateAcceleratorTableW(keys, 2);
+  ACCEL keys[] = {{FCONTROL | FVIRTKEY, 'N', kFileNew},
+                  {FCONTROL | FVIRTKEY, 'O', kFileOpen},
+                  {FVIRTKEY, VK_F1, kHelpTopics}};
+  return ::CreateAcceleratorTableW(keys, static_cast<int>(std::size(keys)));
 }
 
 void EnableMainMenu(HMENU menu, bool drawingOpen) {

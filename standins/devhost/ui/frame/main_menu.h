@@ -17,6 +17,7 @@ enum MenuCommand : UINT {
   kWindowCascade,
   kWindowTileHorizontal,
   kWindowTileVertical,
+  kHelpTopics,  // F1; not in the menu
 };
 
 struct MainMenu {

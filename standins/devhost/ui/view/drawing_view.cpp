@@ -37,6 +37,11 @@ void DrawingView::SelectionChanged() {
   if (m_hWnd) ::InvalidateRect(m_hWnd, nullptr, FALSE);
 }
 
+void DrawingView::HighlightChanged() {
+  if (m_model.HighlightChanged()) m_sceneDirty = true;
+  SelectionChanged();
+}
+
 // An open selection box keeps its first corner at the same place of the drawing.
 template <class F>
 void DrawingView::ChangeView(F change) {
@@ -105,6 +110,7 @@ void DrawingView::OnMove(WPARAM keys, POINT at) {
       !m_model.WaitsForPoint())
     m_boxFrom = m_press;
   MoveCursor(at);
+  m_model.PreviewAt(at);
   TRACKMOUSEEVENT leave = {sizeof leave, TME_LEAVE, m_hWnd, 0};
   ::TrackMouseEvent(&leave);
   if (MainFrame* frame = TheFrame()) frame->Status().ShowCoordinates(m_model.CoordinatesAt(at));
@@ -147,6 +153,10 @@ void DrawingView::OnPress(WPARAM keys, POINT at) {
     return;
   }
   if (m_model.CommandIsActive()) return;
+  if (m_model.PressGrip(at)) {
+    m_gripPress = at;
+    return;
+  }
   m_press = at;
   if (m_model.PickAt(at, (keys & MK_SHIFT) != 0)) {
     m_press.reset();
@@ -161,6 +171,15 @@ void DrawingView::OnRelease(WPARAM keys, POINT at) {
   EndOrbit();
   const bool dragged = m_press && IsDrag(*m_press, at);
   if (dragged && m_boxFrom) PickBox(keys, *m_boxFrom, at);
+  m_press.reset();
+  // A grip that was dragged is released at its new place; one that was clicked waits for a click.
+  if (m_gripPress && IsDrag(*m_gripPress, at) && m_model.WaitsForPoint()) m_model.EnterPoint(at);
+  m_gripPress.reset();
+}
+
+void DrawingView::OnDoubleClick(WPARAM keys, POINT at) {
+  if (!m_model.EditTextAt(at)) return OnPress(keys, at);
+  m_boxFrom.reset();
   m_press.reset();
 }
 
@@ -188,7 +207,7 @@ bool DrawingView::OnMouse(UINT message, WPARAM keys, POINT at) {
       OnRelease(keys, at);
       return true;
     case WM_LBUTTONDBLCLK:
-      OnPress(keys, at);
+      OnDoubleClick(keys, at);
       return true;
     case WM_MBUTTONDOWN:
       BeginPan(at);
@@ -276,6 +295,7 @@ void DrawingView::Paint() {
   PaintScope dc(m_hWnd);
   if (dc.Client().right <= 0 || dc.Client().bottom <= 0) return;
   PaintScene(dc, dc.Client());
+  m_model.PaintHighlights(dc);
   PaintOverlay(dc, Overlay());
 }
 
@@ -294,6 +314,7 @@ LRESULT DrawingView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_MOUSELEAVE:
       MoveCursor(std::nullopt);
+      m_model.EndPreview();
       break;
     case WM_CAPTURECHANGED:
       m_panFrom.reset();

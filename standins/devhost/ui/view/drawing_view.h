@@ -19,6 +19,7 @@ class DrawingView : public CWnd {
   bool CreateIn(CWnd* parent);
   void PictureChanged();    // database or view transform changed: repaint
   void SelectionChanged();  // only the overlay changed
+  void HighlightChanged();  // other objects are selected or highlighted
   void ZoomAt(POINT pixel, double factor);
   void ZoomExtents();
   ViewModel& Model() { return m_model; }
@@ -40,6 +41,7 @@ class DrawingView : public CWnd {
   bool BeginOrbit(POINT at);
   void EndOrbit();
   void ShowPointer();
+  void OnDoubleClick(WPARAM keys, POINT at);
   void BeginPan(POINT at);
   void EndPan();
   void PickBox(WPARAM keys, POINT from, POINT to);
@@ -55,6 +57,7 @@ class DrawingView : public CWnd {
   bool m_sized = false;
   std::optional<POINT> m_cursor, m_press, m_boxFrom, m_panFrom, m_orbitFrom;
   int m_panViewport = 0;  // in which the pan began
+  std::optional<POINT> m_gripPress;  // the grip that the button is held on
 };
 
 }  // namespace devhost

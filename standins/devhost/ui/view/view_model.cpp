@@ -3,9 +3,13 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <set>
+#include <utility>
 
 #include "devhost/core/view/grid.h"
+#include "devhost/core/commands/native_commands.h"
+#include "devhost/core/host/host.h"
+#include "devhost/core/selection/highlight.h"
+#include "devhost/core/selection/selection.h"
 #include "devhost/ui/painting/scene_painter.h"
 #include "devhost/ui/view/pick_logic.h"
 #include "devhost/ui/view/viewport_paint.h"
@@ -91,14 +95,43 @@ UserSystem ViewModel::System() const {
 
 void ViewModel::PaintScene(HDC dc) {
   BuildShapes();
-  std::set<const AcDbObject*> picked;
-  for (const AcDbObjectId& id : m_document.pickFirst) picked.insert(id.object());
+  const bool highlight = IsHighlightInScene();
   ForEachViewport(dc, m_document.viewports, [&](const ViewTransform& view) {
     PaintGrid(dc, view);
     ScenePainter painter(dc, view.Pixels(), view);
-    for (const Shape& shape : m_shapes) painter.Paint(shape, picked.count(shape.entity) != 0);
+    for (const Shape& shape : m_shapes)
+      painter.Paint(
+          shape, highlight && shape.entity && IsHighlighted(m_document, shape.entity->objectId()));
   });
   PaintViewportBorders(dc, m_document.viewports.OnScreen());
+}
+
+bool ViewModel::IsHighlightInScene() const {
+  return m_document.highlighted.size() > kMaxGrippedEntities;
+}
+
+bool ViewModel::HighlightChanged() {
+  m_highlightStale = true;
+  const bool before = std::exchange(m_highlightInScene, IsHighlightInScene());
+  return before || m_highlightInScene;
+}
+
+void ViewModel::PaintHighlights(HDC dc) {
+  if (IsHighlightInScene()) return;
+  const double scale = m_document.view.PixelsPerUnit();
+  if (m_highlightStale || m_highlightScale != scale) {
+    m_highlight.clear();
+    for (AcDbObjectId id : HighlightedObjects(m_document))
+      if (AcDbEntity* entity = AcDbEntity::cast(id.object()))
+        for (Shape& shape : ShapesOf(*entity, scale)) m_highlight.push_back(std::move(shape));
+    m_highlightScale = scale;
+    m_highlightStale = false;
+  }
+  if (m_highlight.empty()) return;
+  ForEachViewport(dc, m_document.viewports, [&](const ViewTransform& view) {
+    ScenePainter painter(dc, view.Pixels(), view);
+    for (const Shape& shape : m_highlight) painter.Paint(shape, true);
+  });
 }
 
 std::optional<POINT> ViewModel::PixelOf(double x, double y) const {
@@ -156,8 +189,8 @@ void ViewModel::EnterPoint(POINT pixel) {
   TheHost().engine.EnterPoint(m_document.view.ToWorld(pixel));
 }
 
-std::vector<POINT> ViewModel::Grips() const {
-  std::vector<POINT> grips;
+std::vector<ViewModel::Grip> ViewModel::GripPlaces() const {
+  std::vector<Grip> grips;
   if (m_document.pickFirst.size() > kMaxGrippedEntities) return grips;
   for (const AcDbObjectId& id : m_document.pickFirst) {
     AcDbEntity* entity = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
@@ -166,10 +199,44 @@ std::vector<POINT> ViewModel::Grips() const {
     const std::vector<Shape> shapes = ShapesOf(*entity, m_document.view.PixelsPerUnit());
     for (size_t i = 0; i < shapes.size() && i < kMaxCorners; ++i)
       AddGrips(shapes[i].points, &points);
-    for (const AcGePoint3d& point : points) grips.push_back(m_document.view.ToPixel(point));
+    for (const AcGePoint3d& point : points) grips.push_back({entity, point});
   }
   return grips;
 }
+
+std::vector<POINT> ViewModel::Grips() const {
+  std::vector<POINT> pixels;
+  for (const Grip& grip : GripPlaces()) pixels.push_back(m_document.view.ToPixel(grip.at));
+  return pixels;
+}
+
+bool ViewModel::PressGrip(POINT pixel) {
+  const std::vector<POINT> spots = Grips();
+  const int grip = NearestSpot(spots.data(), static_cast<int>(spots.size()), pixel, kGripHalf);
+  if (grip < 0) return false;
+  const Grip pressed = GripPlaces()[static_cast<size_t>(grip)];
+  return TheHost().engine.StretchGrip(m_document, pressed.entity->objectId(), pressed.at);
+}
+
+AcDbEntity* ViewModel::EntityUnder(POINT pixel) const {
+  return EntityAt(*m_document.database(), m_document.view.ToWorld(pixel),
+                  kPickBox / m_document.view.PixelsPerUnit());
+}
+
+bool ViewModel::EditTextAt(POINT pixel) {
+  const AcDbEntity* entity =
+      CommandIsActive() || !IsInCurrent(pixel) ? nullptr : EntityUnder(pixel);
+  return entity && IsPlainText(*entity) &&
+         TheHost().engine.EditText(m_document, entity->objectId());
+}
+
+void ViewModel::PreviewAt(POINT pixel) {
+  if (!IsInCurrent(pixel)) return EndPreview();
+  devhost::PreviewAt(m_document, m_document.view.ToWorld(pixel),
+                     kPickBox / m_document.view.PixelsPerUnit());
+}
+
+void ViewModel::EndPreview() { devhost::EndPreview(m_document); }
 
 bool ViewModel::IsPicked(const AcDbObject* entity) const {
   return std::any_of(m_document.pickFirst.begin(), m_document.pickFirst.end(),
@@ -177,8 +244,7 @@ bool ViewModel::IsPicked(const AcDbObject* entity) const {
 }
 
 bool ViewModel::PickAt(POINT pixel, bool remove) {
-  const double reach = kPickBox / m_document.view.PixelsPerUnit();
-  AcDbEntity* entity = EntityAt(*m_document.database(), m_document.view.ToWorld(pixel), reach);
+  AcDbEntity* entity = EntityUnder(pixel);
   if (!entity) return false;
   TakePicked({entity}, remove);
   return true;
@@ -192,14 +258,13 @@ void ViewModel::PickIn(const RECT& box, bool crossing, bool remove) {
 
 // Adds the entities to the pick-first set, or removes them.
 void ViewModel::TakePicked(const std::vector<AcDbEntity*>& entities, bool remove) {
+  std::vector<AcDbObjectId> picked = m_document.pickFirst;
   for (AcDbEntity* entity : entities) {
     const bool there = IsPicked(entity);
-    if (remove && there)
-      std::erase_if(m_document.pickFirst,
-                    [entity](const AcDbObjectId& id) { return id.object() == entity; });
-    if (!remove && !there) m_document.pickFirst.push_back(entity->objectId());
+    if (remove && there) std::erase(picked, entity->objectId());
+    if (!remove && !there) picked.push_back(entity->objectId());
   }
-  TheHost().Ui().SelectionChanged(m_document);
+  SetPickFirst(m_document, std::move(picked));
 }
 
 }  // namespace devhost

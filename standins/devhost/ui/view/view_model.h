@@ -27,7 +27,7 @@ class ViewModel {
   bool MakeCurrentAt(POINT pixel);  // false: that viewport is current already, or none is there
   RECT CurrentPixels() const { return m_document.view.Pixels(); }
   void PaintScene(HDC dc);  // all viewports, with grids and borders
-  void EntitiesChanged() { m_shapesStale = true; }
+  void EntitiesChanged() { m_shapesStale = m_highlightStale = true; }
 
   std::optional<POINT> PixelOf(double x, double y) const;
   std::optional<POINT> PixelOnEntity(const std::string& handle) const;  // where a click picks it
@@ -44,14 +44,30 @@ class ViewModel {
   void EnterPoint(POINT pixel);
 
   std::vector<POINT> Grips() const;       // none if very many entities are selected
+  bool PressGrip(POINT pixel);            // starts GRIP_STRETCH; false: no grip there
+  bool EditTextAt(POINT pixel);           // starts TEXTEDIT; false: no text there
   bool PickAt(POINT pixel, bool remove);  // false: nothing there
+  void PreviewAt(POINT pixel);            // the host's own highlight of what a click would pick
+  void EndPreview();
+
+  // Few highlighted objects are painted over the picture, so that a preview does not repaint it;
+  // many are part of it. True if the picture must be painted again.
+  bool HighlightChanged();
+  void PaintHighlights(HDC dc);
   void PickIn(const RECT& box, bool crossing, bool remove);
 
  private:
+  struct Grip {
+    AcDbEntity* entity;
+    AcGePoint3d at;
+  };
   void BuildShapes();
   void PaintGrid(HDC dc, const ViewTransform& view) const;
   std::wstring VariableText(const wchar_t* name) const;  // of this drawing
   UserSystem System() const;                             // the user's, of this drawing
+  bool IsHighlightInScene() const;
+  std::vector<Grip> GripPlaces() const;
+  AcDbEntity* EntityUnder(POINT pixel) const;
   bool IsPicked(const AcDbObject* entity) const;
   void TakePicked(const std::vector<AcDbEntity*>& entities, bool remove);
 
@@ -59,6 +75,10 @@ class ViewModel {
   std::vector<Shape> m_shapes;  // of the current space, built for m_shapesScale
   double m_shapesScale = 0;
   bool m_shapesStale = true;
+  std::vector<Shape> m_highlight;  // shapes of the highlighted objects
+  double m_highlightScale = 0;
+  bool m_highlightStale = true;
+  bool m_highlightInScene = false;
 };
 
 }  // namespace devhost
