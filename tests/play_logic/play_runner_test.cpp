@@ -31,6 +31,16 @@ class DiaryWorld : public PlayWorld {
     *value = variables[name];
     return true;
   }
+  bool Setting(const std::string& name, std::string* value) override {
+    if (!settings.contains(name)) return false;
+    *value = settings[name];
+    return true;
+  }
+  std::vector<std::string> HighlightedHandles() override { return highlighted; }
+  std::string TypedText() override { return typed; }
+  std::string PointerAway(const Target& target) override {
+    return target.x == pointerX ? "" : "it is elsewhere";
+  }
   Milliseconds Now() override { return m_now; }
   void Pause(Milliseconds time) override {
     m_now += time;
@@ -45,11 +55,17 @@ class DiaryWorld : public PlayWorld {
   void SendAfter(Milliseconds time, const std::string& text) {
     later.emplace(m_now + time, [this, text] { Send(text); });
   }
+  void OpenHelp(const std::string& file, int command, const std::string& keyword) {
+    m_journal.Record("help", {{"file", file}, {"command", command}, {"keyword", keyword}});
+  }
   void PrintText(const std::string& text) { m_journal.Record("printed", {{"text", text}}); }
 
   std::string log, printed, state = "{}";
   std::map<std::string, std::function<void()>> on;
-  std::map<std::string, std::string> problems, variables;
+  std::map<std::string, std::string> problems, variables, settings;
+  std::vector<std::string> highlighted;
+  std::string typed;
+  double pointerX = 0;
   std::multimap<Milliseconds, std::function<void()>> later;
   Milliseconds idleFrom{0}, menuFrom{1h}, popupFrom{1h};
 
@@ -74,6 +90,62 @@ class PlayTest : public testing::Test {
 TEST_F(PlayTest, StepsRunInOrderUntilQuit) {
   EXPECT_EQ(Play("new\ntype \"a\"\nquit\nclose\n"), 0);
   EXPECT_EQ(world.log, "new; type \"a\"; ");
+}
+
+TEST_F(PlayTest, HighlightedObjectsAreComparedAsASetAndWaitedFor) {
+  world.highlighted = {"2A", "21"};
+  EXPECT_EQ(Play("expect highlighted 21 2a\n"), 0);
+  EXPECT_EQ(Play("expect highlighted 21\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:1: expect highlighted 21\n"
+            "  expected to be highlighted: 21; highlighted: 21 2A");
+  world.printed.clear();
+  EXPECT_EQ(Play("expect highlighted none\n"), 1);
+  EXPECT_NE(world.printed.find("expected to be highlighted: none"), std::string::npos);
+  world.later.emplace(world.Now() + 300ms, [this] { world.highlighted.clear(); });
+  EXPECT_EQ(Play("expect highlighted none\n"), 0);
+}
+
+TEST_F(PlayTest, SettingsAreComparedLikeVariables) {
+  world.settings["g_nSpeedMenu"] = "3";
+  EXPECT_EQ(Play("expect setting g_nSpeedMenu 3\nexpect setting g_nSpeedMenu 3.0\n"), 0);
+  EXPECT_EQ(Play("expect setting g_nSpeedMenu 2\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:1: expect setting g_nSpeedMenu 2\n"
+            "  expected setting g_nSpeedMenu to be \"2\"; it is \"3\"");
+  world.printed.clear();
+  EXPECT_EQ(Play("expect setting g_bNone 1\n"), 1);
+  EXPECT_NE(world.printed.find("there is no such setting"), std::string::npos);
+}
+
+TEST_F(PlayTest, HelpCallsAreComparedByFileCommandAndKeywordAndMeetOneExpectationEach) {
+  world.on["press F1"] = [this] {
+    world.OpenHelp("C:\\product\\help.chm", 0, "");
+    world.OpenHelp("C:\\product\\help.chm", 13, "墙体");
+    world.OpenHelp("C:\\product\\help.chm", 2, "墙体");
+  };
+  EXPECT_EQ(Play("press F1\n"
+                 "expect help \"help.chm\" topic\n"
+                 "expect help \"help.chm\" keyword \"墙体\"\n"
+                 "expect help \"help.chm\" index \"墙体\"\n"),
+            0);
+  EXPECT_EQ(Play("press F1\nexpect help \"help.chm\" topic\nexpect help \"help.chm\" topic\n"), 1);
+  EXPECT_NE(world.printed.find("opened: \"help.chm\" 13 \"墙体\", \"help.chm\" 2 \"墙体\""),
+            std::string::npos)
+      << world.printed;
+}
+
+TEST_F(PlayTest, PointerAndTypedTextAreWaitedFor) {
+  world.pointerX = 5;
+  world.typed = "_.LI";
+  EXPECT_EQ(Play("expect pointer view 5 9\nexpect typed \"_.LI\"\n"), 0);
+  EXPECT_EQ(Play("expect pointer view 6 9\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:1: expect pointer view 6 9\n"
+            "  expected the pointer on the target; it is elsewhere");
+  world.printed.clear();
+  EXPECT_EQ(Play("expect typed \"\"\n"), 1);
+  EXPECT_NE(world.printed.find("expected to be typed: \"\"; it is \"_.LI\""), std::string::npos);
 }
 
 TEST_F(PlayTest, APartEndsAtARestart) {

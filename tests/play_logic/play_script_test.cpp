@@ -55,7 +55,11 @@ TEST(PlayScript, EveryVerbHasItsKind) {
       {"click view 1 2", StepKind::Click},
       {"rightclick view 1 2", StepKind::RightClick},
       {"doubleclick view 1 2", StepKind::DoubleClick},
+      {"middleclick view 1 2", StepKind::MiddleClick},
       {"hold 300 view 1 2", StepKind::Hold},
+      {"buttondown right view 1 2", StepKind::ButtonDown},
+      {"buttonup left view 1 2 Ctrl", StepKind::ButtonUp},
+      {"middledrag view 1 2 view 3 4", StepKind::MiddleDrag},
       {"move view 1 2", StepKind::Move},
       {"wheel view 1 2 -120", StepKind::Wheel},
       {"drag view 1 2 view 3 4", StepKind::Drag},
@@ -70,6 +74,11 @@ TEST(PlayScript, EveryVerbHasItsKind) {
       {"expect sent \"a\"", StepKind::ExpectSent},
       {"expect nothing sent", StepKind::ExpectNothingSent},
       {"expect printed \"a\"", StepKind::ExpectPrinted},
+      {"expect typed \"a\"", StepKind::ExpectTyped},
+      {"expect help \"a.chm\" topic", StepKind::ExpectHelp},
+      {"expect highlighted 1A", StepKind::ExpectHighlighted},
+      {"expect pointer world 1 2", StepKind::ExpectPointer},
+      {"expect setting g_nRunMode 1", StepKind::ExpectSetting},
       {"expect var OSMODE 1", StepKind::ExpectVar},
       {"expect state tabs.active 1", StepKind::ExpectState},
       {"dump shell", StepKind::DumpShell},
@@ -139,8 +148,25 @@ TEST(PlayScript, KeysHaveNames) {
 }
 
 TEST(PlayScript, SelectTakesHandlesUntilTheLineEnds) {
-  EXPECT_EQ(OneStep("select 1A 2b").handles, (std::vector<std::string>{"1A", "2b"}));
+  EXPECT_EQ(OneStep("select 1A 2b").handles, (std::vector<std::string>{"1A", "2B"}));
   EXPECT_TRUE(OneStep("select none").handles.empty());
+}
+
+TEST(PlayScript, ButtonsHelpCallsAndHighlightedObjectsHaveTheirParts) {
+  EXPECT_EQ(OneStep("buttondown middle view 1 2").button, MouseButton::Middle);
+  const Step up = OneStep("buttonup right view 1 2 Ctrl");
+  EXPECT_EQ(up.button, MouseButton::Right);
+  EXPECT_TRUE(up.ctrl);
+  const Step help = OneStep("expect help \"qvx.chm\" keyword \"墙体\"");
+  EXPECT_EQ(help.text, "qvx.chm");
+  EXPECT_EQ(help.number, 13);
+  EXPECT_EQ(help.value.text, "墙体");
+  EXPECT_TRUE(OneStep("expect highlighted none").handles.empty());
+  EXPECT_EQ(OneStep("expect highlighted 21 a0").handles, (std::vector<std::string>{"21", "A0"}));
+  for (const char* text : {"expect help \"a\" index", "expect highlighted 21",
+                           "expect pointer view 1 2", "expect typed \"\"", "expect setting a 1"})
+    EXPECT_TRUE(IsExpectation(OneStep(text).kind)) << text;
+  EXPECT_FALSE(IsExpectation(OneStep("buttonup right view 1 2").kind));
 }
 
 TEST(PlayScript, ValuesRecordWhetherTheyWereQuoted) {
@@ -177,6 +203,13 @@ TEST(PlayScript, ErrorsHaveAPlaceAndNameWhatWasExpected) {
       {"wheel view 0 0 99999",
        "t.script:1:16: error: the delta must be a whole number from -32767 to 32767"},
       {"hold -1 view 0 0", "t.script:1:6: error: the time must be a whole number from 0 to 600000"},
+      {"buttondown view 0 0", "t.script:1:12: error: the button is left, right or middle"},
+      {"buttondown", "t.script:1:11: error: the button is missing"},
+      {"expect help topic", "t.script:1:13: error: the help file in quotes is missing"},
+      {"expect help \"a\" page",
+       "t.script:1:17: error: only topic, index and keyword can be expected"},
+      {"expect highlighted", "t.script:1:19: error: the handle is missing"},
+      {"expect pointer", "t.script:1:15: error: the target is missing"},
       {"wait long",
        "t.script:1:6: error: the time, or idle, menu, popup, must be a whole number from 0 to "
        "600000"},

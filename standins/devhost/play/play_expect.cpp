@@ -1,6 +1,7 @@
 // Expectations of play scripts; see the header.
 #include "devhost/play/play_expect.h"
 
+#include <algorithm>
 #include <functional>
 
 #include "devhost/play/state_path.h"
@@ -10,9 +11,22 @@ namespace {
 
 constexpr std::size_t kMaxQuote = 400;  // of actual text in messages, in bytes
 
-std::string TextOf(const JournalEntry& entry) {
-  const auto text = entry.fields.find("text");
+std::string FieldOf(const JournalEntry& entry, const char* name) {
+  const auto text = entry.fields.find(name);
   return text != entry.fields.end() && text->is_string() ? text->get<std::string>() : "";
+}
+
+std::string TextOf(const JournalEntry& entry) { return FieldOf(entry, "text"); }
+
+std::string FileNameIn(const std::string& path) {
+  const std::size_t folder = path.find_last_of("\\/");
+  return folder == path.npos ? path : path.substr(folder + 1);
+}
+
+std::string Joined(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
+  return text.empty() ? "none" : text;
 }
 
 // The end of a long text, which usually explains a failure best.
@@ -52,7 +66,7 @@ PlayExpectations::PlayExpectations(const Journal& journal, PlayWorld& world)
     : m_journal(journal), m_world(world) {}
 
 void PlayExpectations::BeginStep() {
-  if (m_expecting) m_sentFrom = m_printedFrom = m_journal.Count();
+  if (m_expecting) m_sentFrom = m_printedFrom = m_helpFrom = m_journal.Count();
   m_expecting = false;
 }
 
@@ -65,8 +79,17 @@ std::string PlayExpectations::Check(const Step& step) {
       return NothingSent();
     case StepKind::ExpectPrinted:
       return Printed(step.text);
+    case StepKind::ExpectHelp:
+      return Help(step);
     case StepKind::ExpectVar:
-      return Variable(step);
+    case StepKind::ExpectSetting:
+      return Value(step);
+    case StepKind::ExpectHighlighted:
+      return Highlighted(step);
+    case StepKind::ExpectPointer:
+      return Pointer(step);
+    case StepKind::ExpectTyped:
+      return Typed(step.text);
     case StepKind::ExpectState:
       return State(step);
     default:
@@ -119,7 +142,9 @@ std::string PlayExpectations::Printed(const std::string& text) {
   return "expected to be printed: " + QuotedForScript(text) + "; printed: " + Shown(printed);
 }
 
-std::string PlayExpectations::Variable(const Step& step) {
+std::string PlayExpectations::Value(const Step& step) {
+  const bool setting = step.kind == StepKind::ExpectSetting;
+  const std::string what = setting ? "setting" : "variable";
   std::string value;
   bool known = false;
   const auto equals = [&] {
@@ -128,13 +153,67 @@ std::string PlayExpectations::Variable(const Step& step) {
     return number.is_number() && ValueMatches(number, step.value);
   };
   const bool met = WaitFor(m_world, [&] {
-    known = m_world.Variable(step.text, &value);
+    known = setting ? m_world.Setting(step.text, &value) : m_world.Variable(step.text, &value);
     return known && equals();
   });
   if (met) return {};
-  const std::string came = known ? "it is " + QuotedForScript(value) : "there is no such variable";
-  return "expected variable " + step.text + " to be " + QuotedForScript(step.value.text) + "; " +
-         came;
+  const std::string came = known ? "it is " + QuotedForScript(value) : "there is no such " + what;
+  return "expected " + what + " " + step.text + " to be " + QuotedForScript(step.value.text) +
+         "; " + came;
+}
+
+// Compares file names without folders, because a module passes the full path.
+std::string PlayExpectations::Help(const Step& step) {
+  std::string calls;
+  const bool met = WaitFor(m_world, [&] {
+    calls.clear();
+    for (const JournalEntry& entry : EntriesOf(m_journal, m_helpFrom, "help")) {
+      const std::string file = FileNameIn(FieldOf(entry, "file")),
+                        keyword = FieldOf(entry, "keyword");
+      const auto command = entry.fields.find("command");
+      const int number = command == entry.fields.end() ? -1 : command->get<int>();
+      calls += (calls.empty() ? "" : ", ") + QuotedForScript(file) + " " + std::to_string(number) +
+               " " + QuotedForScript(keyword);
+      if (file != step.text || number != step.number || keyword != step.value.text) continue;
+      m_helpFrom = entry.number;
+      return true;
+    }
+    return false;
+  });
+  if (met) return {};
+  return "expected help " + QuotedForScript(step.text) + " " + std::to_string(step.number) + " " +
+         QuotedForScript(step.value.text) + "; opened: " + (calls.empty() ? "nothing" : calls);
+}
+
+std::string PlayExpectations::Highlighted(const Step& step) {
+  std::vector<std::string> wanted = step.handles, came;
+  std::sort(wanted.begin(), wanted.end());
+  const bool met = WaitFor(m_world, [&] {
+    came = m_world.HighlightedHandles();
+    std::sort(came.begin(), came.end());
+    return came == wanted;
+  });
+  if (met) return {};
+  return "expected to be highlighted: " + Joined(wanted) + "; highlighted: " + Joined(came);
+}
+
+std::string PlayExpectations::Pointer(const Step& step) {
+  std::string problem;
+  const bool met = WaitFor(m_world, [&] {
+    problem = m_world.PointerAway(step.target);
+    return problem.empty();
+  });
+  return met ? "" : "expected the pointer on the target; " + problem;
+}
+
+std::string PlayExpectations::Typed(const std::string& text) {
+  std::string typed;
+  const bool met = WaitFor(m_world, [&] {
+    typed = m_world.TypedText();
+    return typed == text;
+  });
+  if (met) return {};
+  return "expected to be typed: " + QuotedForScript(text) + "; it is " + Shown(typed);
 }
 
 std::string PlayExpectations::State(const Step& step) {

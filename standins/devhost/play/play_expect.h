@@ -1,8 +1,10 @@
-// Checks the expectations of a script against journal, variables and shell state. An expectation
+// Checks the expectations of a script against journal, variables, settings, highlighted objects,
+// pointer, typed text and shell state. An expectation
 // waits for events that are still to come; a failure names the actual value.
 //
 // Consecutive expectations examine the journal from the first acting step after the previous group.
-// Each match advances its own kind (sent, printed), so two expectations never match one entry.
+// Each match advances its own kind (sent, printed, help), so two expectations never match one
+// entry.
 #pragma once
 
 #include "devhost/core/base/journal.h"
@@ -28,7 +30,11 @@ class PlayExpectations {
   std::string Sent(const std::string& text);
   std::string NothingSent();
   std::string Printed(const std::string& text);
-  std::string Variable(const Step& step);
+  std::string Help(const Step& step);
+  std::string Value(const Step& step);
+  std::string Highlighted(const Step& step);
+  std::string Pointer(const Step& step);
+  std::string Typed(const std::string& text);
   std::string State(const Step& step);
   bool WaitUntilIdle();
 
@@ -37,6 +43,7 @@ class PlayExpectations {
   bool m_expecting = false;  // an expectation was checked after the last acting step
   int m_sentFrom = 0;        // number of the last entry that is not examined
   int m_printedFrom = 0;
+  int m_helpFrom = 0;
 };
 
 }  // namespace devhost

@@ -95,8 +95,11 @@ class StepReader {
   bool Select();
   bool Press();
   bool HoldButton();
+  bool Button();
   bool Wheel();
   bool Drag();
+  bool Handles();
+  bool ExpectHelp();
   bool Pointer(StepKind kind) { return Is(kind) && ReadTarget(&m_step->target) && Held(); }
   bool Text(StepKind kind, const char* what) { return Is(kind) && Quoted(&m_step->text, what); }
   bool Assign(StepKind kind) {
@@ -111,6 +114,10 @@ class StepReader {
   bool Type() { return Text(StepKind::Type, "the text"); }
   bool Click();
   bool RightClick() { return Pointer(StepKind::RightClick); }
+  bool MiddleClick() { return Pointer(StepKind::MiddleClick); }
+  bool ButtonDown() { return Is(StepKind::ButtonDown) && Button(); }
+  bool ButtonUp() { return Is(StepKind::ButtonUp) && Button(); }
+  bool MiddleDrag() { return Drag() && Is(StepKind::MiddleDrag); }
   bool DoubleClick() { return Pointer(StepKind::DoubleClick); }
   bool Move() { return Is(StepKind::Move) && ReadTarget(&m_step->target); }
   bool SetVar() { return Assign(StepKind::SetVar); }
@@ -139,6 +146,10 @@ const std::map<std::string_view, StepReader::Rule>& StepReader::Rules() {
       {"press", &StepReader::Press},
       {"click", &StepReader::Click},
       {"rightclick", &StepReader::RightClick},
+      {"middleclick", &StepReader::MiddleClick},
+      {"buttondown", &StepReader::ButtonDown},
+      {"buttonup", &StepReader::ButtonUp},
+      {"middledrag", &StepReader::MiddleDrag},
       {"doubleclick", &StepReader::DoubleClick},
       {"hold", &StepReader::HoldButton},
       {"move", &StepReader::Move},
@@ -172,6 +183,8 @@ bool StepReader::Points(Target* target) { return Real(&target->x, "x") && Real(&
 // handle: hexadecimal digits
 bool StepReader::Handle(std::string* handle) {
   if (!Bare(handle, "the handle")) return false;
+  for (char& c : *handle)
+    if (c >= 'a' && c <= 'f') c = static_cast<char>(c - 'a' + 'A');
   if (handle->size() <= 16 && handle->find_first_not_of("0123456789ABCDEFabcdef") == handle->npos)
     return true;
   return FailBack("a handle has up to 16 hexadecimal digits");
@@ -248,9 +261,23 @@ bool StepReader::Drag() {
          Held();
 }
 
-// select: none | HANDLE { HANDLE }
-bool StepReader::Select() {
-  Is(StepKind::Select);
+// button: (left | right | middle) target held
+bool StepReader::Button() {
+  static const std::map<std::string_view, MouseButton> buttons = {
+      {"left", MouseButton::Left}, {"right", MouseButton::Right}, {"middle", MouseButton::Middle}};
+  std::string word;
+  if (!Bare(&word, "the button")) return false;
+  const auto button = buttons.find(word);
+  if (button == buttons.end()) return FailBack("the button is left, right or middle");
+  m_step->button = button->second;
+  return ReadTarget(&m_step->target) && Held();
+}
+
+// select: handles
+bool StepReader::Select() { return Is(StepKind::Select) && Handles(); }
+
+// handles: none | HANDLE { HANDLE }
+bool StepReader::Handles() {
   if (!AtEnd() && !m_words[m_at].quoted && m_words[m_at].text == "none") {
     ++m_at;
     return true;
@@ -277,13 +304,32 @@ bool StepReader::Wait() {
   return true;
 }
 
-// expect: sent "text" | nothing sent | printed "text" | var NAME value | state PATH value
+// help: "file" (topic | index | keyword) ["text"]
+bool StepReader::ExpectHelp() {
+  static const std::map<std::string_view, int> commands = {
+      {"topic", 0}, {"index", 2}, {"keyword", 13}};  // HH_DISPLAY_TOPIC and so on
+  std::string word;
+  if (!Text(StepKind::ExpectHelp, "the help file") || !Bare(&word, "topic, index or keyword"))
+    return false;
+  const auto command = commands.find(word);
+  if (command == commands.end()) return FailBack("only topic, index and keyword can be expected");
+  m_step->number = command->second;
+  return AtEnd() || Quoted(&m_step->value.text, "the keyword");
+}
+
+// expect: sent "text" | nothing sent | printed "text" | typed "text" | help | var NAME value
+//       | setting NAME value | highlighted handles | pointer target | state PATH value
 bool StepReader::Expect() {
   std::string what;
   if (!Bare(&what, "what is expected")) return false;
   if (what == "sent") return Text(StepKind::ExpectSent, "the text");
   if (what == "printed") return Text(StepKind::ExpectPrinted, "the text");
+  if (what == "typed") return Text(StepKind::ExpectTyped, "the text");
+  if (what == "help") return ExpectHelp();
   if (what == "var") return Assign(StepKind::ExpectVar);
+  if (what == "setting") return Assign(StepKind::ExpectSetting);
+  if (what == "highlighted") return Is(StepKind::ExpectHighlighted) && Handles();
+  if (what == "pointer") return Is(StepKind::ExpectPointer) && ReadTarget(&m_step->target);
   if (what == "nothing") {
     std::string sent;
     if (!Bare(&sent, "\"sent\"")) return false;

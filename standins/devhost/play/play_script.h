@@ -22,11 +22,15 @@ enum class StepKind {
   Click,
   ClickTwo,
   RightClick,
+  MiddleClick,
   DoubleClick,
   Hold,
+  ButtonDown,
+  ButtonUp,
   Move,
   Wheel,
   Drag,
+  MiddleDrag,
   Select,
   SetVar,
   Setting,
@@ -37,7 +41,12 @@ enum class StepKind {
   ExpectSent,
   ExpectNothingSent,
   ExpectPrinted,
+  ExpectHelp,
   ExpectVar,
+  ExpectSetting,
+  ExpectHighlighted,
+  ExpectPointer,
+  ExpectTyped,
   ExpectState,
   DumpShell,
   DumpWindows,
@@ -46,6 +55,8 @@ enum class StepKind {
   Restart,
   Quit,
 };
+
+enum class MouseButton { Left, Right, Middle };
 
 enum class TargetKind { None, Row, Tab, Pane, Popup, Button, Entity, World, View };
 
@@ -66,15 +77,16 @@ struct Step {
   int line = 0;
   std::string source;  // the line without blanks at its ends
   StepKind kind = StepKind::Quit;
-  std::string text;  // path, name, text, or path in the shell state
+  std::string text;  // path, name, text, help file, or path in the shell state
   ScriptValue value;
   Target target;
   Target target2;     // end of a drag, or the second click
   bool ctrl = false;  // keys held during mouse input
   bool shift = false;
-  int number = 0;  // milliseconds of wait and hold, or wheel delta
+  int number = 0;  // milliseconds of wait and hold, wheel delta, or help command
+  MouseButton button = MouseButton::Left;
   KeyChord chord;
-  std::vector<std::string> handles;
+  std::vector<std::string> handles;  // in upper case
 };
 
 // Parses UTF-8 text. False with the first error.

@@ -24,6 +24,11 @@ class PlayWorld {
   virtual void WaitForTimers() = 0;
   virtual std::string ShellState() = 0;  // JSON text
   virtual bool Variable(const std::string& name, std::string* value) = 0;
+  virtual bool Setting(const std::string& name, std::string* value) = 0;
+  virtual std::vector<std::string> HighlightedHandles() = 0;  // of the active drawing
+  virtual std::string TypedText() = 0;                        // in the command line's input row
+  // Empty if the pointer is on the target, to one pixel; otherwise where it is, or why not.
+  virtual std::string PointerAway(const Target& target) = 0;
 
   virtual Milliseconds Now() = 0;
   virtual void Pause(Milliseconds time) = 0;

@@ -44,6 +44,9 @@ class UiPort {
   virtual bool SetVariable(const std::wstring& name, const std::wstring& value) = 0;
   virtual bool GetVariable(const std::wstring& name, std::wstring* value) = 0;
   virtual bool SetSetting(const std::wstring& name, const std::wstring& value) = 0;
+  virtual bool GetSetting(const std::wstring& name, std::wstring* value) = 0;
+  virtual std::vector<std::string> HighlightedHandles() = 0;
+  virtual std::wstring TypedText() = 0;  // in the input row of the command line
 
   virtual std::string DescribeShell() = 0;     // JSON of the module's windows; "{}" without module
   virtual std::string DescribeMenus() = 0;     // JSON of the native pop-up menus on the screen

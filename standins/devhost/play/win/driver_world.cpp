@@ -2,6 +2,7 @@
 #include "devhost/play/win/driver_world.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <thread>
 
 #include "devhost/core/base/utf8.h"
@@ -53,10 +54,14 @@ std::string DriverWorld::Perform(const Step& step) {
     case StepKind::ClickTwo:
     case StepKind::RightClick:
     case StepKind::DoubleClick:
+    case StepKind::MiddleClick:
     case StepKind::Hold:
+    case StepKind::ButtonDown:
+    case StepKind::ButtonUp:
     case StepKind::Move:
     case StepKind::Wheel:
     case StepKind::Drag:
+    case StepKind::MiddleDrag:
       return PerformMouse(step);
     case StepKind::Command:
       return TypeCommand(step.text);
@@ -131,39 +136,48 @@ std::string DriverWorld::Point(const Target& target, POINT* point) {
 std::string DriverWorld::PerformMouse(const Step& step) {
   POINT at = {}, end = {};
   std::string problem = Point(step.target, &at);
-  const bool hasSecond = step.kind == StepKind::Drag || step.kind == StepKind::ClickTwo;
+  const bool hasSecond = step.kind == StepKind::Drag || step.kind == StepKind::MiddleDrag ||
+                         step.kind == StepKind::ClickTwo;
   if (problem.empty() && hasSecond) problem = Point(step.target2, &end);
   if (!problem.empty()) return problem;
   // Moved before keys are pressed: they may be released when the pointer enters a window.
   m_input.Move(at);
   const InputSender::HeldKeys held(m_input, step.ctrl, step.shift);
+  SendMouse(step, at, end);
+  return {};
+}
+
+void DriverWorld::SendMouse(const Step& step, POINT at, POINT end) {
+  using Button = InputSender::Button;
+  const Button button = step.button == MouseButton::Left    ? Button::Left
+                        : step.button == MouseButton::Right ? Button::Right
+                                                            : Button::Middle;
   switch (step.kind) {
     case StepKind::Click:
-      m_input.Click(at, InputSender::Button::Left, 1);
-      break;
+      return m_input.Click(at, Button::Left, 1);
     case StepKind::ClickTwo:
-      m_input.ClickTwo(at, end);
-      break;
+      return m_input.ClickTwo(at, end);
     case StepKind::RightClick:
-      m_input.Click(at, InputSender::Button::Right, 1);
-      break;
+      return m_input.Click(at, Button::Right, 1);
+    case StepKind::MiddleClick:
+      return m_input.Click(at, Button::Middle, 1);
     case StepKind::DoubleClick:
-      m_input.Click(at, InputSender::Button::Left, 2);
-      break;
+      return m_input.Click(at, Button::Left, 2);
     case StepKind::Hold:
-      m_input.Hold(at, InputSender::Button::Right, step.number);
-      break;
+      return m_input.Hold(at, Button::Right, step.number);
+    case StepKind::ButtonDown:
+      return m_input.Press(at, button);
+    case StepKind::ButtonUp:
+      return m_input.Release(at, button);
     case StepKind::Wheel:
-      m_input.Wheel(at, step.number);
-      break;
+      return m_input.Wheel(at, step.number);
     case StepKind::Drag:
-      m_input.Drag(at, end);
-      break;
+      return m_input.Drag(at, end);
+    case StepKind::MiddleDrag:
+      return m_input.Drag(at, end, Button::Middle);
     default:
-      m_input.Move(at);
-      break;
+      return m_input.Move(at);
   }
-  return {};
 }
 
 std::string DriverWorld::PerformHost(const Step& step) {
@@ -247,6 +261,31 @@ bool DriverWorld::Variable(const std::string& name, std::string* value) {
   const bool known = Ask<bool>([&] { return m_port.GetVariable(Wide(name), &wide); });
   *value = Utf8(wide);
   return known;
+}
+
+bool DriverWorld::Setting(const std::string& name, std::string* value) {
+  std::wstring wide;
+  const bool known = Ask<bool>([&] { return m_port.GetSetting(Wide(name), &wide); });
+  *value = Utf8(wide);
+  return known;
+}
+
+std::vector<std::string> DriverWorld::HighlightedHandles() {
+  return Ask<std::vector<std::string>>([this] { return m_port.HighlightedHandles(); });
+}
+
+std::string DriverWorld::TypedText() {
+  return Ask<std::string>([this] { return Utf8(m_port.TypedText()); });
+}
+
+std::string DriverWorld::PointerAway(const Target& target) {
+  POINT wanted = {}, at = {};
+  const std::string problem = RunOnMainThread([&] { return PointOnMainThread(target, &wanted); });
+  if (!problem.empty()) return problem;
+  GetCursorPos(&at);
+  if (std::abs(at.x - wanted.x) <= 1 && std::abs(at.y - wanted.y) <= 1) return {};
+  return "it is at " + std::to_string(at.x) + ", " + std::to_string(at.y) + ", the target at " +
+         std::to_string(wanted.x) + ", " + std::to_string(wanted.y);
 }
 
 PlayWorld::Milliseconds DriverWorld::Now() {

@@ -21,6 +21,10 @@ class DriverWorld : public PlayWorld {
   void WaitForTimers() override;
   std::string ShellState() override;
   bool Variable(const std::string& name, std::string* value) override;
+  bool Setting(const std::string& name, std::string* value) override;
+  std::vector<std::string> HighlightedHandles() override;
+  std::string TypedText() override;
+  std::string PointerAway(const Target& target) override;
   Milliseconds Now() override;
   void Pause(Milliseconds time) override;
   void Print(const std::string& line) override;
@@ -42,6 +46,7 @@ class DriverWorld : public PlayWorld {
   std::string Point(const Target& target, POINT* point);
   std::string PointOnMainThread(const Target& target, POINT* point);
   std::string PerformMouse(const Step& step);
+  void SendMouse(const Step& step, POINT at, POINT end);
   std::string PerformHost(const Step& step);
   std::string PerformDump(const Step& step);
   std::string TypeCommand(const std::string& text);

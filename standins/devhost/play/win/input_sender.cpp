@@ -14,8 +14,8 @@ constexpr int kBetween = 20;    // ms
 constexpr int kAfter = 60;      // ms, after the last message of a step
 constexpr int kDragSteps = 12;  // mouse positions of a drag
 
-constexpr DWORD kDown[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_RIGHTDOWN};
-constexpr DWORD kUp[] = {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTUP};
+constexpr DWORD kDown[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_MIDDLEDOWN};
+constexpr DWORD kUp[] = {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTUP, MOUSEEVENTF_MIDDLEUP};
 
 // The centre of a pixel in absolute coordinates, 65536 for the virtual desktop.
 LONG Part(LONG at, int first, int count) {
@@ -99,13 +99,26 @@ void InputSender::Hold(POINT at, Button button, int milliseconds) {
   m_pause(kAfter);
 }
 
-void InputSender::Drag(POINT from, POINT to) {
+void InputSender::Press(POINT at, Button button) {
+  Move(at);
+  AvoidDoubleClick(at);
+  Mouse(at, kDown[static_cast<int>(button)]);
+  m_pause(kAfter);
+}
+
+void InputSender::Release(POINT at, Button button) {
+  Move(at);
+  Mouse(at, kUp[static_cast<int>(button)]);
+  m_pause(kAfter);
+}
+
+void InputSender::Drag(POINT from, POINT to, Button button) {
   Move(from);
-  Mouse(from, MOUSEEVENTF_LEFTDOWN);
+  Mouse(from, kDown[static_cast<int>(button)]);
   for (int step = 1; step <= kDragSteps; ++step)
     Move({from.x + (to.x - from.x) * step / kDragSteps,
           from.y + (to.y - from.y) * step / kDragSteps});
-  Mouse(to, MOUSEEVENTF_LEFTUP);
+  Mouse(to, kUp[static_cast<int>(button)]);
   m_pause(kAfter);
 }
 

@@ -12,7 +12,7 @@ namespace devhost {
 
 class InputSender {
  public:
-  enum class Button { Left, Right };
+  enum class Button { Left, Right, Middle };
 
   // `pause` waits some milliseconds.
   explicit InputSender(std::function<void(int)> pause) : m_pause(std::move(pause)) {}
@@ -22,7 +22,9 @@ class InputSender {
   // Puts both clicks into the queue at once, so that no timer fires between them.
   void ClickTwo(POINT first, POINT second);
   void Hold(POINT at, Button button, int milliseconds);
-  void Drag(POINT from, POINT to);
+  void Press(POINT at, Button button);    // without a release
+  void Release(POINT at, Button button);  // without a press
+  void Drag(POINT from, POINT to, Button button = Button::Left);
   void Wheel(POINT at, int delta);
   void Press(const KeyChord& chord);
   void Type(const std::wstring& text);

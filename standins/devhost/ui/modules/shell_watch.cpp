@@ -1,6 +1,7 @@
 // Patching import tables; see the header. Functions that a module looks up itself are not recorded.
 #include "devhost/ui/modules/shell_watch.h"
 
+#include <htmlhelp.h>
 #include <shellapi.h>
 
 #include <cstring>
@@ -24,8 +25,19 @@ HINSTANCE WINAPI RecordShell(HWND window, LPCWSTR verb, LPCWSTR file, LPCWSTR pa
   return result;
 }
 
+// The text that a help call looks up; empty for other calls.
+std::string KeywordOf(UINT command, DWORD_PTR data) {
+  if (!data) return {};
+  if (command == HH_DISPLAY_INDEX) return TextOf(reinterpret_cast<LPCWSTR>(data));
+  if (command != HH_KEYWORD_LOOKUP) return {};
+  const auto* link = reinterpret_cast<const HH_AKLINK*>(data);
+  return link->cbStruct >= static_cast<int>(sizeof *link) ? TextOf(link->pszKeywords) : "";
+}
+
 HWND WINAPI RecordHelp(HWND window, LPCWSTR file, UINT command, DWORD_PTR data) {
-  TheJournal().Record("help", {{"file", TextOf(file)}, {"command", command}});
+  TheJournal().Record(
+      "help",
+      {{"file", TextOf(file)}, {"command", command}, {"keyword", KeywordOf(command, data)}});
   return g_help ? g_help(window, file, command, data) : nullptr;
 }
 

@@ -26,6 +26,15 @@ bool OnScreen(std::optional<POINT> pixel, POINT* out) {
 
 bool Waits(UINT kinds) { return HIWORD(::GetQueueStatus(kinds)) & kinds; }
 
+// Looked up by name: the host is not linked to the kernel module.
+template <class Function>
+Function KernelFunction(const char* name) {
+  const HMODULE kernel = ::GetModuleHandleW(L"qvx_kernal.arx");
+  return kernel
+             ? reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(kernel, name)))
+             : nullptr;
+}
+
 }  // namespace
 
 UiPortImpl::UiPortImpl() : m_ready(::CreateEventW(nullptr, TRUE, FALSE, nullptr)) {
@@ -110,14 +119,25 @@ bool UiPortImpl::GetVariable(const std::wstring& name, std::wstring* value) {
   return GetVariableText(name, value);
 }
 
-// Looked up by name: the host is not linked to the kernel module.
 bool UiPortImpl::SetSetting(const std::wstring& name, const std::wstring& value) {
   using SetFn = int (*)(const wchar_t*, const wchar_t*);
-  const HMODULE kernel = ::GetModuleHandleW(L"qvx_kernal.arx");
-  const auto set = kernel ? reinterpret_cast<SetFn>(
-                                reinterpret_cast<void*>(::GetProcAddress(kernel, "QvxSetSetting")))
-                          : nullptr;
+  const auto set = KernelFunction<SetFn>("QvxSetSetting");
   return set && set(name.c_str(), value.c_str()) != 0;
+}
+
+bool UiPortImpl::GetSetting(const std::wstring& name, std::wstring* value) {
+  using GetFn = int (*)(const wchar_t*, wchar_t*, int);
+  const auto get = KernelFunction<GetFn>("QvxGetSetting");
+  wchar_t text[1024] = L"";
+  if (!get || get(name.c_str(), text, 1024) == 0) return false;
+  *value = text;
+  return true;
+}
+
+std::vector<std::string> UiPortImpl::HighlightedHandles() { return devhost::HighlightedHandles(); }
+
+std::wstring UiPortImpl::TypedText() {
+  return TheFrame() ? TheFrame()->Commands().InputText() : std::wstring();
 }
 
 std::string UiPortImpl::DescribeShell() {

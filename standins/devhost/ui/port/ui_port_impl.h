@@ -39,6 +39,9 @@ class UiPortImpl : public UiPort {
   bool SetVariable(const std::wstring& name, const std::wstring& value) override;
   bool GetVariable(const std::wstring& name, std::wstring* value) override;
   bool SetSetting(const std::wstring& name, const std::wstring& value) override;
+  bool GetSetting(const std::wstring& name, std::wstring* value) override;
+  std::vector<std::string> HighlightedHandles() override;
+  std::wstring TypedText() override;
 
   std::string DescribeShell() override;
   std::string DescribeMenus() override;
