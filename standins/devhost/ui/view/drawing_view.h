@@ -56,7 +56,7 @@ class DrawingView : public CWnd {
   bool m_sceneDirty = true;
   bool m_sized = false;
   std::optional<POINT> m_cursor, m_press, m_boxFrom, m_panFrom, m_orbitFrom;
-  int m_panViewport = 0;  // in which the pan began
+  int m_panViewport = 0;             // in which the pan began
   std::optional<POINT> m_gripPress;  // the grip that the button is held on
 };
 

@@ -121,9 +121,12 @@ void ViewModel::PaintHighlights(HDC dc) {
   const double scale = m_document.view.PixelsPerUnit();
   if (m_highlightStale || m_highlightScale != scale) {
     m_highlight.clear();
-    for (AcDbObjectId id : HighlightedObjects(m_document))
-      if (AcDbEntity* entity = AcDbEntity::cast(id.object()))
-        for (Shape& shape : ShapesOf(*entity, scale)) m_highlight.push_back(std::move(shape));
+    const AcDbObjectId space = m_document.database()->currentSpaceId();
+    for (AcDbObjectId id : HighlightedObjects(m_document)) {
+      AcDbEntity* entity = AcDbEntity::cast(id.object());
+      if (!entity || entity->ownerId() != space) continue;
+      for (Shape& shape : ShapesOf(*entity, scale)) m_highlight.push_back(std::move(shape));
+    }
     m_highlightScale = scale;
     m_highlightStale = false;
   }
