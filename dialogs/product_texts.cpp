@@ -19,7 +19,7 @@ AboutTexts LoadAboutTexts(FindFileFunction find) {
   AboutTexts texts;
   TWCString path;
   if (const wchar_t* icon = product.Value(L"IconFile"); icon && find(icon, path))
-    texts.iconFile = path.c_str();
+    texts.iconFile = path;
   texts.group = TextOf(product, L"QQ群", kChatGroup);
   texts.mail = TextOf(product, L"Email", kContactAddress);
   texts.name = TextOf(product, L"About");

@@ -63,7 +63,7 @@ class LineBuilder {
  private:
   void Convert() {
     const TUString wide(m_bytes.data(), static_cast<int>(m_bytes.size()));
-    m_line.append(wide.c_str(), static_cast<size_t>(wide.Length()));
+    m_line.append(wide, static_cast<size_t>(wide.Length()));
     m_bytes.clear();
   }
 

@@ -3,8 +3,8 @@
 TWCString ParentFolder(const wchar_t* folder) {
   TWCString parent(folder);
   for (int i = parent.Length() - 2; i >= 0; --i) {
-    if (parent.c_str()[i] != L'\\') continue;
-    parent.Truncate(i + 1);
+    if (parent[i] != L'\\') continue;
+    parent.Assign(parent, i + 1);
     break;
   }
   return parent;
@@ -15,7 +15,7 @@ bool FindDocument(const DocumentSearch& search, const wchar_t* tail, TWCString& 
   TWCString first(search.parent);
   first += tail;
   lastTried = search.setup;
-  lastTried += L'\\';
+  lastTried += L"\\";
   lastTried += tail;
   return search.find(first, found) || search.find(lastTried, found);
 }

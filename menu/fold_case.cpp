@@ -28,7 +28,7 @@ wchar_t FoldCase(wchar_t unit) {
 
 bool EqualNamesNoCase(const TWCString& a, std::wstring_view b) {
   if (static_cast<size_t>(a.Length()) != b.size()) return false;
-  const wchar_t* text = a.c_str();
+  const wchar_t* text = a;
   for (size_t i = 0; i < b.size(); ++i)
     if (text[i] != b[i] && FoldCase(text[i]) != FoldCase(b[i])) return false;
   return true;

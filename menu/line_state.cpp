@@ -49,12 +49,14 @@ void CopyState(const TSwitchStateItem& state, TMenuItem& line) {
 
 const wchar_t* IconOfLine(const TMenuItem& line, const LineSources& sources) {
   const TMenuResItem* resource = ResourceOfLine(line, sources);
-  return resource ? resource->m_strImage.c_str() : nullptr;
+  if (!resource) return nullptr;
+  return resource->m_strImage;
 }
 
 const wchar_t* HelpOfLine(const TMenuItem& line, const LineSources& sources) {
   const TMenuResItem* resource = ResourceOfLine(line, sources);
-  return resource ? resource->m_strImage2.c_str() : nullptr;
+  if (!resource) return nullptr;
+  return resource->m_strImage2;
 }
 
 }  // namespace qvx

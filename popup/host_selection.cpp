@@ -80,7 +80,7 @@ SelectionDescription DescribeSelection(const TPickEntSet& set) {
 bool ResolveLayer(std::wstring_view key, std::wstring& layer) {
   TWCString found;
   if (!GetLayer(std::wstring(key).c_str(), found)) return false;
-  layer.assign(found.c_str());
+  layer.assign(found);
   return true;
 }
 

@@ -16,7 +16,7 @@ int ExecuteMenuLine(TMenuBar& bar, int id, MenuLineHost& host) {
   // A copy: AddRecent may replace the line when it is an entry of the recent list.
   const TWCString command(line->m_strCommand);
   if (command[0] == L'*') {
-    host.TailCommand(command.c_str() + 1);
+    host.TailCommand(command + 1);
     return 1;
   }
   host.AddRecent(command);

@@ -73,7 +73,8 @@ void DropSwitches(TMenuBar& bar) {
 }
 
 const wchar_t* RootTitle(const TMenuSystem& system) {
-  return system.m_strTitle.IsEmpty() ? L"奇维建筑" : system.m_strTitle.c_str();
+  if (system.m_strTitle.IsEmpty()) return L"奇维建筑";
+  return system.m_strTitle;
 }
 
 }  // namespace qvx

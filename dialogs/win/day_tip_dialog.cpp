@@ -21,7 +21,7 @@ const ModuleMessages kMessages;
 class TipPath {
  public:
   TipPath() : m_found(qvx::FindFile(L"qvxtips.txt", m_path)) {}
-  const wchar_t* Get() const { return m_found ? m_path.c_str() : nullptr; }
+  const wchar_t* Get() const { return m_found ? static_cast<const wchar_t*>(m_path) : nullptr; }
 
  private:
   TWCString m_path;

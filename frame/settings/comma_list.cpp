@@ -13,5 +13,5 @@ void SplitCommaList(const wchar_t* text, TWCStringList& pieces) {
 
 void AppendToCommaList(TWCString& text, const wchar_t* piece) {
   text += piece;
-  text += L',';
+  text += L",";
 }

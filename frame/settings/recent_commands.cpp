@@ -10,7 +10,7 @@ void SaveRecentCommands() {
   TMenuStack& recent = system->m_recent;
   TWCString text;
   for (int i = recent.Length() - 1; i >= 0; --i) AppendToCommaList(text, recent[i]->m_strCommand);
-  qvx::UserKey(L"Settings").SetValue(L"RecentCmd", text.c_str());
+  qvx::UserKey(L"Settings").SetValue(L"RecentCmd", text);
 }
 
 void LoadRecentCommands() {

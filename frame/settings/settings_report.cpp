@@ -35,7 +35,8 @@ std::string LineText(std::wstring text) {
 }
 
 std::wstring FolderOf(const IndexRow& row) {
-  return row.folder == kProfileFolder ? MenuSettingFolder().c_str() : row.folder;
+  if (row.folder != kProfileFolder) return row.folder;
+  return static_cast<const wchar_t*>(MenuSettingFolder());
 }
 
 // The text of a registry value of either kind; false if it does not exist.
@@ -161,7 +162,7 @@ std::wstring RowLine(const IndexRow& row, const PresentValue& value) {
 std::wstring Found(const wchar_t* name) {
   TWCString path(L"not found");
   qvx::FindFile(name, path);
-  return path.c_str();
+  return std::wstring(path);
 }
 
 // The effect of the first-start list at the next start; reads the values as the start does.
@@ -183,10 +184,10 @@ std::wstring TipLine() {
   TWCString path;
   if (!qvx::FindFile(L"qvxtips.txt", path)) return L"not found";
   const FileOwner file = qvx::OpenTipFile(path);
-  if (!file) return std::wstring(path.c_str()) + L"  warning: it can't be opened";
+  if (!file) return std::wstring(path) + L"  warning: it can't be opened";
   CString tip;
   const bool has = qvx::ReadNextTip(file.get(), tip) == qvx::TipFound::kYes;
-  return std::wstring(path.c_str()) + (has ? L"" : L"  warning: it has no tip");
+  return std::wstring(path) + (has ? L"" : L"  warning: it has no tip");
 }
 
 }  // namespace

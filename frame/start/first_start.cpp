@@ -15,10 +15,10 @@ constexpr int kLongestLine = 255;  // a longer line is read as several
 
 TWCString TakeLine(const TWCString& text, int& at) {
   const int start = at;
-  while (at < text.Length() && text.c_str()[at] != L'\n' && at - start < kLongestLine) ++at;
+  while (at < text.Length() && text[at] != L'\n' && at - start < kLongestLine) ++at;
   TWCString line;
-  line.Assign(text.c_str() + start, at - start);
-  if (at < text.Length() && text.c_str()[at] == L'\n') ++at;
+  line.Assign(text + start, at - start);
+  if (at < text.Length() && text[at] == L'\n') ++at;
   return line;
 }
 

@@ -17,7 +17,8 @@ class Records : public MenuCharRows {
   int Count() const override { return m_items.Length(); }
   std::wstring Label(int row) const override {
     const TMenuItem* line = m_items.At(row)->m_pMenuItem;
-    return line ? line->m_strLabel.c_str() : L"";
+    if (!line) return {};
+    return static_cast<const wchar_t*>(line->m_strLabel);
   }
   int Position(int row) const override { return m_items.At(row)->m_nIndex; }
 
@@ -43,7 +44,7 @@ void CBitmapMenuItemData::Show(TMenuItem* line, int index) {
   m_pMenuItem = line;
   m_nIndex = index;
   m_accessible.cchWText = static_cast<DWORD>(line->m_strLabel.Length());
-  m_accessible.pszWText = const_cast<wchar_t*>(line->m_strLabel.c_str());
+  m_accessible.pszWText = const_cast<wchar_t*>(static_cast<const wchar_t*>(line->m_strLabel));
 }
 
 void CBitmapMenuItemData::Forget() {

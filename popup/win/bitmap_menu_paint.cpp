@@ -116,7 +116,7 @@ void CBitmapMenu::DrawItem(LPDRAWITEMSTRUCT item) {
                             (item->itemState & ODS_GRAYED) != 0,
                             (item->itemState & ODS_CHECKED) != 0};
   const TWCString& text = record->m_pMenuItem->m_strLabel;
-  const RowLabel label = SplitLabel({text.c_str(), static_cast<size_t>(text.Length())});
+  const RowLabel label = SplitLabel({text, static_cast<size_t>(text.Length())});
   const PopupRowLook look = LookOfPopupRow(item->rcItem, state, label.hasTab);
   PaintGround(dc, look);
   PaintImage(dc, look, record->m_hBitmap.Get());

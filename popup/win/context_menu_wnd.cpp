@@ -48,7 +48,7 @@ BOOL CContextMenuWnd::CreateIn(CWnd* frame) {
 }
 
 void CContextMenuWnd::ReopenDrawings(const TWCStringList& files) {
-  for (int i = 0; i < files.Length(); ++i) m_openQueue.Append(new CString(files[i].c_str()));
+  for (int i = 0; i < files.Length(); ++i) m_openQueue.Append(new CString(files[i]));
   m_opening.Start();
 }
 

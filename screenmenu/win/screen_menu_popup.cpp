@@ -74,5 +74,5 @@ void CScreenMenu::ShowHelpFor(const TMenuItem& line) {
   link.pszKeywords = label;
   link.fIndexOnFail = TRUE;
   ::HtmlHelpW(nullptr, path, HH_KEYWORD_LOOKUP, reinterpret_cast<DWORD_PTR>(&link));
-  ::HtmlHelpW(nullptr, path, HH_DISPLAY_INDEX, reinterpret_cast<DWORD_PTR>(label.c_str()));
+  ::HtmlHelpW(nullptr, path, HH_DISPLAY_INDEX, reinterpret_cast<DWORD_PTR>(link.pszKeywords));
 }

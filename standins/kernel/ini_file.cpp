@@ -26,11 +26,11 @@ TWCString TrimWide(const wchar_t* text, int count) {
 
 // The name between the brackets, or false for a line that opens no section.
 bool SectionName(const TWCString& line, TWCString& name) {
-  if (line.c_str()[0] != L'[') return false;
+  if (line[0] != L'[') return false;
   int close = 1;
-  while (close < line.Length() && line.c_str()[close] != L']') ++close;
+  while (close < line.Length() && line[close] != L']') ++close;
   if (close == line.Length()) return false;
-  name = TrimWide(line.c_str() + 1, close - 1);
+  name = TrimWide(line + 1, close - 1);
   return true;
 }
 
@@ -57,20 +57,20 @@ bool IniSection::Read(std::string_view bytes, const wchar_t* section) {
 void IniSection::AddLine(std::string_view line) {
   const TWCString text = WideOf(line);
   int equals = 0;
-  while (equals < text.Length() && text.c_str()[equals] != L'=') ++equals;
+  while (equals < text.Length() && text[equals] != L'=') ++equals;
   if (equals == text.Length()) return;
-  TWCString value = TrimWide(text.c_str() + equals + 1, text.Length() - equals - 1);
+  TWCString value = TrimWide(text + equals + 1, text.Length() - equals - 1);
   const int last = value.Length() - 1;
-  if (last > 0 && value.c_str()[0] == L'"' && value.c_str()[last] == L'"') {
+  if (last > 0 && value[0] == L'"' && value[last] == L'"') {
     TWCString inner;
-    inner.Assign(value.c_str() + 1, last - 1);
+    inner.Assign(value + 1, last - 1);
     value = std::move(inner);
   }
-  m_values.emplace_back(TrimWide(text.c_str(), equals), std::move(value));
+  m_values.emplace_back(TrimWide(text, equals), std::move(value));
 }
 
 const wchar_t* IniSection::Value(const wchar_t* key) const {
   for (const auto& [name, value] : m_values)
-    if (name.EqualsNoCase(key)) return value.c_str();
+    if (name.EqualsNoCase(key)) return value;
   return nullptr;
 }

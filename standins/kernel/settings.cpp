@@ -1,6 +1,7 @@
 // Text and registry forms of the settings; what there is stands in settings_table.cpp.
 #include "kernel/settings.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cwchar>
 #include <limits>
@@ -116,7 +117,7 @@ void SaveElement(const Setting& s, int index, TRegProperty& key) {
     key.SetValue(name, static_cast<int>(*ColorOf(s, index)));
   } else {
     TWCString text;
-    if (SettingText(s, index, text)) key.SetValue(name, text.c_str());
+    if (SettingText(s, index, text)) key.SetValue(name, text);
   }
 }
 
@@ -256,7 +257,8 @@ extern "C" int QvxGetSetting(const wchar_t* name, wchar_t* out, int units) {
   TWCString text;
   const Setting* setting = FindSetting(name, index);
   if (!setting || units < 1 || !SettingText(*setting, index, text)) return 0;
-  text.Truncate(units - 1);
-  std::wcscpy(out, text);
+  const int count = std::min(text.Length(), units - 1);
+  std::wmemcpy(out, text, static_cast<std::size_t>(count));
+  out[count] = 0;
   return 1;
 }

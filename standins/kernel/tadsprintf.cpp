@@ -14,7 +14,7 @@ TADSPrintf& TADSPrintf::operator<<(const wchar_t* text) {
   return *this;
 }
 
-TADSPrintf& TADSPrintf::operator<<(const char* narrow) { return *this << TUString(narrow).c_str(); }
+TADSPrintf& TADSPrintf::operator<<(const char* narrow) { return *this << TUString(narrow); }
 
 TADSPrintf& TADSPrintf::operator<<(wchar_t unit) {
   const wchar_t text[] = {unit, 0};

@@ -76,7 +76,7 @@ TEST_F(ProductTexts, HelpIsTheFileThatTheProductNames) {
   Write("qvx.ini", "[Product]\nHelpFile=help.chm\n");
   const qvx::HelpTarget target = qvx::FindHelpFile(FindInFolder);
   EXPECT_TRUE(target.found);
-  EXPECT_EQ(fs::path(target.path.c_str()), Folder() / "help.chm");
+  EXPECT_EQ(fs::path(static_cast<const wchar_t*>(target.path)), Folder() / "help.chm");
 }
 
 TEST_F(ProductTexts, HelpIsNotFoundWithoutItsKeyOrItsFile) {

@@ -10,7 +10,7 @@ std::vector<std::wstring> Split(const wchar_t* text) {
   TWCStringList pieces;
   SplitCommaList(text, pieces);
   std::vector<std::wstring> out;
-  for (int i = 0; i < pieces.Length(); ++i) out.emplace_back(pieces[i].c_str());
+  for (int i = 0; i < pieces.Length(); ++i) out.emplace_back(pieces[i]);
   return out;
 }
 using List = std::vector<std::wstring>;

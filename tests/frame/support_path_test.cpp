@@ -49,7 +49,7 @@ std::vector<std::wstring> FirstStartList() {
   TWCStringList names;
   FindFirstStartModules(names);
   std::vector<std::wstring> out;
-  for (int i = 0; i < names.Length(); ++i) out.emplace_back(names[i].c_str());
+  for (int i = 0; i < names.Length(); ++i) out.emplace_back(names[i]);
   return out;
 }
 

@@ -41,7 +41,7 @@ TEST_F(LineState, TheNameOfAFunctionOutlivesItsLine) {
   TMenuItem* line = AddLine(bar, L"墙", L"TWall\n");
   line->m_nFlags = TMenuItem::kHasGrayFn;
   line->m_strGrayFn = L"a name that is long enough for memory of its own";
-  lisp.actions[line->m_strGrayFn.c_str()] = [this] {
+  lisp.actions[std::wstring(line->m_strGrayFn)] = [this] {
     bar.Clear();
     life.Renew();
   };

@@ -174,7 +174,7 @@ TEST(CheckAgrees, TheReadablePartOfABrokenFileCompiles) {
 }
 
 bool HasArrow(const TMenuItem& item) {
-  const std::wstring_view label(item.m_strLabel.c_str());
+  const std::wstring_view label(item.m_strLabel);
   return label.substr(0, 2) == L"->" || label.substr(0, 2) == L"<-";
 }
 

@@ -20,7 +20,7 @@ class TailMenu : public testing::Test {
   std::vector<std::wstring> Labels(bool help, bool limit) {
     tail = qvx::BuildTailMenu({help, limit, bar.RootBar(), &system, L"_TCustomize"});
     std::vector<std::wstring> labels;
-    for (const TMenuItem* line : *tail) labels.push_back(line->m_strLabel.c_str());
+    for (const TMenuItem* line : *tail) labels.emplace_back(line->m_strLabel);
     return labels;
   }
   TMenuItem root{L"奇维建筑", L""};

@@ -56,7 +56,7 @@ class ScaleChange : public hosttest::HostTest {
     config->close();
     return scale;
   }
-  std::wstring Text() { return qvx::CurrentScaleText().c_str(); }
+  std::wstring Text() { return std::wstring(qvx::CurrentScaleText()); }
 
   devhost::Document* m_drawing = nullptr;
 };

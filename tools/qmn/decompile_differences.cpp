@@ -12,7 +12,7 @@ namespace {
 
 std::string Quoted(const TWCString& text) {
   std::ostringstream out;
-  JsonOut(out).Text({text.c_str(), static_cast<size_t>(text.Length())});
+  JsonOut(out).Text({text, static_cast<size_t>(text.Length())});
   return out.str();
 }
 

@@ -6,9 +6,7 @@ namespace {
 
 constexpr wchar_t kEscape = 27;
 
-std::wstring_view View(const TWCString& text) {
-  return {text.c_str(), static_cast<size_t>(text.Length())};
-}
+std::wstring_view View(const TWCString& text) { return {text, static_cast<size_t>(text.Length())}; }
 
 // A leading blank hides a label from the passes that run before labels are trimmed.
 bool NeedsShelter(const TMenuItem& item) {

@@ -19,9 +19,7 @@ constexpr int kLongestString = 197;
 // More closing pairs than this exceed the length of a line in any case.
 constexpr int kMostCloses = 100;
 
-std::wstring_view View(const TWCString& text) {
-  return {text.c_str(), static_cast<size_t>(text.Length())};
-}
+std::wstring_view View(const TWCString& text) { return {text, static_cast<size_t>(text.Length())}; }
 
 // True when the scanner reads the whole of `bytes` as one token of that kind.
 bool IsToken(int kind, const std::string& bytes, std::string_view inside) {

@@ -46,7 +46,7 @@ class JsonDump {
 
   void Text(std::string_view key, const TWCString& text) {
     m_json.Key(key);
-    m_json.Text({text.c_str(), static_cast<size_t>(text.Length())});
+    m_json.Text({text, static_cast<size_t>(text.Length())});
   }
   void Integer(std::string_view key, long long value) {
     m_json.Key(key);

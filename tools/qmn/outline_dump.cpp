@@ -11,7 +11,7 @@
 namespace {
 
 std::string TextOf(const TWCString& text) {
-  return Utf8({text.c_str(), static_cast<size_t>(text.Length())});
+  return Utf8({text, static_cast<size_t>(text.Length())});
 }
 
 // Newlines would break the outline.

@@ -31,7 +31,8 @@ class HostMessages : public SourceMessages {
   explicit HostMessages(const QmnStreams& streams) : m_streams(streams) {}
   void ReportSyntaxError(const wchar_t* text, int line) override {
     ++m_count;
-    m_streams.err << Utf8(FormatSyntaxError(text, line).c_str());
+    const TWCString message = FormatSyntaxError(text, line);
+    m_streams.err << Utf8({message, static_cast<size_t>(message.Length())});
   }
   int Count() const { return m_count; }
 

@@ -17,9 +17,7 @@ constexpr wchar_t kViewportType[] = L"VIEWPORT";
 constexpr int kTypeCode = 0;
 constexpr int kLayerCode = 8;
 
-std::wstring_view View(const TWCString& text) {
-  return {text.c_str(), static_cast<size_t>(text.Length())};
-}
+std::wstring_view View(const TWCString& text) { return {text, static_cast<size_t>(text.Length())}; }
 
 // Converts a number of the command line to the type of its group code.
 GroupValue ValueOf(int code, const std::wstring& text) {

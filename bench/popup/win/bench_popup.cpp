@@ -88,7 +88,7 @@ void AddSwitch(TMenuSystem& system, TMenuBar& bar, int number, int icon) {
   auto* line = new TMenuItem(L"*SWITCH*", L"");
   line->m_pSwitch = item;
   bar.Append(line);
-  ThePaletteHost().functions[item->m_strGetFn.c_str()] = [] { return 1; };
+  ThePaletteHost().functions[std::wstring(item->m_strGetFn)] = [] { return 1; };
 }
 
 void FillMenu(TMenuSystem& system, const std::vector<std::wstring>& icons) {

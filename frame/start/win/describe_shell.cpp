@@ -22,7 +22,8 @@ std::string RecentSection() {
   const TMenuSystem* system = LoadedMenu();
   for (int i = 0; system && i < system->m_recent.Length(); ++i) {
     if (i) json += ",";
-    json += qvx::JsonString(system->m_recent.At(i)->m_strCommand.c_str());
+    const TWCString& command = system->m_recent.At(i)->m_strCommand;
+    json += qvx::JsonString(std::wstring(command));
   }
   return json + "]";
 }

@@ -78,7 +78,7 @@ void CheckCommand(const LineView& line) {
   if (line.IsInPlace()) return CheckAction(line);
   CheckCarets(line);
   const TWCString& sent = line.Item().m_strCommand;
-  if (line.IsPopUp() && !sent.IsEmpty() && sent.c_str()[0] == L'*')
+  if (line.IsPopUp() && !sent.IsEmpty() && sent[0] == L'*')
     line.AddInCommand(Rule::kCommandStar, 0, line.Command().size(),
                       "in a pop-up this names a group of the screen menu and is not sent to the "
                       "host; the Enter at its end keeps it from being found");

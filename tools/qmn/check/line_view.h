@@ -53,7 +53,7 @@ class LineView {
 };
 
 inline std::wstring_view TextOf(const TWCString& text) {
-  return {text.c_str(), static_cast<size_t>(text.Length())};
+  return {text, static_cast<size_t>(text.Length())};
 }
 
 enum class Arrow { kNone, kOpening, kClosing };
