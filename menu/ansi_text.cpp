@@ -1,5 +1,6 @@
 #include "menu/ansi_text.h"
 
+#include "afx.h"
 #include "menu/byte_search.h"
 
 namespace {
@@ -66,17 +67,18 @@ const char* AnsiText::DecodeUntil(char stop, std::string_view narrow, std::wstri
 
 std::wstring_view AnsiText::DecodeWhole(std::string_view narrow) {
   Convert(narrow, m_other);
-  return {m_other.c_str(), static_cast<size_t>(m_other.Length())};
+  return {m_other, static_cast<size_t>(m_other.Length())};
 }
 
 void AnsiText::Convert(std::string_view narrow, TWCString& out) {
   if (m_decoder) return m_decoder->Decode(narrow, out);
-  out = TUString(narrow.data(), static_cast<int>(narrow.size()));
+  const CStringW wide(narrow.data(), static_cast<int>(narrow.size()));
+  out.Assign(wide, wide.GetLength());
 }
 
 uint16_t AnsiText::Remember(const char* pair, uint16_t& place) {
   TWCString wide;
   Convert({pair, 2}, wide);
-  const bool one = wide.Length() == 1 && wide.c_str()[0] != 0;
-  return place = one ? static_cast<uint16_t>(wide.c_str()[0]) : kNoCharacter;
+  const bool one = wide.Length() == 1 && wide[0] != 0;
+  return place = one ? static_cast<uint16_t>(wide[0]) : kNoCharacter;
 }

@@ -31,14 +31,11 @@ class AnsiText {
     return DecodeWhole(narrow);
   }
   // What stands in front of the first `stop`, an ASCII character, and the place of that one. Null
-  // when there is none or when the text has to be decoded as a whole. Behind the units
-  // TWCString::kOverrun more can be read.
+  // when there is none or when the text has to be decoded as a whole.
   const char* DecodeUntil(char stop, std::string_view narrow, std::wstring_view& units);
-  // Texts of the menu model, which stay as they are.
-  void Keep(std::string_view narrow, TWCString& out) {
+  void DecodeTo(std::string_view narrow, TWCString& out) {
     const std::wstring_view wide = Decode(narrow);
-    if (wide.data() == m_units) return out.KeepQuickly(m_units, static_cast<int>(wide.size()));
-    out.Keep(wide.data(), static_cast<int>(wide.size()));
+    out.Assign(wide.data(), static_cast<int>(wide.size()));
   }
 
  private:
@@ -52,6 +49,6 @@ class AnsiText {
   NarrowDecoder* m_decoder;
   std::vector<uint16_t> m_ownPairs;
   std::vector<uint16_t>& m_pairs;  // by the two bytes; 0 not asked yet, kNoCharacter not one unit
-  wchar_t m_units[kLongestToken + 8 + TWCString::kOverrun];
+  wchar_t m_units[kLongestToken + 8];
   TWCString m_other;
 };

@@ -1,9 +1,5 @@
-// Bytes eight or sixteen at a time: the loops of the scanner and the line parser over plain text.
+// Bytes eight at a time: the loops of the scanner and the line parser over plain text.
 #pragma once
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 #include <bit>
 #include <cstdint>
@@ -30,14 +26,6 @@ constexpr std::uint64_t Marks(std::uint64_t eight, char c) {
 // The first byte that is one of the stops; `end` when there is none.
 template <char... kStops>
 const char* FindAny(const char* p, const char* end) {
-#if defined(__SSE2__)
-  for (; end - p >= 16; p += 16) {
-    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-    const __m128i stops = (_mm_cmpeq_epi8(block, _mm_set1_epi8(kStops)) | ...);
-    if (const auto marks = static_cast<unsigned>(_mm_movemask_epi8(stops)))
-      return p + std::countr_zero(marks);
-  }
-#endif
   for (; end - p >= 8; p += 8)
     if (const std::uint64_t marks = (Marks(EightAt(p), kStops) | ...))
       return p + std::countr_zero(marks) / 8;

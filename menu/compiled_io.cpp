@@ -57,20 +57,22 @@ void Widen(const unsigned char* bytes, size_t length, wchar_t* out) {
   }
 }
 
-// In whole pieces where the string has room for that, which reads up to 15 units more than the text
-// has: no branch then depends on the length of a usual text.
+// In whole pieces, which read and write up to 15 units more than the text has: no branch then
+// depends on the length of a usual text.
 void WidenShort(const unsigned char* bytes, size_t length, wchar_t* out) {
-  if constexpr (TWCString::kOverrun < 16) {
-    Widen(bytes, length, out);
-  } else {
-    for (size_t at = 0; at < length; at += 16) {
-      WidenPiece<8>(bytes + 2 * at, out + at);
-      WidenPiece<8>(bytes + 2 * at + 16, out + at + 8);
-    }
+  for (size_t at = 0; at < length; at += 16) {
+    WidenPiece<8>(bytes + 2 * at, out + at);
+    WidenPiece<8>(bytes + 2 * at + 16, out + at + 8);
   }
 }
 
 }  // namespace
+
+void ShortForms::Assign(TWCString& out, const unsigned char* text, size_t length) {
+  wchar_t units[256];
+  WidenShort(text, length, units);
+  out.Assign(units, static_cast<int>(length));
+}
 
 CompiledWriter::CompiledWriter(CArchive& ar, TMenuSystem* system)
     : m_ar(ar), m_bytes(std::make_unique_for_overwrite<unsigned char[]>(kPiece)) {
@@ -162,20 +164,7 @@ void CompiledReader::MakeRoom(size_t room) {
   m_room = room;
 }
 
-double CompiledReader::GetReal() { return std::bit_cast<double>(Number<uint64_t>(Need(8))); }
-
-bool CompiledReader::GetQuickly(TWCString& out) {
-  const auto head = Number<uint32_t>(m_at);
-  const uint32_t length = head >> 24;
-  if ((head & 0xFFFFFF) != kShortHead || length == kMedium) return false;
-  const unsigned char* text = m_at + 4;
-  m_at = text + 2 * size_t{length};
-  if (length)
-    out.KeepBy(static_cast<int>(length), [=](wchar_t* room) { WidenShort(text, length, room); });
-  else if (!out.IsEmpty())
-    out.Empty();
-  return true;
-}
+double CompiledReader::GetReal() { return ShortForms::Number<double>(Need(8)); }
 
 uint32_t CompiledReader::GetLength(bool& wide) {
   wide = false;
@@ -198,12 +187,13 @@ void CompiledReader::GetAnyString(TWCString& out) {
   const uint32_t length = GetLength(wide);
   if (length == 0) return out.Empty();
   const unsigned char* text = Need(wide ? 2 * size_t{length} : length);
-  if (wide) {
-    out.KeepBy(static_cast<int>(length), [=](wchar_t* room) { Widen(text, length, room); });
-  } else {
-    const TUString decoded(reinterpret_cast<const char*>(text), static_cast<int>(length));
-    out.Keep(decoded, decoded.Length());
+  if (!wide) {
+    const CStringW decoded(reinterpret_cast<const char*>(text), static_cast<int>(length));
+    return out.Assign(decoded, decoded.GetLength());
   }
+  const auto units = std::make_unique_for_overwrite<wchar_t[]>(length);
+  Widen(text, length, units.get());
+  out.Assign(units.get(), static_cast<int>(length));
 }
 
 TMenuSwitchItem* CompiledReader::GetSwitch() {

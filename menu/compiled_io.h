@@ -34,7 +34,7 @@ class CompiledWriter {
   void PutBytes(const unsigned char (&bytes)[kSize]) {
     std::memcpy(Room(kSize), bytes, kSize);
   }
-  void PutString(const TWCString& text) { PutString(text.c_str(), text.Length()); }
+  void PutString(const TWCString& text) { PutString(text, text.Length()); }
   void PutString(const wchar_t* text, int length);
   void PutSwitch(const TMenuSwitchItem* item);
   void Finish();
@@ -60,6 +60,55 @@ class CompiledWriter {
   std::unordered_map<const TMenuSwitchItem*, int32_t> m_switches;
 };
 
+// Reads elements in their usual forms from memory. An object of this class is local, so that its
+// position stays in a register: each element begins where the one before it ends.
+class ShortForms {
+ public:
+  // The bytes that GetString may read: those of the longest string with a length of one byte.
+  static constexpr size_t kStringBytes = 4 + 2 * 256;
+
+  explicit ShortForms(const unsigned char* at) : m_at(at) {}
+  const unsigned char* At() const { return m_at; }
+
+  uint32_t GetU32() {
+    const auto value = Number<uint32_t>(m_at);
+    m_at += sizeof value;
+    return value;
+  }
+  // False, with nothing read, for a string of another form.
+  bool GetString(TWCString& out) {
+    const auto head = Number<uint32_t>(m_at);
+    const uint32_t length = head >> 24;
+    if ((head & 0xFFFFFF) != kWideHead || length == 0xFF) return false;
+    const unsigned char* text = m_at + sizeof head;
+    m_at = text + 2 * size_t{length};
+    if (length)
+      Assign(out, text, length);
+    else
+      out.Empty();
+    return true;
+  }
+  template <size_t kSize>
+  bool Skip(const unsigned char (&bytes)[kSize]) {
+    if (std::memcmp(m_at, bytes, kSize) != 0) return false;
+    m_at += kSize;
+    return true;
+  }
+
+  template <class T>
+  static T Number(const unsigned char* bytes) {
+    T value;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+  }
+
+ private:
+  static constexpr uint32_t kWideHead = 0xFFFEFF;  // the marker; the length is the byte above it
+  static void Assign(TWCString& out, const unsigned char* text, size_t length);
+
+  const unsigned char* m_at;
+};
+
 class CompiledReader {
  public:
   // How far the reader may go ahead of what it is asked for. A system is read in large pieces; a
@@ -70,38 +119,29 @@ class CompiledReader {
   void Finish();
 
   uint8_t GetU8() { return *Need(1); }
-  uint16_t GetU16() { return Number<uint16_t>(Need(2)); }
-  uint32_t GetU32() { return Number<uint32_t>(Need(4)); }
+  uint16_t GetU16() { return ShortForms::Number<uint16_t>(Need(2)); }
+  uint32_t GetU32() { return ShortForms::Number<uint32_t>(Need(4)); }
   int32_t GetI32() { return static_cast<int32_t>(GetU32()); }
   double GetReal();
-  // Into a string that keeps the text.
   void GetString(TWCString& out) {
-    if (m_end - m_at < kQuick || !GetQuickly(out)) GetAnyString(out);
+    if (const unsigned char* at = Buffered(ShortForms::kStringBytes)) {
+      ShortForms forms(at);
+      if (forms.GetString(out)) return Advance(forms.At());
+    }
+    GetAnyString(out);
   }
   TMenuSwitchItem* GetSwitch();
-  // Whether these bytes come next; they are taken then. May say no near the end of what was read.
-  template <size_t kSize>
-  bool Skip(const unsigned char (&bytes)[kSize]) {
-    if (static_cast<size_t>(m_end - m_at) < kSize || std::memcmp(m_at, bytes, kSize) != 0)
-      return false;
-    m_at += kSize;
-    return true;
+  // The next bytes when so many are in memory, else null; Advance takes them.
+  const unsigned char* Buffered(size_t bytes) const {
+    return static_cast<size_t>(m_end - m_at) >= bytes ? m_at : nullptr;
   }
+  void Advance(const unsigned char* to) { m_at = to; }
 
   // For how many of `claimed` elements of at least `smallest` bytes room may be made at once. All
   // the room that is made for the elements of one file is no more than the file can hold.
   int Grant(uint32_t claimed, int smallest);
 
  private:
-  // The longest string with a one-byte length, read in whole pieces.
-  static constexpr int kQuick = 4 + 2 * 256;
-
-  template <class T>
-  static T Number(const unsigned char* bytes) {
-    T value;
-    std::memcpy(&value, bytes, sizeof value);
-    return value;
-  }
   // The next so many bytes; valid until the next call.
   const unsigned char* Need(size_t count) {
     if (count > static_cast<size_t>(m_end - m_at)) Fetch(count);
@@ -111,7 +151,6 @@ class CompiledReader {
   void Fetch(size_t count);
   void ReadOn(unsigned char* bytes, UINT count);
   void MakeRoom(size_t room);
-  bool GetQuickly(TWCString& out);
   void GetAnyString(TWCString& out);
   uint32_t GetLength(bool& wide);
 

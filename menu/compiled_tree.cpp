@@ -6,6 +6,7 @@
 
 #include "adsdef.h"
 #include "kernel/qvxexport.h"
+#include "menu/mask_group.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ constexpr int kSmallestItem = 21;  // two strings, two numbers, three more strin
 constexpr unsigned char kPlainTail[] = {0xFF, 0xFF, 0xFF, 0xFF, 0,    0,    0,    0,
                                         0xFF, 0xFE, 0xFF, 0,    0xFF, 0xFE, 0xFF, 0};
 
-void WriteGroup(CompiledWriter& out, const TGroups& group) {
+void WriteGroup(CompiledWriter& out, const resbuf& group) {
   const auto code = static_cast<uint16_t>(group.restype);
   out.PutU16(code);
   switch (QvxExport::TypeOfCode(code)) {
@@ -36,42 +37,36 @@ void WriteGroup(CompiledWriter& out, const TGroups& group) {
 
 void WriteMask(CompiledWriter& out, const TRBList& mask) {
   uint32_t count = 0;
-  for (const TGroups* group = mask.Head(); group; group = group->Next()) ++count;
+  for (const resbuf* group = mask.Head(); group; group = group->rbnext) ++count;
   out.PutU32(count);
-  for (const TGroups* group = mask.Head(); group; group = group->Next()) WriteGroup(out, *group);
+  for (const resbuf* group = mask.Head(); group; group = group->rbnext) WriteGroup(out, *group);
 }
 
 // One group with its value; a code that carries none has just the code.
-TGroups* ReadGroup(CompiledReader& in) {
+MaskGroup ReadGroup(CompiledReader& in) {
   const uint16_t code = in.GetU16();
-  TRBList one;
   switch (QvxExport::TypeOfCode(code)) {
     case RTREAL:
-      one.AppendReal(code, in.GetReal());
-      break;
+      return NewRealGroup(code, in.GetReal());
     case RTSHORT:
-      one.AppendShort(code, static_cast<short>(in.GetI32()));
-      break;
+      return NewShortGroup(code, static_cast<short>(in.GetI32()));
     case RTLONG:
-      one.AppendLong(code, in.GetI32());
-      break;
+      return NewLongGroup(code, in.GetI32());
     case RTSTR: {
       TWCString text;
       in.GetString(text);
-      one.AppendString(code, text);
-      break;
+      return NewTextGroup(code, text);
     }
     default:
-      one.SetHead(new TGroups(code));
+      return NewGroupWithoutValue(code);
   }
-  return one.Detach();
 }
 
 void ReadMask(CompiledReader& in, TRBList& mask) {
   mask.SetHead(nullptr);
   TGroups* last = nullptr;
   for (uint32_t left = in.GetU32(); left; --left) {
-    TGroups* group = ReadGroup(in);
+    TGroups* group = ReadGroup(in).release();
     if (last)
       last->rbnext = group;
     else
@@ -128,17 +123,26 @@ bool ReadItemHead(CompiledReader& in, TMenuItem& item) {
 }
 
 void ReadItemTail(CompiledReader& in, TMenuItem& item) {
-  if (in.Skip(kPlainTail)) {
-    in.GetString(item.m_strIconName);
-    item.m_nIconIndex = in.GetI32();
-    return;
-  }
   item.m_pSwitch = in.GetSwitch();
   item.m_nFlags = in.GetU32();
   in.GetString(item.m_strCheckFn);
   in.GetString(item.m_strGrayFn);
   in.GetString(item.m_strIconName);
   item.m_nIconIndex = in.GetI32();
+}
+
+// A line in its usual form: no sub-menu, no switch, no function. False, with nothing consumed, for
+// any other; what was assigned then is assigned again.
+bool ReadPlainItem(CompiledReader& in, TMenuItem& item) {
+  const unsigned char* at = in.Buffered(3 * ShortForms::kStringBytes + sizeof kPlainTail + 8);
+  if (!at) return false;
+  ShortForms forms(at);
+  if (!forms.GetString(item.m_strLabel) || !forms.GetString(item.m_strCommand)) return false;
+  if (forms.GetU32() != 0 || !forms.Skip(kPlainTail)) return false;
+  if (!forms.GetString(item.m_strIconName)) return false;
+  item.m_nIconIndex = static_cast<int>(forms.GetU32());
+  in.Advance(forms.At());
+  return true;
 }
 
 TMenuItem* AppendItem(TMenuBar& bar) {
@@ -187,6 +191,7 @@ void ReadLines(CompiledReader& in, std::vector<ReadPlace>& path) {
     }
     --place.left;
     TMenuItem* item = AppendItem(*place.bar);
+    if (ReadPlainItem(in, *item)) continue;
     if (!ReadItemHead(in, *item)) {
       ReadItemTail(in, *item);
       continue;

@@ -11,9 +11,11 @@
 
 class TMenuBar : public CObject, public TDPtrList<TMenuItem> {
   DECLARE_DYNAMIC(TMenuBar)
-  QVX_PACKED_RECORD
 
  public:
+  static void* operator new(std::size_t bytes) { return NewRecord(bytes); }
+  static void operator delete(void* record) noexcept { FreeRecord(record); }
+
   TMenuBar() = default;
   ~TMenuBar() override;
   void Serialize(CArchive& ar) override;

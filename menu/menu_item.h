@@ -4,8 +4,8 @@
 #pragma once
 
 #include "afx.h"
-#include "kernel/packed_memory.h"
 #include "kernel/twcstring.h"
+#include "menu/record_memory.h"
 
 class TMenuBar;
 class TMenuSwitchItem;
@@ -15,9 +15,11 @@ constexpr int kMenuTextCapacity = 256;
 
 class TMenuItem : public CObject {
   DECLARE_DYNAMIC(TMenuItem)
-  QVX_PACKED_RECORD
 
  public:
+  static void* operator new(std::size_t bytes) { return NewRecord(bytes); }
+  static void operator delete(void* record) noexcept { FreeRecord(record); }
+
   enum Flags : unsigned {
     kHasCheckFn = 1,  // m_strCheckFn is set
     kHasGrayFn = 2,   // m_strGrayFn is set

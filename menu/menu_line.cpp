@@ -83,14 +83,8 @@ char* ExpandCommand(std::string_view text, char* out) {
   return out;
 }
 
-// In whole pieces where the string has room for that.
-void Widen(const char* p, const char* end, wchar_t* out) {
-  if constexpr (TWCString::kOverrun < 16) {
-    bytes::WidenAscii(p, end, out);
-  } else {
-    for (; p < end; p += 16, out += 16)
-      for (int i = 0; i < 16; ++i) out[i] = static_cast<unsigned char>(p[i]);
-  }
+void Assign(TWCString& out, std::wstring_view text) {
+  out.Assign(text.data(), static_cast<int>(text.size()));
 }
 
 // False when the line is not of the usual kind: a label of whole characters, a command in ASCII.
@@ -102,13 +96,14 @@ bool ParseUsualLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {
   if (!command.empty()) {
     if (command.back() == ';') command.remove_suffix(1);
     if (command.data() + command.size() - narrow.data() < 8) return false;
-    char expanded[kLongestToken + 1 + 16];
+    char expanded[kLongestToken + 1 + 8];
     const char* end = ExpandCommand(command, expanded);
     if (!end) return false;
-    item.m_strCommand.KeepBy(static_cast<int>(end - expanded),
-                             [&](wchar_t* room) { Widen(expanded, end, room); });
+    wchar_t wide[kLongestToken + 1];
+    const wchar_t* wideEnd = bytes::WidenAscii(expanded, end, wide);
+    item.m_strCommand.Assign(wide, static_cast<int>(wideEnd - wide));
   }
-  item.m_strLabel.KeepQuickly(label.data(), static_cast<int>(label.size()));
+  Assign(item.m_strLabel, label);
   return true;
 }
 
@@ -119,7 +114,7 @@ void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
   while (close < text.size() && text[close] != L']') ++close;
   if (close == text.size()) return;
   const std::wstring_view label = text.substr(1, close - 1).substr(0, kLongestLabel);
-  item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
+  Assign(item.m_strLabel, label);
 
   std::wstring_view command = TrimEnd(text.substr(close + 1).substr(0, kLongestCommand));
   if (command.empty()) {
@@ -129,7 +124,7 @@ void ParseMenuLine(std::wstring_view text, TMenuItem& item) {
   if (command.back() == L';') command.remove_suffix(1);
   wchar_t expanded[kLongestCommand + 1];
   const wchar_t* end = ExpandCommand(command, expanded);
-  item.m_strCommand.Keep(expanded, static_cast<int>(end - expanded));
+  item.m_strCommand.Assign(expanded, static_cast<int>(end - expanded));
 }
 
 void ParseMenuLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {

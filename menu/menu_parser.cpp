@@ -30,7 +30,7 @@ void MoveAll(TDPtrList<T>& from, TDPtrList<T>& to) {
 int MenuParser::Parse() {
   Advance();
   if (!QmnMenu()) return 1;
-  m_work.Settle();
+  m_work.FlushNames();
   Commit();
   return 0;
 }
@@ -73,20 +73,18 @@ bool MenuParser::MenuBarList() {
 // of the first line when that line follows.
 bool MenuParser::MenuBar() {
   auto bar = std::make_unique<TMenuBar>();
-  if (!ExpectName({.text = &bar->m_strName})) return false;
-  Mask mask;
+  if (!ExpectName(bar->m_strName)) return false;
   if (Is(QMN_IDENTIFIER)) {
     ExpectPendingIcon();
     if (Is(QMN_EQUAL)) {
       m_hasPendingIcon = false;
-      m_work.Take({.key = m_pendingIcon, .text = &bar->m_strKind});
+      m_ansi.DecodeTo(m_pendingIcon.name, bar->m_strKind);
       Advance();
-      if (!ObjectMask(mask)) return false;
+      if (!ObjectMask(bar->m_objectMask)) return false;
     }
   }
   if (!MenuItemList()) return false;
-  bar->m_objectMask = std::move(mask.groups);
-  if (mask.lost || m_barsLost)
+  if (m_barsLost)
     LoseBars();
   else
     KeepBar(std::move(bar));
@@ -106,10 +104,9 @@ void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
 // A block that failed takes all blocks before and behind it along, while switches and resources
 // stay: one bad group in a mask leaves the user without any menu.
 void MenuParser::LoseBars() {
-  m_barsLost = true;
   m_bars.Clear();
   m_lines.Clear();
-  m_work.Forget();
+  m_work.DropNames();
   m_work.icons.clear();
   m_work.marks.clear();
 }
@@ -119,17 +116,15 @@ void MenuParser::LoseBars() {
 // A further group takes the place of whatever stood behind the first one. So a mask of three or
 // more groups keeps its first and its last; the block then matches more objects than its author
 // wrote.
-bool MenuParser::ObjectMask(Mask& mask) {
-  if (!DxfGroup(mask.groups)) return false;
-  mask.lost = mask.groups.IsEmpty();
+bool MenuParser::ObjectMask(TRBList& mask) {
+  MaskGroup group;
+  if (!DxfGroup(group)) return false;
+  mask.SetHead(group.release());
   while (Is(QMN_COMA)) {
     Advance();
-    TRBList group;
     if (!DxfGroup(group)) return false;
-    if (group.IsEmpty()) mask.lost = true;
-    if (mask.lost) continue;
-    resbuf* dropped = std::exchange(mask.groups.Head()->rbnext, group.Detach());
-    TRBList::FreeGroups(dropped);
+    if (m_barsLost) continue;
+    TRBList::FreeGroups(std::exchange(mask.Head()->rbnext, group.release()));
   }
   return true;
 }
@@ -137,34 +132,36 @@ bool MenuParser::ObjectMask(Mask& mask) {
 // dxf_group : QMN_ICON QMN_COMA QMN_ICON
 // dxf_group : QMN_ICON QMN_COMA QMN_FCON
 // dxf_group : QMN_ICON QMN_COMA QMN_STRING
-// A group of the wrong kind is reported here, before the token behind it is read, and is left
-// empty.
-bool MenuParser::DxfGroup(TRBList& group) {
+// A group of the wrong kind is reported here, before the token behind it is read, and is null.
+bool MenuParser::DxfGroup(MaskGroup& group) {
   if (!Check(QMN_ICON)) return false;
   const int code = m_token.number;
   Advance();
   if (!Expect(QMN_COMA)) return false;
   if (!Is(QMN_ICON) && !Is(QMN_FCON) && !Is(QMN_STRING)) return SyntaxError();
-  MakeGroup(code, group);
+  group = MakeGroup(code);
+  if (!group) m_barsLost = true;
   Advance();
   return true;
 }
 
-void MenuParser::MakeGroup(int code, TRBList& group) {
+MaskGroup MenuParser::MakeGroup(int code) {
   const short kind = QvxExport::TypeOfCode(code);
   if (Is(QMN_ICON)) {
-    if (kind != RTSHORT) return ReportKind(code, L"integer");
-    group.AppendShort(code, static_cast<short>(m_token.number));
+    if (kind == RTSHORT) return NewShortGroup(code, static_cast<short>(m_token.number));
+    ReportKind(code, L"integer");
   } else if (Is(QMN_FCON)) {
-    if (kind != RTREAL) return ReportKind(code, L"real");
-    group.AppendReal(code, m_token.real);
+    if (kind == RTREAL) return NewRealGroup(code, m_token.real);
+    ReportKind(code, L"real");
   } else {
-    // The words for a string are those for an integer; users know them so.
-    if (kind != RTSTR) return ReportKind(code, L"integer");
-    TWCString text;
-    m_ansi.Keep(m_token.text, text);
-    group.AppendString(code, text);
+    if (kind == RTSTR) {
+      TWCString text;
+      m_ansi.DecodeTo(m_token.text, text);
+      return NewTextGroup(code, text);
+    }
+    ReportKind(code, L"integer");  // not "string": users know the message in these words
   }
+  return nullptr;
 }
 
 void MenuParser::ReportKind(int code, const wchar_t* kind) {
@@ -195,7 +192,8 @@ bool MenuParser::MenuItem() {
   NamePool::Key icon;
   if (std::exchange(m_hasPendingIcon, false)) {
     icon = m_pendingIcon;
-    m_work.Take({.key = icon, .text = &item.m_strIconName, .iconIndex = &item.m_nIconIndex});
+    m_ansi.DecodeTo(icon.name, item.m_strIconName);
+    m_work.AddName(icon, {.iconIndex = &item.m_nIconIndex});
   }
   if (m_finishes) m_block.Note(item, m_lines.Length() - 1, icon);
   Advance();
@@ -203,7 +201,7 @@ bool MenuParser::MenuItem() {
 }
 
 void MenuParser::ExpectPendingIcon() {
-  m_pendingIcon = m_work.names.Announce(m_token.text);
+  m_pendingIcon = m_work.names.Hash(m_token.text);
   m_hasPendingIcon = true;
   Advance();
 }
@@ -223,7 +221,7 @@ bool MenuParser::MenuSwitchList() {
 bool MenuParser::MenuSwitchItem() {
   Advance();
   TMenuSwitchItem& made = AppendNew(m_switches);
-  return ExpectName({.text = &made.m_strName, .table = &m_work.switches}) &&
+  return ExpectName(made.m_strName, {.table = &m_work.switches}) &&
          ExpectFunction(QMN_GET_STATE, made.m_strGetFn) &&
          ExpectFunction(QMN_SET_STATE, made.m_strSetFn) && SwitchStateList(made);
 }
@@ -243,8 +241,7 @@ bool MenuParser::SwitchStateItem(TMenuSwitchItem& owner) {
   TSwitchStateItem& state = AppendNew(owner.m_states);
   state.m_nValue = m_token.number;
   Advance();
-  return Expect(QMN_EQUAL) &&
-         ExpectName({.text = &state.m_strIconName, .iconIndex = &state.m_nIconIndex}) &&
+  return Expect(QMN_EQUAL) && ExpectName(state.m_strIconName, {.iconIndex = &state.m_nIconIndex}) &&
          Expect(QMN_COMA) && ExpectString(state.m_strLabel);
 }
 
@@ -260,7 +257,7 @@ bool MenuParser::MenuResList() {
 // menu_res_item : QMN_IDENTIFIER QMN_EQUAL QMN_STRING QMN_COMA QMN_STRING
 bool MenuParser::MenuResItem() {
   TMenuResItem& made = AppendNew(m_resources);
-  return ExpectName({.text = &made.m_strName, .table = &m_work.resources}) && Expect(QMN_EQUAL) &&
+  return ExpectName(made.m_strName, {.table = &m_work.resources}) && Expect(QMN_EQUAL) &&
          ExpectString(made.m_strImage) && Expect(QMN_COMA) && ExpectString(made.m_strImage2);
 }
 
@@ -274,23 +271,26 @@ bool MenuParser::Expect(int kind) {
 
 bool MenuParser::ExpectString(TWCString& out) {
   if (!Check(QMN_STRING)) return false;
-  m_ansi.Keep(m_token.text, out);
+  m_ansi.DecodeTo(m_token.text, out);
   Advance();
   return true;
 }
 
-// An identifier; the use has everything but it.
-bool MenuParser::ExpectName(NameUse use) {
+bool MenuParser::ExpectName(TWCString& out) {
   if (!Check(QMN_IDENTIFIER)) return false;
-  use.key = m_work.names.Announce(m_token.text);
-  m_work.Take(use);
+  m_ansi.DecodeTo(m_token.text, out);
   Advance();
   return true;
+}
+
+bool MenuParser::ExpectName(TWCString& out, const NameUse& use) {
+  if (Is(QMN_IDENTIFIER)) m_work.AddName(m_work.names.Hash(m_token.text), use);
+  return ExpectName(out);
 }
 
 // keyword QMN_EQUAL QMN_IDENTIFIER
 bool MenuParser::ExpectFunction(int keyword, TWCString& out) {
-  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectName({.text = &out});
+  return Expect(keyword) && Expect(QMN_EQUAL) && ExpectName(out);
 }
 
 bool MenuParser::SyntaxError() {

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "menu/ansi_text.h"
+#include "menu/mask_group.h"
 #include "menu/menu_passes.h"
 #include "menu/menu_scanner.h"
 #include "menu/menu_system.h"
@@ -29,17 +30,12 @@ class MenuParser {
   int ParseAndFinish();
 
  private:
-  struct Mask {
-    TRBList groups;
-    bool lost = false;  // a group failed: the mask, its block and all blocks of the file go
-  };
-
   bool QmnMenu();
   bool MenuTitle();
   bool MenuBarList();
   bool MenuBar();
-  bool ObjectMask(Mask& mask);
-  bool DxfGroup(TRBList& group);
+  bool ObjectMask(TRBList& mask);
+  bool DxfGroup(MaskGroup& group);
   bool MenuItemList();
   bool MenuItem();
   bool MenuSwitchList();
@@ -55,10 +51,11 @@ class MenuParser {
   bool Check(int kind);
   bool Expect(int kind);
   bool ExpectString(TWCString& out);
-  bool ExpectName(NameUse use);
+  bool ExpectName(TWCString& out);
+  bool ExpectName(TWCString& out, const NameUse& use);
   bool ExpectFunction(int keyword, TWCString& out);
   bool SyntaxError();
-  void MakeGroup(int code, TRBList& group);
+  MaskGroup MakeGroup(int code);
   void ReportKind(int code, const wchar_t* kind);
   void ExpectPendingIcon();
   void KeepBar(std::unique_ptr<TMenuBar> bar);

@@ -16,13 +16,11 @@ class TMenuSystem;
 class TMenuBar;
 class TMenuItem;
 
-// A name in the source, what takes it and what its number is for.
+// What the number of a name is for.
 struct NameUse {
-  NamePool::Key key{};
-  TWCString* text = nullptr;          // gets the name
-  int* iconIndex = nullptr;           // gets the place of the icon, at the end of the file
+  int* iconIndex = nullptr;           // gets the index of the icon, at the end of the file
   TMenuItem* mark = nullptr;          // gets the switch, at the end of the file
-  std::vector<int>* table = nullptr;  // whose entry it is
+  std::vector<int>* table = nullptr;  // gets the number of its next entry
 };
 
 class PassWork {
@@ -43,14 +41,15 @@ class PassWork {
 
   explicit PassWork(size_t sourceBytes) : names(sourceBytes) {}
 
-  // What takes the name lives until the next Settle or Forget. Look-ups are gathered, since in a
-  // large menu most of them leave the caches: many together wait for the memory once.
-  void Take(const NameUse& use) {
-    m_open[m_openCount] = use;
-    if (++m_openCount == kTogether) Settle();
+  // Names are looked up in batches. The targets of the use live until the next FlushNames or
+  // DropNames.
+  void AddName(const NamePool::Key& key, const NameUse& use) {
+    m_keys[m_pending] = key;
+    m_uses[m_pending] = use;
+    if (++m_pending == kBatch) FlushNames();
   }
-  void Settle();
-  void Forget() { m_openCount = 0; }
+  void FlushNames();
+  void DropNames() { m_pending = 0; }
 
   NamePool names;
   std::vector<int> resources;  // the name of each entry
@@ -59,9 +58,10 @@ class PassWork {
   std::vector<Mark> marks;  // lines that show a switch
 
  private:
-  static constexpr size_t kTogether = 64;
-  NameUse m_open[kTogether];
-  size_t m_openCount = 0;
+  static constexpr size_t kBatch = 64;
+  NamePool::Key m_keys[kBatch];
+  NameUse m_uses[kBatch];
+  size_t m_pending = 0;
 };
 
 // First and last of one "->" to "<-" range while sub-menus are built.

@@ -6,9 +6,11 @@
 
 class TMenuResItem : public CObject {
   DECLARE_DYNAMIC(TMenuResItem)
-  QVX_PACKED_RECORD
 
  public:
+  static void* operator new(std::size_t bytes) { return NewRecord(bytes); }
+  static void operator delete(void* record) noexcept { FreeRecord(record); }
+
   TMenuResItem() = default;
   TMenuResItem(const wchar_t* name, const wchar_t* image, const wchar_t* image2);
   void Serialize(CArchive& ar) override;

@@ -7,9 +7,11 @@
 
 class TSwitchStateItem : public CObject {
   DECLARE_DYNAMIC(TSwitchStateItem)
-  QVX_PACKED_RECORD
 
  public:
+  static void* operator new(std::size_t bytes) { return NewRecord(bytes); }
+  static void operator delete(void* record) noexcept { FreeRecord(record); }
+
   void Serialize(CArchive& ar) override;
 
   int m_nValue = 0;
@@ -20,9 +22,11 @@ class TSwitchStateItem : public CObject {
 
 class TMenuSwitchItem : public CObject {
   DECLARE_DYNAMIC(TMenuSwitchItem)
-  QVX_PACKED_RECORD
 
  public:
+  static void* operator new(std::size_t bytes) { return NewRecord(bytes); }
+  static void operator delete(void* record) noexcept { FreeRecord(record); }
+
   void Serialize(CArchive& ar) override;
 
   // A value that no state has gives the first state, so that a switch always shows something; null

@@ -1,5 +1,5 @@
-// The identifiers of one menu source. Each gets a number when it is first met; all its uses share
-// one text, and the passes look names up by number: most lines of a menu name an icon.
+// Numbers the identifiers of one menu source. The passes look names up by number: most lines of a
+// menu name an icon.
 #pragma once
 
 #include <cstddef>
@@ -7,59 +7,58 @@
 #include <string_view>
 #include <vector>
 
-#include "kernel/twcstring.h"
-
 class NamePool {
  public:
-  // Made for a source of so many bytes; any number of names may come.
+  // The size of the source is a hint for the size of the tables.
   explicit NamePool(size_t sourceBytes = 0);
 
   // `name` is an identifier: ASCII letters, digits and underscores, no longer than a token. It
   // outlives the pool.
-  int Add(std::string_view name) { return Add(Announce(name)); }
-  // In steps, with other work between them that gives the memory time to arrive: in a large menu
-  // most look-ups leave the caches. Approach may be left out.
   struct Key {
     std::string_view name;
     uint32_t hash = 0;
   };
-  Key Announce(std::string_view name) const;
-  void Approach(const Key& key) const;
+  Key Hash(std::string_view name) const;
+
+  // The number of the name, the next free one for a new name. Numbers start at 0.
   int Add(const Key& key);
+  int Add(std::string_view name) { return Add(Hash(name)); }
+  // The same for several names at once. In a large menu most look-ups miss the caches; here those
+  // of different names do not depend on each other, so the processor overlaps their misses.
+  void Add(const Key* keys, size_t count, int* numbers);
   int Count() const { return static_cast<int>(m_names.size()); }
-  void CopyTo(int number, TWCString& out) { m_names[static_cast<size_t>(number)].text.CopyTo(out); }
 
-  // Names that are equal when case is ignored are one family: the number of its first name.
-  int FamilyOf(int number) const { return m_families[static_cast<size_t>(number)]; }
+  // Names that differ in case only form a case class; its number is that of its first name.
+  int CaseClass(int number) const { return m_caseClasses[static_cast<size_t>(number)]; }
 
-  // How many names were compared so far; tests hold it near the number of calls.
+  // The number of comparisons of names so far; the tests of hostile sources bound it.
   size_t Comparisons() const { return m_comparisons; }
 
  private:
-  struct alignas(64) Name {  // one line of the cache
+  static constexpr int kNone = -1;
+
+  struct alignas(64) Name {  // one cache line
     explicit Name(std::string_view name);
     std::string_view Whole() const { return {begin, length}; }
     bool Is(std::string_view name) const;
 
-    TSharedText text;
     const char* begin;  // in the source
     unsigned char length;
-    char head[39];  // nearly all names lie in the record whole: comparing them goes nowhere else
+    char head[55];  // most names fit, so that comparing them needs no access to the source
   };
 
-  // Names or families by their hash, with open addressing.
+  // Names by their hash, with open addressing.
   class Table {
    public:
-    static constexpr int kNone = -1;
     explicit Table(size_t names);
-    void Prefetch(uint32_t hash) const {
-      __builtin_prefetch(&m_slots[hash & (m_slots.size() - 1)]);
+    // The number in the home slot of this hash, kNone when the slot has another hash.
+    int FindAtHome(uint32_t hash) const {
+      const Slot& slot = m_slots[hash & (m_slots.size() - 1)];
+      return slot.hash == hash ? slot.number : kNone;
     }
-    // The number in the place where this hash belongs; kNone when that is free.
-    int Nearest(uint32_t hash) const { return m_slots[hash & (m_slots.size() - 1)].number; }
-    // The number under this hash that is the one; kNone when there is none.
-    template <class IsIt>
-    int Find(uint32_t hash, IsIt isIt) const;
+    // The first number under this hash for which `matches` holds, kNone without one.
+    template <class Matches>
+    int Find(uint32_t hash, Matches matches) const;
     void Add(uint32_t hash, int number);
 
    private:
@@ -67,34 +66,35 @@ class NamePool {
       uint32_t hash;
       int number;
     };
-    void Spread(size_t slots);
-    void Put(uint32_t hash, int number);
+    void Resize(size_t slots);
+    void Insert(uint32_t hash, int number);
 
-    std::vector<Slot> m_slots;  // a power of two, at most three quarters of them taken
-    size_t m_taken = 0;
+    std::vector<Slot> m_slots;  // a power of two, at most three quarters in use
+    size_t m_used = 0;
   };
 
   const Name& At(int number) const { return m_names[static_cast<size_t>(number)]; }
-  int AddNew(std::string_view name, int family);
-  int AddVariant(std::string_view name, int family);
+  int AddNew(std::string_view name, int caseClass);
+  int AddVariant(std::string_view name, int caseClass);
 
   uint64_t m_seed;
   std::vector<Name> m_names;
-  std::vector<int> m_families;  // of each name
-  Table m_heads;                // the first name of each family, by a hash that ignores case
-  Table m_variants;             // all others, by a hash that does not
+  std::vector<int> m_caseClasses;  // of each name
+  Table m_firsts;                  // the first name of each case class, by a hash that ignores case
+  Table m_variants;                // all others, by a hash that does not
   size_t m_comparisons = 0;
 };
 
-// From the numbers of a table's names to the first entry of that name, case ignored.
+// Maps names to the first entry of a table that has the name, case ignored.
 class NameLookup {
  public:
+  // `tableNames` has the number of each entry's name.
   NameLookup(const NamePool& pool, const std::vector<int>& tableNames);
   int Find(int number) const {  // -1 when there is none
-    return m_entries[static_cast<size_t>(m_pool.FamilyOf(number))];
+    return m_entries[static_cast<size_t>(m_pool.CaseClass(number))];
   }
 
  private:
   const NamePool& m_pool;
-  std::vector<int> m_entries;  // by family
+  std::vector<int> m_entries;  // by case class
 };

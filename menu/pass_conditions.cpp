@@ -24,7 +24,7 @@ std::wstring_view FirstWord(std::wstring_view text) {
 
 void SetFunction(TMenuItem& item, unsigned flag, TWCString& function, std::wstring_view name) {
   item.m_nFlags |= flag;
-  function.Keep(name.data(), static_cast<int>(name.size()));
+  function.Assign(name.data(), static_cast<int>(name.size()));
 }
 
 void TakeCondition(TMenuItem& item, std::wstring_view condition) {
@@ -37,7 +37,7 @@ void TakeCondition(TMenuItem& item, std::wstring_view condition) {
 }
 
 void StripLabel(TMenuItem& item) {
-  std::wstring_view label(item.m_strLabel.c_str(), static_cast<size_t>(item.m_strLabel.Length()));
+  std::wstring_view label(item.m_strLabel, static_cast<size_t>(item.m_strLabel.Length()));
   label = Trim(label);
   while (!label.empty() && label.front() == L'{') {
     const size_t close = label.find(L'}');
@@ -46,7 +46,7 @@ void StripLabel(TMenuItem& item) {
     label = Trim(label.substr(close + 1));
   }
   if (label.size() != static_cast<size_t>(item.m_strLabel.Length()))
-    item.m_strLabel.Keep(label.data(), static_cast<int>(label.size()));
+    item.m_strLabel.Assign(label.data(), static_cast<int>(label.size()));
 }
 
 }  // namespace
@@ -62,7 +62,7 @@ void BlockWork::Note(TMenuItem& item, int line, const NamePool::Key& icon) {
   nester.Note(item, line);
   const int length = item.m_strLabel.Length();
   if (length == 0) return;
-  const wchar_t* label = item.m_strLabel.c_str();
+  const wchar_t* label = item.m_strLabel;
   if (*label == L'{' || *label == L'*' || *label == L' ' || label[length - 1] == L' ')
     labels.push_back({&item, icon});
 }

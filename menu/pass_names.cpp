@@ -2,17 +2,16 @@
 #include "menu/menu_passes.h"
 #include "menu/menu_system.h"
 
-void PassWork::Settle() {
-  for (size_t i = 0; i < m_openCount; ++i) names.Approach(m_open[i].key);
-  for (size_t i = 0; i < m_openCount; ++i) {
-    const NameUse& use = m_open[i];
-    const int name = names.Add(use.key);
-    if (use.text) names.CopyTo(name, *use.text);
-    if (use.iconIndex) icons.push_back({use.iconIndex, name});
-    if (use.mark) marks.push_back({use.mark, name});
-    if (use.table) use.table->push_back(name);
+void PassWork::FlushNames() {
+  int numbers[kBatch];
+  names.Add(m_keys, m_pending, numbers);
+  for (size_t i = 0; i < m_pending; ++i) {
+    const NameUse& use = m_uses[i];
+    if (use.iconIndex) icons.push_back({use.iconIndex, numbers[i]});
+    if (use.mark) marks.push_back({use.mark, numbers[i]});
+    if (use.table) use.table->push_back(numbers[i]);
   }
-  Forget();
+  m_pending = 0;
 }
 
 // A label that is the mark of a switch only once its conditions are off shows no switch: marks are
@@ -23,7 +22,7 @@ void FinishBlock(TDPtrList<TMenuItem>& lines, TMenuBar& bar, BlockWork& block, P
     if (!label.item->IsSwitchMark())
       StripConditions(*label.item);
     else if (!label.icon.name.empty())
-      work.Take({.key = label.icon, .mark = label.item});
+      work.AddName(label.icon, {.mark = label.item});
     else
       work.marks.push_back({label.item, PassWork::kNoName});
   }

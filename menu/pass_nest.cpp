@@ -25,14 +25,14 @@ constexpr int kOpening = -1;
 void PutBack(TWCString& label, const wchar_t* pair, int count) {
   TWCString whole;
   for (; count > 0; --count) whole += pair;
-  whole += label;
-  label.Keep(whole, whole.Length());
+  whole.Append(label, label.Length());
+  label = whole;
 }
 
 }  // namespace
 
 void SubMenuNester::Note(TMenuItem& item, int line) {
-  const wchar_t* text = item.m_strLabel.c_str();
+  const wchar_t* text = item.m_strLabel;
   if (text[0] == L'-' && text[1] == L'>') return Note(item, line, kOpening);
   int pairs = 0;
   for (; text[0] == L'<' && text[1] == L'-'; text += 2) ++pairs;
@@ -44,7 +44,8 @@ void SubMenuNester::Note(TMenuItem& item, int line, int pairs) {
   m_lowest = std::min(m_lowest, m_sum);
   m_highest = std::max(m_highest, m_sum);
   m_arrows.push_back({&item, line, pairs, m_sum, 0, kNone, kNone});
-  item.m_strLabel.CutFront(2 * std::abs(pairs));
+  const int arrows = 2 * std::abs(pairs);
+  item.m_strLabel.Assign(item.m_strLabel + arrows, item.m_strLabel.Length() - arrows);
 }
 
 void SubMenuNester::Clear() {

@@ -24,6 +24,14 @@ void Write(CompiledWriter& out, const TMenuResItem& item) {
 }
 
 void Read(CompiledReader& in, TMenuResItem& item) {
+  if (const unsigned char* at = in.Buffered(3 * ShortForms::kStringBytes)) {
+    ShortForms forms(at);
+    if (forms.GetString(item.m_strName) && forms.GetString(item.m_strImage) &&
+        forms.GetString(item.m_strImage2)) {
+      in.Advance(forms.At());
+      return;
+    }
+  }
   in.GetString(item.m_strName);
   in.GetString(item.m_strImage);
   in.GetString(item.m_strImage2);

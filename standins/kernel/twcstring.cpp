@@ -1,140 +1,148 @@
-// The parts of TWCString that allocate or fold case. Storage is exact when a whole text is assigned
-// and doubles when text is appended bit by bit.
+// The members of TWCString that allocate or compare. Assign allocates exactly what the text needs;
+// Append doubles the capacity, so that appending unit by unit takes linear time.
 #include "kernel/twcstring.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <cwctype>
 #include <limits>
 #include <new>
 
+#include "kernel/text_memory.h"
+
 namespace {
-constexpr std::size_t kHeapHead = 2 * sizeof(int);
-constexpr std::size_t kKeptHead = sizeof(int);
-constexpr int kLargest =
+
+// Builds for memory checkers put every text on the heap, so that the checker knows its bounds.
+#if defined(QVX_SEPARATE_BLOCKS)
+constexpr bool kHasPool = false;
+#else
+constexpr bool kHasPool = true;
+#endif
+constexpr int kLongestPooled = 240;
+constexpr int kLongest =
     (std::numeric_limits<int>::max() - 64) / static_cast<int>(sizeof(wchar_t)) - 1;
 
-std::size_t BytesOf(int units) { return sizeof(wchar_t) * static_cast<std::size_t>(units); }
-
-std::uintptr_t NewText(int capacity) {
-  void* block = std::malloc(kHeapHead + BytesOf(capacity + 1));
-  if (!block) throw std::bad_alloc();
-  return reinterpret_cast<std::uintptr_t>(block) + kHeapHead;
+constexpr std::size_t BytesOf(int units) {
+  return sizeof(wchar_t) * static_cast<std::size_t>(units);
 }
+static_assert(sizeof(int) + BytesOf(kLongestPooled + 1) <= TextMemory::kLargestBlock);
+
+int LengthOf(const wchar_t* text) {
+  return text ? static_cast<int>(std::char_traits<wchar_t>::length(text)) : 0;
+}
+
+// Copies a text that lies outside of `out`. For the usual lengths no branch depends on the length:
+// four pieces are copied, which overlap unless the text fills them.
+inline void CopyText(wchar_t* out, const wchar_t* text, int count) {
+  constexpr int kPiece = 4;
+  const auto copy = [=](int at) { std::memcpy(out + at, text + at, kPiece * sizeof(wchar_t)); };
+  const int last = count - kPiece;
+  if (last >= 0 && last <= 3 * kPiece) [[likely]] {
+    copy(0);
+    copy(std::min(kPiece, last));
+    copy(std::min(2 * kPiece, last));
+    copy(last);
+  } else {
+    std::memcpy(out, text, BytesOf(count));
+  }
+}
+
 }  // namespace
 
-void TWCString::Release() noexcept {
-  char* text = reinterpret_cast<char*>(Text());
-  if (IsKept())
-    PackedMemory::Drop(text - kKeptHead);
-  else
-    std::free(text - kHeapHead);
-  m_bits = 0;
+TWCString& TWCString::operator=(const wchar_t* text) {
+  Assign(text, LengthOf(text));
+  return *this;
 }
 
-void TWCString::Copy(const TWCString& other) {
-  if (!other.IsKept()) return Assign(other.c_str(), other.Length());
-  PackedMemory::Share(other.Text());
-  if (m_bits) Release();
-  m_bits = other.m_bits;
+TWCString& TWCString::operator+=(const wchar_t* text) {
+  Append(text, LengthOf(text));
+  return *this;
 }
 
-void TWCString::Keep(const wchar_t* text, int count) {
-  if (count <= 0 || !text) return Empty();
-  const auto copy = [=](wchar_t* out) { std::memcpy(out, text, BytesOf(count)); };
-  if (!m_bits) return KeepBy(count, copy);
-  TWCString kept;  // for its own part: the source may lie inside the old text
-  kept.KeepBy(count, copy);
-  std::swap(m_bits, kept.m_bits);
-}
-
-// In place: the length moves up in front of what is left. The block is known by any address in it.
-void TWCString::CutFront(int even) {
-  const int left = Length() - even;
-  if (!IsKept() || left == 0) {
-    const TWCString rest(c_str() + even);
-    return Assign(rest.c_str(), left);
-  }
-  m_bits += BytesOf(even);
-  Head()[kLength] = left;
-}
-
-// Too long for packed memory: on the heap like any other text.
-wchar_t* TWCString::LongRoom(int count) {
-  if (count > kLargest - kOverrun) throw std::bad_alloc();
-  Reserve(count + kOverrun);
-  Head()[kLength] = count;
-  return Text();
-}
-
-// A text that is not packed, the empty one for instance, is copied like any other.
-void TSharedText::PayAndCopyTo(TWCString& out) {
-  if (!m_text.IsKept()) {
-    out = m_text;
-    return;
-  }
-  PackedMemory::Share(m_text.Text(), kPaidAtOnce);
-  m_paid = kPaidAtOnce;
-  CopyTo(out);
-}
-
-void TSharedText::GiveBack() noexcept {
-  PackedMemory::Drop(m_text.Text(), static_cast<std::size_t>(m_paid));
-}
-
-// Room of its own for at least so many units, and no less than the text, which stays, needs.
-void TWCString::Grow(int atLeast) {
-  if (atLeast < Length() || atLeast > kLargest) throw std::bad_alloc();
-  const int old = Capacity();
-  const int capacity = std::max({atLeast, 15, old < kLargest / 2 ? old * 2 : kLargest});
-  TWCString grown;
-  grown.m_bits = NewText(capacity);
-  grown.Head()[kCapacity] = capacity;
-  const int length = Length();
-  std::memcpy(grown.Text(), c_str(), BytesOf(length));
-  grown.SetLength(length);
-  std::swap(m_bits, grown.m_bits);
-}
-
+// The usual case: a short text for an empty string.
 void TWCString::Assign(const wchar_t* text, int count) {
-  if (count <= 0 || !text) return Empty();
-  if (count > kLargest) throw std::bad_alloc();
-  if (count > Capacity()) {
-    const std::uintptr_t fresh = NewText(count);
-    std::memcpy(reinterpret_cast<wchar_t*>(fresh), text, BytesOf(count));
-    if (m_bits) Release();  // only now: the source may lie inside the old text
-    m_bits = fresh;
-    Head()[kCapacity] = count;
-  } else {
-    std::memmove(Text(), text, BytesOf(count));
+  if (kHasPool && !m_bits && text && count > 0 && count <= kLongestPooled) [[likely]] {
+    if (void* block = TextMemory::Cut(sizeof(int) + BytesOf(count + 1))) [[likely]] {
+      m_bits = reinterpret_cast<std::uintptr_t>(static_cast<int*>(block) + 1);
+      SetLength(count);
+      return CopyText(Text(), text, count);
+    }
+    TextMemory::Refill();
   }
-  SetLength(count);
+  AssignSlowly(text, count);
+}
+
+// Not inlined into Assign, which then needs no stack frame.
+[[gnu::noinline]] void TWCString::AssignSlowly(const wchar_t* text, int count) {
+  if (count <= 0 || !text) return Empty();
+  if (count <= Capacity()) {
+    std::memmove(Text(), text, BytesOf(count));
+    return SetLength(count);
+  }
+  TWCString fresh;  // the source may lie in the old text
+  if (kHasPool && count <= kLongestPooled) {
+    fresh.Assign(text, count);
+  } else {
+    fresh.Grow(count);
+    std::memcpy(fresh.Text(), text, BytesOf(count));
+    fresh.SetLength(count);
+  }
+  std::swap(m_bits, fresh.m_bits);
 }
 
 void TWCString::Append(const wchar_t* text, int count) {
   if (count <= 0 || !text) return;
   const int length = Length();
-  if (count > kLargest - length) throw std::bad_alloc();
-  TWCString before;  // the source may lie inside the text that Grow leaves
+  if (count > kLongest - length) throw std::bad_alloc();
+  TWCString copy;  // of a source that lies in the text that Grow replaces
   if (length + count > Capacity()) {
-    const bool inside = m_bits && text >= Text() && text <= Text() + length;
-    if (inside) before.Assign(text, count), text = before.c_str();
-    Grow(length + count);
+    const wchar_t* mine = *this;
+    if (text >= mine && text <= mine + length) {
+      copy.Assign(text, count);
+      text = copy;
+    }
+    const int doubled = length < kLongest / 2 ? 2 * length : kLongest;
+    Grow(std::max({length + count, doubled, 15}));
   }
   std::memmove(Text() + length, text, BytesOf(count));
   SetLength(length + count);
 }
 
-void TWCString::Truncate(int length) {
-  length = std::max(length, 0);
-  if (length >= Length()) return;
-  if (length == 0 && IsKept()) return Release();
-  if (IsKept()) Grow(Length());
-  SetLength(length);
+// Moves the text to a heap block of this capacity.
+void TWCString::Grow(int capacity) {
+  if (capacity > kLongest) throw std::bad_alloc();
+  void* block = std::malloc(2 * sizeof(int) + BytesOf(capacity + 1));
+  if (!block) throw std::bad_alloc();
+  TWCString grown;
+  grown.m_bits = reinterpret_cast<std::uintptr_t>(static_cast<int*>(block) + 2) | kHeapBit;
+  grown.Head()[kCapacity] = capacity;
+  if (m_bits) std::memcpy(grown.Text(), Text(), BytesOf(Length()));
+  grown.SetLength(Length());
+  std::swap(m_bits, grown.m_bits);
 }
 
-bool TWCString::EqualsNoCase(const wchar_t* text) const {
-  const wchar_t* mine = c_str();
+void TWCString::Free() noexcept {
+  if (m_bits & kHeapBit)
+    std::free(Head() + kCapacity);
+  else
+    TextMemory::Free(Head() + kLength);
+}
+
+bool TWCString::operator==(const TWCString& other) const noexcept {
+  const int length = Length();
+  return length == other.Length() &&
+         (length == 0 || std::memcmp(Text(), other.Text(), BytesOf(length)) == 0);
+}
+
+bool TWCString::operator==(const wchar_t* text) const noexcept {
+  const int length = Length();
+  return LengthOf(text) == length &&
+         (length == 0 || std::memcmp(Text(), text, BytesOf(length)) == 0);
+}
+
+bool TWCString::EqualsNoCase(const wchar_t* text) const noexcept {
+  const wchar_t* mine = *this;
   if (!text) text = L"";
   const int length = Length();
   for (int i = 0; i < length; ++i) {

@@ -9,7 +9,7 @@ namespace {
 
 bool Agrees(AnsiText& ansi, const std::string& narrow) {
   TWCString quick;
-  ansi.Keep(narrow, quick);
+  ansi.DecodeTo(narrow, quick);
   return quick == TUString(narrow.data(), static_cast<int>(narrow.size()));
 }
 

@@ -139,9 +139,9 @@ TEST(CompiledFile, StringsOfEachLengthComeBackBesideTheirNeighbours) {
   ASSERT_EQ(LoadBytes(back, SaveBytes(system)), "");
   ASSERT_EQ(back.m_resources.Length(), 300);
   for (int i = 0; i < 300; ++i) {
-    EXPECT_EQ(back.m_resources.At(i)->m_strName.c_str(), text(i));
-    EXPECT_EQ(back.m_resources.At(i)->m_strImage.c_str(), text(299 - i));
-    EXPECT_EQ(back.m_resources.At(i)->m_strImage2.c_str(), text(i / 7));
+    EXPECT_EQ(back.m_resources.At(i)->m_strName, text(i).c_str());
+    EXPECT_EQ(back.m_resources.At(i)->m_strImage, text(299 - i).c_str());
+    EXPECT_EQ(back.m_resources.At(i)->m_strImage2, text(i / 7).c_str());
   }
 }
 

@@ -35,7 +35,6 @@ struct Entry {
 };
 constexpr std::size_t kSlots = std::size_t{1} << 18;
 constexpr std::uintptr_t kErased = 1;
-constexpr std::size_t kPiece = 16 * 1024;
 Entry* g_table = nullptr;
 
 thread_local bool g_on = false;
@@ -137,7 +136,7 @@ long FreeLost() {
   long lost = 0;
 #ifndef _WIN32
   for (std::size_t i = 0; i < kSlots; ++i) {
-    if (g_table[i].key <= kErased || g_table[i].size >= kPiece) continue;
+    if (g_table[i].key <= kErased) continue;
     __real_free(reinterpret_cast<void*>(~g_table[i].key));
     ++lost;
   }

@@ -37,9 +37,8 @@ class Pause {
   bool m_was;
 };
 
-// Frees the blocks that the watch that ended left behind and gives their number. Pieces of 16 KiB
-// and more, which a pool of small texts may keep for the next time, are left to the sanitizer's
-// leak check. Always 0 on Windows, where what the library's DLL frees does not come by here.
+// Frees the blocks that the watch that ended left behind and gives their number. Always 0 on
+// Windows, where what the library's DLL frees does not come by here.
 long FreeLost();
 
 }  // namespace memory_faults

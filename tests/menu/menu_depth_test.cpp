@@ -142,7 +142,7 @@ TEST(MenuDepth, ANameInThousandsOfCasesIsFoundAfterAFewComparisons) {
   NamePool pool;
   for (int round = 0; round < 2; ++round)
     for (size_t i = 0; i < kCount; ++i) EXPECT_EQ(pool.Add(names[i]), static_cast<int>(i));
-  EXPECT_EQ(pool.FamilyOf(kCount - 1), 0);
+  EXPECT_EQ(pool.CaseClass(kCount - 1), 0);
   EXPECT_GE(pool.Comparisons(), 3 * kCount - 2) << "heads twice, variants once";
   EXPECT_LE(pool.Comparisons(), 5 * kCount);
 }

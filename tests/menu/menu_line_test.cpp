@@ -93,7 +93,8 @@ TEST(MenuLine, TheBytesOfALineGiveWhatItsTextGives) {
     for (unsigned count = random() % 16; count; --count) narrow += pieces[random() % 14];
     TMenuItem fromBytes, fromText;
     ParseMenuLine(narrow, ansi, fromBytes);
-    ParseMenuLine(TUString(narrow.c_str()).c_str(), fromText);
+    const TUString wide(narrow.c_str());
+    ParseMenuLine({wide, static_cast<size_t>(wide.Length())}, fromText);
     ASSERT_TRUE(fromBytes.m_strLabel == fromText.m_strLabel) << narrow;
     ASSERT_TRUE(fromBytes.m_strCommand == fromText.m_strCommand) << narrow;
   }

@@ -74,7 +74,7 @@ TEST(NestSubMenus, TheCachedEndsOfAllBarsAreRight) {
 // bar.
 int PairsOf(const TWCString& label) {
   int pairs = 0;
-  while (label.c_str()[2 * pairs] == L'<' && label.c_str()[2 * pairs + 1] == L'-') ++pairs;
+  while (label[2 * pairs] == L'<' && label[2 * pairs + 1] == L'-') ++pairs;
   return pairs;
 }
 
@@ -98,8 +98,8 @@ void NestAsWorded(TMenuBar& bar) {
   for (TItemDot range : ranges) {
     TMenuItem* opening = bar.At(range.first - moved);
     TMenuItem* closing = bar.At(range.last - moved);
-    opening->m_strLabel = TWCString(opening->m_strLabel.c_str() + 2);
-    closing->m_strLabel = TWCString(closing->m_strLabel.c_str() + 2);
+    opening->m_strLabel = TWCString(opening->m_strLabel + 2);
+    closing->m_strLabel = TWCString(closing->m_strLabel + 2);
     opening->m_pSubMenu = new TMenuBar;
     for (int i = range.first; i < range.last; ++i)
       opening->m_pSubMenu->Append(bar.Detach(range.first + 1 - moved));
