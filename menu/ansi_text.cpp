@@ -23,7 +23,7 @@ AnsiText::AnsiText(NarrowDecoder* decoder)
 }
 
 // False when the two bytes are not one character.
-inline bool AnsiText::TakePair(const char*& p, const char* end, wchar_t*& out) {
+inline bool AnsiText::DecodePair(const char*& p, const char* end, wchar_t*& out) {
   if (end - p < 2) return false;
   uint16_t& place = m_pairs[(Byte(p[0]) - 0x80) << 8 | Byte(p[1])];
   const uint16_t unit = place ? place : Remember(p, place);
@@ -43,7 +43,7 @@ const wchar_t* AnsiText::DecodeQuickly(std::string_view narrow) {
       p += 8;
     } else if (!(*p & 0x80)) {
       *out++ = static_cast<wchar_t>(*p++);
-    } else if (!TakePair(p, end, out)) {
+    } else if (!DecodePair(p, end, out)) {
       return nullptr;
     }
   }
@@ -58,7 +58,7 @@ const char* AnsiText::DecodeUntil(char stop, std::string_view narrow, std::wstri
   while (p < end && *p != stop) {
     if (!(*p & 0x80))
       *out++ = static_cast<wchar_t>(*p++);
-    else if (!TakePair(p, end, out))
+    else if (!DecodePair(p, end, out))
       return nullptr;
   }
   units = {m_units, static_cast<size_t>(out - m_units)};

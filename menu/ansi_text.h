@@ -41,7 +41,7 @@ class AnsiText {
  private:
   // Behind the last unit; null when the text has to be converted as a whole.
   const wchar_t* DecodeQuickly(std::string_view narrow);
-  bool TakePair(const char*& p, const char* end, wchar_t*& out);
+  bool DecodePair(const char*& p, const char* end, wchar_t*& out);
   std::wstring_view DecodeWhole(std::string_view narrow);
   void Convert(std::string_view narrow, TWCString& out);
   uint16_t Remember(const char* pair, uint16_t& place);

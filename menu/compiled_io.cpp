@@ -87,14 +87,14 @@ void CompiledWriter::Finish() {
 }
 
 void CompiledWriter::PutReal(double value) {
-  LayDown(Room(sizeof value), std::bit_cast<uint64_t>(value));
+  Store(Room(sizeof value), std::bit_cast<uint64_t>(value));
 }
 
 void CompiledWriter::PutString(const wchar_t* text, int length) {
   const auto units = static_cast<uint32_t>(length);
   if (units >= kMedium) return PutLongString(text, units);
   unsigned char* room = Room(4 + 2 * size_t{units});
-  LayDown(room, kShortHead | units << 24);
+  Store(room, kShortHead | units << 24);
   Narrow(text, units, room + 4);
 }
 

@@ -26,8 +26,8 @@ class CompiledWriter {
   // Switches are written as indexes into the system's table; without a system they are lost.
   CompiledWriter(CArchive& ar, TMenuSystem* system);
 
-  void PutU16(uint16_t value) { LayDown(Room(sizeof value), value); }
-  void PutU32(uint32_t value) { LayDown(Room(sizeof value), value); }
+  void PutU16(uint16_t value) { Store(Room(sizeof value), value); }
+  void PutU32(uint32_t value) { Store(Room(sizeof value), value); }
   void PutI32(int32_t value) { PutU32(static_cast<uint32_t>(value)); }
   void PutReal(double value);
   template <size_t kSize>
@@ -41,7 +41,7 @@ class CompiledWriter {
 
  private:
   template <class Number>
-  static void LayDown(unsigned char* bytes, Number value) {
+  static void Store(unsigned char* bytes, Number value) {
     std::memcpy(bytes, &value, sizeof value);
   }
   unsigned char* Room(size_t bytes) {  // small ones only

@@ -15,7 +15,7 @@ void TMenuBar::CollectSubMenus(TMenuBar& bar, TMenuBar*& chain) {
   if (!bar.OwnsElements()) return;
   for (TMenuItem* item : bar) {
     if (!item || !item->m_pSubMenu || !item->m_pSubMenu->m_bOwned) continue;
-    item->m_pSubMenu->m_pNextDoomed = chain;
+    item->m_pSubMenu->m_pNextToDelete = chain;
     chain = item->m_pSubMenu;
     item->m_pSubMenu = nullptr;
   }
@@ -24,7 +24,7 @@ void TMenuBar::CollectSubMenus(TMenuBar& bar, TMenuBar*& chain) {
 void TMenuBar::DeleteChain(TMenuBar* chain) {
   while (chain) {
     TMenuBar* bar = chain;
-    chain = bar->m_pNextDoomed;
+    chain = bar->m_pNextToDelete;
     CollectSubMenus(*bar, chain);
     delete bar;
   }

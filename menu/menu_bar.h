@@ -41,7 +41,7 @@ class TMenuBar : public CObject, public TDPtrList<TMenuItem> {
   static void CollectSubMenus(TMenuBar& bar, TMenuBar*& chain);
   static void DeleteChain(TMenuBar* chain);
 
-  TMenuBar* m_pNextDoomed = nullptr;  // used only while a tree is torn down
+  TMenuBar* m_pNextToDelete = nullptr;  // used only while a tree is torn down
 };
 
 // Visits every line of a bar and of all sub-menus below it, in the order of the file: first the

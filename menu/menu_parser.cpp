@@ -84,8 +84,8 @@ bool MenuParser::MenuBar() {
     }
   }
   if (!MenuItemList()) return false;
-  if (m_barsLost)
-    LoseBars();
+  if (m_barsDropped)
+    DropBars();
   else
     KeepBar(std::move(bar));
   m_block.Clear();
@@ -103,7 +103,7 @@ void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
 
 // A block that failed takes all blocks before and behind it along, while switches and resources
 // stay: one bad group in a mask leaves the user without any menu.
-void MenuParser::LoseBars() {
+void MenuParser::DropBars() {
   m_bars.Clear();
   m_lines.Clear();
   m_work.DropNames();
@@ -123,7 +123,7 @@ bool MenuParser::ObjectMask(TRBList& mask) {
   while (Is(QMN_COMA)) {
     Advance();
     if (!DxfGroup(group)) return false;
-    if (m_barsLost) continue;
+    if (m_barsDropped) continue;
     TRBList::FreeGroups(std::exchange(mask.Head()->rbnext, group.release()));
   }
   return true;
@@ -140,7 +140,7 @@ bool MenuParser::DxfGroup(MaskGroup& group) {
   if (!Expect(QMN_COMA)) return false;
   if (!Is(QMN_ICON) && !Is(QMN_FCON) && !Is(QMN_STRING)) return SyntaxError();
   group = MakeGroup(code);
-  if (!group) m_barsLost = true;
+  if (!group) m_barsDropped = true;
   Advance();
   return true;
 }

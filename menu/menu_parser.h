@@ -59,7 +59,7 @@ class MenuParser {
   void ReportKind(int code, const wchar_t* kind);
   void ExpectPendingIcon();
   void KeepBar(std::unique_ptr<TMenuBar> bar);
-  void LoseBars();
+  void DropBars();
   void Commit();
 
   MenuScanner& m_scanner;
@@ -78,7 +78,7 @@ class MenuParser {
   TDPtrList<TMenuItem> m_lines;  // its lines
   TWCString m_title;
   TDPtrList<TMenuBar> m_bars;
-  bool m_barsLost = false;
+  bool m_barsDropped = false;
   TDPtrList<TMenuSwitchItem> m_switches;
   TDPtrList<TMenuResItem> m_resources;
 };

@@ -27,7 +27,7 @@ void SetFunction(TMenuItem& item, unsigned flag, TWCString& function, std::wstri
   function.Assign(name.data(), static_cast<int>(name.size()));
 }
 
-void TakeCondition(TMenuItem& item, std::wstring_view condition) {
+void ReadCondition(TMenuItem& item, std::wstring_view condition) {
   const size_t equal = condition.find(L'=');
   if (equal == std::wstring_view::npos) return;
   const std::wstring_view word = FirstWord(condition.substr(0, equal));
@@ -42,7 +42,7 @@ void StripLabel(TMenuItem& item) {
   while (!label.empty() && label.front() == L'{') {
     const size_t close = label.find(L'}');
     if (close == std::wstring_view::npos) break;
-    TakeCondition(item, label.substr(1, close - 1));
+    ReadCondition(item, label.substr(1, close - 1));
     label = Trim(label.substr(close + 1));
   }
   if (label.size() != static_cast<size_t>(item.m_strLabel.Length()))

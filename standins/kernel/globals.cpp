@@ -45,7 +45,7 @@ wchar_t QvxGeLib::g_sAppPath[260];
 // Behind the last of the data it fills: whoever links the kernel sees defaults and never bare
 // zeros.
 namespace {
-const bool kDefaultsStand = (ResetSettings(), true);
+const bool kDefaultsAreSet = (ResetSettings(), true);
 }
 
 int GetCustomFlag() { return g_nCustomFlag; }
