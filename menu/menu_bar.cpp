@@ -2,34 +2,6 @@
 
 IMPLEMENT_DYNAMIC(TMenuBar, CObject)
 
-TMenuBar::~TMenuBar() {
-  TMenuBar* chain = nullptr;
-  CollectSubMenus(*this, chain);
-  DeleteChain(chain);
-}
-
-void TMenuBar::Delete(TMenuBar* bar) { DeleteChain(bar); }
-
-// Hangs the owned sub-menus of a bar's lines on the chain, so that the lines die without them.
-void TMenuBar::CollectSubMenus(TMenuBar& bar, TMenuBar*& chain) {
-  if (!bar.OwnsElements()) return;
-  for (TMenuItem* item : bar) {
-    if (!item || !item->m_pSubMenu || !item->m_pSubMenu->m_bOwned) continue;
-    item->m_pSubMenu->m_pNextToDelete = chain;
-    chain = item->m_pSubMenu;
-    item->m_pSubMenu = nullptr;
-  }
-}
-
-void TMenuBar::DeleteChain(TMenuBar* chain) {
-  while (chain) {
-    TMenuBar* bar = chain;
-    chain = bar->m_pNextToDelete;
-    CollectSubMenus(*bar, chain);
-    delete bar;
-  }
-}
-
 namespace {
 
 // Depth first over lines without a sub-menu, until one of them matches. Goes through operator[] so

@@ -37,7 +37,6 @@ class TMenuBar : public CObject, public TDPtrList<TMenuItem> {
   unsigned char m_bOwned = 1;  // the line that shows this bar as its sub-menu deletes it
 
  private:
-  friend class TMenuItem;
   static void CollectSubMenus(TMenuBar& bar, TMenuBar*& chain);
   static void DeleteChain(TMenuBar* chain);
 

@@ -1,6 +1,5 @@
 #include "menu/menu_item.h"
 
-#include "menu/menu_bar.h"
 #include "menu/fold_case.h"
 
 IMPLEMENT_DYNAMIC(TMenuItem, CObject)
@@ -18,10 +17,6 @@ TMenuItem::TMenuItem(const TMenuItem& other)
       m_strGrayFn(other.m_strGrayFn),
       m_strIconName(other.m_strIconName),
       m_nIconIndex(other.m_nIconIndex) {}
-
-TMenuItem::~TMenuItem() {
-  if (m_pSubMenu && m_pSubMenu->m_bOwned) TMenuBar::Delete(m_pSubMenu);
-}
 
 bool TMenuItem::IsSwitchMark() const {
   return !m_pSubMenu && !m_pSwitch && EqualNamesNoCase(m_strLabel, L"*SWITCH*");

@@ -2,8 +2,6 @@
 
 #include <memory>
 
-#include "menu/menu_system.h"
-
 namespace {
 // A lone blank or newline is what an empty Enter sends; it is nothing to repeat from a list.
 bool IsWorthKeeping(const wchar_t* command) {
@@ -38,6 +36,5 @@ TMenuItem* TMenuStack::FindSource(const wchar_t* command) {
   if (!m_pSources || m_pSources->IsRunMode()) return nullptr;
   if (TMenuBar* root = m_pSources->ScreenRoot())
     if (TMenuItem* item = root->FindItemByCommand(command)) return item;
-  TMenuSystem* system = m_pSources->CurrentSystem();
-  return system ? system->FindItemByCommand(command) : nullptr;
+  return m_pSources->FindMenuLine(command);
 }

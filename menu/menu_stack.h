@@ -6,14 +6,13 @@
 
 #include "menu/menu_bar.h"
 
-class TMenuSystem;
-
 class RecentSources {
  public:
   virtual ~RecentSources() = default;
-  virtual bool IsRunMode() = 0;              // on: labels are not looked up
-  virtual TMenuBar* ScreenRoot() = 0;        // null without a screen menu
-  virtual TMenuSystem* CurrentSystem() = 0;  // null without a context window
+  virtual bool IsRunMode() = 0;        // on: labels are not looked up
+  virtual TMenuBar* ScreenRoot() = 0;  // null without a screen menu
+  // The line of the menu in force that has this command; null when there is none.
+  virtual TMenuItem* FindMenuLine(const wchar_t* command) = 0;
 };
 
 class TMenuStack : public TMenuBar {

@@ -70,7 +70,9 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
   // RecentSources: sources of label and icon of a recent command.
   bool IsRunMode() override;
   TMenuBar* ScreenRoot() override;
-  TMenuSystem* CurrentSystem() override { return &m_menuSystem; }
+  TMenuItem* FindMenuLine(const wchar_t* command) override {
+    return m_menuSystem.FindItemByCommand(command);
+  }
 
   CBitmapMenu* AddPopup() override;
   int FindBlock(bool force);

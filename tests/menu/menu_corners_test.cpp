@@ -376,7 +376,7 @@ TEST(MenuScannerCorners, SkippedBytesBeyondTheEchosBufferAllArriveInOrder) {
 struct NoSources : RecentSources {
   bool IsRunMode() override { return false; }
   TMenuBar* ScreenRoot() override { return nullptr; }
-  TMenuSystem* CurrentSystem() override { return nullptr; }
+  TMenuItem* FindMenuLine(const wchar_t*) override { return nullptr; }
 };
 
 TEST(RecentListCorners, WithoutScreenMenuAndSystemTheCommandIsItsOwnLabel) {

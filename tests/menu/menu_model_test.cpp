@@ -202,7 +202,9 @@ TEST(MenuModel, AWalkVisitsEveryLineInTheOrderOfTheFile) {
 struct Sources : RecentSources {
   bool IsRunMode() override { return runMode; }
   TMenuBar* ScreenRoot() override { return root; }
-  TMenuSystem* CurrentSystem() override { return system; }
+  TMenuItem* FindMenuLine(const wchar_t* command) override {
+    return system ? system->FindItemByCommand(command) : nullptr;
+  }
   bool runMode = false;
   TMenuBar* root = nullptr;
   TMenuSystem* system = nullptr;
