@@ -9,7 +9,7 @@ constexpr uint16_t kNoCharacter = 0xFFFD;
 constexpr size_t kPairs = 0x8000;
 unsigned Byte(char c) { return static_cast<unsigned char>(c); }
 
-// Those of the system's page outlive a run: no page changes while a program runs.
+// Shared by all runs: the system's code page does not change while a program runs.
 std::vector<uint16_t>& PairsOfTheSystem() {
   static std::vector<uint16_t> pairs;
   return pairs;

@@ -1,4 +1,5 @@
-// Bytes eight at a time: the loops of the scanner and the line parser over plain text.
+// Searches and conversions of plain text, eight bytes at a time, for the scanner and the line
+// parser.
 #pragma once
 
 #include <bit>
@@ -17,7 +18,7 @@ inline std::uint64_t EightAt(const char* p) {
   return eight;
 }
 
-// The high bit of each byte that is `c`, and perhaps of bytes above the lowest one that is.
+// Sets the high bit of each byte that equals `c`; bits above the lowest of them may be wrong.
 constexpr std::uint64_t Marks(std::uint64_t eight, char c) {
   const std::uint64_t zero = eight ^ kOnes * static_cast<unsigned char>(c);
   return (zero - kOnes) & ~zero & kHighBits;
@@ -33,13 +34,14 @@ const char* FindAny(const char* p, const char* end) {
   return p;
 }
 
-// The last bytes of a text, up to eight of them, with zeros behind. Eight bytes can be read in
-// front of `end`, so that some of those in front of `p` may be read.
+// The last bytes of a text, up to eight, followed by zeros. The eight bytes before `end` must be
+// readable, also those before `p`.
 inline std::uint64_t LastOf(const char* p, const char* end) {
   return end == p ? 0 : EightAt(end - 8) >> 8 * (8 - (end - p));
 }
 
-// `out` has room for as many units as there are bytes. Loops of a fixed length become vector code.
+// `out` has room for one unit per byte. The inner loop has a fixed length, so that it becomes
+// vector code.
 inline wchar_t* WidenAscii(const char* p, const char* end, wchar_t* out) {
   for (; end - p >= 8; p += 8, out += 8) {
     std::uint8_t eight[8];

@@ -1,6 +1,6 @@
-// Saving and loading of compiled menu files. A save goes to a file beside the target, which takes
-// the target's place when it is whole, so that a save that dies leaves the old file or the new one.
-// Every failure ends in a message box; the caller hears nothing.
+// Saves and loads compiled menu files. A save writes a new file beside the target and renames it
+// when it is complete, so that an interrupted save leaves the old file or the new one. Failures are
+// reported by a message box only, not to the caller.
 #include <exception>
 #include <filesystem>
 #include <memory>
@@ -17,8 +17,8 @@
 
 namespace {
 
-// Made before anything is at stake: what is done with it later needs no memory. Empty for a name
-// that no file can have.
+// Made before the save begins, so that later steps allocate nothing. Empty for an invalid file
+// name.
 std::filesystem::path NativePath(const wchar_t* path) {
   std::u16string units;
   for (; *path; ++path) units += static_cast<char16_t>(*path);
@@ -35,7 +35,7 @@ void ShowWithPath(MenuBoxes& boxes, const wchar_t* text, const wchar_t* path) {
   boxes.ShowMessage(message);
 }
 
-// Runs the step; false when it ended in an exception, after saying by which of the three.
+// Runs the step; false when it ended in an exception, whose class is reported.
 template <class Step>
 bool Try(MenuBoxes& boxes, Step step) {
   const wchar_t* name = L"CMemoryException";
@@ -56,7 +56,6 @@ bool Try(MenuBoxes& boxes, Step step) {
   return false;
 }
 
-// A file and the archive on it.
 struct OpenArchive {
   OpenArchive(const wchar_t* path, UINT flags, UINT mode)
       : file(path, flags), ar(&file, mode | CArchive::bNoFlushOnDelete, kArchiveBuffer) {}
@@ -64,7 +63,7 @@ struct OpenArchive {
   CArchive ar;
 };
 
-// Null when it could not be opened for any reason.
+// Null when the file can't be opened.
 std::unique_ptr<OpenArchive> OpenToLoad(const wchar_t* path) {
   try {
     return std::make_unique<OpenArchive>(path, CFile::modeRead, CArchive::load);
@@ -102,7 +101,7 @@ class Saving {
     std::error_code failure;
     return std::filesystem::exists(m_targetFile, failure);
   }
-  // Whether a file of this name may be written, without harm to what is in it.
+  // Whether a file of this name may be written; does not change it.
   bool IsWritable() const {
     if (!Exists()) return true;
     CFile probe;
@@ -117,8 +116,8 @@ class Saving {
     std::error_code failure;
     std::filesystem::remove(m_besideFile, failure);
   }
-  // Beside the target; in a folder that takes no new file the target itself has to do, and only
-  // there can a save that dies leave half a file.
+  // Opens a file beside the target, or the target itself when the folder permits no new file; only
+  // then can an interrupted save leave an incomplete file.
   bool Open() {
     if (OpenAs(m_beside)) return true;
     if (!m_isDenied || !Exists()) return false;
@@ -151,11 +150,11 @@ class Saving {
   std::filesystem::path m_besideFile;
   MenuBoxes& m_boxes;
   bool m_isBeside = true;   // the open file is not the target itself
-  bool m_isDenied = false;  // the folder takes no new file
+  bool m_isDenied = false;  // the folder permits no new file
   std::unique_ptr<OpenArchive> m_archive;
 };
 
-// What may lack memory outside of the steps above is the wording of a message.
+// Outside of the steps above only the texts of messages allocate.
 template <class Job>
 void WithoutMemoryErrors(MenuBoxes& boxes, Job job) {
   if (!qvx::HasMemoryFor(job)) boxes.ShowMessage(L"CMemoryException");

@@ -8,17 +8,18 @@
 
 namespace {
 
-// [FF FE FF for wide text] length, text. A length that does not fit its width is all ones, and the
-// next wider form follows.
+// A string is [FF FE FF for wide text] length, text. A length field of all ones is followed by a
+// wider length field.
 constexpr uint8_t kMedium = 0xFF;
 constexpr uint16_t kWideMark = 0xFFFE;
 constexpr uint16_t kLarge = 0xFFFF;
-constexpr uint32_t kShortHead = 0xFFFEFF;  // the marker as a number; the length is the byte above
+constexpr uint32_t kShortHead =
+    0xFFFEFF;  // the marker as a number; the length is the next higher byte
 
-constexpr size_t kWindow = 65536;  // small enough to stay in the near caches
+constexpr size_t kWindow = 65536;  // fits the first caches
 
-// Pieces of a fixed length, of which compilers make vector code. The last one may overlap the one
-// in front of it, so that only the shortest texts need a loop.
+// Pieces have a fixed length, so that they become vector code. The last piece may overlap the
+// previous one, so that only the shortest texts need a loop.
 template <size_t kUnits>
 void NarrowPiece(const wchar_t* text, unsigned char* bytes) {
   uint16_t units[kUnits];
@@ -57,8 +58,8 @@ void Widen(const unsigned char* bytes, size_t length, wchar_t* out) {
   }
 }
 
-// In whole pieces, which read and write up to 15 units more than the text has: no branch then
-// depends on the length of a usual text.
+// Works in whole pieces and reads and writes up to 15 units beyond the text: for the usual lengths
+// no branch depends on the length.
 void WidenShort(const unsigned char* bytes, size_t length, wchar_t* out) {
   for (size_t at = 0; at < length; at += 16) {
     WidenPiece<8>(bytes + 2 * at, out + at);
@@ -135,7 +136,7 @@ void CompiledReader::Finish() {
   m_end = m_at;
 }
 
-// Reads on, so that at least `count` bytes lie at m_at.
+// Reads more of the file, so that at least `count` bytes are at m_at.
 void CompiledReader::Fetch(size_t count) {
   const auto kept = static_cast<size_t>(m_end - m_at);
   if (count - kept > m_left)
@@ -149,7 +150,7 @@ void CompiledReader::Fetch(size_t count) {
   m_left -= more;
 }
 
-// Straight from the file where nothing else reads in between.
+// Directly from the file when a system is read: nothing else then uses the archive.
 void CompiledReader::ReadOn(unsigned char* bytes, UINT count) {
   if (!m_window) return static_cast<void>(m_ar.EnsureRead(bytes, count));
   if (m_ar.GetFile()->Read(bytes, count) != count)
@@ -180,8 +181,7 @@ uint32_t CompiledReader::GetLength(bool& wide) {
   return medium == kLarge ? GetU32() : medium;
 }
 
-// Without the marker the text has one byte a character, of the ANSI code page; files of older
-// writers have such strings.
+// Without the marker the text is in the ANSI code page. Older writers made such strings.
 void CompiledReader::GetAnyString(TWCString& out) {
   bool wide;
   const uint32_t length = GetLength(wide);

@@ -1,6 +1,6 @@
-// The elements of a compiled menu file over a CArchive: little-endian integers, strings, counts.
-// The reader takes every size for a claim until the bytes have come: room is made for no more than
-// what the file can still hold. Both end by the archive's exceptions.
+// Reads and writes the elements of a compiled menu file through a CArchive: little-endian integers,
+// strings, counts. The reader trusts no size in the file: it reserves no more memory than the rest
+// of the file can fill. Errors are the archive's exceptions.
 #pragma once
 
 #include <bit>
@@ -17,13 +17,13 @@ class TMenuSwitchItem;
 
 constexpr int kArchiveBuffer = 409600;  // bytes; of the archives on compiled files
 
-// Numbers are copied as they lie in memory.
+// Numbers are copied in the byte order of the processor.
 static_assert(std::endian::native == std::endian::little);
 
-// Gathers what is written and hands it to the archive in large pieces; Finish hands over the rest.
+// Buffers the output and writes it to the archive in large pieces; Finish writes the rest.
 class CompiledWriter {
  public:
-  // Switches are written as indexes into the system's table; without a system they are lost.
+  // Switches are written as indexes into the system's table; without a system as none.
   CompiledWriter(CArchive& ar, TMenuSystem* system);
 
   void PutU16(uint16_t value) { Store(Room(sizeof value), value); }
@@ -44,7 +44,7 @@ class CompiledWriter {
   static void Store(unsigned char* bytes, Number value) {
     std::memcpy(bytes, &value, sizeof value);
   }
-  unsigned char* Room(size_t bytes) {  // small ones only
+  unsigned char* Room(size_t bytes) {  // at most kPiece
     if (bytes > kPiece - m_filled) Finish();
     unsigned char* room = m_bytes.get() + m_filled;
     m_filled += bytes;
@@ -52,7 +52,8 @@ class CompiledWriter {
   }
   void PutLongString(const wchar_t* text, uint32_t length);
 
-  static constexpr size_t kPiece = kArchiveBuffer;  // so that the archive passes it on as it is
+  static constexpr size_t kPiece =
+      kArchiveBuffer;  // of the archive's buffer size, so that the archive does not copy it
 
   CArchive& m_ar;
   std::unique_ptr<unsigned char[]> m_bytes;
@@ -60,11 +61,12 @@ class CompiledWriter {
   std::unordered_map<const TMenuSwitchItem*, int32_t> m_switches;
 };
 
-// Reads elements in their usual forms from memory. An object of this class is local, so that its
-// position stays in a register: each element begins where the one before it ends.
+// Reads elements in their usual forms from memory. Objects of this class are local variables, so
+// that the position stays in a register: each element begins where the previous one ends.
 class ShortForms {
  public:
-  // The bytes that GetString may read: those of the longest string with a length of one byte.
+  // The number of bytes that GetString may read: those of the longest string with a one-byte
+  // length.
   static constexpr size_t kStringBytes = 4 + 2 * 256;
 
   explicit ShortForms(const unsigned char* at) : m_at(at) {}
@@ -111,11 +113,11 @@ class ShortForms {
 
 class CompiledReader {
  public:
-  // How far the reader may go ahead of what it is asked for. A system is read in large pieces; a
-  // lone object must leave the archive where the object ends.
+  // How far the reader may read ahead. A system is read in large pieces; after a single object the
+  // archive's position must be the end of the object.
   enum class Ahead { kNothing, kMuch };
   CompiledReader(CArchive& ar, TMenuSystem* system, Ahead ahead);
-  // Gives back to the file what was read ahead.
+  // Sets the file's position back to the end of what was used.
   void Finish();
 
   uint8_t GetU8() { return *Need(1); }
@@ -131,18 +133,18 @@ class CompiledReader {
     GetAnyString(out);
   }
   TMenuSwitchItem* GetSwitch();
-  // The next bytes when so many are in memory, else null; Advance takes them.
+  // The next bytes when at least that many are buffered, else null. Advance consumes them.
   const unsigned char* Buffered(size_t bytes) const {
     return static_cast<size_t>(m_end - m_at) >= bytes ? m_at : nullptr;
   }
   void Advance(const unsigned char* to) { m_at = to; }
 
-  // For how many of `claimed` elements of at least `smallest` bytes room may be made at once. All
-  // the room that is made for the elements of one file is no more than the file can hold.
+  // The number of elements to reserve memory for, when the file claims `claimed` elements of at
+  // least `smallest` bytes each. The sum over a file is no more than the file can contain.
   int Grant(uint32_t claimed, int smallest);
 
  private:
-  // The next so many bytes; valid until the next call.
+  // The next `count` bytes; valid until the next call.
   const unsigned char* Need(size_t count) {
     if (count > static_cast<size_t>(m_end - m_at)) Fetch(count);
     m_at += count;
@@ -156,9 +158,9 @@ class CompiledReader {
 
   CArchive& m_ar;
   TMenuSystem* m_system;
-  size_t m_window;    // bytes that are read at once; 0 for no more than is asked for
-  uint64_t m_left;    // of the file behind m_end; never less than what it still has
-  uint64_t m_grants;  // bytes of the file that no room was made for
+  size_t m_window;    // bytes read at once; 0: no more than requested
+  uint64_t m_left;    // of the file after m_end; never less than what it still has
+  uint64_t m_grants;  // bytes of the file for which nothing was reserved
   std::unique_ptr<unsigned char[]> m_bytes;
   size_t m_room = 0;
   const unsigned char* m_at = nullptr;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kSmallestItem = 21;  // two strings, two numbers, three more strings, two numbers
 
-// Switch, flags and the two functions of nearly every line.
+// Switch, flags and the two functions of most lines: all empty.
 constexpr unsigned char kPlainTail[] = {0xFF, 0xFF, 0xFF, 0xFF, 0,    0,    0,    0,
                                         0xFF, 0xFE, 0xFF, 0,    0xFF, 0xFE, 0xFF, 0};
 
@@ -42,7 +42,7 @@ void WriteMask(CompiledWriter& out, const TRBList& mask) {
   for (const resbuf* group = mask.Head(); group; group = group->rbnext) WriteGroup(out, *group);
 }
 
-// One group with its value; a code that carries none has just the code.
+// A code without a value kind is stored without a value.
 MaskGroup ReadGroup(CompiledReader& in) {
   const uint16_t code = in.GetU16();
   switch (QvxExport::TypeOfCode(code)) {
@@ -111,7 +111,7 @@ uint32_t ReadBarHead(CompiledReader& in, TMenuBar& bar) {
   return count;
 }
 
-// True when a sub-menu follows; it hangs under the item already.
+// True when a sub-menu follows, which is then attached to the item.
 bool ReadItemHead(CompiledReader& in, TMenuItem& item) {
   in.GetString(item.m_strLabel);
   in.GetString(item.m_strCommand);
@@ -131,8 +131,8 @@ void ReadItemTail(CompiledReader& in, TMenuItem& item) {
   item.m_nIconIndex = in.GetI32();
 }
 
-// A line in its usual form: no sub-menu, no switch, no function. False, with nothing consumed, for
-// any other; what was assigned then is assigned again.
+// Reads a line in its usual form: no sub-menu, no switch, no function. False, with nothing
+// consumed, for any other line; the caller then reads all fields again.
 bool ReadPlainItem(CompiledReader& in, TMenuItem& item) {
   const unsigned char* at = in.Buffered(3 * ShortForms::kStringBytes + sizeof kPlainTail + 8);
   if (!at) return false;
@@ -156,7 +156,7 @@ struct WritePlace {
   int next;
 };
 
-// All lines of the bars on the path, innermost first.
+// Writes the remaining lines of all bars on the path, innermost first.
 void WriteLines(CompiledWriter& out, std::vector<WritePlace>& path) {
   while (!path.empty()) {
     WritePlace& place = path.back();

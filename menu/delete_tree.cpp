@@ -1,5 +1,5 @@
-// The destructors of lines and bars. Sub-menus are deleted from a chain and not by recursion, which
-// a deep menu would turn into a stack overflow.
+// The destructors of lines and bars. Sub-menus are moved to a chain and deleted from it: recursion
+// would overflow the stack on a deeply nested menu.
 #include "menu/menu_bar.h"
 
 TMenuItem::~TMenuItem() {
@@ -14,7 +14,8 @@ TMenuBar::~TMenuBar() {
 
 void TMenuBar::Delete(TMenuBar* bar) { DeleteChain(bar); }
 
-// Hangs the owned sub-menus of a bar's lines on the chain, so that the lines die without them.
+// Moves the owned sub-menus of a bar's lines to the chain, so that deleting the lines does not
+// recurse.
 void TMenuBar::CollectSubMenus(TMenuBar& bar, TMenuBar*& chain) {
   if (!bar.OwnsElements()) return;
   for (TMenuItem* item : bar) {

@@ -8,7 +8,7 @@ bool IsBetween(unsigned unit, unsigned first, unsigned last) {
   return unit >= first && unit <= last;
 }
 
-// The letters of the code pages in use: Latin, Greek, Cyrillic and the full-width Latin ones.
+// Latin, Greek, Cyrillic and full-width Latin letters: those of the code pages in use.
 wchar_t FoldBeyondAscii(wchar_t unit) {
   const auto u = static_cast<unsigned>(unit);
   if (IsBetween(u, 0xC0, 0xDE) && u != 0xD7) return static_cast<wchar_t>(u + 0x20);

@@ -1,5 +1,4 @@
-// Simple case folding, the same on every build and in every locale, for names that are compared
-// without regard to case.
+// Simple case folding for comparisons of names, the same in all builds and locales.
 #pragma once
 
 #include <string_view>

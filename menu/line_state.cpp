@@ -1,4 +1,3 @@
-// See line_state.h.
 #include "menu/line_state.h"
 
 namespace qvx {

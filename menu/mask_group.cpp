@@ -28,7 +28,7 @@ MaskGroup NewLongGroup(int code, int value) {
   return group;
 }
 
-// The destructor of the group frees the copy with free.
+// Allocated with malloc, since the group's destructor frees the copy with free.
 MaskGroup NewTextGroup(int code, const wchar_t* text) {
   MaskGroup group = NewGroupWithoutValue(code);
   const std::size_t units = std::wcslen(text) + 1;

@@ -1,5 +1,6 @@
-// Makes the groups of an object mask: nodes that hold a DXF group code and a value of the kind that
-// the code has. The source parser and the compiled file make them; a TRBList owns the chain.
+// Creates the groups of an object mask: nodes with a DXF group code and a value of the kind that
+// belongs to the code. The source parser and the compiled file's reader call these; a TRBList owns
+// the chain.
 #pragma once
 
 #include <memory>

@@ -4,8 +4,8 @@ IMPLEMENT_DYNAMIC(TMenuBar, CObject)
 
 namespace {
 
-// Depth first over lines without a sub-menu, until one of them matches. Goes through operator[] so
-// that the cursors of the bars tell where the search ended.
+// Depth first over lines without a sub-menu, until one matches. Uses operator[], which moves the
+// bar's cursor, so that the cursors show where the search ended.
 template <class Matches>
 TMenuItem* FindLeaf(TMenuBar& root, Matches matches) {
   struct Place {

@@ -1,6 +1,6 @@
-// A block of menu lines: a named block of the file or the sub-menu of a line. Sub-menus may be
-// nested without bound (a hostile file nests a million of them), so that searching, walking and
-// deleting go over a list on the heap and never recurse.
+// A list of menu lines: a named block of the file or the sub-menu of a line. Sub-menus may be
+// nested without limit (a hostile file nests a million of them), so that search, traversal and
+// deletion use a list on the heap and no recursion.
 #pragma once
 
 #include <vector>
@@ -20,31 +20,30 @@ class TMenuBar : public CObject, public TDPtrList<TMenuItem> {
   ~TMenuBar() override;
   void Serialize(CArchive& ar) override;
 
-  // Depth first, first match wins, exact. A line with a sub-menu is entered and not compared
-  // itself. Each bar's cursor is left on the line where its part of the search ended.
+  // Depth first; the first exact match. Lines with a sub-menu are not compared, only searched. Each
+  // bar's cursor is left on the line where its part of the search ended.
   TMenuItem* FindItemByCommand(const wchar_t* command);
-  // As above; separators are not compared either.
+  // The same by number; separators are not compared.
   TMenuItem* FindItemById(int id);
   // Top level only.
   TMenuItem* FindItemByLabel(const wchar_t* label);
 
-  // Deletes a bar with all below it; null is fine.
+  // Deletes a bar with all sub-menus; null is allowed.
   static void Delete(TMenuBar* bar);
 
   TWCString m_strName{kMenuTextCapacity};  // empty for a sub-menu
   TWCString m_strKind{kMenuTextCapacity};
   TRBList m_objectMask;
-  unsigned char m_bOwned = 1;  // the line that shows this bar as its sub-menu deletes it
+  unsigned char m_bOwned = 1;  // 1: the line with this sub-menu deletes it
 
  private:
   static void CollectSubMenus(TMenuBar& bar, TMenuBar*& chain);
   static void DeleteChain(TMenuBar* chain);
 
-  TMenuBar* m_pNextToDelete = nullptr;  // used only while a tree is torn down
+  TMenuBar* m_pNextToDelete = nullptr;  // used only while a tree is deleted
 };
 
-// Visits every line of a bar and of all sub-menus below it, in the order of the file: first the
-// line, then what hangs under it.
+// Visits all lines of a bar and its sub-menus in the order of the file: a line before its sub-menu.
 class MenuWalk {
  public:
   explicit MenuWalk(TMenuBar& bar) { m_path.push_back({&bar, 0}); }

@@ -1,6 +1,6 @@
-// From source bytes to a finished system: scan, parse, run the passes. Each object is one run and
-// nothing outlives it, so that any number may be at work. Reading the file, writing the compiled
-// one and handing the result over belong to the caller.
+// Compiles source bytes to a menu system: scanner, parser and passes. Each object is one run
+// without shared state, so that any number may exist at a time. The caller reads the source file,
+// writes the compiled file and uses the result.
 #pragma once
 
 #include <string>
@@ -11,16 +11,15 @@
 
 class MenuCompiler {
  public:
-  // `source` as read from the file; its line ends are folded here. Without a decoder its code page
+  // `source` is the content of the file; line ends are folded here. Without a decoder its code page
   // is the system's.
   MenuCompiler(std::string source, SourceMessages& messages, SourceEcho* echo = nullptr,
                OpenComment openComment = OpenComment::kReadOn, NarrowDecoder* decoder = nullptr);
 
-  // 0 when the source was accepted, 1 after a syntax error. The system's lists are emptied first;
-  // its title and recent list stay. After an error the lists are empty, and the
-  // passes have nothing to do.
+  // 0 when the source was accepted, 1 after a syntax error; the lists are then empty. The system's
+  // lists are emptied first; its title and recent list are kept.
   int Compile(TMenuSystem& system);
-  // The parse alone, without emptying and without passes.
+  // Parses only: the lists are not emptied first, and no pass runs.
   int Parse(TMenuSystem& system);
 
   MenuScanner& Scanner() { return m_scanner; }

@@ -1,6 +1,6 @@
-// One line of a menu. The parser, the compiled file and the recent list make lines; the screen menu
-// and the pop-ups read them, and write back only the label and icon of a switch line. A line owns
-// its sub-menu unless that bar says otherwise.
+// One line of a menu. The parser, the compiled file's reader and the recent list create lines; the
+// screen menu and the pop-ups read them and write only the label and icon of a switch line. A line
+// owns its sub-menu when the bar's m_bOwned is 1.
 #pragma once
 
 #include "afx.h"
@@ -10,7 +10,7 @@
 class TMenuBar;
 class TMenuSwitchItem;
 
-// Every text promises room for this many characters; an empty one holds no storage all the same.
+// The initial capacity of each text. An empty text allocates nothing nevertheless.
 constexpr int kMenuTextCapacity = 256;
 
 class TMenuItem : public CObject {
@@ -27,23 +27,23 @@ class TMenuItem : public CObject {
 
   TMenuItem() = default;
   TMenuItem(const wchar_t* label, const wchar_t* command, const wchar_t* iconName = L"");
-  // Everything but the sub-menu, which a copy never shares. The switch stays.
+  // Copies everything except the sub-menu, which is null in the copy. The switch is shared.
   TMenuItem(const TMenuItem& other);
   TMenuItem& operator=(const TMenuItem&) = delete;
   ~TMenuItem() override;
   void Serialize(CArchive& ar) override;
 
   bool IsSeparator() const { return m_strLabel == L"--"; }
-  bool IsSwitchMark() const;  // a "*SWITCH*" line that still waits for its switch
+  bool IsSwitchMark() const;  // a "*SWITCH*" line without a switch so far
 
   TWCString m_strLabel{kMenuTextCapacity};
   TWCString m_strCommand{kMenuTextCapacity};  // empty: the line is disabled
   TMenuBar* m_pSubMenu = nullptr;
   TMenuSwitchItem* m_pSwitch = nullptr;  // one of the system's switches; not owned
-  int m_nCommandId = 0;                  // given out when a pop-up is built; in no file
+  int m_nCommandId = 0;                  // assigned when a pop-up is built; not saved
   unsigned m_nFlags = 0;
-  TWCString m_strCheckFn{kMenuTextCapacity};  // LISP function; T shows the line checked
-  TWCString m_strGrayFn{kMenuTextCapacity};   // LISP function; T shows the line greyed
+  TWCString m_strCheckFn{kMenuTextCapacity};  // LISP function; T: the line is checked
+  TWCString m_strGrayFn{kMenuTextCapacity};   // LISP function; T: the line is grey
   TWCString m_strIconName{kMenuTextCapacity};
   int m_nIconIndex = -1;  // into the system's resources
 };

@@ -21,10 +21,10 @@ std::basic_string_view<Unit> TrimEnd(std::basic_string_view<Unit> text) {
   return text;
 }
 
-// The command text as the host gets it: ';' outside quotes is a newline, one more ends it. A '^'
-// takes the character behind it along: with C or c the pair is an ESC, any other pair vanishes
-// without a word (so "^^C" leaves a plain C), and a '^' at the very end vanishes alone.
-// Gives the end of what it wrote, at most one unit more than the text has.
+// Writes the command as it is sent to the host: ';' outside quotes becomes a newline, and a newline
+// is appended. "^C" and "^c" become ESC; '^' with any other character is dropped with that
+// character (deliberate: "^^C" leaves a plain C), and so is a '^' at the end. Returns the end of
+// the output, which has at most one unit more than the text.
 wchar_t* ExpandCommand(std::wstring_view text, wchar_t* out) {
   bool quoted = false;
   for (size_t i = 0; i < text.size(); ++i) {
@@ -42,9 +42,9 @@ wchar_t* ExpandCommand(std::wstring_view text, wchar_t* out) {
   return out;
 }
 
-// Copies up to the first character that is special in a command or not in ASCII, and steps on to
-// it; false when there is none. Eight bytes in front of `end` can be read, and seven behind what is
-// written are overwritten.
+// Copies up to the first character that is special in a command or not ASCII and advances to it;
+// false when there is none. The eight bytes before `end` must be readable, and seven bytes after
+// the output are overwritten.
 bool CopyPlain(const char*& p, const char* end, char*& out) {
   for (;;) {
     const bool isLast = end - p < 8;
@@ -59,8 +59,8 @@ bool CopyPlain(const char*& p, const char* end, char*& out) {
   }
 }
 
-// The same for a command in ASCII, the plain stretches of it at once. Null when it is not in ASCII.
-// Eight bytes in front of its end can be read.
+// The same for an ASCII command, eight bytes at a time; null when it is not ASCII. The eight bytes
+// before its end must be readable.
 char* ExpandCommand(std::string_view text, char* out) {
   const char* p = text.data();
   const char* end = p + text.size();
@@ -87,7 +87,8 @@ void Assign(TWCString& out, std::wstring_view text) {
   out.Assign(text.data(), static_cast<int>(text.size()));
 }
 
-// False when the line is not of the usual kind: a label of whole characters, a command in ASCII.
+// Handles lines with an ASCII command and valid characters in the label; false, with the item
+// unchanged, for others.
 bool ParseUsualLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item) {
   std::wstring_view label;
   const char* close = ansi.DecodeUntil(']', narrow.substr(1), label);

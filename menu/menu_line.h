@@ -1,4 +1,4 @@
-// The inside of one menu line: "[label]command" into label and command of an item.
+// Parses "[label]command" into label and command of a line.
 #pragma once
 
 #include <string_view>
@@ -6,7 +6,7 @@
 class AnsiText;
 class TMenuItem;
 
-// `text` begins with its '['. Without a ']' the item stays as it is.
+// `text` begins with '['. Without a ']' the item is not changed.
 void ParseMenuLine(std::wstring_view text, TMenuItem& item);
 // The same from the bytes of the source.
 void ParseMenuLine(std::string_view narrow, AnsiText& ansi, TMenuItem& item);

@@ -69,9 +69,9 @@ void MenuLoading::CompileMenu(const wchar_t* path) {
   TMenuSystem* system = m_users.CurrentSystem();
   if (!system) return;
   if (qvx::HasMemoryFor([&] { Compile(path, *system); })) return;
-  system->EmptyLists();  // the compiled file stays as it was
+  system->EmptyLists();  // the compiled file is unchanged
   m_boxes.ShowMessage(L"CMemoryException");
-  HandOver(*system);  // nobody keeps a block that is gone
+  HandOver(*system);  // drops references to deleted blocks
 }
 
 void MenuLoading::Compile(const wchar_t* path, TMenuSystem& system) {
@@ -88,7 +88,7 @@ void MenuLoading::Compile(const wchar_t* path, TMenuSystem& system) {
   PrintedMessages messages(m_printer);
   {
     SourceEcho echo(echoFile.get());
-    // A file with errors leaves an empty system, which is written and handed over all the same.
+    // Deliberate: a file with errors gives an empty system, which is saved and used all the same.
     MenuCompiler(std::move(source), messages, &echo).Compile(system);
   }
   echoFile.reset();
@@ -113,7 +113,7 @@ TMenuBar* PrepareToolBar(TMenuSystem& system) {
   const int at = system.FindBarIndexNoCase(L"ToolBar");
   if (at < 0) return nullptr;
   TMenuBar& bar = *system[at];
-  // Each separator changes places with the line behind it. One at the very end has none and stays.
+  // Each separator is exchanged with the next line. One at the end stays.
   for (int i = 0; i + 1 < bar.Length(); ++i) {
     if (!bar.At(i)->IsSeparator()) continue;
     bar.Exchange(i + 1, bar.Exchange(i, bar.At(i + 1)));

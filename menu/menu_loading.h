@@ -1,7 +1,6 @@
-// Which menu file is in force, and bringing one into the one live system: from source, which writes
-// the compiled file beside it each time, or from a compiled file. The commands that change the menu
-// (reload, set menu, run mode, video mode), the icon library and the window that shows the menu
-// belong to the frame; it calls this.
+// Finds the menu file that the settings name and loads it into the menu in force: from source,
+// which also writes the compiled file beside it, or from a compiled file. The commands that change
+// the menu, the icon library and the window are the frame's, which calls this.
 #pragma once
 
 #include "menu/menu_bar.h"
@@ -15,15 +14,15 @@ class MenuLoading {
   MenuLoading(MenuUsers& users, MenuFiles& files, MenuPrinter& printer, MenuBoxes& boxes)
       : m_users(users), m_files(files), m_printer(printer), m_boxes(boxes) {}
 
-  // Drive, folder and name (no extension) of the menu that the settings ask for; false when neither
-  // it nor the default is found. `out` has room for kPathUnits characters.
+  // Drive, folder and name (no extension) of the menu that the settings name; false when neither it
+  // nor the default is found. `out` has room for kPathUnits characters.
   bool FindMenuBase(wchar_t* out);
-  // The same for the default of the present menu type.
+  // The same for the default of the current menu type.
   bool DefaultMenuBase(wchar_t* out);
   // "qvx.qmn", "simple.qmn" or "qvx2d.qmn".
   static const wchar_t* DefaultMenuFile(int menuType);
 
-  // Both do nothing without a context window, and report by printing only.
+  // Both do nothing without a context window. Errors are printed or shown in a message box.
   void CompileMenu(const wchar_t* path);
   void LoadCompiledMenu(const wchar_t* path);
 
@@ -39,6 +38,6 @@ class MenuLoading {
   MenuBoxes& m_boxes;
 };
 
-// The first block named ToolBar, case ignored; it stays in the system. Each of its separators has
-// moved one place down. Null when the file has none.
+// Returns the first block named ToolBar, case ignored, after moving each of its separators one
+// place down; null when there is none. The block stays in the system.
 TMenuBar* PrepareToolBar(TMenuSystem& system);

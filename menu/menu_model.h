@@ -1,4 +1,4 @@
-// The whole menu model for those who read menus: screen menu, pop-ups, tools.
+// Includes the whole menu model.
 #pragma once
 
 #include "menu/menu_system.h"

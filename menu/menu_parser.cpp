@@ -10,7 +10,7 @@
 
 namespace {
 
-// The new element is owned by the list from the start, so that nothing is lost on the way.
+// The list owns the new element from the start.
 template <class T>
 T& AppendNew(TDPtrList<T>& list) {
   auto element = std::make_unique<T>();
@@ -49,7 +49,7 @@ bool MenuParser::QmnMenu() {
 
 // pop_method : QMN_POP QMN_EQUAL QMN_RCLICK
 // pop_method : QMN_POP QMN_EQUAL QMN_CTRL QMN_PLUS QMN_RCLICK
-// Nothing refers to pop_method: its words stay reserved, and POP in a file is a syntax error.
+// No rule uses pop_method: its words are reserved, and POP in a file is a syntax error.
 
 // menu_title : QMN_TITLE QMN_EQUAL QMN_STRING
 bool MenuParser::MenuTitle() {
@@ -58,7 +58,7 @@ bool MenuParser::MenuTitle() {
 
 // menu_bar_list : menu_bar_list menu_bar
 // menu_bar_list : menu_bar
-// Leaves the token behind the prefix of the switch section.
+// Ends after the prefix of the switch section.
 bool MenuParser::MenuBarList() {
   if (!Expect(QMN_PREFIX)) return false;
   do {
@@ -69,8 +69,8 @@ bool MenuParser::MenuBarList() {
 
 // menu_bar : QMN_PREFIX QMN_IDENTIFIER QMN_IDENTIFIER QMN_EQUAL object_mask menu_item_list
 // menu_bar : QMN_PREFIX QMN_IDENTIFIER menu_item_list
-// Behind the prefix. A second identifier is the kind of the block when a '=' follows, and the icon
-// of the first line when that line follows.
+// Called after the prefix. A second identifier is the block's kind when '=' follows, else the icon
+// of the first line.
 bool MenuParser::MenuBar() {
   auto bar = std::make_unique<TMenuBar>();
   if (!ExpectName(bar->m_strName)) return false;
@@ -101,8 +101,8 @@ void MenuParser::KeepBar(std::unique_ptr<TMenuBar> bar) {
   static_cast<void>(bar.release());
 }
 
-// A block that failed takes all blocks before and behind it along, while switches and resources
-// stay: one bad group in a mask leaves the user without any menu.
+// Deliberate: one invalid group in a mask drops all blocks of the file, before and after it, but
+// not the switches and resources. The user then has no menu.
 void MenuParser::DropBars() {
   m_bars.Clear();
   m_lines.Clear();
@@ -113,9 +113,8 @@ void MenuParser::DropBars() {
 
 // object_mask : object_mask QMN_COMA dxf_group
 // object_mask : dxf_group
-// A further group takes the place of whatever stood behind the first one. So a mask of three or
-// more groups keeps its first and its last; the block then matches more objects than its author
-// wrote.
+// Deliberate: each further group replaces all groups after the first one. A mask of three or more
+// groups keeps its first and last group, and the block matches more objects than its author wrote.
 bool MenuParser::ObjectMask(TRBList& mask) {
   MaskGroup group;
   if (!DxfGroup(group)) return false;
@@ -132,7 +131,7 @@ bool MenuParser::ObjectMask(TRBList& mask) {
 // dxf_group : QMN_ICON QMN_COMA QMN_ICON
 // dxf_group : QMN_ICON QMN_COMA QMN_FCON
 // dxf_group : QMN_ICON QMN_COMA QMN_STRING
-// A group of the wrong kind is reported here, before the token behind it is read, and is null.
+// A value of the wrong kind is reported before the next token is read; the group is then null.
 bool MenuParser::DxfGroup(MaskGroup& group) {
   if (!Check(QMN_ICON)) return false;
   const int code = m_token.number;
@@ -159,7 +158,7 @@ MaskGroup MenuParser::MakeGroup(int code) {
       m_ansi.DecodeTo(m_token.text, text);
       return NewTextGroup(code, text);
     }
-    ReportKind(code, L"integer");  // not "string": users know the message in these words
+    ReportKind(code, L"integer");  // deliberate: not "string"; users know this wording
   }
   return nullptr;
 }

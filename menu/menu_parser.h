@@ -1,9 +1,8 @@
-// The parser of the menu language: one function a grammar rule, one token of look-ahead, no table.
-// Each function opens with its rules; the comments below are the grammar, and docs/menu-language.md
-// repeats them. The first syntax error ends the parse; nothing reaches the system before the whole
-// file is read. No stack grows with the file, since every list is a loop; the limit of 150 entries
-// that a table-driven parser of this grammar has is out of reach for it too, its lists being
-// left-recursive.
+// The parser of the menu language: recursive descent with one token of look-ahead. Each function
+// has its grammar rules in its comment; docs/menu-language.md has the same grammar. The first
+// syntax error ends the parse; the system is changed only after the whole file was read. Lists are
+// loops, so that the stack does not grow with the file. (A table-driven parser of this grammar has
+// a limit of 150 stack entries; with its left-recursive lists no file reaches it.)
 #pragma once
 
 #include <memory>
@@ -26,7 +25,7 @@ class MenuParser {
 
   // 0 when the file was accepted, 1 after a syntax error. Appends to the system's lists.
   int Parse();
-  // The same with the passes, so that an accepted file gives the final tree.
+  // The same, followed by the passes.
   int ParseAndFinish();
 
  private:
@@ -67,14 +66,13 @@ class MenuParser {
   TMenuSystem& m_system;
   MenuToken m_token;
   AnsiText m_ansi;
-  // The identifier in front of a menu line, read before it was known which of the two rules it
-  // opens.
+  // The identifier before a menu line. It is read before the parser can decide between two rules.
   NamePool::Key m_pendingIcon;
   bool m_hasPendingIcon = false;
 
-  bool m_finishes = false;  // runs the passes too
+  bool m_finishes = false;  // the passes run too
   PassWork m_work;
-  BlockWork m_block;             // of the block that is being read
+  BlockWork m_block;             // of the current block
   TDPtrList<TMenuItem> m_lines;  // its lines
   TWCString m_title;
   TDPtrList<TMenuBar> m_bars;

@@ -1,10 +1,10 @@
-// What turns the raw lines of a parsed file into the final tree; a compiled file holds the result
-// and never sees the passes. As the language words them, four passes go over the whole menu one
-// after the other: icon names of the top-level lines and of the switch states become indexes; "->"
-// and "<-" labels become sub-menus; "*SWITCH*" lines get their switches; "{~=Fn}" and "{!=Fn}" in
-// front of labels become flags and functions. No block has a part in another one's passes, so that
-// all that needs no table is done when a block ends, its lines still being in the caches; what
-// needs the tables behind the blocks is noted and done at the end of the file.
+// The passes turn the lines of a parsed source into the final tree; a compiled file contains the
+// result and needs no pass. The language defines four passes over the whole menu, one after the
+// other: icon names of top-level lines and of switch states become indexes; "->" and "<-" labels
+// become sub-menus; "*SWITCH*" lines get their switches; "{~=Fn}" and "{!=Fn}" before labels become
+// flags and functions. Blocks do not depend on each other, so that everything that needs no table
+// is done at the end of each block, while its lines are in the caches. What needs the tables after
+// the blocks is recorded and done at the end of the file.
 #pragma once
 
 #include <vector>
@@ -16,17 +16,17 @@ class TMenuSystem;
 class TMenuBar;
 class TMenuItem;
 
-// What the number of a name is for.
+// What is set once the number of a name is known. One member is not null.
 struct NameUse {
-  int* iconIndex = nullptr;           // gets the index of the icon, at the end of the file
-  TMenuItem* mark = nullptr;          // gets the switch, at the end of the file
-  std::vector<int>* table = nullptr;  // gets the number of its next entry
+  int* iconIndex = nullptr;           // set to the icon's index at the end of the file
+  TMenuItem* mark = nullptr;          // given its switch at the end of the file
+  std::vector<int>* table = nullptr;  // the number is appended
 };
 
 class PassWork {
  public:
   struct IconUse {
-    int* index;  // of a line or a state
+    int* index;  // in a line or a state
     int name;
   };
   struct Mark {
@@ -35,13 +35,13 @@ class PassWork {
   };
   struct LabelUse {
     TMenuItem* item;
-    NamePool::Key icon;  // the name in front of the line; empty for none
+    NamePool::Key icon;  // the name before the line; empty for none
   };
   static constexpr int kNoName = -1;
 
   explicit PassWork(size_t sourceBytes) : names(sourceBytes) {}
 
-  // Names are looked up in batches. The targets of the use live until the next FlushNames or
+  // Names are looked up in batches. The targets of the use must exist until FlushNames or
   // DropNames.
   void AddName(const NamePool::Key& key, const NameUse& use) {
     m_keys[m_pending] = key;
@@ -52,10 +52,10 @@ class PassWork {
   void DropNames() { m_pending = 0; }
 
   NamePool names;
-  std::vector<int> resources;  // the name of each entry
+  std::vector<int> resources;  // the name of each resource
   std::vector<int> switches;
   std::vector<IconUse> icons;
-  std::vector<Mark> marks;  // lines that show a switch
+  std::vector<Mark> marks;  // the "*SWITCH*" lines
 
  private:
   static constexpr size_t kBatch = 64;
@@ -64,21 +64,21 @@ class PassWork {
   size_t m_pending = 0;
 };
 
-// First and last of one "->" to "<-" range while sub-menus are built.
+// The first and last index of one range from "->" to "<-".
 struct TItemDot {
   int first;
   int last;
 };
 
-// Hands the lines of a block out to its bar and the sub-menus below it. The arrows are noted while
-// the lines are read, so that no line without one is looked at again.
+// Distributes the lines of a block to its bar and the sub-menus. Arrows are recorded when a line is
+// read, so that lines without an arrow are not examined again.
 class SubMenuNester {
  public:
-  // For each line of the block, in their order; lines without an arrow may be left out. The label
-  // loses its arrows until HandOut says which of them stay.
+  // To be called for the lines of the block in order; lines without an arrow may be omitted.
+  // Removes the arrows from the label; HandOut puts back those that close or open nothing.
   void Note(TMenuItem& item, int line);
-  // Empties the list, which owns its lines. Gives the number of steps: each closed a range or ended
-  // a bar, so that there are no more than two a line and one.
+  // Empties the list, which owns its lines. Returns the number of steps, each of which closes a
+  // range or ends a bar: at most two for each line and one more.
   int HandOut(TDPtrList<TMenuItem>& lines, TMenuBar& bar);
   void Clear();  // for the next block
 
@@ -86,11 +86,11 @@ class SubMenuNester {
   struct Arrow {
     TMenuItem* item;
     int line;
-    int pairs;        // leading "<-"; -1 for "->"
-    int sum;          // +1 for each opening line, -1 for each pair, with this line
-    int worn;         // pairs that it has lost to ranges
-    int end;          // arrow that closes an opening one
-    int nextOpening;  // this arrow or the first opening one behind it
+    int pairs;        // number of leading "<-"; -1 for "->"
+    int sum;          // +1 for each opening line, -1 for each pair, up to and with this line
+    int worn;         // pairs that were used by ranges
+    int end;          // of an opening arrow: the arrow that closes it
+    int nextOpening;  // this arrow or the next opening one
   };
   struct Place {
     TMenuBar* bar;
@@ -115,7 +115,7 @@ class SubMenuNester {
   std::vector<Place> m_path;  // the bars under construction
 };
 
-// What the lines of one block leave for its end, gathered while they are read.
+// Collected while the lines of a block are read, for FinishBlock.
 struct BlockWork {
   std::vector<PassWork::LabelUse> labels;
   SubMenuNester nester;
@@ -127,10 +127,10 @@ struct BlockWork {
   }
 };
 
-// For a block whose lines are complete: hands them out to the bar, notes the lines that show a
-// switch and strips the conditions of the others.
+// At the end of a block: distributes its lines, records the "*SWITCH*" lines and strips the
+// conditions of the others.
 void FinishBlock(TDPtrList<TMenuItem>& lines, TMenuBar& bar, BlockWork& block, PassWork& work);
-// At the end of an accepted file, all names settled: icons and switches.
+// At the end of an accepted file, after FlushNames: sets icons and switches.
 void ResolveNames(TMenuSystem& system, const PassWork& work);
 
 void StripConditions(TMenuItem& item);

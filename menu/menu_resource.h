@@ -1,4 +1,4 @@
-// One entry of the icon table: the key that lines name, the bitmap's name in the icon library and
+// One entry of the icon table: the key that lines name, the bitmap's name in the icon library, and
 // the help text of the lines that use it.
 #pragma once
 

@@ -58,7 +58,7 @@ struct Keyword {
   int kind;
 };
 
-// By length and first letter each keyword has a place of its own.
+// A perfect hash: length and first letter give each keyword its own slot.
 constexpr size_t PlaceOfWord(std::string_view word) {
   return (word.size() * 2 + static_cast<unsigned char>(word[0])) % 16;
 }
@@ -75,7 +75,7 @@ constexpr std::array<Keyword, 16> MakeKeywords() {
 }
 constexpr std::array<Keyword, 16> kKeywords = MakeKeywords();
 
-// Most words are names, so that what is asked first is nearly always false.
+// One comparison rejects most words, which are identifiers.
 int KindOfWord(std::string_view word) {
   const Keyword& keyword = kKeywords[PlaceOfWord(word)];
   return word == keyword.word ? keyword.kind : QMN_IDENTIFIER;
@@ -88,15 +88,15 @@ int SaturatedNumber(const char* begin, const char* end) {
   return static_cast<int>(std::min(value, kMost));
 }
 
-// As atof reads it in the plain locale, whatever locale the host has set.
+// As atof in the C locale; the host may have set another one.
 double RealOf(const char* begin, const char* end) {
   double value = 0;
   if (std::from_chars(begin, end, value).ec == std::errc::result_out_of_range)
-    value = std::strtod(std::string(begin, end).c_str(), nullptr);  // infinite, or next to zero
+    value = std::strtod(std::string(begin, end).c_str(), nullptr);  // too large or too small
   return value;
 }
 
-// Reads on behind the end of the file, where every character is 0. The language has no way out.
+// Deliberate: an unterminated comment never ends. The host then hangs.
 void ReadOnForEver() {
   volatile char next = 0;
   while (next == 0) {
@@ -180,13 +180,13 @@ int MenuScanner::Next(MenuToken& token) {
   }
 }
 
-// A byte that no rule takes.
+// A byte that no rule matches.
 void MenuScanner::Skip() {
   if (m_echo) m_echo->Put(*m_at);
   ++m_at;
 }
 
-// Behind the last byte that a token which starts here may hold.
+// The end of the longest token that may begin here.
 const char* MenuScanner::Limit(const char* begin) const {
   return m_end - begin > kLongestToken ? begin + kLongestToken : m_end;
 }
@@ -223,8 +223,8 @@ int MenuScanner::Number(MenuToken& token) {
   return Text(token, QMN_ICON, begin, end);
 }
 
-// Behind the point, digits and exponent that may follow here; `point` itself when there is no point
-// with a digit behind it. An exponent without digits is not part of the number.
+// The end of a fraction (point, digits, optional exponent) that begins at `point`; `point` itself
+// when there is none. An exponent without digits is not part of the number.
 const char* MenuScanner::Fraction(const char* point, const char* limit) const {
   const char* p = point;
   if (p == limit || *p != '.') return point;
@@ -247,8 +247,9 @@ int MenuScanner::Real(MenuToken& token, const char* end) {
   return Text(token, QMN_FCON, begin, end);
 }
 
-// The bytes count together with the closing quote and both halves of an escape; the 199th ends the
-// string, whatever it is. Escapes stay as written, and an escaped newline does not end the string.
+// The limit of 199 bytes includes the closing quote and both bytes of an escape; the 199th byte
+// ends the string, whatever it is. Escapes are kept as written, and an escaped newline does not end
+// the string.
 int MenuScanner::String(MenuToken& token) {
   const char* begin = m_at + 1;
   const char* last = m_end - begin < kLongestToken ? m_end : begin + kLongestToken - 1;
@@ -280,7 +281,7 @@ int MenuScanner::String(MenuToken& token) {
   return Text(token, QMN_STRING, begin, p);
 }
 
-// Runs to the end of the line, whatever it holds; the newline is left for the next round.
+// Up to the end of the line; the newline is not consumed.
 int MenuScanner::MenuLine(MenuToken& token) {
   const char* begin = m_at;
   const char* limit = Limit(begin);
@@ -292,7 +293,7 @@ int MenuScanner::MenuLine(MenuToken& token) {
   return Fail(token, QMN_ERR_MENU_ITEM, begin, p, L"碰到文件结束符或非法字符,字符串还未结束");
 }
 
-// 0 for a single star, which is no token.
+// 0 for a single star, which is not a token.
 int MenuScanner::Stars(MenuToken& token) {
   const char* begin = m_at;
   if (m_end - begin >= 2 && begin[1] == '*') {

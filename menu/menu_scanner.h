@@ -1,11 +1,11 @@
-// The scanner of the menu language: source bytes in, tokens out, longest match first. It works on a
-// whole file in memory, in the ANSI code page, which it never decodes: bytes from 0x80 up pass
-// through strings, menu lines and comments and are skipped anywhere else. So a double-byte
-// character whose second byte is a backslash escapes what follows it in a string, as it always has.
+// The scanner of the menu language: source bytes to tokens, longest match first. The whole file is
+// in memory, in the ANSI code page, which is not decoded here: bytes from 0x80 up are valid in
+// strings, menu lines and comments and skipped elsewhere. Deliberate: a double-byte character whose
+// second byte is a backslash therefore escapes the next character of a string.
 //
-// A byte 0 reads as the end of the file, except inside comments, which nothing ends but their own
-// end: a // comment on a last line without a newline, or a /* without its */, is read on for ever.
-// Menu files end properly; whoever reads foreign files asks for OpenComment::kStop.
+// A byte 0 ends the file, except inside a comment. Deliberate: an unterminated comment (a //
+// comment on a last line without a newline, or a /* without */) is an endless loop, unless the
+// caller passes OpenComment::kStop, as the tools do.
 #pragma once
 
 #include <cstdio>
@@ -16,8 +16,8 @@
 
 constexpr int kLongestToken = 199;  // bytes; the token buffer of the language has 200
 
-// What the scanner skips without a rule for it, the newlines between tokens among them. Nobody
-// reads it; a null file drops it.
+// Writes the bytes that no rule matches, with the newlines between tokens, to a file. The product
+// does not read it; null drops them.
 class SourceEcho {
  public:
   explicit SourceEcho(std::FILE* file = nullptr) : m_file(file) {}
@@ -37,14 +37,14 @@ class SourceEcho {
   char m_bytes[4096];
 };
 
-// CR LF becomes LF, as reading in text mode does; a CR without LF behind it stays.
+// CR LF becomes LF, as reading in text mode does; a CR without LF is kept.
 void FoldLineEnds(std::string& bytes);
 
 enum class OpenComment { kReadOn, kStop };
 
 class MenuScanner {
  public:
-  // `source` has its line ends folded and outlives the scanner and its tokens.
+  // The line ends of `source` are folded; it must outlive the scanner and its tokens.
   MenuScanner(const std::string& source, SourceMessages& messages, SourceEcho* echo = nullptr,
               OpenComment openComment = OpenComment::kReadOn);
 
@@ -54,7 +54,7 @@ class MenuScanner {
   void SetLine(int line) { m_line = line; }
   const char* Position() const { return m_at; }
   size_t Left() const { return static_cast<size_t>(m_end - m_at); }  // bytes
-  // Where a comment that never ends was opened; null while there is none. Only with kStop.
+  // The beginning of an unterminated comment, null for none. Only with kStop.
   const char* OpenCommentAt() const { return m_openComment; }
 
  private:

@@ -3,7 +3,7 @@
 #include <memory>
 
 namespace {
-// A lone blank or newline is what an empty Enter sends; it is nothing to repeat from a list.
+// A single blank or newline is what an empty Enter sends; it is not listed.
 bool IsWorthKeeping(const wchar_t* command) {
   if (!command || !command[0]) return false;
   return command[1] || (command[0] != L' ' && command[0] != L'\n');
@@ -12,7 +12,7 @@ bool IsWorthKeeping(const wchar_t* command) {
 
 void TMenuStack::AddRecent(const wchar_t* command) {
   if (!IsWorthKeeping(command)) return;
-  // The text may belong to the entry that is about to be deleted.
+  // Copied: the text may belong to the entry that is deleted below.
   const TWCString wanted(command);
   std::unique_ptr<TMenuItem> entry;
   if (TMenuItem* known = FindItemByCommand(wanted)) {
@@ -31,7 +31,7 @@ void TMenuStack::AddRecent(const wchar_t* command) {
   if (Length() > m_nMaxDepth) Remove(Length() - 1);
 }
 
-// The menu line that the command came from, so that the recent line keeps its label and icon.
+// The menu line with this command, whose label and icon the recent line takes.
 TMenuItem* TMenuStack::FindSource(const wchar_t* command) {
   if (!m_pSources || m_pSources->IsRunMode()) return nullptr;
   if (TMenuBar* root = m_pSources->ScreenRoot())

@@ -1,7 +1,6 @@
-// The recent commands, most recent first, kept as a bar so that it can hang under a line as
-// sub-menu. It outlives every load of a menu file. Where a command's label and icon come from is
-// asked through RecentSources, which the shell implements; without one the list still works, with
-// bare labels.
+// The recent list, newest first. It is a bar, so that it can be the sub-menu of a line. Loading a
+// menu file does not change it. Labels and icons are taken from the lines that RecentSources finds;
+// without sources the label is the command.
 #pragma once
 
 #include "menu/menu_bar.h"
@@ -9,7 +8,7 @@
 class RecentSources {
  public:
   virtual ~RecentSources() = default;
-  virtual bool IsRunMode() = 0;        // on: labels are not looked up
+  virtual bool IsRunMode() = 0;        // true: labels are not looked up
   virtual TMenuBar* ScreenRoot() = 0;  // null without a screen menu
   // The line of the menu in force that has this command; null when there is none.
   virtual TMenuItem* FindMenuLine(const wchar_t* command) = 0;

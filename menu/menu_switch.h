@@ -1,5 +1,5 @@
-// A switch and its states. A line that shows a switch asks the get function for a number, takes
-// label and icon from the state with that number, and runs the set function when it is chosen.
+// A switch and its states. A line with a switch calls the get function, shows label and icon of the
+// state with the returned number, and calls the set function when it is chosen.
 #pragma once
 
 #include "frame/containers/tdptrlist.h"
@@ -29,8 +29,8 @@ class TMenuSwitchItem : public CObject {
 
   void Serialize(CArchive& ar) override;
 
-  // A value that no state has gives the first state, so that a switch always shows something; null
-  // only when there are no states at all.
+  // Returns the first state for an unknown value, so that a switch always shows a state; null only
+  // when there are no states.
   TSwitchStateItem* FindState(int value);
 
   TWCString m_strName{kMenuTextCapacity};

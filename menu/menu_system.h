@@ -1,6 +1,6 @@
-// All menus of one menu file: blocks, icon table, switch table, title, and the recent commands,
-// which survive loading. There is one live system; it belongs to the context window. Source
-// compiler and compiled file fill it.
+// The model of one menu file: blocks, icon table, switch table and title; and the recent list,
+// which loading does not change. The source compiler or the compiled file's reader fills it. The
+// context window owns the menu in force.
 #pragma once
 
 #include "menu/menu_bar.h"
@@ -14,28 +14,26 @@ class TMenuSystem : public CObject, public TDPtrList<TMenuBar> {
   DECLARE_DYNAMIC(TMenuSystem)
 
  public:
-  // Throws what the archive throws; what was read until then stays. Reading empties the lists
-  // first.
+  // Throws the archive's exceptions; what was read before is kept. Reading empties the lists first.
   void Serialize(CArchive& ar) override;
 
-  // Searches over the blocks leave the cursor on the block where they ended.
-  // Over all blocks in order; see TMenuBar.
+  // Searches over the blocks leave the cursor on the block where they ended. In all blocks in
+  // order; see TMenuBar.
   TMenuItem* FindItemByCommand(const wchar_t* command);
   TMenuBar* FindBar(const wchar_t* name);  // exact
   // Index of the first block of that name, case ignored; -1 when there is none.
   int FindBarIndexNoCase(const wchar_t* name);
   int FindResource(const wchar_t* name) const;  // index, exact; -1 when there is none
 
-  // Blocks first: their lines point at switches.
+  // Empties blocks first: their lines point to switches.
   void EmptyLists();
 
-  // Both tell what went wrong by a message box and return; an old file stays whole when a save
-  // fails.
+  // Errors are shown in a message box. A failed save leaves the old file unchanged.
   void SaveCompiled(const wchar_t* path, MenuBoxes& boxes);
   void LoadCompiled(const wchar_t* path, MenuBoxes& boxes);
 
-  // The one live system, which a lone bar or line that is written or read takes its switches from.
-  // The context window sets it and takes it back; null without one.
+  // The menu in force, whose switch table Serialize of a single bar or line uses; null without a
+  // context window, which sets it.
   static TMenuSystem* Current();
   static void SetCurrent(TMenuSystem* system);
 

@@ -1,5 +1,5 @@
 // The tokens of the menu language and their numbers, which are fixed. A token points into the
-// source text; nothing is copied until the parser keeps it.
+// source text and owns nothing.
 #pragma once
 
 #include <string_view>
@@ -30,7 +30,7 @@ enum MenuTokenKind : int {
 
 struct MenuToken {
   int kind = QMN_END;
-  const char* begin = nullptr;  // where its text starts in the source: behind the quote of a string
+  const char* begin = nullptr;  // of the text in the source; of a string: after the quote
   std::string_view text;        // value of strings (without quotes), menu lines, identifiers
   int number = 0;               // value of QMN_ICON
   double real = 0;              // value of QMN_FCON

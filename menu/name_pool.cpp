@@ -8,10 +8,10 @@
 
 namespace {
 
-constexpr size_t kBytesPerName = 100;  // of source; the menus in use have between 80 and 150
+constexpr size_t kBytesPerName = 100;  // of source; the menus in use have 80 to 150
 
-// Sets the case bit of eight characters. No two characters of identifiers differ in that bit alone
-// except the two cases of a letter.
+// Sets the case bit of eight characters. In identifiers only the two cases of a letter differ in
+// this bit alone.
 constexpr uint64_t kFoldEight = 0x2020202020202020u;
 
 uint64_t Mix(uint64_t hash, uint64_t eight) {
@@ -19,7 +19,7 @@ uint64_t Mix(uint64_t hash, uint64_t eight) {
   return hash ^ hash >> 32;
 }
 
-// Up to eight characters as one number. Where each of them goes depends on the length alone.
+// Up to eight characters as one number. The layout depends only on the length.
 uint64_t ShortNameValue(std::string_view name) {
   const size_t length = name.size();
   const char* p = name.data();
@@ -33,8 +33,8 @@ uint64_t ShortNameValue(std::string_view name) {
   return first | uint64_t{last} << 32;
 }
 
-// `fold` is combined with each eight bytes: kFoldEight, or 0 for a hash that distinguishes case.
-// The last eight bytes are read as a whole and may overlap those before them.
+// `fold` is kFoldEight, or 0 for a case-sensitive hash. The last eight bytes are hashed together
+// and may overlap the previous eight.
 uint32_t HashOf(std::string_view name, uint64_t seed, uint64_t fold) {
   uint64_t hash = seed ^ name.size();
   if (name.size() <= 8) return static_cast<uint32_t>(Mix(hash, ShortNameValue(name) | fold) >> 16);
@@ -51,8 +51,8 @@ bool EqualNoCase(std::string_view a, std::string_view b) {
 
 }  // namespace
 
-// The seed is the address of the pool, which differs from run to run: no file can be made of names
-// that all collide.
+// The seed is the address of the pool, which differs between runs: no file can contain names that
+// always collide.
 NamePool::NamePool(size_t sourceBytes)
     : m_seed(reinterpret_cast<std::uintptr_t>(this) * 0xD6E8FEB86659FD93u),
       m_firsts(sourceBytes / kBytesPerName),
@@ -123,8 +123,8 @@ int NamePool::Add(const Key& key) {
   return number;
 }
 
-// Each loop touches one kind of memory. Names that are new, and those that are not the first of
-// their case class or not in their home slot, are left to the last loop.
+// Each loop reads one kind of memory. The last loop handles new names, names that are not the first
+// of their case class, and names that are not in the first slot of their hash.
 void NamePool::Add(const Key* keys, size_t count, int* numbers) {
   for (size_t i = 0; i < count; ++i) numbers[i] = m_firsts.FindAtHome(keys[i].hash);
   for (size_t i = 0; i < count; ++i) {
@@ -136,7 +136,8 @@ void NamePool::Add(const Key* keys, size_t count, int* numbers) {
     if (numbers[i] == kNone) numbers[i] = Add(keys[i]);
 }
 
-// The variants have a table of their own, so that a class of many names takes no longer to search.
+// Variants are in a table of their own, so that a case class of many names is not searched
+// linearly.
 int NamePool::AddVariant(std::string_view name, int caseClass) {
   const uint32_t hash = HashOf(name, m_seed, 0);
   const int known = m_variants.Find(hash, [&](int number) {

@@ -1,5 +1,5 @@
-// Numbers the identifiers of one menu source. The passes look names up by number: most lines of a
-// menu name an icon.
+// Assigns numbers to the identifiers of one menu source. The passes look up icons and switches by
+// number: most lines name an icon.
 #pragma once
 
 #include <cstddef>
@@ -9,29 +9,30 @@
 
 class NamePool {
  public:
-  // The size of the source is a hint for the size of the tables.
+  // The size of the source is a hint for the initial size of the tables.
   explicit NamePool(size_t sourceBytes = 0);
 
-  // `name` is an identifier: ASCII letters, digits and underscores, no longer than a token. It
-  // outlives the pool.
+  // `name` is an identifier: ASCII letters, digits and underscores, no longer than a token. Its
+  // bytes must outlive the pool.
   struct Key {
     std::string_view name;
     uint32_t hash = 0;
   };
   Key Hash(std::string_view name) const;
 
-  // The number of the name, the next free one for a new name. Numbers start at 0.
+  // Returns the number of the name; a new name gets the next number, beginning with 0.
   int Add(const Key& key);
   int Add(std::string_view name) { return Add(Hash(name)); }
-  // The same for several names at once. In a large menu most look-ups miss the caches; here those
-  // of different names do not depend on each other, so the processor overlaps their misses.
+  // The same for several names. In a large menu most look-ups miss the caches; those of different
+  // names are independent, so that the processor overlaps the misses.
   void Add(const Key* keys, size_t count, int* numbers);
   int Count() const { return static_cast<int>(m_names.size()); }
 
-  // Names that differ in case only form a case class; its number is that of its first name.
+  // The case class of a name, that is, the number of the first name that differs from it only in
+  // case.
   int CaseClass(int number) const { return m_caseClasses[static_cast<size_t>(number)]; }
 
-  // The number of comparisons of names so far; the tests of hostile sources bound it.
+  // The number of comparisons of names so far; tests of hostile sources limit it.
   size_t Comparisons() const { return m_comparisons; }
 
  private:
@@ -44,19 +45,19 @@ class NamePool {
 
     const char* begin;  // in the source
     unsigned char length;
-    char head[55];  // most names fit, so that comparing them needs no access to the source
+    char head[55];  // most names fit, so that comparisons need not read the source
   };
 
-  // Names by their hash, with open addressing.
+  // A hash table of name numbers with open addressing.
   class Table {
    public:
     explicit Table(size_t names);
-    // The number in the home slot of this hash, kNone when the slot has another hash.
+    // The number in the first slot of this hash; kNone when that slot has another hash.
     int FindAtHome(uint32_t hash) const {
       const Slot& slot = m_slots[hash & (m_slots.size() - 1)];
       return slot.hash == hash ? slot.number : kNone;
     }
-    // The first number under this hash for which `matches` holds, kNone without one.
+    // The first number with this hash for which `matches` returns true, else kNone.
     template <class Matches>
     int Find(uint32_t hash, Matches matches) const;
     void Add(uint32_t hash, int number);
@@ -69,7 +70,7 @@ class NamePool {
     void Resize(size_t slots);
     void Insert(uint32_t hash, int number);
 
-    std::vector<Slot> m_slots;  // a power of two, at most three quarters in use
+    std::vector<Slot> m_slots;  // a power of two; at most three quarters are used
     size_t m_used = 0;
   };
 
@@ -85,10 +86,10 @@ class NamePool {
   size_t m_comparisons = 0;
 };
 
-// Maps names to the first entry of a table that has the name, case ignored.
+// Finds the first entry of a table by name, case ignored.
 class NameLookup {
  public:
-  // `tableNames` has the number of each entry's name.
+  // `tableNames` has the number of the name of each entry.
   NameLookup(const NamePool& pool, const std::vector<int>& tableNames);
   int Find(int number) const {  // -1 when there is none
     return m_entries[static_cast<size_t>(m_pool.CaseClass(number))];

@@ -1,6 +1,6 @@
-// The pass that reads the condition prefixes of labels: "{~=Fn}" greys a line and "{!=Fn}" checks
-// it when the LISP function says T. Several may stand in a row; an unknown one is dropped in
-// silence.
+// The pass that reads the condition prefixes of labels: with "{~=Fn}" a line is grey, with "{!=Fn}"
+// checked, when the LISP function returns T. A label may have several; unknown ones are dropped
+// without a message.
 #include <string_view>
 
 #include "menu/menu_passes.h"
@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kShortestLabel = 3;
 
-// Only the blank counts here, not the tab.
+// Blanks only; tabs are kept.
 std::wstring_view Trim(std::wstring_view text) {
   while (!text.empty() && text.front() == L' ') text.remove_prefix(1);
   while (!text.empty() && text.back() == L' ') text.remove_suffix(1);
@@ -56,8 +56,8 @@ void StripConditions(TMenuItem& item) {
     StripLabel(item);
 }
 
-// What may be a mark or have a condition: behind the arrows a blank, a brace or a star; or a blank
-// at the end.
+// Records labels that may be "*SWITCH*" or have a condition: those that begin with a blank, a brace
+// or a star after the arrows, or end with a blank.
 void BlockWork::Note(TMenuItem& item, int line, const NamePool::Key& icon) {
   nester.Note(item, line);
   const int length = item.m_strLabel.Length();

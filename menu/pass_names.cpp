@@ -1,4 +1,4 @@
-// The end of a block, and the names that are resolved at the end of the file: icons and switches.
+// The work at the end of a block and, for icons and switches, at the end of the file.
 #include "menu/menu_passes.h"
 #include "menu/menu_system.h"
 
@@ -14,8 +14,8 @@ void PassWork::FlushNames() {
   m_pending = 0;
 }
 
-// A label that is the mark of a switch only once its conditions are off shows no switch: marks are
-// told first.
+// "*SWITCH*" is compared before conditions are stripped: a label that becomes "*SWITCH*" only by
+// stripping gets no switch.
 void FinishBlock(TDPtrList<TMenuItem>& lines, TMenuBar& bar, BlockWork& block, PassWork& work) {
   block.nester.HandOut(lines, bar);
   for (const PassWork::LabelUse& label : block.labels) {

@@ -1,14 +1,14 @@
 // The pass that turns "->" and "<-" labels into sub-menus.
 //
-// As worded, the rule works level by level: walk the lines with a depth that an opening line raises
-// by one and a closing line lowers by its number of "<-" pairs; the first opening line since the
-// last closing and the closing line that brings the depth to exactly zero are a range; its lines
-// behind the first go into a new bar, which is nested in the same way, the last line having lost
-// one pair. A walk for each level costs the square of the depth, so the same result is reached here
-// from one running sum over all lines. While a range is open every line counts, so that the range
-// of an opening line a ends at the first closing line behind it where the sum is one less than
-// behind a. That does not depend on the level, but for the last line of a bar, whose pairs are worn
-// off one a level.
+// The language defines the rule level by level: walk the lines with a depth that an opening line
+// raises by one and a closing line lowers by its number of "<-" pairs. The first opening line since
+// the last closing one and the closing line that brings the depth to exactly zero are a range. Its
+// lines after the first go into a new bar, which is nested in the same way after the last line has
+// lost one pair. A walk for each level takes quadratic time in the depth, so that the same result
+// is computed here from one running sum over all lines. While a range is open every line counts;
+// the range of an opening line therefore ends at the first later closing line where the sum is one
+// less than after the opening line. This does not depend on the level, except for the last line of
+// a bar, which loses one pair at each level.
 #include <algorithm>
 #include <cstdlib>
 
@@ -20,8 +20,8 @@ namespace {
 constexpr int kNone = -1;
 constexpr int kOpening = -1;
 
-// Menus are well-formed as a rule: all arrows are cut off while the line is at hand, and put back
-// in front of the few that have to stay.
+// All arrows are removed when a line is recorded. Few labels keep one, since most menus are
+// well-formed; they get it back here.
 void PutBack(TWCString& label, const wchar_t* pair, int count) {
   TWCString whole;
   for (; count > 0; --count) whole += pair;
@@ -54,7 +54,7 @@ void SubMenuNester::Clear() {
 }
 
 void SubMenuNester::FindEnds() {
-  // For each sum the nearest closing arrow that ends with it, seen from the one looked at.
+  // For each sum the nearest closing arrow after arrow i that has it.
   m_nearest.assign(static_cast<size_t>(m_highest - m_lowest) + 2, kNone);
   const auto place = [&](int sum) { return static_cast<size_t>(sum - m_lowest + 1); };
   int opening = kNone;
@@ -70,9 +70,9 @@ void SubMenuNester::FindEnds() {
   }
 }
 
-// The next opening arrow of a bar under construction, and its closing one. {arrow, kNone} for one
-// that is never closed there: no later one of this bar counts either. {kNone, kNone} when there is
-// no opening one.
+// The next opening arrow of the bar and its closing arrow. {arrow, kNone} for an arrow that is not
+// closed in this bar: its later opening arrows open no range either. {kNone, kNone} when there is
+// no opening arrow.
 TItemDot SubMenuNester::NextRange(const Place& place) const {
   const bool isBehindAll = place.nextArrow == static_cast<int>(m_arrows.size());
   const int first = isBehindAll ? kNone : At(place.nextArrow).nextOpening;
@@ -101,8 +101,8 @@ int SubMenuNester::HandOut(TDPtrList<TMenuItem>& lines, TMenuBar& bar) {
   return steps;
 }
 
-// The lines of the bars on the path lie one behind the other at the front of the list, so that each
-// bar makes room for no more lines than it has. The list owns them all the time.
+// The lines of the bars on the path are collected at the front of the list, so that each bar
+// reserves exactly the room for its lines. The list owns them until then.
 void SubMenuNester::Step(TDPtrList<TMenuItem>& lines) {
   Place& place = m_path.back();
   const auto [first, last] = NextRange(place);

@@ -9,8 +9,8 @@ char* RecordMemory::s_end = nullptr;
 std::size_t RecordMemory::s_pages = 0;
 
 namespace {
-// Left free at the end of a chunk: the heap's own record fits in, and the next chunk can follow at
-// the next multiple of the alignment.
+// Unused bytes at the end of a chunk. The header of the next heap block fits into them, so that the
+// next chunk can begin at the next multiple of the alignment.
 constexpr std::size_t kHeapRecord = 64;
 }  // namespace
 
@@ -24,7 +24,8 @@ void RecordMemory::Refill() {
   s_end = begin + kPageBytes - (isLast ? kHeapRecord : 0);
 }
 
-// Chunks grow with what is in use: a large menu needs few of them, a small one wastes little.
+// The size of a chunk grows with the total: a large menu needs few chunks, a small menu wastes
+// little.
 RecordMemory::Chunk* RecordMemory::NewChunk() {
   const std::size_t pages = std::clamp<std::size_t>(s_pages / 4, 1, 8);
   const std::size_t bytes = pages * kPageBytes - kHeapRecord;
@@ -33,7 +34,7 @@ RecordMemory::Chunk* RecordMemory::NewChunk() {
   return new (page + 1) Chunk{0, pages, 0};
 }
 
-// The current chunk too, so that a module that is unloaded leaves no memory.
+// Frees the current chunk too, so that the unloaded module leaves no memory.
 void RecordMemory::FreeChunk(Chunk* chunk) noexcept {
   if (chunk == s_chunk) {
     s_chunk = nullptr;

@@ -1,8 +1,7 @@
 // Allocates the records of the menu model: lines, blocks, resources, switches and states. A large
-// menu has a million of them, which are made in a row and deleted together. They are cut one after
-// the other from chunks, without a heap record for each. A chunk consists of pages of 32 KiB,
-// counts its records and is freed with the last one: a record that lives long keeps its chunk. Main
-// thread only.
+// menu has a million of them, which are created in sequence and deleted together. They are cut from
+// chunks, without a heap header for each. A chunk consists of pages of 32 KiB, counts its records
+// and is freed with the last one: a record that lives long keeps its chunk. Main thread only.
 //
 // A class uses it by declaring an operator new and an operator delete that call NewRecord and
 // FreeRecord.

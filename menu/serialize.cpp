@@ -1,5 +1,5 @@
-// Serialize of every model class: the fields in the order of the compiled file, and the file's own
-// head. docs/compiled-file.md has the byte table.
+// Serialize of all model classes: the fields in the order of the compiled file, and the file's
+// header. docs/compiled-file.md has the byte table.
 #include <memory>
 
 #include "menu/compiled_tree.h"
@@ -10,7 +10,7 @@ namespace {
 
 constexpr wchar_t kMagic[] = L"Quivera Compiled Menu File";
 constexpr int kMagicLength = sizeof kMagic / sizeof *kMagic - 1;
-constexpr uint32_t kVersion = 1;  // written; a reader takes any
+constexpr uint32_t kVersion = 1;  // written; the reader accepts any
 
 constexpr int kSmallestResource = 3;
 constexpr int kSmallestSwitch = 7;
@@ -64,7 +64,8 @@ void WriteList(CompiledWriter& out, const TDPtrList<T>& list) {
   for (T* element : list) Write(out, *element);
 }
 
-// Reads until the claimed count or the file's end; an element joins the list before it is read.
+// Reads up to the claimed count; the file's end throws. An element is added to the list before it
+// is read.
 template <class T>
 void ReadList(CompiledReader& in, TDPtrList<T>& list, int smallest) {
   const uint32_t count = in.GetU32();

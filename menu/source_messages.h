@@ -1,5 +1,5 @@
-// Where the scanner's and the parser's complaints go. The host prints them as FormatSyntaxError
-// words them; a tool may show them in its own way.
+// Receives the messages of the scanner and the parser. The module prints them in the form of
+// FormatSyntaxError; tools use their own form.
 #pragma once
 
 #include "kernel/twcstring.h"

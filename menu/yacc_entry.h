@@ -1,6 +1,5 @@
-// The scanner and the parser under the names and with the manners that the language was born with:
-// yylex and yyparse over one run for the whole module, values in yylval. A run is set up with
-// yybegin; it belongs to the main thread, like everything here. The loader itself uses
+// The scanner and the parser under the names of the yacc interface: yylex and yyparse, values in
+// yylval, one run at a time for the whole module. Main thread only. The loader itself uses
 // MenuCompiler.
 #pragma once
 
@@ -10,14 +9,14 @@ class SourceMessages;
 class TMenuSystem;
 
 union MenuValue {
-  char* text;  // a _strdup copy; whoever took the token frees it
+  char* text;  // malloc; the caller of yylex frees it
   int number;
   double real;
 };
 extern MenuValue yylval;
 
-// Ends the run before. `in` is read to its end and stays the caller's, as does `echo`, which may be
-// null. The line counter starts at 1.
+// Ends the previous run and begins a new one at line 1. Reads `in` to its end; the caller keeps
+// both files, and `echo` may be null.
 void yybegin(std::FILE* in, std::FILE* echo, SourceMessages& messages, TMenuSystem& system);
 void yyend();
 
