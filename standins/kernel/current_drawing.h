@@ -1,5 +1,5 @@
-// Keeps g_pCurrentDb true while drawings are opened, closed and changed between. Begun before any
-// other module listens to the documents, so that these find it true already.
+// Keeps g_pCurrentDb up to date while drawings are opened, closed and activated. Started before
+// other modules register document reactors, so that it is already up to date in theirs.
 #pragma once
 
 #include "kernel/kernel_export.h"

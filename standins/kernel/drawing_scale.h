@@ -1,5 +1,5 @@
-// The drawing scale in force: that of the drawing, or while the user works in paper space itself
-// that of the sheet. Writing it is the business of whoever lets the user choose.
+// The current drawing scale: that of the drawing, or of the sheet while paper space is active. Read
+// only; the caller that lets the user choose a scale writes it.
 #pragma once
 
 #include "kernel/kernel_export.h"
@@ -7,6 +7,5 @@
 // The sheet's scale is extended data of the block *Paper_Space: this name and one real (1040).
 inline constexpr wchar_t kPaperScaleApplication[] = L"_QVX";
 
-// A sheet that never got a scale is drawn at its own size, 1; without a drawing the default of a
-// new one is answered.
+// 1 for a sheet without a scale; the default of a new drawing without a drawing.
 QVX_KERNEL double DocGetPScale();

@@ -1,6 +1,6 @@
-// The display switches of the current drawing: how walls and columns look. Each call takes the
-// drawing's lock where the caller holds none, and changes the drawing only; repainting is the
-// caller's. Without a drawing nothing happens.
+// The display switches of the current drawing for walls and columns. Each function locks the
+// drawing unless the caller holds a lock, and changes the drawing only; the caller repaints. Does
+// nothing without a drawing.
 #pragma once
 
 #include "kernel/kernel_export.h"
@@ -8,5 +8,5 @@
 QVX_KERNEL void SolidFillOn();
 QVX_KERNEL void SolidFillOff();
 QVX_KERNEL void BoldLineOn();
-QVX_KERNEL void TasGhdHsj123();  // bold lines off; the published name says nothing
+QVX_KERNEL void TasGhdHsj123();  // turns bold lines off
 QVX_KERNEL void ToggleWallBase();

@@ -1,4 +1,4 @@
-// The storage of the shared settings. Their defaults stand in settings.cpp alone.
+// The storage of the shared settings; settings_table.cpp has the defaults.
 #include "kernel/globals.h"
 
 #include "kernel/settings.h"
@@ -42,8 +42,8 @@ int QvxGeLib::g_iMaxDynDimNum;
 AcDbDatabase* QvxGeLib::g_pCurrentDb;
 wchar_t QvxGeLib::g_sAppPath[260];
 
-// Behind the last of the data it fills: whoever links the kernel sees defaults and never bare
-// zeros.
+// After the data that it sets, in order of initialisation: all users of the kernel see the
+// defaults.
 namespace {
 const bool kDefaultsAreSet = (ResetSettings(), true);
 }

@@ -1,7 +1,6 @@
-// The settings that the kernel shares with the modules of the family, and the functions around
-// them. Each is plain exported data; settings.h has the table with type, default and meaning of
-// each. They are read from the registry when the kernel is loaded and written back by
-// SaveGlobalToReg.
+// The settings that the kernel shares with the modules of the family, and functions for them. Each
+// setting is exported data; settings.h has the table with types, defaults and meanings. The kernel
+// reads them from the registry when it is loaded; SaveGlobalToReg writes them.
 #pragma once
 
 #include "afx.h"
@@ -45,7 +44,7 @@ extern QVX_KERNEL double g_nVersion;
 extern QVX_KERNEL double g_dHostVersion;
 extern QVX_KERNEL CWnd* g_pContextMenu;
 
-// The geometry library's share of the same.
+// Settings of the geometry library.
 struct QVX_KERNEL QvxGeLib {
   static int g_bDynInput;
   static int g_iMaxDynDimNum;
@@ -53,8 +52,8 @@ struct QVX_KERNEL QvxGeLib {
   static wchar_t g_sAppPath[260];
 };
 
-// The product's key path below either root. It names the host release and the product, so that
-// settings of one never reach another. Valid for the life of the kernel.
+// The product's key path below either root, with the host release and the product number, so that
+// releases and products have separate settings. Valid until the kernel is unloaded.
 QVX_KERNEL const wchar_t* GetRegLocation();
 
 QVX_KERNEL int GetCustomFlag();
@@ -62,8 +61,7 @@ QVX_KERNEL int GetCustomFlag();
 // Writes every kept setting under GetRegLocation() + "\Settings"; a refused write is ignored.
 QVX_KERNEL void SaveGlobalToReg();
 
-// Makes the kernel's view of the current drawing true again: called after a drawing was loaded and
-// after a menu was.
+// Updates the kernel's data about the current drawing; called after a drawing or a menu was loaded.
 QVX_KERNEL void DocStatus();
 
 // Settings by name, for tools that drive the program. Numbers are decimal or 0x hexadecimal; one

@@ -2,9 +2,8 @@
 
 namespace {
 
-// Bytes of a double-byte character's second half can equal any of '[', ']' and '=' but never a
-// blank, tab or control: the cuts below are therefore made in wide text wherever such a sign is
-// looked for.
+// The second byte of a double-byte character can equal '[', ']' or '=', but not a blank, tab or
+// control character: therefore the former are searched in wide text.
 std::string_view Trim(std::string_view text) {
   const char* const kBlanks = " \t\r\n";
   const auto first = text.find_first_not_of(kBlanks);
@@ -24,7 +23,7 @@ TWCString TrimWide(const wchar_t* text, int count) {
   return trimmed;
 }
 
-// The name between the brackets, or false for a line that opens no section.
+// The name between the brackets; false when the line does not begin a section.
 bool SectionName(const TWCString& line, TWCString& name) {
   if (line[0] != L'[') return false;
   int close = 1;

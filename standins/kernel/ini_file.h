@@ -1,5 +1,5 @@
-// Reading one section of an ini file out of its bytes. Plain: no file, no host. The file helpers of
-// QvxExport give it the bytes of a file found on disk.
+// Reads one section of an ini file from its bytes, without file access. QvxExport passes it the
+// bytes of a file.
 #pragma once
 
 #include <string_view>
@@ -10,8 +10,8 @@
 
 class IniSection {
  public:
-  // False when the text has no such section. Byte order marks are not known: files are in the ANSI
-  // code page.
+  // False when the text has no such section. Files are in the ANSI code page; byte order marks are
+  // not recognised.
   bool Read(std::string_view bytes, const wchar_t* section);
 
   const wchar_t* Value(const wchar_t* key) const;  // null when missing

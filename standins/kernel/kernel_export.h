@@ -1,5 +1,5 @@
-// What leaves the kernel module: QVX_KERNEL marks a class, function or datum for export while the
-// kernel itself is built and for import everywhere else. The native build links statically.
+// QVX_KERNEL exports a class, function or datum when the kernel is built and imports it elsewhere.
+// Empty in the native build, which links statically.
 #pragma once
 
 #if !defined(_WIN32)

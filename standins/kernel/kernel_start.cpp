@@ -36,8 +36,8 @@ void StartKernel(const wchar_t* modulePath) {
   SetAppPath(modulePath);
 }
 
-// The active drawing and not the one in scope: while a module is loaded, the host asks it to
-// prepare every open drawing in turn, and none of these becomes the user's by that.
+// The active drawing, not the current one: while a module is loaded, the host makes every open
+// drawing current in turn.
 void DocStatus() {
   AcApDocManager* documents = acDocManagerPtr();
   AcApDocument* active = documents ? documents->mdiActiveDocument() : nullptr;

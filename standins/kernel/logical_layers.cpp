@@ -40,7 +40,7 @@ class LayerFile {
   void* m_buffer = nullptr;
 };
 
-std::unique_ptr<LayerFile> g_file;  // one for the kernel; read at the first question
+std::unique_ptr<LayerFile> g_file;  // read by the first GetLayer
 
 }  // namespace
 

@@ -1,5 +1,4 @@
-// Opening a file by a wide path on either build: the path goes to the system as it is on Windows
-// and as UTF-8 elsewhere.
+// Opens files by wide paths in both builds: on Windows directly, elsewhere as UTF-8.
 #pragma once
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// The helpers of QvxExport that ask the host or read a file. Which code carries what is in
-// type_of_code.cpp; the one that asks the keyboard is in win/ and native/.
+// The functions of QvxExport that call the host or read a file. TypeOfCode is in type_of_code.cpp,
+// IsKeyPressed in win/ and native/.
 #include "kernel/qvxexport.h"
 
 #include <cstdlib>
@@ -47,7 +47,7 @@ bool IsBlank(wchar_t unit) {
   return unit == L' ' || unit == L'\t' || unit == L'\r' || unit == L'\n';
 }
 
-// Steps over one word from its first unit and gives its bounds, quotes taken off.
+// Advances past one word and returns its bounds without quotes.
 const wchar_t* TakeWord(const wchar_t* at, const wchar_t** first, const wchar_t** end) {
   if (*at == L'"') {
     *first = ++at;

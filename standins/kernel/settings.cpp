@@ -1,4 +1,4 @@
-// Text and registry forms of the settings; what there is stands in settings_table.cpp.
+// Text and registry forms of the settings; the table is in settings_table.cpp.
 #include "kernel/settings.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ bool ParseInt(const wchar_t* text, long long low, long long high, long long& val
   return end != text && *end == 0 && value >= low && value <= high;
 }
 
-// Above the three bytes of a colour other things are said, such as "none".
+// A greater value is not a colour but has another meaning, for example none.
 constexpr int kLastColor = 0xFFFFFF;
 
 bool IsColor(int value) { return value >= 0 && value <= kLastColor; }
@@ -133,7 +133,7 @@ void ForEachKept(SettingHome home, Action action) {
   }
 }
 
-// Splits name[index]; false for a name that no setting has.
+// Splits name[index]; false for an unknown name.
 const Setting* FindSetting(const wchar_t* name, int& index) {
   index = 0;
   if (!name) return nullptr;
@@ -232,7 +232,7 @@ void ResetSettings() {
   for (const Setting* s = all; s != all + count; ++s) ResetSetting(*s);
 }
 
-// The release's own values come first: they decide where the user's are.
+// The release's values first: the place of the user's values depends on them.
 void LoadSettings() {
   const double release = g_dHostVersion;
   ResetSettings();

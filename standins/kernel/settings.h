@@ -1,11 +1,11 @@
-// The one table of the exported settings: name, type, where it is kept, default and meaning.
-// Defaults, the registry, and access by name all walk this table; a new setting is one line here,
-// one in globals.h and one in globals.cpp.
+// The table of the exported settings: name, type, place in the registry, default and meaning.
+// Defaults, the registry and access by name use this table. A new setting needs a row in it and a
+// line in globals.h and globals.cpp.
 //
-// Kept settings are values of the same name under GetRegLocation() + "\Settings" of the user's
+// Stored settings are values of the same name under GetRegLocation() + "\Settings" of the user's
 // root: numbers and colours as integers, reals and texts as strings, arrays as name[0], name[1] ...
-// g_nProductId and g_nVersion lie one key higher, under the host release, because they are part of
-// what makes up the location itself.
+// g_nProductId and g_nVersion are one key higher, under the host release, because the location
+// depends on them.
 #pragma once
 
 #include "kernel/kernel_export.h"
@@ -17,7 +17,7 @@ enum class SettingType {
   kReal,    // double
   kText,    // CString
   kBuffer,  // wchar_t[count]
-  kHandle,  // pointer or handle: shown, never set or kept
+  kHandle,  // pointer or handle: shown, never set or stored
 };
 
 enum class SettingHome {
@@ -32,16 +32,16 @@ struct Setting {
   SettingHome home;
   void* data;
   int count;                   // elements of an array, units of a buffer, otherwise 1
-  const wchar_t* defaultText;  // elements of an array parted by blanks
+  const wchar_t* defaultText;  // elements of an array separated by blanks
   const wchar_t* meaning;
 };
 
 QVX_KERNEL const Setting* Settings(int* count);
 
 QVX_KERNEL void ResetSettings();  // every one to its default, handles to null
-QVX_KERNEL void LoadSettings();   // defaults, then what the registry keeps
+QVX_KERNEL void LoadSettings();   // defaults, then the values in the registry
 
-// Text of one element, and back; false for text that is no value of the type or an index outside.
+// One element to text and back; false for an invalid text or index.
 bool SettingText(const Setting& setting, int index, TWCString& text);
 bool SetSettingText(const Setting& setting, int index, const wchar_t* text);
 
@@ -49,5 +49,5 @@ bool SetSettingText(const Setting& setting, int index, const wchar_t* text);
 TWCString ReleaseKey(double release);
 // The key of a product under it.
 TWCString ProductKey(double release, int productId);
-// The release number out of the host's version text ("24.0s (LMS Tech)"), 0 when there is none.
+// The release number in the host's version text ("24.0s (LMS Tech)"), 0 when there is none.
 QVX_KERNEL double ReleaseOfVersionText(const wchar_t* text);

@@ -13,7 +13,7 @@ constexpr auto kUser = SettingHome::kUser;
 constexpr auto kRelease = SettingHome::kRelease;
 constexpr auto kSession = SettingHome::kSession;
 
-// Colours are 0x00BBGGRR. The four of the menu deepen from a near-white to a soft blue.
+// Colours are 0x00BBGGRR.
 const Setting kSettings[] = {
     {L"g_bDisableHook", kInt, kUser, &g_bDisableHook, 1, L"0",
      L"the message filter passes everything"},

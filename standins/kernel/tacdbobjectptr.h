@@ -1,5 +1,5 @@
-// An object of a drawing, open for as long as this lives. What can't be opened (erased, of another
-// class, a drawing that may not be written) leaves it empty, and the caller goes on to the next.
+// Opens an object of a drawing and closes it in the destructor. Empty when the object can't be
+// opened: it is erased, of another class, or the drawing may not be written.
 #pragma once
 
 #include "dbmain.h"

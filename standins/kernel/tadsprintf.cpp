@@ -31,8 +31,8 @@ TADSPrintf& TADSPrintf::operator<<(double value) {
   return *this;
 }
 
-// Formatted here and handed over as plain text, so that length and conversions do not depend on
-// what the host's own printing allows.
+// Formatted here and printed as plain text: the host's own formatting limits length and
+// conversions.
 TADSPrintf& TADSPrintf::operator()(const wchar_t* format, ...) {
   std::vector<wchar_t> text(512);
   for (;;) {
@@ -41,7 +41,7 @@ TADSPrintf& TADSPrintf::operator()(const wchar_t* format, ...) {
     const int length = std::vswprintf(text.data(), text.size(), format, arguments);
     va_end(arguments);
     if (length >= 0 && static_cast<std::size_t>(length) < text.size()) return *this << text.data();
-    if (text.size() > 1u << 20) return *this;  // a format that never succeeds
+    if (text.size() > 1u << 20) return *this;  // an invalid format
     text.resize(text.size() * 2);
   }
 }

@@ -1,5 +1,5 @@
 // The printing object for the host's command line: adsout << L"\n墙宽: " << 240; and adsout(L"%d",
-// n). What it is given appears at once and unchanged; no newline is added.
+// n). Prints at once and unchanged; no newline is added.
 #pragma once
 
 #include "kernel/kernel_export.h"

@@ -17,7 +17,7 @@ constexpr short kName = 1001, kReal = 1040, kShort = 1070, kLong = 1071;
 
 int s_open = 0;
 
-// Whatever is missing or is no number of use keeps its default: a file may hold anything.
+// Missing and invalid values have their defaults: a file may contain anything.
 TDbConfigValues Read(const AcDbObject& holder) {
   TDbConfigValues values;
   resbuf* chain = holder.xData(kApplication);

@@ -1,14 +1,14 @@
-// What one drawing remembers for the family of modules: the display switches of walls, the drawing
-// scale, and a word of flags. It is saved with the drawing, as extended data of the model space
-// block under an application name of its own, so that it goes through every host that keeps
-// extended data. Opened with GetDwgGlobal, and closed again, which also gives the object back:
+// The data of the modules in a drawing: the display switches of walls, the drawing scale, and a
+// word of flags. It is saved with the drawing as extended data of the model space block under its
+// own application name, so that hosts without the modules preserve it. Opened with GetDwgGlobal;
+// close deletes the object:
 //
 //   if (TDbConfig* config = GetDwgGlobal(AcDb::kForRead, QvxGeLib::g_pCurrentDb)) {
 //     ... config->SolidFill() ...
 //     config->close();
 //   }
 //
-// A drawing that never held any has the defaults below; it is written at the first change.
+// A drawing without this data has the defaults below; the first change writes them.
 #pragma once
 
 #include <cmath>
@@ -37,19 +37,19 @@ class QVX_KERNEL TDbConfig : public AcDbObject {
   double PScale() const { return m_values.pscale; }
   int Flags() const { return m_values.flags; }
 
-  // Ignored unless it was opened for writing.
+  // Ignored unless opened for writing.
   void SetSolidFill(int on) { Change(&TDbConfigValues::solidFill, on); }
   void SetBoldLine(int on) { Change(&TDbConfigValues::boldLine, on); }
   void SetWallBase(int on) { Change(&TDbConfigValues::wallBase, on); }
-  void SetPScale(double scale) {  // what is no finite number changes nothing
+  void SetPScale(double scale) {  // ignored unless finite
     if (std::isfinite(scale)) Change(&TDbConfigValues::pscale, scale);
   }
   void SetFlags(int flags) { Change(&TDbConfigValues::flags, flags); }
 
-  // Writes what was changed into the drawing and deletes the object.
+  // Writes changes to the drawing and deletes the object.
   Acad::ErrorStatus close();
 
-  static int OpenCount();  // how many are open; a test sees with it that each was closed
+  static int OpenCount();  // number of open objects, for tests
 
  private:
   friend QVX_KERNEL TDbConfig* GetDwgGlobal(AcDb::OpenMode mode, AcDbDatabase* database);
@@ -63,7 +63,7 @@ class QVX_KERNEL TDbConfig : public AcDbObject {
     m_changed = true;
   }
 
-  AcDbObject& m_holder;  // open while this is
+  AcDbObject& m_holder;  // open as long as this object
   bool m_forWrite, m_changed = false;
   TDbConfigValues m_values;
 };

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Keeps the first value of one code out of all that an object writes.
+// Stores the first value of one code while an object writes its groups.
 class OneGroup : public AcDbDxfFiler {
  public:
   OneGroup(AcDbDatabase* database, int code) : m_database(database), m_code(code) {}
@@ -28,7 +28,7 @@ class OneGroup : public AcDbDxfFiler {
   Acad::ErrorStatus writeInt(short code, int number) override {
     return Keep(code, static_cast<long long>(number));
   }
-  // A point has a code for each of its numbers, ten apart.
+  // The coordinates of a point have codes that are ten apart.
   Acad::ErrorStatus writePoint(short code, const AcGePoint3d& point) override {
     Keep(code, point.x);
     Keep(static_cast<short>(code + 10), point.y);
@@ -50,7 +50,7 @@ bool InPaperSpace(const AcDbEntity& entity) {
   return space && acutWcMatch(space->getName(), L"`" ACDB_PAPER_SPACE L"*") == RTNORM;
 }
 
-// A kept group of an unknown class comes as text whatever its code says.
+// Groups of an unknown class are texts, whatever the code.
 TEntitySet::Value AsKind(TEntitySet::Value value, short kind) {
   const auto* text = std::get_if<std::wstring>(&value);
   if (!text || kind == RTSTR) return value;
@@ -164,7 +164,7 @@ void TEntitySet::Redraw(int mode) const {
 
 namespace {
 
-// Slots of drawings that are gone would be found again by a new drawing at the same address.
+// Removes closed drawings: a new drawing at the same address would get their slot.
 void ForgetClosedDrawings(std::map<AcApDocument*, TEntitySet>& slots, AcApDocManager& documents) {
   std::map<AcApDocument*, TEntitySet> open;
   AcApDocumentIterator* at = documents.newAcApDocumentIterator();

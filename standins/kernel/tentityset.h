@@ -1,8 +1,8 @@
-// One object of a drawing as selections name it: the object path, and the groups that were read
-// last. Made by TPickEntSet and kept as the object under the pointer, one a drawing.
+// One object of a drawing in a selection: the object path, and the groups that were read last.
+// TPickEntSet creates it; each drawing has one for the object under the pointer.
 //
-// What a group holds is asked of the object itself; a group that the object leaves out has the
-// value that drawings give to a missing one, where there is such a value.
+// Groups are read from the object. A group that the object omits has the default value of drawing
+// files, where there is one.
 #pragma once
 
 #include <string>
@@ -13,14 +13,14 @@
 
 class QVX_KERNEL TEntitySet {
  public:
-  // Nothing for a group that the object does not have.
+  // Null for a group that the object does not have.
   using Value = std::variant<std::monostate, long long, double, std::wstring>;
-  static constexpr int kDataUnits = 512;  // room that GetData expects
+  static constexpr int kDataUnits = 512;  // room that GetData requires
 
   TEntitySet() noexcept = default;
   explicit TEntitySet(const ads_name name) noexcept : m_name{name[0], name[1]} {}
   TEntitySet(const TEntitySet& other) noexcept : TEntitySet(other.m_name) {}
-  // Takes the object path only; groups that were read here are freed first.
+  // Copies the object path only; frees the groups read before.
   TEntitySet& operator=(const TEntitySet& other) noexcept;
 
   bool IsEmpty() const noexcept { return !m_name[0] && !m_name[1]; }
@@ -28,17 +28,17 @@ class QVX_KERNEL TEntitySet {
     return m_name[0] == other.m_name[0] && m_name[1] == other.m_name[1];
   }
   const ads_name& Name() const noexcept { return m_name; }
-  AcDbObjectId ObjectId() const;  // null when empty or gone
+  AcDbObjectId ObjectId() const;  // null when empty or erased
 
   bool Is(const wchar_t* type) const;  // the name in drawing files, case ignored
   // The first value of a group as text; false, and an empty text, without one.
   bool GetData(int code, wchar_t* out) const;
-  // Every group of the mask fits: texts as the host's wild cards, numbers when equal. An object
-  // that does not open fits nothing, and so does an empty mask.
+  // True when every group of the mask matches: texts by the host's wild cards, numbers by equality.
+  // False for an empty mask and for an object that can't be opened.
   bool MatchBase(const TRBList& mask) const;
-  void Redraw(int mode) const;  // 3 highlights, 4 takes it back
+  void Redraw(int mode) const;  // 3 highlights, 4 removes the highlight
 
-  // The name that drawing files have for the object's class; lives as long as the object.
+  // The class name in drawing files; valid as long as the object.
   static const wchar_t* TypeOf(const AcDbEntity& entity);
   static void GroupOf(const AcDbEntity& entity, int code, Value& out);
 
@@ -47,6 +47,6 @@ class QVX_KERNEL TEntitySet {
   mutable TRBList m_groups;  // of the last GetData
 };
 
-// The object under the pointer in the current drawing, null path for none. A slot of nobody's
-// without a drawing.
+// The object under the pointer in the current drawing, with a null path for none. A shared dummy
+// when no drawing is open.
 QVX_KERNEL TEntitySet& DocGetEntMouseOn();

@@ -9,8 +9,8 @@ char* TextMemory::s_end = nullptr;
 std::size_t TextMemory::s_pages = 0;
 
 namespace {
-// Left free at the end of a chunk: the heap's own record fits in, and the next chunk can follow at
-// the next multiple of the alignment.
+// Unused bytes at the end of a chunk. The header of the next heap block fits into them, so that the
+// next chunk can begin at the next multiple of the alignment.
 constexpr std::size_t kHeapRecord = 64;
 }  // namespace
 
@@ -19,7 +19,8 @@ void TextMemory::Refill() {
   BeginPage();
 }
 
-// Chunks grow with what is in use: a large menu needs few of them, a small one wastes little.
+// The size of a chunk grows with the total: a large menu needs few chunks, a small menu wastes
+// little.
 TextMemory::Chunk* TextMemory::NewChunk() {
   const std::size_t pages = std::clamp<std::size_t>(s_pages / 4, 1, 8);
   const std::size_t bytes = pages * kPageBytes - kHeapRecord;

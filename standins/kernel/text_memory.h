@@ -1,7 +1,7 @@
-// Allocates the short texts of TWCString, and is private to it. Blocks are cut one after the other
-// from chunks, so that a block has no heap record and a menu's texts lie in the order of its lines.
+// Allocates the short texts of TWCString; private to it. Blocks are cut from chunks one after the
+// other, so that a block has no heap header and the texts of a menu are in the order of its lines.
 // A chunk consists of pages of 32 KiB, counts its blocks and is freed with the last one: a block
-// that lives long keeps its chunk. The current chunk is not freed but used again. Main thread only.
+// that lives long keeps its chunk. The current chunk is reused instead of freed. Main thread only.
 #pragma once
 
 #include <cstddef>

@@ -1,6 +1,6 @@
-// A selection of the current drawing, by the host's selection sets: what is selected already, what
-// lies at a point or along a line, what the pointer is over. Indexing gives the objects in the
-// order in which they were selected. A set that found nothing is empty; nothing is reported.
+// A selection in the current drawing by the host's selection sets: the current selection, objects
+// at a point or along a line, or the object under the pointer. Objects are in the order of
+// selection. An empty set is not an error.
 #pragma once
 
 #include "gepnt3d.h"
@@ -9,7 +9,7 @@
 class QVX_KERNEL TPickEntSet {
  public:
   enum Mode {
-    kBorrowed = 1,  // the host's set stays when this object goes
+    kBorrowed = 1,  // the host's set is not released
     kOwned = 2,     // it is released with this object
   };
 
@@ -18,13 +18,13 @@ class QVX_KERNEL TPickEntSet {
   TPickEntSet(const TPickEntSet&) = delete;
   TPickEntSet& operator=(const TPickEntSet&) = delete;
 
-  // Selects as acedSSGet does with this mode, points and filter, in place of what was here: "I" the
-  // implied selection, null with a point what lies there. RTNORM, or why nothing was found.
+  // Selects as acedSSGet does with this mode, points and filter; replaces the old content. "I" is
+  // the implied selection, null with a point the object there. RTNORM or the host's error.
   int Get(const wchar_t* mode, const AcGePoint3d* first = nullptr,
           const AcGePoint3d* second = nullptr, const resbuf* filter = nullptr);
-  // The object under the pointer in the drawing view: a hit test, which can take long.
+  // The object under the pointer in the drawing view. A hit test; can be slow.
   int GetPreSel();
-  void Set(const TEntitySet& entity);  // this one alone; an empty one empties the set
+  void Set(const TEntitySet& entity);  // this object only; an empty one empties the set
 
   int Length() const;
   TEntitySet operator[](int index) const;  // empty for an invalid index

@@ -1,6 +1,5 @@
-// The host gathers all that one LISP call changes into one undo step by itself; what is left to do
-// here is to know whether such a scope is open, which operations of the family ask before they open
-// one of their own.
+// Counts open scopes only: the host makes one undo step of a LISP call. Operations of the family
+// check the count before they open a scope.
 #include "kernel/tpushacadundo.h"
 
 namespace {

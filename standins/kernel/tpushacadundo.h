@@ -1,5 +1,5 @@
-// Marks a scope whose changes are to be taken back in one step. The host makes one step of a whole
-// LISP call by itself, so the scope only counts how deep such scopes stand; it sets no mark.
+// A scope whose changes are undone in one step. The host makes one step of a whole LISP call
+// anyway, so that this only counts open scopes and sets no mark.
 #pragma once
 
 #include "kernel/kernel_export.h"

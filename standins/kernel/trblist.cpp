@@ -65,7 +65,7 @@ TGroups* TRBList::AppendReal(int code, double value) {
   return node;
 }
 
-// A code whose kind is not a string would leave the copy without an owner: it is not stored then.
+// Not stored under a code of another kind: the node would not free the copy.
 TGroups* TRBList::AppendString(int code, const wchar_t* value) {
   TGroups* node = Append(code);
   if (node->HoldsString()) node->resval.rstring = CopyText(value ? value : L"");

@@ -1,7 +1,7 @@
-// Chains of typed values in the host's resbuf layout. TGroups is one node: its type field holds a
-// DXF group code (or one of the host's RT values), and it owns the text when that code means a
-// string. TRBList owns a whole chain. Nodes come from here and go back here: a chain that the host
-// built is released with acutRelRb, never with FreeGroups.
+// Chains of typed values in the host's resbuf layout. TGroups is one node: its type is a DXF group
+// code (or one of the host's RT values), and it owns the text when the code is that of a string.
+// TRBList owns a chain. FreeGroups is for these nodes only; a chain of the host is released with
+// acutRelRb.
 #pragma once
 
 #include <cstddef>
@@ -37,10 +37,10 @@ class QVX_KERNEL TRBList {
 
   TGroups* Head() const noexcept { return m_head; }
   bool IsEmpty() const noexcept { return !m_head; }
-  void SetHead(TGroups* head) noexcept;  // takes the chain, frees the old one
+  void SetHead(TGroups* head) noexcept;  // takes ownership; frees the old chain
   TGroups* Detach() noexcept { return std::exchange(m_head, nullptr); }
 
-  // Each adds one node behind the last and returns it; the text is copied.
+  // Each appends one node and returns it; the text is copied.
   TGroups* AppendShort(int code, int value);
   TGroups* AppendReal(int code, double value);
   TGroups* AppendString(int code, const wchar_t* value);

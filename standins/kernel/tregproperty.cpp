@@ -1,5 +1,4 @@
-// The path half of the settings store, the same on both builds. The values are in win/registry.cpp
-// and native/file_store.cpp.
+// Key paths, the same in both builds. Values are in win/registry.cpp and native/file_store.cpp.
 #include "kernel/tregproperty.h"
 
 TRegObject::~TRegObject() = default;

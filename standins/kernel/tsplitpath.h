@@ -1,5 +1,5 @@
-// A path in its four pieces, the way Windows splits them, on every build: "C:" + "\dir\" + "name" +
-// ".ext". Both slashes part folders. The file need not exist.
+// Splits a path into its four parts, as Windows does, in both builds: "C:" + "\dir\" + "name" +
+// ".ext". Both slashes separate folders. The file need not exist.
 #pragma once
 
 #include "kernel/kernel_export.h"
@@ -10,7 +10,7 @@ class QVX_KERNEL TSplitpathOperator {
   explicit TSplitpathOperator(const wchar_t* path);
 
   const wchar_t* Drive() const { return m_drive; }          // "C:" or empty
-  const wchar_t* Folder() const { return m_folder; }        // with its last slash, or empty
+  const wchar_t* Folder() const { return m_folder; }        // with the slash at its end, or empty
   const wchar_t* Name() const { return m_name; }            // without extension
   const wchar_t* Extension() const { return m_extension; }  // with the dot, or empty
 

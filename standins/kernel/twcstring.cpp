@@ -32,8 +32,8 @@ int LengthOf(const wchar_t* text) {
   return text ? static_cast<int>(std::char_traits<wchar_t>::length(text)) : 0;
 }
 
-// Copies a text that lies outside of `out`. For the usual lengths no branch depends on the length:
-// four pieces are copied, which overlap unless the text fills them.
+// Copies a text that does not overlap `out`. For the usual lengths no branch depends on the length:
+// four pieces are copied, which overlap when the text is shorter.
 inline void CopyText(wchar_t* out, const wchar_t* text, int count) {
   constexpr int kPiece = 4;
   const auto copy = [=](int at) { std::memcpy(out + at, text + at, kPiece * sizeof(wchar_t)); };
@@ -73,7 +73,7 @@ void TWCString::Assign(const wchar_t* text, int count) {
   AssignSlowly(text, count);
 }
 
-// Not inlined into Assign, which then needs no stack frame.
+// Not inlined, so that Assign needs no stack frame.
 [[gnu::noinline]] void TWCString::AssignSlowly(const wchar_t* text, int count) {
   if (count <= 0 || !text) return Empty();
   if (count <= Capacity()) {

@@ -1,4 +1,4 @@
-// Between wide text and the ANSI code page; the class library's strings know the page.
+// Conversions between wide text and the ANSI code page, by the class library's strings.
 #include "afx.h"
 #include "kernel/twcstring.h"
 

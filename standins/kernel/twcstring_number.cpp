@@ -1,5 +1,4 @@
-// Numbers as text, for what a user reads: no exponent and no more digits than a scale or a length
-// needs.
+// Numbers as text for the user: no exponent, and at most the digits that a scale or a length needs.
 #include <cmath>
 #include <cwchar>
 

@@ -1,5 +1,5 @@
-// The one table of what a DXF group code carries. The menu parser, the compiled file and the value
-// chains all ask here, so that a mask reads the same from source and from file.
+// The table of the value kinds of DXF group codes. The menu parser, the compiled file and the value
+// chains all use it, so that a mask is the same from source and from a compiled file.
 #include "adsdef.h"
 #include "kernel/qvxexport.h"
 

@@ -1,4 +1,4 @@
-// Where the pointer is in the drawing. A machine without windows has no pointer.
+// The pointer's position in the drawing; none in the native build.
 #pragma once
 
 #include "gepnt3d.h"

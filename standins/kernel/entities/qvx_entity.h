@@ -1,8 +1,8 @@
 // The drawing objects of the family: walls, openings, columns, axis numbers, rooms, texts and
-// stairs, as far as our sample modules need them; dimensions stand in tdbdimension2.h. They share
-// one record of plain values, which is also what stands in drawing files; each class says what it
-// draws from it. Lengths are millimetres, angles degrees in files and radians here. Editing rules
-// (joining walls, moving openings along) are no business of this stand-in.
+// stairs, as far as the sample modules need them; dimensions are in tdbdimension2.h. They share one
+// record of plain values, which is stored in drawing files; each class draws itself from it.
+// Lengths are millimetres; angles are degrees in files and radians here. Editing rules (joining
+// walls, moving openings) are not implemented.
 #pragma once
 
 #include <string>
@@ -58,6 +58,6 @@ class QVX_KERNEL QvxDbSpace : public QvxDbEntity {  // outline; label
   bool HasOutline() const override { return true; }
 };
 
-// Makes the classes known to drawings, and forgets them again before the code goes.
+// Registers the classes, and removes them before the module is unloaded.
 QVX_KERNEL void BeginQvxEntities();
 QVX_KERNEL void EndQvxEntities();

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr double kOnAxis =
-    1;  // how far an opening's middle may lie beside the axis of its wall, mm
+    1;  // mm; greatest distance of an opening's middle from the axis of its wall
 constexpr short kGlass = 4, kFillColor = 8, kLeaf = 2, kBaseLine = 1, kByLayer = 256;
 constexpr double kBoldPen = 40;  // mm at the default scale
 
@@ -47,7 +47,7 @@ struct Gap {
   double from, to;  // along the wall's axis
 };
 
-// The openings that lie on this wall's axis, by rising distance from its start.
+// The openings on this wall's axis, sorted by distance from its start.
 std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double length) {
   std::vector<Gap> gaps;
   const auto* space = AcDbBlockTableRecord::cast(wall.ownerId().object());
@@ -69,7 +69,7 @@ std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double
 
 namespace {
 
-// How walls and columns of a drawing look at present.
+// The current display switches of walls and columns.
 struct CutLook {
   bool filled = true, bold = false, base = false;
   double pen = kBoldPen;
@@ -84,8 +84,8 @@ CutLook LookIn(AcDbDatabase* database, double scaleFactor) {
   return look;
 }
 
-// One cut piece: its ground when it is filled, and its outline when that would not show otherwise
-// or is to be bold. A bold outline lies inside, so that neighbours keep their place.
+// One piece of a wall: the filling when it is filled, and the outline when it is not filled or
+// bold. A bold outline is inside the piece, so that neighbours do not overlap.
 void Piece(AcGiWorldDraw* draw, const AcGePoint3d& origin, const AcGeVector3d& along, double x0,
            double y0, double x1, double y1, const CutLook& look) {
   if (look.filled) {
@@ -106,8 +106,8 @@ void Piece(AcGiWorldDraw* draw, const AcGePoint3d& origin, const AcGeVector3d& a
 
 }  // namespace
 
-// Pieces between the openings. Half the width more at both ends makes corners whole without
-// looking for neighbours.
+// The pieces between the openings. Both ends are longer by half the width, which closes corners
+// without searching for neighbours.
 bool QvxDbWall::subWorldDraw(AcGiWorldDraw* draw) const {
   const double length = start.distanceTo(end), half = width / 2;
   if (length <= 0) return false;

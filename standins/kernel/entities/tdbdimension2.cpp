@@ -73,7 +73,7 @@ void TDbDimension2::DrawLinear(AcGiWorldDraw* draw) const {
   DrawText(draw, At(start, along, length / 2, y), At(start, along, length, y), along);
 }
 
-// A radius below zero, which a large change of scale can give, turns to the other side.
+// A negative radius, which a large change of scale can give, is on the other side.
 void TDbDimension2::DrawAngular(AcGiWorldDraw* draw) const {
   const double f = ScaleFactor(), over = width < 0 ? -kOver * f : kOver * f, tick = kTick * f;
   const AcGeVector3d first = (end - start).normal();

@@ -1,6 +1,6 @@
 // Dimensions: the distance of two points along a line (kind 0), or the angle between two directions
-// as an arc (kind 1). Symbols and text follow the scale of the object; how far the line stands off
-// is a length in the drawing and is changed by whoever changes the scale.
+// as an arc (kind 1). Symbols and text are scaled with the object; the distance of the line is a
+// length in the drawing, which the caller changes with the scale.
 #pragma once
 
 #include "kernel/entities/qvx_entity.h"
@@ -10,8 +10,8 @@ class QVX_KERNEL TDbDimension2 : public QvxDbEntity {
   ACRX_DECLARE_MEMBERS(TDbDimension2);
   enum Kind { kLinear = 0, kAngular = 1 };
   enum Flag {
-    kTextAside = 1,  // the text stands beyond the end
-    kTextAbove = 2,  // the text stands one row higher
+    kTextAside = 1,  // the text is beyond the end
+    kTextAbove = 2,  // the text is one row higher
   };
 
   TDbDimension2() { size = 10; }
@@ -24,9 +24,9 @@ class QVX_KERNEL TDbDimension2 : public QvxDbEntity {
   void SetDimRadius(double radius) { width = radius; }
   double GetDist2DimLine(double scale) const { return size * scale; }
 
-  // Finds the text a place: where it is wider than the measured length, beyond the end (`aside`) or
-  // that many rows higher; else on the line. `gap` is the room on both sides in quarters of the
-  // text's height.
+  // Places the text: on the line; when it is wider than the measured length, beyond the end
+  // (`aside`) or that many rows higher. `gap` is the space on both sides in quarters of the text's
+  // height.
   void AdjustDim(bool aside, int rows, int gap);
 
   bool subWorldDraw(AcGiWorldDraw* draw) const override;

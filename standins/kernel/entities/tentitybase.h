@@ -1,5 +1,5 @@
-// What all drawing objects of the family have in common, whatever host class they derive from: the
-// scale at which their annotations are made.
+// The common base of all drawing objects of the family, whatever host class they derive from: the
+// scale of their annotations.
 #pragma once
 
 #include "kernel/kernel_export.h"
@@ -9,17 +9,16 @@ class QVX_KERNEL TEntityBase {
  public:
   virtual ~TEntityBase();
 
-  // Null for null and for objects of other makers, among them those of the family that a drawing
-  // was read with while their module was not there.
+  // Null for null, for other objects, and for objects of the family that were read while their
+  // module was not loaded.
   static TEntityBase* Cast(AcRxObject* object);
 
-  // 100 means 1:100. Any finite number is kept, what is none changes nothing; one that is not above
-  // 0 draws as the default does.
+  // 100 means 1:100. Ignored unless finite; a value of 0 or less is drawn with the default.
   double GetPScale() const { return m_pscale; }
   virtual void SetPScale(double scale);
 
  protected:
-  // Sizes are stored as they are drawn at the default scale; this is what they are multiplied by.
+  // Sizes are stored for the default scale; this is the factor for drawing.
   double ScaleFactor() const;
 
   static constexpr double kDefaultScale = 100;

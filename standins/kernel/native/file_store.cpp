@@ -114,7 +114,7 @@ void Store::Load() {
       value.isText = TakeField(line) == "s";
       value.text = wide.from_bytes(TakeField(line));
     } catch (const std::range_error&) {
-      continue;  // a line that is no UTF-8 is as if it weren't there
+      continue;  // lines that are not UTF-8 are ignored
     }
     m_values[{machine, Folded(value.keyPath.c_str()), Folded(value.name.c_str())}] = value;
   }

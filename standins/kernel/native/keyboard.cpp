@@ -1,4 +1,4 @@
-// A machine without a keyboard that could be asked: no key is ever down.
+// The native build has no keyboard: no key is ever down.
 #include "kernel/qvxexport.h"
 
 bool QvxExport::IsKeyPressed(int) { return false; }

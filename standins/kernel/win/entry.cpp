@@ -1,5 +1,4 @@
-// The host's way into the kernel module. It is loaded by the modules that need it, before anything
-// else they do, and unloaded by them last.
+// The entry point of the kernel module. Modules load it before all else and unload it last.
 #include "afx.h"
 
 #include "kernel/current_drawing.h"

@@ -1,5 +1,4 @@
-// The dialog class that the modules of the family derive theirs from: the host's own dialog, under
-// one name, so that what all of them need has one place.
+// The base class of the modules' dialogs, derived from the host's dialog.
 #pragma once
 
 #include "afxwin.h"
@@ -11,7 +10,7 @@
 class QVX_KERNEL GlwCAcUiDialog : public CAcUiDialog {
   DECLARE_DYNAMIC(GlwCAcUiDialog)
  public:
-  // The module whose resources hold the dialog; null: those that are current.
+  // The module with the dialog's resources; null: the current one.
   explicit GlwCAcUiDialog(UINT number, CWnd* parent = nullptr, HINSTANCE module = nullptr);
   ~GlwCAcUiDialog() override;
 };

@@ -1,5 +1,4 @@
-// The control draws itself, because the colour of a static text is its parent's to give and the
-// parent knows nothing of links.
+// Draws itself: otherwise the parent would have to set the colour.
 #include "kernel/win/hyper_link.h"
 
 #include <shellapi.h>
@@ -40,7 +39,7 @@ void CHyperLink::SetUnderAndOver(int on) {
   Invalidate();
 }
 
-// Without notifications a static text lets the mouse through to the dialog.
+// Without notifications the dialog and not the static text gets mouse messages.
 void CHyperLink::PreSubclassWindow() {
   ModifyStyle(0, SS_NOTIFY);
   MakeFont();

@@ -1,5 +1,5 @@
-// A static text of a dialog that opens an address when it is pressed, through the shell's default
-// handler. Put over a control by DDX_Control. It has no place in the tab order.
+// A static text that opens an address with the shell's default handler when it is clicked. Attached
+// to a control by DDX_Control. Not in the tab order.
 #pragma once
 
 #include "afxwin.h"
@@ -11,11 +11,11 @@ class QVX_KERNEL CHyperLink : public CStatic {
   CHyperLink();
   ~CHyperLink() override;
 
-  // Where the link leads; until it is set, to what the control's text says.
+  // The address; by default the control's text.
   void SetURL(const wchar_t* address);
   CString GetURL() const;
 
-  // Non-zero: underlined, and of another colour while the pointer is over it.
+  // Non-zero: underlined, and in another colour while the pointer is over it.
   void SetUnderAndOver(int on);
 
  protected:
@@ -29,7 +29,7 @@ class QVX_KERNEL CHyperLink : public CStatic {
 
  private:
   void MakeFont();
-  // The text's own place: the control may be wider.
+  // The rectangle of the text: the control may be wider.
   CRect TextRect(CDC& dc) const;
   bool IsOverText(CPoint point);
   void SetOver(bool over);

@@ -1,5 +1,5 @@
-// TRegProperty over the Windows registry. Keys are opened for each call and closed by their owner;
-// nothing is cached, so what another program writes is seen at the next read.
+// TRegProperty on the Windows registry. Each call opens and closes the key; nothing is cached, so
+// that the next read sees what another program wrote.
 #include "afx.h"
 
 #include <cstdlib>
@@ -30,7 +30,7 @@ struct RawValue {
   std::vector<BYTE> bytes;
 };
 
-// Ends with two zero bytes beyond what was stored: texts in the registry need not be terminated.
+// Two zero bytes are appended: texts in the registry need not be terminated.
 bool ReadRaw(HKEY root, const wchar_t* path, const wchar_t* name, RawValue& value) {
   KeyOwner key;
   if (RegOpenKeyExW(root, path, 0, KEY_QUERY_VALUE, key.Out()) != ERROR_SUCCESS) return false;
