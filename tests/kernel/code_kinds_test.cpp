@@ -3,7 +3,7 @@
 #include "adsdef.h"
 #include "kernel/qvxexport.h"
 
-TEST(TypeOfCode, KnowsTheEndsOfEveryRange) {
+TEST(TypeOfCode, IsRightAtBothEndsOfEveryRange) {
   const struct {
     int first, last;
     short type;

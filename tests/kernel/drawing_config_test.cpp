@@ -1,5 +1,5 @@
-// What a drawing remembers of the family's switches and of its scale: defaults, changes under
-// locks, the way through a file, and files that hold something else.
+// The switches and the scale that a drawing stores: defaults, changes under locks, saving and
+// reading, and damaged files.
 #include <gtest/gtest.h>
 
 #include "axlock.h"
@@ -64,7 +64,7 @@ class DrawingConfig : public hosttest::HostTest {
 
 }  // namespace
 
-TEST_F(DrawingConfig, IsNotThereWithoutADrawing) {
+TEST_F(DrawingConfig, IsNullWithoutADrawing) {
   EXPECT_EQ(QvxGeLib::g_pCurrentDb, nullptr);
   EXPECT_EQ(GetDwgGlobal(AcDb::kForRead, nullptr), nullptr);
   SolidFillOn();
@@ -72,7 +72,7 @@ TEST_F(DrawingConfig, IsNotThereWithoutADrawing) {
   EXPECT_EQ(DocGetPScale(), 100);
 }
 
-TEST_F(DrawingConfig, ADrawingThatNeverHeldAnyHasTheDefaultsAndStaysUnmodified) {
+TEST_F(DrawingConfig, ADrawingWithoutARecordHasTheDefaultsAndStaysUnmodified) {
   NewDrawing();
   const TDbConfigValues values = Values();
   EXPECT_EQ(values.solidFill, 1);
@@ -84,7 +84,7 @@ TEST_F(DrawingConfig, ADrawingThatNeverHeldAnyHasTheDefaultsAndStaysUnmodified) 
   EXPECT_EQ(ModelSpace().xData(), nullptr);
 }
 
-TEST_F(DrawingConfig, EachSwitchIsItsOwn) {
+TEST_F(DrawingConfig, SwitchesAreIndependent) {
   NewDrawing();
   SolidFillOff();
   BoldLineOn();
@@ -120,7 +120,7 @@ TEST_F(DrawingConfig, ChangesOnlyWhatWasOpenedForWritingUnderALock) {
   EXPECT_EQ(Values().flags, 0x200);
 }
 
-TEST_F(DrawingConfig, GoesThroughADrawingFileWithTheDrawing) {
+TEST_F(DrawingConfig, IsSavedWithTheDrawing) {
   devhost::Document& drawing = NewDrawing();
   SolidFillOff();
   BoldLineOn();
@@ -158,7 +158,7 @@ TEST_F(DrawingConfig, FollowsTheActiveDrawingAndGoesWithTheLast) {
   EXPECT_EQ(DocGetPScale(), 100);
 }
 
-TEST_F(DrawingConfig, DamagedRecordsKeepTheDefaultsOfWhatIsDamaged) {
+TEST_F(DrawingConfig, DamagedValuesHaveTheirDefaults) {
   NewDrawing();
   TRBList list;
   list.AppendString(1001, L"_QVX_CONFIG");
@@ -194,7 +194,7 @@ TEST_F(DrawingConfig, TheScaleInForceIsTheSheetsInPaperSpaceItselfOnly) {
   EXPECT_EQ(DocGetPScale(), 50) << "inside a viewport the drawing's holds";
 }
 
-TEST_F(DrawingConfig, AnObjectsScaleGoesThroughTheFileAndAbsentOnesAreTheDefault) {
+TEST_F(DrawingConfig, AnObjectsScaleIsSavedAndAMissingOneIsTheDefault) {
   devhost::Document& drawing = NewDrawing();
   auto* wall = new QvxDbWall;
   wall->end = {1000, 0, 0};
@@ -212,7 +212,7 @@ TEST_F(DrawingConfig, AnObjectsScaleGoesThroughTheFileAndAbsentOnesAreTheDefault
   EXPECT_EQ(TEntityBase::Cast(entities[1])->GetPScale(), 20);
 }
 
-TEST(EntityBase, TakesObjectsOfTheFamilyOnly) {
+TEST(EntityBase, CastsObjectsOfTheFamilyOnly) {
   BeginQvxEntities();
   AcDbLine line;
   QvxDbColumn column;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// A file in the temporary folder that goes with its owner.
+// A file in the temporary folder that its owner deletes.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::string& bytes)
@@ -66,7 +66,7 @@ TEST(IniFile, ReadsOneSectionInTheAnsiCodePage) {
   EXPECT_EQ(ini[L"HelpFile"], L"(none)");
 }
 
-TEST(IniFile, TheFirstOfEqualKeysCountsAndQuotesComeOff) {
+TEST(IniFile, TheFirstOfEqualKeysCountsAndQuotesAreRemoved) {
   const Ini ini("[P]\nA=1\nA=2\nB=\" b \"\nC=\nD\nE=x=y", L"P");
   EXPECT_EQ(ini[L"A"], L"1");
   EXPECT_EQ(ini[L"B"], L" b ");
@@ -107,12 +107,12 @@ TEST(GetStringAtIndex, AQuotedStringIsOneWord) {
   EXPECT_EQ(Word(L"\"open end\n", 1), L"open end");
 }
 
-TEST(GetStringAtIndex, ABlankLineHasNoWordsAndALongOneIsCut) {
+TEST(GetStringAtIndex, ABlankLineHasNoWordsAndALongOneIsTruncated) {
   EXPECT_EQ(Word(L" \t\r\n", 1), L"");
   EXPECT_EQ(Word(std::wstring(400, L'x').c_str(), 1).size(), 259u);
 }
 
-TEST(WStrNew, GivesACopyOfItsOwn) {
+TEST(WStrNew, ReturnsACopy) {
   wchar_t text[] = L"墙";
   wchar_t* copy = QvxExport::WStrNew(text);
   text[0] = L'x';

@@ -1,4 +1,4 @@
-// The list of the drawings that were used last.
+// The list of recent drawings.
 #include <gtest/gtest.h>
 
 #include "kernel/recent_drawings.h"
@@ -11,7 +11,7 @@ std::wstring Noted(std::initializer_list<const wchar_t*> files) {
   return list.GetString();
 }
 
-TEST(RecentDrawings, EachIsFollowedByACommaAndTheLastUsedStandsLast) {
+TEST(RecentDrawings, EachIsFollowedByACommaAndTheLastUsedIsLast) {
   EXPECT_EQ(Noted({L"C:\\a.dwg", L"C:\\图\\b.dwg"}), L"C:\\a.dwg,C:\\图\\b.dwg,");
   EXPECT_EQ(Noted({L"C:\\a.dwg", L"C:\\b.dwg", L"c:\\A.DWG"}), L"C:\\b.dwg,c:\\A.DWG,");
 }
@@ -20,11 +20,11 @@ TEST(RecentDrawings, FourAreKept) {
   EXPECT_EQ(Noted({L"/1", L"/2", L"/3", L"/4", L"/5", L"/6"}), L"/3,/4,/5,/6,");
 }
 
-TEST(RecentDrawings, WhatCantBeOpenedAgainIsLeftOut) {
+TEST(RecentDrawings, NamesThatCannotBeReopenedAreLeftOut) {
   EXPECT_EQ(Noted({L"Drawing1.dwg", L"", nullptr, L"C:\\a,b.dwg"}), L"");
 }
 
-TEST(RecentDrawings, AListOfAnyFormIsReadAsFarAsItHasCommas) {
+TEST(RecentDrawings, AListOfAnyFormIsReadUpToItsLastComma) {
   CString list(L",,/a,,/b");
   NoteRecentDrawing(list, L"/c");
   EXPECT_STREQ(list.GetString(), L"/a,/c,");

@@ -1,5 +1,5 @@
-// The settings table and what the registry keeps of it. Runs under a host release that nobody has,
-// so that a real registry's settings stay what they are.
+// The settings table and its values in the registry. Uses the number of a release that does not
+// exist, so that real settings in the registry are not changed.
 #include "kernel/settings.h"
 
 #include <gtest/gtest.h>
@@ -97,7 +97,7 @@ TEST_F(KernelSettings, RefuseUnknownNamesAndValuesOfTheWrongForm) {
   EXPECT_EQ(Get(L"g_nothing"), L"(unknown)");
 }
 
-TEST_F(KernelSettings, SurviveSavingAndLoading) {
+TEST_F(KernelSettings, AreUnchangedBySavingAndLoading) {
   g_nSpeedMenu = 0;
   g_menuColors[1] = 0xABCDEF;
   g_sRecentFiles = L"C:\\图\\一层.dwg,";

@@ -16,7 +16,7 @@ std::wstring TextOf(const TWCString& text) {
   return {static_cast<const wchar_t*>(text), static_cast<size_t>(text.Length())};
 }
 
-// A text whose units differ, so that a copy that is shifted or cut short shows.
+// A text of different units, so that a shifted or incomplete copy is detected.
 std::wstring Numbered(int length) {
   std::wstring text;
   for (int i = 0; i < length; ++i) text += static_cast<wchar_t>(0x4E00 + i % 5000);
@@ -192,7 +192,7 @@ TEST(TWCString, ALengthThatNoMemoryHoldsIsRefused) {
   EXPECT_STREQ(text, L"abc");
 }
 
-// One operation on both; the lengths go over the border of what is pooled.
+// One operation on both; the lengths are below and above the limit for pooled texts.
 void ChangeAlike(std::mt19937& random, TWCString& text, std::wstring& expected) {
   const std::wstring part = Numbered(static_cast<int>(random() % (random() % 8 ? 40 : 700)));
   const auto from = expected.empty() ? 0 : random() % expected.size();
@@ -230,7 +230,7 @@ TEST(TWCString, ManyStringsInAnyOrderKeepTheirTexts) {
   std::vector<std::wstring> expected(texts.size());
   for (int i = 0; i < 60000; ++i) {
     const size_t at = random() % texts.size();
-    // A zero that was appended would end the text for the next assignment of a part.
+    // Not zero, which would end the text for a later assignment of a part.
     if (expected[at].find(L'\0') != std::wstring::npos) {
       texts[at].Empty();
       expected[at].clear();
@@ -245,7 +245,7 @@ TEST(TWCString, ManyStringsInAnyOrderKeepTheirTexts) {
   EXPECT_STREQ(last, L"the pool goes on");
 }
 
-TEST(NarrowText, GoesThroughTheAnsiCodePageAndBack) {
+TEST(NarrowText, ConvertsToTheAnsiCodePageAndBack) {
   const char narrow[] = "\xC7\xBD\xCC\xE5";  // 墙体 in code page 936
   EXPECT_STREQ(TUString(narrow), L"墙体");
   EXPECT_STREQ(TAString(L"墙体"), narrow);

@@ -1,5 +1,5 @@
-// The allocator of the kernel's short texts, in both builds, although strings use it only where no
-// memory checker runs.
+// The allocator of the kernel's short texts. Tested in both builds, although strings do not use it
+// under the sanitizers.
 #include "kernel/text_memory.h"
 
 #include <gtest/gtest.h>

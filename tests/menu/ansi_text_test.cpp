@@ -1,4 +1,4 @@
-// Decoding of tokens: the quick way gives what the kernel's strings give.
+// Decoding of tokens gives the same text as the kernel's strings.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -42,7 +42,7 @@ TEST(AnsiText, TextsLongerThanATokenAreDecodedToo) {
   }
 }
 
-TEST(AnsiText, NothingGivesNothing) {
+TEST(AnsiText, AnEmptyTextDecodesToAnEmptyText) {
   AnsiText ansi;
   EXPECT_TRUE(ansi.Decode("").empty());
 }

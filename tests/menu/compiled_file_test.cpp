@@ -1,4 +1,4 @@
-// The compiled file: every byte of it, reading it back, the messages, and saves that fail.
+// The compiled file: all its bytes, reading it back, messages, and saves that fail.
 #include <gtest/gtest.h>
 
 #include "tests/menu/menu_testing.h"
@@ -41,7 +41,7 @@ Bytes Head(const std::string& title = "") {
   return bytes;
 }
 
-// Behind label, command and sub-menu.
+// The fields after label, command and sub-menu.
 Bytes& Tail(Bytes& bytes, unsigned switchIndex = 0xFFFFFFFF) {
   return bytes.U32(switchIndex).U32(0).Str("").Str("").Str("").U32(0xFFFFFFFF);
 }
@@ -51,7 +51,7 @@ TEST(CompiledFile, AnEmptySystemIsMagicVersionTwoNumbersTitleAndThreeCounts) {
   EXPECT_EQ(SaveBytes(system), Head().U32(0).U32(0).U32(0).text);
 }
 
-TEST(CompiledFile, EveryFieldStandsInItsPlace) {
+TEST(CompiledFile, EveryFieldIsAtItsOffset) {
   TMenuSystem system;
   system.m_nReserved1 = 0x01020304;
   system.m_nReserved2 = 0xA0B0C0D0;
@@ -124,7 +124,7 @@ TEST(CompiledFile, StringsHaveThreeFormsOfLength) {
   }
 }
 
-TEST(CompiledFile, StringsOfEachLengthComeBackBesideTheirNeighbours) {
+TEST(CompiledFile, StringsOfEachLengthAreReadBackWithTheirNeighbours) {
   TMenuSystem system;
   const auto text = [](int length) {
     std::wstring text(static_cast<size_t>(length), L' ');
@@ -145,7 +145,7 @@ TEST(CompiledFile, StringsOfEachLengthComeBackBesideTheirNeighbours) {
   }
 }
 
-TEST(CompiledFile, StringsWithoutTheMarkerAreOfTheCodePage) {
+TEST(CompiledFile, StringsWithoutTheMarkerAreInTheCodePage) {
   const std::string longTitle(300, 'x');
   TMenuSystem system;
   Bytes bytes;
@@ -179,7 +179,7 @@ TEST(CompiledFile, AnotherMagicIsAFileExceptionWithCauseZero) {
             "CFileException 0 -1");
 }
 
-TEST(CompiledFile, SubMenusOfSubMenusComeBack) {
+TEST(CompiledFile, NestedSubMenusAreReadBack) {
   Compiled compiled;
   Compile("MENU_TITLE=\"t\"***A[->a]\n[->b]\n[c]x;\n[<-<-d]\n[e]\n***SWITCH***RESOURCE", compiled);
   TMenuSystem back;
@@ -196,7 +196,7 @@ TEST(CompiledFile, LoadingReplacesTheListsAndKeepsTheRecentOnes) {
   EXPECT_EQ(system.m_recent.Length(), 1);
 }
 
-TEST(CompiledFile, ShortValuesAreCutTo16BitsOnReading) {
+TEST(CompiledFile, ShortValuesAreTruncatedTo16BitsOnReading) {
   TMenuSystem system;
   Bytes bytes = Head();
   bytes.U32(0).U32(0).U32(1).Str("B").Str("").U32(1).U16(62).U32(0x12345).U32(0);
@@ -213,7 +213,7 @@ TEST(CompiledFile, AGroupOfNoKindHasNoValue) {
   EXPECT_EQ(SaveBytes(system), bytes.text);
 }
 
-TEST(CompiledFile, ASwitchIndexPastTheTableIsCaughtAtLoad) {
+TEST(CompiledFile, ASwitchIndexPastTheTableIsAnErrorOnReading) {
   TMenuSystem system;
   Bytes bytes = Head();
   bytes.U32(0).U32(0).U32(1).Str("B").Str("").U32(0).U32(1).Str("l").Str("").U32(0);
@@ -229,7 +229,7 @@ TEST(CompiledFile, ANegativeSwitchIndexMeansNone) {
   EXPECT_EQ(system.At(0)->At(0)->m_pSwitch, nullptr);
 }
 
-TEST(CompiledFile, AnySubMenuFlagButZeroMeansASubMenu) {
+TEST(CompiledFile, EveryNonZeroSubMenuFlagMeansASubMenu) {
   TMenuSystem system;
   Bytes bytes = Head();
   bytes.U32(0).U32(0).U32(1).Str("B").Str("").U32(0).U32(1).Str("l").Str("").U32(7);
@@ -238,15 +238,15 @@ TEST(CompiledFile, AnySubMenuFlagButZeroMeansASubMenu) {
   EXPECT_NE(system.At(0)->At(0)->m_pSubMenu, nullptr);
 }
 
-// The reader takes the file in windows of 409600 bytes.
-TEST(CompiledFile, AFileOfOneWindowAndAFewBytesComesBackWhole) {
+// Sizes close to that of the archive's buffer, which is also the writer's.
+TEST(CompiledFile, FilesAboutAsLongAsTheArchiveBufferAreReadBack) {
   TMenuSystem system;
   for (int i = 0; i < 22700; ++i) system.m_resources.Append(new TMenuResItem(L"a", L"b", L"c"));
   const size_t least = SaveBytes(system).size();
   ASSERT_LT(least, 409600u - 600u);
   for (size_t wanted = 409600 - 6; wanted <= 409600 + 24; wanted += 2) {
     const size_t units =
-        (wanted - least) / 2 - 1;  // the length of a long title takes two bytes more
+        (wanted - least) / 2 - 1;  // the length field of a long title has two bytes more
     system.m_strTitle = std::wstring(units, L't').c_str();
     const std::string bytes = SaveBytes(system);
     ASSERT_EQ(bytes.size(), wanted);
@@ -256,7 +256,7 @@ TEST(CompiledFile, AFileOfOneWindowAndAFewBytesComesBackWhole) {
   }
 }
 
-// What was read ahead goes back to the archive.
+// The reader seeks back after reading ahead.
 TEST(CompiledFile, WhatFollowsASystemInItsArchiveCanStillBeRead) {
   Compiled compiled;
   Compile("MENU_TITLE=\"t\"***A[a]\n***SWITCH***RESOURCE R=\"i\",\"j\"", compiled);
@@ -274,7 +274,7 @@ TEST(CompiledFile, WhatFollowsASystemInItsArchiveCanStillBeRead) {
   EXPECT_EQ(next, 4711);
 }
 
-TEST(CompiledFile, WhatWasReadUntilAnExceptionStays) {
+TEST(CompiledFile, ElementsReadBeforeAnExceptionAreKept) {
   Compiled compiled;
   Compile("MENU_TITLE=\"t\"***A[a]\n[b]\n***B[c]\n***SWITCH***RESOURCE R=\"i\",\"j\"", compiled);
   const std::string bytes = SaveBytes(compiled.system);
@@ -285,7 +285,7 @@ TEST(CompiledFile, WhatWasReadUntilAnExceptionStays) {
   EXPECT_EQ(back.At(0)->Length(), 2);
 }
 
-TEST(CompiledFile, ALoneLineTakesItsSwitchFromTheCurrentSystem) {
+TEST(CompiledFile, ASingleLineTakesItsSwitchFromTheCurrentSystem) {
   TMenuSystem system;
   system.m_switches.Append(new TMenuSwitchItem);
   system.m_switches.Append(new TMenuSwitchItem);
@@ -305,7 +305,7 @@ TEST(CompiledFile, ALoneLineTakesItsSwitchFromTheCurrentSystem) {
   EXPECT_EQ(back.m_pSubMenu, nullptr);
 }
 
-TEST(CompiledFile, ALoneBlockLosesTheMaskThatItHad) {
+TEST(CompiledFile, ReadingASingleBlockReplacesItsMask) {
   TMenuBar plain, old;
   old.m_objectMask.AppendShort(62, 1);
   CMemFile file;
@@ -348,19 +348,19 @@ TEST_F(CompiledFileOnDisk, ASaveReplacesTheOldFileAndLeavesNothingBesideIt) {
   EXPECT_EQ(ReadFile(path + L".new"), "<missing>");
 }
 
-TEST_F(CompiledFileOnDisk, AFileThatCannotBeMadeIsToldByAMessage) {
+TEST_F(CompiledFileOnDisk, AFileThatCannotBeCreatedGivesAMessage) {
   const std::wstring bad = TempPath(L"missing") + L"/x.qmc";
   system.SaveCompiled(bad.c_str(), boxes);
   EXPECT_EQ(boxes.all, std::vector<std::string>{"无法创建文件" + Utf8(bad.c_str())});
 }
 
-TEST_F(CompiledFileOnDisk, AFolderInThePlaceOfTheTargetIsToldByTheSameMessage) {
+TEST_F(CompiledFileOnDisk, AFolderWithTheNameOfTheTargetGivesTheSameMessage) {
   const std::wstring folder = TempPath(L"missing/..");
   system.SaveCompiled(folder.c_str(), boxes);
   EXPECT_EQ(boxes.all, std::vector<std::string>{"无法创建文件" + Utf8(folder.c_str())});
 }
 
-TEST_F(CompiledFileOnDisk, AFileThatCannotBeReadIsToldAndTheModelStays) {
+TEST_F(CompiledFileOnDisk, AFileThatCannotBeReadGivesAMessageAndKeepsTheModel) {
   system.m_strTitle = L"old";
   system.Append(new TMenuBar);
   system.LoadCompiled(path.c_str(), boxes);

@@ -1,6 +1,5 @@
-// Compiled files that lie: every prefix and every changed byte of a good one, and claims of sizes
-// that are not there. Run under the sanitizers; what counts besides is that memory stays within
-// what the file can explain.
+// Invalid compiled files: every prefix and every changed byte of a valid one, and sizes beyond the
+// end. Runs under the sanitizers; memory must stay in proportion to the file.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -12,7 +11,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// Reading, walking and writing again what was read.
+// Reads the bytes, visits all lines, and writes the model again.
 void Exercise(const std::string& bytes) {
   TMenuSystem system;
   LoadBytes(system, bytes);
@@ -29,7 +28,7 @@ TEST(HostileCompiledFile, EveryPrefixEndsInAnArchiveException) {
   }
 }
 
-TEST(HostileCompiledFile, EveryChangedByteIsSurvived) {
+TEST(HostileCompiledFile, NoChangedByteCrashesTheReader) {
   const std::string good = GoodFile();
   for (size_t i = 0; i < good.size(); ++i)
     for (int value : {0, 1, 2, 0x7F, 0x80, 0xFE, 0xFF, static_cast<unsigned char>(good[i]) ^ 1}) {
@@ -39,13 +38,13 @@ TEST(HostileCompiledFile, EveryChangedByteIsSurvived) {
     }
 }
 
-TEST(HostileCompiledFile, EveryRunOfFourFfBytesIsSurvived) {
+TEST(HostileCompiledFile, NoRunOfFourFfBytesCrashesTheReader) {
   const std::string good = GoodFile();
   for (size_t i = 0; i + 4 <= good.size(); ++i)
     Exercise(std::string(good).replace(i, 4, 4, '\xFF'));
 }
 
-TEST(HostileCompiledFile, ClaimsOfFourBillionCostNothing) {
+TEST(HostileCompiledFile, CountsOfFourBillionTakeNoTime) {
   TMenuSystem empty;
   const std::string head = SaveBytes(empty).substr(0, SaveBytes(empty).size() - 12);
   const std::string zero(4, '\0'), all(4, '\xFF');
@@ -63,7 +62,7 @@ TEST(HostileCompiledFile, ClaimsOfFourBillionCostNothing) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
-TEST(HostileCompiledFile, RoomIsMadeOnlyForWhatTheFileCanHold) {
+TEST(HostileCompiledFile, MemoryIsReservedOnlyForWhatTheFileCanContain) {
   TMenuSystem empty;
   std::string bytes = SaveBytes(empty);
   bytes = bytes.substr(0, bytes.size() - 12) + std::string(4, '\xFF') + "\0\0\0"s;
@@ -72,14 +71,14 @@ TEST(HostileCompiledFile, RoomIsMadeOnlyForWhatTheFileCanHold) {
   EXPECT_LE(system.m_resources.Length(), 2);
 }
 
-// As on a disk that another program cuts the file on.
+// As when another program truncates the file meanwhile.
 class ShrunkFile : public CMemFile {
  public:
   using CMemFile::CMemFile;
   ULONGLONG GetLength() const override { return CMemFile::GetLength() + 40; }
 };
 
-TEST(HostileCompiledFile, AFileThatGetsShorterWhileItIsReadEndsAsOneThatIsCut) {
+TEST(HostileCompiledFile, AFileTruncatedDuringTheReadEndsLikeATruncatedFile) {
   TMenuSystem system;
   const std::string bytes = SaveBytes(system);
   ShrunkFile file(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));

@@ -1,5 +1,5 @@
-// What a compiled file may make the reader allocate: no more than the bytes that it has can
-// explain, whatever it claims. Counted, not estimated: every allocation goes through memory_faults.
+// What reading a compiled file allocates is in proportion to the size of the file, whatever counts
+// it contains. memory_faults counts every allocation.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -16,14 +16,13 @@ const std::string kMany(4, '\xFF');
 const std::string kNone(4, '\0');
 const std::string kOne = "\1\0\0\0"s;
 
-// The shortest head there is, with the strings of one byte a character: 40 bytes up to the count of
-// resources.
+// The shortest header, with one byte per character: 40 bytes before the count of resources.
 std::string Head() { return "\x1AQuivera Compiled Menu File" + kOne + kNone + kNone + "\0"s; }
 
 class CompiledMemory : public testing::Test {
  protected:
-  // A file that was read before holds what is made only once in a process, and a pool's first
-  // piece.
+  // Reads one file first, so that allocations made once in a process and the first chunk of a pool
+  // are not counted.
   CompiledMemory() {
     EXPECT_EQ(LoadBytes(m_before, Head() + kNone + kNone + kOne + "\1n\0"s + kNone + kNone), "");
   }
@@ -45,9 +44,9 @@ class CompiledMemory : public testing::Test {
 // The archive's buffer of 4 KiB, the copy of the file, and a little.
 constexpr size_t kFewKilobytes = 8 * 1024;
 
-TEST_F(CompiledMemory, ClaimsOfFourBillionCostAFewKilobytes) {
+TEST_F(CompiledMemory, CountsOfFourBillionAllocateAFewKilobytes) {
   const std::string bar = Head() + kNone + kNone + kOne + "\0\0"s;
-  const std::string longest = "\xFF\xFF\xFF"s;  // the form of a string with a length of four bytes
+  const std::string longest = "\xFF\xFF\xFF"s;  // the form of a string with a four-byte length
   const struct {
     const char* what;
     std::string bytes;
@@ -75,18 +74,18 @@ TEST_F(CompiledMemory, ClaimsOfFourBillionCostAFewKilobytes) {
   }
 }
 
-// An empty line is 21 bytes in a file and an object with five strings in memory; a pool of texts
-// may ask for one piece of 32 KiB.
+// An empty line has 21 bytes in a file and is an object with five strings in memory. A pool of
+// texts may allocate one chunk of 32 KiB.
 size_t BoundFor(size_t bytes) { return kFewKilobytes + 32 * 1024 + 32 * bytes; }
 
-TEST_F(CompiledMemory, EveryPrefixStaysWithinWhatItsBytesExplain) {
+TEST_F(CompiledMemory, EveryPrefixAllocatesInProportionToItsSize) {
   const std::string good = GoodFile();
   std::string thrown;
   for (size_t i = 0; i <= good.size(); ++i)
     EXPECT_LE(Load(good.substr(0, i), thrown).peakBytes, BoundFor(i)) << i;
 }
 
-TEST_F(CompiledMemory, EveryChangedByteStaysWithinWhatTheFilesBytesExplain) {
+TEST_F(CompiledMemory, EveryChangedByteAllocatesInProportionToTheFile) {
   const std::string good = GoodFile();
   std::string thrown;
   for (size_t i = 0; i < good.size(); ++i)
@@ -99,9 +98,9 @@ TEST_F(CompiledMemory, EveryChangedByteStaysWithinWhatTheFilesBytesExplain) {
     }
 }
 
-// The most memory that a byte of a file can become: lines, sub-menus, groups, states and resources
-// that are all empty.
-TEST_F(CompiledMemory, TheEmptiestElementsStayWithinThirtyTwoBytesAByte) {
+// The greatest ratio of memory to file size: lines, sub-menus, groups, states and resources that
+// are all empty.
+TEST_F(CompiledMemory, EmptyElementsAllocateAtMostThirtyTwoBytesPerByte) {
   constexpr unsigned kCount = 20000;
   std::string count(4, '\0');
   for (int i = 0; i < 4; ++i) count[static_cast<size_t>(i)] = static_cast<char>(kCount >> 8 * i);

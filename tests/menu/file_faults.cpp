@@ -45,7 +45,8 @@ Function* Next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-// Streams of stdio over a descriptor, since stdio's own reads and writes can't be stood in for.
+// stdio streams over a descriptor: the reads and writes of the library's own streams can't be
+// replaced.
 ssize_t StreamRead(void* cookie, char* bytes, std::size_t count) {
   return ::read(static_cast<int>(reinterpret_cast<std::intptr_t>(cookie)), bytes, count);
 }
@@ -91,7 +92,7 @@ ssize_t write(int file, const void* bytes, std::size_t count) {
   return -1;
 }
 
-// The descriptor is gone either way, as it is with the system's own.
+// Closes the descriptor also when it fails, as the system's close does.
 int close(int file) {
   const bool pass = MayPass("close");
   const int result = Next<int(int)>("close")(file);

@@ -1,4 +1,4 @@
-// A small compiled file with something of everything in it, for tests that damage it.
+// A small compiled file with every kind of element, for tests that damage it.
 #pragma once
 
 #include <string>

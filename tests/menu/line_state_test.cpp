@@ -1,4 +1,4 @@
-// The state of single lines, and the door to the menu in force.
+// The state of lines, and the functions of the menu in force.
 #include "menu/line_state.h"
 
 #include <gtest/gtest.h>
@@ -49,7 +49,7 @@ TEST_F(LineState, TheNameOfAFunctionOutlivesItsLine) {
   EXPECT_EQ(lisp.diary.size(), 1u);
 }
 
-TEST_F(LineState, GreyAndCheckFunctionsAreAskedOnlyWithTheirFlags) {
+TEST_F(LineState, GreyAndCheckFunctionsAreCalledOnlyWithTheirFlags) {
   TMenuItem* line = AddLine(bar, L"墙", L"TWall\n");
   line->m_strGrayFn = line->m_strCheckFn = L"true";
   lisp.True(L"true");
@@ -90,7 +90,7 @@ TEST_F(LineState, IconAndHelpNeedASystemALibraryAndAnEntry) {
   EXPECT_EQ(qvx::HelpOfLine(*line, Sources()), nullptr);
 }
 
-TEST(MenuDoor, WithoutAMenuItGivesNothingAndDoesNothing) {
+TEST(MenuDoor, WithoutAMenuItReturnsNothingAndDoesNothing) {
   EXPECT_EQ(LoadedMenu(), nullptr);
   EXPECT_EQ(MenuLines().system, nullptr);
   EXPECT_FALSE(MenuLines().watch.IsGone());
@@ -98,7 +98,7 @@ TEST(MenuDoor, WithoutAMenuItGivesNothingAndDoesNothing) {
   NoteRecentCommand(L"TWall\n");
 }
 
-TEST(MenuDoor, LeadsToTheRegisteredMenu) {
+TEST(MenuDoor, ReturnsTheRegisteredMenu) {
   LoadedMenuDouble menu;
   EXPECT_EQ(TheMenuInForce(), &menu);
   EXPECT_EQ(LoadedMenu(), &menu.system);

@@ -27,8 +27,8 @@ void __wrap_free(void* block);
 namespace memory_faults {
 namespace {
 
-// Blocks of the present watch by their address, in a table of fixed size that needs no memory. The
-// addresses are kept inverted, so that a leak checker does not find them here.
+// Blocks of the current watch by address, in a table of fixed size, which allocates nothing. The
+// addresses are stored inverted, so that a leak checker does not take them for references.
 struct Entry {
   std::uintptr_t key;
   std::size_t size;
@@ -43,7 +43,7 @@ Fails g_fails = Fails::kOnce;
 bool g_failed = false;
 Count g_count;
 std::size_t g_used = 0;
-std::size_t g_slots[kSlots / 2];  // those that are not empty, to empty them again
+std::size_t g_slots[kSlots / 2];  // the used slots, for clearing them
 
 std::uintptr_t KeyOf(const void* block) { return ~reinterpret_cast<std::uintptr_t>(block); }
 std::size_t SlotOf(std::uintptr_t key) { return (key >> 4) * 0x9E3779B1u & (kSlots - 1); }
@@ -75,7 +75,8 @@ bool Forget(const void* block) {
   return false;
 }
 
-// With QVX_TRACE_ALLOCATION=n in the environment the place of each n-th that fails is printed.
+// With QVX_TRACE_ALLOCATION=n in the environment, prints where each n-th allocation that fails was
+// made.
 void TraceIfAsked() {
 #if defined(__SANITIZE_ADDRESS__)
   static const char* const wanted = std::getenv("QVX_TRACE_ALLOCATION");

@@ -1,17 +1,17 @@
-// Watches what the code under test allocates, and makes one allocation fail. It replaces operator
-// new and, by the linker's --wrap, the calls of malloc, calloc, realloc and free: all that the menu
-// engine and the libraries linked into the program ask for. Blocks of a shared library that it gets
-// by malloc are not seen; the sanitizer's leak check sees them where it runs.
+// Counts the allocations of the code under test and makes one of them fail. It replaces operator
+// new and, by the linker's --wrap, calls of malloc, calloc, realloc and free in the menu engine and
+// the statically linked libraries. Blocks that a shared library gets from malloc are not counted;
+// the sanitizer's leak check covers them.
 #pragma once
 
 #include <cstddef>
 
 namespace memory_faults {
 
-// What was asked for since the watch began.
+// Allocations since the watch began.
 struct Count {
   long allocations = 0;
-  long live = 0;  // blocks that were not given back
+  long live = 0;  // blocks that were not freed
   std::size_t bytes = 0;
   std::size_t liveBytes = 0;
   std::size_t peakBytes = 0;
@@ -25,7 +25,7 @@ void Begin(long at = 0, Fails fails = Fails::kOnce);
 Count End();
 bool HasFailed();
 
-// The test's own doubles work inside one of these: neither counted nor failed.
+// For the test's own doubles: allocations in its scope are not counted and do not fail.
 class Pause {
  public:
   Pause();
@@ -37,8 +37,8 @@ class Pause {
   bool m_was;
 };
 
-// Frees the blocks that the watch that ended left behind and gives their number. Always 0 on
-// Windows, where what the library's DLL frees does not come by here.
+// Frees the blocks that are left of the watch that ended, and returns their number. Always 0 on
+// Windows, where blocks that the library's DLL frees are not counted.
 long FreeLost();
 
 }  // namespace memory_faults

@@ -1,5 +1,5 @@
-// The corners of the menu engine that no menu of the product comes to: classes written alone, names
-// in other alphabets, files that end at any token, owners that do not own.
+// Cases of the menu engine that no menu of the product has: single objects written and read, names
+// in other alphabets, files that end at any token, lists that do not own their elements.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -80,7 +80,7 @@ TEST(ClassAlone, AStateIsValueIconLabelAndIndex) {
   EXPECT_TRUE(back.m_strIconName == L"i" && back.m_strLabel == L"l");
 }
 
-TEST(ClassAlone, ABarIsReadBehindTheLinesThatItHas) {
+TEST(ClassAlone, ReadingABarAppendsToItsLines) {
   TMenuBar bar, back;
   bar.m_strName = L"n";
   bar.m_strKind = L"k";
@@ -96,7 +96,7 @@ TEST(ClassAlone, ABarIsReadBehindTheLinesThatItHas) {
   EXPECT_EQ(back.m_objectMask.Head()->Next(), nullptr);
 }
 
-TEST(ClassAlone, ALineTakesItsSubMenuAlong) {
+TEST(ClassAlone, ALineIncludesItsSubMenu) {
   TMenuItem line(L"l", L"c"), back;
   line.m_pSubMenu = new TMenuBar;
   line.m_pSubMenu->Append(new TMenuItem(L"below", L"x"));
@@ -108,7 +108,7 @@ TEST(ClassAlone, ALineTakesItsSubMenuAlong) {
   EXPECT_TRUE(back.m_strGrayFn == L"g");
 }
 
-TEST(ClassAlone, WithoutASystemASwitchIsWrittenAsNoneAndNoIndexIsGood) {
+TEST(ClassAlone, WithoutASystemASwitchIsWrittenAsNoneAndNoIndexIsValid) {
   TMenuSwitchItem owner;
   TMenuItem line(L"l", L""), back;
   const std::string none = Written(line);
@@ -120,7 +120,7 @@ TEST(ClassAlone, WithoutASystemASwitchIsWrittenAsNoneAndNoIndexIsGood) {
   EXPECT_EQ(back.m_pSwitch, nullptr);
 }
 
-TEST(ClassAlone, AnEmptyTextTakesThePlaceOfTheOneThatWasThere) {
+TEST(ClassAlone, AnEmptyTextReplacesTheOldOne) {
   TMenuItem line(L"l", L"c", L"i"), empty;
   line.m_strCheckFn = L"f";
   EXPECT_EQ(Read(line, Written(empty)), "");
@@ -128,7 +128,7 @@ TEST(ClassAlone, AnEmptyTextTakesThePlaceOfTheOneThatWasThere) {
   EXPECT_TRUE(line.m_strCheckFn.IsEmpty() && line.m_strIconName.IsEmpty());
 }
 
-TEST(ClassAlone, ASubMenuThatBelongsToOthersIsLetGoByAReadAndLives) {
+TEST(ClassAlone, ReadingALineDoesNotDeleteASubMenuThatItDoesNotOwn) {
   TMenuBar foreign;
   foreign.m_bOwned = 0;
   TMenuItem line(L"l", L""), plain(L"p", L"");
@@ -138,7 +138,7 @@ TEST(ClassAlone, ASubMenuThatBelongsToOthersIsLetGoByAReadAndLives) {
   EXPECT_EQ(foreign.Length(), 0);
 }
 
-TEST(ClassAlone, AGroupWithoutItsTextIsWrittenAsAnEmptyOne) {
+TEST(ClassAlone, AGroupWithANullTextIsWrittenWithAnEmptyOne) {
   TMenuBar bar;
   bar.m_objectMask.AppendString(8, L"");
   std::free(std::exchange(bar.m_objectMask.Head()->resval.rstring, nullptr));
@@ -146,7 +146,7 @@ TEST(ClassAlone, AGroupWithoutItsTextIsWrittenAsAnEmptyOne) {
   EXPECT_EQ(bytes.substr(8), "\1\0\0\0\x08\0\xFF\xFE\xFF\0\0\0\0\0"s);
 }
 
-TEST(ClassAlone, AnEmptyTitleOfALongFileTakesThePlaceOfTheOldOne) {
+TEST(ClassAlone, AnEmptyTitleInALongFileReplacesTheOldOne) {
   TMenuSystem written, back;
   for (int i = 0; i < 500; ++i) written.m_resources.Append(new TMenuResItem(L"name", L"a", L"b"));
   back.m_strTitle = L"old";
@@ -157,7 +157,7 @@ TEST(ClassAlone, AnEmptyTitleOfALongFileTakesThePlaceOfTheOldOne) {
 
 // ---- classes and owners
 
-TEST(MenuClasses, EachKnowsItsNameAndItsBase) {
+TEST(MenuClasses, RuntimeClassesHaveTheirNamesAndBases) {
   const TMenuResItem resource;
   const TMenuSwitchItem owner;
   const TSwitchStateItem state;
@@ -182,7 +182,7 @@ TEST(MenuClasses, ABarThatOwnsNoLinesLeavesThemAndTheirSubMenus) {
   EXPECT_EQ(line.m_pSubMenu->Length(), 1);
 }
 
-TEST(MenuClasses, AResourceIsFoundAtTheVeryFrontToo) {
+TEST(MenuClasses, TheFirstResourceIsFound) {
   TMenuSystem system;
   system.m_resources.Append(new TMenuResItem(L"first", L"", L""));
   system.m_resources.Append(new TMenuResItem(L"second", L"", L""));
@@ -191,7 +191,7 @@ TEST(MenuClasses, AResourceIsFoundAtTheVeryFrontToo) {
   EXPECT_EQ(system.FindResource(L"First"), -1);
 }
 
-TEST(MenuClasses, AToolBarBlockAtTheVeryFrontIsFoundToo) {
+TEST(MenuClasses, AToolBarBlockThatIsTheFirstBlockIsFound) {
   TMenuSystem system;
   system.Append(new TMenuBar);
   EXPECT_EQ(PrepareToolBar(system), nullptr);
@@ -227,7 +227,7 @@ TEST(NamesWithoutCase, LettersOfTheCodePagesFoldAndSignsBetweenThemDoNot) {
   }
 }
 
-TEST(NamesWithoutCase, NamesOfAnyLengthAreToldApartByTheirLastLetter) {
+TEST(NamesWithoutCase, NamesOfAnyLengthAreDistinguishedByTheirLastLetter) {
   for (size_t length : {1, 2, 3, 4, 7, 8, 9, 15, 16, 17, 31, 32, 33, 64, 199}) {
     const std::string start(length - 1, 'n');
     Compiled compiled;
@@ -246,7 +246,7 @@ TEST(NamesWithoutCase, NamesOfAnyLengthAreToldApartByTheirLastLetter) {
 
 // ---- files that end early
 
-// One token, or what must not be parted, each.
+// Each element is one token, or several that must stay together.
 const std::vector<std::string> kTokens = {
     "MENU_TITLE", "=",   "\"t\"",  "***", "A",    "K",    "=",      "0",   ",",
     "\"X\"",      ",",   "62",     ",",   "1",    " I",   "[a]x\n", "***", "B",
@@ -260,7 +260,7 @@ std::string Joined(const std::vector<std::string>& tokens) {
   return text;
 }
 
-TEST(MenuParserCorners, AFileThatEndsBeforeItsEndIsOneSyntaxErrorAndAnEmptySystem) {
+TEST(MenuParserCorners, AnIncompleteFileIsOneSyntaxErrorAndAnEmptySystem) {
   for (size_t count = 0; count < kTokens.size(); ++count) {
     Compiled compiled;
     Compile(Joined({kTokens.begin(), kTokens.begin() + static_cast<int>(count)}), compiled);
@@ -275,8 +275,8 @@ TEST(MenuParserCorners, AFileThatEndsBeforeItsEndIsOneSyntaxErrorAndAnEmptySyste
   }
 }
 
-// A stray keyword where any other token stands: no rule takes it.
-TEST(MenuParserCorners, APopInThePlaceOfAnyTokenIsASyntaxError) {
+// A keyword that no rule uses, in place of each token.
+TEST(MenuParserCorners, PopInPlaceOfAnyTokenIsASyntaxError) {
   for (size_t at = 0; at < kTokens.size(); ++at) {
     std::vector<std::string> tokens = kTokens;
     tokens[at] = "POP ";
@@ -333,7 +333,7 @@ TEST(MenuLineCorners, ACommandIsExpandedAlikeWithAndWithoutOtherCharacters) {
   }
 }
 
-TEST(MenuLineCorners, OneBlankBehindALabelOfEnoughCharactersIsTrimmed) {
+TEST(MenuLineCorners, OneBlankAfterALongEnoughLabelIsTrimmed) {
   const std::string cases[][2] = {{"abcd ", "abcd"}, {" abcd", "abcd"},   {"ab ", "ab"},
                                   {"a ", "a "},      {"ab  ", "ab"},      {"abcd\t", "abcd\t"},
                                   {" ab ", "ab"},    {"--  x ", "--  x"}, {"    ", ""}};
@@ -353,7 +353,7 @@ TEST(MenuScannerCorners, ASlashThatOpensNoCommentIsSkipped) {
   EXPECT_EQ(DumpTokens("/a/"), "1 IDENTIFIER a\n1 END\n");
 }
 
-TEST(MenuScannerCorners, SkippedBytesBeyondTheEchosBufferAllArriveInOrder) {
+TEST(MenuScannerCorners, SkippedBytesBeyondTheEchoBufferAreWrittenInOrder) {
   std::string source;
   for (int i = 0; i < 10000; ++i) source += "?;:!"[i % 4];
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::tmpfile(), &std::fclose);
@@ -404,7 +404,7 @@ struct LongPaths : MenuUsers, MenuFiles, MenuPrinter {
   void Print(const wchar_t*) override {}
 };
 
-TEST(MenuLoadingCorners, APathThatFillsItsRoomIsGivenWhole) {
+TEST(MenuLoadingCorners, APathOfTheGreatestLengthIsReturnedWhole) {
   LongPaths shell;
   CollectedBoxes boxes;
   wchar_t out[MenuLoading::kPathUnits];

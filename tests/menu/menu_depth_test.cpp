@@ -1,5 +1,5 @@
-// Depth and size: sub-menus nested a hundred thousand deep on a stack of 256 KiB, and work that
-// grows with the length of the file and not with its square.
+// Depth and size: a hundred thousand nested sub-menus on a stack of 256 KiB, and work in linear and
+// not quadratic proportion to the file.
 #include <gtest/gtest.h>
 
 #include "menu/name_pool.h"
@@ -54,12 +54,12 @@ TEST(MenuDepth, ADeepCompiledFileIsReadWrittenAndFreedOnASmallStack) {
     TMenuSystem back;
     EXPECT_EQ(LoadBytes(back, bytes), "");
     EXPECT_EQ(DepthOf(*back.At(0)), kFileDepth);
-    // Cut in the middle of the way down.
+    // Truncated where the nesting is half as deep.
     EXPECT_EQ(LoadBytes(back, bytes.substr(0, bytes.size() / 4)), "CArchiveException");
   });
 }
 
-TEST(MenuDepth, RemovingADeepLineFreesAllBelowIt) {
+TEST(MenuDepth, RemovingALineFreesItsDeeplyNestedSubMenus) {
   OnSmallStack([] {
     TMenuBar top;
     TMenuBar* bar = &top;
@@ -72,9 +72,9 @@ TEST(MenuDepth, RemovingADeepLineFreesAllBelowIt) {
   });
 }
 
-// The nesting pass has to stay near-linear for these; as worded, level by level, each would touch
-// some ten thousand million lines.
-TEST(MenuDepth, PathologicalRangesAreNestedAtOnce) {
+// The nesting pass must take near-linear time here; level by level, each case would visit about ten
+// thousand million lines.
+TEST(MenuDepth, PathologicalRangesTakeNearLinearTime) {
   for (const std::string& lines :
        {Repeated("[->a]\n", kDepth), Repeated("[<-a]\n", kDepth),
         Repeated("[->a]\n[<-<-b]\n", kDepth),
@@ -120,7 +120,7 @@ TEST(MenuDepth, ALookUpByNameComparesAFewNamesHoweverManyThereAre) {
   }
 }
 
-TEST(MenuDepth, EachCharacterOfANameTellsItsPlaceInTheTable) {
+TEST(MenuDepth, EachCharacterOfANameChangesItsHash) {
   const std::string others = "abcdefghijklmnop";
   for (size_t length = 1; length <= 40; ++length)
     for (size_t at = 0; at < length; ++at) {
@@ -147,7 +147,7 @@ TEST(MenuDepth, ANameInThousandsOfCasesIsFoundAfterAFewComparisons) {
   EXPECT_LE(pool.Comparisons(), 5 * kCount);
 }
 
-TEST(MenuDepth, APathOfPairsOnOneLineClosesAsManyLevels) {
+TEST(MenuDepth, ManyPairsOnOneLineCloseAsManyLevels) {
   Compiled compiled;
   Compile(InBlock(Repeated("[->a]\n", 90) + "[" + Repeated("<-", 90) + "b]\n"), compiled);
   EXPECT_EQ(DepthOf(*compiled.system.At(0)), 90);

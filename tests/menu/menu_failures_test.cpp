@@ -1,8 +1,7 @@
-// Compile, save and load with every allocation and every file operation made to fail in turn: the
-// first, the second and so on until none fails, each once alone and once with all that follow it.
-// What must hold after each: the message of that failure, the old compiled file or the new one
-// whole, no file left beside it, nothing lost, and a model that the next try fills as if nothing
-// had been.
+// Makes every allocation and every file operation of compile, save and load fail in turn, each once
+// alone and once with all that follow. After each failure: its message was shown, the old or the
+// new compiled file is complete, no other file is left, nothing has leaked, and the next attempt
+// succeeds.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,7 +20,7 @@ namespace {
 
 const char kOldSource[] = "MENU_TITLE=\"old\"\n***O\n[o]\n***SWITCH***RESOURCE";
 
-// Every construct once, a text too long for any small string among them.
+// Every construct once, also a text that is too long for pooled storage.
 const char kNewSource[] =
     "MENU_TITLE = \"\xC6\xE6\xCE\xAC\"\n***SCREEN\n[->a]\nI [->b]^C^Cx;\n[<-<-{!=Is}{~=No}c]y "
     "\"a;b\";\n"
@@ -55,7 +54,7 @@ struct Shell : MenuUsers, MenuFiles, MenuPrinter, MenuBoxes {
     boxes.push_back(Utf8(text));
   }
 
-  // Whether the block that the shell keeps is still one of the system's.
+  // Whether the block that the shell stores is in the system.
   bool HoldsALostToolBar() {
     return toolBar && std::find(system.begin(), system.end(), toolBar) == system.end();
   }
@@ -77,7 +76,7 @@ struct Outcome {
 
   std::string Box() const { return boxes.empty() ? "" : boxes[0]; }
   bool IsSilent() const { return boxes.empty() && thrown.empty(); }
-  // What the user saw, but for the line that announces the file.
+  // The user's messages without the line with the file's name.
   std::string Shown(const std::string& announced) const {
     const bool starts = printed.substr(0, announced.size()) == announced;
     return printed.substr(starts ? announced.size() : 0) + Box();
@@ -117,7 +116,7 @@ class MenuFailures : public testing::Test {
     MenuLoading(shell, shell, shell, shell).CompileMenu(m_source.c_str());
   }
 
-  // The name of what left the engine.
+  // The name of the exception that left the engine.
   std::string Try(Job job, Shell& shell) {
     try {
       Do(job, shell);
@@ -140,7 +139,7 @@ class MenuFailures : public testing::Test {
     outcome.besideStays = ReadFile(m_target + L".new") != "<missing>";
   }
 
-  // What must hold whatever failed and whatever was told.
+  // What must hold after every failure.
   void ExpectNoHarm(Job job, Shell& shell, const Outcome& outcome) {
     SCOPED_TRACE("failure " + std::to_string(outcome.number) + " " + outcome.Told());
     EXPECT_TRUE(outcome.disk == m_new || (outcome.disk == m_old && job != Job::kLoad))
@@ -183,7 +182,7 @@ class MenuFailures : public testing::Test {
   std::vector<Outcome> FailEachAllocation(Job job, memory_faults::Fails fails) {
     std::vector<Outcome> outcomes;
     Outcome outcome;
-    FailAllocation(job, 0, fails, outcome);  // what a process makes only once is made here
+    FailAllocation(job, 0, fails, outcome);  // makes allocations that a process makes only once
     EXPECT_EQ(outcome.thrown + outcome.Box(), "");
     for (long n = 1; FailAllocation(job, n, fails, outcome); ++n) outcomes.push_back(outcome);
     return outcomes;
@@ -209,7 +208,7 @@ bool LostMemory(const Outcome& outcome) { return outcome.lost != 0; }
 constexpr auto kOnce = memory_faults::Fails::kOnce;
 constexpr auto kFromThenOn = memory_faults::Fails::kFromThenOn;
 
-TEST_F(MenuFailures, ALoadWithoutMemoryTellsSo) {
+TEST_F(MenuFailures, ALoadWithoutMemoryShowsAMessage) {
   for (auto fails : {kOnce, kFromThenOn}) {
     const auto outcomes = FailEachAllocation(Job::kLoad, fails);
     EXPECT_GT(outcomes.size(), 5u);
@@ -221,8 +220,8 @@ TEST_F(MenuFailures, ALoadWithoutMemoryTellsSo) {
   }
 }
 
-// A save that comes by with what it has is silent, and its file is whole.
-TEST_F(MenuFailures, ASaveWithoutMemoryTellsSoAndLeavesOneWholeFile) {
+// A save that succeeds shows no message, and its file is complete.
+TEST_F(MenuFailures, ASaveWithoutMemoryShowsAMessageAndLeavesOneCompleteFile) {
   for (auto fails : {kOnce, kFromThenOn}) {
     const auto outcomes = FailEachAllocation(Job::kSave, fails);
     EXPECT_GT(outcomes.size(), 5u);
@@ -236,7 +235,7 @@ TEST_F(MenuFailures, ASaveWithoutMemoryTellsSoAndLeavesOneWholeFile) {
   }
 }
 
-TEST_F(MenuFailures, ACompileWithoutMemoryTellsSoAndLosesNothing) {
+TEST_F(MenuFailures, ACompileWithoutMemoryShowsAMessageAndLeaksNothing) {
   for (auto fails : {kOnce, kFromThenOn}) {
     const auto outcomes = FailEachAllocation(Job::kCompile, fails);
     EXPECT_GT(outcomes.size(), 20u);
@@ -251,8 +250,8 @@ TEST_F(MenuFailures, ACompileWithoutMemoryTellsSoAndLosesNothing) {
   }
 }
 
-// A command that finds no memory leaves the list as it was, or without the entry that was moving.
-TEST_F(MenuFailures, ARecentCommandWithoutMemoryLosesNothing) {
+// Without memory the list is unchanged or lacks the entry that was being moved.
+TEST_F(MenuFailures, ARecentCommandWithoutMemoryLeaksNothing) {
   for (const wchar_t* command : {L"new and longer than a word", L"c1"}) {
     bool failed = true;
     for (long n = 1; failed; ++n) {
@@ -274,8 +273,8 @@ TEST_F(MenuFailures, ARecentCommandWithoutMemoryLosesNothing) {
   }
 }
 
-// Half a pair of surrogates is no name in UTF-8.
-TEST_F(MenuFailures, APathThatNoFileCanHaveIsToldByTheMessages) {
+// A lone surrogate can't be converted to UTF-8.
+TEST_F(MenuFailures, AnInvalidPathGivesAMessage) {
   const std::wstring path = TempPath(L"missing") + L"/\xD800.qmc";
   Shell shell;
   shell.system.SaveCompiled(path.c_str(), shell);
@@ -307,7 +306,7 @@ class MenuFileFailures : public MenuFailures {
     return !outcome.failed.empty();
   }
 
-  // What was told at each kind of operation.
+  // The messages for each kind of operation.
   std::map<std::string, std::set<std::string>> FailEachOperation(Job job,
                                                                  file_faults::Fails fails) {
     std::map<std::string, std::set<std::string>> told;
@@ -332,7 +331,7 @@ class MenuFileFailures : public MenuFailures {
 constexpr auto kOneOperation = file_faults::Fails::kOnce;
 constexpr auto kAllFromThenOn = file_faults::Fails::kFromThenOn;
 
-// Whether the target is there and how long it is are questions that a save can do without.
+// A save does not need to know whether the target exists and how long it is.
 TEST_F(MenuFileFailures, EachOperationOfASaveHasItsMessage) {
   auto told = FailEachOperation(Job::kSave, kOneOperation);
   EXPECT_EQ(Joined(told["open failures.qmc"]), "[" + m_cannotMake + "]");
@@ -342,7 +341,7 @@ TEST_F(MenuFileFailures, EachOperationOfASaveHasItsMessage) {
   EXPECT_EQ(Joined(told["open failures.qmc.new"]), "[" + m_cannotMake + "]");
 }
 
-TEST_F(MenuFileFailures, WhereNoFileMayBeMadeBesideTheTargetTheTargetItselfIsWritten) {
+TEST_F(MenuFileFailures, WhereNoNewFileIsPermittedTheTargetItselfIsWritten) {
   Outcome outcome;
   for (long n = 1; outcome.failed != "open failures.qmc.new"; ++n)
     ASSERT_TRUE(FailOperation(Job::kSave, n, kOneOperation, outcome, EACCES)) << n;
@@ -356,8 +355,8 @@ TEST_F(MenuFileFailures, EachOperationOfALoadHasItsMessage) {
   EXPECT_EQ(Joined(told["read"]), "[CFileException]");
 }
 
-// The echo of skipped bytes is nobody's loss; the source, the echo's file and the compiled file
-// are.
+// Failed writes to the echo file are ignored; failures with the source, opening the echo file, and
+// the compiled file are reported.
 TEST_F(MenuFileFailures, EachOperationOfACompileHasItsMessage) {
   auto told = FailEachOperation(Job::kCompile, kOneOperation);
   EXPECT_EQ(Joined(told["open failures.qmn"]), "[" + m_noSource + "]");
@@ -368,7 +367,7 @@ TEST_F(MenuFileFailures, EachOperationOfACompileHasItsMessage) {
   EXPECT_EQ(Joined(told["rename failures.qmc.new"]), "[" + m_cannotMake + "]");
 }
 
-TEST_F(MenuFileFailures, ADiskThatFailsForGoodLeavesTheOldFileAndOneMessage) {
+TEST_F(MenuFileFailures, ADiskThatKeepsFailingLeavesTheOldFileAndOneMessage) {
   for (Job job : {Job::kSave, Job::kCompile})
     for (const auto& [operation, texts] : FailEachOperation(job, kAllFromThenOn))
       for (const std::string& text : texts)

@@ -1,4 +1,4 @@
-// The line parser: "[label]command" into label and command.
+// The line parser.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -21,7 +21,7 @@ std::string CommandOf(const wchar_t* text) {
   return Utf8(item.m_strCommand);
 }
 
-TEST(MenuLine, TheLabelIsWhatStandsBetweenTheFirstBrackets) {
+TEST(MenuLine, TheLabelIsTheTextBetweenTheFirstBrackets) {
   EXPECT_EQ(LabelOf(L"[a]b"), "a");
   EXPECT_EQ(LabelOf(L"[ a [b ]c]d"), " a [b ");
   EXPECT_EQ(CommandOf(L"[a]b]c"), "b]c\n");
@@ -37,7 +37,7 @@ TEST(MenuLine, WithoutACommandTheCommandIsEmpty) {
   EXPECT_EQ(CommandOf(L"[a] \t "), "");
 }
 
-TEST(MenuLine, SemicolonsAreNewlinesAndTheLastOneIsTheEnd) {
+TEST(MenuLine, SemicolonsAreNewlinesAndALastOneEndsTheCommand) {
   EXPECT_EQ(CommandOf(L"[a]x;y;"), "x\ny\n");
   EXPECT_EQ(CommandOf(L"[a]x;y"), "x\ny\n");
   EXPECT_EQ(CommandOf(L"[a]x;;"), "x\n\n");
@@ -51,7 +51,7 @@ TEST(MenuLine, QuotesKeepTheirSemicolons) {
   EXPECT_EQ(CommandOf(L"[a]\"x;y\";z\"w;"), "\"x;y\"\nz\"w\n");
 }
 
-TEST(MenuLine, CaretCIsEscapeAndOtherPairsVanish) {
+TEST(MenuLine, CaretCIsEscapeAndOtherPairsAreDropped) {
   EXPECT_EQ(CommandOf(L"[a]^C^cTWall;"), "\x1b\x1bTWall\n");
   EXPECT_EQ(CommandOf(L"[a]^P"), "\n");
   EXPECT_EQ(CommandOf(L"[a]a^Pb"), "ab\n");
@@ -59,8 +59,8 @@ TEST(MenuLine, CaretCIsEscapeAndOtherPairsVanish) {
   EXPECT_EQ(CommandOf(L"[a]^;x;"), "x\n");
 }
 
-// The quotes are told before the pairs vanish.
-TEST(MenuLine, AQuoteThatVanishesWithItsCaretStillQuotes) {
+// Quotes are counted before pairs are dropped.
+TEST(MenuLine, AQuoteThatIsDroppedWithItsCaretStillQuotes) {
   EXPECT_EQ(CommandOf(L"[a]^\"x;y\"z;w;"), "x;y\"z\nw\n");
   AnsiText ansi;
   TMenuItem item;
@@ -68,13 +68,13 @@ TEST(MenuLine, AQuoteThatVanishesWithItsCaretStillQuotes) {
   EXPECT_EQ(Utf8(item.m_strCommand), "x;y\"z\nw\n");
 }
 
-TEST(MenuLine, ACaretAtTheEndVanishesAloneAndTheNewlineStays) {
+TEST(MenuLine, ACaretAtTheEndIsDroppedAndTheNewlineKept) {
   EXPECT_EQ(CommandOf(L"[a]^"), "\n");
   EXPECT_EQ(CommandOf(L"[a]x^"), "x\n");
   EXPECT_EQ(CommandOf(L"[a]x^;"), "x\n");
 }
 
-TEST(MenuLine, LabelsAreCutAt255AndCommandsAt2047) {
+TEST(MenuLine, LabelsAreTruncatedAt255AndCommandsAt2047) {
   const std::wstring text = L"[" + std::wstring(300, L'a') + L"]" + std::wstring(3000, L'b');
   TMenuItem item;
   ParseMenuLine(text, item);
@@ -82,8 +82,8 @@ TEST(MenuLine, LabelsAreCutAt255AndCommandsAt2047) {
   EXPECT_EQ(item.m_strCommand.Length(), 2048);
 }
 
-// The bytes of the source take a quicker way when they are of the usual kind.
-TEST(MenuLine, TheBytesOfALineGiveWhatItsTextGives) {
+// ParseMenuLine has a separate implementation for usual lines.
+TEST(MenuLine, BytesAndDecodedTextOfALineGiveTheSameResult) {
   const char* const pieces[] = {"]",  "^",  "c",        "C",        "\"",       ";",    " ",
                                 "\t", "ab", "TWall123", "\xB1\xED", "\x81\x5D", "\xFF", "\x80"};
   AnsiText ansi;

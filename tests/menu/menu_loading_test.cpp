@@ -1,5 +1,5 @@
-// Menu loading: the search for the menu in force, compiling and loading with what is printed, and
-// the hand-over of the tool bar block.
+// Menu loading: the search for the menu file, compiling and loading with the printed texts, and the
+// tool bar block.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -74,7 +74,7 @@ TEST_F(MenuLoadingTest, TheMenuSettingNamesTheBaseAndTheSourceComesFirst) {
   EXPECT_EQ(shell.asked, "C:\\m\\my.qmn C:\\m\\my.qmc ");
 }
 
-TEST_F(MenuLoadingTest, AMenuThatIsGoneFallsBackToTheDefaultSourceThenToItsCompiledFile) {
+TEST_F(MenuLoadingTest, AMissingMenuFallsBackToTheDefaultSourceThenToItsCompiledFile) {
   shell.setting = L"gone";
   EXPECT_EQ(Find(&MenuLoading::FindMenuBase), "<none>");
   EXPECT_EQ(shell.asked, "gone.qmn gone.qmc qvx.qmn qvx.qmc ");
@@ -129,14 +129,14 @@ TEST_F(MenuLoadingTest, ASyntaxErrorIsPrintedAndTheEmptySystemIsWrittenAndHanded
   EXPECT_EQ(ReadFile(compiled), SaveBytes(empty));
 }
 
-TEST_F(MenuLoadingTest, AMissingSourceIsToldAndNothingElseHappens) {
+TEST_F(MenuLoadingTest, AMissingSourceIsReportedAndNothingElseHappens) {
   loading.CompileMenu(source.c_str());
   EXPECT_EQ(shell.printed, "\nCould not open file " + Utf8(source.c_str()));
   EXPECT_EQ(shell.events, "");
   EXPECT_EQ(ReadFile(compiled), "<missing>");
 }
 
-TEST_F(MenuLoadingTest, ATemporaryFileThatCannotBeMadeIsTold) {
+TEST_F(MenuLoadingTest, ATemporaryFileThatCannotBeCreatedIsReported) {
   WriteFile(source, kSource);
   shell.temp = TempPath(L"missing") + L"/";
   loading.CompileMenu(source.c_str());
@@ -167,7 +167,7 @@ TEST_F(MenuLoadingTest, ACompiledFileIsLoadedWithoutTouchingTheSource) {
   EXPECT_EQ(ReadFile(source), "changed");
 }
 
-TEST_F(MenuLoadingTest, ABrokenCompiledFileIsToldByABoxAndHandedOverAllTheSame) {
+TEST_F(MenuLoadingTest, ABrokenCompiledFileShowsABoxAndIsHandedOverAllTheSame) {
   WriteFile(compiled, "junk");
   loading.LoadCompiledMenu(compiled.c_str());
   EXPECT_EQ(boxes.all.size(), 1u);

@@ -31,7 +31,7 @@ TEST(MenuModel, ALineStartsEmptyWithoutIconAndSwitch) {
   EXPECT_EQ(item.m_nIconIndex, -1);
 }
 
-TEST(MenuModel, TheOtherDefaultsAreAsTheFileReaderNeedsThem) {
+TEST(MenuModel, TheOtherDefaultsAreThoseThatTheFileReaderNeeds) {
   TSwitchStateItem state;
   EXPECT_EQ(state.m_nIconIndex, -1);
   TMenuBar bar;
@@ -60,7 +60,7 @@ TEST(MenuModel, ALineIsMadeFromLabelCommandAndIconName) {
   EXPECT_TRUE(item.m_strIconName == L"WALL");
 }
 
-TEST(MenuModel, ACopyKeepsTheSwitchAndLeavesTheSubMenu) {
+TEST(MenuModel, ACopySharesTheSwitchAndHasNoSubMenu) {
   TMenuSwitchItem owner;
   TMenuItem item(L"a", L"b", L"c");
   item.m_pSwitch = &owner;
@@ -359,7 +359,7 @@ TEST(NamePool, NamesAddedTogetherGetTheNumbersOfNamesAddedOneByOne) {
     EXPECT_EQ(together.CaseClass(i), oneByOne.CaseClass(i));
 }
 
-TEST(NamePool, NamesOfEachLengthAreToldApartByEachOfTheirCharacters) {
+TEST(NamePool, NamesOfEachLengthAreDistinguishedByEachCharacter) {
   std::vector<std::string> names;
   for (size_t length = 1; length <= 60; ++length)
     for (size_t at = 0; at <= length; ++at) {
@@ -372,7 +372,7 @@ TEST(NamePool, NamesOfEachLengthAreToldApartByEachOfTheirCharacters) {
   for (size_t i = 0; i < names.size(); ++i) EXPECT_EQ(pool.Add(names[i]), static_cast<int>(i));
 }
 
-TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
+TEST(NamePool, NamesThatDifferOnlyInCaseAreOneCaseClass) {
   NamePool pool;
   const int wall = pool.Add("a_very_long_name_of_a_Wall");
   const int upper = pool.Add("A_VERY_LONG_NAME_OF_A_WALL");
@@ -386,7 +386,7 @@ TEST(NamePool, NamesThatDifferInCaseAloneAreOneFamily) {
   EXPECT_EQ(pool.CaseClass(other), other);
 }
 
-TEST(NamePool, EachLetterIsOneInBothCasesAndNoOtherCharacterIs) {
+TEST(NamePool, OnlyTheTwoCasesOfALetterAreEqual) {
   NamePool pool;
   for (const char* pair : {"aA", "bB", "mM", "yY", "zZ"}) {
     const int small = pool.Add(std::string_view(pair, 1));
@@ -408,7 +408,7 @@ TEST(NamePool, ATableEntryIsFoundByItsFirstNameInAnyCase) {
   EXPECT_EQ(lookup.Find(none), -1);
 }
 
-TEST(NamePool, AgreesWithAWalkFromTheFrontForManyNames) {
+TEST(NamePool, AgreesWithALinearSearchForManyNames) {
   std::vector<std::string> names;
   for (int i = 0; i < 500; ++i) names.push_back("n" + std::to_string(i % 300));
   for (int i = 0; i < 310; ++i) names.push_back("N" + std::to_string(i));
@@ -422,7 +422,7 @@ TEST(NamePool, AgreesWithAWalkFromTheFrontForManyNames) {
     EXPECT_EQ(lookup.Find(asked[static_cast<size_t>(i)]), i < 300 ? i : -1);
 }
 
-TEST(FoldCase, OnlyTheUnitsOfTheseRangesHaveASmallerForm) {
+TEST(FoldCase, OnlyTheUnitsOfTheseRangesHaveALowerCase) {
   const auto isCapital = [](unsigned u) {
     const auto within = [u](unsigned first, unsigned last) { return u >= first && u <= last; };
     return within('A', 'Z') || (within(0xC0, 0xDE) && u != 0xD7) ||
@@ -435,7 +435,7 @@ TEST(FoldCase, OnlyTheUnitsOfTheseRangesHaveASmallerForm) {
   }
 }
 
-TEST(FoldCase, KnowsTheLettersOfTheCodePagesInUse) {
+TEST(FoldCase, FoldsTheLettersOfTheCodePagesInUse) {
   EXPECT_TRUE(EqualNamesNoCase(L"Ωmega", L"ωMEGA"));
   EXPECT_TRUE(EqualNamesNoCase(L"Я", L"я"));
   EXPECT_TRUE(EqualNamesNoCase(L"Ё", L"ё"));

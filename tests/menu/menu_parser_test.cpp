@@ -1,5 +1,5 @@
-// The parser: which files are accepted, what each rule builds, every message with its line, and
-// what a failed file leaves behind.
+// The parser: which files are accepted, what each rule builds, every message with its line, and the
+// state after a failed file.
 #include <gtest/gtest.h>
 
 #include "tests/menu/menu_testing.h"
@@ -12,7 +12,7 @@ std::string WithBlocks(const std::string& blocks) {
   return "MENU_TITLE = \"t\"\n" + blocks + kTail;
 }
 
-// Title line is line 1; the blocks begin on line 2.
+// The title is line 1; the blocks begin on line 2.
 struct Parsed : Compiled {
   explicit Parsed(const std::string& source) { Compile(source, *this); }
 };
@@ -81,12 +81,12 @@ TEST(MenuParser, ABlockWithoutLinesAndASwitchWithoutStatesAreErrors) {
               "5: syntax error\n");
 }
 
-TEST(MenuParser, PopIsReservedAndNothingTakesIt) {
+TEST(MenuParser, PopIsReservedAndNoRuleUsesIt) {
   ExpectError("POP = RCLICK\n" + WithBlocks("***A\n[a]\n"), "1: syntax error\n");
   ExpectError(WithBlocks("POP = CTRL + RCLICK\n***A\n[a]\n"), "2: syntax error\n");
 }
 
-TEST(MenuParser, AWrongTokenBehindACompleteFileLeavesTheModelEmpty) {
+TEST(MenuParser, AWrongTokenAfterACompleteFileLeavesTheModelEmpty) {
   ExpectError(WithBlocks("***A\n[a]\n") + "\n***B", "7: syntax error\n");
   ExpectError(WithBlocks("***A\n[a]\n") + "5", "6: syntax error\n");
 }
@@ -98,7 +98,7 @@ TEST(MenuParser, AFailedFileKeepsTheOldTitle) {
   EXPECT_TRUE(compiled.system.m_strTitle == L"old");
 }
 
-TEST(MenuParser, TheSecondIdentifierIsAKindOnlyInFrontOfAnEqualSign) {
+TEST(MenuParser, TheSecondIdentifierIsAKindOnlyBeforeAnEqualSign) {
   Parsed parsed(WithBlocks("***A B\n[x]\nC [y]\n***D E = 62,1\nF [z]\n"));
   EXPECT_EQ(parsed.Tree(),
             "title \"t\"\nbar A\n  \"x\" icon B\n  \"y\" icon C\nbar D kind E 62=1\n"
@@ -115,12 +115,12 @@ TEST(MenuParser, AMaskOfThreeGroupsKeepsFirstAndLast) {
   EXPECT_EQ(parsed.Tree(), "title \"t\"\nbar A kind B 8=\"X\" 40=2.5\n  \"x\"\n");
 }
 
-TEST(MenuParser, ShortGroupValuesAreCutTo16SignedBits) {
+TEST(MenuParser, ShortGroupValuesAreTruncatedTo16SignedBits) {
   Parsed parsed(WithBlocks("***A B = 62,40000,70,65537\n[x]\n"));
   EXPECT_EQ(parsed.Tree(), "title \"t\"\nbar A kind B 62=-25536 70=1\n  \"x\"\n");
 }
 
-TEST(MenuParser, AGroupOfTheWrongKindIsReportedAndLosesEveryBlock) {
+TEST(MenuParser, AGroupOfTheWrongKindIsReportedAndDropsEveryBlock) {
   Parsed parsed(
       "MENU_TITLE=\"t\"\n***Z\n[z]\n***A B = 0,5\n[a]\n***C\n[c]\n***SWITCH\n"
       "**S GET=g SET=s\n0=a,\"l\"\n***RESOURCE\nR=\"i\",\"j\"\n");
@@ -130,7 +130,7 @@ TEST(MenuParser, AGroupOfTheWrongKindIsReportedAndLosesEveryBlock) {
             "title \"t\"\nresource R \"i\" \"j\"\nswitch S get g set s\n  0 \"l\" icon a at -1\n");
 }
 
-TEST(MenuParser, EachKindOfGroupHasItsWords) {
+TEST(MenuParser, EachKindOfGroupHasItsMessage) {
   EXPECT_EQ(Parsed(WithBlocks("***A B = 8,5\n[a]\n")).messages.Text(),
             "2: Dxf code 8 is not integer code\n");
   EXPECT_EQ(Parsed(WithBlocks("***A B = 62,5.5\n[a]\n")).messages.Text(),
@@ -141,7 +141,7 @@ TEST(MenuParser, EachKindOfGroupHasItsWords) {
             "2: Dxf code 90 is not integer code\n");
 }
 
-TEST(MenuParser, TheGroupCodeIsNotCutBeforeItsKindIsLookedUp) {
+TEST(MenuParser, TheGroupCodeIsNotTruncatedBeforeItsKindIsLookedUp) {
   EXPECT_EQ(Parsed(WithBlocks("***A B = 65544,\"x\"\n[a]\n")).messages.Text(),
             "2: Dxf code 65544 is not integer code\n");
 }
@@ -161,19 +161,19 @@ TEST(MenuParser, EveryWrongGroupOfAMaskIsReported) {
   EXPECT_EQ(parsed.system.Length(), 0);
 }
 
-TEST(MenuParser, ALaterWrongGroupLosesTheBlocksToo) {
+TEST(MenuParser, ALaterWrongGroupDropsTheBlocksToo) {
   Parsed parsed(WithBlocks("***A B = 8,\"x\",0,5\n[a]\n***C D = 8,\"x\"\n[c]\n"));
   EXPECT_EQ(parsed.result, 0);
   EXPECT_EQ(parsed.system.Length(), 0);
 }
 
-TEST(MenuParser, TheScannersMessageStandsInFrontOfTheSyntaxError) {
+TEST(MenuParser, TheScannersMessageComesBeforeTheSyntaxError) {
   ExpectError("MENU_TITLE = \"abc\n", "1: \\n字串没有结束就出现换行符号!\n1: syntax error\n");
   ExpectError(WithBlocks("***A\n[" + std::string(300, 'x') + "]\n"),
               "3: 字符串超长\n3: syntax error\n");
 }
 
-TEST(MenuParser, TokensMayBeSpreadOverLinesAtWill) {
+TEST(MenuParser, TokensMayBeSpreadOverLines) {
   EXPECT_EQ(Parsed("MENU_TITLE\n=\n\"t\"\n***\nA\nB\n=\n8\n,\n\"x\"\nI\n[a]\n***\nSWITCH\n***\n"
                    "RESOURCE\nR\n=\n\"\"\n,\n\"\"\n")
                 .result,
@@ -201,12 +201,12 @@ TEST(MenuParser, ABracketInsideADoubleByteCharacterIsNoBracket) {
   EXPECT_EQ(parsed.Tree(), "title \"\"\nbar A\n  \"乚\" \"x\\n\"\n");
 }
 
-TEST(MenuParser, EscapesInStringsStayAsWritten) {
+TEST(MenuParser, EscapesInStringsAreKeptAsWritten) {
   Parsed parsed("MENU_TITLE = \"a\\\"b\"\n***A\n[a]\n***SWITCH\n***RESOURCE\n");
   EXPECT_TRUE(parsed.system.m_strTitle == L"a\\\"b");
 }
 
-TEST(MenuParser, EachParseReplacesWhatWasThere) {
+TEST(MenuParser, EachParseReplacesTheOldContent) {
   Compiled compiled;
   Compile(WithBlocks("***A\n[a]\n"), compiled);
   Compile(WithBlocks("***B\n[b]\n"), compiled);
@@ -217,7 +217,7 @@ TEST(MenuParser, EachParseReplacesWhatWasThere) {
   EXPECT_EQ(compiled.system.m_recent.Length(), 1);
 }
 
-TEST(MenuParser, EveryCutOfAFileIsASyntaxErrorOrAWholeFile) {
+TEST(MenuParser, EveryPrefixOfAFileIsASyntaxErrorOrACompleteFile) {
   const std::string source =
       "MENU_TITLE=\"t\"\n***A B = 0,\"x\",62,1\nI [->a]\n[<-{~=f}b]c;\n***SWITCH\n"
       "**S GET=g SET=s\n0=i,\"l\"\n***RESOURCE\nR=\"a\",\"b\"\n";
@@ -227,10 +227,10 @@ TEST(MenuParser, EveryCutOfAFileIsASyntaxErrorOrAWholeFile) {
     EXPECT_EQ(parsed.messages.all.empty(), parsed.result == 0) << i;
     accepted += parsed.result == 0;
   }
-  EXPECT_EQ(accepted, 3);  // behind RESOURCE, behind its newline, without the last newline
+  EXPECT_EQ(accepted, 3);  // after RESOURCE, after its newline, without the last newline
 }
 
-TEST(SourceMessages, AreWordedAsTheCommandLineShowsThem) {
+TEST(SourceMessages, HaveTheFormThatTheCommandLineShows) {
   EXPECT_TRUE(FormatSyntaxError(L"syntax error", 12) == L" \n语法错误，第12行: syntax error");
 }
 

@@ -1,5 +1,5 @@
-// The passes: icons, sub-menus (against the rule as it is worded, level by level), switches and
-// condition prefixes.
+// The passes: icons, sub-menus (compared with a direct implementation, level by level), switches
+// and condition prefixes.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -32,21 +32,21 @@ TEST(NestSubMenus, OnePairClosesOneLevel) {
   EXPECT_EQ(Nested({L"->a", L"->b", L"<-c", L"<-d"}), "\"a\" >\n  \"b\" >\n    \"c\"\n  \"d\"\n");
 }
 
-TEST(NestSubMenus, RangesFollowEachOther) {
+TEST(NestSubMenus, RangesMayFollowEachOther) {
   EXPECT_EQ(Nested({L"->a", L"<-b", L"->c", L"<-d"}), "\"a\" >\n  \"b\"\n\"c\" >\n  \"d\"\n");
 }
 
-TEST(NestSubMenus, RangesNeverOpenedOrClosedStayAsTheyAre) {
+TEST(NestSubMenus, RangesThatAreNotOpenedOrNotClosedAreUnchanged) {
   EXPECT_EQ(Nested({L"<-a", L"b"}), "\"<-a\"\n\"b\"\n");
   EXPECT_EQ(Nested({L"->a", L"b"}), "\"->a\"\n\"b\"\n");
   EXPECT_EQ(Nested({L"->a", L"<-<-b", L"c"}), "\"->a\"\n\"<-<-b\"\n\"c\"\n");
 }
 
-TEST(NestSubMenus, ARangeNeverClosedHidesThoseBehindIt) {
+TEST(NestSubMenus, ARangeThatIsNotClosedPreventsLaterOnes) {
   EXPECT_EQ(Nested({L"->a", L"->b", L"<-c"}), "\"->a\"\n\"->b\"\n\"<-c\"\n");
 }
 
-TEST(NestSubMenus, TooManyPairsCanBeMadeGoodByFurtherOpenings) {
+TEST(NestSubMenus, SurplusPairsAreBalancedByLaterOpenings) {
   EXPECT_EQ(Nested({L"->a", L"<-<-b", L"->c", L"->d", L"<-e"}),
             "\"a\" >\n  \"<-<-b\"\n  \"->c\"\n  \"->d\"\n  \"e\"\n");
 }
@@ -70,8 +70,7 @@ TEST(NestSubMenus, TheCachedEndsOfAllBarsAreRight) {
   EXPECT_EQ(bar.First()->m_pSubMenu->Last()->m_strLabel, L"c");
 }
 
-// The rule as it is worded: walk, note the ranges, move the lines of each, do the same in each new
-// bar.
+// Level by level: find the ranges, move the lines of each, and repeat in each new bar.
 int PairsOf(const TWCString& label) {
   int pairs = 0;
   while (label[2 * pairs] == L'<' && label[2 * pairs + 1] == L'-') ++pairs;
@@ -108,7 +107,7 @@ void NestAsWorded(TMenuBar& bar) {
   }
 }
 
-TEST(NestSubMenus, AgreesWithTheRuleAsWordedOnRandomLabels) {
+TEST(NestSubMenus, AgreesWithTheLevelByLevelRuleOnRandomLabels) {
   const std::vector<std::wstring> kinds = {L"->a",   L"->",      L"<-b",    L"<-",
                                            L"<-<-c", L"<-->d",   L"<-<-->", L"->->e",
                                            L"->-",   L"<-<-<-f", L"g",      L"-"};
@@ -151,8 +150,8 @@ TEST(ResolveIcons, ReachesLinesThatAreNestedLaterAndSwitchStates) {
   EXPECT_EQ(compiled.system.m_switches.At(0)->m_states.At(0)->m_nIconIndex, 0);
 }
 
-// Many of them, so that some of the names are looked up before the block is lost and some wait.
-TEST(ResolveNames, NothingIsResolvedForBlocksThatABadMaskTakesAlong) {
+// Many names, so that some are looked up before the block is dropped and some are pending.
+TEST(ResolveNames, NothingIsResolvedForBlocksThatABadMaskDrops) {
   for (int lines : {1, 70, 200}) {
     Compiled compiled;
     Compile("MENU_TITLE=\"t\"\n***A\n" + Repeated("SW [*SWITCH*]\nI [a]\n", lines) +
@@ -177,7 +176,7 @@ TEST(ResolveSwitches, TakesTheFirstSwitchOfThatNameInAnyCase) {
   EXPECT_EQ(bar.At(2)->m_pSwitch, nullptr);
 }
 
-TEST(ResolveSwitches, AMarkWithoutANameInFrontShowsNone) {
+TEST(ResolveSwitches, AMarkWithoutANameHasNoSwitch) {
   Compiled compiled;
   Compile(WithSections("[*SWITCH*]\nSW [*SWITCH*]\n", "**SW GET=g SET=s\n0=i,\"l\"\n", ""),
           compiled);
@@ -205,11 +204,11 @@ TEST(StripConditions, TildeGreysAndExclamationMarkChecks) {
   EXPECT_EQ(Condition("{!=Fn}Text"), "\"Text\" flags 1 check Fn\n");
 }
 
-TEST(StripConditions, SeveralPrefixesStandInARowAndTheLastOfAKindCounts) {
+TEST(StripConditions, OfSeveralPrefixesOfAKindTheLastCounts) {
   EXPECT_EQ(Condition(" {!=A} {~=B}{!=C} Text "), "\"Text\" flags 3 check C gray B\n");
 }
 
-TEST(StripConditions, UnknownPrefixesAreDroppedInSilence) {
+TEST(StripConditions, UnknownPrefixesAreDroppedWithoutAMessage) {
   EXPECT_EQ(Condition("{x=Fn}Text"), "\"Text\"\n");
   EXPECT_EQ(Condition("{~~=Fn}Text"), "\"Text\"\n");
   EXPECT_EQ(Condition("{x}"), "\"\"\n");
@@ -223,20 +222,20 @@ TEST(StripConditions, WordsAreDelimitedByBlanks) {
   EXPECT_EQ(Condition("{~=a=b}T"), "\"T\" flags 2 gray a=b\n");
 }
 
-TEST(StripConditions, BlanksAreTrimmedAndTabsStay) {
+TEST(StripConditions, BlanksAreTrimmedAndTabsAreKept) {
   EXPECT_EQ(Condition("  abc  "), "\"abc\"\n");
   EXPECT_EQ(Condition(" abc"), "\"abc\"\n");
   EXPECT_EQ(Condition("abc "), "\"abc\"\n");
   EXPECT_EQ(Condition("\tab"), "\"\\x09ab\"\n");
 }
 
-TEST(StripConditions, ShortLabelsAreLeftAlone) {
+TEST(StripConditions, ShortLabelsAreUnchanged) {
   EXPECT_EQ(Condition(" a"), "\" a\"\n");
   EXPECT_EQ(Condition(" a "), "\"a\"\n");
   EXPECT_EQ(Condition("{}"), "\"{}\"\n");
 }
 
-TEST(StripConditions, WithoutAClosingBraceTheLabelStays) {
+TEST(StripConditions, WithoutAClosingBraceTheLabelIsUnchanged) {
   EXPECT_EQ(Condition("{~=Fn Text"), "\"{~=Fn Text\"\n");
   EXPECT_EQ(Condition("a{~=Fn}"), "\"a{~=Fn}\"\n");
 }

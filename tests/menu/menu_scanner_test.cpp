@@ -1,4 +1,4 @@
-// The scanner: each pattern, each reader, each limit and message, with line numbers.
+// The scanner: each pattern, limit and message, with line numbers.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -38,7 +38,7 @@ TEST(MenuScanner, TokenNumbersAreFixed) {
   EXPECT_EQ(QMN_SET_STATE, 276);
 }
 
-TEST(MenuScanner, StarsAreTakenThreeThenTwoAndASingleOneIsSkipped) {
+TEST(MenuScanner, ThreeStarsAndTwoStarsAreTokensAndASingleOneIsSkipped) {
   EXPECT_EQ(Scan("***").Kinds(), Kinds{QMN_PREFIX});
   EXPECT_EQ(Scan("**").Kinds(), Kinds{QMN_SUB_PREFIX});
   EXPECT_EQ(Scan("****").Kinds(), Kinds{QMN_PREFIX});
@@ -68,7 +68,7 @@ TEST(MenuScanner, IntegersSaturate) {
   EXPECT_EQ(scan.tokens[4].number, 2147483647);
 }
 
-TEST(MenuScanner, RealsNeedAPointWithADigitBehindIt) {
+TEST(MenuScanner, RealsNeedAPointFollowedByADigit) {
   Scan scan("1.5e3 .5 1.5E-2 12.25");
   EXPECT_EQ(scan.Kinds(), Kinds(4, QMN_FCON));
   EXPECT_EQ(scan.tokens[0].real, 1500.0);
@@ -99,7 +99,7 @@ TEST(MenuScanner, AMinusIsNoPartOfANumber) {
   EXPECT_EQ(scan.tokens[0].number, 5);
 }
 
-TEST(MenuScanner, StrayBytesAreSkippedInSilence) {
+TEST(MenuScanner, StrayBytesAreSkippedWithoutAMessage) {
   Scan scan("a / * . - \x80\xff\x1a\r ; b");
   EXPECT_EQ(scan.Kinds(), Kinds(2, QMN_IDENTIFIER));
   EXPECT_EQ(scan.messages.Text(), "");
@@ -130,19 +130,19 @@ TEST(MenuScanner, PunctuationGivesItsTokens) {
   EXPECT_EQ(Scan(",+=").Kinds(), (Kinds{QMN_COMA, QMN_PLUS, QMN_EQUAL}));
 }
 
-TEST(MenuScanner, AnIdentifierMayStandInFrontOfAMenuLine) {
+TEST(MenuScanner, AnIdentifierMayPrecedeAMenuLine) {
   Scan scan("WALLICON [Wall]^C^CTWall\n");
   EXPECT_EQ(scan.Kinds(), (Kinds{QMN_IDENTIFIER, QMN_MENU_ITEM}));
   EXPECT_EQ(scan.Text(1), "[Wall]^C^CTWall");
 }
 
-TEST(MenuScanner, AMenuLineHoldsWhateverTheLineHolds) {
+TEST(MenuScanner, AMenuLineMayContainAnyCharacter) {
   Scan scan("[a]\"/* // \x80[***\nx");
   EXPECT_EQ(scan.Text(0), "[a]\"/* // \x80[***");
   EXPECT_EQ(scan.Text(1), "x");
 }
 
-TEST(MenuScanner, CarriageReturnsGoOnlyInFrontOfANewline) {
+TEST(MenuScanner, CarriageReturnsAreRemovedOnlyBeforeANewline) {
   Scan scan("[a\rb]\r\n[c]\r\r\n");
   EXPECT_EQ(scan.Text(0), "[a\rb]");
   EXPECT_EQ(scan.Text(1), "[c]\r");
@@ -158,7 +158,7 @@ TEST(MenuScanner, ALineOf199BytesFitsAndOneOf200DoesNot) {
   EXPECT_EQ(not_.messages.Text(), "1: 字符串超长\n");
 }
 
-TEST(MenuScanner, TheByteThatBreaksAMenuLineIsLost) {
+TEST(MenuScanner, TheByteThatInterruptsAMenuLineIsDropped) {
   Scan scan("[" + std::string(198, 'x') + "ab\n");
   EXPECT_EQ(scan.Kinds(), (Kinds{QMN_ERR_MENU_ITEM, QMN_IDENTIFIER}));
   EXPECT_EQ(scan.Text(1), "b");
@@ -189,7 +189,7 @@ TEST(MenuScanner, ARawNewlineEndsAStringWithTheNumberOfItsLine) {
   EXPECT_EQ(scan.line, 4);
 }
 
-TEST(MenuScanner, AnEscapedNewlineStaysInTheStringAndCounts) {
+TEST(MenuScanner, AnEscapedNewlineIsKeptInTheStringAndCounted) {
   Scan scan("\"a\\\nb\" c");
   EXPECT_EQ(scan.Text(0), "a\\\nb");
   EXPECT_EQ(scan.line, 2);
@@ -211,13 +211,13 @@ TEST(MenuScanner, TheLongestStringHas197BytesAndTheClosingQuote) {
   EXPECT_EQ(scan.messages.all[0], "1: \\nExceee maximium string!");
 }
 
-TEST(MenuScanner, AnEscapeThatReachesTheLimitBreaksTheString) {
+TEST(MenuScanner, AnEscapeThatReachesTheLimitEndsTheString) {
   EXPECT_EQ(Scan("\"" + std::string(195, 'x') + "\\\"\"").Kinds(), Kinds{QMN_STRING});
   Scan scan("\"" + std::string(197, 'x') + "\\\"\"");
   EXPECT_EQ(scan.messages.all[0], "1: \\nExceee maximium string!");
 }
 
-TEST(MenuScanner, ANewlineThatBreaksTheLimitIsCounted) {
+TEST(MenuScanner, ANewlineAtTheLimitIsCounted) {
   Scan scan("\"" + std::string(198, 'x') + "\nz");
   EXPECT_EQ(scan.messages.Text(), "2: \\nExceee maximium string!\n");
   EXPECT_EQ(scan.Text(1), "z");
@@ -237,7 +237,7 @@ TEST(MenuScanner, CommentsAreSkippedAndTheirLinesCount) {
   EXPECT_EQ(scan.line, 3);
 }
 
-TEST(MenuScanner, SignsAreTheirOwnText) {
+TEST(MenuScanner, PunctuationTokensHaveTheirText) {
   Scan scan("a+b,c=d***e**f");
   for (const auto& [at, text] : {std::pair(1, "+"), {3, ","}, {5, "="}, {7, "***"}, {9, "**"}})
     EXPECT_EQ(scan.Text(static_cast<size_t>(at)), text);
@@ -248,7 +248,7 @@ TEST(MenuScanner, CommentsDoNotNest) {
   EXPECT_EQ(scan.Text(0), "a");
 }
 
-TEST(MenuScanner, ACommentWithoutAnEndIsFoundWhenAskedFor) {
+TEST(MenuScanner, AnUnterminatedCommentIsReportedOnRequest) {
   for (const char* text : {"a // b", "a /* b", "a /*", "a /* *", "a //"}) {
     CollectedMessages messages;
     const std::string source = text;
@@ -276,7 +276,7 @@ TEST(MenuScanner, AByteZeroReadsAsTheEndExceptInComments) {
   EXPECT_EQ(scan.Text(1), "b");
 }
 
-TEST(MenuScanner, ALongWordIsCutAt199Bytes) {
+TEST(MenuScanner, ALongWordIsSplitAt199Bytes) {
   Scan scan(std::string(250, 'x') + " " + std::string(250, '7') + " " + std::string(197, '1') +
             ".5e2");
   EXPECT_EQ(scan.Text(0).size(), 199u);
@@ -288,7 +288,7 @@ TEST(MenuScanner, ALongWordIsCutAt199Bytes) {
   EXPECT_EQ(scan.Text(5), "e2");
 }
 
-TEST(MenuScanner, EveryCutOfASourceEndsInTheEndToken) {
+TEST(MenuScanner, EveryPrefixOfASourceEndsInTheEndToken) {
   const std::string source = "MENU_TITLE=\"a\\\"\"/*x*/***A B=8,1.5e+3//\n[->q]^C\"\n**1.\x81\n";
   for (size_t i = 0; i <= source.size(); ++i) Scan(source.substr(0, i));
   SUCCEED();

@@ -1,5 +1,5 @@
-// What the menu tests share: compiling a text with its messages collected, a readable dump of
-// tokens and of a whole system, a compiled file as bytes and back.
+// Functions for the menu tests: compiling a text and collecting its messages, dumps of tokens and
+// of a system, a compiled file to bytes and back.
 #pragma once
 
 #include <cstddef>
@@ -35,18 +35,18 @@ struct Compiled {
 
 std::string Repeated(const char* text, int times);
 
-// Stops at a comment without an end. The source is narrow text of code page 936.
+// Stops at an unterminated comment. The source is in code page 936.
 void Compile(const std::string& source, Compiled& into);
 
 std::string DumpTokens(const std::string& source);  // "line KIND text" for each
 std::string DumpTree(TMenuSystem& system);
 std::string DumpBar(TMenuBar& bar, int indent = 0);
 
-// Builds the sub-menus of a bar as the parser does; gives the number of steps.
+// Builds the sub-menus of a bar as the parser does; returns the number of steps.
 int NestSubMenus(TMenuBar& bar);
 
 std::string SaveBytes(TMenuSystem& system);
-// Empty when all went well, else the name of the exception.
+// Empty on success, else the name of the exception.
 std::string LoadBytes(TMenuSystem& system, const std::string& bytes);
 
 // A path in the folder for temporary files, and the file's content.
@@ -55,6 +55,6 @@ void WriteFile(const std::wstring& path, const std::string& bytes);
 std::string ReadFile(const std::wstring& path);  // "<missing>" when it can't be read
 void DeleteFileAt(const std::wstring& path);
 
-// Runs it on a thread with a stack of this size.
+// Runs the job on a thread with a stack of this size.
 constexpr std::size_t kSmallStack = 256 * 1024;  // bytes
 void OnSmallStack(void (*work)());

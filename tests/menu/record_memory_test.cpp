@@ -1,5 +1,5 @@
-// The allocator of the menu's records, in both builds, although the model uses it only where no
-// memory checker runs.
+// The allocator of the menu's records. Tested in both builds, although the model does not use it
+// under the sanitizers.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The global entries yylex and yyparse.
+// The global functions yylex and yyparse.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -32,7 +32,7 @@ struct YaccEntry : testing::Test {
   TMenuSystem system;
 };
 
-TEST_F(YaccEntry, YylexGivesTokensAndTheirValues) {
+TEST_F(YaccEntry, YylexReturnsTokensAndTheirValues) {
   Begin("abc 12 1.5\n\"s\" [m]\n***");
   EXPECT_EQ(yylex(), QMN_IDENTIFIER);
   EXPECT_EQ(TakeText(), "abc");
@@ -56,7 +56,7 @@ TEST_F(YaccEntry, YyparseFillsTheSystemWithoutRunningThePasses) {
   EXPECT_EQ(DumpTree(system), "title \"t\"\nbar A\n  \"->a\"\n  \"<-b\"\n");
 }
 
-TEST_F(YaccEntry, YyparseGivesOneOnASyntaxError) {
+TEST_F(YaccEntry, YyparseReturnsOneOnASyntaxError) {
   Begin("MENU_TITLE\n5");
   EXPECT_EQ(yyparse(), 1);
   EXPECT_EQ(messages.Text(), "2: syntax error\n");
