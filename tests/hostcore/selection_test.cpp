@@ -285,7 +285,7 @@ TEST_F(PaperSpace, AViewportIsPickedByItsFrameAndFilteredByItsType) {
 }
 
 TEST_F(PaperSpace, ChangingTheSpaceClearsTheSelectionAndZoomsToTheExtents) {
-  Drawing().view.Resize(400, 200);
+  Drawing().viewports.Resize(400, 200);
   Drawing().pickFirst = {Entities()[0]->objectId()};
   ASSERT_EQ(host.variables.Set(L"TILEMODE", L"0"), VarResult::Ok);
   EXPECT_TRUE(Drawing().pickFirst.empty());

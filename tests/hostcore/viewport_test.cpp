@@ -3,6 +3,7 @@
 #include <memory>
 #include <numbers>
 
+#include "axlock.h"
 #include "devhost/core/view/grid.h"
 #include "host_fixture.h"
 
@@ -146,6 +147,8 @@ TEST_F(Viewports, ASheetFillsTheWindowAndTheTilesComeBack) {
 TEST_F(Viewports, RecordsDescribeTheScreenWithTheCurrentOneFirst) {
   Send(L"-VPORTS 2 V\n");
   ASSERT_EQ(host.variables.Set(L"CVPORT", L"3"), VarResult::Ok);
+  EXPECT_EQ(acedVports2VportTableRecords(), Acad::eLockViolation);
+  const AcAxDocLock lock;
   ASSERT_EQ(acedVports2VportTableRecords(), Acad::eOk);
   AcDbViewportTable* table = nullptr;
   ASSERT_EQ(Drawing().database()->getSymbolTable(table, AcDb::kForRead), Acad::eOk);
@@ -171,6 +174,7 @@ namespace {
 
 // Moves the border between the viewports 2 and 3 of the records; returns the result of the update.
 Acad::ErrorStatus MoveBorder(AcDbDatabase& database, double leftEnd, double rightBegin) {
+  const AcAxDocLock lock;
   acedVports2VportTableRecords();
   AcDbViewportTable* table = nullptr;
   AcDbViewportTableIterator* all = nullptr;
@@ -210,19 +214,28 @@ TEST_F(Viewports, RecordsThatDoNotFillTheWindowAreRefused) {
   EXPECT_TRUE(Same(PixelsOf(2), 0, 0, 400, 600));
 }
 
+namespace {
+
+Acad::ErrorStatus WriteRecords() {
+  const AcAxDocLock lock;
+  return acedVports2VportTableRecords();
+}
+
+}  // namespace
+
 TEST_F(Viewports, RecordsAreUsedAgain) {
   Send(L"-VPORTS 4\n");
-  ASSERT_EQ(acedVports2VportTableRecords(), Acad::eOk);
+  ASSERT_EQ(WriteRecords(), Acad::eOk);
   const int objects = Drawing().database()->approxNumObjects();
   Send(L"-VPORTS SI\n");
-  ASSERT_EQ(acedVports2VportTableRecords(), Acad::eOk);
+  ASSERT_EQ(WriteRecords(), Acad::eOk);
   AcDbViewportTable* table = nullptr;
   ASSERT_EQ(Drawing().database()->getViewportTable(table, AcDb::kForRead), Acad::eOk);
   AcDbObjectId id;
   EXPECT_EQ(table->getAt(L"*ACTIVE", id), Acad::eOk);
   table->close();
   Send(L"-VPORTS 4\n");
-  ASSERT_EQ(acedVports2VportTableRecords(), Acad::eOk);
+  ASSERT_EQ(WriteRecords(), Acad::eOk);
   EXPECT_EQ(Drawing().database()->approxNumObjects(), objects);
 }
 

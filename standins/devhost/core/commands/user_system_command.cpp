@@ -13,7 +13,7 @@ namespace {
 void Change(const UserSystem& system) {
   Document& document = *TheHost().documents.Current();
   ChangeUserSystem(document, system);
-  TheHost().Ui().PictureChanged(document);
+  TheHost().Ui().ViewChanged(document);
 }
 
 // Asks for a point; `*point` is the answer for Enter alone. False: cancelled.

@@ -36,7 +36,7 @@ void Zoom() {
     }
     document->view.ZoomAt(document->view.Middle(), factor);
   }
-  TheHost().Ui().PictureChanged(*document);
+  TheHost().Ui().ViewChanged(*document);
 }
 
 void Pan() {
@@ -48,7 +48,7 @@ void Pan() {
   const POINT a = document->view.ToPixel(WorldOfUser(from)),
               b = document->view.ToPixel(WorldOfUser(to));
   document->view.PanBy(b.x - a.x, b.y - a.y);
-  TheHost().Ui().PictureChanged(*document);
+  TheHost().Ui().ViewChanged(*document);
 }
 
 void Regen() {

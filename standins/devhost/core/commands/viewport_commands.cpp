@@ -68,14 +68,14 @@ void Vports() {
     return;
   }
   TheHost().variables.Set(L"CVPORT", std::to_wstring(viewports.CurrentNumber()));
-  TheHost().Ui().PictureChanged(Current());
+  TheHost().Ui().ViewChanged(Current());
 }
 
 void Plan() {
   Document& document = Current();
   document.view.LookDown();
   document.view.ZoomTo(ExtentsOf(*document.database()));
-  TheHost().Ui().PictureChanged(document);
+  TheHost().Ui().ViewChanged(document);
 }
 
 // Stays active while the user drags the direction of view in the window.

@@ -40,6 +40,6 @@ Acad::ErrorStatus acedVportTableRecords2Vports() {
   if (!document->viewports.SetTiles(tiles)) return Acad::eInvalidInput;
   if (document->variables[L"CVPORT"] != std::to_wstring(document->viewports.CurrentNumber()))
     TheHost().variables.Set(L"CVPORT", std::to_wstring(document->viewports.CurrentNumber()));
-  TheHost().Ui().PictureChanged(*document);
+  TheHost().Ui().ViewChanged(*document);
   return Acad::eOk;
 }

@@ -16,8 +16,10 @@ class HostUi {
   virtual void DocumentActivated(Document* document) = 0;  // null: no drawing is open
   virtual void DocumentDestroyed(Document& document) = 0;  // destroy its window
   virtual void DocumentTitled(Document& document) = 0;     // its file name changed
-  virtual void PictureChanged(Document& document) = 0;     // entities or view changed: repaint
-  virtual void SelectionChanged(Document& document) = 0;   // the pick-first set
+  virtual void PictureChanged(Document& document) = 0;     // entities changed: repaint
+  // Only views, viewports or the user coordinate system changed: repaint the same entities.
+  virtual void ViewChanged(Document& document) { PictureChanged(document); }
+  virtual void SelectionChanged(Document& document) = 0;  // the pick-first set
 
   virtual void Print(const std::wstring& text) = 0;  // "\n" begins a new line
   virtual void PromptChanged(const std::wstring& prompt) = 0;

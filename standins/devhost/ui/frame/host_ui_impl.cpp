@@ -113,6 +113,10 @@ void HostUiImpl::PictureChanged(Document& document) {
   child->View().PictureChanged();
 }
 
+void HostUiImpl::ViewChanged(Document& document) {
+  if (DrawingChild* child = ChildOf(document)) child->View().PictureChanged();
+}
+
 void HostUiImpl::SelectionChanged(Document& document) {
   if (DrawingChild* child = ChildOf(document)) child->View().HighlightChanged();
 }
@@ -129,11 +133,10 @@ void HostUiImpl::PromptChanged(const std::wstring& prompt) {
 
 void HostUiImpl::VariableChanged(const std::wstring& name) {
   Document* current = TheHost().documents.Current();
-  DrawingChild* child = current ? ChildOf(*current) : nullptr;
-  if (!child) return;
+  if (!current) return;
   const bool tileChanged = name == L"CVPORT" && !current->viewports.IsOnSheet();
   if (tileChanged || name == L"GRIDMODE" || name == L"GRIDUNIT")
-    child->View().PictureChanged();  // the same entities
+    ViewChanged(*current);
   else if (name == L"TILEMODE" || name == L"CVPORT")
     PictureChanged(*current);
 }

@@ -29,6 +29,7 @@ class HostUiImpl : public HostUi {
   void DocumentDestroyed(Document& document) override;
   void DocumentTitled(Document& document) override;
   void PictureChanged(Document& document) override;
+  void ViewChanged(Document& document) override;
   void SelectionChanged(Document& document) override;
   void Print(const std::wstring& text) override;
   void PromptChanged(const std::wstring& prompt) override;
