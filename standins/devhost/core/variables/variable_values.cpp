@@ -47,9 +47,9 @@ bool ComputedValue(const std::wstring& name, const Document* document, std::wstr
   else if (name == L"SCREENSIZE")
     *value = PointText({1.0 * document->view.Width(), 1.0 * document->view.Height(), 0});
   else if (name == L"VIEWCTR")
-    *value = VectorText(
-        document->database()->body().CurrentSystem().ToUser(document->view.Center()) -
-        AcGePoint3d());
+    *value =
+        VectorText(document->database()->body().CurrentSystem().ToUser(document->view.Center()) -
+                   AcGePoint3d());
   else if (name == L"VIEWSIZE")
     *value = RealText(document->view.Height() / document->view.PixelsPerUnit());
   else if (name == L"UCSORG")

@@ -16,8 +16,8 @@ class ViewTransform {
   RECT Pixels() const { return {m_left, m_top, m_left + m_width, m_top + m_height}; }
   POINT Middle() const { return {m_left + m_width / 2, m_top + m_height / 2}; }
 
-  POINT ToPixel(const AcGePoint3d& world) const;  // clamped to 28 bits
-  AcGePoint3d ToWorld(POINT pixel) const;         // on the plane z = 0
+  POINT ToPixel(const AcGePoint3d& world) const;            // clamped to 28 bits
+  AcGePoint3d ToWorld(POINT pixel) const;                   // on the plane z = 0
   AcGePoint3d Center() const { return OnPlane(m_center); }  // exact, unlike that of Middle()
   double PixelsPerUnit() const { return m_scale; }
 
