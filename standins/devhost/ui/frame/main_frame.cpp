@@ -128,6 +128,9 @@ bool MainFrame::RunMenuCommand(UINT id) {
     case kHelpTopics:
       ShowHostHelp();
       return true;
+    case kToggleGrid:
+      if (DrawingChild* child = TheHostUi().ActiveChild()) child->View().Model().ToggleGrid();
+      return true;
   }
   return false;
 }

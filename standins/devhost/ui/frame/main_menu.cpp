@@ -50,7 +50,8 @@ MainMenu MakeMainMenu() {
 HACCEL MakeMainKeys() {
   ACCEL keys[] = {{FCONTROL | FVIRTKEY, 'N', kFileNew},
                   {FCONTROL | FVIRTKEY, 'O', kFileOpen},
-                  {FVIRTKEY, VK_F1, kHelpTopics}};
+                  {FVIRTKEY, VK_F1, kHelpTopics},
+                  {FVIRTKEY, VK_F7, kToggleGrid}};
   return ::CreateAcceleratorTableW(keys, static_cast<int>(std::size(keys)));
 }
 

@@ -18,6 +18,7 @@ enum MenuCommand : UINT {
   kWindowTileHorizontal,
   kWindowTileVertical,
   kHelpTopics,  // F1; not in the menu
+  kToggleGrid,  // F7; not in the menu
 };
 
 struct MainMenu {

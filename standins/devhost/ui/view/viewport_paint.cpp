@@ -6,7 +6,7 @@
 namespace devhost {
 namespace {
 
-constexpr COLORREF kGridColor = RGB(96, 104, 112);
+constexpr COLORREF kGridColor = RGB(150, 158, 168);
 constexpr COLORREF kBorderColor = RGB(96, 104, 112);
 constexpr COLORREF kCurrentBorderColor = RGB(225, 228, 232);
 constexpr int kCurrentBorder = 3;  // pixels
