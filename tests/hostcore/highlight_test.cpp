@@ -19,6 +19,7 @@ class Highlight : public hosttest::HostTest {
     options.major = major;
     options.minor = minor;
     host.Begin(options, &ui, &modules);
+    host.variables.Set(L"SELECTIONPREVIEW", L"3");  // outlives the drawings of a test
     NewDrawing();
     Send(L"LINE 0,0 10,0 \nLINE 0,50 10,50 \nCIRCLE 50,50 2\n");
     ASSERT_EQ(Entities().size(), 3u);
