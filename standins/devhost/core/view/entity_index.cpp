@@ -94,6 +94,11 @@ void EntityIndex::MeasureChanged(Space& space) {
   });
 }
 
+void EntityIndex::Prepare(AcDbDatabase& database) {
+  if (const auto* record = AcDbBlockTableRecord::cast(database.currentSpaceId().object()))
+    MeasureChanged(SpaceOf(*record));
+}
+
 std::vector<AcDbEntity*> EntityIndex::Find(AcDbDatabase& database, const Box& box) {
   std::vector<AcDbEntity*> found;
   const auto* record = AcDbBlockTableRecord::cast(database.currentSpaceId().object());

@@ -1,5 +1,5 @@
 // Where the entities of a database are: finds the ones near a place without drawing the others.
-// Created by the first hit test; the database notifies it of changes, and it measures the changed
+// The database notifies it of changes, and it measures the changed
 // entities again at the next question.
 #pragma once
 
@@ -20,6 +20,9 @@ class EntityIndex : public DatabaseWatcher {
   // The entities of the current space that may draw something in the box, in drawing order. Whether
   // their layers are visible does not count.
   std::vector<AcDbEntity*> Find(AcDbDatabase& database, const Box& box);
+
+  // Measures the current space now, so that the first hit test does not.
+  void Prepare(AcDbDatabase& database);
 
   // Measures everything again. For drawings that depend on more than their objects.
   void Reset() { m_spaces.clear(); }
