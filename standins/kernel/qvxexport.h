@@ -2,8 +2,12 @@
 // TypeOfCode and GetStringAtIndex.
 #pragma once
 
+#include "gepnt3d.h"
+#include "ground/plain_types.h"
 #include "kernel/kernel_export.h"
 #include "kernel/twcstring.h"
+
+class CWnd;
 
 class QVX_KERNEL QvxExport {
  public:
@@ -45,4 +49,19 @@ class QVX_KERNEL QvxExport {
   // The text that runs a command of the family. Global and local names of these commands are equal
   // in all languages of the host, so that it is the name itself.
   static TWCString GetFullCmdName(const wchar_t* name);
+
+  // Whether the family looks at messages of this window: the host's frame, its MDI client, the
+  // drawings' frames with their views, and the input row of the command line. Not palettes, tool
+  // strips, panes, dialogs, tips, nor what a module puts into a view. False for a window that is
+  // gone.
+  static bool Tasdh1sh1ddhsj123(HWND window);
+
+  static bool IsAcadDwgView(HWND window);  // the view of any drawing
+  static bool IsCurDwgView(HWND window);   // the view of the active drawing
+  static CWnd* GetCurDwgView();            // null without an active drawing
+
+  // Scales the current viewport of the active drawing as ZOOM with the factor nX does, with `at` (a
+  // point of the world) kept where it is on the screen: above 1 comes nearer. A factor that is not
+  // above 0 does nothing.
+  static void ArxZoomCursor(const AcGePoint3d& at, double factor);
 };

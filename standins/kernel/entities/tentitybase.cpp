@@ -12,4 +12,8 @@ void TEntityBase::SetPScale(double scale) {
   if (std::isfinite(scale)) m_pscale = scale;
 }
 
+long TEntityBase::GroupKey() const { return 0; }
+
+void TEntityBase::ToggleCtrl() {}
+
 double TEntityBase::ScaleFactor() const { return m_pscale > 0 ? m_pscale / kDefaultScale : 1; }

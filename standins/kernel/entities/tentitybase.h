@@ -17,6 +17,12 @@ class QVX_KERNEL TEntityBase {
   double GetPScale() const { return m_pscale; }
   virtual void SetPScale(double scale);
 
+  // Objects with the same key are controlled together; one without a group has a key of its own.
+  virtual long GroupKey() const;
+  // Flips the control state of the object and of all others of its drawing with the same key. The
+  // object may be open for reading; nothing happens where it cannot be written.
+  virtual void ToggleCtrl();
+
  protected:
   // Sizes are stored for the default scale; this is the factor for drawing.
   double ScaleFactor() const;

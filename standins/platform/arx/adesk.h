@@ -1,4 +1,4 @@
-// Integers of a fixed width, as the host's interface names them.
+// Plain types of a fixed width, as the host's interface names them.
 #pragma once
 
 #include <cstdint>
@@ -6,4 +6,5 @@
 namespace Adesk {
 typedef std::int16_t Int16;
 typedef std::int32_t Int32;
+typedef bool Boolean;
 }  // namespace Adesk

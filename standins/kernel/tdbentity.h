@@ -1,0 +1,34 @@
+// What drawing objects of the family offer to whoever edits them: TDbEntity for objects, and
+// TDbCurveEntity for those that are curves. An object has one of the two.
+#pragma once
+
+#include "adesk.h"
+#include "dbmain.h"
+#include "kernel/kernel_export.h"
+
+class TSubText;
+
+// The texts of an object that can be edited one by one. The caller owns what is returned.
+class QVX_KERNEL TTextOwner {
+ public:
+  typedef void (*EditFunction)(AcDbObjectId object);
+
+  virtual ~TTextOwner();
+  virtual TSubText* GetSubText(int index) const;                // null: no such text
+  virtual TSubText* GetSubTextAt(const AcGePoint3d& at) const;  // by the place of a text, in world
+  virtual EditFunction GetEditFunction() const { return nullptr; }
+};
+
+class QVX_KERNEL TDbEntity : public TTextOwner {
+ public:
+  // Null for null and for objects that do not have this interface.
+  static TDbEntity* cast(const AcRxObject* object);
+  // Whether the command that edits objects of the family can edit this one.
+  virtual Adesk::Boolean IsEditable() const { return true; }
+};
+
+class QVX_KERNEL TDbCurveEntity : public TTextOwner {
+ public:
+  static TDbCurveEntity* cast(const AcRxObject* object);
+  virtual Adesk::Boolean IsEditable() const { return true; }
+};
