@@ -114,6 +114,25 @@ class AcDbBlockTable : public AcDbSymbolTable {
   ACRX_DECLARE_MEMBERS(AcDbBlockTable);
 };
 
+// A view of the drawing: the point in its middle and how high it is, in the display coordinates of
+// the viewport that shows it.
+class AcDbAbstractViewTableRecord : public AcDbSymbolTableRecord {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbAbstractViewTableRecord);
+  AcGePoint2d centerPoint() const { return m_center; }
+  void setCenterPoint(const AcGePoint2d& center) { m_center = center; }
+  double height() const { return m_height; }
+  void setHeight(double height) { m_height = height; }
+
+ private:
+  AcGePoint2d m_center;
+  double m_height = 1;
+};
+class AcDbViewTableRecord : public AcDbAbstractViewTableRecord {
+ public:
+  ACRX_DECLARE_MEMBERS(AcDbViewTableRecord);
+};
+
 #define ACDB_MODEL_SPACE L"*Model_Space"
 #define ACDB_PAPER_SPACE L"*Paper_Space"
 

@@ -77,7 +77,9 @@ void CommandEngine::Execute(Document& document, const std::wstring& text) {
   if (text[0] == L'(' || text[0] == L'!') {
     std::wstring error;
     ++m_depth;
+    TheHost().editor.LispWillStart(text);
     const LispValue value = ValueOf(document, text, &error);
+    TheHost().editor.LispEnded(!error.empty());
     --m_depth;
     TheHost().Print(error.empty() ? Printed(value) + L"\n" : L"; 错误: " + error + L"\n");
     return;
@@ -103,7 +105,9 @@ bool CommandEngine::ExecuteCommand(Document& document, std::wstring name, bool a
     TheJournal().Record("command", {{"phase", "start"}, {"name", Utf8(UpperCase(name))}});
     LispValue result;
     bool failed = false;
+    TheHost().editor.LispWillStart(L"(" + function + L")");
     CallLispFunction(document, function, {}, &result, &failed);
+    TheHost().editor.LispEnded(failed);
     document.commands.pop_back();
     --m_depth;
     TheJournal().Record(
@@ -136,6 +140,7 @@ void CommandEngine::Call(Document& document, const Command& command) {
   const bool outerCancelled = std::exchange(m_cancelled, false);
   EndPreview(document);
   document.commands.push_back(command.globalName);
+  TheHost().editor.CommandWillStart(command.globalName);
   auto recording = std::make_unique<UndoRecording>(document, command.globalName);
   TheJournal().Record("command", {{"phase", "start"}, {"name", Utf8(command.globalName)}});
 
@@ -149,15 +154,16 @@ void CommandEngine::Call(Document& document, const Command& command) {
   TheJournal().Record("command", {{"phase", "end"},
                                   {"name", Utf8(command.globalName)},
                                   {"result", m_cancelled ? "cancelled" : "ok"}});
-  m_cancelled = outerCancelled;
+  const bool cancelled = std::exchange(m_cancelled, outerCancelled);
   m_request = request;
   m_rubberFrom = rubber;
   m_requestPrompt = prompt;
   m_blanks = blanks;
   m_objectPrompts = objectPrompts;
   if (!TheHost().documents.FindDocument(self)) return;  // closed by the command
-  if (!self->commands.empty()) self->commands.pop_back();
   recording.reset();
+  TheHost().editor.CommandEnded(*self, command.globalName, cancelled);
+  if (!self->commands.empty()) self->commands.pop_back();
   if (!keepsPickSet && !self->pickFirst.empty() && m_depth == 0) SetPickFirst(*self, {});
   TheHost().Ui().PictureChanged(*self);
 }

@@ -10,6 +10,7 @@
 #include "devhost/core/commands/command_stack.h"
 #include "devhost/core/documents/document.h"
 #include "devhost/core/documents/document_list.h"
+#include "devhost/core/documents/editor_events.h"
 #include "devhost/core/host/host_ui.h"
 #include "devhost/core/modules/menu_groups.h"
 #include "devhost/core/modules/module_list.h"
@@ -47,6 +48,7 @@ class Host {
   DocumentList documents;
   CommandStack commands;
   CommandEngine engine;
+  EditorEvents editor;
   VariableTable variables;
   ModuleList modules;
   MenuGroups menuGroups;

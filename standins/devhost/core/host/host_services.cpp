@@ -22,6 +22,7 @@ AcRxDictionary* acrxSysRegistry() {
       if (!key) return nullptr;
       if (!std::wcscmp(key, L"DynamicLinker")) return &TheHost().modules;
       if (!std::wcscmp(key, ACRX_CMDS)) return &TheHost().commands;
+      if (!std::wcscmp(key, ACED_EDITOR_OBJ)) return &TheHost().editor;
       return nullptr;
     }
   };

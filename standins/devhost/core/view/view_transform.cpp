@@ -73,6 +73,12 @@ void ViewTransform::ZoomTo(const AcDbExtents& extents) {
   m_scale = std::clamp(std::min(m_width / w, m_height / h) * 0.95, kMinScale, kMaxScale);
 }
 
+void ViewTransform::ShowAt(double x, double y, double height) {
+  m_center.x = x;
+  m_center.y = y;
+  m_scale = std::clamp(m_height / height, kMinScale, kMaxScale);
+}
+
 void ViewTransform::PanBy(int dx, int dy) {
   m_center.x -= dx / m_scale;
   m_center.y += dy / m_scale;

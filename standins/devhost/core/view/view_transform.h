@@ -24,6 +24,8 @@ class ViewTransform {
   void ZoomAt(POINT pixel, double factor);  // keeps the world point under the pixel
   void ZoomTo(const AcDbExtents& extents);  // with a margin of a twentieth; ignores invalid extents
   void PanBy(int dx, int dy);               // pixels
+  // The middle in display coordinates, and the units from the lower to the upper edge.
+  void ShowAt(double x, double y, double height);
 
   // Turns the direction of view about the world point in the middle, by a drag of these pixels. The
   // plane z = 0 is never seen from its edge or from below.
