@@ -9,13 +9,24 @@ class CWinThread : public CCmdTarget {
   DECLARE_DYNAMIC(CWinThread)
  public:
   CWinThread() = default;
-  ~CWinThread() override;
+  ~CWinThread() override;  // closes m_hThread; the thread must have ended
 
+  BOOL m_bAutoDelete = TRUE;  // CreateThread's thread deletes this object when it ends
   CWnd* m_pMainWnd = nullptr;
   CWnd* m_pActiveWnd = nullptr;
   HANDLE m_hThread = nullptr;
   DWORD m_nThreadID = 0;
   MSG m_msgCur{};
+
+  // The thread runs InitInstance, then Run, or ExitInstance when that gave FALSE. FALSE: no thread
+  // was created, or this object has one already.
+  BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
+                    LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+  int GetThreadPriority() { return ::GetThreadPriority(m_hThread); }
+  BOOL SetThreadPriority(int nPriority) { return ::SetThreadPriority(m_hThread, nPriority); }
+  DWORD SuspendThread() { return ::SuspendThread(m_hThread); }
+  DWORD ResumeThread() { return ::ResumeThread(m_hThread); }
+  virtual void Delete();  // what m_bAutoDelete asks for
 
   virtual BOOL InitInstance() { return FALSE; }
   virtual int Run();

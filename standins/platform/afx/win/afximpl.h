@@ -1,8 +1,8 @@
 // Internals of the window part: the state of one thread, the maps from handles to objects and the
 // application state. Not included by headers of the library.
 //
-// The state of a thread is never freed: static window objects of modules destroy their windows
-// after thread storage is released, and use the maps for it.
+// The state of the program's own thread is never freed: static window objects of modules destroy
+// their windows after thread storage is released, and use the maps for it.
 #pragma once
 
 #include "../afxwin.h"
@@ -82,6 +82,7 @@ struct AfxThreadState {
 };
 
 AfxThreadState& AfxGetThreadState();
+void AfxFreeThreadState();  // of a thread of the library, which leaves no window objects behind
 
 class AFX_MODULE_STATE {
  public:

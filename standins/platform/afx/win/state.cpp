@@ -2,6 +2,8 @@
 // each thread (handle maps, current message).
 #include "afximpl.h"
 
+#include <utility>
+
 namespace {
 AFX_MODULE_STATE& ModuleState() {
   // Never freed: outlives the static objects of all modules.
@@ -58,11 +60,16 @@ AfxThreadState::AfxThreadState()
       contexts(MakeContext, [](CDC* dc) { dc->m_hDC = dc->m_hAttribDC = nullptr; }),
       objects(MakeObject, [](CGdiObject* object) { object->m_hObject = nullptr; }) {}
 
-AfxThreadState& AfxGetThreadState() {
-  static thread_local AfxThreadState* state = nullptr;
-  if (!state) state = new AfxThreadState;
-  return *state;
+namespace {
+thread_local AfxThreadState* s_state = nullptr;
 }
+
+AfxThreadState& AfxGetThreadState() {
+  if (!s_state) s_state = new AfxThreadState;
+  return *s_state;
+}
+
+void AfxFreeThreadState() { delete std::exchange(s_state, nullptr); }
 
 AFX_MODULE_STATE* AfxGetModuleState() { return &ModuleState(); }
 

@@ -5,12 +5,14 @@ IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 CWinThread::~CWinThread() {
+  if (m_hThread) ::CloseHandle(m_hThread);
   AfxThreadState& state = AfxGetThreadState();
   if (state.thread == this) state.thread = nullptr;
 }
 
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName ? lpszAppName : L"") {
   if (lpszAppName) m_pszAppName = m_strAppName;
+  m_bAutoDelete = FALSE;
   m_hThread = ::GetCurrentThread();
   m_nThreadID = ::GetCurrentThreadId();
   AfxGetModuleState()->app = this;
