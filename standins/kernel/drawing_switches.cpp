@@ -3,8 +3,10 @@
 #include <optional>
 
 #include "acdocman.h"
+#include "adslib.h"
 #include "axlock.h"
 #include "kernel/globals.h"
+#include "kernel/model_number.h"
 #include "kernel/tdbconfig.h"
 
 namespace {
@@ -32,6 +34,11 @@ void BoldLineOn() {
 }
 void TasGhdHsj123() {
   ChangeConfig([](TDbConfig& config) { config.SetBoldLine(0); });
+}
+void ToggleModelNumber() {
+  ChangeConfig(
+      [](TDbConfig& config) { config.SetFlags(config.Flags() ^ TDbConfig::kModelNumbers); });
+  acedRedraw(nullptr, 0);
 }
 void ToggleWallBase() {
   ChangeConfig([](TDbConfig& config) { config.SetWallBase(config.WallBase() == 1 ? 0 : 1); });

@@ -29,7 +29,10 @@ struct TDbConfigValues {
 class QVX_KERNEL TDbConfig : public AcDbObject {
  public:
   ACRX_DECLARE_MEMBERS(TDbConfig);
-  enum Flag { kPreviewOff = 0x200 };  // no selection preview in this drawing
+  enum Flag {
+    kPreviewOff = 0x200,    // no selection preview in this drawing
+    kModelNumbers = 0x400,  // openings show their model numbers
+  };
 
   int SolidFill() const { return m_values.solidFill; }
   int BoldLine() const { return m_values.boldLine; }

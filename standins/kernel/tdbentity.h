@@ -14,8 +14,9 @@ class QVX_KERNEL TTextOwner {
   typedef void (*EditFunction)(AcDbObjectId object);
 
   virtual ~TTextOwner();
-  virtual TSubText* GetSubText(int index) const;                // null: no such text
-  virtual TSubText* GetSubTextAt(const AcGePoint3d& at) const;  // by the place of a text, in world
+  virtual TSubText* GetSubText(int index) const = 0;  // null: no such text
+  virtual TSubText* GetSubTextAt(
+      const AcGePoint3d& at) const = 0;  // by the place of a text, in world
   virtual EditFunction GetEditFunction() const { return nullptr; }
 };
 
@@ -24,11 +25,11 @@ class QVX_KERNEL TDbEntity : public TTextOwner {
   // Null for null and for objects that do not have this interface.
   static TDbEntity* cast(const AcRxObject* object);
   // Whether the command that edits objects of the family can edit this one.
-  virtual Adesk::Boolean IsEditable() const { return true; }
+  virtual Adesk::Boolean IsEditable() const = 0;
 };
 
 class QVX_KERNEL TDbCurveEntity : public TTextOwner {
  public:
   static TDbCurveEntity* cast(const AcRxObject* object);
-  virtual Adesk::Boolean IsEditable() const { return true; }
+  virtual Adesk::Boolean IsEditable() const = 0;
 };

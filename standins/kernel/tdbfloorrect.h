@@ -3,8 +3,10 @@
 
 #include "kernel/entities/qvx_entity.h"
 
-class QVX_KERNEL TDbFloorRect : public QvxDbEntity {  // start, end the corners; label the storey
+class QVX_KERNEL TDbFloorRect
+    : public QvxEditable<TDbEntity> {  // start, end the corners; label the storey
  public:
   ACRX_DECLARE_MEMBERS(TDbFloorRect);
+  std::vector<QvxTextPlace> TextPlaces() const override;
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
 };

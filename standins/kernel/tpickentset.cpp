@@ -1,7 +1,34 @@
 #include "kernel/tpickentset.h"
 
 #include "adslib.h"
+#include "kernel/coordinates.h"
+#include "kernel/entities/tentitybase.h"
+#include "kernel/tacdbobjectptr.h"
 #include "kernel/view_pointer.h"
+
+namespace {
+
+bool AcceptsPointer(const TEntitySet& entity, const AcGePoint3d& world) {
+  const TAcDbObjectPtr<AcDbEntity> object(entity.ObjectId(), AcDb::kForRead);
+  const TEntityBase* base = TEntityBase::Cast(object.Get());
+  return !base || base->AcceptsPointer(world);
+}
+
+}  // namespace
+
+TPickEntSet& TPickEntSet::operator=(const TPickEntSet& other) {
+  if (this == &other) return *this;
+  Free();
+  m_mode = kOwned;
+  const int length = other.Length();
+  for (int i = 0; i < length; ++i) {
+    const TEntitySet entity = other[i];
+    ads_name grown{};
+    if (acedSSAdd(entity.Name(), HasSet() ? m_name : nullptr, grown) != RTNORM) continue;
+    m_name[0] = grown[0], m_name[1] = grown[1];
+  }
+  return *this;
+}
 
 int TPickEntSet::Get(const wchar_t* mode, const AcGePoint3d* first, const AcGePoint3d* second,
                      const resbuf* filter) {
@@ -14,10 +41,37 @@ int TPickEntSet::Get(const wchar_t* mode, const AcGePoint3d* first, const AcGePo
   return status;
 }
 
+int TPickEntSet::GetFirst() {
+  Free();
+  resbuf *grips = nullptr, *picked = nullptr;
+  const int status = acedSSGetFirst(&grips, &picked);
+  for (resbuf* list : {picked, grips}) {
+    if (list && list->restype == RTPICKS) {
+      const ads_name& set = list->resval.rlname;
+      if (status == RTNORM && !HasSet()) {
+        m_mode = kOwned;
+        m_name[0] = set[0], m_name[1] = set[1];
+      } else {
+        acedSSFree(set);
+      }
+    }
+    acutRelRb(list);
+  }
+  return HasSet() ? RTNORM : RTERROR;
+}
+
 int TPickEntSet::GetPreSel() {
   Free();
-  AcGePoint3d at;
-  return PointerInView(at) ? Get(nullptr, &at) : RTERROR;
+  AcGePoint3d world;
+  if (!PointerInView(world)) return RTERROR;
+  // Selections take points of the user's system.
+  const AcGePoint3d user = Converted(world, CoordinateSystem::World, CoordinateSystem::User);
+  const int status = Get(nullptr, &user);
+  if (status == RTNORM && !AcceptsPointer((*this)[0], world)) {
+    Free();
+    return RTERROR;
+  }
+  return status;
 }
 
 void TPickEntSet::Set(const TEntitySet& entity) {

@@ -16,13 +16,16 @@ class QVX_KERNEL TPickEntSet {
   explicit TPickEntSet(int mode = kOwned) noexcept : m_mode(mode) {}
   ~TPickEntSet() { Free(); }
   TPickEntSet(const TPickEntSet&) = delete;
-  TPickEntSet& operator=(const TPickEntSet&) = delete;
+  TPickEntSet& operator=(const TPickEntSet& other);  // a set of its own with the same objects
 
   // Selects as acedSSGet does with this mode, points and filter; replaces the old content. "I" is
   // the implied selection, null with a point the object there. RTNORM or the host's error.
   int Get(const wchar_t* mode, const AcGePoint3d* first = nullptr,
           const AcGePoint3d* second = nullptr, const resbuf* filter = nullptr);
-  // The object under the pointer in the drawing view. A hit test; can be slow.
+  // The current selection. Unlike Get(L"I") it does not change the previous selection.
+  int GetFirst();
+  // The object under the pointer in the current view, if its AcceptsPointer agrees. A hit test; can
+  // be slow.
   int GetPreSel();
   void Set(const TEntitySet& entity);  // this object only; an empty one empties the set
 

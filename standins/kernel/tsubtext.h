@@ -1,7 +1,8 @@
-// One piece of editable text inside a drawing object: a name of a room, a cell of a sheet's title
-// block. It names its object, and reads the text at the time it was made; the object may change or
-// go while it lives.
+// One piece of editable text inside a drawing object: the name of a room, a cell of a title block.
+// The text is read when the fragment is made; the object may change or go while the fragment lives.
 #pragma once
+
+#include <memory>
 
 #include "afx.h"
 #include "dbmain.h"
@@ -12,7 +13,7 @@ using TADSGePoint3d = AcGePoint3d;
 
 class QVX_KERNEL TSubText {
  public:
-  // `entity`: the object, or a copy of it that is deleted with this when `owned`; read here.
+  // `entity` is the object, or a copy of it, which is deleted with the fragment when it is `owned`.
   TSubText(AcDbObjectId object, AcDbEntity* entity, long index, bool owned, bool multiLine);
   virtual ~TSubText();
   TSubText(const TSubText&) = delete;
@@ -20,20 +21,19 @@ class QVX_KERNEL TSubText {
 
   CString GetText() const { return m_text; }
   void SetText(CString text) { m_text = text; }  // here only, for measuring
-  // Lower left and upper right corner in the world; equal for a text that draws nothing.
+  // Corners in the world of the upright box around the text; equal when there is no text.
   void GetExtent2d(TADSGePoint3d& lower, TADSGePoint3d& upper) const;
   long GetIndex() const { return m_index; }  // the place of the text in its object
   void SetIndex(long index) { m_index = index; }
   AcDbObjectId GetObjectId() const { return m_object; }
   void Highlight(bool on) const;  // the whole object
   bool IsMultiLine() const { return m_multiLine; }
-  int GetMenuType() const;  // which pop-up menu belongs to it: 1 to 7, 0 for the general one
 
  private:
   AcDbObjectId m_object;
-  AcDbEntity* m_entity;
+  std::unique_ptr<AcDbEntity> m_copy;  // null when the object itself is asked
   long m_index;
-  bool m_owned, m_multiLine;
+  bool m_multiLine;
   CString m_text;
 };
 

@@ -3,6 +3,7 @@
 
 #include "kernel/entities/tdbdimension2.h"
 #include "kernel/tdbconfig.h"
+#include "kernel/tdbfloorrect.h"
 
 #include <cmath>
 #include <numbers>
@@ -20,6 +21,8 @@ ACRX_DXF_DEFINE_MEMBERS(QvxDbText, QvxDbEntity, 0, 0, 0, QVX_TEXT, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbStair, QvxDbEntity, 0, 0, 0, QVX_STAIR, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbSpace, QvxDbEntity, 0, 0, 0, QVX_SPACE, qvx_kernal)
 
+ACRX_DXF_DEFINE_MEMBERS(TDbFloorRect, QvxDbEntity, 0, 0, 0, QVX_FLOORRECT, qvx_kernal)
+
 Acad::ErrorStatus QvxDbEntity::subTransformBy(const AcGeMatrix3d& matrix) {
   start = matrix * start;
   end = matrix * end;
@@ -32,6 +35,8 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
   label.clear();
   outline.clear();
+  cells.clear();
+  group = control = 0;
   resbuf item{};
   while (filer->readItem(&item) == Acad::eOk) {
     const AcGePoint3d point(item.resval.rpoint[0], item.resval.rpoint[1], item.resval.rpoint[2]);
@@ -64,6 +69,15 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
       case 71:
         flags = item.resval.rint;
         break;
+      case 72:
+        group = item.resval.rint;
+        break;
+      case 73:
+        control = item.resval.rint;
+        break;
+      case 302:
+        cells.emplace_back(item.resval.rstring);
+        break;
       default:
         break;
     }
@@ -76,6 +90,9 @@ Acad::ErrorStatus QvxDbEntity::dxfOutFields(AcDbDxfFiler* filer) const {
   filer->writeString(100, isA()->name());
   if (!label.empty()) filer->writeString(1, label.c_str());
   filer->writeDouble(42, m_pscale);
+  if (group) filer->writeInt(72, group);
+  if (control) filer->writeInt(73, control);
+  for (const std::wstring& cell : cells) filer->writeString(302, cell.c_str());
   if (HasOutline()) {
     filer->writeInt(90, static_cast<int>(outline.size()));
     for (const AcGePoint3d& corner : outline) filer->writePoint(10, corner);
@@ -123,12 +140,13 @@ void Forget() {
 
 void BeginQvxEntities() {
   RegisterAll<QvxDbEntity, QvxDbWall, QvxDbOpening, QvxDbColumn, QvxDbAxisNumber, QvxDbText,
-              QvxDbStair, TDbDimension2, QvxDbSpace>();
+              QvxDbStair, TDbDimension2, QvxDbSpace, TDbFloorRect>();
   acrxBuildClassHierarchy();
 }
 
 void EndQvxEntities() {
   Forget<TDbConfig>();
+  Forget<TDbFloorRect>();
   Forget<QvxDbSpace>();
   Forget<TDbDimension2>();
   Forget<QvxDbStair>();

@@ -8,9 +8,13 @@
 #include <string>
 #include <vector>
 
+#include <type_traits>
+
 #include "dbents.h"
 #include "kernel/entities/tentitybase.h"
 #include "kernel/kernel_export.h"
+#include "kernel/tdbentity.h"
+#include "kernel/text_place.h"
 
 class QVX_KERNEL QvxDbEntity : public AcDbEntity, public TEntityBase {
  public:
@@ -22,36 +26,73 @@ class QVX_KERNEL QvxDbEntity : public AcDbEntity, public TEntityBase {
   int kind = 0, flags = 0;           // groups 70 and 71
   std::wstring label;                // group 1
   std::vector<AcGePoint3d> outline;  // further groups 10 of a class that has corners
+  int group = 0;                     // group 72, 0 for none: what is controlled together
+  int control = 0;                   // group 73: 1 while the control state is on
+  std::vector<std::wstring> cells;   // groups 302: texts beside the label
 
+  // The texts that can be edited, in the order of their indices.
+  virtual std::vector<QvxTextPlace> TextPlaces() const { return {}; }
+  virtual TDbEntity* AsEntity() { return nullptr; }
+  virtual TDbCurveEntity* AsCurveEntity() { return nullptr; }
+
+  long GroupKey() const override;
+  void ToggleCtrl() override;
   Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix) override;
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;
   Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
 
  protected:
   virtual bool HasOutline() const { return false; }
+  bool IsOnLockedLayer() const;
+  TSubText* MakeSubText(int index) const;
+  TSubText* MakeSubTextAt(const AcGePoint3d& at) const;
+  void DrawControl(AcGiWorldDraw* draw) const;  // a cross at each control point, while it is on
 };
 
-#define QVX_ENTITY(CLASS)                                  \
-  class QVX_KERNEL CLASS : public QvxDbEntity {            \
+// A drawing object with one of the two interfaces. What lies on a locked layer cannot be edited.
+template <class Interface>
+class QvxEditable : public QvxDbEntity, public Interface {
+ public:
+  TDbEntity* AsEntity() override { return As<TDbEntity>(); }
+  TDbCurveEntity* AsCurveEntity() override { return As<TDbCurveEntity>(); }
+  Adesk::Boolean IsEditable() const override { return !IsOnLockedLayer(); }
+  TSubText* GetSubText(int index) const override { return MakeSubText(index); }
+  TSubText* GetSubTextAt(const AcGePoint3d& at) const override { return MakeSubTextAt(at); }
+
+ private:
+  template <class Asked>
+  Asked* As() {
+    if constexpr (std::is_same_v<Asked, Interface>) return this;
+    return nullptr;
+  }
+};
+
+#define QVX_ENTITY(CLASS, INTERFACE, ...)                  \
+  class QVX_KERNEL CLASS : public QvxEditable<INTERFACE> { \
    public:                                                 \
     ACRX_DECLARE_MEMBERS(CLASS);                           \
     bool subWorldDraw(AcGiWorldDraw* draw) const override; \
+    __VA_ARGS__                                            \
   }
+#define QVX_TEXTS std::vector<QvxTextPlace> TextPlaces() const override;
 
-QVX_ENTITY(QvxDbWall);        // start, end; width; size is the height
-QVX_ENTITY(QvxDbOpening);     // start the middle; width of the wall; size; kind 0 door, 1 window;
-                              // flags: 1 opens downwards, 2 hinge on the other side
-QVX_ENTITY(QvxDbColumn);      // start the middle; width by size
-QVX_ENTITY(QvxDbAxisNumber);  // start the middle; width the radius; label
-QVX_ENTITY(QvxDbText);        // start; width the height; angle; label
-QVX_ENTITY(QvxDbStair);       // start the lower left; width by size; kind the number of steps
+QVX_ENTITY(QvxDbWall, TDbCurveEntity);  // start, end; width; size is the height
+QVX_ENTITY(QvxDbOpening, TDbEntity,
+           QVX_TEXTS);  // start the middle; width of the wall; size; kind 0 door, 1 window;
+                        // flags: 1 opens downwards, 2 hinge on the other side
+QVX_ENTITY(QvxDbColumn, TDbEntity);                 // start the middle; width by size
+QVX_ENTITY(QvxDbAxisNumber, TDbEntity, QVX_TEXTS);  // start the middle; width the radius; label
+QVX_ENTITY(QvxDbText, TDbEntity, QVX_TEXTS);        // start; width the height; angle; label
+QVX_ENTITY(QvxDbStair, TDbEntity);  // start the lower left; width by size; kind the number of steps
+#undef QVX_TEXTS
 #undef QVX_ENTITY
 
-class QVX_KERNEL QvxDbSpace : public QvxDbEntity {  // outline; label
+class QVX_KERNEL QvxDbSpace : public QvxEditable<TDbEntity> {  // outline; label
  public:
   ACRX_DECLARE_MEMBERS(QvxDbSpace);
   double Area() const;  // square units
   AcGePoint3d Middle() const;
+  std::vector<QvxTextPlace> TextPlaces() const override;
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
 
  protected:

@@ -7,13 +7,15 @@
 #include "dbsymtb.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/tdbconfig.h"
+#include "kernel/tdbfloorrect.h"
 
 namespace {
 
 constexpr double kOnAxis =
     1;  // mm; greatest distance of an opening's middle from the axis of its wall
 constexpr short kGlass = 4, kFillColor = 8, kLeaf = 2, kBaseLine = 1, kByLayer = 256;
-constexpr double kBoldPen = 40;  // mm at the default scale
+constexpr short kControlColor = 6;
+constexpr double kBoldPen = 40, kControlArm = 120;  // mm at the default scale
 
 AcGePoint3d At(const AcGePoint3d& origin, const AcGeVector3d& along, double x, double y) {
   return {origin.x + along.x * x - along.y * y, origin.y + along.y * x + along.x * y, origin.z};
@@ -35,12 +37,15 @@ void Segment(AcGiWorldDraw* draw, const AcGePoint3d& a, const AcGePoint3d& b) {
   draw->geometry().polyline(2, ends);
 }
 
-void Centered(AcGiWorldDraw* draw, const AcGePoint3d& middle, double height,
-              const std::wstring& text) {
-  double length = 0;
-  for (wchar_t c : text) length += c >= 0x2E80 ? 1.0 : 0.6;
-  draw->geometry().text({middle.x - length * height / 2, middle.y - height / 2, 0},
-                        AcGeVector3d::kZAxis, AcGeVector3d::kXAxis, height, 1, 0, text.c_str());
+void Write(AcGiWorldDraw* draw, const QvxTextPlace& place) {
+  draw->geometry().text(place.at, AcGeVector3d::kZAxis,
+                        {std::cos(place.angle), std::sin(place.angle), 0}, place.height, 1, 0,
+                        place.text.c_str());
+}
+
+void WriteAll(AcGiWorldDraw* draw, const std::vector<QvxTextPlace>& places) {
+  for (const QvxTextPlace& place : places)
+    if (!place.text.empty()) Write(draw, place);
 }
 
 struct Gap {
@@ -68,6 +73,14 @@ std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double
 }  // namespace
 
 namespace {
+
+bool ShowsModelNumbers(AcDbDatabase* database) {
+  TDbConfig* config = GetDwgGlobal(AcDb::kForRead, database);
+  if (!config) return false;
+  const bool shown = (config->Flags() & TDbConfig::kModelNumbers) != 0;
+  config->close();
+  return shown;
+}
 
 // The current display switches of walls and columns.
 struct CutLook {
@@ -123,6 +136,7 @@ bool QvxDbWall::subWorldDraw(AcGiWorldDraw* draw) const {
     draw->subEntityTraits().setColor(kBaseLine);
     Segment(draw, start, end);
   }
+  DrawControl(draw);
   return true;
 }
 
@@ -131,6 +145,8 @@ bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
   const double half = size / 2, deep = width / 2;
   for (double x : {-half, half})
     Segment(draw, At(start, along, x, -deep), At(start, along, x, deep));
+  WriteAll(draw, TextPlaces());
+  DrawControl(draw);
   if (kind == 1) {
     draw->subEntityTraits().setColor(kGlass);
     for (double y : {-deep, -deep / 3, deep / 3, deep})
@@ -149,6 +165,14 @@ bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
   return true;
 }
 
+// The model number is one of the texts while the drawing shows it.
+std::vector<QvxTextPlace> QvxDbOpening::TextPlaces() const {
+  if (!ShowsModelNumbers(database())) return {};
+  const AcGeVector3d up(-std::sin(angle), std::cos(angle), 0);
+  const double height = 250 * ScaleFactor();
+  return {QvxTextPlace::Around(start + up * (width / 2 + height), height, label)};
+}
+
 bool QvxDbColumn::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
   Piece(draw, start, along, -width / 2, -size / 2, width / 2, size / 2,
@@ -159,13 +183,21 @@ bool QvxDbColumn::subWorldDraw(AcGiWorldDraw* draw) const {
 bool QvxDbAxisNumber::subWorldDraw(AcGiWorldDraw* draw) const {
   const double radius = width * ScaleFactor();
   draw->geometry().circle(start, radius, AcGeVector3d::kZAxis);
-  Centered(draw, start, radius, label);
+  WriteAll(draw, TextPlaces());
   return true;
 }
 
+std::vector<QvxTextPlace> QvxDbAxisNumber::TextPlaces() const {
+  return {QvxTextPlace::Around(start, width * ScaleFactor(), label)};
+}
+
 bool QvxDbText::subWorldDraw(AcGiWorldDraw* draw) const {
-  return draw->geometry().text(start, AcGeVector3d::kZAxis, {std::cos(angle), std::sin(angle), 0},
-                               width * ScaleFactor(), 1, 0, label.c_str());
+  Write(draw, TextPlaces()[0]);
+  return true;
+}
+
+std::vector<QvxTextPlace> QvxDbText::TextPlaces() const {
+  return {{label, start, width * ScaleFactor(), angle, 0}};
 }
 
 bool QvxDbStair::subWorldDraw(AcGiWorldDraw* draw) const {
@@ -185,9 +217,39 @@ bool QvxDbSpace::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGePoint3d middle = Middle();
   const double f = ScaleFactor();
   draw->subEntityTraits().setColor(3);
-  Centered(draw, {middle.x, middle.y + 220 * f, 0}, 300 * f, label);
+  Write(draw, TextPlaces()[0]);
   wchar_t area[40];
   std::swprintf(area, 40, L"%.2f m²", Area() / 1e6);
-  Centered(draw, {middle.x, middle.y - 220 * f, 0}, 240 * f, area);
+  Write(draw, QvxTextPlace::Around({middle.x, middle.y - 220 * f, 0}, 240 * f, area));
   return true;
+}
+
+std::vector<QvxTextPlace> QvxDbSpace::TextPlaces() const {
+  if (outline.size() < 3) return {};
+  const AcGePoint3d middle = Middle();
+  const double f = ScaleFactor();
+  return {QvxTextPlace::Around({middle.x, middle.y + 220 * f, 0}, 300 * f, label)};
+}
+
+std::vector<QvxTextPlace> TDbFloorRect::TextPlaces() const {
+  const double f = ScaleFactor();
+  return {QvxTextPlace::Around({(start.x + end.x) / 2, std::min(start.y, end.y) - 600 * f, 0},
+                               500 * f, label)};
+}
+
+bool TDbFloorRect::subWorldDraw(AcGiWorldDraw* draw) const {
+  Rectangle(draw, start, AcGeVector3d::kXAxis, 0, 0, end.x - start.x, end.y - start.y, false);
+  WriteAll(draw, TextPlaces());
+  return true;
+}
+
+void QvxDbEntity::DrawControl(AcGiWorldDraw* draw) const {
+  if (!control) return;
+  const double arm = kControlArm * ScaleFactor();
+  draw->subEntityTraits().setColor(kControlColor);
+  for (const AcGePoint3d& at : {start, end}) {
+    Segment(draw, at + AcGeVector3d(-arm, -arm, 0), at + AcGeVector3d(arm, arm, 0));
+    Segment(draw, at + AcGeVector3d(-arm, arm, 0), at + AcGeVector3d(arm, -arm, 0));
+  }
+  draw->subEntityTraits().setColor(kByLayer);
 }

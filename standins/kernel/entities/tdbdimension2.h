@@ -5,7 +5,7 @@
 
 #include "kernel/entities/qvx_entity.h"
 
-class QVX_KERNEL TDbDimension2 : public QvxDbEntity {
+class QVX_KERNEL TDbDimension2 : public QvxEditable<TDbEntity> {
  public:
   ACRX_DECLARE_MEMBERS(TDbDimension2);
   enum Kind { kLinear = 0, kAngular = 1 };

@@ -12,6 +12,8 @@ void TEntityBase::SetPScale(double scale) {
   if (std::isfinite(scale)) m_pscale = scale;
 }
 
+bool TEntityBase::AcceptsPointer(const AcGePoint3d&) const { return true; }
+
 long TEntityBase::GroupKey() const { return 0; }
 
 void TEntityBase::ToggleCtrl() {}

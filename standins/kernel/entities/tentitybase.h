@@ -2,6 +2,7 @@
 // scale of their annotations.
 #pragma once
 
+#include "gepnt3d.h"
 #include "kernel/kernel_export.h"
 #include "rxobject.h"
 
@@ -16,6 +17,10 @@ class QVX_KERNEL TEntityBase {
   // 100 means 1:100. Ignored unless finite; a value of 0 or less is drawn with the default.
   double GetPScale() const { return m_pscale; }
   virtual void SetPScale(double scale);
+
+  // Whether the object counts as under a pointer that the host found to be on it; a class may look
+  // closer. In world coordinates.
+  virtual bool AcceptsPointer(const AcGePoint3d& at) const;
 
   // Objects with the same key are controlled together; one without a group has a key of its own.
   virtual long GroupKey() const;

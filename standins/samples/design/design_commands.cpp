@@ -8,10 +8,10 @@
 #include <numbers>
 
 #include "aced.h"
+#include "add_entity.h"
 #include "adslib.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
-#include "kernel/drawing_scale.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/entities/tdbdimension2.h"
 
@@ -19,30 +19,6 @@ namespace {
 
 // mm on paper between the dimension line and the measured points
 constexpr double kDimensionOff = 10;
-
-AcGePoint3d Of(const ads_point p) { return {p[0], p[1], p[2]}; }
-
-AcDbBlockTableRecord* Space() {
-  AcDbDatabase* database = acdbHostApplicationServices()->workingDatabase();
-  return database ? AcDbBlockTableRecord::cast(database->currentSpaceId().object()) : nullptr;
-}
-
-void Add(std::unique_ptr<AcDbEntity> entity, const wchar_t* layer, int color) {
-  AcDbDatabase* database = acdbHostApplicationServices()->workingDatabase();
-  AcDbLayerTable* layers = nullptr;
-  if (!database || database->getLayerTable(layers, AcDb::kForWrite) != Acad::eOk) return;
-  if (!layers->has(layer)) {
-    auto* record = new AcDbLayerTableRecord;
-    record->setName(layer);
-    record->setColorIndex(color);
-    layers->add(record);
-  }
-  layers->close();
-  entity->setLayer(layer);
-  if (TEntityBase* base = TEntityBase::Cast(entity.get())) base->SetPScale(DocGetPScale());
-  if (Space()->appendAcDbEntity(entity.get()) == Acad::eOk) entity.release();
-  acedRedraw(nullptr, 0);
-}
 
 template <class Entity>
 std::unique_ptr<Entity> Make(const AcGePoint3d& start, double width = 0, double size = 0) {
@@ -59,9 +35,9 @@ void DrawWalls() {
   int count = 0;
   if (acedGetPoint(nullptr, L"\n起点或 <退出>: ", from) != RTNORM) return;
   while (acedGetPoint(from, L"\n直墙下一点或 <结束>: ", to) == RTNORM) {
-    auto wall = Make<QvxDbWall>(Of(from), 240, 3000);
-    wall->end = Of(to);
-    Add(std::move(wall), L"WALL", 9);
+    auto wall = Make<QvxDbWall>(WorldPoint(from), 240, 3000);
+    wall->end = WorldPoint(to);
+    AddEntity(std::move(wall), L"WALL", 9);
     std::copy(to, to + 3, from);
     ++count;
   }
@@ -83,13 +59,13 @@ void DrawAxes() {
   rows = std::min(rows, 100);
   const double width = bay * columns, height = depth * rows, over = 1500;
   for (int i = 0; i <= columns; ++i)
-    Add(std::make_unique<AcDbLine>(AcGePoint3d(at[0] + bay * i, at[1] - over, 0),
-                                   AcGePoint3d(at[0] + bay * i, at[1] + height + over, 0)),
-        L"DOTE", 1);
+    AddEntity(std::make_unique<AcDbLine>(AcGePoint3d(at[0] + bay * i, at[1] - over, 0),
+                                         AcGePoint3d(at[0] + bay * i, at[1] + height + over, 0)),
+              L"DOTE", 1);
   for (int i = 0; i <= rows; ++i)
-    Add(std::make_unique<AcDbLine>(AcGePoint3d(at[0] - over, at[1] + depth * i, 0),
-                                   AcGePoint3d(at[0] + width + over, at[1] + depth * i, 0)),
-        L"DOTE", 1);
+    AddEntity(std::make_unique<AcDbLine>(AcGePoint3d(at[0] - over, at[1] + depth * i, 0),
+                                         AcGePoint3d(at[0] + width + over, at[1] + depth * i, 0)),
+              L"DOTE", 1);
   acutPrintf(L"\n轴网 %d x %d。\n", columns, rows);
 }
 
@@ -98,15 +74,15 @@ void NumberAxis() {
   ACHAR label[140];
   if (acedGetPoint(nullptr, L"\n轴号位置: ", at) != RTNORM) return;
   if (acedGetString(0, L"\n轴号 <1>: ", label) != RTNORM) return;
-  auto number = Make<QvxDbAxisNumber>(Of(at), 400);
+  auto number = Make<QvxDbAxisNumber>(WorldPoint(at), 400);
   number->label = *label ? label : L"1";
-  Add(std::move(number), L"AXIS", 3);
+  AddEntity(std::move(number), L"AXIS", 3);
 }
 
 void InsertColumn() {
   ads_point at{};
   while (acedGetPoint(nullptr, L"\n柱子插入点 <退出>: ", at) == RTNORM)
-    Add(Make<QvxDbColumn>(Of(at), 400, 400), L"COLUMN", 9);
+    AddEntity(Make<QvxDbColumn>(WorldPoint(at), 400, 400), L"COLUMN", 9);
 }
 
 // The wall with the nearest axis within reach, and the nearest point on it.
@@ -114,7 +90,7 @@ const QvxDbWall* WallNear(const AcGePoint3d& p, AcGePoint3d* foot) {
   constexpr double kReach = 400;
   const QvxDbWall* best = nullptr;
   double nearest = kReach;
-  for (AcDbObjectId id : Space()->entities()) {
+  for (AcDbObjectId id : CurrentSpace()->entities()) {
     const QvxDbWall* wall = id.isErased() ? nullptr : QvxDbWall::cast(id.object());
     if (!wall) continue;
     const double length = wall->start.distanceTo(wall->end);
@@ -133,8 +109,8 @@ const QvxDbWall* WallNear(const AcGePoint3d& p, AcGePoint3d* foot) {
 void InsertOpenings(int kind, double size, const wchar_t* label, const wchar_t* prompt) {
   ads_point at{};
   while (acedGetPoint(nullptr, prompt, at) == RTNORM) {
-    AcGePoint3d foot = Of(at);
-    const QvxDbWall* wall = WallNear(Of(at), &foot);
+    AcGePoint3d foot = WorldPoint(at);
+    const QvxDbWall* wall = WallNear(WorldPoint(at), &foot);
     if (!wall) {
       acutPrintf(L"\n附近没有墙，请在墙上点取。\n");
       continue;
@@ -143,7 +119,7 @@ void InsertOpenings(int kind, double size, const wchar_t* label, const wchar_t* 
     opening->angle = std::atan2(wall->end.y - wall->start.y, wall->end.x - wall->start.x);
     opening->kind = kind;
     opening->label = label;
-    Add(std::move(opening), L"WINDOW", 4);
+    AddEntity(std::move(opening), L"WINDOW", 4);
   }
 }
 
@@ -153,9 +129,9 @@ void InsertWindows() { InsertOpenings(1, 1500, L"C1515", L"\n点取窗的位置 
 void DrawStair() {
   ads_point at{};
   if (acedGetPoint(nullptr, L"\n梯段左下角: ", at) != RTNORM) return;
-  auto stair = Make<QvxDbStair>(Of(at), 1200, 3000);
+  auto stair = Make<QvxDbStair>(WorldPoint(at), 1200, 3000);
   stair->kind = 11;
-  Add(std::move(stair), L"STAIR", 2);
+  AddEntity(std::move(stair), L"STAIR", 2);
 }
 
 void DrawRoom() {
@@ -165,10 +141,10 @@ void DrawRoom() {
   if (acedGetCorner(a, L"\n对角: ", b) != RTNORM) return;
   if (acedGetString(1, L"\n房间名称 <房间>: ", name) != RTNORM) return;
   auto room = std::make_unique<QvxDbSpace>();
-  room->outline = {Of(a), {b[0], a[1], 0}, Of(b), {a[0], b[1], 0}};
+  room->outline = {WorldPoint(a), {b[0], a[1], 0}, WorldPoint(b), {a[0], b[1], 0}};
   room->label = *name ? name : L"房间";
   acutPrintf(L"\n面积 %.2f 平方米。\n", room->Area() / 1e6);
-  Add(std::move(room), L"SPACE", 3);
+  AddEntity(std::move(room), L"SPACE", 3);
 }
 
 void WriteText() {
@@ -176,9 +152,9 @@ void WriteText() {
   ACHAR text[140];
   if (acedGetString(1, L"\n文字内容: ", text) != RTNORM || !*text) return;
   if (acedGetPoint(nullptr, L"\n插入位置: ", at) != RTNORM) return;
-  auto label = Make<QvxDbText>(Of(at), 350);
+  auto label = Make<QvxDbText>(WorldPoint(at), 350);
   label->label = text;
-  Add(std::move(label), L"TEXT", 7);
+  AddEntity(std::move(label), L"TEXT", 7);
 }
 
 void Dimension() {
@@ -186,11 +162,12 @@ void Dimension() {
   if (acedGetPoint(nullptr, L"\n起点: ", a) != RTNORM) return;
   if (acedGetPoint(a, L"\n终点: ", b) != RTNORM) return;
   if (acedGetPoint(b, L"\n尺寸线位置: ", line) != RTNORM) return;
-  const AcGeVector3d along = (Of(b) - Of(a)).normal(), offset = Of(line) - Of(a);
+  const AcGeVector3d along = (WorldPoint(b) - WorldPoint(a)).normal(),
+                     offset = WorldPoint(line) - WorldPoint(a);
   auto dimension =
-      Make<TDbDimension2>(Of(a), along.x * offset.y - along.y * offset.x, kDimensionOff);
-  dimension->end = Of(b);
-  Add(std::move(dimension), L"DIM", 3);
+      Make<TDbDimension2>(WorldPoint(a), along.x * offset.y - along.y * offset.x, kDimensionOff);
+  dimension->end = WorldPoint(b);
+  AddEntity(std::move(dimension), L"DIM", 3);
 }
 
 void AngularDimension() {
@@ -200,13 +177,15 @@ void AngularDimension() {
   if (acedGetPoint(corner, L"\n第二边上一点: ", b) != RTNORM) return;
   if (acedGetPoint(corner, L"\n尺寸线位置: ", line) != RTNORM) return;
   constexpr double kTurn = 2 * std::numbers::pi;
-  const AcGeVector3d first = Of(a) - Of(corner), second = Of(b) - Of(corner);
+  const AcGeVector3d first = WorldPoint(a) - WorldPoint(corner),
+                     second = WorldPoint(b) - WorldPoint(corner);
   const double sweep = std::atan2(second.y, second.x) - std::atan2(first.y, first.x);
-  auto dimension = Make<TDbDimension2>(Of(corner), Of(corner).distanceTo(Of(line)), kDimensionOff);
-  dimension->end = Of(a);
+  auto dimension = Make<TDbDimension2>(
+      WorldPoint(corner), WorldPoint(corner).distanceTo(WorldPoint(line)), kDimensionOff);
+  dimension->end = WorldPoint(a);
   dimension->kind = TDbDimension2::kAngular;
   dimension->angle = sweep < 0 ? sweep + kTurn : sweep;
-  Add(std::move(dimension), L"DIM", 3);
+  AddEntity(std::move(dimension), L"DIM", 3);
 }
 
 void MeasureRoom() {

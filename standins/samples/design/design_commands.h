@@ -2,9 +2,12 @@
 // host, which reports them.
 #pragma once
 
+#include "accmd.h"
+
 struct DesignCommand {
   const wchar_t* name;
   void (*run)();
+  int flags = ACRX_CMD_MODAL;
 };
 
 extern const DesignCommand kDesignCommands[];

@@ -1,6 +1,8 @@
 // The entry point of the sample design module.
 #include "aced.h"
 #include "adslib.h"
+#include "annotation_commands.h"
+#include "annotation_entities.h"
 #include "design_commands.h"
 #include "design_lisp.h"
 
@@ -10,11 +12,17 @@ constexpr wchar_t kGroup[] = L"QVX_DESIGN";
 
 AcEdCommandStack* Commands() { return AcEdCommandStack::cast(acrxSysRegistry()->at(ACRX_CMDS)); }
 
+void RegisterAll(AcEdCommandStack& stack, const DesignCommand* commands, int count) {
+  for (int i = 0; i < count; ++i)
+    stack.addCommand(kGroup, commands[i].name, commands[i].name, commands[i].flags,
+                     commands[i].run);
+}
+
 void Register() {
   AcEdCommandStack* stack = Commands();
-  for (int i = 0; stack && i < kDesignCommandCount; ++i)
-    stack->addCommand(kGroup, kDesignCommands[i].name, kDesignCommands[i].name, ACRX_CMD_MODAL,
-                      kDesignCommands[i].run);
+  if (!stack) return;
+  RegisterAll(*stack, kDesignCommands, kDesignCommandCount);
+  RegisterAll(*stack, kAnnotationCommands, kAnnotationCommandCount);
 }
 
 void InvokeFunction() {
@@ -30,10 +38,12 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
     case AcRx::kInitAppMsg:
       acrxUnlockApplication(packet);
       acrxRegisterAppMDIAware(packet);
+      BeginAnnotationEntities();
       Register();
       break;
     case AcRx::kUnloadAppMsg:
       if (AcEdCommandStack* stack = Commands()) stack->removeGroup(kGroup);
+      EndAnnotationEntities();
       break;
     case AcRx::kLoadDwgMsg:
       for (int i = 0; i < kDesignFunctionCount; ++i) acedDefun(kDesignFunctions[i].name, i);
