@@ -1,7 +1,9 @@
 #include "kernel/current_drawing.h"
 
 #include "acdocman.h"
+#include "kernel/drawing_data.h"
 #include "kernel/globals.h"
+#include "kernel/kernel_start.h"
 #include "kernel/recent_drawings.h"
 
 namespace {
@@ -9,7 +11,7 @@ namespace {
 class CurrentDrawingReactor : public AcApDocManagerReactor {
  public:
   void documentBecameCurrent(AcApDocument* document) override {
-    DocStatus();
+    NoteActiveDrawing();
     if (document && g_bAutoOpenRecent) NoteRecentDrawing(g_sRecentFiles, document->fileName());
   }
   void documentToBeDestroyed(AcApDocument* document) override {
@@ -26,10 +28,12 @@ CurrentDrawingReactor& CurrentDrawing() {
 
 void BeginCurrentDrawing() {
   acDocManagerPtr()->addReactor(&CurrentDrawing());
-  DocStatus();
+  BeginDrawingData();
+  NoteActiveDrawing();
 }
 
 void EndCurrentDrawing() {
   acDocManagerPtr()->removeReactor(&CurrentDrawing());
+  EndDrawingData();
   QvxGeLib::g_pCurrentDb = nullptr;
 }

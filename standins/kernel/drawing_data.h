@@ -13,8 +13,8 @@ class QVX_KERNEL TDocData {
  public:
   int m_bReady = 0;  // set by DocStatus, once the host has prepared the drawing for the modules
 
-  // The innermost command that runs in the drawing, in upper case; empty when none does. It changes
-  // when a command begins and goes back to the one around it when that ends, is cancelled or fails.
+  // The innermost command that runs in the drawing, by its global name; empty when none does. Set
+  // when a command begins; when it ends, is cancelled or fails, the one around it stands again.
   const wchar_t* CurCmdName() const { return m_commands.empty() ? L"" : m_commands.back().c_str(); }
 
   // Records a character typed at the command line, as WM_CHAR brings it: `code` in the ANSI code
@@ -31,7 +31,7 @@ class QVX_KERNEL TDocData {
   bool IsTypingLisp() const;  // the record begins with "(" or holds one that is not closed
 
   void BeginCommand(const wchar_t* name);
-  void EndCommand(const wchar_t* name);  // ended, cancelled or failed
+  void EndCommand();  // the innermost
   TPickEntSet& PickFirst() { return m_pickFirst; }
 
  private:
@@ -42,6 +42,11 @@ class QVX_KERNEL TDocData {
 
 // The data of the drawing in scope; null without one.
 QVX_KERNEL TDocData* GetCurDocData();
+
+// From the first to the second the kernel listens to drawings and commands; outside of that there
+// is no data.
+QVX_KERNEL void BeginDrawingData();
+QVX_KERNEL void EndDrawingData();
 
 // What was selected when the running command began; while none runs, what is selected now. Empty
 // without a drawing. The set stays the kernel's.

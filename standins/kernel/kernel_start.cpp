@@ -6,6 +6,7 @@
 #include "acdocman.h"
 #include "aced.h"
 #include "adslib.h"
+#include "kernel/drawing_data.h"
 #include "kernel/globals.h"
 #include "kernel/logical_layers.h"
 #include "kernel/settings.h"
@@ -36,11 +37,15 @@ void StartKernel(const wchar_t* modulePath) {
   SetAppPath(modulePath);
 }
 
-// The active drawing, not the current one: while a module is loaded, the host makes every open
-// drawing current in turn.
-void DocStatus() {
+void NoteActiveDrawing() {
   AcApDocManager* documents = acDocManagerPtr();
   AcApDocument* active = documents ? documents->mdiActiveDocument() : nullptr;
   QvxGeLib::g_pCurrentDb = active ? active->database() : nullptr;
   ForgetLogicalLayers();
+}
+
+// The current drawing is the one that the host prepares.
+void DocStatus() {
+  NoteActiveDrawing();
+  if (TDocData* data = GetCurDocData()) data->m_bReady = 1;
 }

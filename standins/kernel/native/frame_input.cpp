@@ -1,0 +1,3 @@
+#include "kernel/frame_input.h"
+
+bool FrameTakesInput() { return true; }
