@@ -10,7 +10,7 @@ UnbuiltStep g_steps[] = {
     {"InitDocTabBar", "doctabs", 0},     {"DestroyDocTabBar", "doctabs", 0},
     {"tab caption timer", "doctabs", 0}, {"HideTabBar", "doctabs", 0},
     {"selection preview", "editor", 0},  {"TInPlaceEdit", "editor", 0},
-    {"TTextEditInBlock", "editor", 0},   {"C:TDragVp", "editor", 0},
+    {"TTextEditInBlock", "editor", 0},
 };
 
 void Note(const char* name) {
@@ -37,7 +37,6 @@ void ResetPreviewCounters() { Note("selection preview"); }
 
 void InPlaceEdit() { Note("TInPlaceEdit"); }
 void TextEditInBlock() { Note("TTextEditInBlock"); }
-void DragViewport() { Note("C:TDragVp"); }
 
 void HideTabBar() { Note("HideTabBar"); }
 

@@ -26,7 +26,6 @@ void ResetPreviewCounters();
 // Commands and LISP functions.
 void InPlaceEdit();
 void TextEditInBlock();
-void DragViewport();
 
 // Exports.
 void HideTabBar();

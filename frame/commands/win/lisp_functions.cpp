@@ -11,11 +11,11 @@
 #include "ground/host_lisp.h"
 #include "ground/product_registry.h"
 #include "ground/support_files.h"
-#include "ground/unbuilt_rooms.h"
 #include "ground/win/open_by_shell.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
 #include "kernel/tsplitpath.h"
+#include "kernel/tviewportresize.h"
 #include "rxmfcapi.h"
 
 namespace {
@@ -93,7 +93,7 @@ void SetMenu() {
 
 const LispRow kFunctions[] = {
     {L"tcmdavi", PlayClip},
-    {L"C:TDragVp", unbuilt::DragViewport},
+    {L"C:TDragVp", TViewportResize::ApplyChange},
     {L"C:QvxFaq", OpenQuestions},
     {L"C:QvxTut", OpenTutorial},
     {L"C:TFlashTut", OpenFlashTutorial},
