@@ -1,6 +1,5 @@
-// What the kernel keeps for each open drawing while it is open, none of it saved: whether it is
-// prepared, the command that runs in it, the characters typed at its command line, and what was
-// selected when its command began.
+// The kernel's data of each open drawing, not saved: whether the drawing is prepared, the running
+// command, the characters typed at the command line, and the selection at the start of the command.
 #pragma once
 
 #include <string>
@@ -11,19 +10,19 @@
 
 class QVX_KERNEL TDocData {
  public:
-  int m_bReady = 0;  // set by DocStatus, once the host has prepared the drawing for the modules
+  int m_bReady = 0;  // set by DocStatus when the host loads the drawing into the modules
 
   // The innermost command that runs in the drawing, by its global name; empty when none does. Set
   // when a command begins; when it ends, is cancelled or fails, the one around it stands again.
   const wchar_t* CurCmdName() const { return m_commands.empty() ? L"" : m_commands.back().c_str(); }
 
   // Records a character typed at the command line, as WM_CHAR brings it: `code` in the ANSI code
-  // page, `repeat` times. The record is what the host has not been given yet:
+  // page, `repeat` times. The record is the unfinished line:
   //  - Enter and Escape empty it, Backspace takes the last character away;
-  //  - Space, which the host takes as Enter, empties it too, but is recorded in a LISP expression;
+  //  - Space, which ends a line too, empties it, but is recorded in a LISP expression;
   //  - other control characters change nothing.
-  // `flags` (scan code and state) do not matter. What the host puts on its line by itself, such as
-  // an earlier line or a pasted text, is not recorded.
+  // `flags` (scan code and state) are not used. Text that the host inserts itself, such as an
+  // earlier line or pasted text, is not recorded.
   void OnAcadChar(char code, int repeat, int flags);
 
   const std::string& TypedText() const { return m_typed; }
@@ -43,11 +42,10 @@ class QVX_KERNEL TDocData {
 // The data of the drawing in scope; null without one.
 QVX_KERNEL TDocData* GetCurDocData();
 
-// From the first to the second the kernel listens to drawings and commands; outside of that there
-// is no data.
+// Adds and removes the reactors. Outside of that there is no data.
 QVX_KERNEL void BeginDrawingData();
 QVX_KERNEL void EndDrawingData();
 
-// What was selected when the running command began; while none runs, what is selected now. Empty
-// without a drawing. The set stays the kernel's.
+// The selection at the start of the running command; while none runs, the current selection. Empty
+// without a drawing. Owned by the kernel.
 QVX_KERNEL TPickEntSet& DocGetPickFirst();

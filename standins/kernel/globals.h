@@ -62,6 +62,7 @@ QVX_KERNEL int GetCustomFlag();
 QVX_KERNEL void SaveGlobalToReg();
 
 // Updates the kernel's data about the current drawing; called after a drawing or a menu was loaded.
+// Also marks the data of the current drawing as ready (TDocData::m_bReady).
 QVX_KERNEL void DocStatus();
 
 // Settings by name, for tools that drive the program. Numbers are decimal or 0x hexadecimal; one

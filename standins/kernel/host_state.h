@@ -1,5 +1,4 @@
-// The state of the host as far as it decides who may react to input. All ask the current drawing;
-// for the host's main thread.
+// The state of the host for input, all by the current drawing. For the host's main thread.
 #pragma once
 
 #include "kernel/kernel_export.h"

@@ -50,10 +50,9 @@ class QVX_KERNEL QvxExport {
   // in all languages of the host, so that it is the name itself.
   static TWCString GetFullCmdName(const wchar_t* name);
 
-  // Whether the family looks at messages of this window: the host's frame, its MDI client, the
-  // drawings' frames with their views, and the input row of the command line. Not palettes, tool
-  // strips, panes, dialogs, tips, nor what a module puts into a view. False for a window that is
-  // gone.
+  // Whether messages of this window are filtered: true for the host's frame, its MDI client, the
+  // drawings' frames with their views, and the input row of the command line; false for palettes,
+  // tool strips, panes, dialogs, tips, windows of modules in a view, and invalid handles.
   static bool Tasdh1sh1ddhsj123(HWND window);
 
   static bool IsAcadDwgView(HWND window);  // the view of any drawing

@@ -1,5 +1,4 @@
-// What drawing objects of the family offer to whoever edits them: TDbEntity for objects, and
-// TDbCurveEntity for those that are curves. An object has one of the two.
+// Interfaces for editing QVX_* objects: TDbCurveEntity of curves, TDbEntity of all others.
 #pragma once
 
 #include "adesk.h"
@@ -8,7 +7,7 @@
 
 class TSubText;
 
-// The texts of an object that can be edited one by one. The caller owns what is returned.
+// The editable texts of an object. The caller owns the results.
 class QVX_KERNEL TTextOwner {
  public:
   typedef void (*EditFunction)(AcDbObjectId object);

@@ -1,4 +1,4 @@
-// Where a text stands in a drawing: for hit tests and for who lays a box over it.
+// The place of a text in a drawing, for hit tests and extents.
 #pragma once
 
 #include <string>

@@ -1,9 +1,9 @@
-// Dragging the border between tiled viewports of model space. A press near a border begins, moves
-// show where it would come to lie, the release sends the command C:TDragVp, which gives all
-// viewports at the border their new size in the context of the drawing; Escape gives up.
+// Dragging the border between tiled viewports of model space. A press near a border begins the
+// drag, moves show the new position, the release sends the command C:TDragVp, which resizes the
+// viewports in document context; Escape cancels.
 //
-// Points are client pixels of the current view. True: the message is taken and must not reach the
-// host. Nothing is taken while the view has one viewport.
+// Points are client pixels of the current view. True: the message is consumed and must not reach
+// the host. With one viewport nothing is consumed.
 #pragma once
 
 #include "atltypes.h"
@@ -16,7 +16,7 @@ class QVX_KERNEL TViewportResize {
   static bool OnLButtonUp(UINT flags, CPoint point);
   static void OnEscape();
 
-  // Carries out the drag that ended last, once. Nothing happens without one, nor when the viewports
-  // have changed since.
+  // Applies the last completed drag, once. No effect without one, or when the viewports have
+  // changed since.
   static void ApplyChange();
 };

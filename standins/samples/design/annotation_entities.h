@@ -1,6 +1,5 @@
-// Drawing objects of the sample module: annotations with texts in places that their geometry does
-// not reach, so that a click beside the geometry still means a text; and one object that is slow to
-// tell whether the pointer is on it, for measuring.
+// Drawing objects of the sample module: annotations with texts beside their geometry, which a pick
+// at the text does not hit; and one object with a slow hit test.
 #pragma once
 
 #include "kernel/entities/qvx_entity.h"
