@@ -3,26 +3,12 @@
 #include "frame/start/host_release.h"
 #include "ground/product_registry.h"
 #include "ground/support_files.h"
+#include "ground/text_lines.h"
 #include "kernel/globals.h"
 #include "kernel/native_file.h"
 #include "kernel/qvxexport.h"
 #include "kernel/tsplitpath.h"
 #include "rxregsvc.h"
-
-namespace {
-
-constexpr int kLongestLine = 255;  // a longer line is read as several
-
-TWCString TakeLine(const TWCString& text, int& at) {
-  const int start = at;
-  while (at < text.Length() && text[at] != L'\n' && at - start < kLongestLine) ++at;
-  TWCString line;
-  line.Assign(text + start, at - start);
-  if (at < text.Length() && text[at] == L'\n') ++at;
-  return line;
-}
-
-}  // namespace
 
 bool HasStartedBefore(double release) {
   TRegProperty flags = qvx::MachineKey(L"InitFlag");
@@ -41,7 +27,7 @@ void ReadFirstStartModules(const wchar_t* listPath, TWCStringList& names) {
   if (!ReadWholeFile(listPath, bytes)) return;
   const TUString text(bytes.data(), static_cast<int>(bytes.size()));
   for (int at = 0; at < text.Length();) {
-    const TWCString line = TakeLine(text, at);
+    const TWCString line = qvx::TakeLine(text, at);
     wchar_t name[QvxExport::kPathUnits];
     if (QvxExport::GetStringAtIndex(line, 1, name) && qvx::FindFile(name)) names.Add(name);
   }
