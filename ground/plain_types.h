@@ -80,6 +80,9 @@ enum : UINT {
   WM_LBUTTONDBLCLK = 0x203,
   WM_RBUTTONDOWN = 0x204,
   WM_RBUTTONUP = 0x205,
+  WM_RBUTTONDBLCLK = 0x206,
+  WM_MBUTTONDOWN = 0x207,
+  WM_MBUTTONUP = 0x208,
   WM_MOUSEWHEEL = 0x20A,
   WM_CAPTURECHANGED = 0x215,
 };
@@ -93,5 +96,18 @@ enum : int {
   VK_DELETE = 0x2E,
   VK_F1 = 0x70,
   VK_F4 = 0x73,
+  VK_F7 = 0x76,
+  VK_F12 = 0x7B,
+  VK_OEM_PLUS = 0xBB,
+  VK_OEM_MINUS = 0xBD,
+  VK_OEM_3 = 0xC0,  // backquote
 };
+enum : WPARAM {
+  MK_SHIFT = 0x04,
+  MK_CONTROL = 0x08,
+  MK_MBUTTON = 0x10,
+};
+
+constexpr WORD LOWORD(std::uintptr_t value) { return static_cast<WORD>(value); }
+constexpr WORD HIWORD(std::uintptr_t value) { return static_cast<WORD>(value >> 16); }
 #endif
