@@ -36,7 +36,7 @@ enum class KeyEffect : unsigned char {
   kEndResize,                 // ends a drag of the border between viewports
   kCommandHelp,               // shows help on the running command
   kClearTyped,                // clears the record of typed characters
-  kClearTypedAndSelection,    // the same, and clears a selection of fewer than 100 objects
+  kClearTypedAndSelection,    // clears typed characters and a selection of fewer than 100 objects
   kProjectManager,            // sends the project manager's command
   kToggleTabBar,              // shows or hides the drawing tabs, with a hint
   kToggleScreenMenuWithHint,  // shows or hides the screen menu, with a hint

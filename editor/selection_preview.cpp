@@ -1,5 +1,6 @@
 #include "editor/selection_preview.h"
 
+#include "editor/preview_allowed.h"
 #include "editor/preview_host.h"
 #include "kernel/globals.h"
 
@@ -74,6 +75,13 @@ TEntitySet SelectionPreview::TimedHitTest(PreviewHost& host) {
   if (!m_lag.Add(host.Ticks() - start)) return hit;
   TurnOff(host);
   return {};
+}
+
+void StepPreviewUntimed(PreviewHost& host) {
+  if (host.RunsAnyCommand()) return;
+  const WriteLock lock(host);
+  const std::unique_ptr<SelectedObjects> selected = host.Selected();
+  if (selected) FollowPointer(host, host.HitTest(), selected.get());
 }
 
 void FollowPointer(PreviewHost& host, const TEntitySet& hit, SelectedObjects* selected) {

@@ -12,8 +12,6 @@ namespace qvx {
 class PreviewHost;
 class SelectedObjects;
 
-constexpr double kFirstHostWithPreview = 16.11;
-
 // The mean duration of the hit tests, in blocks.
 class LagTest {
  public:
@@ -39,6 +37,12 @@ class SelectionPreview {
   POINT m_lastPointer{0, 0};  // of all drawings
   LagTest m_lag;
 };
+
+// One step without the lag test, inside one document lock: what a worker thread does. Nothing while
+// a command runs.
+void StepPreviewUntimed(PreviewHost& host);
+
+SelectionPreview& ThePreview();  // the module's one
 
 // The new object under the pointer, empty for none: highlights it and stores it as the mouse-on
 // object. `selected` is null while a command runs. A selected object stays highlighted when the

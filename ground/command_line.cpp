@@ -21,6 +21,10 @@ bool IsBusy(const HostActivity& host) { return host.active != 0 || !host.names.I
 
 int CommandActive() { return ShortVariable(L"CMDACTIVE").value_or(0); }
 
+bool RunsCommand(const wchar_t* part) { return TextVariableContains(L"CMDNAMES", part); }
+
+bool RunsAnyCommand() { return !TextVariable(L"CMDNAMES").IsEmpty(); }
+
 bool HasWorkingDatabase() {
   AcDbHostApplicationServices* services = acdbHostApplicationServices();
   return services && services->workingDatabase();

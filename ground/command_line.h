@@ -19,6 +19,9 @@ HostActivity AskHostActivity();
 // True when either value is set: some commands are in CMDNAMES while CMDACTIVE is still 0.
 bool IsBusy(const HostActivity& host);
 int CommandActive();  // CMDACTIVE alone; 0 when it can't be read
+// Whether CMDNAMES contains the text; copies nothing.
+bool RunsCommand(const wchar_t* part);
+bool RunsAnyCommand();  // CMDNAMES is not empty
 
 bool HasWorkingDatabase();
 

@@ -44,6 +44,11 @@ TWCString TextVariable(const wchar_t* name) {
   return value.Is(RTSTR) && value.Text() ? TWCString(value.Text()) : TWCString();
 }
 
+bool TextVariableContains(const wchar_t* name, const wchar_t* part) {
+  const VariableValue value(name);
+  return value.Is(RTSTR) && value.Text() && std::wcsstr(value.Text(), part);
+}
+
 bool VariableAsText(const wchar_t* name, std::wstring& text) {
   const VariableValue value(name);
   if (value.Is(RTSHORT)) text = std::to_wstring(value.Short());

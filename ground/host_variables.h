@@ -11,6 +11,7 @@ namespace qvx {
 
 std::optional<int> ShortVariable(const wchar_t* name);
 TWCString TextVariable(const wchar_t* name);
+bool TextVariableContains(const wchar_t* name, const wchar_t* part);
 // A number or text as text; a value of another type leaves `text` unchanged. False when the
 // variable can't be read.
 bool VariableAsText(const wchar_t* name, std::wstring& text);

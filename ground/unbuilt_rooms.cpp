@@ -6,10 +6,9 @@ namespace {
 
 // Mutable: the calls of the one loaded module are counted here.
 UnbuiltStep g_steps[] = {
-    {"message filter", "editor", 0},     {"CreateDocTabBar", "doctabs", 0},
-    {"InitDocTabBar", "doctabs", 0},     {"DestroyDocTabBar", "doctabs", 0},
-    {"tab caption timer", "doctabs", 0}, {"HideTabBar", "doctabs", 0},
-    {"selection preview", "editor", 0},  {"TInPlaceEdit", "editor", 0},
+    {"CreateDocTabBar", "doctabs", 0},  {"InitDocTabBar", "doctabs", 0},
+    {"DestroyDocTabBar", "doctabs", 0}, {"tab caption timer", "doctabs", 0},
+    {"HideTabBar", "doctabs", 0},       {"TInPlaceEdit", "editor", 0},
     {"TTextEditInBlock", "editor", 0},
 };
 
@@ -27,13 +26,11 @@ const UnbuiltStep* UnbuiltSteps(int* count) {
 
 namespace unbuilt {
 
-void InitMessageFilter(bool) { Note("message filter"); }
 void CreateDocTabBar() { Note("CreateDocTabBar"); }
 void InitDocTabBar() { Note("InitDocTabBar"); }
 void DestroyDocTabBar() { Note("DestroyDocTabBar"); }
 
 void StartTabCaptionTimer() { Note("tab caption timer"); }
-void ResetPreviewCounters() { Note("selection preview"); }
 
 void InPlaceEdit() { Note("TInPlaceEdit"); }
 void TextEditInBlock() { Note("TTextEditInBlock"); }

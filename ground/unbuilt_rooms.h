@@ -14,14 +14,12 @@ const UnbuiltStep* UnbuiltSteps(int* count);
 namespace unbuilt {
 
 // Load and unload sequence.
-void InitMessageFilter(bool add);
 void CreateDocTabBar();
 void InitDocTabBar();
 void DestroyDocTabBar();
 
 // Per drawing and on saving.
 void StartTabCaptionTimer();
-void ResetPreviewCounters();
 
 // Commands and LISP functions.
 void InPlaceEdit();

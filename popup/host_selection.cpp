@@ -1,16 +1,13 @@
 #include "popup/host_selection.h"
 
-#include "acdocman.h"
 #include "dbents.h"
+#include "editor/editor_door.h"
 #include "ground/host_variables.h"
-#include "kernel/globals.h"
 #include "kernel/logical_layers.h"
 #include "kernel/tacdbobjectptr.h"
-#include "kernel/tdbconfig.h"
 
 namespace {
 
-constexpr double kFirstHostWithPreview = 16.11;
 constexpr int kPaperSpacePort = 1;
 constexpr int kSpeedMenuNeedsSelection = 2;  // of g_nSpeedMenu, from this value on
 
@@ -23,35 +20,11 @@ GroupValue ReadGroup(const TPickEntSet& set, size_t object, int code) {
   return value;
 }
 
-bool IsPreviewOffInDrawing() {
-  AcApDocument* current = acDocManagerPtr() ? acDocManagerPtr()->curDocument() : nullptr;
-  TDbConfig* config = current ? GetDwgGlobal(AcDb::kForRead, current->database()) : nullptr;
-  if (!config) return false;
-  const bool off = (config->Flags() & TDbConfig::kPreviewOff) != 0;
-  config->close();
-  return off;
-}
-
 }  // namespace
-
-bool IsPreviewAllowed(const PreviewState& state) {
-  if (!state.isEnabled) return false;
-  if (state.hostVersion < kFirstHostWithPreview) return !state.isOffInDrawing;
-  return (state.hostVariable & 1) != 0;
-}
-
-PreviewState ReadPreviewState() {
-  PreviewState state{g_dHostVersion, g_bEnableSelectPreview != 0, 0, false};
-  if (state.hostVersion < kFirstHostWithPreview)
-    state.isOffInDrawing = IsPreviewOffInDrawing();
-  else
-    state.hostVariable = qvx::ShortVariable(L"SELECTIONPREVIEW").value_or(0);
-  return state;
-}
 
 void ReadSelection(TPickEntSet& set) {
   set.Get(L"I");
-  if (set.Length() || !IsPreviewAllowed(ReadPreviewState())) return;
+  if (set.Length() || !IsPreviewAllowed()) return;
   TPickEntSet under;
   under.GetPreSel();
   TEntitySet& mouseOn = DocGetEntMouseOn();

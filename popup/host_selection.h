@@ -5,18 +5,6 @@
 #include "kernel/tpickentset.h"
 #include "popup/object_match.h"
 
-// Inputs for whether the object under the pointer counts as selected.
-struct PreviewState {
-  double hostVersion = 0;
-  bool isEnabled = false;       // the user's setting
-  int hostVariable = 0;         // SELECTIONPREVIEW; only of hosts with their own preview
-  bool isOffInDrawing = false;  // setting of the drawing
-};
-// Requires the user's setting. Hosts from 16.11 on have their own preview, and SELECTIONPREVIEW
-// must be on; in earlier ones the drawing can turn preview off.
-bool IsPreviewAllowed(const PreviewState& state);
-PreviewState ReadPreviewState();
-
 // Fills the set with the implied selection. If that is empty and preview is on, with the object
 // under the pointer, which is also stored as the drawing's mouse-on object.
 void ReadSelection(TPickEntSet& set);

@@ -9,6 +9,10 @@ class TWCStringList;
 // TrackPopupMenu; 0 without a context window.
 int ShowBlockMenu(TMenuBar& block, int x, int y, unsigned flags);
 
+// Shows the menu for the selection at a screen point; with `force` also when nothing is selected.
+// Returns the result of TrackPopupMenu, or 0 when no menu is shown or without a context window.
+int ShowContextMenu(int x, int y, int force);
+
 // Creates or destroys the context window; sets g_pContextMenu and the menu in force accordingly.
 // `onReadiness` is used for creation only: the readiness timer, which creation starts, calls it
 // until StopReadinessTimer.

@@ -9,6 +9,8 @@
 #define IDB_ARROW_OPEN_2 5019
 #define IDB_CHECK 5013  // replaces the icon of a checked row
 
+#define IDC_EDIT_CURSOR 1480  // over the in-place editor
+
 // Dialogs, their controls and texts. A picture of the tip dialog exists in four sizes; the code
 // adds the step to the first number.
 #define IDD_DAY_TIP 130

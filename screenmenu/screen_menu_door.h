@@ -21,6 +21,16 @@ TMenuBar* ScreenMenuRootBar();
 // of that label, or shows the help of the line last right-clicked.
 void TailCommand(const wchar_t* text);
 
+// Exports of the module, see screenmenu/win/screen_menu.h.
+extern "C" int ShowScreenMenu(int show);
+extern "C" int IsScreenMenuVisible();
+
+// The wheel over the palette, at a screen point. The group that scrolls is the open one below the
+// root, or the root; a group without rows contains no point.
+bool IsInScreenMenu(int x, int y);
+bool IsInWheelGroup(int x, int y);
+void WheelScreenMenu(int delta, int x, int y);
+
 // Reads the state of every switch row again.
 void RefreshScreenMenu();
 // Docks the palette, despite the name of its command, TFloatMenuBar.

@@ -1,6 +1,7 @@
 #include "frame/start/load_sequence.h"
 
 #include "dialogs/win/information_commands.h"
+#include "editor/editor_door.h"
 #include "frame/commands/win/command_table.h"
 #include "frame/settings/recent_commands.h"
 #include "frame/start/first_start.h"
@@ -40,12 +41,13 @@ void RunCoreStart() {
   if (!Has(kNoTipsAtStart)) ShowTipsAtStart();
   LoadMenuIcons();
   InitContextWindow(true, OnMenuReadiness);
-  unbuilt::InitMessageFilter(true);
+  InitMessageFilter(true);
   RegisterCommands();
   InitScreenMenuReactor(true);
   if (!Has(kNoFirstStart)) RunFirstStartModules();
   const ProductNames names = ReadProductNames();
   SetScreenMenuHelpFile(names.helpFile);
+  SetCommandHelpFile(names.helpFile);
   SetFrameTitle(names.title);
   if (g_bHideCaption) HideFrameCaption();
   if (g_bAutoOpenRecent) ReopenRecentFiles();
@@ -93,7 +95,7 @@ void RunUnloadSequence() {
   InitScreenMenuReactor(false);
   InitScreenMenu(false, true);
   InitContextWindow(false, nullptr);
-  unbuilt::InitMessageFilter(false);
+  InitMessageFilter(false);
   RemoveCommands();
   FreeIconLibrary();
   unbuilt::DestroyDocTabBar();

@@ -6,15 +6,20 @@
 
 namespace qvx {
 
-// Null when the system gives no metrics.
-inline OwnedFont MakeMenuFont() {
+// False when the system gives no metrics.
+inline bool MenuFontDescription(LOGFONTW& font) {
   // Without the field that later systems appended: every system accepts this size.
   constexpr UINT kMetricsSize = 500;
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = kMetricsSize;
-  if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, kMetricsSize, &metrics, 0))
-    return OwnedFont();
-  return OwnedFont(::CreateFontIndirectW(&metrics.lfMenuFont));
+  if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, kMetricsSize, &metrics, 0)) return false;
+  font = metrics.lfMenuFont;
+  return true;
+}
+
+inline OwnedFont MakeMenuFont() {
+  LOGFONTW font{};
+  return MenuFontDescription(font) ? OwnedFont(::CreateFontIndirectW(&font)) : OwnedFont();
 }
 
 }  // namespace qvx

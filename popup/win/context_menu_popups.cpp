@@ -155,9 +155,9 @@ void CContextMenuWnd::OnExitMenuLoop(BOOL isShortcut) {
   m_bStatusText = 0;
 }
 
-int ShowContextMenu(CPoint point, int force) {
+int ShowContextMenu(int x, int y, int force) {
   CContextMenuWnd* window = TheContextWindow();
-  return window ? window->ShowContextMenu(point, force) : 0;
+  return window ? window->ShowContextMenu(CPoint(x, y), force) : 0;
 }
 
 int ShowBlockMenu(TMenuBar& block, int x, int y, unsigned flags) {

@@ -6,6 +6,7 @@
 
 #include "acdocman.h"
 #include "aced.h"
+#include "editor/editor_door.h"
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
 #include "screenmenu/screen_menu_door.h"
@@ -63,8 +64,16 @@ BOOL CContextMenuWnd::PreTranslateMessage(MSG* message) {
 void CContextMenuWnd::OnTimer(UINT_PTR id) {
   if (id == kReadinessTimer)
     m_onReadiness();
+  else if (id == kPreviewTimer)
+    OnPreviewTimer();
   else if (!m_opening.OnTimer(id))
     CWnd::OnTimer(id);
+}
+
+// Nothing follows the step: it can run for long in the host.
+void CContextMenuWnd::OnPreviewTimer() {
+  KillTimer(kPreviewTimer);
+  StepSelectionPreview();
 }
 
 qvx::LineSources CContextMenuWnd::Lines() {

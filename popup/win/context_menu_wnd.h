@@ -74,6 +74,7 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
     return m_menuSystem.FindItemByCommand(command);
   }
 
+  void OnPreviewTimer();
   CBitmapMenu* AddPopup() override;
   int FindBlock(bool force);
   int Track(TMenuBar& bar, int firstId, CPoint point, UINT flags);
@@ -94,5 +95,3 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
 };
 
 CContextMenuWnd* TheContextWindow();  // null when there is none
-
-int ShowContextMenu(CPoint point, int force);  // 0 without a context window

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "acstatusbar.h"
+#include "editor/editor_door.h"
 #include "ground/guard.h"
-#include "ground/unbuilt_rooms.h"
 #include "screenmenu/win/screen_menu.h"
 #include "statusbar/status_bar_door.h"
 
@@ -30,7 +30,7 @@ void FollowActiveDrawing() {
   RefreshDrawingPanes();
   RefreshScaleText();
   if (AcApStatusBar* bar = acedGetApplicationStatusBar()) bar->Update();
-  unbuilt::ResetPreviewCounters();
+  ResetPreviewCounters();
 }
 
 }  // namespace

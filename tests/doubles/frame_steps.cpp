@@ -1,6 +1,7 @@
 #include "tests/doubles/frame_steps.h"
 
 #include "dialogs/win/information_commands.h"
+#include "editor/editor_door.h"
 #include "frame/commands/lisp_path.h"
 #include "frame/commands/win/command_table.h"
 #include "frame/settings/menu_setting.h"
@@ -63,7 +64,7 @@ void ShowTipsAtStart() { Note(L"tips"); }
 void InitContextWindow(bool create, void (*onReadiness)()) {
   Note(create, create && !onReadiness ? L"window without readiness" : L"window");
 }
-void unbuilt::InitMessageFilter(bool add) { Note(add, L"filter"); }
+void InitMessageFilter(bool add) { Note(add, L"filter"); }
 void RegisterCommands() { Note(L"+commands"); }
 void RemoveCommands() { Note(L"-commands"); }
 void InitScreenMenuReactor(bool add) { Note(add, L"reactor"); }
@@ -73,6 +74,7 @@ ProductNames ReadProductNames() {
   return {TWCString(L"Title"), TWCString(L"a.chm")};
 }
 void SetScreenMenuHelpFile(const wchar_t* name) { Note(L"help file", name); }
+void SetCommandHelpFile(const wchar_t* name) { Note(L"command help", name); }
 void SetFrameTitle(const wchar_t* title) { Note(L"title", title); }
 void HideFrameCaption() { Note(L"caption"); }
 void ReopenRecentFiles() { Note(L"recent files"); }

@@ -323,4 +323,19 @@ TEST_F(SelectionPreviewTest, TheLockEndsAlsoWhenTheTurnOffFails) {
   EXPECT_EQ(failing.liveSelections, 0);
 }
 
+TEST_F(SelectionPreviewTest, TheStepOfAThreadIsUntimedAndInsideOneLock) {
+  host.under = 7;
+  qvx::StepPreviewUntimed(host);
+  EXPECT_EQ(host.diary, (Entries{"CMDNAMES?", "lock", "selected?", "hit test", "highlight 7",
+                                 "mouse on 7", "unlock"}));
+  host.diary.clear();
+  host.refusesSelection = true;
+  qvx::StepPreviewUntimed(host);
+  EXPECT_EQ(host.diary, (Entries{"CMDNAMES?", "lock", "selected?", "unlock"}));
+  host.diary.clear();
+  host.runsCommand = true;
+  qvx::StepPreviewUntimed(host);
+  EXPECT_EQ(host.diary, Entries{"CMDNAMES?"});
+}
+
 }  // namespace

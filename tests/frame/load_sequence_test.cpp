@@ -57,6 +57,7 @@ TEST_F(LoadSequence, RunsEveryStepInItsOrder) {
                                           L"first start",
                                           L"product file",
                                           L"help file a.chm",
+                                          L"command help a.chm",
                                           L"title Title",
                                           L"caption",
                                           L"recent files",

@@ -1,5 +1,5 @@
 // The status bar's door, and the preview's, noted in TheRooms.
-#include "ground/unbuilt_rooms.h"
+#include "editor/editor_door.h"
 #include "statusbar/status_bar_door.h"
 #include "tests/doubles/win/rooms.h"
 
@@ -15,4 +15,4 @@ void UpdateStatusPanes() {
 void RefreshDrawingPanes() { TheRooms().order += 'b'; }
 void RefreshScaleText() { TheRooms().order += 'c'; }
 void qvx::WriteHatchScale() { TheRooms().order += 'a'; }
-void unbuilt::ResetPreviewCounters() { TheRooms().order += 'd'; }
+void ResetPreviewCounters() { TheRooms().order += 'd'; }
