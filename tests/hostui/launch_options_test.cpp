@@ -27,7 +27,6 @@ TEST(LaunchOptions, WithoutWordsTheDefaultsApply) {
   const LaunchOptions o = Parsed({});
   EXPECT_EQ(o.hostVersion, 24.0);
   EXPECT_EQ(o.profile, L"default");
-  EXPECT_FALSE(o.rightClickMenu);
   EXPECT_TRUE(o.startTrace.empty());
   EXPECT_FALSE(o.longestWait);
   EXPECT_TRUE(o.modules.empty() && o.drawings.empty() && o.script.empty() && o.journal.empty());
@@ -52,7 +51,6 @@ TEST(LaunchOptions, EveryOptionSetsItsField) {
                                   L"t.json",
                                   L"--longest-wait",
                                   L"0.5",
-                                  L"--right-click-menu",
                                   L"x.dxf",
                                   L"y.dxf"});
   EXPECT_EQ(o.productFolder, L"p");
@@ -63,7 +61,6 @@ TEST(LaunchOptions, EveryOptionSetsItsField) {
   EXPECT_EQ(o.journal, L"-");
   EXPECT_EQ(o.startTrace, L"t.json");
   EXPECT_EQ(o.longestWait, 0.5);
-  EXPECT_TRUE(o.rightClickMenu);
   EXPECT_EQ(o.drawings, (Words{L"x.dxf", L"y.dxf"}));
 }
 

@@ -24,7 +24,6 @@
 #include "devhost/ui/messages/start_watch.h"
 #include "devhost/ui/modules/autoload_modules.h"
 #include "devhost/ui/modules/module_loader.h"
-#include "devhost/ui/modules/right_click_menu.h"
 #include "devhost/ui/palette/palette_store.h"
 #include "devhost/ui/port/ui_port_impl.h"
 
@@ -176,7 +175,6 @@ int RunOnce(const LaunchOptions& options, bool* again) {
   ModuleLoader loader;
   TheHost().Begin(OptionsForCore(options), &TheHostUi(), &loader);
   SetPaletteStoreKey(PaletteKeyOf(options.profile).c_str());
-  SetRightClickMenu(options.rightClickMenu);
   std::unique_ptr<StartWatch> watch;
   if (!options.startTrace.empty()) watch = std::make_unique<StartWatch>(options.startTrace);
   int exitCode = RunFrame(options, app, std::move(driver), again);

@@ -53,7 +53,6 @@ class Reader {
     if (word == L"--") return m_onlyDrawings = true;
     if (word == L"--help" || word == L"-h") return m_out->help = true;
     if (word == L"--doctor") return m_out->doctor = true;
-    if (word == L"--right-click-menu") return m_out->rightClickMenu = true;
     const size_t equals = word.find(L'=');
     const std::wstring name = word.substr(0, equals);
     if (!IsKnown(name)) return Fail(L"unknown option " + name);
@@ -116,7 +115,7 @@ bool ParseLaunchOptions(const std::vector<std::wstring>& words, LaunchOptions* o
 const wchar_t* LaunchUsage() {
   return L"usage: devhost [--product DIR] [--host-version 24.0] [--profile NAME] [--arx FILE]...\n"
          L"               [--play SCRIPT] [--journal FILE|-] [--trace-start FILE.json]\n"
-         L"               [--longest-wait SECONDS] [--right-click-menu] [DRAWING.dxf ...]\n"
+         L"               [--longest-wait SECONDS] [DRAWING.dxf ...]\n"
          L"       devhost --doctor [--product DIR] [--host-version 24.0] [--profile NAME] [--arx "
          L"FILE]\n"
          L"               every setting, where it comes from and what it does; starts nothing\n";

@@ -19,8 +19,6 @@ struct LaunchOptions {
   std::wstring journal;               // "-" is standard output; empty: none
   std::wstring startTrace;            // --trace-start: written at the end; empty: none
   std::vector<std::wstring> drawings;
-  // A right click in the view shows the module's context menu (see right_click_menu).
-  bool rightClickMenu = false;
   bool help = false;
   bool doctor = false;  // prints the settings and starts nothing
 };

@@ -5,7 +5,6 @@
 #include <windowsx.h>
 
 #include "devhost/ui/frame/main_frame.h"
-#include "devhost/ui/modules/right_click_menu.h"
 #include "devhost/ui/view/pick_logic.h"
 
 namespace devhost {
@@ -222,7 +221,6 @@ bool DrawingView::OnMouse(UINT message, WPARAM keys, POINT at) {
       OnWheel(static_cast<short>(HIWORD(keys)), at);
       return true;
     case WM_RBUTTONUP:  // as Enter on the command line does
-      if (ShowModuleMenu(m_hWnd, at, (keys & MK_CONTROL) != 0)) return true;
       if (CommandBar* commands = Commands()) commands->EndLine();
       return true;
   }
