@@ -76,9 +76,3 @@ extern "C" __declspec(dllexport) const char* QvxDescribeSettings() {
     return report.c_str();
   });
 }
-
-// Opens the menu of a right click at this screen point, until the message filter is built and does
-// so. 0 when no menu was shown.
-extern "C" __declspec(dllexport) int QvxShowContextMenu(int x, int y, int force) {
-  return qvx::GuardedOr(0, [&] { return ShowContextMenu(x, y, force); });
-}

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 
+#include "rxmfcapi.h"
 #include "tests/module/win/module_memory.h"
 #include "tests/module/win/module_test.h"
 
@@ -47,6 +48,18 @@ void TakeMessages() {
 }
 
 VOID CALLBACK CloseMenu(HWND, UINT, UINT_PTR, DWORD) { ::EndMenu(); }
+
+// In the middle of the current drawing, through the message loop: Ctrl forces the menu.
+void RightClickWithCtrl() {
+  CRect area;
+  const HWND view = acedGetAcadDwgView()->m_hWnd;
+  ::GetWindowRect(view, &area);
+  ::SetCursorPos(area.CenterPoint().x, area.CenterPoint().y);
+  ::PostMessageW(view, WM_RBUTTONDOWN, MK_RBUTTON | MK_CONTROL, 0);
+  ::PostMessageW(view, WM_RBUTTONUP, MK_CONTROL, 0);
+  MSG message;
+  while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) AfxPumpMessage();
+}
 
 class FailingMemory : public Module {
  protected:
@@ -122,11 +135,10 @@ class FailingMemory : public Module {
 }  // namespace
 
 TEST_F(FailingMemory, ARightClickIsDroppedWhenAnyOfItsAllocationsFails) {
-  const auto show = Export<int (*)(int, int, int)>(L"qvx_initstart.arx", "QvxShowContextMenu");
-  ASSERT_NE(show, nullptr);
-  FailInTurn([&] {
+  SetKernelSetting(L"g_nSpeedMenu", L"2");
+  FailInTurn([] {
     const UINT_PTR timer = ::SetTimer(nullptr, 0, 1, CloseMenu);
-    show(100, 100, 1);
+    RightClickWithCtrl();
     ::KillTimer(nullptr, timer);
   });
 }
