@@ -33,26 +33,11 @@ TEST(LaunchOptions, WithoutWordsTheDefaultsApply) {
 }
 
 TEST(LaunchOptions, EveryOptionSetsItsField) {
-  const LaunchOptions o = Parsed({L"--product",
-                                  L"p",
-                                  L"--host-version",
-                                  L"18.2",
-                                  L"--profile",
-                                  L"q",
-                                  L"--arx",
-                                  L"a.arx",
-                                  L"--arx",
-                                  L"b.arx",
-                                  L"--play",
-                                  L"s",
-                                  L"--journal",
-                                  L"-",
-                                  L"--trace-start",
-                                  L"t.json",
-                                  L"--longest-wait",
-                                  L"0.5",
-                                  L"x.dxf",
-                                  L"y.dxf"});
+  const LaunchOptions o =
+      Parsed({L"--product", L"p",     L"--host-version", L"18.2",   L"--profile",      L"q",
+              L"--arx",     L"a.arx", L"--arx",          L"b.arx",  L"--play",         L"s",
+              L"--journal", L"-",     L"--trace-start",  L"t.json", L"--longest-wait", L"0.5",
+              L"x.dxf",     L"y.dxf"});
   EXPECT_EQ(o.productFolder, L"p");
   EXPECT_EQ(o.hostVersion, 18.2);
   EXPECT_EQ(o.profile, L"q");
