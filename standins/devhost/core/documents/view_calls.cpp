@@ -13,6 +13,6 @@ Acad::ErrorStatus acedSetCurrentView(AcDbViewTableRecord* view, AcDbViewport* vi
   const AcGePoint2d middle = view->centerPoint();
   if (!std::isfinite(middle.x) || !std::isfinite(middle.y)) return Acad::eInvalidInput;
   document->view.ShowAt(middle.x, middle.y, view->height());
-  devhost::TheHost().Ui().PictureChanged(*document);
+  devhost::TheHost().Ui().ViewChanged(*document);
   return Acad::eOk;
 }
