@@ -61,9 +61,9 @@ TEST_F(HostSelection, APointFindsTheObjectAtIt) {
   EXPECT_TRUE(set[0] == Object(0));
   EXPECT_NE(set.Get(nullptr, &beside), RTNORM);
   EXPECT_EQ(set.Length(), 0);
-  TRBList circles;
-  circles.AppendString(0, L"CIRCLE");
-  EXPECT_NE(set.Get(nullptr, &onLine, nullptr, circles.Head()), RTNORM);
+  TRBList arcs;
+  arcs.AppendString(0, L"ARC");
+  EXPECT_NE(set.Get(nullptr, &onLine, nullptr, arcs.Head()), RTNORM);
 }
 
 TEST_F(HostSelection, AnObjectReturnsItsGroupsAndNoValueForMissingOnes) {
