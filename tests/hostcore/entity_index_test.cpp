@@ -79,7 +79,9 @@ TEST(BoxGrid, FindsEveryBoxThatTouchesAndFarFewerThanAll) {
     const std::set<int> set(found.begin(), found.end());
     EXPECT_EQ(set.size(), found.size()) << "an item is found once";
     for (int k = 0; k < 2000; ++k)
-      if (boxes[static_cast<std::size_t>(k)].Touches(asked)) EXPECT_TRUE(set.count(k)) << k;
+      if (boxes[static_cast<std::size_t>(k)].Touches(asked)) {
+        EXPECT_TRUE(set.count(k)) << k;
+      }
   }
   EXPECT_LT(visited, 500u * 100u);
 }
