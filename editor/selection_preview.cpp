@@ -50,6 +50,11 @@ bool LagTest::Add(unsigned ticks) {
   return isSlow;
 }
 
+SelectionPreview& ThePreview() {
+  static SelectionPreview preview;
+  return preview;
+}
+
 void SelectionPreview::Step(PreviewHost& host, POINT pointer) {
   if (!host.HasCurrentView() || host.CommandActive() != 0) return;
   if (pointer.x == m_lastPointer.x && pointer.y == m_lastPointer.y) return;

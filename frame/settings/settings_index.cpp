@@ -12,6 +12,7 @@ constexpr auto kVariable = IndexStore::kHostVariable;
 constexpr auto kSymbol = IndexStore::kLispSymbol;
 constexpr auto kInt = IndexType::kInt;
 constexpr auto kReal = IndexType::kReal;
+constexpr auto kPoint = IndexType::kPoint;
 constexpr auto kText = IndexType::kText;
 constexpr auto kColor = IndexType::kColor;
 constexpr auto kHandle = IndexType::kHandle;
@@ -147,6 +148,10 @@ const IndexRow kRows[] = {
     {kVariable, L"", L"TILEMODE", kInt, nullptr, L"editor statusbar",
      L"read: model or paper space"},
     {kVariable, L"", L"GRIDMODE", kInt, nullptr, L"editor", L"read: the grid is shown"},
+    {kVariable, L"", L"VIEWCTR", kPoint, nullptr, L"kernel",
+     L"read: middle of the view, for zooming at the pointer"},
+    {kVariable, L"", L"VIEWSIZE", kReal, nullptr, L"kernel",
+     L"read: height of the view, for zooming at the pointer"},
     {kVariable, L"", L"CPROFILE", kText, L"", L"frame", L"read: names the folder of Menu"},
     {kVariable, L"", L"SELECTIONPREVIEW", kInt, nullptr, L"editor",
      L"read: the host's own preview"},

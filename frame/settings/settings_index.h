@@ -14,7 +14,7 @@ enum class IndexStore {
   kLispSymbol,    // set in each drawing
 };
 
-enum class IndexType { kInt, kReal, kText, kColor, kHandle, kNil };
+enum class IndexType { kInt, kReal, kPoint, kText, kColor, kHandle, kNil };
 
 struct IndexRow {
   IndexStore store;

@@ -8,6 +8,9 @@
 
 namespace {
 
+// The host takes the points of a fence as a list.
+bool IsFence(const wchar_t* mode) { return mode && mode[0] == L'F' && !mode[1]; }
+
 bool AcceptsPointer(const TEntitySet& entity, const AcGePoint3d& world) {
   const TAcDbObjectPtr<AcDbEntity> object(entity.ObjectId(), AcDb::kForRead);
   const TEntityBase* base = TEntityBase::Cast(object.Get());
@@ -36,7 +39,14 @@ int TPickEntSet::Get(const wchar_t* mode, const AcGePoint3d* first, const AcGePo
   ads_point a{}, b{};
   if (first) a[0] = first->x, a[1] = first->y, a[2] = first->z;
   if (second) b[0] = second->x, b[1] = second->y, b[2] = second->z;
-  const int status = acedSSGet(mode, first ? a : nullptr, second ? b : nullptr, filter, m_name);
+  int status = RTERROR;
+  if (IsFence(mode) && first && second) {
+    resbuf* points = acutBuildList(RT3DPOINT, a, RT3DPOINT, b, RTNONE);
+    status = acedSSGet(mode, points, nullptr, filter, m_name);
+    acutRelRb(points);
+  } else {
+    status = acedSSGet(mode, first ? a : nullptr, second ? b : nullptr, filter, m_name);
+  }
   if (status != RTNORM) m_name[0] = m_name[1] = 0;
   return status;
 }

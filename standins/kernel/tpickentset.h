@@ -19,7 +19,8 @@ class QVX_KERNEL TPickEntSet {
   TPickEntSet& operator=(const TPickEntSet& other);  // a set of its own with the same objects
 
   // Selects as acedSSGet does with this mode, points and filter; replaces the old content. "I" is
-  // the implied selection, null with a point the object there. RTNORM or the host's error.
+  // the implied selection, "F" the objects that the line between two points crosses, null with a
+  // point the object there. RTNORM or the host's error.
   int Get(const wchar_t* mode, const AcGePoint3d* first = nullptr,
           const AcGePoint3d* second = nullptr, const resbuf* filter = nullptr);
   // The current selection. Unlike Get(L"I") it does not change the previous selection.

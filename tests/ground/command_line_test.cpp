@@ -81,7 +81,7 @@ TEST_F(HostDoor, AFileOnTheSupportPathIsFoundAndOtherwiseThePathStays) {
   EXPECT_STREQ(path, L"before");
   EXPECT_TRUE(qvx::FindFile(L"here.txt"));
   EXPECT_TRUE(qvx::FindFile(L"here.txt", path));
-  EXPECT_TRUE(std::filesystem::exists(path.c_str()));
+  EXPECT_TRUE(std::filesystem::exists(static_cast<const wchar_t*>(path)));
   EXPECT_TRUE(qvx::FindHostFile(L"here.txt", path));
 }
 

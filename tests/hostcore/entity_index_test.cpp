@@ -88,13 +88,13 @@ TEST(BoxGrid, FindsEveryBoxThatTouchesAndFarFewerThanAll) {
 
 TEST(BoxGrid, BoxesThatNoCellCanHoldAreAlwaysFound) {
   BoxGrid grid;
-  const Box far = {1e300, 0, 1e300, 1}, endless = {-INFINITY, 0, INFINITY, 1};
-  grid.Insert(1, far);
+  const Box distant = {1e300, 0, 1e300, 1}, endless = {-INFINITY, 0, INFINITY, 1};
+  grid.Insert(1, distant);
   grid.Insert(2, endless);
   std::vector<int> found;
   grid.Find({0, 0, 1, 1}, &found);
   EXPECT_EQ(found, (std::vector<int>{1, 2}));
-  grid.Remove(1, far);
+  grid.Remove(1, distant);
   found.clear();
   grid.Find({-1e9, -1e9, 1e9, 1e9}, &found);
   EXPECT_EQ(found, (std::vector<int>{2}));

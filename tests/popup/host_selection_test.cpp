@@ -66,6 +66,20 @@ TEST_F(HostSelection, APointFindsTheObjectAtIt) {
   EXPECT_NE(set.Get(nullptr, &onLine, nullptr, arcs.Head()), RTNORM);
 }
 
+TEST_F(HostSelection, AFenceFindsTheObjectsThatItsLineCrosses) {
+  TPickEntSet set;
+  const AcGePoint3d above(5, 1e9, 0), below(5, -1e9, 0), right(15, 1e9, 0), lower(15, -1e9, 0);
+  EXPECT_EQ(set.Get(L"F", &above, &below), RTNORM);
+  EXPECT_EQ(set.Length(), 2);
+  EXPECT_TRUE(set.IsInclude(Object(0)) && set.IsInclude(Object(1)));
+  TRBList circles;
+  circles.AppendString(0, L"CIRCLE");
+  EXPECT_EQ(set.Get(L"F", &above, &below, circles.Head()), RTNORM);
+  EXPECT_EQ(set.Length(), 1);
+  EXPECT_NE(set.Get(L"F", &right, &lower), RTNORM);
+  EXPECT_EQ(set.Length(), 0);
+}
+
 TEST_F(HostSelection, AnObjectReturnsItsGroupsAndNoValueForMissingOnes) {
   const TEntitySet line = Object(0);
   EXPECT_TRUE(line.Is(L"line"));

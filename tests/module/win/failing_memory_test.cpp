@@ -3,9 +3,10 @@
 #include <functional>
 #include <optional>
 
-#include "rxmfcapi.h"
 #include "tests/module/win/module_memory.h"
 #include "tests/module/win/module_test.h"
+// after the class library
+#include "rxmfcapi.h"
 
 namespace {
 

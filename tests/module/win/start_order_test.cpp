@@ -64,14 +64,15 @@ TEST_F(Module, StartsInTheSpecifiedOrder) {
     const devhost::StartWatch watch(L"");
     ASSERT_TRUE(LoadModule());
   }
-  EXPECT_EQ(OwnSteps(),
-            (List{"kInitAppMsg qvx_initstart.arx", "module qvx_kernal.arx loaded",
-                  "unlockApplication", "registerAppMDIAware", "acedFindFile qvxtips.txt",
-                  "acedFindFile qvx.qmn x2",  // and its icon library
-                  "window made", "addCommand TShowBar x14", "addReactor",
-                  "acedFindFile dmload.rx x2",  // and the file that it names
-                  "module qvx_design.arx loaded", "acedFindFile qvx.ini",
-                  "kInitAppMsg done qvx_initstart.arx"}));
+  EXPECT_EQ(
+      OwnSteps(),
+      (List{"kInitAppMsg qvx_initstart.arx", "module qvx_kernal.arx loaded", "unlockApplication",
+            "registerAppMDIAware", "acedFindFile qvxtips.txt",
+            "acedFindFile qvx.qmn x2",  // and its icon library
+            "window made", "acedRegisterFilterWinMsg", "addCommand TShowBar x14", "addReactor",
+            "acedFindFile dmload.rx x2",  // and the file that it names
+            "module qvx_design.arx loaded", "acedFindFile qvx.ini",
+            "kInitAppMsg done qvx_initstart.arx"}));
   for (const wchar_t* name : {L"dmload.rx", L"qvx.ini", L"qvxtips.txt"})
     HostProcess::Get().Remove(name);
   ASSERT_TRUE(UnloadModule());  // which saves the flags

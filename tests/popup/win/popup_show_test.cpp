@@ -78,7 +78,7 @@ class PopupShow : public testing::Test {
       }
       ::EndMenu();
     };
-    const int result = ShowContextMenu(CPoint(300, 200), 0);
+    const int result = ShowContextMenu(300, 200, 0);
     g_whenIdle = nullptr;
     host.Pump();
     return result;
@@ -222,7 +222,7 @@ TEST_F(PopupShow, ASecondPopUpInsideTheFirstIsRefusedAndTheFirstStays) {
   AddLine(*common, L"甲", L"A\n");
   int second = -1, alive = 0;
   Show({Step([&] {
-    second = ShowContextMenu(CPoint(10, 10), 1);
+    second = ShowContextMenu(10, 10, 1);
     Window().ResetPopups();
     alive = Window().Popups().Length();
   })});

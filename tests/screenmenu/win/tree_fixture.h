@@ -38,7 +38,7 @@ class Diary : public GroupOwner {
   }
   void RestoreStatusBar() override {}
 
-  static std::wstring Text(const TWCString& text) { return text.c_str(); }
+  static std::wstring Text(const TWCString& text) { return std::wstring(text); }
   void Note(const std::wstring& what) { notes.push_back(what); }
 
   FakeLisp lisp;
