@@ -272,6 +272,10 @@ TEST_F(PlayTest, VariablesAreComparedAsTextOrNumber) {
   EXPECT_EQ(Play("expect var DIMSCALE 50\n"), 1);
   EXPECT_NE(world.printed.find("expected variable DIMSCALE to be \"50\"; it is \"100.0\""),
             std::string::npos);
+  world.variables["VIEWSIZE"] = "11184.210526315786";
+  EXPECT_EQ(Play("expect var VIEWSIZE 11184.210526\n"), 0);
+  EXPECT_EQ(Play("expect var VIEWSIZE 11184.2105\n"), 1);
+  EXPECT_EQ(Play("expect var VIEWSIZE \"11184.210526\"\n"), 1);
   EXPECT_EQ(Play("expect var NOSUCH 1\n"), 1);
   EXPECT_NE(world.printed.find("there is no such variable"), std::string::npos);
 }

@@ -2,6 +2,7 @@
 #include "devhost/play/play_expect.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 
 #include "devhost/play/state_path.h"
@@ -48,6 +49,15 @@ std::string TextsOf(const std::vector<JournalEntry>& entries) {
   for (const JournalEntry& entry : entries)
     texts += (texts.empty() ? "" : ", ") + Shown(TextOf(entry));
   return texts.empty() ? "nothing" : texts;
+}
+
+// Whether both texts are numbers that differ by rounding at most.
+bool SameNumber(const std::string& a, const std::string& b) {
+  constexpr double kRounding = 1e-9;
+  const Json first = Json::parse(a, nullptr, false), second = Json::parse(b, nullptr, false);
+  if (!first.is_number() || !second.is_number()) return false;
+  const double x = first.get<double>(), y = second.get<double>();
+  return std::fabs(x - y) <= kRounding * std::max(std::fabs(x), std::fabs(y));
 }
 
 // Polls until `ask` is true or the time is over; returns the last result.
@@ -148,9 +158,7 @@ std::string PlayExpectations::Value(const Step& step) {
   std::string value;
   bool known = false;
   const auto equals = [&] {
-    if (value == step.value.text) return true;
-    const Json number = Json::parse(value, nullptr, false);
-    return number.is_number() && ValueMatches(number, step.value);
+    return value == step.value.text || (!step.value.quoted && SameNumber(value, step.value.text));
   };
   const bool met = WaitFor(m_world, [&] {
     known = setting ? m_world.Setting(step.text, &value) : m_world.Variable(step.text, &value);
