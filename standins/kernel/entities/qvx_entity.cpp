@@ -37,6 +37,7 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
   outline.clear();
   cells.clear();
   group = control = 0;
+  bool hasEnd = false;
   resbuf item{};
   while (filer->readItem(&item) == Acad::eOk) {
     const AcGePoint3d point(item.resval.rpoint[0], item.resval.rpoint[1], item.resval.rpoint[2]);
@@ -50,6 +51,7 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
         break;
       case 11:
         end = point;
+        hasEnd = true;
         break;
       case 40:
         width = item.resval.rreal;
@@ -82,6 +84,7 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
         break;
     }
   }
+  if (!hasEnd) end = start;  // an object with one control point
   return Acad::eOk;
 }
 
