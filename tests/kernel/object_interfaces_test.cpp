@@ -286,11 +286,12 @@ TEST_F(Objects, GroupControlStateAndCellsGoThroughAFile) {
 TEST_F(Objects, AnObjectWithoutASecondPointInTheFileEndsAtItsFirst) {
   MakeFile("door.dxf",
            "0\nSECTION\n2\nENTITIES\n0\nQVX_OPENING\n5\n21\n100\nAcDbEntity\n8\n0\n"
-           "10\n500\n20\n7\n0\nENDSEC\n0\nEOF\n");
+           "100\nQvxDbOpening\n10\n500\n20\n7\n0\nENDSEC\n0\nEOF\n");
   ASSERT_TRUE(host.documents.Open(L"door.dxf"));
   ASSERT_EQ(1u, Entities().size());
   const auto* door = QvxDbOpening::cast(Entities()[0]);
   ASSERT_TRUE(door);
+  ASSERT_EQ(500, door->start.x);
   EXPECT_EQ(500, door->end.x);
   EXPECT_EQ(7, door->end.y);
 }
