@@ -299,8 +299,9 @@ void Session::Pause() {
 }
 
 bool IsFoundIn(const std::string& bytes, const std::string& word) {
-  const auto fold = [](unsigned char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; };
-  return std::ranges::search(bytes, word, {}, fold, fold).begin() != bytes.end();
+  const auto fold = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  const auto isSame = [&](char a, char b) { return fold(a) == fold(b); };
+  return std::search(bytes.begin(), bytes.end(), word.begin(), word.end(), isSame) != bytes.end();
 }
 
 }  // namespace
