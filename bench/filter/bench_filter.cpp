@@ -155,6 +155,7 @@ int RunOne(const char* name, int count) {
 int main(int count, char** words) {
   const OpenDrawing drawing;
   g_bDisableHook = g_nCustomFlag = 0;
+  TheFilters();  // ahead of the counting of allocations
   if (count == 4 && std::strcmp(words[1], "--run") == 0)
     return RunOne(words[2], std::atoi(words[3]));
   Measure();
