@@ -21,9 +21,9 @@ TMenuBar* ScreenMenuRootBar();
 // of that label, or shows the help of the line last right-clicked.
 void TailCommand(const wchar_t* text);
 
-// Exports of the module, see screenmenu/win/screen_menu.h.
-extern "C" int ShowScreenMenu(int show);
-extern "C" int IsScreenMenuVisible();
+// As the exports ShowScreenMenu and IsScreenMenuVisible.
+void ShowPalette(bool show);
+bool IsPaletteVisible();
 
 // The wheel over the palette, at a screen point. The group that scrolls is the open one below the
 // root, or the root; a group without rows contains no point.

@@ -22,7 +22,7 @@ ON_WM_PAINT()
 ON_WM_TIMER()
 END_MESSAGE_MAP()
 
-BOOL CGripTipWnd::Create(const wchar_t* text, CPoint at) {
+BOOL CGripTipWnd::CreateTip(const wchar_t* text, CPoint at) {
   CWnd* frame = acedGetAcadFrame();
   if (!frame) return FALSE;
   LOGFONTW font{};
@@ -71,7 +71,7 @@ void CGripTipWnd::OnPaint() {
 void OpenGripTip(const wchar_t* text, CPoint at) {
   CloseGripTip();
   auto tip = std::make_unique<CGripTipWnd>();
-  if (tip->Create(text, at)) g_tip = std::move(tip);
+  if (tip->CreateTip(text, at)) g_tip = std::move(tip);
 }
 
 void CloseGripTip() {

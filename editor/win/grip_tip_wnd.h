@@ -8,7 +8,7 @@
 class CGripTipWnd : public qvx::GuardedWindow<CWnd> {
  public:
   // Child of the host frame, visible; the point is in the frame's client area.
-  BOOL Create(const wchar_t* text, CPoint at);
+  BOOL CreateTip(const wchar_t* text, CPoint at);
 
  protected:
   afx_msg void OnPaint();

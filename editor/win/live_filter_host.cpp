@@ -107,8 +107,8 @@ void LiveFilterHost::ShowHelp(qvx::HelpCall call, const wchar_t* helpFile, const
 }
 
 void LiveFilterHost::CloseGripTip() { ::CloseGripTip(); }
-bool LiveFilterHost::IsScreenMenuVisible() { return ::IsScreenMenuVisible() != 0; }
-void LiveFilterHost::ShowScreenMenu(bool show) { ::ShowScreenMenu(show); }
+bool LiveFilterHost::IsScreenMenuVisible() { return IsPaletteVisible(); }
+void LiveFilterHost::ShowScreenMenu(bool show) { ShowPalette(show); }
 void LiveFilterHost::HideTabBar(bool) { unbuilt::HideTabBar(); }
 bool LiveFilterHost::IsInScreenMenu(POINT screen) { return ::IsInScreenMenu(screen.x, screen.y); }
 bool LiveFilterHost::IsInWheelGroup(POINT screen) { return ::IsInWheelGroup(screen.x, screen.y); }

@@ -128,19 +128,19 @@ void DockFloatingScreenMenu() {
   acedGetAcadFrame()->DockControlBar(g_pScreenMenu, AFX_IDW_DOCKBAR_LEFT, nullptr);
 }
 
-namespace {
+bool IsPaletteVisible() {
+  return g_pScreenMenu && g_pScreenMenu->GetSafeHwnd() && (g_pScreenMenu->GetStyle() & WS_VISIBLE);
+}
 
 void ShowPalette(bool show) {
   if (!g_pScreenMenu) return;
-  if (!show && IsScreenMenuVisible()) {
+  if (!show && IsPaletteVisible()) {
     g_pScreenMenu->CloseSilently();
-  } else if (show && !IsScreenMenuVisible()) {
+  } else if (show && !IsPaletteVisible()) {
     acedGetAcadFrame()->ShowControlBar(g_pScreenMenu, TRUE, TRUE);
     if (CWnd* view = acedGetAcadDwgView()) view->SetFocus();
   }
 }
-
-}  // namespace
 
 extern "C" int ShowScreenMenu(int show) {
   qvx::Guarded([&] { ShowPalette(show != 0); });
@@ -148,10 +148,7 @@ extern "C" int ShowScreenMenu(int show) {
 }
 
 extern "C" int IsScreenMenuVisible() {
-  return qvx::GuardedOr(0, [] {
-    if (!g_pScreenMenu || !g_pScreenMenu->GetSafeHwnd()) return 0;
-    return (g_pScreenMenu->GetStyle() & WS_VISIBLE) ? 1 : 0;
-  });
+  return qvx::GuardedOr(0, [] { return IsPaletteVisible() ? 1 : 0; });
 }
 
 extern "C" int GetScreenMenuWidth() {
