@@ -230,7 +230,8 @@ void Session::ChangeState() {
   m_host.isTyped = m_input.Flag();
   m_host.isLisp = m_input.Flag();
   m_host.active = m_input.Seldom();
-  m_host.nextActive.assign(m_input.Byte() % 3, static_cast<int>(m_input.Byte() % 2));
+  const unsigned answers = m_input.Byte() % 3;
+  m_host.nextActive.assign(answers, static_cast<int>(m_input.Byte() % 2));
   m_host.resizeTakes = m_input.Flag();
   m_host.hasText = m_input.Flag();
   m_host.running.clear();

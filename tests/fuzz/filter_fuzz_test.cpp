@@ -70,8 +70,10 @@ TEST(FilterFuzz, RandomHelpMapsKeepTheInvariants) {
   int found = 0;
   for (int i = 0; i < 3000; ++i) {
     std::string bytes = RandomBytes(random, 12);
-    for (unsigned left = random() % 12; left; --left)
-      bytes += pieces[random() % std::size(pieces)] + gaps[random() % std::size(gaps)];
+    for (unsigned left = random() % 12; left; --left) {
+      bytes += pieces[random() % std::size(pieces)];
+      bytes += gaps[random() % std::size(gaps)];
+    }
     found += FuzzHelpMap(bytes);
   }
   EXPECT_GT(found, 100);
