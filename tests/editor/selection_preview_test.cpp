@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/editor_door.h"
 #include "editor/preview_host.h"
 #include "kernel/globals.h"
 
@@ -302,6 +303,22 @@ TEST_F(SelectionPreviewTest, AnotherDrawingIsNotChargedWithTheHitTestsOfThisOne)
   EXPECT_FALSE(host.isOff) << "two samples were dropped too";
   Measure({0, 301});
   EXPECT_FALSE(host.isOff);
+}
+
+TEST_F(SelectionPreviewTest, TheModulesOnePreviewIsResetByItsDoor) {
+  host.duration = 200;
+  LONG x = 5000;
+  const auto step = [&](int times) {
+    while (times-- > 0) qvx::ThePreview().Step(host, {++x, 5000});
+  };
+  ResetPreviewCounters();
+  step(4);
+  ResetPreviewCounters();
+  step(4);
+  EXPECT_FALSE(host.isOff) << "each block has four hit tests";
+  step(1);
+  EXPECT_TRUE(host.isOff);
+  ResetPreviewCounters();
 }
 
 TEST_F(SelectionPreviewTest, TheClockMayWrapDuringAHitTest) {
