@@ -75,6 +75,17 @@ TEST_F(TextSearch, TheThirdStageFollowsTheDirectionOfTheUsersYAxisAtAnyLength) {
             "QVX_SHEET,QVX_DRAWINGINDEX,QVX_INDEXPOINTER,QVX_AXIS_LABEL"));
 }
 
+TEST_F(ClickDuringEdit, ASetWithoutObjectsLeavesTheSearchToTheNextStage) {
+  edit.isVisible = true;
+  host.found = {{kFamily, 0}, {kSheetFence, 0}};
+  Click();
+  EXPECT_TRUE(Asked(kSheetFence));
+  EXPECT_TRUE(Asked(kAxisFence));
+  host.found = {{kFamily, 0}, {kSheetFence, 1}};
+  Click();
+  EXPECT_FALSE(Asked(kAxisFence));
+}
+
 TEST_F(ClickDuringEdit, PassesWhenNoEditIsUnderWay) {
   EXPECT_FALSE(Click());
   EXPECT_EQ(Done(), Entries{});
