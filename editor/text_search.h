@@ -1,5 +1,5 @@
-// Finds the text at a point of the drawing. Some annotation stands away from the geometry of its
-// object, so that a pick at the point does not find the object.
+// Finds the text at a point of the drawing. The text of some annotation objects lies outside their
+// geometry, so a pick at the point does not find the object.
 #pragma once
 
 #include "gepnt3d.h"

@@ -3,8 +3,8 @@
 //                                when a goal is missed
 //   bench_filter --run NAME N    runs one case N times, for an instruction count
 // The filter's own time is that over a host that answers with constants, less that of a filter that
-// passes every message. With the core of the development host its answers are included; beside it
-// stands the bare read of one host variable.
+// passes every message. With the core of the development host its answers are included; for
+// comparison one read of a host variable is measured too.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>

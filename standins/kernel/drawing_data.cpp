@@ -111,8 +111,8 @@ class DataOfDrawings : public AcApDocManagerReactor {
     return &m_last->second;
   }
 
-  // A new drawing may lie at the address of a closed one, for which somebody asked once more while
-  // it was closed.
+  // A new drawing may have the address of a closed one, whose data was made again by a call during
+  // its closing.
   void documentCreated(AcApDocument* document) override { Forget(document); }
   void documentToBeDestroyed(AcApDocument* document) override { Forget(document); }
 

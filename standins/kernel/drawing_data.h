@@ -13,7 +13,7 @@ class QVX_KERNEL TDocData {
   int m_bReady = 0;  // set by DocStatus when the host loads the drawing into the modules
 
   // The innermost command that runs in the drawing, by its global name; empty when none does. Set
-  // when a command begins; when it ends, is cancelled or fails, the one around it stands again.
+  // when a command begins; restored when it ends, is cancelled or fails.
   const wchar_t* CurCmdName() const { return m_commands.empty() ? L"" : m_commands.back().c_str(); }
 
   // Records a character typed at the command line, as WM_CHAR brings it: `code` in the ANSI code

@@ -22,7 +22,8 @@ struct ViewportBorder {
   int from = 0, to = 0;       // its ends in the other direction, `to` not included
 };
 
-// The border within reach of a pixel. `numberAt` tells the viewport at a pixel, 0 beside all.
+// The border within reach of a pixel. `numberAt` returns the number of the
+// viewport at a pixel, 0 if there is none.
 QVX_KERNEL ViewportBorder BorderNear(const std::function<int(int x, int y)>& numberAt,
                                      CPoint pixel);
 

@@ -15,7 +15,7 @@ namespace editortest {
 
 std::string Utf8(const wchar_t* text);
 
-// Windows and texts are told apart by their addresses only.
+// Only the addresses are compared; nothing is at them.
 inline HWND const kView = reinterpret_cast<HWND>(0x10);       // of the current drawing
 inline HWND const kOtherView = reinterpret_cast<HWND>(0x20);  // of another drawing
 inline HWND const kFrame = reinterpret_cast<HWND>(0x30);

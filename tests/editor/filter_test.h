@@ -35,7 +35,7 @@ class FilterTest : public ::testing::Test {
     diary.entries.clear();
     return filter.Filter(message);
   }
-  // What is asked and done behind the acceptance questions.
+  // What is asked and done after the acceptance questions.
   Entries Order(const MSG& message) {
     Filter(message);
     Entries entries = diary.entries;

@@ -18,7 +18,7 @@ struct Before {
   std::vector<editortest::GroupedObject> objects;
 };
 
-// What earlier messages leave behind in the filter, kept beside it.
+// The expected state of the filter after the messages so far.
 struct Memory {
   bool isPressed = false;  // a press of the right button is captured
   DWORD pressTime = 0;

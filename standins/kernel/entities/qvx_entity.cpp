@@ -1,6 +1,7 @@
 // The record that all drawing objects of the family share; see the header.
 #include "kernel/entities/qvx_entity.h"
 
+#include "kernel/entities/class_registration.h"
 #include "kernel/entities/tdbdimension2.h"
 #include "kernel/tdbconfig.h"
 #include "kernel/tdbfloorrect.h"
@@ -125,38 +126,13 @@ AcGePoint3d QvxDbSpace::Middle() const {
   return {(box.minPoint().x + box.maxPoint().x) / 2, (box.minPoint().y + box.maxPoint().y) / 2, 0};
 }
 
-namespace {
-
-template <class... Class>
-void RegisterAll() {
-  (Class::rxInit(), ...);
-}
-
-template <class Class>
-void Forget() {
-  if (!Class::gpDesc) return;
-  deleteAcRxClass(Class::gpDesc);
-  Class::gpDesc = nullptr;
-}
-
-}  // namespace
-
 void BeginQvxEntities() {
-  RegisterAll<QvxDbEntity, QvxDbWall, QvxDbOpening, QvxDbColumn, QvxDbAxisNumber, QvxDbText,
-              QvxDbStair, TDbDimension2, QvxDbSpace, TDbFloorRect>();
+  RegisterClasses<QvxDbEntity, QvxDbWall, QvxDbOpening, QvxDbColumn, QvxDbAxisNumber, QvxDbText,
+                  QvxDbStair, TDbDimension2, QvxDbSpace, TDbFloorRect>();
   acrxBuildClassHierarchy();
 }
 
 void EndQvxEntities() {
-  Forget<TDbConfig>();
-  Forget<TDbFloorRect>();
-  Forget<QvxDbSpace>();
-  Forget<TDbDimension2>();
-  Forget<QvxDbStair>();
-  Forget<QvxDbText>();
-  Forget<QvxDbAxisNumber>();
-  Forget<QvxDbColumn>();
-  Forget<QvxDbOpening>();
-  Forget<QvxDbWall>();
-  Forget<QvxDbEntity>();
+  RemoveClasses<TDbConfig, TDbFloorRect, QvxDbSpace, TDbDimension2, QvxDbStair, QvxDbText,
+                QvxDbAxisNumber, QvxDbColumn, QvxDbOpening, QvxDbWall, QvxDbEntity>();
 }

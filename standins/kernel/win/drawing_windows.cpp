@@ -1,5 +1,5 @@
-// The windows of the host that belong to drawing, told by what the class library publishes of them:
-// the frame's MDI client, its children, and in each the pane with the first identifier.
+// The windows of the host that belong to drawings, found by their published positions: the frame's
+// MDI client, its children, and in each child the pane with the first identifier.
 #include "afxext.h"
 
 #include "rxmfcapi.h"

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <thread>
 
+#include "kernel/entities/class_registration.h"
+
 ACRX_DXF_DEFINE_MEMBERS(QvxDbSheet, QvxDbEntity, 0, 0, 0, QVX_SHEET, qvx_design)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbDrawingIndex, QvxDbEntity, 0, 0, 0, QVX_DRAWINGINDEX, qvx_design)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbIndexPointer, QvxDbEntity, 0, 0, 0, QVX_INDEXPOINTER, qvx_design)
@@ -141,30 +143,11 @@ bool QvxDbSlow::subWorldDraw(AcGiWorldDraw* draw) const {
   return true;
 }
 
-namespace {
-
-template <class Class>
-void Forget() {
-  if (!Class::gpDesc) return;
-  deleteAcRxClass(Class::gpDesc);
-  Class::gpDesc = nullptr;
-}
-
-}  // namespace
-
 void BeginAnnotationEntities() {
-  QvxDbSheet::rxInit();
-  QvxDbDrawingIndex::rxInit();
-  QvxDbIndexPointer::rxInit();
-  QvxDbAxisLabel::rxInit();
-  QvxDbSlow::rxInit();
+  RegisterClasses<QvxDbSheet, QvxDbDrawingIndex, QvxDbIndexPointer, QvxDbAxisLabel, QvxDbSlow>();
   acrxBuildClassHierarchy();
 }
 
 void EndAnnotationEntities() {
-  Forget<QvxDbSlow>();
-  Forget<QvxDbAxisLabel>();
-  Forget<QvxDbIndexPointer>();
-  Forget<QvxDbDrawingIndex>();
-  Forget<QvxDbSheet>();
+  RemoveClasses<QvxDbSlow, QvxDbAxisLabel, QvxDbIndexPointer, QvxDbDrawingIndex, QvxDbSheet>();
 }

@@ -1,4 +1,4 @@
-// The windows of the host as the kernel tells them apart, and the drag of a border between
+// The kernel's predicates on windows of the host, and the drag of a border between
 // viewports with the host's real view.
 #include <gtest/gtest.h>
 

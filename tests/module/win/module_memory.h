@@ -17,7 +17,7 @@ class ModuleMemory {
   // False when a table has no such function: nothing can fail or be counted then.
   bool IsPatched() const { return m_allocates && m_frees; }
 
-  // Blocks that the module has allocated since the patch and nobody has freed.
+  // Blocks that the module has allocated since the patch and that are not freed.
   static int LiveBlocks();
 
   // The allocation of this number from now on throws std::bad_alloc, once; 0: none does.

@@ -82,7 +82,8 @@ struct AfxThreadState {
 };
 
 AfxThreadState& AfxGetThreadState();
-void AfxFreeThreadState();  // of a thread of the library, which leaves no window objects behind
+// At the end of a worker thread, which must have destroyed its window objects.
+void AfxFreeThreadState();
 
 class AFX_MODULE_STATE {
  public:
