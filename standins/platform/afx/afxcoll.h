@@ -16,7 +16,10 @@ class CStringList : public CList<CString, LPCTSTR> {};
 class CPtrList : public CList<void*, void*> {};
 class CObList : public CList<CObject*, CObject*> {};
 
-class CMapPtrToPtr : public CMap<void*, void*, void*, void*> {};
+class CMapPtrToPtr : public CMap<void*, void*, void*, void*> {
+ public:
+  explicit CMapPtrToPtr(INT_PTR nBlockSize = 10) : CMap(nBlockSize) {}
+};
 class CMapWordToPtr : public CMap<WORD, WORD, void*, void*> {};
 class CMapStringToPtr : public CMap<CString, LPCTSTR, void*, void*> {};
 class CMapStringToOb : public CMap<CString, LPCTSTR, CObject*, CObject*> {};
