@@ -34,7 +34,7 @@ std::span<const TabMenuRow> StripMenuRows() { return kStripRows; }
 
 bool IsAboutOneDrawing(unsigned id) { return id == kTabClose || id == kTabExport; }
 
-TabMenuPlan PlanTabMenu(TabStrip& strip, const TabMenuRequest& request) {
+TabMenuPlan PlanTabMenu(const TabStrip& strip, const TabMenuRequest& request) {
   const POINT point = request.screenPoint;
   if (!request.mayActivate) return {TabMenuAnswer::kNone, -1, point};
   const RECT& box = request.screenStrip;

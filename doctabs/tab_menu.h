@@ -43,7 +43,7 @@ struct TabMenuPlan {
   int tab;  // only for a tab's menu
   POINT screenPoint;
 };
-TabMenuPlan PlanTabMenu(TabStrip& strip, const TabMenuRequest& request);
+TabMenuPlan PlanTabMenu(const TabStrip& strip, const TabMenuRequest& request);
 
 constexpr int kTabMenuTimer = 2;
 constexpr int kTabMenuDelay = 100;  // milliseconds: the activation of the drawing goes first

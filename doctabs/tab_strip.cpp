@@ -85,7 +85,7 @@ void TabStrip::ActivateTab(int index) {
 
 int TabStrip::HitTest(int clientX) const { return HitTab(m_offsets.Values(), clientX + Origin()); }
 
-bool TabStrip::IsOnArrows(int clientX) {
+bool TabStrip::IsOnArrows(int clientX) const {
   if (!m_bScroll || !m_window.Exists()) return false;
   const SIZE client = m_window.ClientSize();
   return clientX >= ArrowsBox(client.cx, client.cy).left;

@@ -65,7 +65,7 @@ class TabStrip {
   int Find(const CString& name) const { return m_names.Find(name); }
   int Origin() const { return OriginOf(m_offsets.Values(), m_nFirstTab); }
   // The point is on the arrows, behind which a tab may continue.
-  bool IsOnArrows(int clientX);
+  bool IsOnArrows(int clientX) const;
 
   // In display order; a text at most once.
   int m_nShowMode = static_cast<int>(TabShowMode::kAutomatic);

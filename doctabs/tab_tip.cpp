@@ -12,7 +12,7 @@ bool IsHighSurrogate(wchar_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 
 }  // namespace
 
-TabTip TipAt(TabStrip& strip, int clientX) {
+TabTip TipAt(const TabStrip& strip, int clientX) {
   const int origin = strip.Origin();
   const int tab =
       strip.IsOnArrows(clientX) ? -1 : TipTab(strip.m_offsets.Values(), clientX + origin);

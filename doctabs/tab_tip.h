@@ -10,7 +10,7 @@ struct TabTip {
   int tab;   // -1: no tip
   RECT box;  // in client coordinates
 };
-TabTip TipAt(TabStrip& strip, int clientX);
+TabTip TipAt(const TabStrip& strip, int clientX);
 
 // A buffer for the tip machinery, which frees it with free(); null without memory. A longer title
 // is cut, never within a pair of surrogates.

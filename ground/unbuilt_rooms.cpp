@@ -6,9 +6,7 @@ namespace {
 
 // Mutable: the calls of the one loaded module are counted here.
 UnbuiltStep g_steps[] = {
-    {"CreateDocTabBar", "doctabs", 0},  {"InitDocTabBar", "doctabs", 0},
-    {"DestroyDocTabBar", "doctabs", 0}, {"tab caption timer", "doctabs", 0},
-    {"HideTabBar", "doctabs", 0},       {"TInPlaceEdit", "editor", 0},
+    {"TInPlaceEdit", "editor", 0},
     {"TTextEditInBlock", "editor", 0},
 };
 
@@ -26,15 +24,7 @@ const UnbuiltStep* UnbuiltSteps(int* count) {
 
 namespace unbuilt {
 
-void CreateDocTabBar() { Note("CreateDocTabBar"); }
-void InitDocTabBar() { Note("InitDocTabBar"); }
-void DestroyDocTabBar() { Note("DestroyDocTabBar"); }
-
-void StartTabCaptionTimer() { Note("tab caption timer"); }
-
 void InPlaceEdit() { Note("TInPlaceEdit"); }
 void TextEditInBlock() { Note("TTextEditInBlock"); }
-
-void HideTabBar() { Note("HideTabBar"); }
 
 }  // namespace unbuilt

@@ -13,19 +13,8 @@ const UnbuiltStep* UnbuiltSteps(int* count);
 
 namespace unbuilt {
 
-// Load and unload sequence.
-void CreateDocTabBar();
-void InitDocTabBar();
-void DestroyDocTabBar();
-
-// Per drawing and on saving.
-void StartTabCaptionTimer();
-
 // Commands and LISP functions.
 void InPlaceEdit();
 void TextEditInBlock();
-
-// Exports.
-void HideTabBar();
 
 }  // namespace unbuilt

@@ -1,6 +1,7 @@
 #include "frame/start/load_sequence.h"
 
 #include "dialogs/win/information_commands.h"
+#include "doctabs/doc_tab_bar_door.h"
 #include "editor/editor_door.h"
 #include "frame/commands/win/command_table.h"
 #include "frame/settings/recent_commands.h"
@@ -22,6 +23,8 @@
 namespace {
 
 using qvx::SwitchPane;
+
+constexpr unsigned kTabBarId = 0xE8FF;
 
 // Not cached: the kernel, which holds the flags, is loaded by the first step.
 bool Has(CustomFlag flag) { return (GetCustomFlag() & flag) != 0; }
@@ -84,8 +87,8 @@ void RunLoadSequence(void* packet) {
   UnlockModule(packet);
   RegisterMdiAware(packet);
   RunCoreStart();
-  unbuilt::CreateDocTabBar();
-  unbuilt::InitDocTabBar();
+  CreateDocTabBar(HostFrame(), true, kTabBarId);
+  InitDocTabBar();
   AddPanes();
 }
 
@@ -98,7 +101,7 @@ void RunUnloadSequence() {
   InitMessageFilter(false);
   RemoveCommands();
   FreeIconLibrary();
-  unbuilt::DestroyDocTabBar();
+  DestroyDocTabBar();
   RemovePanes();
   UnloadKernel();
 }

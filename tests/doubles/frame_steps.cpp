@@ -78,9 +78,10 @@ void SetCommandHelpFile(const wchar_t* name) { Note(L"command help", name); }
 void SetFrameTitle(const wchar_t* title) { Note(L"title", title); }
 void HideFrameCaption() { Note(L"caption"); }
 void ReopenRecentFiles() { Note(L"recent files"); }
-void unbuilt::CreateDocTabBar() { Note(L"tabs"); }
-void unbuilt::InitDocTabBar() { Note(L"init tabs"); }
-void unbuilt::DestroyDocTabBar() { Note(L"destroy tabs"); }
+CWnd* HostFrame() { return nullptr; }
+void CreateDocTabBar(CWnd*, bool top, unsigned) { Note(top, L"tabs"); }
+void InitDocTabBar() { Note(L"init tabs"); }
+void DestroyDocTabBar() { Note(L"destroy tabs"); }
 void InitStatusPane(qvx::SwitchPane pane, bool add) { Note(add, NameOf(pane)); }
 void InitScalePane(bool add) { Note(add, L"scale"); }
 void SaveGlobalToReg() { Note(L"save settings"); }

@@ -4,6 +4,7 @@
 // dialog are leaks.
 #include <string>
 
+#include "doctabs/doc_tab_bar_door.h"
 #include "frame/settings/settings_report.h"
 #include "ground/guard.h"
 #include "ground/json_text.h"
@@ -59,7 +60,7 @@ extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
   return qvx::GuardedOr("{}", [] {
     static std::string json;
     json = "{\"screenmenu\":" + DescribeScreenMenu() + ",\"popup\":" + DescribePopup() +
-           ",\"tabs\":null,\"panes\":" + PanesSection() +
+           ",\"tabs\":" + DescribeDocTabs() + ",\"panes\":" + PanesSection() +
            ",\"editor\":null,\"recent\":" + RecentSection() +
            ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
            ",\"faults\":" + std::to_string(qvx::FaultCount()) + ",\"unbuilt\":" + UnbuiltSection() +

@@ -3,12 +3,13 @@
 #include <memory>
 
 #include "afxwin.h"
+
+#include "doctabs/doc_tab_bar_door.h"
 #include "frame/commands/win/lisp_functions.h"
 #include "frame/commands/win/live_menu_commands.h"
 #include "frame/start/load_sequence.h"
 #include "frame/start/shell.h"
 #include "ground/guard.h"
-#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "rxdlinkr.h"
 #include "rxregsvc.h"
@@ -62,7 +63,7 @@ void Dispatch(AcRx::AppMsgCode message, void* packet) {
       RunLispFunction();
       break;
     case AcRx::kSaveMsg:
-      unbuilt::StartTabCaptionTimer();
+      StartTabCaptionTimer();
       break;
     default:
       break;
@@ -88,5 +89,7 @@ QVX_EXPORT void LoadMenuForSun() {
   });
 }
 
-QVX_EXPORT void HideTabBar(int) { qvx::Guarded(unbuilt::HideTabBar); }
+QVX_EXPORT void HideTabBar(int hide) {
+  qvx::Guarded([&] { HideDocTabBar(hide); });
+}
 QVX_EXPORT void UpdateStatusBar() { qvx::Guarded(UpdateStatusPanes); }

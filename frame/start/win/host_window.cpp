@@ -6,6 +6,8 @@
 #include "kernel/globals.h"
 #include "rxmfcapi.h"
 
+CWnd* HostFrame() { return acedGetAcadFrame(); }
+
 void SetFrameTitle(const wchar_t* title) {
   CWnd* frame = acedGetAcadFrame();
   if (!frame) return;

@@ -14,6 +14,7 @@ class CAdUiDockControlBar : public CControlBar {
   explicit CAdUiDockControlBar(int nStyle = 0);
   ~CAdUiDockControlBar() override;
 
+  BOOL PreCreateWindow(CREATESTRUCT& cs) override;  // keeps the borders of its side
   virtual BOOL Create(LPCTSTR lpszTitle, CWnd* pParentWnd, UINT nID, DWORD dwStyle,
                       const RECT& rect);
   using CWnd::Create;

@@ -136,11 +136,26 @@ TEST_F(FrameLayout, BordersAreCutOffInsideTheLines) {
   ASSERT_TRUE(bar.CreateIn(frame, 0xE820, CBRS_TOP));
   CRect rect(0, 0, 100, 50);
   bar.CalcInsideRect(rect, TRUE);
-  EXPECT_EQ(rect, CRect(6, 1, 94, 47));
+  EXPECT_EQ(rect, CRect(6, 3, 94, 49));
   bar.SetBorders(0, 0, 0, 0);
   CRect none(0, 0, 0, 0);
   bar.CalcInsideRect(none, TRUE);
-  EXPECT_EQ(none, CRect(0, 0, 0, -2));
+  EXPECT_EQ(none, CRect(0, 2, 0, 0));
+}
+
+TEST_F(FrameLayout, PlainBordersOfASideBecomeRaisedOnesAtCreation) {
+  const struct {
+    DWORD given, created;
+  } kStyles[] = {{CBRS_TOP, 0x2280},       {CBRS_BOTTOM, 0x8880},    {CBRS_LEFT, 0x1A80},
+                 {CBRS_RIGHT, 0x4A80},     {CBRS_ALIGN_TOP, 0x2000}, {0x2A00, 0x2A00},
+                 {CBRS_TOP | 0x80, 0x2880}};
+  for (const auto& style : kStyles) {
+    PlainBar bar(CSize(100, 22));
+    bar.SetBarStyle(style.given);
+    ASSERT_TRUE(bar.CreateIn(frame, 0xE820, 0));
+    EXPECT_EQ(bar.GetBarStyle(), style.created) << style.given;
+    bar.DestroyWindow();
+  }
 }
 
 TEST_F(FrameLayout, AFrameThatGoesLeavesItsBarsUsable) {

@@ -44,6 +44,13 @@ CAdUiDockControlBar::CAdUiDockControlBar(int nStyle) {
 
 CAdUiDockControlBar::~CAdUiDockControlBar() = default;
 
+BOOL CAdUiDockControlBar::PreCreateWindow(CREATESTRUCT& cs) {
+  const DWORD style = m_dwStyle;
+  const BOOL create = CControlBar::PreCreateWindow(cs);
+  m_dwStyle = style;
+  return create;
+}
+
 BOOL CAdUiDockControlBar::Create(LPCTSTR lpszTitle, CWnd* pParentWnd, UINT nID, DWORD dwStyle,
                                  const RECT& rect) {
   m_dwStyle = dwStyle & CBRS_ALL & 0xFFFF;

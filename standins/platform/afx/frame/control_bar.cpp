@@ -85,6 +85,28 @@ void CControlBar::SetBarStyle(DWORD dwStyle) {
   OnBarStyleChange(old, dwStyle);
 }
 
+// A bar with the plain borders of its side gets the newer ones, which are raised: one line above a
+// bar at the top, one below a bar at the bottom, both on a bar at a side.
+static DWORD RaisedBorders(DWORD style) {
+  if (style & CBRS_BORDER_3D) return style;
+  DWORD borders = 0;
+  switch (style & (CBRS_ALIGN_ANY | CBRS_BORDER_ANY)) {
+    case CBRS_TOP:
+      borders = CBRS_BORDER_TOP;
+      break;
+    case CBRS_BOTTOM:
+      borders = CBRS_BORDER_BOTTOM;
+      break;
+    case CBRS_LEFT:
+    case CBRS_RIGHT:
+      borders = CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM;
+      break;
+    default:
+      return style;
+  }
+  return (style & ~DWORD(CBRS_BORDER_ANY)) | borders | CBRS_BORDER_3D;
+}
+
 BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
   if (!cs.lpszClass)
     cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW),
@@ -93,6 +115,7 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
   cs.style |= WS_CLIPSIBLINGS;
   // Without a bar style of its own the bar takes it from the low word of the window style.
   if (m_dwStyle == 0) m_dwStyle = cs.style & CBRS_ALL & 0xFFFF;
+  m_dwStyle = RaisedBorders(m_dwStyle);
   return TRUE;
 }
 
