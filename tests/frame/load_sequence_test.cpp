@@ -61,7 +61,7 @@ TEST_F(LoadSequence, RunsEveryStepInItsOrder) {
                                           L"title Title",
                                           L"caption",
                                           L"recent files",
-                                          L"tabs",
+                                          L"+tabs",
                                           L"init tabs",
                                           L"+group",
                                           L"+baseline",
