@@ -62,9 +62,8 @@ void TabStrip::ClearTabs() {
   m_order.Clear();
   m_offsets.SetLength(1);
   m_nFirstTab = 0;
-  if (!m_bScroll) return;
+  if (m_bScroll && m_window.Exists()) m_window.HideArrows();
   m_bScroll = false;
-  if (m_window.Exists()) m_window.HideArrows();
 }
 
 bool TabStrip::MoveToFront(int index) {
@@ -78,7 +77,8 @@ void TabStrip::SetActiveTab(int index) {
 }
 
 void TabStrip::ActivateTab(int index) {
-  if (!m_names.IsValidIndex(index) || !m_window.MayActivate() || !MoveToFront(index)) return;
+  if (!m_names.IsValidIndex(index) || !m_window.MayActivate()) return;
+  MoveToFront(index);
   m_window.OnTabActivated();
   if (m_window.Exists()) m_window.Invalidate();
 }

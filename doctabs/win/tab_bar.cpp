@@ -43,6 +43,9 @@ ON_WM_HSCROLL()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONDBLCLK()
 ON_WM_TIMER()
+ON_WM_DESTROY()
+ON_MESSAGE(WM_GETOBJECT, OnGetObject)
+ON_MESSAGE(kActivateTabMessage, OnActivateTab)
 END_MESSAGE_MAP()
 
 CTabBar::CTabBar() { m_font.CreateStockObject(DEFAULT_GUI_FONT); }
@@ -124,6 +127,21 @@ void CTabBar::OnLButtonDblClk(UINT flags, CPoint point) {
 void CTabBar::OnTimer(UINT_PTR timer) {
   if (timer == static_cast<UINT_PTR>(kTabLayoutTimer)) return m_strip.OnLayoutTimer();
   CControlBar::OnTimer(timer);
+}
+
+void CTabBar::OnDestroy() {
+  m_access.Disconnect();
+  CControlBar::OnDestroy();
+}
+
+LRESULT CTabBar::OnGetObject(WPARAM wParam, LPARAM lParam) {
+  if (static_cast<LONG>(lParam) != OBJID_CLIENT) return Default();
+  return m_access.Answer(m_hWnd, m_strip, wParam);
+}
+
+LRESULT CTabBar::OnActivateTab(WPARAM tab, LPARAM) {
+  if (static_cast<int>(tab) != m_strip.ActiveTab()) ActivateTab(static_cast<int>(tab));
+  return 0;
 }
 
 // ---- TabBarWindow

@@ -7,6 +7,7 @@
 
 #include "afxcmn.h"
 #include "doctabs/tab_picture.h"
+#include "doctabs/win/strip_accessible.h"
 #include "ground/win/guarded_window.h"
 
 class CTabBar;
@@ -83,9 +84,14 @@ class CTabBar : public qvx::GuardedWindow<CControlBar> {
   afx_msg void OnLButtonDown(UINT flags, CPoint point);
   afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
   afx_msg void OnTimer(UINT_PTR timer);
+  afx_msg void OnDestroy();
+  afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+  afx_msg LRESULT OnActivateTab(WPARAM tab, LPARAM);
   DECLARE_MESSAGE_MAP()
 
  private:
   CRect EmptyInside() const;
   TabColours Colours() const;
+
+  StripAccess m_access;
 };

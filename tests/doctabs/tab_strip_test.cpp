@@ -453,6 +453,9 @@ TEST_F(TabStripTest, ScrollingWithoutArrowsOrWindowIsIgnored) {
   window.exists = false;
   strip.OnScroll(SB_THUMBPOSITION, 1);
   EXPECT_EQ(strip.m_nFirstTab, 0);
+  strip.ClearTabs();
+  EXPECT_FALSE(strip.m_bScroll);
+  EXPECT_EQ(window.Take(), Diary{});
 }
 
 TEST_F(TabStripTest, AScrolledStripIsHitFromItsOrigin) {

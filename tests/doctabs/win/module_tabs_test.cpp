@@ -4,6 +4,9 @@
 #include "acdocman.h"
 #include "rxmfcapi.h"
 
+#include <objbase.h>
+#include <oleacc.h>
+
 namespace {
 
 using Json = nlohmann::json;
@@ -282,4 +285,91 @@ TEST_F(ModuleTabs, AModuleLoadedWithoutADrawingHasNoTabUntilOneComes) {
   EXPECT_EQ(Tabs()["tabs"].size(), 0u);
   New();
   EXPECT_EQ(Tabs()["tabs"].size(), 1u);
+}
+
+TEST_F(ModuleTabs, ActiveAndInactiveTabsHaveTheirColours) {
+  New();
+  ASSERT_TRUE(LoadModule());
+  New();
+  FireTimer(1);
+  ::UpdateWindow(Strip());
+  RECT client;
+  ::GetClientRect(Strip(), &client);
+  const Json tabs = Tabs()["tabs"];
+  const int width = tabs[0]["right"].get<int>() - tabs[0]["left"].get<int>();
+  const int bottom = client.bottom - 1, left = width, right = 2 * width - 3;
+  const HDC dc = ::GetDC(Strip());
+  // The corner pixel belongs to the context window.
+  EXPECT_EQ(::GetPixel(dc, 1, 0), 0xFAFAFAu) << "raised: light above";
+  EXPECT_EQ(::GetPixel(dc, 0, bottom - 1), 0xFAFAFAu);
+  EXPECT_EQ(::GetPixel(dc, width - 3, bottom), 0x323232u);
+  EXPECT_EQ(::GetPixel(dc, 3, 2), ::GetSysColor(COLOR_BTNFACE)) << "not filled";
+  EXPECT_EQ(::GetPixel(dc, width - 2, 5), ::GetSysColor(COLOR_BTNFACE)) << "the gap";
+  EXPECT_EQ(::GetPixel(dc, width - 1, 5), ::GetSysColor(COLOR_BTNFACE)) << "the gap";
+  EXPECT_EQ(::GetPixel(dc, left, 0), 0x323232u) << "pressed in: dark above";
+  EXPECT_EQ(::GetPixel(dc, right, bottom), 0xFAFAFAu);
+  EXPECT_EQ(::GetPixel(dc, left + 3, 2), 15132410u) << "filled";
+  ::ReleaseDC(Strip(), dc);
+}
+
+namespace {
+
+VARIANT Child(long id) {
+  VARIANT child;
+  child.vt = VT_I4;
+  child.lVal = id;
+  return child;
+}
+
+std::wstring NameOf(IAccessible& object, long id) {
+  BSTR name = nullptr;
+  object.get_accName(Child(id), &name);
+  const std::wstring text = name ? name : L"";
+  ::SysFreeString(name);
+  return text;
+}
+
+}  // namespace
+
+TEST_F(ModuleTabs, AScreenReaderFindsAListOfPageTabsAndMaySwitch) {
+  ::CoInitialize(nullptr);
+  AcApDocument* a = New();
+  ASSERT_TRUE(LoadModule());
+  New();
+  FireTimer(1);
+  IAccessible* strip = nullptr;
+  ASSERT_EQ(::AccessibleObjectFromWindow(Strip(), static_cast<DWORD>(OBJID_CLIENT),
+                                         __uuidof(IAccessible), reinterpret_cast<void**>(&strip)),
+            S_OK);
+  VARIANT value{};
+  long count = 0;
+  EXPECT_EQ(strip->get_accChildCount(&count), S_OK);
+  EXPECT_EQ(count, 2);
+  strip->get_accRole(Child(0), &value);
+  EXPECT_EQ(value.lVal, ROLE_SYSTEM_PAGETABLIST);
+  strip->get_accRole(Child(2), &value);
+  EXPECT_EQ(value.lVal, ROLE_SYSTEM_PAGETAB);
+  EXPECT_EQ(devhost::Utf8(NameOf(*strip, 1)), Tabs()["tabs"][0]["text"].get<std::string>());
+  strip->get_accState(Child(1), &value);
+  EXPECT_EQ(value.lVal, STATE_SYSTEM_SELECTABLE);
+  strip->get_accState(Child(2), &value);
+  EXPECT_EQ(value.lVal, STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_SELECTED);
+  EXPECT_EQ(strip->get_accSelection(&value), S_OK);
+  EXPECT_EQ(value.lVal, 2);
+  long x = 0, y = 0, width = 0, height = 0;
+  EXPECT_EQ(strip->accLocation(&x, &y, &width, &height, Child(2)), S_OK);
+  EXPECT_EQ(x, Tabs()["tabs"][1]["left"]);
+  EXPECT_EQ(x + width + 2, Tabs()["tabs"][1]["right"]);
+  EXPECT_EQ(strip->accHitTest(x + 5, y + 5, &value), S_OK);
+  EXPECT_EQ(value.lVal, 2);
+  EXPECT_EQ(strip->get_accRole(Child(3), &value), E_INVALIDARG);
+  EXPECT_EQ(strip->accDoDefaultAction(Child(1)), S_OK);
+  MSG message;
+  while (::PeekMessageW(&message, Strip(), WM_APP, WM_APP + 10, PM_REMOVE))
+    ::DispatchMessageW(&message);
+  EXPECT_EQ(acDocManager->curDocument(), a);
+  ::DestroyWindow(Strip());
+  EXPECT_EQ(strip->get_accChildCount(&count), E_FAIL) << "the strip is gone";
+  strip->Release();
+  ::CoUninitialize();
 }

@@ -1,0 +1,221 @@
+// See strip_accessible.h. A client in this process may hold the object longer than the strip lives:
+// every call then fails.
+#include "doctabs/win/strip_accessible.h"
+
+#include <oleacc.h>
+
+#include <atomic>
+
+#include "doctabs/tab_access.h"
+#include "ground/guard.h"
+
+namespace {
+
+constexpr wchar_t kListName[] = L"文档标签";
+
+HRESULT GiveText(const wchar_t* text, BSTR* out) {
+  if (!out) return E_POINTER;
+  *out = nullptr;
+  if (!*text) return S_FALSE;
+  *out = ::SysAllocString(text);
+  return *out ? S_OK : E_OUTOFMEMORY;
+}
+
+HRESULT GiveNumber(long number, VARIANT* out) {
+  if (!out) return E_POINTER;
+  out->vt = VT_I4;
+  out->lVal = number;
+  return S_OK;
+}
+
+HRESULT GiveNothing(VARIANT* out) {
+  if (!out) return E_POINTER;
+  out->vt = VT_EMPTY;
+  return S_FALSE;
+}
+
+}  // namespace
+
+class StripAccessible final : public IAccessible {
+ public:
+  StripAccessible(HWND window, const TabStrip& strip, IAccessible* standard)
+      : m_window(window), m_strip(&strip), m_standard(standard) {}
+
+  void Leave() { m_strip = nullptr; }
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != __uuidof(IAccessible))
+      return E_NOINTERFACE;
+    *out = static_cast<IAccessible*>(this);
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --m_references;
+    if (!left) delete this;
+    return left;
+  }
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+    return m_standard->GetTypeInfoCount(count);
+  }
+  STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override {
+    return m_standard->GetTypeInfo(index, locale, info);
+  }
+  STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
+                             DISPID* ids) override {
+    return m_standard->GetIDsOfNames(iid, names, count, locale, ids);
+  }
+  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
+                      UINT*) override {
+    return E_NOTIMPL;  // the standard object's data is not the strip's
+  }
+
+  STDMETHODIMP get_accParent(IDispatch** parent) override {
+    return m_standard->get_accParent(parent);
+  }
+  STDMETHODIMP get_accChildCount(long* count) override {
+    return Ask([&](const TabStrip& strip) -> HRESULT {
+      if (!count) return E_POINTER;
+      *count = strip.Count();
+      return S_OK;
+    });
+  }
+  // Tabs have no object of their own.
+  STDMETHODIMP get_accChild(VARIANT child, IDispatch** out) override {
+    return AskTab(child, [&](const TabStrip&, int) -> HRESULT {
+      if (!out) return E_POINTER;
+      *out = nullptr;
+      return S_FALSE;
+    });
+  }
+  STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
+    return AskTab(child, [&](const TabStrip& strip, int tab) {
+      return GiveText(tab < 0 ? kListName : strip.m_names.At(tab).GetString(), name);
+    });
+  }
+  STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
+    return AskTab(child, [&](const TabStrip&, int tab) {
+      return GiveNumber(tab < 0 ? kAccessPageTabList : kAccessPageTab, role);
+    });
+  }
+  STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override {
+    return AskTab(child, [&](const TabStrip& strip, int tab) {
+      const bool visible = ::IsWindowVisible(m_window);
+      if (tab < 0) return GiveNumber(visible ? 0L : long{kAccessTabInvisible}, state);
+      return GiveNumber(TabAccessStates(strip, tab, Client(), visible), state);
+    });
+  }
+  STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
+    return AskTab(child, [&](const TabStrip& strip, int tab) {
+      return GiveText(tab < 0 ? L"" : TabAccessAction(strip, tab), action);
+    });
+  }
+  // Posted: the client must not wait for the drawing.
+  STDMETHODIMP accDoDefaultAction(VARIANT child) override {
+    return AskTab(child, [&](const TabStrip&, int tab) -> HRESULT {
+      if (tab < 0) return DISP_E_MEMBERNOTFOUND;
+      return ::PostMessageW(m_window, kActivateTabMessage, static_cast<WPARAM>(tab), 0) ? S_OK
+                                                                                        : E_FAIL;
+    });
+  }
+  STDMETHODIMP get_accSelection(VARIANT* selected) override {
+    return Ask([&](const TabStrip& strip) {
+      return strip.ActiveTab() < 0 ? GiveNothing(selected)
+                                   : GiveNumber(strip.ActiveTab() + 1, selected);
+    });
+  }
+  STDMETHODIMP accLocation(long* x, long* y, long* width, long* height, VARIANT child) override {
+    return AskTab(child, [&](const TabStrip& strip, int tab) -> HRESULT {
+      if (tab < 0) return m_standard->accLocation(x, y, width, height, child);
+      if (!x || !y || !width || !height) return E_POINTER;
+      const RECT box = TabAccessBox(strip, tab, Client());
+      POINT corner{box.left, box.top};
+      ::ClientToScreen(m_window, &corner);
+      *x = corner.x;
+      *y = corner.y;
+      *width = box.right - box.left;
+      *height = box.bottom - box.top;
+      return S_OK;
+    });
+  }
+  STDMETHODIMP accHitTest(long x, long y, VARIANT* hit) override {
+    return Ask([&](const TabStrip& strip) {
+      RECT window{};
+      ::GetWindowRect(m_window, &window);
+      if (!::PtInRect(&window, {x, y})) return GiveNothing(hit);
+      POINT point{x, y};
+      ::ScreenToClient(m_window, &point);
+      const int tab = strip.IsOnArrows(point.x) ? strip.Count() : strip.HitTest(point.x);
+      return GiveNumber(tab < strip.Count() ? tab + 1 : CHILDID_SELF, hit);
+    });
+  }
+  STDMETHODIMP accNavigate(long way, VARIANT from, VARIANT* to) override {
+    return AskTab(from, [&](const TabStrip& strip, int tab) -> HRESULT {
+      int next = -1;
+      if (tab < 0 && way == NAVDIR_FIRSTCHILD) next = 0;
+      if (tab < 0 && way == NAVDIR_LASTCHILD) next = strip.Count() - 1;
+      if (tab < 0 && next < 0) return m_standard->accNavigate(way, from, to);
+      if (tab >= 0 && (way == NAVDIR_NEXT || way == NAVDIR_RIGHT)) next = tab + 1;
+      if (tab >= 0 && (way == NAVDIR_PREVIOUS || way == NAVDIR_LEFT)) next = tab - 1;
+      return strip.m_names.IsValidIndex(next) ? GiveNumber(next + 1, to) : GiveNothing(to);
+    });
+  }
+  STDMETHODIMP get_accFocus(VARIANT* focus) override { return m_standard->get_accFocus(focus); }
+  STDMETHODIMP accSelect(long, VARIANT) override { return DISP_E_MEMBERNOTFOUND; }
+  STDMETHODIMP get_accValue(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
+  STDMETHODIMP get_accDescription(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
+  STDMETHODIMP get_accHelp(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
+  STDMETHODIMP get_accHelpTopic(BSTR*, VARIANT, long*) override { return DISP_E_MEMBERNOTFOUND; }
+  STDMETHODIMP get_accKeyboardShortcut(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
+  STDMETHODIMP put_accName(VARIANT, BSTR) override { return E_ACCESSDENIED; }
+  STDMETHODIMP put_accValue(VARIANT, BSTR) override { return E_ACCESSDENIED; }
+
+ private:
+  ~StripAccessible() { m_standard->Release(); }
+
+  SIZE Client() const {
+    RECT client{};
+    ::GetClientRect(m_window, &client);
+    return {client.right, client.bottom};
+  }
+  template <class Result>
+  HRESULT Ask(Result result) const {
+    return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY},
+                          [&]() -> HRESULT { return m_strip ? result(*m_strip) : E_FAIL; });
+  }
+  // The result for a tab's index, -1 for the strip itself; E_INVALIDARG for another child.
+  template <class Result>
+  HRESULT AskTab(const VARIANT& child, Result result) const {
+    return Ask([&](const TabStrip& strip) -> HRESULT {
+      if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > strip.Count()) return E_INVALIDARG;
+      return result(strip, static_cast<int>(child.lVal) - 1);
+    });
+  }
+
+  std::atomic<ULONG> m_references{1};
+  HWND m_window;
+  const TabStrip* m_strip;  // null when the window is gone
+  IAccessible* m_standard;  // owned by reference
+};
+
+void StripAccess::Disconnect() {
+  if (!m_object) return;
+  m_object->Leave();
+  ::CoDisconnectObject(m_object, 0);
+  m_object->Release();
+  m_object = nullptr;
+}
+
+LRESULT StripAccess::Answer(HWND window, const TabStrip& strip, WPARAM wParam) {
+  if (!m_object) {
+    IAccessible* standard = nullptr;
+    if (FAILED(::CreateStdAccessibleObject(window, OBJID_CLIENT, __uuidof(IAccessible),
+                                           reinterpret_cast<void**>(&standard))))
+      return 0;
+    m_object = new StripAccessible(window, strip, standard);
+  }
+  return ::LresultFromObject(__uuidof(IAccessible), wParam, m_object);
+}
