@@ -4,7 +4,6 @@
 #pragma once
 
 #include "afx.h"
-#include "afxcoll.h"
 #include "doctabs/tab_strip.h"
 
 class CFrameWnd;

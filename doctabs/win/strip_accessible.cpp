@@ -28,6 +28,13 @@ HRESULT GiveNumber(long number, VARIANT* out) {
   return S_OK;
 }
 
+VARIANT Self() {
+  VARIANT child;
+  child.vt = VT_I4;
+  child.lVal = CHILDID_SELF;
+  return child;
+}
+
 HRESULT GiveNothing(VARIANT* out) {
   if (!out) return E_POINTER;
   out->vt = VT_EMPTY;
@@ -77,7 +84,8 @@ class StripAccessible final : public IAccessible {
     return m_standard->get_accParent(parent);
   }
   STDMETHODIMP get_accChildCount(long* count) override {
-    return Ask([&](const TabStrip& strip) -> HRESULT {
+    const VARIANT child = Self();
+    return Ask(child, [&](const TabStrip& strip, int) -> HRESULT {
       if (!count) return E_POINTER;
       *count = strip.Count();
       return S_OK;
@@ -85,50 +93,51 @@ class StripAccessible final : public IAccessible {
   }
   // Tabs have no object of their own.
   STDMETHODIMP get_accChild(VARIANT child, IDispatch** out) override {
-    return AskTab(child, [&](const TabStrip&, int) -> HRESULT {
+    return Ask(child, [&](const TabStrip&, int) -> HRESULT {
       if (!out) return E_POINTER;
       *out = nullptr;
       return S_FALSE;
     });
   }
   STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
-    return AskTab(child, [&](const TabStrip& strip, int tab) {
+    return Ask(child, [&](const TabStrip& strip, int tab) {
       return GiveText(tab < 0 ? kListName : strip.m_names.At(tab).GetString(), name);
     });
   }
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
-    return AskTab(child, [&](const TabStrip&, int tab) {
+    return Ask(child, [&](const TabStrip&, int tab) {
       return GiveNumber(tab < 0 ? kAccessPageTabList : kAccessPageTab, role);
     });
   }
   STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override {
-    return AskTab(child, [&](const TabStrip& strip, int tab) {
+    return Ask(child, [&](const TabStrip& strip, int tab) {
       const bool visible = ::IsWindowVisible(m_window);
       if (tab < 0) return GiveNumber(visible ? 0L : long{kAccessTabInvisible}, state);
       return GiveNumber(TabAccessStates(strip, tab, Client(), visible), state);
     });
   }
   STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
-    return AskTab(child, [&](const TabStrip& strip, int tab) {
+    return Ask(child, [&](const TabStrip& strip, int tab) {
       return GiveText(tab < 0 ? L"" : TabAccessAction(strip, tab), action);
     });
   }
   // Posted: the client must not wait for the drawing.
   STDMETHODIMP accDoDefaultAction(VARIANT child) override {
-    return AskTab(child, [&](const TabStrip&, int tab) -> HRESULT {
+    return Ask(child, [&](const TabStrip&, int tab) -> HRESULT {
       if (tab < 0) return DISP_E_MEMBERNOTFOUND;
       return ::PostMessageW(m_window, kActivateTabMessage, static_cast<WPARAM>(tab), 0) ? S_OK
                                                                                         : E_FAIL;
     });
   }
   STDMETHODIMP get_accSelection(VARIANT* selected) override {
-    return Ask([&](const TabStrip& strip) {
+    const VARIANT child = Self();
+    return Ask(child, [&](const TabStrip& strip, int) {
       return strip.ActiveTab() < 0 ? GiveNothing(selected)
                                    : GiveNumber(strip.ActiveTab() + 1, selected);
     });
   }
   STDMETHODIMP accLocation(long* x, long* y, long* width, long* height, VARIANT child) override {
-    return AskTab(child, [&](const TabStrip& strip, int tab) -> HRESULT {
+    return Ask(child, [&](const TabStrip& strip, int tab) -> HRESULT {
       if (tab < 0) return m_standard->accLocation(x, y, width, height, child);
       if (!x || !y || !width || !height) return E_POINTER;
       const RECT box = TabAccessBox(strip, tab, Client());
@@ -142,7 +151,8 @@ class StripAccessible final : public IAccessible {
     });
   }
   STDMETHODIMP accHitTest(long x, long y, VARIANT* hit) override {
-    return Ask([&](const TabStrip& strip) {
+    const VARIANT child = Self();
+    return Ask(child, [&](const TabStrip& strip, int) {
       RECT window{};
       ::GetWindowRect(m_window, &window);
       if (!::PtInRect(&window, {x, y})) return GiveNothing(hit);
@@ -152,12 +162,12 @@ class StripAccessible final : public IAccessible {
       return GiveNumber(tab < strip.Count() ? tab + 1 : CHILDID_SELF, hit);
     });
   }
-  STDMETHODIMP accNavigate(long way, VARIANT from, VARIANT* to) override {
-    return AskTab(from, [&](const TabStrip& strip, int tab) -> HRESULT {
+  STDMETHODIMP accNavigate(long way, VARIANT child, VARIANT* to) override {
+    return Ask(child, [&](const TabStrip& strip, int tab) -> HRESULT {
       int next = -1;
       if (tab < 0 && way == NAVDIR_FIRSTCHILD) next = 0;
       if (tab < 0 && way == NAVDIR_LASTCHILD) next = strip.Count() - 1;
-      if (tab < 0 && next < 0) return m_standard->accNavigate(way, from, to);
+      if (tab < 0 && next < 0) return m_standard->accNavigate(way, child, to);
       if (tab >= 0 && (way == NAVDIR_NEXT || way == NAVDIR_RIGHT)) next = tab + 1;
       if (tab >= 0 && (way == NAVDIR_PREVIOUS || way == NAVDIR_LEFT)) next = tab - 1;
       return strip.m_names.IsValidIndex(next) ? GiveNumber(next + 1, to) : GiveNothing(to);
@@ -181,17 +191,14 @@ class StripAccessible final : public IAccessible {
     ::GetClientRect(m_window, &client);
     return {client.right, client.bottom};
   }
+  // The result for a tab's index, -1 for the strip itself; E_INVALIDARG for another child, E_FAIL
+  // when the strip is gone.
   template <class Result>
-  HRESULT Ask(Result result) const {
-    return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY},
-                          [&]() -> HRESULT { return m_strip ? result(*m_strip) : E_FAIL; });
-  }
-  // The result for a tab's index, -1 for the strip itself; E_INVALIDARG for another child.
-  template <class Result>
-  HRESULT AskTab(const VARIANT& child, Result result) const {
-    return Ask([&](const TabStrip& strip) -> HRESULT {
-      if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > strip.Count()) return E_INVALIDARG;
-      return result(strip, static_cast<int>(child.lVal) - 1);
+  HRESULT Ask(const VARIANT& child, Result result) const {
+    return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY}, [&]() -> HRESULT {
+      if (!m_strip) return E_FAIL;
+      if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > m_strip->Count()) return E_INVALIDARG;
+      return result(*m_strip, static_cast<int>(child.lVal) - 1);
     });
   }
 

@@ -17,7 +17,7 @@ import subprocess
 import clang.cindex as ci
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..")
-PRODUCT = ["frame", "ground", "menu", "screenmenu", "popup", "statusbar", "editor", "dialogs", "resources"]
+PRODUCT = ["frame", "ground", "menu", "screenmenu", "popup", "statusbar", "doctabs", "editor", "dialogs", "resources"]
 BUILD = "build/clang"
 MARKED = BUILD + "/include"
 GCC = "/usr/lib/gcc/x86_64-w64-mingw32/12-posix/include"

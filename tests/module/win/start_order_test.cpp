@@ -39,13 +39,17 @@ std::string Standing() {
 }
 
 // mutable: the record of windows destroyed while the hook is set; several in a row are one line.
-HWND g_contextWindow = nullptr;
+HWND g_contextWindow = nullptr, g_strip = nullptr;
 List g_gone;
 
 LRESULT CALLBACK NoteDestroyed(int code, WPARAM window, LPARAM details) {
   if (code == HCBT_DESTROYWND) {
-    const bool isContext = reinterpret_cast<HWND>(window) == g_contextWindow;
-    const std::string line = (isContext ? "context window: " : "palette: ") + Standing();
+    const HWND gone = reinterpret_cast<HWND>(window);
+    const bool isStrip = gone == g_strip || ::GetParent(gone) == g_strip;
+    const std::string line = (gone == g_contextWindow ? "context window: "
+                              : isStrip               ? "tabs: "
+                                                      : "palette: ") +
+                             Standing();
     if (g_gone.empty() || g_gone.back() != line) g_gone.push_back(line);
   }
   return ::CallNextHookEx(nullptr, code, window, details);
@@ -92,11 +96,13 @@ TEST_F(Module, UnloadsInTheSpecifiedOrder) {
   Forget(L"Settings", L"RecentCmd");
   g_gone.clear();
   g_contextWindow = HostProcess::Get().ContextWindow();
+  g_strip = ::GetDlgItem(HostProcess::Get().Frame().m_hWnd, 64);
   const HHOOK hook = ::SetWindowsHookExW(WH_CBT, NoteDestroyed, nullptr, ::GetCurrentThreadId());
   Export<int (*)(int, void*)>(L"qvx_initstart.arx", "acrxEntryPoint")(AcRx::kUnloadAppMsg, nullptr);
   ::UnhookWindowsHookEx(hook);
   EXPECT_EQ(g_gone, (List{"palette: kept \"a,b,\", commands 14, panes, icons",
-                          "context window: kept \"a,b,\", commands 14, panes, icons"}));
+                          "context window: kept \"a,b,\", commands 14, panes, icons",
+                          "tabs: kept \"a,b,\", commands 0, panes"}));
   EXPECT_EQ(Standing(), "kept \"a,b,\", commands 0");
   ASSERT_TRUE(UnloadModule());
   Forget(L"Settings", L"RecentCmd");
