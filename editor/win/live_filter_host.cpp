@@ -6,12 +6,12 @@
 
 #include "acdocman.h"
 #include "adslib.h"
+#include "doctabs/doc_tab_bar_door.h"
 #include "editor/live_objects.h"
 #include "editor/win/grip_tip_wnd.h"
 #include "ground/command_line.h"
 #include "ground/host_variables.h"
 #include "ground/support_files.h"
-#include "ground/unbuilt_rooms.h"
 #include "kernel/drawing_data.h"
 #include "kernel/globals.h"
 #include "kernel/host_state.h"
@@ -109,7 +109,7 @@ void LiveFilterHost::ShowHelp(qvx::HelpCall call, const wchar_t* helpFile, const
 void LiveFilterHost::CloseGripTip() { ::CloseGripTip(); }
 bool LiveFilterHost::IsScreenMenuVisible() { return IsPaletteVisible(); }
 void LiveFilterHost::ShowScreenMenu(bool show) { ShowPalette(show); }
-void LiveFilterHost::HideTabBar(bool) { unbuilt::HideTabBar(); }
+void LiveFilterHost::HideTabBar(bool hide) { HideDocTabBar(hide); }
 bool LiveFilterHost::IsInScreenMenu(POINT screen) { return ::IsInScreenMenu(screen.x, screen.y); }
 bool LiveFilterHost::IsInWheelGroup(POINT screen) { return ::IsInWheelGroup(screen.x, screen.y); }
 void LiveFilterHost::WheelGroup(int delta, POINT screen) {
