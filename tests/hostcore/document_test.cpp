@@ -211,7 +211,7 @@ TEST_F(Documents, AFailedSaveIsReportedAndTheDrawingStaysModified) {
   NewDrawing();
   Send(L"LINE 0,0 10,5 \n");
   Send(L"SAVEAS " + (folder / "no_folder" / "x.dxf").wstring() + L"\n");
-  EXPECT_NE(ui.printed.find(L"无法写入文件"), std::wstring::npos);
+  EXPECT_NE(ui.printed.find(L"文件夹不存在，图形未保存"), std::wstring::npos);
   EXPECT_EQ(Var(L"DBMOD"), L"1");
   EXPECT_EQ(Var(L"DWGTITLED"), L"0");
 }

@@ -200,15 +200,3 @@ TEST_F(DxfWrite, RealsReadBackExactly) {
   EXPECT_EQ(line->startPoint().y, huge);
   EXPECT_EQ(line->endPoint().x, 1e-300);
 }
-
-TEST_F(DxfWrite, AFileThatCannotBeReplacedIsUnchanged) {
-  AcDbDatabase database;
-  std::wstring why;
-  EXPECT_FALSE(WriteDrawing((folder / "none" / "x.dxf").wstring(), database, &why));
-  EXPECT_NE(why.find(L"无法写入文件"), std::wstring::npos);
-  std::filesystem::create_directories(folder / "taken.dxf" /
-                                      "inside");  // a folder with the name of the file
-  EXPECT_FALSE(WriteDrawing((folder / "taken.dxf").wstring(), database, &why));
-  EXPECT_TRUE(std::filesystem::is_directory(folder / "taken.dxf"));
-  EXPECT_FALSE(std::filesystem::exists(folder / "taken.dxf.tmp"));
-}

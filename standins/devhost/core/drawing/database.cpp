@@ -39,6 +39,19 @@ std::uint64_t AcDbDatabase::Body::NextHandle() {
   return nextHandle++;
 }
 
+std::uint64_t AcDbDatabase::Body::AddedHandle(const std::wstring& what) {
+  std::uint64_t& handle = addedHandles[what];
+  if (handle == 0) handle = NextHandle();
+  return handle;
+}
+
+KeptPart& AcDbDatabase::Body::Part(std::uint64_t owner, std::size_t index) {
+  std::vector<KeptPart>& all = parts[owner];
+  if (all.size() <= index) all.resize(index + 1);
+  if (all[index].handle == 0) all[index].handle = NextHandle();
+  return all[index];
+}
+
 Acad::ErrorStatus AcDbDatabase::getAcDbObjectId(AcDbObjectId& id, bool,
                                                 const AcDbHandle& handle) const {
   const auto at = m_body->byHandle.find(handle.value());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -14,6 +15,21 @@
 struct KeptGroup {
   short code;
   std::wstring text;
+};
+
+// What the file had for an object whose class the host interprets. Groups are in the text form of
+// the format, one line for the code and one for the value, in UTF-8.
+struct KeptObject {
+  std::string lists;          // of a record: lists in braces (group 102)
+  std::string own;            // of the class, with subclass marks
+  std::size_t asWritten = 0;  // of an entity: hash of the groups that its class wrote after reading
+};
+
+// A part of an object that is an object of its own only in the file: VERTEX, SEQEND, BLOCK, ENDBLK.
+struct KeptPart {
+  std::uint64_t handle = 0;  // 0: gets one when it is written
+  std::string type;          // empty: the part is not from a file
+  std::string groups;        // all but handle and owner
 };
 
 // Is notified of changes of a database's objects, before or after the change; an object that is
@@ -30,11 +46,16 @@ struct AcDbDatabase::Body {
   std::unordered_map<std::uint64_t, AcDbObject*> byHandle;
   std::uint64_t nextHandle = 0x20;
   AcDbObjectId blockTable, layerTable;
-  AcDbObjectId viewportTable;            // null until it is asked for
-  std::vector<KeptGroup> header;         // the header section: names (code 9) and their values
-  std::vector<KeptGroup> classes;        // the CLASSES section
-  std::vector<KeptGroup> otherTables;    // tables other than layers and block records, complete
+  AcDbObjectId viewportTable;      // null until it is asked for
+  std::vector<KeptGroup> header;   // the header section: names (code 9) and their values
+  std::vector<KeptGroup> classes;  // the CLASSES section
+  // The tables in the order of the file; of layers and block records only what precedes the
+  // records.
+  std::vector<KeptGroup> otherTables;
   std::vector<KeptGroup> otherSections;  // sections that the host does not read, complete
+  std::unordered_map<std::uint64_t, KeptObject> kept;              // by the object's handle
+  std::unordered_map<std::uint64_t, std::vector<KeptPart>> parts;  // by the owner's handle
+  std::map<std::wstring, std::uint64_t> addedHandles;  // of tables and records that the writer adds
   bool paperIsCurrent = false;
   devhost::UserSystem modelSystem, paperSystem;
   int modified = 0;
@@ -46,6 +67,8 @@ struct AcDbDatabase::Body {
 
   devhost::UserSystem& CurrentSystem() { return paperIsCurrent ? paperSystem : modelSystem; }
   std::uint64_t NextHandle();
+  std::uint64_t AddedHandle(const std::wstring& what);     // the same for the same thing
+  KeptPart& Part(std::uint64_t owner, std::size_t index);  // with a handle
 };
 
 class AcDbViewportTableRecord;

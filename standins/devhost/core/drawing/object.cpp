@@ -1,6 +1,7 @@
 // Objects of a database: handles, opening, erasing; see dbmain.h. Erasing only sets a flag, so that
 // undo can restore the object.
 #include <cwchar>
+#include <utility>
 
 #include "acdocman.h"
 #include "adslib.h"
@@ -16,6 +17,14 @@ namespace {
 bool IsWritable(const AcDbDatabase* database) {
   const AcApDocument* document = acDocManagerPtr()->document(database);
   return !document || document->lockMode() != AcAp::kNotLocked;
+}
+
+template <class Map>
+void MoveKey(Map& map, std::uint64_t from, std::uint64_t to) {
+  auto node = map.extract(from);
+  if (node.empty()) return;
+  node.key() = to;
+  map.insert(std::move(node));
 }
 
 }  // namespace
@@ -91,8 +100,11 @@ bool AcDbObjectAccess::ChangeHandle(AcDbObject* object, AcDbHandle wanted) {
   AcDbDatabase::Body& body = object->m_database->body();
   if (!body.byHandle.emplace(wanted.value(), object).second)
     return object->m_handle.value() == wanted.value();
-  body.byHandle.erase(object->m_handle.value());
+  const std::uint64_t before = object->m_handle.value();
+  body.byHandle.erase(before);
   object->m_handle = wanted;
+  MoveKey(body.kept, before, wanted.value());
+  MoveKey(body.parts, before, wanted.value());
   return true;
 }
 

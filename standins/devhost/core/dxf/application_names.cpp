@@ -43,6 +43,13 @@ std::vector<std::wstring> ApplicationsInUse(const AcDbDatabase::Body& body) {
   return names.Take();
 }
 
+bool HasTable(const std::vector<KeptGroup>& tables, const std::wstring& name) {
+  for (std::size_t i = 0; i + 1 < tables.size(); ++i)
+    if (tables[i].code == 0 && tables[i].text == L"TABLE" && SameName(tables[i + 1].text, name))
+      return true;
+  return false;
+}
+
 std::vector<std::wstring> MissingNames(const std::vector<KeptGroup>& tables,
                                        const std::vector<std::wstring>& names) {
   std::set<std::wstring> known;

@@ -13,6 +13,9 @@ namespace devhost {
 // that the host stores unread are included.
 std::vector<std::wstring> ApplicationsInUse(const AcDbDatabase::Body& body);
 
+// Whether stored groups have a table of that name.
+bool HasTable(const std::vector<KeptGroup>& tables, const std::wstring& name);
+
 // The names that have no APPID record in a table of stored groups.
 std::vector<std::wstring> MissingNames(const std::vector<KeptGroup>& tables,
                                        const std::vector<std::wstring>& names);

@@ -1,22 +1,39 @@
 // Groups of one object; see the header.
 #include "devhost/core/dxf/dxf_filer.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string_view>
-#include <utility>
 
 #include "adslib.h"
+#include "dbmain.h"
 #include "devhost/core/base/utf8.h"
-#include "devhost/core/drawing/database_body.h"
 #include "devhost/core/drawing/dxf_groups.h"
 
 namespace devhost {
 namespace {
 
-// Control characters are written with a caret: a line end would end the value.
+constexpr std::wstring_view kMeantAfterCaret = L" JIM";
+
+bool IsHigh(wchar_t c) { return c >= 0xD800 && c <= 0xDBFF; }
+bool IsLow(wchar_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
+
+void AppendUnitCode(std::wstring& text, wchar_t unit) {
+  constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
+  text += L"\\U+";
+  for (int shift = 12; shift >= 0; shift -= 4) text += kDigits[(unit >> shift) & 15];
+}
+
+// Whether a reader would take the backslash at `at` for the start of a code.
+bool BeginsCode(const std::wstring& value, std::size_t at) {
+  return value.size() - at > 2 && (value[at + 1] == L'U' || value[at + 1] == L'M') &&
+         value[at + 2] == L'+';
+}
+
+// Control characters are written with a caret: a line end would end the value. Half a surrogate
+// pair, which UTF-8 does not have, and a backslash that is no code are written as \U+XXXX.
 std::string OneLine(const std::wstring& value) {
-  constexpr std::wstring_view kMeantAfterCaret = L" JIM";
   std::wstring text;
   for (std::size_t i = 0; i < value.size(); ++i) {
     const wchar_t c = value[i], next = i + 1 < value.size() ? value[i + 1] : L'\0';
@@ -28,10 +45,31 @@ std::string OneLine(const std::wstring& value) {
       text += L"^I";
     else if (c == L'^' && next && kMeantAfterCaret.find(next) != std::wstring_view::npos)
       text += L"^ ";
+    else if (c == L'\\' && BeginsCode(value, i))
+      AppendUnitCode(text, c);
+    else if (IsHigh(c) && IsLow(next))
+      text.append(value, i++, 2);
+    else if (IsHigh(c) || IsLow(c))
+      AppendUnitCode(text, c);
     else if (c != 0)
       text += c;
   }
   return Utf8(text);
+}
+
+void AppendLines(std::string& out, short code, std::string_view value) {
+  char digits[8];
+  char* end = std::to_chars(digits, digits + sizeof digits, static_cast<int>(code)).ptr;
+  out.append(digits, static_cast<std::size_t>(end - digits));
+  out += '\n';
+  out += value;
+  out += '\n';
+}
+
+// Text that decoding and encoding does not change.
+bool IsPlain(std::string_view value) {
+  return std::all_of(value.begin(), value.end(),
+                     [](char c) { return c >= ' ' && c <= '~' && c != '\\' && c != '^'; });
 }
 
 }  // namespace
@@ -89,28 +127,20 @@ Acad::ErrorStatus DxfInFiler::readItem(resbuf* item) {
   return Acad::eEndOfFile;
 }
 
-void DxfOutFiler::RunPending() {
-  if (const auto work = std::exchange(m_before, nullptr)) work();
-}
+void DxfOutFiler::Group(short code, std::string_view value) { AppendLines(m_out, code, value); }
 
-void DxfOutFiler::Group(short code, std::string_view value) {
-  char digits[8];
-  char* end = std::to_chars(digits, digits + sizeof digits, static_cast<int>(code)).ptr;
-  m_out.append(digits, static_cast<std::size_t>(end - digits));
-  m_out += '\n';
-  m_out += value;
-  m_out += '\n';
+void AppendGroup(std::string& out, const DxfGroup& group, const DxfDecoder& decoder) {
+  if (IsPlain(group.value))
+    AppendLines(out, group.code, group.value);
+  else
+    AppendLines(out, group.code, OneLine(decoder.Text(group.value)));
 }
 
 Acad::ErrorStatus DxfOutFiler::writeString(short code, const ACHAR* value) {
   if (!value) return Acad::eInvalidInput;
-  if (code == 0) RunPending();
   Group(code, OneLine(value));
-  if (code == 0) WriteHandle(5, m_database.body().NextHandle());
   return Acad::eOk;
 }
-
-void DxfOutFiler::WriteType(const std::wstring& type) { Group(0, OneLine(type)); }
 
 Acad::ErrorStatus DxfOutFiler::writeDouble(short code, double value) {
   char digits[40];

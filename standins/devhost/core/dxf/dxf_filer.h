@@ -2,7 +2,6 @@
 // shared groups (handle, owner, layer ...) have been removed before; see SplitObject.
 #pragma once
 
-#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -53,13 +52,7 @@ class DxfOutFiler : public AcDbDxfFiler {
   Acad::ErrorStatus writeDouble(short code, double value) override;
   Acad::ErrorStatus writeInt(short code, int value) override;
   Acad::ErrorStatus writePoint(short code, const AcGePoint3d& value) override;
-  void WriteType(const std::wstring& type);  // a group 0 without the handle that sub-entities get
   void WriteHandle(short code, unsigned long long handle);
-
-  // Sets work that runs once before the next group 0: groups that follow the object's own groups
-  // must precede its sub-entities.
-  void BeforeNextObject(std::function<void()> work) { m_before = std::move(work); }
-  void RunPending();
 
   Acad::ErrorStatus readItem(resbuf*) override { return Acad::eEndOfFile; }
   void pushBackItem() override {}
@@ -69,8 +62,10 @@ class DxfOutFiler : public AcDbDxfFiler {
 
   AcDbDatabase& m_database;
   std::string& m_out;
-  std::function<void()> m_before;
 };
+
+// Adds a group of a file as DxfOutFiler writes it: decoded, in UTF-8. Numbers keep their digits.
+void AppendGroup(std::string& out, const DxfGroup& group, const DxfDecoder& decoder);
 
 // The extended data of an object, one chain an application, each for setXData.
 std::vector<resbuf*> XDataChains(std::span<const DxfGroup> groups, const DxfDecoder& decoder);

@@ -3,12 +3,14 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "adslib.h"
 #include "dbents.h"
 #include "devhost/core/base/text_case.h"
-#include "devhost/core/drawing/database_body.h"
+#include "devhost/core/drawing/db_classes.h"
 #include "devhost/core/dxf/dxf_filer.h"
+#include "devhost/core/dxf/kept_groups.h"
 
 namespace devhost {
 namespace {
@@ -49,6 +51,13 @@ bool ReadSharedGroup(DxfObject& object, const DxfGroup& group) {
   }
 }
 
+// The groups of an embedded object, which class members must not take.
+std::vector<DxfGroup>::const_iterator ForeignGroups(const std::vector<DxfGroup>& own) {
+  return std::find_if(own.begin(), own.end(), [](const DxfGroup& group) {
+    return BeginsForeignGroups(group.code, group.value);
+  });
+}
+
 }  // namespace
 
 void DxfProblems::Add(int line, const wchar_t* text) {
@@ -73,6 +82,7 @@ DxfObject SplitObject(std::span<const DxfGroup> groups, DxfObjectKind kind) {
   const std::size_t end = static_cast<std::size_t>(xdata - groups.begin());
   object.xdata = groups.subspan(end);
   const std::size_t shared = SharedGroupCount(groups.first(end));
+  object.hasMarks = shared > 0;
   bool inBraces = false, owner = false;
   for (std::size_t i = 1; i < end; ++i) {
     const DxfGroup& group = groups[i];
@@ -93,12 +103,32 @@ DxfObject SplitObject(std::span<const DxfGroup> groups, DxfObjectKind kind) {
   return object;
 }
 
+void AddVertex(DxfObject& polyline, std::span<const DxfGroup> vertex) {
+  const DxfObject object = SplitObject(vertex);
+  polyline.own.push_back(vertex[0]);
+  polyline.own.insert(polyline.own.end(), object.own.begin(), object.own.end());
+}
+
+DxfObject SplitWithVertices(std::span<const DxfGroup> groups) {
+  const auto next = [&](std::size_t at) {
+    return static_cast<std::size_t>(
+        std::find_if(groups.begin() + static_cast<std::ptrdiff_t>(at) + 1, groups.end(),
+                     [](const DxfGroup& group) { return group.code == 0; }) -
+        groups.begin());
+  };
+  std::size_t at = next(0);
+  DxfObject object = SplitObject(groups.first(at));
+  for (; at < groups.size(); at = next(at)) AddVertex(object, groups.subspan(at, next(at) - at));
+  return object;
+}
+
 std::unique_ptr<AcDbEntity> DxfObjectMaker::MakeKnown(const DxfObject& object) {
   const AcRxClass* cls = acrxClassOfDxfName(m_decoder.Text(object.type).c_str());
   std::unique_ptr<AcRxObject> made(cls ? cls->create() : nullptr);
   AcDbEntity* entity = AcDbEntity::cast(made.get());
   if (!entity) return nullptr;
-  DxfInFiler filer(m_database, m_decoder, object.own);
+  const auto foreign = IsHostClass(*cls) ? ForeignGroups(object.own) : object.own.end();
+  DxfInFiler filer(m_database, m_decoder, std::span(object.own.begin(), foreign));
   const bool read = entity->dxfInFields(&filer) == Acad::eOk;
   if (filer.BadLine() != 0) {
     m_problems.Add(filer.BadLine(), L"应为数值，该图元未读入");
@@ -148,11 +178,54 @@ AcDbEntity* DxfObjectMaker::MakeEntity(const DxfObject& object) {
   return entity;
 }
 
-void DxfObjectMaker::FillRecord(AcDbObject& record, const DxfObject& object) {
+bool DxfObjectMaker::FillRecord(AcDbObject& record, const DxfObject& object) {
   DxfInFiler filer(m_database, m_decoder, object.own);
   record.dxfInFields(&filer);
   if (filer.BadLine() != 0) m_problems.Add(filer.BadLine(), L"应为数值");
   FillXData(record, object);
+  return filer.BadLine() == 0;
+}
+
+std::string DxfObjectMaker::TextOf(std::span<const DxfGroup> groups) const {
+  std::string text;
+  for (const DxfGroup& group : groups) AppendGroup(text, group, m_decoder);
+  return text;
+}
+
+KeptPart DxfObjectMaker::PartOf(std::span<const DxfGroup> groups) const {
+  KeptPart part;
+  part.type = TrimBlanks(groups[0].value);
+  const bool marks =
+      std::any_of(groups.begin(), groups.end(), [](const DxfGroup& g) { return g.code == 100; });
+  bool inBraces = false, handle = false, owner = !marks;
+  for (const DxfGroup& group : groups.subspan(1)) {
+    if (group.code == 102) inBraces = TrimBlanks(group.value).starts_with("{");
+    if (group.code == 5 && !std::exchange(handle, true)) {
+      part.handle = DxfHandle(group.value).value_or(0);
+      continue;
+    }
+    if (group.code == 330 && !inBraces && !std::exchange(owner, true)) continue;
+    AppendGroup(part.groups, group, m_decoder);
+  }
+  return part;
+}
+
+void DxfObjectMaker::Keep(AcDbEntity& entity, std::string own) {
+  if (!IsHostClass(*entity.isA())) return;
+  std::string text;
+  DxfOutFiler filer(m_database, text);
+  entity.dxfOutFields(&filer);
+  const ClassText now = SplitClassText(text);
+  AcDbDatabase::Body& body = m_database.body();
+  body.kept[entity.handle().value()] = {{}, WithMarks(own, now.own), now.hash};
+  const auto parts = body.parts.find(entity.handle().value());
+  if (parts == body.parts.end() || now.parts.empty()) return;
+  PartMatch match(now.parts);
+  for (KeptPart& part : parts->second) part.groups = WithMarks(part.groups, match.Model(part));
+}
+
+void DxfObjectMaker::Keep(AcDbObject& record, const DxfObject& object) {
+  m_database.body().kept[record.handle().value()] = {TextOf(object.common), TextOf(object.own), 0};
 }
 
 }  // namespace devhost

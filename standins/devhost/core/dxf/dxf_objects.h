@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dbmain.h"
+#include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/dxf_text.h"
 
 namespace devhost {
@@ -34,6 +35,7 @@ struct DxfObject {
   std::vector<DxfGroup> common;  // shared groups without a member
   std::vector<DxfGroup> own;     // groups of the class, with subclass marks
   std::span<const DxfGroup> xdata;
+  bool hasMarks = false;  // subclass marks: releases after R12
 };
 
 // In a layer record, colour and linetype are groups of the class; in an entity they
@@ -42,6 +44,12 @@ enum class DxfObjectKind { Entity, Record };
 
 // The first group is the object's group 0.
 DxfObject SplitObject(std::span<const DxfGroup> groups, DxfObjectKind kind = DxfObjectKind::Entity);
+
+// Adds the groups of a vertex, which begin with its type, to its polyline.
+void AddVertex(DxfObject& polyline, std::span<const DxfGroup> vertex);
+
+// An entity that is followed by its vertices, if any.
+DxfObject SplitWithVertices(std::span<const DxfGroup> groups);
 
 class DxfObjectMaker {
  public:
@@ -55,9 +63,16 @@ class DxfObjectMaker {
   // is unknown or rejects the groups, or if a number is invalid.
   std::unique_ptr<AcDbEntity> MakeKnown(const DxfObject& object);
   std::unique_ptr<AcDbEntity> MakeOpaque(const DxfObject& object);
-  // Reads a record of a table.
-  void FillRecord(AcDbObject& record, const DxfObject& object);
+  // Reads a record of a table. False if a number is invalid; the problem is added.
+  bool FillRecord(AcDbObject& record, const DxfObject& object);
   void FillXData(AcDbObject& to, const DxfObject& object);
+
+  std::string TextOf(std::span<const DxfGroup> groups) const;
+  // The groups of a part: all but type, handle and owner.
+  KeptPart PartOf(std::span<const DxfGroup> groups) const;
+  // Keeps the groups of the file for an entity of a class of the host, with its parts.
+  void Keep(AcDbEntity& entity, std::string own);
+  void Keep(AcDbObject& record, const DxfObject& object);
 
  private:
   void SetShared(AcDbEntity& entity, const DxfObject& object);

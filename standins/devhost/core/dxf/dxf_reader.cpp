@@ -4,11 +4,13 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <unordered_set>
 
 #include "dbents.h"
 #include "dbsymtb.h"
 #include "devhost/core/base/text_case.h"
 #include "devhost/core/drawing/database_body.h"
+#include "devhost/core/dxf/application_names.h"
 #include "devhost/core/dxf/drawing_file.h"
 #include "devhost/core/dxf/dxf_objects.h"
 #include "devhost/core/dxf/dxf_text.h"
@@ -18,6 +20,10 @@ namespace devhost {
 namespace {
 
 constexpr unsigned kUtf8 = 65001;
+
+// From here on handles are not taken from files. The first ones are for objects that wait for their
+// handle while a file is read.
+constexpr std::uint64_t kNoHandle = std::uint64_t{1} << 62, kAside = 1 << 16;
 
 const wchar_t* DamageMessage(DxfDamage damage) {
   switch (damage) {
@@ -69,11 +75,13 @@ class Reader {
   // The groups of the object at an index; empty if the file ends inside it.
   Groups ObjectAt(std::size_t at) const;
   void ReserveHandles();
+  void SettleHandles();
 
   std::size_t ReadSection(std::size_t at);
   void ReadHeader(std::size_t from, std::size_t to);
   void ReadHeaderVariable(std::string_view name, const DxfGroup& value);
   void ReadTables(std::size_t from, std::size_t to);
+  void ReadTableHead(std::size_t at, AcDbObjectId table);
   void ReadLayer(Groups groups);
   void ReadBlockRecord(Groups groups);
   void ReadBlocks(std::size_t from, std::size_t to);
@@ -86,10 +94,12 @@ class Reader {
   std::size_t ReadBlock(std::size_t at, std::size_t to);
   std::size_t ReadEntities(std::size_t from, std::size_t to, AcDbBlockTableRecord* block);
   std::size_t ReadEntity(std::size_t at, std::size_t to, AcDbBlockTableRecord* block);
-  std::size_t AddVertices(std::size_t at, std::size_t to, DxfObject& polyline) const;
+  std::size_t AddVertices(std::size_t at, std::size_t to, DxfObject& polyline,
+                          std::vector<KeptPart>& parts) const;
+  std::size_t TakeSequenceEnd(std::size_t at, std::size_t to, std::vector<KeptPart>& parts) const;
   std::size_t ReadAttributes(std::size_t at, std::size_t to, AcDbBlockReference& reference);
   void StoreGroups(std::size_t from, std::size_t to, std::vector<KeptGroup>& where) const;
-  AcDbBlockTableRecord* BlockNamed(std::wstring name, bool* existed);
+  AcDbBlockTableRecord* BlockNamed(std::wstring name, bool* existed, AcDbHandle wanted = {});
 
   const std::vector<DxfGroup>& m_groups;
   AcDbDatabase& m_database;
@@ -111,17 +121,37 @@ Reader::Groups Reader::ObjectAt(std::size_t at) const {
   return Groups(m_groups).subspan(at, end - at);
 }
 
-// Moves the handles of the database's own objects above all handles of the file.
+// Moves the database's own objects out of the way of the file's handles. New handles are above all
+// of the file and not below its next one.
 void Reader::ReserveHandles() {
-  unsigned long long highest = 0;
-  for (const DxfGroup& group : m_groups)
+  std::uint64_t next = m_body.nextHandle;
+  bool seed = false;
+  for (const DxfGroup& group : m_groups) {
     if (group.code == 5 || group.code == 105) {
-      const unsigned long long handle = DxfHandle(group.value).value_or(0);
-      if (handle < (1ull << 62)) highest = std::max(highest, handle);
+      const std::uint64_t handle = DxfHandle(group.value).value_or(0);
+      if (handle < kNoHandle) next = std::max(next, seed ? handle : handle + 1);
     }
-  m_body.nextHandle = std::max<std::uint64_t>(m_body.nextHandle, highest + 1);
+    seed = group.code == 9 && TrimBlanks(group.value) == "$HANDSEED";
+  }
+  m_body.nextHandle = next;
+  std::uint64_t aside = kNoHandle;
   for (const auto& object : m_body.objects)
-    AcDbObjectAccess::ChangeHandle(object.get(), AcDbHandle(m_body.NextHandle()));
+    while (!AcDbObjectAccess::ChangeHandle(object.get(), AcDbHandle(aside++))) {
+    }
+}
+
+// Gives handles to the database's own objects that the file does not have. A part whose handle is
+// in use gets another one when it is written.
+void Reader::SettleHandles() {
+  for (const auto& object : m_body.objects)
+    if (object->handle().value() >= kNoHandle && object->handle().value() < kNoHandle + kAside)
+      AcDbObjectAccess::ChangeHandle(object.get(), AcDbHandle(m_body.NextHandle()));
+  std::unordered_set<std::uint64_t> used;
+  for (auto& [owner, parts] : m_body.parts)
+    for (KeptPart& part : parts)
+      if (part.handle >= kNoHandle || m_body.byHandle.contains(part.handle) ||
+          !used.insert(part.handle).second)
+        part.handle = 0;
 }
 
 bool Reader::Read() {
@@ -138,6 +168,7 @@ bool Reader::Read() {
     outside = true;
     ++at;
   }
+  SettleHandles();
   return any;
 }
 
@@ -206,13 +237,15 @@ void Reader::ReadTables(std::size_t from, std::size_t to) {
     const std::string_view name = at + 1 < to && m_groups[at + 1].code == 2
                                       ? TrimBlanks(m_groups[at + 1].value)
                                       : std::string_view();
+    const bool layers = name == "LAYER", blocks = name == "BLOCK_RECORD";
+    if (layers || blocks) ReadTableHead(at, layers ? m_body.layerTable : m_body.blockTable);
     for (std::size_t record = NextObject(at); record < end; record = NextObject(record)) {
       const Groups groups = ObjectAt(record);
       if (groups.empty()) break;
-      if (name == "LAYER") ReadLayer(groups);
-      if (name == "BLOCK_RECORD") ReadBlockRecord(groups);
+      if (layers) ReadLayer(groups);
+      if (blocks) ReadBlockRecord(groups);
     }
-    if (end < to && name != "LAYER" && name != "BLOCK_RECORD") {
+    if (end < to && !layers && !blocks) {
       StoreGroups(at, end, m_body.otherTables);
       m_body.otherTables.push_back({0, L"ENDTAB"});
     }
@@ -220,23 +253,37 @@ void Reader::ReadTables(std::size_t from, std::size_t to) {
   }
 }
 
+// Keeps what precedes the records. Of two tables of one kind the first gives the head.
+void Reader::ReadTableHead(std::size_t at, AcDbObjectId table) {
+  const Groups head = ObjectAt(at);
+  if (head.empty() || HasTable(m_body.otherTables, m_decoder.Text(TrimBlanks(head[1].value))))
+    return;
+  for (const DxfGroup& group : head)
+    if (group.code == 5)
+      AcDbObjectAccess::ChangeHandle(table.object(),
+                                     AcDbHandle(DxfHandle(group.value).value_or(0)));
+  StoreGroups(at, at + head.size(), m_body.otherTables);
+  m_body.otherTables.push_back({0, L"ENDTAB"});
+}
+
 void Reader::ReadLayer(Groups groups) {
   const DxfObject object = SplitObject(groups, DxfObjectKind::Record);
   auto record = std::make_unique<AcDbLayerTableRecord>();
-  m_maker.FillRecord(*record, object);
+  const bool good = m_maker.FillRecord(*record, object);
   auto* table = AcDbLayerTable::cast(m_body.layerTable.object());
   AcDbObjectId id;
   if (table->getAt(record->getName(), id) == Acad::eOk) {  // layer 0 always exists
     m_maker.FillRecord(*id.object(), object);
     AcDbObjectAccess::ChangeHandle(id.object(), AcDbHandle(object.handle));
-    return;
+  } else {
+    id = record->objectId();
+    AcDbObjectAccess::AddObject(m_database, record.get(), AcDbHandle(object.handle));
+    table->add(record.release());
   }
-  AcDbLayerTableRecord* layer = record.release();
-  AcDbObjectAccess::AddObject(m_database, layer, AcDbHandle(object.handle));
-  table->add(layer);
+  if (good) m_maker.Keep(*id.object(), object);
 }
 
-AcDbBlockTableRecord* Reader::BlockNamed(std::wstring name, bool* existed) {
+AcDbBlockTableRecord* Reader::BlockNamed(std::wstring name, bool* existed, AcDbHandle wanted) {
   // R12 writes the spaces with a dollar sign.
   if (SameName(name, L"$MODEL_SPACE")) name = ACDB_MODEL_SPACE;
   if (SameName(name, L"$PAPER_SPACE")) name = ACDB_PAPER_SPACE;
@@ -246,7 +293,7 @@ AcDbBlockTableRecord* Reader::BlockNamed(std::wstring name, bool* existed) {
   if (*existed) return AcDbBlockTableRecord::cast(id.object());
   auto* block = new AcDbBlockTableRecord;
   block->setName(name.c_str());
-  AcDbObjectAccess::AddObject(m_database, block, AcDbHandle());
+  AcDbObjectAccess::AddObject(m_database, block, wanted);
   table->add(block);
   return block;
 }
@@ -258,9 +305,10 @@ void Reader::ReadBlockRecord(Groups groups) {
     if (group.code == 2) name = m_decoder.Text(group.value);
   if (name.empty()) return;
   bool existed = false;
-  AcDbBlockTableRecord* block = BlockNamed(name, &existed);
+  AcDbBlockTableRecord* block = BlockNamed(name, &existed, AcDbHandle(object.handle));
   AcDbObjectAccess::ChangeHandle(block, AcDbHandle(object.handle));
   m_maker.FillXData(*block, object);
+  m_maker.Keep(*block, object);
 }
 
 void Reader::ReadBlocks(std::size_t from, std::size_t to) {
@@ -309,12 +357,20 @@ std::size_t Reader::ReadBlock(std::size_t at, std::size_t to) {
   // Of two blocks with one name the first is used; with both, the entities would be drawn twice.
   const bool second = existed && !block->entities().empty() && !head.name.starts_with(L'*');
   if (second) m_problems.Add(object.line, L"同名的块已经存在，已跳过");
-  block->setOrigin(head.origin);
-  block->setFlags(head.flags);
+  const std::uint64_t handle = block->handle().value();
+  if (!second) {
+    block->setOrigin(head.origin);
+    block->setFlags(head.flags);
+    m_body.parts[handle] = {m_maker.PartOf(groups)};
+  }
   std::size_t next = NextObject(at);
   while (next < to && !Is(next, 0, "ENDBLK") && !Is(next, 0, "BLOCK"))
     next = second ? NextObject(next) : ReadEntity(next, to, block);
-  if (Is(next, 0, "ENDBLK")) return NextObject(next);
+  if (Is(next, 0, "ENDBLK")) {
+    const Groups end = ObjectAt(next);
+    if (!second && !end.empty()) m_body.parts[handle].push_back(m_maker.PartOf(end));
+    return NextObject(next);
+  }
   if (next < m_groups.size()) m_problems.Add(m_groups[next].line, L"块没有结束 (ENDBLK)");
   return next;
 }
@@ -335,39 +391,58 @@ std::size_t Reader::ReadEntity(std::size_t at, std::size_t to, AcDbBlockTableRec
     m_problems.Add(object.line, L"此处不应有这样的对象，已跳过");
     return next;
   }
-  if (object.type == "POLYLINE") next = AddVertices(next, to, object);
+  std::string own = m_maker.TextOf(object.own);
+  std::vector<KeptPart> parts;
+  if (object.type == "POLYLINE") next = AddVertices(next, to, object, parts);
   AcDbEntity* entity = m_maker.MakeEntity(object);
   if (!entity) return next;
+  if (!parts.empty()) m_body.parts[entity->handle().value()] = std::move(parts);
   if (!block) {
     bool existed = false;
     block = BlockNamed(object.inPaper ? ACDB_PAPER_SPACE : ACDB_MODEL_SPACE, &existed);
   }
   block->appendAcDbEntity(entity);
   AcDbBlockReference* reference = AcDbBlockReference::cast(entity);
-  return reference && Is(next, 0, "ATTRIB") ? ReadAttributes(next, to, *reference) : next;
+  if (reference && Is(next, 0, "ATTRIB")) next = ReadAttributes(next, to, *reference);
+  m_maker.Keep(*entity, std::move(own));
+  return next;
 }
 
-std::size_t Reader::AddVertices(std::size_t at, std::size_t to, DxfObject& polyline) const {
+std::size_t Reader::AddVertices(std::size_t at, std::size_t to, DxfObject& polyline,
+                                std::vector<KeptPart>& parts) const {
   while (at < to && Is(at, 0, "VERTEX")) {
     const Groups groups = ObjectAt(at);
     if (groups.empty()) return to;
-    const DxfObject vertex = SplitObject(groups);
-    polyline.own.push_back(groups[0]);
-    polyline.own.insert(polyline.own.end(), vertex.own.begin(), vertex.own.end());
+    AddVertex(polyline, groups);
+    parts.push_back(m_maker.PartOf(groups));
     at = NextObject(at);
   }
-  return at < to && Is(at, 0, "SEQEND") ? NextObject(at) : at;
+  return TakeSequenceEnd(at, to, parts);
+}
+
+std::size_t Reader::TakeSequenceEnd(std::size_t at, std::size_t to,
+                                    std::vector<KeptPart>& parts) const {
+  if (at >= to || !Is(at, 0, "SEQEND")) return at;
+  const Groups groups = ObjectAt(at);
+  if (!groups.empty()) parts.push_back(m_maker.PartOf(groups));
+  return NextObject(at);
 }
 
 std::size_t Reader::ReadAttributes(std::size_t at, std::size_t to, AcDbBlockReference& reference) {
   while (at < to && Is(at, 0, "ATTRIB")) {
     const Groups groups = ObjectAt(at);
     if (groups.empty()) return to;
-    if (auto* attribute = AcDbAttribute::cast(m_maker.MakeEntity(SplitObject(groups))))
+    const DxfObject object = SplitObject(groups);
+    if (auto* attribute = AcDbAttribute::cast(m_maker.MakeEntity(object))) {
       reference.appendAttribute(attribute);
+      m_maker.Keep(*attribute, m_maker.TextOf(object.own));
+    }
     at = NextObject(at);
   }
-  return at < to && Is(at, 0, "SEQEND") ? NextObject(at) : at;
+  std::vector<KeptPart> parts;
+  at = TakeSequenceEnd(at, to, parts);
+  if (!parts.empty()) m_body.parts[reference.handle().value()] = std::move(parts);
+  return at;
 }
 
 }  // namespace

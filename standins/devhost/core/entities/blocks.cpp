@@ -94,7 +94,9 @@ Acad::ErrorStatus AcDbBlockReference::dxfInFields(AcDbDxfFiler* filer) {
 Acad::ErrorStatus AcDbBlockReference::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);
   filer->writeString(100, L"AcDbBlockReference");
-  if (!m_attributes.empty()) filer->writeInt(66, 1);
+  if (std::any_of(m_attributes.begin(), m_attributes.end(),
+                  [](AcDbObjectId id) { return !id.isErased(); }))
+    filer->writeInt(66, 1);
   filer->writeString(2, m_block.c_str());
   filer->writePoint(10, m_at);
   filer->writeDouble(41, m_sx);

@@ -18,6 +18,16 @@ void Replace(ACHAR*& text, const ACHAR* by) {
   acutNewString(by, text);
 }
 
+// The blocks of further sheets have the name of the first and a number.
+bool IsOnSheet(const AcDbEntity& entity) {
+  const AcDbObject* owner = entity.ownerId().object();
+  if (const auto* reference = AcDbBlockReference::cast(owner))
+    owner = reference->ownerId().object();
+  const auto* space = AcDbBlockTableRecord::cast(owner);
+  return space &&
+         devhost::UpperCase(space->getName()).starts_with(devhost::UpperCase(ACDB_PAPER_SPACE));
+}
+
 }  // namespace
 
 AcDbEntity::~AcDbEntity() {
@@ -76,8 +86,7 @@ Acad::ErrorStatus AcDbEntity::dxfInFields(AcDbDxfFiler*) { return Acad::eOk; }
 
 Acad::ErrorStatus AcDbEntity::dxfOutFields(AcDbDxfFiler* filer) const {
   filer->writeString(100, L"AcDbEntity");
-  const auto* space = AcDbBlockTableRecord::cast(ownerId().object());
-  if (space && devhost::SameName(space->getName(), ACDB_PAPER_SPACE)) filer->writeInt(67, 1);
+  if (IsOnSheet(*this)) filer->writeInt(67, 1);
   filer->writeString(8, layer());
   if (m_linetype) filer->writeString(6, m_linetype);
   if (m_color != 256) filer->writeInt(62, m_color);
