@@ -1,39 +1,10 @@
 // Drawings: opening, closing, contexts, locks and notifications.
 #include "axlock.h"
 #include "host_fixture.h"
+#include "reactor_log.h"
 
 using namespace devhost;
-
-namespace {
-
-class ReactorLog : public AcApDocManagerReactor {
- public:
-  std::vector<std::wstring> lines;
-  bool removeItself = false;
-
-  void documentCreateStarted(AcApDocument*) override { lines.push_back(L"create started"); }
-  void documentCreated(AcApDocument* d) override { Note(L"created", d); }
-  void documentToBeDestroyed(AcApDocument* d) override { Note(L"to be destroyed", d); }
-  void documentDestroyed(const ACHAR* name) override {
-    lines.push_back(std::wstring(L"destroyed ") + name);
-  }
-  void documentCreateCanceled(AcApDocument*) override { lines.push_back(L"create cancelled"); }
-  void documentBecameCurrent(AcApDocument* d) override { Note(L"current", d); }
-  void documentToBeActivated(AcApDocument* d) override { Note(L"to be activated", d); }
-  void documentToBeDeactivated(AcApDocument* d) override { Note(L"to be deactivated", d); }
-  void documentActivated(AcApDocument* d) override {
-    Note(L"activated", d);
-    if (removeItself) acDocManager->removeReactor(this);
-  }
-
- private:
-  void Note(const wchar_t* what, AcApDocument* d) {
-    lines.push_back(std::wstring(what) + L" " + d->docTitle() + L" of " +
-                    std::to_wstring(acDocManager->documentCount()));
-  }
-};
-
-}  // namespace
+using hosttest::ReactorLog;
 
 class Documents : public hosttest::HostTest {
  protected:
@@ -50,8 +21,8 @@ TEST_F(Documents, AReactorIsNotifiedInOrderWhileTheDrawingIsStillCounted) {
   const std::wstring name = drawing.Title();
   host.documents.Close(&drawing);
   EXPECT_EQ(log.lines, (std::vector<std::wstring>{
-                           L"create started", L"created " + name + L" of 1",
-                           L"to be activated " + name + L" of 1", L"current " + name + L" of 1",
+                           L"create started", L"to be activated " + name + L" of 1",
+                           L"current " + name + L" of 1", L"created " + name + L" of 1",
                            L"activated " + name + L" of 1", L"to be destroyed " + name + L" of 1",
                            L"destroyed " + name}));
 }

@@ -65,19 +65,25 @@ class AcApDocManager : public AcRxObject {
   virtual AcApDocument* document(const AcDbDatabase* database) const = 0;
   virtual int documentCount() const = 0;
   virtual bool isApplicationContext() const = 0;
+  // While it is disabled, no other drawing can be activated, and none is made or opened, because
+  // that activates it. Calls are not counted. eNotApplicable: nothing to change.
+  virtual Acad::ErrorStatus disableDocumentActivation() = 0;
+  virtual Acad::ErrorStatus enableDocumentActivation() = 0;
   virtual bool isDocumentActivationEnabled() const = 0;
-  virtual AcApDocumentIterator* newAcApDocumentIterator() = 0;  // owned by the caller
+  // Over the drawings open now, without those that close meanwhile. Owned by the caller.
+  virtual AcApDocumentIterator* newAcApDocumentIterator() = 0;
   virtual Acad::ErrorStatus appContextOpenDocument(const ACHAR* path) = 0;
   virtual Acad::ErrorStatus appContextNewDocument(const ACHAR* templatePath) = 0;
   virtual Acad::ErrorStatus activateDocument(AcApDocument* document, bool pass = false) = 0;
-  virtual Acad::ErrorStatus closeDocument(AcApDocument* document) = 0;
+  virtual Acad::ErrorStatus closeDocument(AcApDocument* document) = 0;  // changes are discarded
   virtual Acad::ErrorStatus lockDocument(AcApDocument* document,
                                          AcAp::DocLockMode mode = AcAp::kWrite,
                                          const ACHAR* command = nullptr,
                                          const ACHAR* local = nullptr, bool prompt = true) = 0;
   virtual Acad::ErrorStatus unlockDocument(AcApDocument* document) = 0;
-  // The text is processed when the document next waits for input. ESC (27)
-  // cancels its running command.
+  // Texts run in the order of these calls, whatever their drawings. The text is processed when the
+  // document next waits for input; until then a drawing in the background comes to the front. ESC
+  // (27) cancels its running command.
   virtual Acad::ErrorStatus sendStringToExecute(AcApDocument* document, const ACHAR* text,
                                                 bool activate = true, bool wrapUpInactive = false,
                                                 bool echo = true) = 0;

@@ -42,9 +42,9 @@ std::wstring AnswerOf(Document& document, const std::wstring& text) {
 }  // namespace
 
 bool CommandEngine::HasPendingInput() const {
-  const Document* document = Current();
-  return document && m_depth == 0 &&
-         (document->input.HasItem() || TheHost().documents.HasPendingClose());
+  const DocumentList& documents = TheHost().documents;
+  return m_depth == 0 &&
+         (documents.NextWithInput() || documents.HasPendingClose() || documents.MustBringBack());
 }
 
 void CommandEngine::ShowPrompt() {
@@ -52,11 +52,16 @@ void CommandEngine::ShowPrompt() {
 }
 
 bool CommandEngine::RunWaiting() {
-  Document* document = Current();
-  if (!document || m_depth > 0) return false;
+  if (m_depth > 0) return false;
+  DocumentList& documents = TheHost().documents;
   m_cancelAll = false;
-  if (TheHost().documents.ClosePending()) return true;
+  if (documents.ClosePending()) return true;
+  Document* document = documents.NextWithInput();
+  if (!document) return documents.BringBack();
+  documents.BringToFront(*document);
+  if (Current() != document) return true;  // closed or replaced by a reactor
   const InputQueue::Item item = document->input.Take(false);
+  document->inputOrder = item.order;
   switch (item.kind) {
     case InputQueue::Kind::None:
       return false;
@@ -168,7 +173,8 @@ void CommandEngine::Call(Document& document, const Command& command) {
   TheHost().Ui().PictureChanged(*self);
 }
 
-std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool blanksAllowed) {
+std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool blanksAllowed,
+                                                     AnswerFrom from) {
   InputAnswer answer;
   if (m_cancelAll) return answer;
   if (m_givenPoint) {
@@ -176,7 +182,9 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
     answer.point = *std::exchange(m_givenPoint, std::nullopt);
     return answer;
   }
-  const InputQueue::Item item = document.input.Take(blanksAllowed);
+  const InputQueue::Item item = from == AnswerFrom::AnyText
+                                    ? document.input.Take(blanksAllowed)
+                                    : document.input.TakeOwn(blanksAllowed, document.inputOrder);
   if (item.kind == InputQueue::Kind::Escape) return answer;
   if (item.kind != InputQueue::Kind::Token) return std::nullopt;
   if (!item.text.empty() && item.text[0] == L'\'' && !blanksAllowed) {
@@ -185,7 +193,7 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
     if (!TheHost().documents.FindDocument(&document)) return answer;
     ShowPrompt();
     // The text after the transparent command answers the request.
-    return TakeAnswer(document, blanksAllowed);
+    return TakeAnswer(document, blanksAllowed, from);
   }
   if (!item.text.empty() && !blanksAllowed && (item.text[0] == L'(' || item.text[0] == L'!')) {
     answer.kind = InputAnswer::Kind::Text;
@@ -199,6 +207,15 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
 
 InputAnswer CommandEngine::Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
                                const AcGePoint3d* rubberFrom) {
+  return Ask(what, prompt, blanksAllowed, rubberFrom, AnswerFrom::AnyText);
+}
+
+std::wstring CommandEngine::AskForFileName(const std::wstring& prompt) {
+  return Ask(InputRequest::Text, prompt, true, nullptr, AnswerFrom::OwnText).text;
+}
+
+InputAnswer CommandEngine::Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
+                               const AcGePoint3d* rubberFrom, AnswerFrom from) {
   Document* document = Current();
   if (!document || m_depth == 0) return {};
   m_requestPrompt = prompt;
@@ -208,7 +225,7 @@ InputAnswer CommandEngine::Ask(InputRequest what, const std::wstring& prompt, bo
   m_givenPoint.reset();
   ShowPrompt();
   std::optional<InputAnswer> answer;
-  while (!(answer = TakeAnswer(*document, blanksAllowed))) {
+  while (!(answer = TakeAnswer(*document, blanksAllowed, from))) {
     if (!TheHost().Ui().PumpWhileWaiting()) m_cancelAll = true;
     if (!TheHost().documents.FindDocument(document)) return {};
   }
@@ -229,18 +246,25 @@ InputAnswer CommandEngine::Ask(InputRequest what, const std::wstring& prompt, bo
   return *answer;
 }
 
+void CommandEngine::Post(Document& document, const std::wstring& text) {
+  document.input.Append(text, NextOrigin(true));
+}
+
 void CommandEngine::EnterLine(const std::wstring& line) {
-  if (Document* document = Current()) document->input.Append(line + L"\n");
+  if (Document* document = Current()) document->input.Append(line + L"\n", NextOrigin(false));
 }
 
 void CommandEngine::PressEscape() {
   Document* document = Current();
   if (!document) return;
-  document->input.Clear();  // discards the text that was entered before the key
+  // Discards the text that was entered before the key, but not the commands posted after the
+  // running one.
   if (m_depth > 0) {
-    document->input.Append(L"\x1b");
+    document->input.ClearOwn(document->inputOrder);
+    document->input.Append(L"\x1b", NextOrigin(false));
     return;
   }
+  document->input.Clear();
   TheHost().Print(L"\n命令: *取消*\n");
   if (!document->pickFirst.empty()) SetPickFirst(*document, {});
 }
@@ -252,14 +276,14 @@ void CommandEngine::EnterPoint(const AcGePoint3d& point) {
 bool CommandEngine::StretchGrip(Document& document, AcDbObjectId entity, const AcGePoint3d& grip) {
   if (m_depth > 0 || !document.input.IsEmpty()) return false;
   document.hotGrip = HotGrip{entity, grip};
-  document.input.Append(L"GRIP_STRETCH\n");
+  document.input.Append(L"GRIP_STRETCH\n", NextOrigin(false));
   return true;
 }
 
 bool CommandEngine::EditText(Document& document, AcDbObjectId text) {
   if (m_depth > 0 || !document.input.IsEmpty()) return false;
   document.textToEdit = text;
-  document.input.Append(L"TEXTEDIT\n");
+  document.input.Append(L"TEXTEDIT\n", NextOrigin(false));
   return true;
 }
 

@@ -1,6 +1,8 @@
-// Reads the input queue of the current drawing and runs commands, LISP expressions and transparent
-// commands. While a command waits for input, the engine pumps messages through HostUi until text, a
-// point or a cancel arrives.
+// Reads the input queues of the drawings and runs commands, LISP expressions and transparent
+// commands. Texts run in the order in which they were sent, typed or posted. The drawing of a text
+// comes to the front for it; when no text is left, the one that was in front before comes back.
+// While a command waits for input, the engine pumps messages through HostUi until text, a point or
+// a cancel arrives.
 #pragma once
 
 #include <optional>
@@ -27,9 +29,11 @@ struct InputAnswer {
 
 class CommandEngine {
  public:
-  // Runs one command or expression of the current drawing's queue. False: the queue has no complete
-  // item. Called from the idle time of the message loop.
+  // Runs one command or expression of the queues, or brings the drawing back that was in front.
+  // False: nothing to do. Called from the idle time of the message loop.
   bool RunWaiting();
+  // Adds text that a module or a window of the host sends to a drawing.
+  void Post(Document& document, const std::wstring& text);
 
   bool HasPendingInput() const;  // an item is in the queue and no command will read it as input
 
@@ -44,6 +48,9 @@ class CommandEngine {
   // Called by the published input functions. Returns when an answer or a cancel arrives.
   InputAnswer Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
                   const AcGePoint3d* rubberFrom);
+  // The name of a file, of any length; empty: cancelled or Enter alone. Text that was posted apart
+  // from the running command is no answer: it may be the next command.
+  std::wstring AskForFileName(const std::wstring& prompt);
 
   InputRequest Request() const { return m_request; }
   bool WaitsForPoint() const {
@@ -73,9 +80,14 @@ class CommandEngine {
   bool ExecuteCommand(Document& document, std::wstring name, bool asTransparent);
   void Call(Document& document, const Command& command);
   void ShowPrompt();
-  std::optional<InputAnswer> TakeAnswer(Document& document, bool blanksAllowed);
+  enum class AnswerFrom { AnyText, OwnText };
+  InputAnswer Ask(InputRequest what, const std::wstring& prompt, bool blanksAllowed,
+                  const AcGePoint3d* rubberFrom, AnswerFrom from);
+  std::optional<InputAnswer> TakeAnswer(Document& document, bool blanksAllowed, AnswerFrom from);
+  InputOrigin NextOrigin(bool posted) { return {++m_lastOrder, posted}; }
 
   int m_depth = 0;
+  long long m_lastOrder = 0;  // of input text
   InputRequest m_request = InputRequest::Nothing;
   bool m_blanks = false;
   bool m_cancelAll = false;

@@ -67,6 +67,8 @@ class Document : public AcApDocument {
   int locks = 0;
   std::unique_ptr<UndoRecording> lockStep;  // open during a lock outside of all commands
   bool closePending = false;                // is closed as soon as no command runs in it
+  bool closing = false;                     // reactors are being notified of the end
+  long long inputOrder = 0;                 // of the text that runs or ran last; see InputOrigin
   std::wstring lastCommand;
 
  private:

@@ -1,6 +1,7 @@
 // Nested scopes; see the header.
 #include "devhost/core/documents/document_scope.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace devhost {
@@ -17,6 +18,11 @@ DocumentScope::DocumentScope(Document* document) : m_before(nullptr) {
   Scopes().push_back(document ? document : ScopedDocument());
 }
 DocumentScope::~DocumentScope() { Scopes().pop_back(); }
+
+void LeaveScopes(const Document* document) {
+  std::replace(Scopes().begin(), Scopes().end(), const_cast<Document*>(document),
+               static_cast<Document*>(nullptr));
+}
 
 Document* ScopedDocument() { return Scopes().empty() ? nullptr : Scopes().back(); }
 

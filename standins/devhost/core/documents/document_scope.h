@@ -16,6 +16,7 @@ class DocumentScope {
  private:
   Document* m_before;
 };
-Document* ScopedDocument();  // the innermost scope's, or null
+Document* ScopedDocument();                  // the innermost scope's, or null
+void LeaveScopes(const Document* document);  // it is destroyed: its scopes are of no drawing
 
 }  // namespace devhost
