@@ -19,6 +19,9 @@ class SilentUi : public devhost::HostUi {
   void PromptChanged(const std::wstring&) override {}
   void VariableChanged(const std::wstring&) override {}
   void Alert(const std::wstring&) override {}
+  devhost::Answer Ask(const std::wstring&, devhost::Choices) override {
+    return devhost::Answer::Cancel;
+  }
   bool PumpWhileWaiting() override { return false; }
   void EndProgram() override {}
 };

@@ -29,6 +29,9 @@ class ScriptedUi : public devhost::HostUi {
   std::wstring printed, alerts;
   std::vector<std::wstring> log;             // notifications about documents and pictures
   std::deque<std::function<void()>> rounds;  // user actions, one for each round of the pump
+  std::deque<devhost::Answer> answers;
+  std::vector<std::wstring> questions;
+  std::function<void()> onQuestion;  // what happens while a question is shown
   bool ended = false;
 
   void DocumentCreated(devhost::Document& d) override { log.push_back(L"created " + d.Name()); }
@@ -43,6 +46,15 @@ class ScriptedUi : public devhost::HostUi {
   void PromptChanged(const std::wstring&) override {}
   void VariableChanged(const std::wstring& name) override { log.push_back(L"var " + name); }
   void Alert(const std::wstring& text) override { alerts += text; }
+  // Without an answer left, the question is cancelled.
+  devhost::Answer Ask(const std::wstring& question, devhost::Choices) override {
+    questions.push_back(question);
+    if (onQuestion) onQuestion();
+    if (answers.empty()) return devhost::Answer::Cancel;
+    const devhost::Answer next = answers.front();
+    answers.pop_front();
+    return next;
+  }
   // Without actions the program ends, so that a test cannot hang.
   bool PumpWhileWaiting() override {
     if (rounds.empty()) return false;

@@ -1,12 +1,10 @@
 // Commands for drawings, menu groups and the program: NEW, OPEN, SAVE, CLOSE, MENULOAD, QUIT.
-#include <filesystem>
-
 #include "aced.h"
 #include "adslib.h"
 #include "devhost/core/commands/native_commands.h"
-#include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/commands/close_drawings.h"
+#include "devhost/core/commands/save_drawing.h"
 #include "devhost/core/host/host.h"
-#include "devhost/core/variables/header_variables.h"
 
 namespace devhost {
 namespace {
@@ -16,53 +14,28 @@ Document* CurrentDocument() { return TheHost().documents.Current(); }
 void New() { TheHost().documents.New(); }
 
 void Open() {
-  ACHAR path[140];
-  if (acedGetString(1, L"输入图形文件名: ", path) == RTNORM && *path)
-    TheHost().documents.Open(path);
+  const std::wstring path = TheHost().engine.AskForFileName(L"输入图形文件名: ");
+  if (!path.empty()) TheHost().documents.Open(path);
 }
 
-void Close() {
-  Document* document = CurrentDocument();
-  // CLOSE itself does not delay the closing; an enclosing command does.
-  if (document->commands.size() == 1) document->commands.clear();
-  TheHost().documents.Close(document);
-}
+void Close() { CloseAsUser(*CurrentDocument()); }
 
-void CloseAll() {
-  if (CurrentDocument()->commands.size() == 1) CurrentDocument()->commands.clear();
-  std::vector<Document*> open;
-  for (const auto& document : TheHost().documents.All()) open.push_back(document.get());
-  for (Document* document : open) TheHost().documents.Close(document);
-}
+void CloseAll() { CloseAllAsUser(); }
 
-void SaveTo(Document& document, const std::wstring& path) {
-  std::wstring why;
-  SaveHeaderVariables(document);
-  if (!WriteDrawing(path, *document.database(), &why)) {
-    TheHost().Print(L"\n" + why + L"\n");
-    return;
-  }
-  document.SetPath(path);
-  document.SetHasFile();
-  TheHost().Ui().DocumentTitled(document);
-  TheHost().modules.SendToAll(AcRx::kSaveMsg, &document);
-}
-
-void SaveAs() {
-  Document* document = CurrentDocument();
-  ACHAR path[140];
-  if (acedGetString(1, L"输入图形文件名: ", path) != RTNORM || !*path) return;
-  std::error_code error;
-  SaveTo(*document, std::filesystem::absolute(std::filesystem::path(path), error).wstring());
-}
-
-void Save() {
-  Document* document = CurrentDocument();
-  if (document->HasFile())
-    SaveTo(*document, document->fileName());
+// Closes another drawing, which stays in the background.
+void CloseOther() {
+  const std::wstring name = TheHost().engine.AskForFileName(L"输入要关闭的图形名: ");
+  if (name.empty()) return;
+  Document* other = TheHost().documents.FindByName(name);
+  if (!other)
+    TheHost().Print(L"\n没有打开图形: " + name + L"\n");
   else
-    SaveAs();
+    CloseAsUser(*other);
 }
+
+void SaveAs() { SaveDrawingAs(*CurrentDocument()); }
+
+void Save() { SaveDrawing(*CurrentDocument()); }
 
 void MenuLoad() {
   ACHAR path[512];
@@ -80,14 +53,22 @@ void MenuUnload() {
     TheHost().Print(L"\n没有加载菜单组: " + std::wstring(group) + L"\n");
 }
 
-void Quit() { TheHost().Ui().EndProgram(); }
+void Quit() {
+  if (MayQuit()) TheHost().Ui().EndProgram();
+}
 
 constexpr NativeCommand kFile[] = {
-    {L"CLOSE", 0, Close},       {L"CLOSEALL", 0, CloseAll},
-    {L"MENULOAD", 0, MenuLoad}, {L"MENUUNLOAD", 0, MenuUnload},
-    {L"NEW", 0, New},           {L"OPEN", 0, Open},
-    {L"QNEW", 0, New},          {L"QSAVE", 0, Save},
-    {L"QUIT", 0, Quit},         {L"SAVE", 0, Save},
+    {L"CLOSE", 0, Close},
+    {L"CLOSEALL", 0, CloseAll},
+    {L"CLOSEOTHER", 0, CloseOther},
+    {L"MENULOAD", 0, MenuLoad},
+    {L"MENUUNLOAD", 0, MenuUnload},
+    {L"NEW", 0, New},
+    {L"OPEN", 0, Open},
+    {L"QNEW", 0, New},
+    {L"QSAVE", 0, Save},
+    {L"QUIT", 0, Quit},
+    {L"SAVE", 0, Save},
     {L"SAVEAS", 0, SaveAs},
 };
 

@@ -41,6 +41,10 @@ class DatabaseWatcher {
   virtual void OnReplace() = 0;  // an object was exchanged for another; stored pointers are invalid
 };
 
+// Bits of DBMOD. Windows and views (8 and 16) are not stored in files, so their changes do not
+// count.
+constexpr int kObjectsModified = 1, kVariablesModified = 4;
+
 struct AcDbDatabase::Body {
   std::vector<std::unique_ptr<AcDbObject>> objects;  // in the order of insertion
   std::unordered_map<std::uint64_t, AcDbObject*> byHandle;
@@ -58,7 +62,7 @@ struct AcDbDatabase::Body {
   std::map<std::wstring, std::uint64_t> addedHandles;  // of tables and records that the writer adds
   bool paperIsCurrent = false;
   devhost::UserSystem modelSystem, paperSystem;
-  int modified = 0;
+  int modified = 0;  // DBMOD
   // Callbacks for undo recording, set by the document.
   std::function<void(AcDbObject*)> onErased, onAdded;
   std::function<void(AcDbObject*)> onChanging;  // before its data changes

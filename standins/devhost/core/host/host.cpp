@@ -21,6 +21,7 @@ class NullUi : public HostUi {
   void PromptChanged(const std::wstring&) override {}
   void VariableChanged(const std::wstring&) override {}
   void Alert(const std::wstring&) override {}
+  Answer Ask(const std::wstring&, Choices) override { return Answer::Cancel; }
   bool PumpWhileWaiting() override { return false; }
   void EndProgram() override {}
 };
@@ -42,6 +43,7 @@ void Host::Begin(const HostOptions& options, HostUi* ui, ModuleSource* source) {
 }
 
 void Host::End() {
+  documents.enableDocumentActivation();  // a module may have left it disabled
   while (!documents.All().empty()) {
     Document& last = *documents.All().back();
     last.commands.clear();

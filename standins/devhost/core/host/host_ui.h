@@ -8,6 +8,9 @@ namespace devhost {
 
 class Document;
 
+enum class Answer { Yes, No, Cancel };
+enum class Choices { YesNo, YesNoCancel };
+
 class HostUi {
  public:
   virtual ~HostUi() = default;
@@ -25,11 +28,13 @@ class HostUi {
   virtual void PromptChanged(const std::wstring& prompt) = 0;
   virtual void VariableChanged(const std::wstring& name) = 0;
   virtual void Alert(const std::wstring& text) = 0;  // a message box with OK
+  // A modal question. Drawings may close until it returns.
+  virtual Answer Ask(const std::wstring& question, Choices choices) = 0;
 
   // Processes messages while a command waits for input. False: the program ends and the command
   // must be cancelled.
   virtual bool PumpWhileWaiting() = 0;
-  virtual void EndProgram() = 0;  // QUIT was run
+  virtual void EndProgram() = 0;  // without further questions
 };
 
 }  // namespace devhost

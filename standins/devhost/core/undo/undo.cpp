@@ -64,19 +64,22 @@ UndoRecording::~UndoRecording() {
 void ConnectUndo(Document& document) {
   AcDbDatabase::Body& body = document.database()->body();
   body.onAdded = [&document, &body](AcDbObject* object) {
-    body.modified |= 1;
+    body.modified |= kObjectsModified;
     Record(document, {UndoChange::Kind::Added, object, {}, {}, {}, {}});
   };
   body.onErased = [&document, &body](AcDbObject* object) {
-    body.modified |= 1;
+    body.modified |= kObjectsModified;
     Record(document, {UndoChange::Kind::Erased, object, {}, {}, {}, {}});
   };
   body.onMoved = [&document, &body](AcDbEntity* entity, const AcGeMatrix3d& by) {
-    body.modified |= 1;
+    body.modified |= kObjectsModified;
     AcGeMatrix3d back;
     if (by.invert(&back)) Record(document, {UndoChange::Kind::Moved, entity, back, {}, {}, {}});
   };
-  body.onChanging = [&document](AcDbObject* object) { RecordData(document, object); };
+  body.onChanging = [&document, &body](AcDbObject* object) {
+    body.modified |= kObjectsModified;
+    RecordData(document, object);
+  };
 }
 
 void RecordVariableForUndo(Document& document, const std::wstring& name) {
@@ -92,7 +95,7 @@ void ChangeUserSystem(Document& document, const UserSystem& system) {
   change.system = std::exchange(body.CurrentSystem(), system);
   change.ofPaper = body.paperIsCurrent;
   Record(document, std::move(change));
-  body.modified |= 1;
+  body.modified |= kObjectsModified;
 }
 
 std::wstring UndoLatestStep(Document& document) {

@@ -5,6 +5,7 @@
 
 #include "devhost/core/base/journal.h"
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/drawing/database_body.h"
 #include "devhost/core/host/host.h"
 #include "devhost/core/variables/space_variables.h"
 #include "devhost/core/variables/variable_values.h"
@@ -94,6 +95,11 @@ bool ReadSteps(const std::wstring& value, const VariableInfo& info, std::wstring
   return *end == 0;
 }
 
+// The current viewport belongs to the window and is not stored in files.
+void MarkModified(Document& document, const std::wstring& name) {
+  if (name != L"CVPORT") document.database()->body().modified |= kVariablesModified;
+}
+
 Document* VariableDocument() {
   AcApDocument* current = TheHost().documents.curDocument();
   return TheHost().documents.FindDocument(current);
@@ -141,7 +147,12 @@ VarResult VariableTable::Set(const std::wstring& name, const std::wstring& value
   if (info->type == VarType::Point && !ReadSteps(value, *info, &stored))
     return VarResult::OutOfRange;
   if (!IsViewportAccepted(document, info->name, stored)) return VarResult::OutOfRange;
-  if (info->ofDrawing) RecordForUndo(*document, info->name);
+  if (info->ofDrawing) {
+    RecordForUndo(*document, info->name);
+    std::wstring before;
+    if (!byHost && (Get(info->name, &before) != VarResult::Ok || before != stored))
+      MarkModified(*document, info->name);
+  }
   (info->ofDrawing ? document->variables : m_global)[info->name] = stored;
   if (info->ofDrawing) UpdateCurrentSpace(*document, info->name);
   TheJournal().Record("var", {{"name", Utf8(info->name)}, {"value", Utf8(stored)}});
@@ -157,6 +168,7 @@ void RestoreVariable(Document& document, const std::wstring& name,
   else
     document.variables.erase(name);
   const std::wstring now = value ? *value : info->initial;
+  MarkModified(document, name);
   UpdateCurrentSpace(document, name);
   TheJournal().Record("var", {{"name", Utf8(name)}, {"value", Utf8(now)}});
   TheHost().Ui().VariableChanged(name);
