@@ -6,8 +6,9 @@
 namespace devhost {
 
 void RegisterNativeCommands(CommandStack& stack) {
-  for (const auto& commands : {DrawCommands(), EditCommands(), ObjectCommands(), ViewCommands(),
-                               ViewportCommands(), UserSystemCommands(), FileCommands()})
+  for (const auto& commands :
+       {DrawCommands(), EditCommands(), ObjectCommands(), ViewCommands(), ViewportCommands(),
+        UserSystemCommands(), FileCommands(), InsertCommands()})
     for (const NativeCommand& c : commands) stack.AddNative(c.name, c.flags, c.function);
 }
 

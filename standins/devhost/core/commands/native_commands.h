@@ -27,6 +27,7 @@ std::span<const NativeCommand> ViewCommands();
 std::span<const NativeCommand> ViewportCommands();
 std::span<const NativeCommand> UserSystemCommands();
 std::span<const NativeCommand> FileCommands();
+std::span<const NativeCommand> InsertCommands();
 
 bool IsPlainText(const AcDbEntity& entity);  // TEXT and MTEXT: what TEXTEDIT edits
 
