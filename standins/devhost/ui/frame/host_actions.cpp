@@ -83,6 +83,19 @@ void CloseActiveDrawing() {
   if (Document* document = TheHost().documents.Current()) TheHost().documents.Close(document);
 }
 
+void RunHostCommand(Document& document, const std::wstring& name) {
+  // A command that waits in the front drawing would delay the text of another one.
+  if (TheHost().engine.IsCommandRunning()) TheHost().engine.PressEscape();
+  TheHost().engine.Post(document, L"\x1b_." + name + L"\n");
+}
+
+void RunHostCommand(const std::wstring& name) {
+  if (Document* document = TheHost().documents.Current())
+    RunHostCommand(*document, name);
+  else if (name == L"QUIT")
+    TheHost().Ui().EndProgram();
+}
+
 bool SelectByHandles(const std::vector<std::string>& handles) {
   Document* document = TheHost().documents.Current();
   if (!document) return false;

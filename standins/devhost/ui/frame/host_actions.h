@@ -15,7 +15,11 @@ class Document;
 bool OpenDrawingFile(const std::wstring& path);
 Document* MakeNewDrawing();
 bool ActivateDrawingNamed(const std::wstring& name);  // file name without extension, case ignored
-void CloseActiveDrawing();
+void CloseActiveDrawing();                            // discards changes without a question
+// Cancels what runs in the current drawing and runs this command of the host. Without a drawing
+// only QUIT does something.
+void RunHostCommand(const std::wstring& name);
+void RunHostCommand(Document& document, const std::wstring& name);
 
 bool SelectByHandles(const std::vector<std::string>& handles);
 bool SetVariableText(const std::wstring& name, const std::wstring& value);

@@ -2,6 +2,7 @@
 #include "devhost/ui/frame/host_ui_impl.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "devhost/core/host/host.h"
 #include "devhost/ui/frame/main_frame.h"
@@ -44,31 +45,33 @@ CommandBar::Listener HostUiImpl::CommandListener() {
           [] { TheHost().engine.PressEscape(); }, [] { return TheHost().engine.AcceptsBlanks(); }};
 }
 
-bool HostUiImpl::ClosePending() {
-  if (m_toClose.empty() || TheHost().engine.IsCommandRunning()) return false;
-  Document* document = m_toClose.front();
-  m_toClose.erase(m_toClose.begin());
-  if (TheHost().documents.FindDocument(document)) TheHost().documents.Close(document);
+bool HostUiImpl::MayChangeDrawing() const {
+  return TheHost().documents.isDocumentActivationEnabled();
+}
+
+bool HostUiImpl::ReturnActivation() {
+  if (!std::exchange(m_mustReturnActivation, false)) return false;
+  ScopedCount guard(m_fromCore);
+  if (DrawingChild* child = ActiveChild()) child->Activate();
   return true;
 }
 
 bool HostUiImpl::RunWaiting() {
   m_destroyed.clear();
-  if (ClosePending()) return true;
+  if (ReturnActivation()) return true;
   return !TheHost().engine.IsCommandRunning() && TheHost().engine.RunWaiting();
 }
 
 bool HostUiImpl::HasPendingInput() const {
-  return !m_toClose.empty() || TheHost().engine.HasPendingInput();
+  return m_mustReturnActivation || TheHost().engine.HasPendingInput();
 }
 
 void HostUiImpl::OnUserActivate(DrawingChild& child) {
-  if (m_fromCore == 0) TheHost().documents.Activate(&child.GetDocument());
-}
-
-void HostUiImpl::OnUserClose(DrawingChild& child) {
-  if (TheHost().engine.IsCommandRunning()) TheHost().engine.PressEscape();
-  m_toClose.push_back(&child.GetDocument());
+  if (m_fromCore > 0) return;
+  if (&child != ActiveChild() && !MayChangeDrawing())
+    m_mustReturnActivation = true;
+  else
+    TheHost().documents.Activate(&child.GetDocument());
 }
 
 void HostUiImpl::DocumentCreated(Document& document) {
@@ -76,7 +79,7 @@ void HostUiImpl::DocumentCreated(Document& document) {
   ScopedCount guard(m_fromCore);
   auto child = std::make_unique<DrawingChild>(document);
   m_children.push_back(std::move(child));
-  m_children.back()->CreateIn(TheFrame(), document.Title());
+  m_children.back()->CreateIn(TheFrame(), document.fileName());
 }
 
 void HostUiImpl::DocumentActivated(Document* document) {
@@ -94,7 +97,6 @@ void HostUiImpl::DocumentDestroyed(Document& document) {
     return &child->GetDocument() == &document;
   });
   if (found == m_children.end()) return;
-  std::erase(m_toClose, &document);
   std::unique_ptr<DrawingChild> child = std::move(*found);
   m_children.erase(found);
   child->DestroyMdiWindow();
@@ -102,8 +104,7 @@ void HostUiImpl::DocumentDestroyed(Document& document) {
 }
 
 void HostUiImpl::DocumentTitled(Document& document) {
-  if (DrawingChild* child = ChildOf(document))
-    ::SetWindowTextW(child->m_hWnd, document.Title().c_str());
+  if (DrawingChild* child = ChildOf(document)) ::SetWindowTextW(child->m_hWnd, document.fileName());
 }
 
 void HostUiImpl::PictureChanged(Document& document) {
@@ -143,10 +144,21 @@ void HostUiImpl::VariableChanged(const std::wstring& name) {
 
 void HostUiImpl::Alert(const std::wstring& text) { AfxMessageBox(text.c_str()); }
 
+Answer HostUiImpl::Ask(const std::wstring& question, Choices choices) {
+  const UINT buttons = choices == Choices::YesNo ? MB_YESNO : MB_YESNOCANCEL;
+  switch (AfxMessageBox(question.c_str(), buttons | MB_ICONQUESTION)) {
+    case IDYES:
+      return Answer::Yes;
+    case IDNO:
+      return Answer::No;
+    default:
+      return Answer::Cancel;
+  }
+}
+
 bool HostUiImpl::PumpWhileWaiting() { return ThePump().RunOnce(); }
 
-void HostUiImpl::EndProgram() {
-  if (TheFrame()) ::PostMessageW(TheFrame()->m_hWnd, WM_CLOSE, 0, 0);
-}
+// The window is destroyed after the modules; see launch.
+void HostUiImpl::EndProgram() { ::PostQuitMessage(0); }
 
 }  // namespace devhost

@@ -20,9 +20,9 @@ class HostUiImpl : public HostUi {
   bool RunWaiting();  // one item of waiting input; false: none
   bool HasPendingInput() const;
 
+  // A window that was activated while activation is disabled loses it at the next idle time.
   void OnUserActivate(DrawingChild& child);
-  // Closes the drawing at the next idle time: a window must not be destroyed in its own message.
-  void OnUserClose(DrawingChild& child);
+  bool MayChangeDrawing() const;
 
   void DocumentCreated(Document& document) override;
   void DocumentActivated(Document* document) override;
@@ -35,16 +35,17 @@ class HostUiImpl : public HostUi {
   void PromptChanged(const std::wstring& prompt) override;
   void VariableChanged(const std::wstring& name) override;
   void Alert(const std::wstring& text) override;
+  Answer Ask(const std::wstring& question, Choices choices) override;
   bool PumpWhileWaiting() override;
   void EndProgram() override;
 
  private:
-  bool ClosePending();
+  bool ReturnActivation();
 
   std::vector<std::unique_ptr<DrawingChild>> m_children;
   // Windows that are destroyed already, deleted at idle time.
   std::vector<std::unique_ptr<DrawingChild>> m_destroyed;
-  std::vector<Document*> m_toClose;
+  bool m_mustReturnActivation = false;
   int m_fromCore = 0;  // above 0 during calls from the core
 };
 

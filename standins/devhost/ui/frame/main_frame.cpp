@@ -90,6 +90,29 @@ void MainFrame::OpenDropped(HDROP drop) {
   ::DragFinish(drop);
 }
 
+bool MainFrame::RunWindowCommand(UINT id) {
+  switch (id) {
+    case kWindowCascade:
+      ::SendMessageW(m_hWndMDIClient, WM_MDICASCADE, 0, 0);
+      return true;
+    case kWindowTileHorizontal:
+      ::SendMessageW(m_hWndMDIClient, WM_MDITILE, MDITILE_HORIZONTAL, 0);
+      return true;
+    case kWindowTileVertical:
+      ::SendMessageW(m_hWndMDIClient, WM_MDITILE, MDITILE_VERTICAL, 0);
+      return true;
+    case kWindowArrange:
+      ::SendMessageW(m_hWndMDIClient, WM_MDIICONARRANGE, 0, 0);
+      return true;
+    case kWindowMinimize:
+      if (DrawingChild* child = TheHostUi().ActiveChild())
+        ::SendMessageW(child->m_hWnd, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+      return true;
+  }
+  // The MDI client's own rows: the list of its children.
+  return id >= AFX_IDM_FIRST_MDICHILD && !TheHostUi().MayChangeDrawing();
+}
+
 bool MainFrame::RunMenuCommand(UINT id) {
   switch (id) {
     case kFileNew:
@@ -99,7 +122,16 @@ bool MainFrame::RunMenuCommand(UINT id) {
       AskAndOpen();
       return true;
     case kFileClose:
-      CloseActiveDrawing();
+      RunHostCommand(L"CLOSE");
+      return true;
+    case kFileCloseAll:
+      RunHostCommand(L"CLOSEALL");
+      return true;
+    case kFileSave:
+      RunHostCommand(L"QSAVE");
+      return true;
+    case kFileSaveAs:
+      RunHostCommand(L"SAVEAS");
       return true;
     case kFileQuit:
       ::PostMessageW(m_hWnd, WM_CLOSE, 0, 0);
@@ -116,15 +148,6 @@ bool MainFrame::RunMenuCommand(UINT id) {
     case kViewRedraw:
       if (DrawingView* view = ActiveView()) view->PictureChanged();
       return true;
-    case kWindowCascade:
-      ::SendMessageW(m_hWndMDIClient, WM_MDICASCADE, 0, 0);
-      return true;
-    case kWindowTileHorizontal:
-      ::SendMessageW(m_hWndMDIClient, WM_MDITILE, MDITILE_HORIZONTAL, 0);
-      return true;
-    case kWindowTileVertical:
-      ::SendMessageW(m_hWndMDIClient, WM_MDITILE, MDITILE_VERTICAL, 0);
-      return true;
     case kHelpTopics:
       ShowHostHelp();
       return true;
@@ -136,7 +159,8 @@ bool MainFrame::RunMenuCommand(UINT id) {
 }
 
 BOOL MainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
-  if (lParam == 0 && RunMenuCommand(LOWORD(wParam))) return TRUE;
+  if (lParam == 0 && (RunMenuCommand(LOWORD(wParam)) || RunWindowCommand(LOWORD(wParam))))
+    return TRUE;
   return CMDIFrameWnd::OnCommand(wParam, lParam);
 }
 
@@ -147,8 +171,8 @@ BOOL MainFrame::PreTranslateMessage(MSG* message) {
 
 LRESULT MainFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_CLOSE:  // the window is destroyed after the modules; see launch
-      ::PostQuitMessage(0);
+    case WM_CLOSE:
+      RunHostCommand(L"QUIT");
       return 0;
     case WM_INITMENUPOPUP: {
       const LRESULT result = CMDIFrameWnd::WindowProc(message, wParam, lParam);

@@ -25,6 +25,7 @@ class MainFrame : public CMDIFrameWnd {
 
  private:
   bool RunMenuCommand(UINT id);
+  bool RunWindowCommand(UINT id);
   void AskAndOpen();
   void OpenDropped(HDROP drop);
 

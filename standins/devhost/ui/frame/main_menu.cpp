@@ -14,6 +14,10 @@ struct Row {
 constexpr Row kFile[] = {{kFileNew, L"新建(&N)\tCtrl+N"},
                          {kFileOpen, L"打开(&O)...\tCtrl+O"},
                          {kFileClose, L"关闭(&C)"},
+                         {kFileCloseAll, L"全部关闭(&L)"},
+                         {0, nullptr},
+                         {kFileSave, L"保存(&S)\tCtrl+S"},
+                         {kFileSaveAs, L"另存为(&A)..."},
                          {0, nullptr},
                          {kFileQuit, L"退出(&X)\tAlt+F4"}};
 constexpr Row kView[] = {{kViewZoomIn, L"放大(&I)"},
@@ -23,7 +27,9 @@ constexpr Row kView[] = {{kViewZoomIn, L"放大(&I)"},
                          {kViewRedraw, L"重画(&R)"}};
 constexpr Row kWindow[] = {{kWindowCascade, L"层叠(&C)"},
                            {kWindowTileHorizontal, L"水平平铺(&H)"},
-                           {kWindowTileVertical, L"垂直平铺(&V)"}};
+                           {kWindowTileVertical, L"垂直平铺(&V)"},
+                           {kWindowArrange, L"排列图标(&A)"},
+                           {kWindowMinimize, L"最小化(&M)"}};
 
 template <int count>
 HMENU MakePopup(const Row (&rows)[count]) {
@@ -50,13 +56,14 @@ MainMenu MakeMainMenu() {
 HACCEL MakeMainKeys() {
   ACCEL keys[] = {{FCONTROL | FVIRTKEY, 'N', kFileNew},
                   {FCONTROL | FVIRTKEY, 'O', kFileOpen},
+                  {FCONTROL | FVIRTKEY, 'S', kFileSave},
                   {FVIRTKEY, VK_F1, kHelpTopics},
                   {FVIRTKEY, VK_F7, kToggleGrid}};
   return ::CreateAcceleratorTableW(keys, static_cast<int>(std::size(keys)));
 }
 
 void EnableMainMenu(HMENU menu, bool drawingOpen) {
-  for (UINT id = kFileClose; id <= kWindowTileVertical; ++id)
+  for (UINT id = kFileClose; id <= kWindowMinimize; ++id)
     if (id != kFileQuit)
       ::EnableMenuItem(menu, id, MF_BYCOMMAND | (drawingOpen ? MF_ENABLED : MF_GRAYED));
 }

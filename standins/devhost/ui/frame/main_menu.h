@@ -9,6 +9,9 @@ enum MenuCommand : UINT {
   kFileNew = 0x8001,
   kFileOpen,
   kFileClose,
+  kFileCloseAll,
+  kFileSave,
+  kFileSaveAs,
   kFileQuit,
   kViewZoomIn,
   kViewZoomOut,
@@ -17,6 +20,8 @@ enum MenuCommand : UINT {
   kWindowCascade,
   kWindowTileHorizontal,
   kWindowTileVertical,
+  kWindowArrange,
+  kWindowMinimize,
   kHelpTopics,  // F1; not in the menu
   kToggleGrid,  // F7; not in the menu
 };

@@ -84,9 +84,12 @@ class JournalFile {
   std::FILE* m_stream = nullptr;
 };
 
-void OpenDrawings(const std::vector<std::wstring>& names) {
-  for (const std::wstring& name : names) OpenDrawingFile(name);
-  if (TheHost().documents.documentCount() == 0) MakeNewDrawing();
+// The first drawing that can be opened, or a new one. Returns the number of names used.
+std::size_t OpenFirstDrawing(const std::vector<std::wstring>& names) {
+  for (std::size_t i = 0; i < names.size(); ++i)
+    if (OpenDrawingFile(names[i])) return i + 1;
+  MakeNewDrawing();
+  return names.size();
 }
 
 void LoadModules(const LaunchOptions& options) {
@@ -130,8 +133,11 @@ int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDri
     // Started before modules are loaded: a script can answer message boxes of a module's start.
     UiPortImpl port;
     if (driver) driver->Start(port);
-    OpenDrawings(options.drawings);
+    // One drawing is open when modules are loaded, and they are notified of the others.
+    const std::size_t opened = OpenFirstDrawing(options.drawings);
     LoadModules(options);
+    for (std::size_t i = opened; i < options.drawings.size(); ++i)
+      OpenDrawingFile(options.drawings[i]);
     exitCode = app.Run();
     *again = driver && driver->WantsRestart();
     StopDriver(port, std::move(driver));

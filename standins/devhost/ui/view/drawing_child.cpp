@@ -1,9 +1,18 @@
 // The MDI child window; see the header.
 #include "devhost/ui/view/drawing_child.h"
 
+#include "devhost/ui/frame/host_actions.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 
 namespace devhost {
+namespace {
+
+bool IsToAnotherChild(WPARAM command) {
+  const WPARAM which = command & 0xFFF0;
+  return which == SC_NEXTWINDOW || which == SC_PREVWINDOW;
+}
+
+}  // namespace
 
 DrawingChild::DrawingChild(Document& document) : m_document(document), m_view(document) {}
 
@@ -27,6 +36,11 @@ bool DrawingChild::CreateIn(CMDIFrameWnd* frame, const std::wstring& title) {
   return true;
 }
 
+bool DrawingChild::IsActive() const {
+  return reinterpret_cast<HWND>(::SendMessageW(::GetParent(m_hWnd), WM_MDIGETACTIVE, 0, 0)) ==
+         m_hWnd;
+}
+
 void DrawingChild::Activate() {
   const HWND client = ::GetParent(m_hWnd);
   ::SendMessageW(client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(m_hWnd), 0);
@@ -38,9 +52,15 @@ void DrawingChild::DestroyMdiWindow() {
 
 LRESULT DrawingChild::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_CLOSE:
-      TheHostUi().OnUserClose(*this);
+    case WM_CLOSE:  // closed later: a window must not be destroyed in its own message
+      RunHostCommand(m_document, L"CLOSE");
       return 0;
+    case WM_SYSCOMMAND:  // Ctrl+Tab, Ctrl+F6
+      if (IsToAnotherChild(wParam) && !TheHostUi().MayChangeDrawing()) return 0;
+      break;
+    case WM_MOUSEACTIVATE:
+      if (!IsActive() && !TheHostUi().MayChangeDrawing()) return MA_NOACTIVATEANDEAT;
+      break;
     case WM_ERASEBKGND:
       return 1;
     case WM_MDIACTIVATE: {

@@ -16,6 +16,7 @@ class DrawingChild : public CMDIChildWnd {
   bool CreateIn(CMDIFrameWnd* frame, const std::wstring& title);
   Document& GetDocument() { return m_document; }
   DrawingView& View() { return m_view; }
+  bool IsActive() const;
   void Activate();          // activates the window
   void DestroyMdiWindow();  // destroys the window; the core has closed the drawing already
 
