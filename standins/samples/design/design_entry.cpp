@@ -5,6 +5,8 @@
 #include "annotation_entities.h"
 #include "design_commands.h"
 #include "design_lisp.h"
+#include "document_commands.h"
+#include "symbol_entity.h"
 
 namespace {
 
@@ -23,6 +25,7 @@ void Register() {
   if (!stack) return;
   RegisterAll(*stack, kDesignCommands, kDesignCommandCount);
   RegisterAll(*stack, kAnnotationCommands, kAnnotationCommandCount);
+  RegisterAll(*stack, kDocumentCommands, kDocumentCommandCount);
 }
 
 void InvokeFunction() {
@@ -39,10 +42,12 @@ extern "C" __declspec(dllexport) AcRx::AppRetCode
       acrxUnlockApplication(packet);
       acrxRegisterAppMDIAware(packet);
       BeginAnnotationEntities();
+      BeginSymbolEntity();
       Register();
       break;
     case AcRx::kUnloadAppMsg:
       if (AcEdCommandStack* stack = Commands()) stack->removeGroup(kGroup);
+      EndSymbolEntity();
       EndAnnotationEntities();
       break;
     case AcRx::kLoadDwgMsg:

@@ -36,6 +36,8 @@ class Documents : public AcApDocManager {
   AcApDocument* document(const AcDbDatabase*) const override { return curDocument(); }
   int documentCount() const override { return ThePaletteHost().documents; }
   bool isApplicationContext() const override { return false; }
+  Acad::ErrorStatus disableDocumentActivation() override { return Acad::eNotApplicable; }
+  Acad::ErrorStatus enableDocumentActivation() override { return Acad::eNotApplicable; }
   bool isDocumentActivationEnabled() const override { return true; }
   AcApDocumentIterator* newAcApDocumentIterator() override { return nullptr; }
   Acad::ErrorStatus appContextOpenDocument(const ACHAR*) override { return Acad::eOk; }
