@@ -24,11 +24,11 @@ std::string JsonTabs(const TabStrip& strip, int left) {
 
 }  // namespace
 
-std::string TabsToJson(const TabStrip& strip, bool visible, int screenLeft) {
+std::string TabsToJson(const TabStrip& strip, bool visible, const RECT& screenClient) {
   const int first = strip.Count() ? strip.m_nFirstTab : -1;
   return "{\"mode\":" + std::to_string(strip.m_nShowMode) +
-         ",\"visible\":" + qvx::JsonWord(visible) + ",\"first\":" + std::to_string(first) +
-         ",\"arrows\":" + qvx::JsonWord(strip.m_bScroll) +
+         ",\"visible\":" + qvx::JsonWord(visible) + ",\"rect\":" + qvx::JsonRect(screenClient) +
+         ",\"first\":" + std::to_string(first) + ",\"arrows\":" + qvx::JsonWord(strip.m_bScroll) +
          ",\"active\":" + std::to_string(strip.ActiveTab()) + ",\"order\":" + JsonOrder(strip) +
-         ",\"tabs\":" + JsonTabs(strip, screenLeft - strip.Origin()) + "}";
+         ",\"tabs\":" + JsonTabs(strip, screenClient.left - strip.Origin()) + "}";
 }

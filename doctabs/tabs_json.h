@@ -5,5 +5,5 @@
 
 #include "doctabs/tab_strip.h"
 
-// `screenLeft`: of the strip's client area, so that edges are screen pixels.
-std::string TabsToJson(const TabStrip& strip, bool visible, int screenLeft);
+// `screenClient`: the strip's client area in screen pixels, as are the edges of the tabs.
+std::string TabsToJson(const TabStrip& strip, bool visible, const RECT& screenClient);

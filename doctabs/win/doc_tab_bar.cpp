@@ -41,6 +41,13 @@ CADDocTabBar::~CADDocTabBar() {
   });
 }
 
+CRect CADDocTabBar::ScreenClient() const {
+  CRect client;
+  GetClientRect(client);
+  ClientToScreen(client);
+  return client;
+}
+
 DrawingStrip CADDocTabBar::Drawings() {
   return {m_strip, m_frames, m_hostFrames, m_drawings, m_reactor.m_pCurDoc};
 }
@@ -81,10 +88,7 @@ void CADDocTabBar::OnTimer(UINT_PTR timer) {
 }
 
 void CADDocTabBar::OnContextMenu(CWnd*, CPoint point) {
-  CRect box;
-  GetClientRect(box);
-  ClientToScreen(box);
-  const TabMenuPlan plan = PlanTabMenu(m_strip, {MayActivateDrawings(), point, box});
+  const TabMenuPlan plan = PlanTabMenu(m_strip, {MayActivateDrawings(), point, ScreenClient()});
   m_menuFrame = nullptr;
   if (plan.answer == TabMenuAnswer::kStripMenu) return ShowMenu(StripMenuRows(), plan.screenPoint);
   if (plan.answer != TabMenuAnswer::kTabMenuLater) return;
@@ -141,7 +145,5 @@ void HideDocTabBar(int hide) { HideTabBar(g_DocTabBar.m_strip, hide, g_bDwgTabBa
 
 std::string DescribeDocTabs() {
   if (!g_DocTabBar.m_hWnd) return "null";
-  CPoint left(0, 0);
-  g_DocTabBar.ClientToScreen(&left);
-  return TabsToJson(g_DocTabBar.m_strip, g_DocTabBar.IsWindowVisible(), left.x);
+  return TabsToJson(g_DocTabBar.m_strip, g_DocTabBar.IsWindowVisible(), g_DocTabBar.ScreenClient());
 }

@@ -40,6 +40,7 @@ class CADDocTabBar : public CMDITabBar {
   void Init();
   void StartCaptionTimer();
   DrawingStrip Drawings();
+  CRect ScreenClient() const;
 
  protected:
   afx_msg void OnTimer(UINT_PTR timer);

@@ -8,8 +8,8 @@ TEST(TabsJson, WithoutTabsFirstAndActiveAreMinusOne) {
   DiaryWindow window;
   TabStrip strip{window};
   EXPECT_EQ(
-      TabsToJson(strip, false, 100),
-      R"({"mode":0,"visible":false,"first":-1,"arrows":false,"active":-1,"order":[],"tabs":[]})");
+      TabsToJson(strip, false, {100, 7, 250, 27}),
+      R"({"mode":0,"visible":false,"rect":[100,7,250,27],"first":-1,"arrows":false,"active":-1,"order":[],"tabs":[]})");
 }
 
 TEST(TabsJson, EdgesAreScreenPixelsAndFollowTheScrollPosition) {
@@ -21,8 +21,8 @@ TEST(TabsJson, EdgesAreScreenPixelsAndFollowTheScrollPosition) {
   strip.AddTab(L"cde");
   strip.RecalcTabs(0, 0);
   EXPECT_EQ(
-      TabsToJson(strip, true, 100),
-      "{\"mode\":0,\"visible\":true,\"first\":0,\"arrows\":false,\"active\":2,\"order\":[2,1,0],"
+      TabsToJson(strip, true, {100, 7, 250, 27}),
+      "{\"mode\":0,\"visible\":true,\"rect\":[100,7,250,27],\"first\":0,\"arrows\":false,\"active\":2,\"order\":[2,1,0],"
       "\"tabs\":[{\"text\":\"平面\",\"left\":100,\"right\":140},"
       "{\"text\":\"a\\\"b\",\"left\":140,\"right\":190},"
       "{\"text\":\"cde\",\"left\":190,\"right\":240}]}");
@@ -30,8 +30,8 @@ TEST(TabsJson, EdgesAreScreenPixelsAndFollowTheScrollPosition) {
   strip.OnLayoutTimer();
   strip.m_nShowMode = -1;
   EXPECT_EQ(strip.m_nFirstTab, 2);
-  const std::string json = TabsToJson(strip, true, 100);
-  EXPECT_NE(json.find("\"mode\":-1,\"visible\":true,\"first\":2,\"arrows\":true"), json.npos)
+  const std::string json = TabsToJson(strip, true, {100, 7, 250, 27});
+  EXPECT_NE(json.find("\"mode\":-1,\"visible\":true,\"rect\":[100,7,250,27],\"first\":2,\"arrows\":true"), json.npos)
       << json;
   EXPECT_NE(json.find("{\"text\":\"平面\",\"left\":10,\"right\":50}"), json.npos) << json;
 }

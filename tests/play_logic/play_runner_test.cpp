@@ -38,6 +38,7 @@ class DiaryWorld : public PlayWorld {
   }
   std::vector<std::string> HighlightedHandles() override { return highlighted; }
   std::string TypedText() override { return typed; }
+  std::string TipText() override { return tip; }
   std::string PointerAway(const Target& target) override {
     return target.x == pointerX ? "" : "it is elsewhere";
   }
@@ -64,7 +65,7 @@ class DiaryWorld : public PlayWorld {
   std::map<std::string, std::function<void()>> on;
   std::map<std::string, std::string> problems, variables, settings;
   std::vector<std::string> highlighted;
-  std::string typed;
+  std::string typed, tip;
   double pointerX = 0;
   std::multimap<Milliseconds, std::function<void()>> later;
   Milliseconds idleFrom{0}, menuFrom{1h}, popupFrom{1h};
@@ -146,6 +147,20 @@ TEST_F(PlayTest, PointerAndTypedTextAreWaitedFor) {
   world.printed.clear();
   EXPECT_EQ(Play("expect typed \"\"\n"), 1);
   EXPECT_NE(world.printed.find("expected to be typed: \"\"; it is \"_.LI\""), std::string::npos);
+}
+
+TEST_F(PlayTest, TheTipIsWaitedForAndComparedWhole) {
+  EXPECT_EQ(Play("expect tip \"\"\n"), 0);
+  world.later.emplace(world.Now() + 500ms, [this] { world.tip = "C:\\A\\plan.dxf"; });
+  EXPECT_EQ(Play("expect tip \"C:\\\\A\\\\plan.dxf\"\n"), 0);
+  EXPECT_EQ(Play("expect tip \"plan.dxf\"\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:1: expect tip \"plan.dxf\"\n"
+            "  expected the tip: \"plan.dxf\"; it is \"C:\\\\A\\\\plan.dxf\"");
+  world.printed.clear();
+  world.tip.clear();
+  EXPECT_EQ(Play("expect tip \"plan.dxf\"\n"), 1);
+  EXPECT_NE(world.printed.find("no tip is shown"), std::string::npos) << world.printed;
 }
 
 TEST_F(PlayTest, APartEndsAtARestart) {

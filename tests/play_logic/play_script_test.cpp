@@ -109,6 +109,9 @@ TEST(PlayScript, EachStartPlaysThePartAfterEarlierRestarts) {
 TEST(PlayScript, TargetsHaveLabelsHandlesAndPoints) {
   EXPECT_EQ(OneStep("click row \"墙体/绘制墙体\"").target.text, "墙体/绘制墙体");
   EXPECT_EQ(OneStep("click tab \"plan\"").target.kind, TargetKind::Tab);
+  EXPECT_EQ(OneStep("rightclick tab \"plan*\"").target.text, "plan*");
+  EXPECT_EQ(OneStep("click strip left").target.kind, TargetKind::Strip);
+  EXPECT_EQ(OneStep("rightclick strip empty").target.text, "empty");
   EXPECT_EQ(OneStep("click pane \"TMakeGroupPane\"").target.kind, TargetKind::Pane);
   EXPECT_EQ(OneStep("click popup \"删除\"").target.kind, TargetKind::Popup);
   EXPECT_EQ(OneStep("click button \"确定\"").target.kind, TargetKind::Button);
@@ -163,8 +166,9 @@ TEST(PlayScript, ButtonsHelpCallsAndHighlightedObjectsHaveTheirParts) {
   EXPECT_EQ(help.value.text, "墙体");
   EXPECT_TRUE(OneStep("expect highlighted none").handles.empty());
   EXPECT_EQ(OneStep("expect highlighted 21 a0").handles, (std::vector<std::string>{"21", "A0"}));
-  for (const char* text : {"expect help \"a\" index", "expect highlighted 21",
-                           "expect pointer view 1 2", "expect typed \"\"", "expect setting a 1"})
+  for (const char* text :
+       {"expect help \"a\" index", "expect highlighted 21", "expect pointer view 1 2",
+        "expect typed \"\"", "expect setting a 1", "expect tip \"a\""})
     EXPECT_TRUE(IsExpectation(OneStep(text).kind)) << text;
   EXPECT_FALSE(IsExpectation(OneStep("buttonup right view 1 2").kind));
 }
@@ -209,6 +213,10 @@ TEST(PlayScript, ErrorsHaveAPlaceAndNameWhatWasExpected) {
       {"expect help \"a\" page",
        "t.script:1:17: error: only topic, index and keyword can be expected"},
       {"expect highlighted", "t.script:1:19: error: the handle is missing"},
+      {"click strip", "t.script:1:12: error: left, right or empty is missing"},
+      {"click strip \"left\"", "t.script:1:13: error: left, right or empty is missing"},
+      {"click strip end", "t.script:1:13: error: the part of the strip is left, right or empty"},
+      {"expect tip", "t.script:1:11: error: the text in quotes is missing"},
       {"expect pointer", "t.script:1:15: error: the target is missing"},
       {"wait long",
        "t.script:1:6: error: the time, or idle, menu, popup, must be a whole number from 0 to "

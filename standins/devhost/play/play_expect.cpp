@@ -100,6 +100,8 @@ std::string PlayExpectations::Check(const Step& step) {
       return Pointer(step);
     case StepKind::ExpectTyped:
       return Typed(step.text);
+    case StepKind::ExpectTip:
+      return Tip(step.text);
     case StepKind::ExpectState:
       return State(step);
     default:
@@ -222,6 +224,17 @@ std::string PlayExpectations::Typed(const std::string& text) {
   });
   if (met) return {};
   return "expected to be typed: " + QuotedForScript(text) + "; it is " + Shown(typed);
+}
+
+std::string PlayExpectations::Tip(const std::string& text) {
+  std::string tip;
+  const bool met = WaitFor(m_world, [&] {
+    tip = m_world.TipText();
+    return tip == text;
+  });
+  if (met) return {};
+  return "expected the tip: " + QuotedForScript(text) + "; " +
+         (tip.empty() ? "no tip is shown" : "it is " + Shown(tip));
 }
 
 std::string PlayExpectations::State(const Step& step) {

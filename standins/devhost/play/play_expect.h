@@ -1,5 +1,5 @@
 // Checks the expectations of a script against journal, variables, settings, highlighted objects,
-// pointer, typed text and shell state. An expectation
+// pointer, typed text, tool tip and shell state. An expectation
 // waits for events that are still to come; a failure names the actual value.
 //
 // Consecutive expectations examine the journal from the first acting step after the previous group.
@@ -35,6 +35,7 @@ class PlayExpectations {
   std::string Highlighted(const Step& step);
   std::string Pointer(const Step& step);
   std::string Typed(const std::string& text);
+  std::string Tip(const std::string& text);
   std::string State(const Step& step);
   bool WaitUntilIdle();
 

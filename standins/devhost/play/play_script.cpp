@@ -86,6 +86,7 @@ class StepReader {
 
   bool Points(Target* target);
   bool Handle(std::string* handle);
+  bool Part(std::string* part);
   bool ReadTarget(Target* target);
   bool Held();
 
@@ -190,13 +191,20 @@ bool StepReader::Handle(std::string* handle) {
   return FailBack("a handle has up to 16 hexadecimal digits");
 }
 
-// target: row "path" | tab "name" | pane "name" | popup "label" | button "label"
+// part: left | right | empty
+bool StepReader::Part(std::string* part) {
+  if (!Bare(part, "left, right or empty")) return false;
+  return *part == "left" || *part == "right" || *part == "empty" ||
+         FailBack("the part of the strip is left, right or empty");
+}
+
+// target: row "path" | tab "name" | strip part | pane "name" | popup "label" | button "label"
 //       | entity HANDLE | world X Y | view X Y
 bool StepReader::ReadTarget(Target* target) {
   static const std::map<std::string_view, TargetKind> kinds = {
       {"row", TargetKind::Row},     {"tab", TargetKind::Tab},       {"pane", TargetKind::Pane},
       {"popup", TargetKind::Popup}, {"button", TargetKind::Button}, {"entity", TargetKind::Entity},
-      {"world", TargetKind::World}, {"view", TargetKind::View},
+      {"world", TargetKind::World}, {"view", TargetKind::View},     {"strip", TargetKind::Strip},
   };
   std::string word;
   if (!Bare(&word, "the target")) return false;
@@ -206,6 +214,8 @@ bool StepReader::ReadTarget(Target* target) {
   switch (target->kind) {
     case TargetKind::Entity:
       return Handle(&target->text);
+    case TargetKind::Strip:
+      return Part(&target->text);
     case TargetKind::World:
     case TargetKind::View:
       return Points(target);
@@ -317,14 +327,16 @@ bool StepReader::ExpectHelp() {
   return AtEnd() || Quoted(&m_step->value.text, "the keyword");
 }
 
-// expect: sent "text" | nothing sent | printed "text" | typed "text" | help | var NAME value
-//       | setting NAME value | highlighted handles | pointer target | state PATH value
+// expect: sent "text" | nothing sent | printed "text" | typed "text" | tip "text" | help
+//       | var NAME value | setting NAME value | highlighted handles | pointer target | state PATH
+//       value
 bool StepReader::Expect() {
   std::string what;
   if (!Bare(&what, "what is expected")) return false;
   if (what == "sent") return Text(StepKind::ExpectSent, "the text");
   if (what == "printed") return Text(StepKind::ExpectPrinted, "the text");
   if (what == "typed") return Text(StepKind::ExpectTyped, "the text");
+  if (what == "tip") return Text(StepKind::ExpectTip, "the text");
   if (what == "help") return ExpectHelp();
   if (what == "var") return Assign(StepKind::ExpectVar);
   if (what == "setting") return Assign(StepKind::ExpectSetting);

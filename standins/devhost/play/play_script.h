@@ -47,6 +47,7 @@ enum class StepKind {
   ExpectHighlighted,
   ExpectPointer,
   ExpectTyped,
+  ExpectTip,
   ExpectState,
   DumpShell,
   DumpWindows,
@@ -58,11 +59,11 @@ enum class StepKind {
 
 enum class MouseButton { Left, Right, Middle };
 
-enum class TargetKind { None, Row, Tab, Pane, Popup, Button, Entity, World, View };
+enum class TargetKind { None, Row, Tab, Strip, Pane, Popup, Button, Entity, World, View };
 
 struct Target {
   TargetKind kind = TargetKind::None;
-  std::string text;  // label, name or handle
+  std::string text;  // label, name, part or handle
   double x = 0, y = 0;
 };
 

@@ -27,6 +27,7 @@ class PlayWorld {
   virtual bool Setting(const std::string& name, std::string* value) = 0;
   virtual std::vector<std::string> HighlightedHandles() = 0;  // of the active drawing
   virtual std::string TypedText() = 0;                        // in the command line's input row
+  virtual std::string TipText() = 0;  // of the tool tip shown; empty without
   // Empty if the pointer is on the target, to one pixel; otherwise where it is, or why not.
   virtual std::string PointerAway(const Target& target) = 0;
 

@@ -3,36 +3,17 @@
 #include "devhost/play/state_path.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
+
+#include "devhost/play/state_rect.h"
 
 namespace devhost {
 namespace {
 
 constexpr int kMaxRowDepth = 32;  // far above any menu; deeper states are damaged
 
-std::optional<RECT> RectOf(const Json& object) {
-  if (!object.is_object() || !object.contains("rect")) return {};
-  const Json& rect = object["rect"];
-  if (!rect.is_array() || rect.size() != 4) return {};
-  std::array<LONG, 4> edge;
-  for (std::size_t i = 0; i < 4; ++i) {
-    if (!rect[i].is_number_integer()) return {};
-    const auto value = rect[i].get<std::int64_t>();
-    edge[i] = static_cast<LONG>(std::clamp<std::int64_t>(value, -100000, 100000));
-  }
-  return RECT{edge[0], edge[1], edge[2], edge[3]};
-}
-
 RECT Common(const RECT& a, const RECT& b) {
   return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
           std::min(a.bottom, b.bottom)};
-}
-
-bool IsEmpty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
-
-bool IsFalse(const Json& row, const char* member) {
-  return row.contains(member) && row[member].is_boolean() && !row[member].get<bool>();
 }
 
 // Finds a row by its path. All labels are tried, because a label with "/" may begin
@@ -89,11 +70,11 @@ RowPlace PlaceIn(const Json& rows, const std::string& path, const std::optional<
   const Json* row = search.Find(rows, path);
   if (!row) return NoRow(rows, path, search);
   const std::string name = "row " + QuotedForScript(path);
-  if (IsFalse(*row, "visible")) return {{}, name + " is not visible"};
-  const std::optional<RECT> rect = RectOf(*row);
-  if (!rect || IsEmpty(*rect)) return {{}, name + " has no place on the screen"};
+  if (IsStateFalse(*row, "visible")) return {{}, name + " is not visible"};
+  const std::optional<RECT> rect = StateRect(*row);
+  if (!rect || IsEmptyRect(*rect)) return {{}, name + " has no place on the screen"};
   const RECT seen = window ? Common(*rect, *window) : *rect;
-  if (IsEmpty(seen)) return {{}, name + " is scrolled out of the window"};
+  if (IsEmptyRect(seen)) return {{}, name + " is scrolled out of the window"};
   return {{(seen.left + seen.right) / 2, (seen.top + seen.bottom) / 2}, ""};
 }
 
@@ -103,13 +84,13 @@ RowPlace PlaceOfScreenMenuRow(const Json& state, const std::string& path) {
   if (!state.is_object() || !state.contains("screenmenu") || !state["screenmenu"].is_object())
     return {{}, "there is no screen menu"};
   const Json& menu = state["screenmenu"];
-  if (IsFalse(menu, "exists")) return {{}, "there is no screen menu"};
-  if (IsFalse(menu, "visible")) return {{}, "the screen menu is hidden"};
-  return PlaceIn(menu.contains("rows") ? menu["rows"] : Json::array(), path, RectOf(menu));
+  if (IsStateFalse(menu, "exists")) return {{}, "there is no screen menu"};
+  if (IsStateFalse(menu, "visible")) return {{}, "the screen menu is hidden"};
+  return PlaceIn(menu.contains("rows") ? menu["rows"] : Json::array(), path, StateRect(menu));
 }
 
 RowPlace PlaceOfPopupRow(const Json& popup, const std::string& path) {
-  if (!popup.is_object() || !popup.contains("rows") || IsFalse(popup, "open"))
+  if (!popup.is_object() || !popup.contains("rows") || IsStateFalse(popup, "open"))
     return {{}, "no pop-up is open"};
   return PlaceIn(popup["rows"], path, {});
 }

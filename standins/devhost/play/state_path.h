@@ -1,5 +1,5 @@
 // Queries of the shell state, the JSON description of the module's windows: values by path, places
-// of rows by labels.
+// of rows and tabs by their texts.
 #pragma once
 
 #include <string>
@@ -30,13 +30,17 @@ bool FindInState(const Json& state, const std::string& path, Json* value, std::s
 bool ValueMatches(const Json& actual, const ScriptValue& expected);
 
 struct RowPlace {
-  POINT point = {};     // the middle of the visible part of the row
-  std::string problem;  // empty: the row was found
+  POINT point = {};     // the middle of the visible part
+  std::string problem;  // empty: the row, tab or part was found
 };
 
 // `path` are labels from the outermost group on, joined by "/"; a label may contain "/".
 RowPlace PlaceOfScreenMenuRow(const Json& state, const std::string& path);
 // `popup` is the result of UiPort::DescribeMenus.
 RowPlace PlaceOfPopupRow(const Json& popup, const std::string& path);
+// A tab of the strip by its text.
+RowPlace PlaceOfTab(const Json& state, const std::string& text);
+// A part of the strip: `left` or `right` is an arrow, `empty` the area after the last tab.
+RowPlace PlaceOfStripPart(const Json& state, const std::string& part);
 
 }  // namespace devhost

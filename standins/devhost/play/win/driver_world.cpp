@@ -9,6 +9,7 @@
 #include "devhost/play/state_path.h"
 #include "devhost/play/win/screen_capture.h"
 #include "devhost/play/win/timer_barrier.h"
+#include "devhost/play/win/tip_text.h"
 
 namespace devhost {
 namespace {
@@ -96,7 +97,10 @@ std::string DriverWorld::PointOnMainThread(const Target& target, POINT* point) {
       return placed(
           PlaceOfPopupRow(Json::parse(m_port.DescribeMenus(), nullptr, false), target.text));
     case TargetKind::Tab:
-      return "pressing tabs is not built: the shell state gives them no place";
+      return placed(PlaceOfTab(Json::parse(m_port.DescribeShell(), nullptr, false), target.text));
+    case TargetKind::Strip:
+      return placed(
+          PlaceOfStripPart(Json::parse(m_port.DescribeShell(), nullptr, false), target.text));
     case TargetKind::Pane:
       return m_port.PaneToScreen(target.text, point);
     case TargetKind::Button:
@@ -276,6 +280,10 @@ std::vector<std::string> DriverWorld::HighlightedHandles() {
 
 std::string DriverWorld::TypedText() {
   return Ask<std::string>([this] { return Utf8(m_port.TypedText()); });
+}
+
+std::string DriverWorld::TipText() {
+  return Ask<std::string>([] { return Utf8(ShownTipText()); });
 }
 
 std::string DriverWorld::PointerAway(const Target& target) {

@@ -24,6 +24,7 @@ class DriverWorld : public PlayWorld {
   bool Setting(const std::string& name, std::string* value) override;
   std::vector<std::string> HighlightedHandles() override;
   std::string TypedText() override;
+  std::string TipText() override;
   std::string PointerAway(const Target& target) override;
   Milliseconds Now() override;
   void Pause(Milliseconds time) override;
