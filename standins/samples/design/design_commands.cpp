@@ -12,6 +12,7 @@
 #include "adslib.h"
 #include "dbapserv.h"
 #include "dbsymtb.h"
+#include "export_drawing.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/entities/tdbdimension2.h"
 
@@ -226,5 +227,6 @@ const DesignCommand kDesignCommands[] = {
     {L"TDimAngle", AngularDimension},
     {L"TArea", MeasureRoom},
     {L"TOrtho", ToggleOrtho},
+    {L"TSaveAs", ExportDrawing},
 };
 const int kDesignCommandCount = sizeof kDesignCommands / sizeof *kDesignCommands;

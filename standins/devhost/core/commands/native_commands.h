@@ -28,6 +28,7 @@ std::span<const NativeCommand> ViewportCommands();
 std::span<const NativeCommand> UserSystemCommands();
 std::span<const NativeCommand> FileCommands();
 std::span<const NativeCommand> InsertCommands();
+std::span<const NativeCommand> ExportCommands();
 
 bool IsPlainText(const AcDbEntity& entity);  // TEXT and MTEXT: what TEXTEDIT edits
 
