@@ -23,11 +23,11 @@ class ExportTest : public HostTest {
 TEST_F(ExportTest, TheFileHoldsTheWholeDrawingAndTheDrawingKeepsItsNameAndItsChanges) {
   ASSERT_EQ(Entities().size(), 1u);
   acdbSetDbmod(host.documents.Current()->database(), 5);
-  Send(L"WBLOCK\n" + Path(L"平 面.dxf") + L"\n*\n");
+  Send(L"WBLOCK\n" + Path(L"two words.dxf") + L"\n*\n");
   EXPECT_STREQ(host.documents.curDocument()->fileName(), L"Drawing1.dwg");
   EXPECT_EQ(Var(L"DBMOD"), L"5");
   EXPECT_EQ(host.documents.documentCount(), 1);
-  ASSERT_TRUE(host.documents.Open(Path(L"平 面.dxf")));
+  ASSERT_TRUE(host.documents.Open(Path(L"two words.dxf")));
   EXPECT_EQ(Entities().size(), 1u);
 }
 

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "kernel/globals.h"
+#include "outside_reader.h"
 #include "tree_fixture.h"
 
 #include <objbase.h>
@@ -20,51 +21,9 @@ class Accessibility : public TreeWindows {
     ::CoUninitialize();
   }
 
-  // Runs the reader and processes its messages meanwhile. A line has name, role, state and
-  // action, or name and rectangle.
-  std::vector<std::string> ReadFromOutside(const wchar_t* what = L"") {
-    HANDLE readEnd = nullptr, writeEnd = nullptr;
-    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
-    ::CreatePipe(&readEnd, &writeEnd, &inherit, 1 << 16);
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = writeEnd;
-    start.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
-    PROCESS_INFORMATION reader{};
-    wchar_t line[MAX_PATH + 40];
-    ::GetModuleFileNameW(nullptr, line, MAX_PATH);
-    *(std::wcsrchr(line, L'\\') + 1) = 0;
-    ::swprintf(line, std::size(line), L"%lsread_accessible.exe %llx %ls",
-               std::wstring(line).c_str(),
-               static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(palette.m_hWnd)), what);
-    const BOOL made = ::CreateProcessW(nullptr, line, nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                                       &start, &reader);
-    ::CloseHandle(writeEnd);
-    EXPECT_TRUE(made);
-    if (made) PumpUntil(reader.hProcess);
-    std::string text(1 << 16, '\0');
-    DWORD got = 0;
-    ::ReadFile(readEnd, text.data(), static_cast<DWORD>(text.size()), &got, nullptr);
-    text.resize(got);
-    for (HANDLE handle : {readEnd, reader.hProcess, reader.hThread}) ::CloseHandle(handle);
-    std::vector<std::string> lines;
-    std::istringstream parts(text);
-    for (std::string one; std::getline(parts, one);) {
-      if (!one.empty() && one.back() == '\r') one.pop_back();
-      lines.push_back(one);
-    }
-    return lines;
-  }
-
- private:
-  static void PumpUntil(HANDLE process) {
-    const ULONGLONG end = ::GetTickCount64() + 20000;
-    while (::MsgWaitForMultipleObjects(1, &process, FALSE, 500, QS_ALLINPUT) != WAIT_OBJECT_0) {
-      ASSERT_LT(::GetTickCount64(), end) << "the reader hangs";
-      MSG message;
-      while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
-    }
+  // A line has name, role, state and action, or name and rectangle.
+  std::vector<std::string> Read(const wchar_t* what = L"") {
+    return ReadFromOutside(palette.m_hWnd, what);
   }
 };
 
@@ -77,17 +36,16 @@ TEST_F(Accessibility, NamesRolesAndFoldedStatesAreReadFromAnotherProcess) {
   checked->m_strCheckFn = L"is-ortho";
   owner.lisp.True(L"is-ortho");
   Build();
-  EXPECT_EQ(
-      ReadFromOutside(),
-      (std::vector<std::string>{"墙体\t2b\t100400\t展开", "画墙(W)\t2b\t108000\t按下", "\t15\t1\t",
-                                "没有命令\t2b\t1\t按下", "正交\t2b\t100010\t按下"}));
+  EXPECT_EQ(Read(), (std::vector<std::string>{"墙体\t2b\t100400\t展开", "画墙(W)\t2b\t108000\t按下",
+                                              "\t15\t1\t", "没有命令\t2b\t1\t按下",
+                                              "正交\t2b\t100010\t按下"}));
 }
 
 TEST_F(Accessibility, AnUnfoldedHeaderIsExpandedAndItsLinesAreVisible) {
   AddLine(*AddHeader(bar, L"墙体"), L"画墙", L"TWall\n");
   Build();
   root->ToggleSubMenu(0);
-  const std::vector<std::string> lines = ReadFromOutside();
+  const std::vector<std::string> lines = Read();
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[0].substr(0, lines[0].rfind('\t')), "墙体\t2b\t100200");
   EXPECT_EQ(lines[1], "画墙\t2b\t100000\t按下");
@@ -102,7 +60,7 @@ TEST_F(Accessibility, RowsFarFromTheViewReportTheirPlacesAfterScrolling) {
   ASSERT_EQ(root->ScrollBar().GetScrollPos(), 4000);
   CRect group;
   root->GetWindowRect(&group);
-  const std::vector<std::string> lines = ReadFromOutside(L"places");
+  const std::vector<std::string> lines = Read(L"places");
   ASSERT_EQ(lines.size(), 300u);
   for (int i : {0, 1, 170, 298, 299}) {
     std::istringstream parts(lines[static_cast<std::size_t>(i)]);
