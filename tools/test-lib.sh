@@ -116,7 +116,9 @@ run_play() {
   # shellcheck disable=SC2086
   (cd "$work" && WINEDLLOVERRIDES="$WINEDLLOVERRIDES;ieframe=" LC_ALL=zh_CN.UTF-8 timeout 90 wine ../../windows/bin/devhost.exe --product product \
      --play play.script --journal journal.jsonl --longest-wait 0.5 $args) >"$work/output.txt" 2>&1 || rc=$?
-  if [ "$rc" -eq "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
+  # A host that crashed ends with 0 after the debugger's report.
+  if grep -qa '^wine: Unhandled' "$work/output.txt"; then rc=crash; fi
+  if [ "$rc" = "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
     pass; printf 'play     %-28s ok\n' "$name"
   else
     fail "play $name ended with $rc"; tail -n 15 "$work/output.txt"
