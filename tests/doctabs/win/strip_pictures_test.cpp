@@ -85,9 +85,9 @@ TEST_F(StripPictures, DISABLED_MatchTheGoldenImageOfThisScreen) {
   Click(1);
   devhost::Picture sheet;
   AddShot(sheet);
-  for (const wchar_t* name : {L"section A-A.dwg", L"立面.dwg", L"details of the stairs.dwg",
-                              L"x.dwg", L"roof.dwg", L"总平面图.dwg", L"basement.dwg", L"外墙大样.dwg",
-                              L"elevation north.dwg"})
+  for (const wchar_t* name :
+       {L"section A-A.dwg", L"立面.dwg", L"details of the stairs.dwg", L"x.dwg", L"roof.dwg",
+        L"总平面图.dwg", L"basement.dwg", L"外墙大样.dwg", L"elevation north.dwg"})
     NewNamed(name);
   AddShot(sheet);
   Scroll(2);

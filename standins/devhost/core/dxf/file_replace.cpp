@@ -193,10 +193,14 @@ void RemoveLeftFiles(const fs::path& target, const fs::path& folder) {
   for (const fs::path& path : left) RemoveIfUnused(path);
 }
 
+// Of one name in a folder, on all usual file systems. Windows reports a longer one in several ways.
+constexpr std::size_t kLongestName = 255;
+
 // What is wrong with the place before anything is written.
 FileProblem ProblemOfPlace(const fs::path& target, const fs::path& folder) {
   std::error_code error;
   if (target.filename().empty() || fs::is_directory(target, error)) return FileProblem::IsFolder;
+  if (target.filename().native().size() > kLongestName) return FileProblem::BadName;
   if (!fs::is_directory(folder, error)) return FileProblem::NoFolder;
   const fs::file_status old = fs::status(target, error);
   if (!fs::exists(old)) return FileProblem::None;
