@@ -98,7 +98,7 @@ TEST_F(Closing, AFailedSaveIsCancel) {
   Send(L"CLOSE\n");
   EXPECT_EQ(Count(), 1);
   EXPECT_EQ(Var(L"DBMOD"), L"1");
-  EXPECT_NE(ui.printed.find(L"无法写入文件"), std::wstring::npos);
+  EXPECT_NE(ui.printed.find(L"文件夹不存在，图形未保存"), std::wstring::npos);
 }
 
 TEST_F(Closing, CloseAllStopsAtCancelAndKeepsTheRest) {

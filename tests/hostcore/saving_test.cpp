@@ -120,7 +120,7 @@ TEST_F(Saving, AFailedSaveTellsNobodyAndKeepsNameAndValue) {
   const std::wstring before = drawing.fileName();
   Send(L"SAVEAS " + PathOf(L"missing/a.dxf") + L"\n");
   EXPECT_NE(ui.printed.find(L"a.dxf"), std::wstring::npos);
-  EXPECT_NE(ui.printed.find(L"无法写入文件"), std::wstring::npos);
+  EXPECT_NE(ui.printed.find(L"文件夹不存在，图形未保存"), std::wstring::npos);
   EXPECT_EQ(drawing.fileName(), before);
   EXPECT_EQ(DbmodOf(drawing), 1);
   EXPECT_TRUE(g_saved.empty());
