@@ -10,8 +10,8 @@ using namespace devhost;
 namespace {
 
 std::string Dimension(int type, const std::string& block, const std::string& own) {
-  return "0\nDIMENSION\n5\n50\n8\n0\n2\n" + block +
-         "\n10\n1.0\n20\n2.0\n11\n3.0\n21\n4.0\n70\n" + std::to_string(type) + "\n" + own;
+  return "0\nDIMENSION\n5\n50\n8\n0\n2\n" + block + "\n10\n1.0\n20\n2.0\n11\n3.0\n21\n4.0\n70\n" +
+         std::to_string(type) + "\n" + own;
 }
 
 std::string Drawing(const std::string& entities) {
