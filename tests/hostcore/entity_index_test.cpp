@@ -124,6 +124,7 @@ class EntityIndexTest : public hosttest::HostTest {
     host.documents.lockDocument(host.documents.Current(), AcAp::kWrite, L"TEST", nullptr, false);
     change();
     host.documents.unlockDocument(host.documents.Current());
+    EndLockSteps();
   }
   AcDbEntity* At(double x, double y) { return EntityAt(Database(), {x, y, 0}, 0.5); }
 };

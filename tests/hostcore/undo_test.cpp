@@ -198,6 +198,7 @@ TEST_F(Undo, ALockOutsideAllCommandsIsOneStep) {
     SetScaleOfSpace(100);
   }
   EXPECT_EQ(ScaleOfSpace(), 100);
+  RunAll();
   {
     AcAxDocLock lock;
     SetScaleOfSpace(200);

@@ -53,6 +53,7 @@ void CommandEngine::ShowPrompt() {
 
 bool CommandEngine::RunWaiting() {
   if (m_depth > 0) return false;
+  EndLockSteps();
   DocumentList& documents = TheHost().documents;
   m_cancelAll = false;
   if (documents.ClosePending()) return true;

@@ -1,4 +1,4 @@
-// Commands that change entities and settings: ERASE, MOVE, U, UNDO, LAYER, SETVAR.
+// Commands that change entities and settings: ERASE, MOVE, U, UNDO, REDO, LAYER, SETVAR.
 #include "aced.h"
 #include "adslib.h"
 #include "dbents.h"
@@ -94,6 +94,13 @@ void UndoSteps(Document& document, int count) {
 
 void UndoOne() { UndoSteps(*CurrentDocument(), 1); }
 
+void Redo() {
+  Document& document = *CurrentDocument();
+  const std::wstring command = RedoLatestStep(document);
+  TheHost().Print(command.empty() ? L"没有可重做的内容。\n" : command + L"\n");
+  SetPickFirst(document, {});
+}
+
 void Undo() {
   Document* document = CurrentDocument();
   int count = 1;
@@ -110,6 +117,7 @@ constexpr NativeCommand kEdit[] = {
     {L"ERASE", ACRX_CMD_USEPICKSET, Erase},
     {L"LAYER", ACRX_CMD_TRANSPARENT, Layer},
     {L"MOVE", ACRX_CMD_USEPICKSET, Move},
+    {L"REDO", 0, Redo},
     {L"SETVAR", ACRX_CMD_TRANSPARENT, SetVar},
     {L"U", 0, UndoOne},
     {L"UNDO", 0, Undo},

@@ -61,7 +61,8 @@ class Document : public AcApDocument {
   AcDbObjectId previewed;             // highlighted by the host's preview; may be null
   std::optional<HotGrip> hotGrip;     // taken by the next GRIP_STRETCH
   AcDbObjectId textToEdit;            // taken by the next TEXTEDIT; may be null
-  std::vector<UndoStep> undo;
+  std::vector<UndoStep> undo, redo;
+  bool locksJoin = false;  // the latest step is of a lock and takes the changes of the next one
   UndoStep* recording = nullptr;
   int undoGroup = -1;  // number of steps when the open group began; -1: no open group
   int locks = 0;

@@ -302,13 +302,14 @@ Acad::ErrorStatus DocumentList::closeDocument(AcApDocument* document) {
   return Acad::eOk;
 }
 
-// Everything written under one lock is one undo step.
+// Everything written under one lock is one undo step; see UndoRecording for several locks.
 Acad::ErrorStatus DocumentList::lockDocument(AcApDocument* document, AcAp::DocLockMode,
                                              const ACHAR* command, const ACHAR*, bool) {
   Document* known = FindDocument(document);
   if (!known) return Acad::eNoDocument;
   if (known->locks++ == 0)
-    known->lockStep = std::make_unique<UndoRecording>(*known, command ? command : L"GROUP");
+    known->lockStep = std::make_unique<UndoRecording>(*known, command ? command : L"GROUP",
+                                                      UndoRecording::Kind::Lock);
   return Acad::eOk;
 }
 

@@ -22,6 +22,11 @@ void RecordData(Document& document, AcDbObject* object) {
   Record(document, std::move(change));
 }
 
+std::optional<std::wstring> ValueOf(const Document& document, const std::wstring& name) {
+  const auto at = document.variables.find(name);
+  return at == document.variables.end() ? std::nullopt : std::optional(at->second);
+}
+
 void Revert(Document& document, const UndoChange& change) {
   switch (change.kind) {
     case UndoChange::Kind::Added:
@@ -47,18 +52,81 @@ void Revert(Document& document, const UndoChange& change) {
   }
 }
 
+// The change that takes back the reverting of a change; call it before that.
+UndoChange InverseOf(Document& document, const UndoChange& change) {
+  UndoChange inverse{change.kind, change.object, {}, {}, change.name, {}};
+  switch (change.kind) {
+    case UndoChange::Kind::Added:
+      inverse.kind = UndoChange::Kind::Erased;
+      break;
+    case UndoChange::Kind::Erased:
+      inverse.kind = UndoChange::Kind::Added;
+      break;
+    case UndoChange::Kind::Moved:
+      change.back.invert(&inverse.back);
+      break;
+    case UndoChange::Kind::Data:
+      inverse.state = std::make_unique<ObjectState>(*change.object);
+      break;
+    case UndoChange::Kind::Variable:
+      inverse.value = ValueOf(document, change.name);
+      break;
+    case UndoChange::Kind::System: {
+      const AcDbDatabase::Body& body = document.database()->body();
+      inverse.ofPaper = change.ofPaper;
+      inverse.system = change.ofPaper ? body.paperSystem : body.modelSystem;
+      break;
+    }
+  }
+  return inverse;
+}
+
+// Reverts a step without recording and returns the step that takes this back. Later changes of the
+// running command are recorded.
+UndoStep RevertStep(Document& document, const UndoStep& step) {
+  UndoStep* recording = std::exchange(document.recording, nullptr);
+  UndoStep inverse{step.command, {}};
+  for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change) {
+    inverse.changes.push_back(InverseOf(document, *change));
+    Revert(document, *change);
+  }
+  document.recording = recording;
+  document.locksJoin = false;
+  document.database()->body().modified |= kObjectsModified;
+  return inverse;
+}
+
+void Join(UndoStep& step, UndoStep& later) {
+  std::move(later.changes.begin(), later.changes.end(), std::back_inserter(step.changes));
+}
+
 }  // namespace
 
-UndoRecording::UndoRecording(Document& document, std::wstring name)
-    : m_document(&document), m_step{std::move(name), {}}, m_outermost(!document.recording) {
-  if (m_outermost) document.recording = &m_step;
+UndoRecording::UndoRecording(Document& document, std::wstring name, Kind kind)
+    : m_document(&document),
+      m_step{std::move(name), {}},
+      m_kind(kind),
+      m_outermost(!document.recording) {
+  if (!m_outermost) return;
+  document.recording = &m_step;
+  if (kind != Kind::Lock) document.locksJoin = false;
 }
 
 UndoRecording::~UndoRecording() {
   // The drawing was closed.
   if (!m_outermost || !TheHost().documents.FindDocument(m_document)) return;
   m_document->recording = nullptr;
-  if (!m_step.IsEmpty()) m_document->undo.push_back(std::move(m_step));
+  if (m_step.IsEmpty()) return;
+  m_document->redo.clear();
+  if (m_kind == Kind::Lock && m_document->locksJoin && !m_document->undo.empty())
+    Join(m_document->undo.back(), m_step);
+  else
+    m_document->undo.push_back(std::move(m_step));
+  m_document->locksJoin = m_kind == Kind::Lock;
+}
+
+void EndLockSteps() {
+  for (const auto& document : TheHost().documents.All()) document->locksJoin = false;
 }
 
 void ConnectUndo(Document& document) {
@@ -83,9 +151,8 @@ void ConnectUndo(Document& document) {
 }
 
 void RecordVariableForUndo(Document& document, const std::wstring& name) {
-  const auto at = document.variables.find(name);
   UndoChange change{UndoChange::Kind::Variable, nullptr, {}, {}, name, {}};
-  if (at != document.variables.end()) change.value = at->second;
+  change.value = ValueOf(document, name);
   Record(document, std::move(change));
 }
 
@@ -100,19 +167,25 @@ void ChangeUserSystem(Document& document, const UserSystem& system) {
 
 std::wstring UndoLatestStep(Document& document) {
   if (document.undo.empty()) return {};
-  // Reverting is not recorded; later changes of the running command are.
-  UndoStep* recording = std::exchange(document.recording, nullptr);
   const UndoStep step = std::move(document.undo.back());
   document.undo.pop_back();
   if (document.undoGroup > static_cast<int>(document.undo.size())) document.undoGroup = -1;
-  for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
-    Revert(document, *change);
-  document.recording = recording;
+  document.redo.push_back(RevertStep(document, step));
+  return step.command;
+}
+
+std::wstring RedoLatestStep(Document& document) {
+  if (document.redo.empty()) return {};
+  const UndoStep step = std::move(document.redo.back());
+  document.redo.pop_back();
+  document.undo.push_back(RevertStep(document, step));
   return step.command;
 }
 
 void DiscardUndo(Document& document) {
   document.undo.clear();
+  document.redo.clear();
+  document.locksJoin = false;
   if (document.undoGroup > 0) document.undoGroup = 0;
   if (!document.recording) return;
   document.recording->changes.clear();
@@ -122,6 +195,7 @@ void DiscardUndo(Document& document) {
 void BeginUndoGroup(Document& document) {
   EndUndoGroup(document);
   document.undoGroup = static_cast<int>(document.undo.size());
+  document.locksJoin = false;
 }
 
 void EndUndoGroup(Document& document) {
@@ -129,10 +203,8 @@ void EndUndoGroup(Document& document) {
   const std::size_t first = static_cast<std::size_t>(document.undoGroup);
   document.undoGroup = -1;
   if (document.undo.size() <= first + 1) return;
-  std::vector<UndoChange>& all = document.undo[first].changes;
   for (std::size_t i = first + 1; i < document.undo.size(); ++i)
-    std::move(document.undo[i].changes.begin(), document.undo[i].changes.end(),
-              std::back_inserter(all));
+    Join(document.undo[first], document.undo[i]);
   document.undo[first].command = L"GROUP";
   document.undo.resize(first + 1);
 }

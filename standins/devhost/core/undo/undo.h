@@ -1,7 +1,7 @@
 // Undo steps: the changes of a drawing during a command, a LISP call or a document lock, and
 // reverting them. Recorded are objects added and erased, moves, data of objects that were opened
 // for writing, variables of the drawing and its user coordinate systems; not selections and views.
-// There is no redo.
+// An undone step can be redone until the next step is recorded.
 #pragma once
 
 #include <memory>
@@ -40,10 +40,13 @@ struct UndoStep {
 };
 
 // Records all changes of a drawing during its lifetime as one step. Inside another recording it has
-// no effect, so that a command is one step with everything that it calls.
+// no effect, so that a command is one step with everything that it calls. The steps of document
+// locks join into one until the message loop is idle or a recording of another kind begins: code
+// that locks and unlocks several times for one action of the user makes one step.
 class UndoRecording {
  public:
-  UndoRecording(Document& document, std::wstring name);
+  enum class Kind { Command, Lock };
+  UndoRecording(Document& document, std::wstring name, Kind kind = Kind::Command);
   ~UndoRecording();
   UndoRecording(const UndoRecording&) = delete;
   UndoRecording& operator=(const UndoRecording&) = delete;
@@ -51,8 +54,12 @@ class UndoRecording {
  private:
   Document* m_document;
   UndoStep m_step;
+  Kind m_kind;
   bool m_outermost;
 };
+
+// The next lock of each drawing begins a step of its own. Called when the message loop is idle.
+void EndLockSteps();
 
 // Connects the callbacks of the drawing's database to the open recording.
 void ConnectUndo(Document& document);
@@ -63,8 +70,10 @@ void ChangeUserSystem(Document& document, const UserSystem& system);
 // Reverts and removes the latest step, without recording. Returns its command's name; empty: there
 // was no step.
 std::wstring UndoLatestStep(Document& document);
-// Discards all steps and the changes of the open recording, before objects that they refer
-// to are deleted.
+// Makes the changes of the latest undone step again and makes it the latest step. Empty: none.
+std::wstring RedoLatestStep(Document& document);
+// Discards all steps, also undone ones, and the changes of the open recording, before objects that
+// they refer to are deleted.
 void DiscardUndo(Document& document);
 // All steps between Begin and End become one. A second Begin ends the first group.
 void BeginUndoGroup(Document& document);
