@@ -41,6 +41,13 @@ std::wstring AnswerOf(Document& document, const std::wstring& text) {
 
 }  // namespace
 
+InputAnswer InputAnswer::OfText(std::wstring text) {
+  InputAnswer answer;
+  answer.kind = text.empty() ? Kind::Enter : Kind::Text;
+  answer.text = std::move(text);
+  return answer;
+}
+
 bool CommandEngine::HasPendingInput() const {
   const DocumentList& documents = TheHost().documents;
   return m_depth == 0 &&
@@ -183,9 +190,18 @@ std::optional<InputAnswer> CommandEngine::TakeAnswer(Document& document, bool bl
     answer.point = *std::exchange(m_givenPoint, std::nullopt);
     return answer;
   }
-  const InputQueue::Item item = from == AnswerFrom::AnyText
-                                    ? document.input.Take(blanksAllowed)
-                                    : document.input.TakeOwn(blanksAllowed, document.inputOrder);
+  InputQueue::Item item;
+  if (m_nestedInput) {
+    if (m_nestedInput->empty()) return answer;
+    answer = std::move(m_nestedInput->front());
+    m_nestedInput->pop_front();
+    if (answer.kind != InputAnswer::Kind::Text) return answer;
+    item.kind = InputQueue::Kind::Token;
+    item.text = answer.text;
+  } else {
+    item = from == AnswerFrom::AnyText ? document.input.Take(blanksAllowed)
+                                       : document.input.TakeOwn(blanksAllowed, document.inputOrder);
+  }
   if (item.kind == InputQueue::Kind::Escape) return answer;
   if (item.kind != InputQueue::Kind::Token) return std::nullopt;
   if (!item.text.empty() && item.text[0] == L'\'' && !blanksAllowed) {
@@ -288,16 +304,22 @@ bool CommandEngine::EditText(Document& document, AcDbObjectId text) {
   return true;
 }
 
-bool CommandEngine::RunNested(const std::wstring& name, const std::vector<std::wstring>& input) {
+bool CommandEngine::RunNested(const std::wstring& name, std::deque<InputAnswer> input) {
   Document* document = Current();
   if (!document) return false;
-  InputQueue kept = std::exchange(document->input, InputQueue());
-  std::wstring text;
-  for (const std::wstring& token : input) text += token + L"\n";
-  document->input.Append(text + L"\x1b");  // requests beyond the given input are cancelled
+  std::deque<InputAnswer>* outer = std::exchange(m_nestedInput, &input);
   const bool ran = ExecuteCommand(*document, name, false);
-  if (TheHost().documents.FindDocument(document)) document->input = std::move(kept);
+  m_nestedInput = outer;
   return ran;
+}
+
+std::optional<std::vector<AcDbObjectId>> CommandEngine::TakeGivenObjects() {
+  if (!m_nestedInput || m_nestedInput->empty() ||
+      m_nestedInput->front().kind != InputAnswer::Kind::Objects)
+    return std::nullopt;
+  std::vector<AcDbObjectId> objects = std::move(m_nestedInput->front().objects);
+  m_nestedInput->pop_front();
+  return objects;
 }
 
 int CommandEngine::CommandActive() const {

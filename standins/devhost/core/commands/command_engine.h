@@ -5,6 +5,7 @@
 // a cancel arrives.
 #pragma once
 
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,9 +23,13 @@ class Document;
 enum class InputRequest { Nothing, Point, Corner, Text, Keyword, View };
 
 struct InputAnswer {
-  enum class Kind { Cancelled, Enter, Text, Point } kind = Kind::Cancelled;
+  // Objects answers a request to select objects; only acedCommandS gives it.
+  enum class Kind { Cancelled, Enter, Text, Point, Objects } kind = Kind::Cancelled;
   std::wstring text;
-  AcGePoint3d point;
+  AcGePoint3d point;  // world
+  std::vector<AcDbObjectId> objects;
+
+  static InputAnswer OfText(std::wstring text);  // Enter for an empty text
 };
 
 class CommandEngine {
@@ -66,8 +71,11 @@ class CommandEngine {
   bool InDocumentContext() const { return m_depth > 0 && m_request == InputRequest::Nothing; }
   bool IsCommandRunning() const { return m_depth > 0; }
 
-  // Runs a command with its input inside another (acedCommandS). False: unknown command.
-  bool RunNested(const std::wstring& name, const std::vector<std::wstring>& input);
+  // Runs a command with its input inside another, to its end (acedCommandS). Requests beyond the
+  // input are cancelled. False: unknown command.
+  bool RunNested(const std::wstring& name, std::deque<InputAnswer> input);
+  // The objects that are the next input of a nested command; nothing if it is something else.
+  std::optional<std::vector<AcDbObjectId>> TakeGivenObjects();
 
   int CommandActive() const;          // CMDACTIVE of the current drawing
   std::wstring CommandNames() const;  // CMDNAMES
@@ -93,6 +101,7 @@ class CommandEngine {
   bool m_cancelAll = false;
   std::optional<AcGePoint3d> m_rubberFrom;
   std::optional<AcGePoint3d> m_givenPoint;
+  std::deque<InputAnswer>* m_nestedInput = nullptr;  // of the innermost RunNested
   std::wstring m_requestPrompt;
   int m_objectPrompts = 0;
   bool m_cancelled = false;  // the last input request of the running command was cancelled

@@ -170,6 +170,11 @@ int acedGetInput(ACHAR* keyword) {
 
 int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point) {
   ads_point at{};
+  if (const auto given = TheHost().engine.TakeGivenObjects()) {
+    if (given->empty() || acdbGetAdsName(entity, given->front()) != Acad::eOk) return RTERROR;
+    if (point) ToAds(AcGePoint3d(), point);
+    return RTNORM;
+  }
   const SelectionPrompt selecting(TheHost().engine);
   const int status = acedGetPoint(nullptr, prompt ? prompt : L"\n选择对象: ", at);
   if (status != RTNORM) return status;

@@ -95,9 +95,10 @@ class Evaluator {
                  ? arguments[1]
                  : Fail(L"变量不能设置: " + TextOf(arguments[0]));
     if (name == L"COMMAND") {
-      std::vector<std::wstring> input;
-      for (std::size_t i = 1; i < arguments.size(); ++i) input.push_back(TextOf(arguments[i]));
-      if (!arguments.empty()) TheHost().engine.RunNested(TextOf(arguments[0]), input);
+      std::deque<InputAnswer> input;
+      for (std::size_t i = 1; i < arguments.size(); ++i)
+        input.push_back(InputAnswer::OfText(TextOf(arguments[i])));
+      if (!arguments.empty()) TheHost().engine.RunNested(TextOf(arguments[0]), std::move(input));
       return LispValue::Nil();
     }
     return Fail(L"没有函数定义: " + name);

@@ -28,6 +28,14 @@ std::vector<AcDbObjectId> AllOf(Document& document) {
   return ids;
 }
 
+std::vector<AcDbEntity*> EntitiesWith(const std::vector<AcDbObjectId>& ids) {
+  std::vector<AcDbEntity*> entities;
+  for (AcDbObjectId id : ids)
+    if (AcDbEntity* e = id.isErased() ? nullptr : AcDbEntity::cast(id.object()))
+      entities.push_back(e);
+  return entities;
+}
+
 void AddAll(std::vector<AcDbObjectId>& set, const std::vector<AcDbEntity*>& found,
             const resbuf* filter) {
   for (AcDbEntity* e : found)
@@ -57,6 +65,10 @@ std::vector<AcGePoint3d> PointsOf(const resbuf* list) {
 int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObjectId>& set) {
   const SelectionPrompt prompt(TheHost().engine);
   for (;;) {
+    if (const auto given = TheHost().engine.TakeGivenObjects()) {
+      AddAll(set, EntitiesWith(*given), filter);
+      continue;
+    }
     acedInitGet(0, L"ALL Previous Last");
     ads_point at{};
     const int status = acedGetPoint(nullptr, L"\n选择对象: ", at);
@@ -68,10 +80,7 @@ int AskForObjects(Document& document, const resbuf* filter, std::vector<AcDbObje
       std::vector<AcDbObjectId> source =
           word[0] == L'P' ? document.previousSelection : AllOf(document);
       if (word[0] == L'L' && !source.empty()) source = {source.back()};
-      std::vector<AcDbEntity*> found;
-      for (AcDbObjectId id : source)
-        if (AcDbEntity* e = AcDbEntity::cast(id.object())) found.push_back(e);
-      AddAll(set, found, filter);
+      AddAll(set, EntitiesWith(source), filter);
     } else if (AcDbEntity* hit = EntityNear(document, PointOf(at), filter)) {
       AddAll(set, {hit}, filter);
     } else {
@@ -115,6 +124,11 @@ int Select(Document& document, const std::wstring& mode, const void* first, cons
   const auto* a = static_cast<const double*>(first);
   const auto* b = static_cast<const double*>(second);
   AcDbDatabase& database = *document.database();
+  const auto given = mode.empty() && !a ? TheHost().engine.TakeGivenObjects() : std::nullopt;
+  if (given) {
+    AddAll(ids, EntitiesWith(*given), filter);
+    return AskForObjects(document, filter, ids);
+  }
   if (mode.empty() && a) {
     if (AcDbEntity* hit = EntityNear(document, PointOf(a), filter)) ids = {hit->objectId()};
   } else if (mode.empty() && document.pickFirst.empty()) {
