@@ -108,7 +108,12 @@ std::vector<std::wstring> MTextLines(const std::wstring& text, double width) {
   std::wstring line;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const wchar_t c = text[i];
-    if (c == L'{' || c == L'}') continue;
+    if (c == L'{' || c == L'}' || c == L'\r') continue;
+    if (c == L'\n') {
+      Wrap(lines, DisplayText(line), width);
+      line.clear();
+      continue;
+    }
     if (c != L'\\' || i + 1 >= text.size()) {
       line += c;
       continue;

@@ -56,8 +56,10 @@ bool AcDbArc::subWorldDraw(AcGiWorldDraw* draw) const {
                                       {std::cos(m_from), std::sin(m_from), 0}, Sweep(m_from, m_to));
 }
 Acad::ErrorStatus AcDbArc::subTransformBy(const AcGeMatrix3d& m) {
-  m_from += m.rotation();
-  m_to += m.rotation();
+  // In a mirror the angles are measured clockwise: the ends are exchanged.
+  const double from = m_from, to = m_to, turn = m.rotation();
+  m_from = Mirrors(m) ? turn - to : turn + from;
+  m_to = Mirrors(m) ? turn - from : turn + to;
   return AcDbCircle::subTransformBy(m);
 }
 Acad::ErrorStatus AcDbArc::dxfInFields(AcDbDxfFiler* filer) {
@@ -85,6 +87,11 @@ bool AcDbEllipse::subWorldDraw(AcGiWorldDraw* draw) const {
 Acad::ErrorStatus AcDbEllipse::subTransformBy(const AcGeMatrix3d& m) {
   m_center = m * m_center;
   m_major = m * m_major;
+  if (Mirrors(m)) {
+    const double from = m_from;
+    m_from = -m_to;
+    m_to = -from;
+  }
   return Acad::eOk;
 }
 Acad::ErrorStatus AcDbEllipse::dxfInFields(AcDbDxfFiler* filer) {

@@ -26,6 +26,8 @@ inline double Sweep(double from, double to) {
   return sweep;
 }
 
+inline bool Mirrors(const AcGeMatrix3d& m) { return m.a * m.d < m.b * m.c; }
+
 // Calls `each` for every item of a filer.
 template <class F>
 Acad::ErrorStatus ForEachItem(AcDbDxfFiler* filer, F each) {

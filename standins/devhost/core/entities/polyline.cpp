@@ -37,7 +37,10 @@ bool AcDbPolyline::subWorldDraw(AcGiWorldDraw* draw) const {
 }
 
 Acad::ErrorStatus AcDbPolyline::subTransformBy(const AcGeMatrix3d& m) {
-  for (AcDbPolylineVertex& v : m_vertices) v.point = m * v.point;
+  for (AcDbPolylineVertex& v : m_vertices) {
+    v.point = m * v.point;
+    if (Mirrors(m)) v.bulge = -v.bulge;
+  }
   return Acad::eOk;
 }
 

@@ -57,6 +57,9 @@ bool TouchesBox(const std::vector<Shape>& shapes, const Box& box) {
     const std::vector<AcGePoint3d> outline = OutlineOf(shape);
     for (std::size_t i = 0; i + 1 < outline.size(); ++i)
       if (SegmentTouches(outline[i], outline[i + 1], box.x0, box.y0, box.x1, box.y1)) return true;
+    // The box may be inside a text or a filled area.
+    if (shape.kind != Shape::Kind::Polyline && DistanceTo(shape, {box.x0, box.y0, 0}) == 0)
+      return true;
   }
   return false;
 }

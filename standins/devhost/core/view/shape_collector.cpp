@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "devhost/core/base/text_case.h"
+#include "devhost/core/base/text_codes.h"
 
 namespace devhost {
 namespace {
@@ -93,12 +94,23 @@ bool ShapeCollector::text(const AcGePoint3d& position, const AcGeVector3d&,
   shape.kind = Shape::Kind::Text;
   shape.color = m_frame.color;
   shape.entity = m_entity;
-  shape.points = {Matrix() * position};
+  const AcGeMatrix3d& matrix = Matrix();
+  const AcGeVector3d unit = direction.normal();
+  AcGeVector3d along = matrix * unit;
+  AcGePoint3d at = matrix * position;
+  const double length = along.length(), area = matrix.scale() * matrix.scale();
+  if (!(length > 0) || !(area > 0)) return false;
+  // In a mirror, a text begins at its other end: turned by half, its top is on the same side again.
+  if (matrix.a * matrix.d < matrix.b * matrix.c) {
+    at = at + along * (TextLength(text) * height * width);
+    along = -along;
+  }
+  // The scales may differ: the height is measured across the direction of the text.
+  shape.points = {at};
   shape.text = text;
-  shape.height = height * Matrix().scale();
-  const AcGeVector3d along = Matrix() * direction;
+  shape.height = height * area / length;
   shape.rotation = std::atan2(along.y, along.x);
-  shape.widthFactor = width;
+  shape.widthFactor = width * length * length / area;
   m_out.push_back(std::move(shape));
   return true;
 }
