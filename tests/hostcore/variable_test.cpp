@@ -109,3 +109,14 @@ TEST_F(Variables, PointsAreReturnedAsPoints) {
   EXPECT_EQ(rb.resval.rpoint[0], 640);
   EXPECT_EQ(rb.resval.rpoint[1], 480);
 }
+
+TEST_F(Variables, TheApertureIsASettingOfTheProgramInPixels) {
+  resbuf rb{};
+  ASSERT_EQ(acedGetVar(L"APERTURE", &rb), RTNORM);
+  EXPECT_EQ(rb.restype, RTSHORT);
+  EXPECT_EQ(rb.resval.rint, 10);
+  EXPECT_EQ(SetShort(L"APERTURE", 0), RTNORM);
+  EXPECT_EQ(Var(L"APERTURE"), L"0");
+  EXPECT_EQ(SetShort(L"APERTURE", 51), RTREJ);
+  EXPECT_EQ(SetShort(L"APERTURE", 10), RTNORM);
+}

@@ -16,6 +16,7 @@ namespace {
 constexpr VariableInfo kVariables[] = {
     // name, type, of the drawing, read only, low, high, initial value
     {L"ACADVER", VarType::Text, false, true, 1, 0, L""},
+    {L"APERTURE", VarType::Short, false, false, 0, 50, L"10"},
     {L"AUNITS", VarType::Short, true, false, 0, 4, L"0"},
     {L"BLIPMODE", VarType::Short, true, false, 0, 1, L"0"},
     {L"CECOLOR", VarType::Text, true, false, 1, 0, L"BYLAYER"},
