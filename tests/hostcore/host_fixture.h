@@ -33,6 +33,8 @@ class ScriptedUi : public devhost::HostUi {
   std::vector<std::wstring> questions;
   std::function<void()> onQuestion;  // what happens while a question is shown
   bool ended = false;
+  // What the user does in the dialog for attributes; none: cancels it.
+  std::function<bool(const std::wstring&, std::vector<devhost::AttributeValue>&)> editAttributes;
 
   void DocumentCreated(devhost::Document& d) override { log.push_back(L"created " + d.Name()); }
   void DocumentActivated(devhost::Document* d) override {
@@ -54,6 +56,10 @@ class ScriptedUi : public devhost::HostUi {
     const devhost::Answer next = answers.front();
     answers.pop_front();
     return next;
+  }
+  bool EditAttributes(const std::wstring& block,
+                      std::vector<devhost::AttributeValue>& values) override {
+    return editAttributes && editAttributes(block, values);
   }
   // Without actions the program ends, so that a test cannot hang.
   bool PumpWhileWaiting() override {

@@ -175,22 +175,37 @@ class AcDbText : public AcDbEntity {
   Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
 
  protected:
+  void CopyLook(const AcDbText& from);  // all but tag and prompt
+  std::wstring ShownText() const;       // without codes; empty: draws nothing
+  void Mirror(const AcGeMatrix3d& matrix);
+
   AcGePoint3d m_at, m_alignment;
-  std::wstring m_text, m_style, m_tag;
+  std::wstring m_text, m_style, m_tag, m_prompt;
   double m_height = 0, m_rotation = 0, m_width = 1;
   int m_horizontal = 0, m_vertical = 0, m_flags = 0;
 };
 
+// Its text string is the default value. In a reference it is visible only if it is constant.
 class AcDbAttributeDefinition : public AcDbText {
  public:
   ACRX_DECLARE_MEMBERS(AcDbAttributeDefinition);
+  AcDbAttributeDefinition() = default;
+  AcDbAttributeDefinition(const AcGePoint3d& at, const ACHAR* text, const ACHAR* tag,
+                          const ACHAR* prompt, double height, double rotation = 0);
   const ACHAR* tagConst() const { return m_tag.c_str(); }
+  const ACHAR* promptConst() const { return m_prompt.c_str(); }
+  bool isInvisible() const { return (m_flags & 1) != 0; }
+  bool isConstant() const { return (m_flags & 2) != 0; }
 };
 
 class AcDbAttribute : public AcDbText {
  public:
   ACRX_DECLARE_MEMBERS(AcDbAttribute);
   const ACHAR* tagConst() const { return m_tag.c_str(); }
+  bool isInvisible() const { return (m_flags & 1) != 0; }
+  // Takes tag, default value, place and look; the transform is that of the reference.
+  Acad::ErrorStatus setAttributeFromBlock(const AcDbAttributeDefinition* definition,
+                                          const AcGeMatrix3d& blockTransform);
 };
 
 class AcDbMText : public AcDbEntity {
@@ -218,6 +233,7 @@ class AcDbBlockReference : public AcDbEntity {
   AcGePoint3d position() const { return m_at; }
   double rotation() const { return m_rotation; }
   AcDbObjectId blockTableRecord() const;  // null if the drawing has no such block
+  Acad::ErrorStatus setBlockTableRecord(AcDbObjectId blockRecord);  // eInvalidInput: no block
   AcGeMatrix3d blockTransform() const;
   const std::vector<AcDbObjectId>& attributes() const { return m_attributes; }
   Acad::ErrorStatus appendAttribute(AcDbAttribute* attribute);  // takes ownership
@@ -287,6 +303,7 @@ class AcDbProxyEntity : public AcDbEntity {
   };
   const std::vector<Group>& groups() const { return m_groups; }
   void addGroup(short code, const ACHAR* text) { m_groups.push_back({code, text}); }
+  AcRxObject* clone() const override;
   Acad::ErrorStatus dxfOutFields(AcDbDxfFiler* filer) const override;
 
  private:

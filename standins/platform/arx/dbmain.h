@@ -73,6 +73,12 @@ class AcDbObject : public AcRxObject {
   virtual Acad::ErrorStatus erase(bool erasing = true);
   bool isErased() const { return m_erased; }
   bool isReadEnabled() const { return m_openCount > 0; }
+  // Call on an object that is open for writing, without changing it: records it for undo
+  // (`autoUndo`) and marks the drawing as modified.
+  void assertWriteEnabled(bool autoUndo = true, bool recordModified = true);
+  // A copy outside of the drawing, with extended data, without sub-objects. The caller owns it.
+  // Null for a class without a constructor for drawings.
+  virtual AcRxObject* clone() const;
 
   // Extended data. -3 lists are flat here: 1001 name, then groups 1000 to 1071. The returned chain
   // is a copy, owned by the caller; a null name returns the data of all applications.
@@ -115,6 +121,8 @@ class AcDbEntity : public AcDbObject {
   virtual Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& matrix);
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix);
   Acad::ErrorStatus draw();  // repaints the drawing that contains it
+  // True: measures the entity again and repaints its drawing.
+  void recordGraphicsModified(bool setModified = true);
 
   // Common groups (layer, colour, linetype, space) come first; a class reads its own after them.
   Acad::ErrorStatus dxfInFields(AcDbDxfFiler* filer) override;

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "dbmain.h"
@@ -156,6 +157,28 @@ class AcDbBlockTableRecordIterator {
   std::size_t m_at = 0;
 };
 
+class AcDbBlockReference;
+
+// Over the references to a block that are not erased, in all blocks of the drawing, in the order in
+// which they were added.
+class AcDbBlockReferenceIdIterator {
+ public:
+  explicit AcDbBlockReferenceIdIterator(std::vector<AcDbObjectId> ids) : m_ids(std::move(ids)) {
+    start();
+  }
+  void start();
+  bool done() const { return m_at >= m_ids.size(); }
+  void step();
+  Acad::ErrorStatus getBlockReferenceId(AcDbObjectId& id) const;
+  Acad::ErrorStatus getBlockReference(AcDbBlockReference*& reference, AcDb::OpenMode mode,
+                                      bool openErased = false) const;
+
+ private:
+  void skip();
+  std::vector<AcDbObjectId> m_ids;
+  std::size_t m_at = 0;
+};
+
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
  public:
   ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord);
@@ -163,6 +186,7 @@ class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
   Acad::ErrorStatus appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity);
   // The caller owns the iterator.
   Acad::ErrorStatus newIterator(AcDbBlockTableRecordIterator*& iterator) const;
+  Acad::ErrorStatus newBlockReferenceIdIterator(AcDbBlockReferenceIdIterator*& iterator) const;
   AcGePoint3d origin() const { return m_origin; }
   void setOrigin(const AcGePoint3d& origin) { m_origin = origin; }
   int flags() const { return m_flags; }
@@ -174,4 +198,5 @@ class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
   std::vector<AcDbObjectId> m_entities;
   AcGePoint3d m_origin;
   int m_flags = 0;
+  bool m_enhanced = false;  // its extension dictionary in the file makes the block dynamic
 };

@@ -19,24 +19,11 @@ AcGePoint3d Of(const ads_point p) { return WorldOfUser(p); }  // entities are in
 
 double AngleOf(const AcGeVector3d& direction) { return std::atan2(direction.y, direction.x); }
 
-void Add(AcDbEntity* entity) {
-  Document* document = TheHost().documents.Current();
-  std::wstring layer = L"0";
-  TheHost().variables.Get(L"CLAYER", &layer);
-  entity->setLayer(layer.c_str());
-  auto* space = AcDbBlockTableRecord::cast(document->database()->currentSpaceId().object());
-  if (space->appendAcDbEntity(entity) != Acad::eOk) {
-    delete entity;
-    return;
-  }
-  TheHost().Ui().PictureChanged(*document);
-}
-
 void Line() {
   ads_point from{}, to{};
   if (acedGetPoint(nullptr, L"指定第一点: ", from) != RTNORM) return;
   while (acedGetPoint(from, L"指定下一点: ", to) == RTNORM) {
-    Add(new AcDbLine(Of(from), Of(to)));
+    AddToDrawing(new AcDbLine(Of(from), Of(to)));
     std::copy(to, to + 3, from);
   }
 }
@@ -47,7 +34,7 @@ void Circle() {
   if (acedGetPoint(nullptr, L"指定圆的圆心: ", center) != RTNORM) return;
   acedInitGet(6, nullptr);
   if (acedGetDist(center, L"指定圆的半径: ", &radius) == RTNORM)
-    Add(new AcDbCircle(Of(center), radius));
+    AddToDrawing(new AcDbCircle(Of(center), radius));
 }
 
 void PLine() {
@@ -63,7 +50,7 @@ void PLine() {
     polyline->addVertexAt(polyline->numVerts(), Of(to));
     std::copy(to, to + 3, from);
   }
-  if (polyline->numVerts() > 1) Add(polyline.release());
+  if (polyline->numVerts() > 1) AddToDrawing(polyline.release());
 }
 
 void Text() {
@@ -80,7 +67,7 @@ void Text() {
   status = acedGetAngle(at, L"指定旋转角度 <0>: ", &angle);
   if (status != RTNORM && status != RTNONE) return;
   if (acedGetString(1, L"输入文字: ", text) == RTNORM && *text)
-    Add(new AcDbText(Of(at), text, height, angle + AngleOf(CurrentUserSystem().x)));
+    AddToDrawing(new AcDbText(Of(at), text, height, angle + AngleOf(CurrentUserSystem().x)));
 }
 
 constexpr NativeCommand kDraw[] = {
@@ -91,6 +78,19 @@ constexpr NativeCommand kDraw[] = {
 };
 
 }  // namespace
+
+void AddToDrawing(AcDbEntity* entity) {
+  Document* document = TheHost().documents.Current();
+  std::wstring layer = L"0";
+  TheHost().variables.Get(L"CLAYER", &layer);
+  entity->setLayer(layer.c_str());
+  auto* space = AcDbBlockTableRecord::cast(document->database()->currentSpaceId().object());
+  if (space->appendAcDbEntity(entity) != Acad::eOk) {
+    delete entity;
+    return;
+  }
+  TheHost().Ui().PictureChanged(*document);
+}
 
 std::span<const NativeCommand> DrawCommands() { return kDraw; }
 

@@ -4,6 +4,7 @@
 #include "adslib.h"
 #include "dbents.h"
 #include "dbsymtb.h"
+#include "devhost/core/blocks/block_copy.h"
 #include "devhost/core/commands/native_commands.h"
 #include "devhost/core/commands/insert_drawing.h"
 #include "devhost/core/host/host.h"
@@ -39,7 +40,7 @@ void Insert() {
   reference->setLayer(layer.c_str());
   auto* space = AcDbBlockTableRecord::cast(document->database()->currentSpaceId().object());
   if (space->appendAcDbEntity(reference.get()) != Acad::eOk) return;
-  reference.release();
+  AppendAttributes(*reference.release());
   TheHost().Ui().PictureChanged(*document);
 }
 

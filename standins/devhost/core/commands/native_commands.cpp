@@ -8,7 +8,7 @@ namespace devhost {
 void RegisterNativeCommands(CommandStack& stack) {
   for (const auto& commands :
        {DrawCommands(), EditCommands(), ObjectCommands(), ViewCommands(), ViewportCommands(),
-        UserSystemCommands(), FileCommands(), InsertCommands(), ExportCommands()})
+        UserSystemCommands(), FileCommands(), InsertCommands(), ExportCommands(), BlockCommands()})
     for (const NativeCommand& c : commands) stack.AddNative(c.name, c.flags, c.function);
 }
 

@@ -30,6 +30,11 @@ std::span<const NativeCommand> FileCommands();
 std::span<const NativeCommand> InsertCommands();
 std::span<const NativeCommand> ExportCommands();
 
+std::span<const NativeCommand> BlockCommands();
+
+// Adds an entity on the current layer to the current space of the current drawing, and owns it.
+void AddToDrawing(AcDbEntity* entity);
+
 bool IsPlainText(const AcDbEntity& entity);  // TEXT and MTEXT: what TEXTEDIT edits
 
 void RegisterNativeCommands(CommandStack& stack);

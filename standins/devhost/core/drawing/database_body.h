@@ -75,6 +75,7 @@ struct AcDbDatabase::Body {
   KeptPart& Part(std::uint64_t owner, std::size_t index);  // with a handle
 };
 
+class AcDbBlockTableRecord;
 class AcDbViewportTableRecord;
 
 struct AcDbViewportTableAccess {
@@ -104,4 +105,7 @@ struct AcDbObjectAccess {
   static void ClearLinetype(AcDbEntity& entity);
   static void NotifyChanging(AcDbObject& object);
   static void NotifyWatcher(AcDbObject& object);
+  // Whether the file of the drawing marks the block as dynamic.
+  static bool IsEnhanced(const AcDbBlockTableRecord& block);
+  static void SetEnhanced(AcDbBlockTableRecord& block);
 };

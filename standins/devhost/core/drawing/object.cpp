@@ -57,6 +57,12 @@ Acad::ErrorStatus AcDbObject::downgradeOpen() {
   return m_openCount > 0 ? Acad::eOk : Acad::eNotOpenForWrite;
 }
 
+void AcDbObject::assertWriteEnabled(bool autoUndo, bool recordModified) {
+  if (m_openCount == 0 || !m_database) return;
+  if (autoUndo) AcDbObjectAccess::NotifyChanging(*this);
+  if (recordModified) m_database->body().modified |= kObjectsModified;
+}
+
 Acad::ErrorStatus AcDbObject::erase(bool erasing) {
   if (m_erased == erasing) return erasing ? Acad::eWasErased : Acad::eNotApplicable;
   m_erased = erasing;

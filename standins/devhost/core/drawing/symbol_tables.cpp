@@ -99,6 +99,9 @@ Acad::ErrorStatus AcDbBlockTableRecord::newIterator(AcDbBlockTableRecordIterator
   return Acad::eOk;
 }
 
+bool AcDbObjectAccess::IsEnhanced(const AcDbBlockTableRecord& block) { return block.m_enhanced; }
+void AcDbObjectAccess::SetEnhanced(AcDbBlockTableRecord& block) { block.m_enhanced = true; }
+
 void AcDbBlockTableRecordIterator::skip() {
   while (m_at < m_ids.size() && m_ids[m_at].isErased()) ++m_at;
 }

@@ -12,6 +12,7 @@
 #include "devhost/core/drawing/database_body.h"
 #include "devhost/core/dxf/application_names.h"
 #include "devhost/core/dxf/drawing_file.h"
+#include "devhost/core/dxf/dynamic_marks.h"
 #include "devhost/core/dxf/dxf_objects.h"
 #include "devhost/core/dxf/dxf_text.h"
 #include "devhost/core/dxf/header_systems.h"
@@ -454,6 +455,7 @@ DrawingReport ReadDrawingText(std::string_view bytes, const std::wstring& shownN
   Reader reader(scan.groups, database, problems);
   DrawingReport report;
   report.readAnything = reader.Read();
+  MarkDynamicBlocks(scan.groups, database);
   if (scan.damage != DxfDamage::None) problems.Add(scan.line, DamageMessage(scan.damage));
   if (!report.readAnything && scan.damage != DxfDamage::NotText) {
     problems = DxfProblems();

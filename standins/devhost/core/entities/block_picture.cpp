@@ -15,8 +15,9 @@ bool DrawParts(AcGiWorldDraw* draw, const AcDbBlockTableRecord& block, const AcG
   draw->geometry().pushModelTransform(matrix);
   for (AcDbObjectId id : block.entities()) {
     const AcDbEntity* part = id.isErased() ? nullptr : AcDbEntity::cast(id.object());
-    // Attribute definitions are visible only while their block is edited.
-    if (part && !AcDbAttributeDefinition::cast(part) && !draw->geometry().draw(part)) break;
+    const auto* definition = AcDbAttributeDefinition::cast(part);
+    if (definition && (!definition->isConstant() || definition->isInvisible())) continue;
+    if (part && !draw->geometry().draw(part)) break;
   }
   draw->geometry().popModelTransform();
   return true;

@@ -27,6 +27,13 @@ AcDbObjectId AcDbBlockReference::blockTableRecord() const {
   return record ? record->objectId() : AcDbObjectId();
 }
 
+Acad::ErrorStatus AcDbBlockReference::setBlockTableRecord(AcDbObjectId blockRecord) {
+  const auto* record = AcDbBlockTableRecord::cast(blockRecord.object());
+  if (!record) return Acad::eInvalidInput;
+  m_block = record->getName();
+  return Acad::eOk;
+}
+
 AcGeMatrix3d AcDbBlockReference::blockTransform() const {
   const AcDbBlockTableRecord* record = BlockNamed(*this, m_block);
   return AcGeMatrix3d::insertion(m_at, m_rotation, m_sx, m_sy,
@@ -63,9 +70,10 @@ bool AcDbBlockReference::subWorldDraw(AcGiWorldDraw* draw) const {
 
 Acad::ErrorStatus AcDbBlockReference::subTransformBy(const AcGeMatrix3d& m) {
   m_at = m * m_at;
-  m_rotation += m.rotation();
+  // A mirror reflects the direction of the first axis and turns the second one to the other side.
+  m_rotation = Mirrors(m) ? m.rotation() - m_rotation : m.rotation() + m_rotation;
   m_sx *= m.scale();
-  m_sy *= m.scale();
+  m_sy *= Mirrors(m) ? -m.scale() : m.scale();
   m_sz *= m.scale();
   for (AcDbObjectId id : m_attributes)
     if (AcDbEntity* attribute = AcDbEntity::cast(id.object())) attribute->subTransformBy(m);

@@ -63,6 +63,12 @@ Acad::ErrorStatus AcDbEntity::transformBy(const AcGeMatrix3d& matrix) {
   return status;
 }
 
+void AcDbEntity::recordGraphicsModified(bool setModified) {
+  if (!setModified) return;
+  AcDbObjectAccess::NotifyWatcher(*this);
+  draw();
+}
+
 Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& extents) const {
   extents = AcDbExtents();
   for (const devhost::Shape& shape : devhost::ShapesOf(*const_cast<AcDbEntity*>(this), 1)) {

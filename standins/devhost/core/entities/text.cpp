@@ -12,6 +12,12 @@ ACRX_DXF_DEFINE_MEMBERS(AcDbAttribute, AcDbText, 0, 0, 0, ATTRIB, host)
 ACRX_DXF_DEFINE_MEMBERS(AcDbAttributeDefinition, AcDbText, 0, 0, 0, ATTDEF, host)
 ACRX_DXF_DEFINE_MEMBERS(AcDbMText, AcDbEntity, 0, 0, 0, MTEXT, host)
 
+namespace {
+
+constexpr int kRight = 2, kAligned = 3, kFit = 5;  // horizontal alignments (group 72)
+
+}  // namespace
+
 AcDbText::AcDbText(const AcGePoint3d& at, const ACHAR* text, double height, double rotation)
     : m_at(at),
       m_alignment(at),
@@ -19,24 +25,61 @@ AcDbText::AcDbText(const AcGePoint3d& at, const ACHAR* text, double height, doub
       m_height(height),
       m_rotation(rotation) {}
 
+AcDbAttributeDefinition::AcDbAttributeDefinition(const AcGePoint3d& at, const ACHAR* text,
+                                                 const ACHAR* tag, const ACHAR* prompt,
+                                                 double height, double rotation)
+    : AcDbText(at, text, height, rotation) {
+  m_tag = tag ? tag : L"";
+  m_prompt = prompt ? prompt : L"";
+}
+
+Acad::ErrorStatus AcDbAttribute::setAttributeFromBlock(const AcDbAttributeDefinition* definition,
+                                                       const AcGeMatrix3d& blockTransform) {
+  if (!definition) return Acad::eInvalidInput;
+  CopyLook(*definition);
+  m_tag = definition->tagConst();
+  setLayer(definition->layer());
+  setColorIndex(definition->colorIndex());
+  return subTransformBy(blockTransform);
+}
+
+void AcDbText::CopyLook(const AcDbText& from) {
+  m_at = from.m_at;
+  m_alignment = from.m_alignment;
+  m_text = from.m_text;
+  m_style = from.m_style;
+  m_height = from.m_height;
+  m_rotation = from.m_rotation;
+  m_width = from.m_width;
+  m_horizontal = from.m_horizontal;
+  m_vertical = from.m_vertical;
+  m_flags = from.m_flags;
+}
+
 Acad::ErrorStatus AcDbText::setTextString(const ACHAR* text) {
   if (!text) return Acad::eInvalidInput;
   m_text = text;
   return Acad::eOk;
 }
 
+// A definition shows its tag, one with a constant value that; an invisible attribute shows nothing.
+std::wstring AcDbText::ShownText() const {
+  const auto* definition = AcDbAttributeDefinition::cast(this);
+  if (AcDbAttribute::cast(this) && (m_flags & 1)) return {};
+  return DisplayText(definition && !definition->isConstant() ? m_tag : m_text);
+}
+
 bool AcDbText::subWorldDraw(AcGiWorldDraw* draw) const {
-  // A definition shows its tag; an invisible attribute shows nothing.
-  const bool definition = AcDbAttributeDefinition::cast(this) != nullptr;
-  if (AcDbAttribute::cast(this) && (m_flags & 1)) return false;
-  const std::wstring shown = DisplayText(definition ? m_tag : m_text);
+  const std::wstring shown = ShownText();
   if (shown.empty() || m_height <= 0) return false;
   AcGePoint3d at = m_at;
   const AcGeVector3d along(std::cos(m_rotation), std::sin(m_rotation), 0), up(-along.y, along.x, 0);
   // Files store the lower left corner too, but some programs leave it at zero for aligned texts.
-  if ((m_horizontal || m_vertical) && m_horizontal != 5 && m_horizontal != 3) {
+  if ((m_horizontal || m_vertical) && m_horizontal != kFit && m_horizontal != kAligned) {
     const double length = TextLength(shown) * m_height * m_width;
-    const double dx = m_horizontal == 1 || m_horizontal == 4 ? -0.5 : m_horizontal == 2 ? -1 : 0;
+    const double dx = m_horizontal == 1 || m_horizontal == 4 ? -0.5
+                      : m_horizontal == kRight               ? -1
+                                                             : 0;
     const double dy = m_horizontal == 4 || m_vertical == 2 ? -0.5 : m_vertical == 3 ? -1 : 0;
     at = m_alignment + along * (dx * length) + up * (dy * m_height);
   }
@@ -44,7 +87,30 @@ bool AcDbText::subWorldDraw(AcGiWorldDraw* draw) const {
                                shown.c_str());
 }
 
+// A mirrored text stays readable: it begins where its mirror image ends.
+void AcDbText::Mirror(const AcGeMatrix3d& m) {
+  const bool byAlignment =
+      (m_horizontal || m_vertical) && m_horizontal != kAligned && m_horizontal != kFit;
+  const double length = TextLength(ShownText()) * m_height * m_width;
+  const AcGeVector3d along(std::cos(m_rotation), std::sin(m_rotation), 0);
+  m_at = m * (byAlignment ? m_at : m_at + along * length);
+  m_alignment = m * m_alignment;
+  if (m_horizontal == kRight) {
+    m_horizontal = 0;
+    if (!m_vertical) m_at = m_alignment;
+  } else if (byAlignment && m_horizontal == 0) {
+    m_horizontal = kRight;
+  }
+  const AcGeVector3d image = m * along;
+  m_rotation = std::atan2(-image.y, -image.x);
+  m_height *= m.scale();
+}
+
 Acad::ErrorStatus AcDbText::subTransformBy(const AcGeMatrix3d& m) {
+  if (Mirrors(m)) {
+    Mirror(m);
+    return Acad::eOk;
+  }
   m_at = m * m_at;
   m_alignment = m * m_alignment;
   m_height *= m.scale();
@@ -54,13 +120,17 @@ Acad::ErrorStatus AcDbText::subTransformBy(const AcGeMatrix3d& m) {
 
 Acad::ErrorStatus AcDbText::dxfInFields(AcDbDxfFiler* filer) {
   AcDbEntity::dxfInFields(filer);
-  m_text = m_style = m_tag = L"";
+  m_text = m_style = m_tag = m_prompt = L"";
   m_at = m_alignment = {};
   m_height = m_rotation = 0;
   m_width = 1;
   m_horizontal = m_vertical = m_flags = 0;
+  // Of attributes, group 73 is the length of a field.
+  int fieldLength = 0;
+  const bool attribute = AcDbAttribute::cast(this) || AcDbAttributeDefinition::cast(this);
   const Acad::ErrorStatus status = ReadFields(filer, {{1, &m_text},
                                                       {2, &m_tag},
+                                                      {3, &m_prompt},
                                                       {7, &m_style},
                                                       {10, &m_at},
                                                       {11, &m_alignment},
@@ -69,7 +139,7 @@ Acad::ErrorStatus AcDbText::dxfInFields(AcDbDxfFiler* filer) {
                                                       {50, &m_rotation, kDegree},
                                                       {70, &m_flags},
                                                       {72, &m_horizontal},
-                                                      {73, &m_vertical},
+                                                      {73, attribute ? &fieldLength : &m_vertical},
                                                       {74, &m_vertical}});
   m_width = std::clamp(m_width, 0.01, 100.0);
   return status;
@@ -92,6 +162,7 @@ Acad::ErrorStatus AcDbText::dxfOutFields(AcDbDxfFiler* filer) const {
              definition = AcDbAttributeDefinition::cast(this);
   if (attribute || definition) {
     filer->writeString(100, attribute ? L"AcDbAttribute" : L"AcDbAttributeDefinition");
+    if (definition) filer->writeString(3, m_prompt.c_str());
     filer->writeString(2, m_tag.c_str());
     filer->writeInt(70, m_flags);
     return m_vertical ? filer->writeInt(74, m_vertical) : Acad::eOk;
@@ -127,6 +198,11 @@ Acad::ErrorStatus AcDbMText::subTransformBy(const AcGeMatrix3d& m) {
   m_height *= m.scale();
   m_width *= m.scale();
   m_rotation += m.rotation();
+  if (!Mirrors(m)) return Acad::eOk;
+  // Stays readable, as a text does: left and right are exchanged.
+  m_rotation = std::remainder(2 * m.rotation() - m_rotation + kDegree * 180, kDegree * 360);
+  const int column = (m_attachment - 1) % 3;
+  m_attachment += 2 - 2 * column;
   return Acad::eOk;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace devhost {
 
@@ -10,6 +11,10 @@ class Document;
 
 enum class Answer { Yes, No, Cancel };
 enum class Choices { YesNo, YesNoCancel };
+
+struct AttributeValue {
+  std::wstring tag, prompt, value;
+};
 
 class HostUi {
  public:
@@ -30,6 +35,11 @@ class HostUi {
   virtual void Alert(const std::wstring& text) = 0;  // a message box with OK
   // A modal question. Drawings may close until it returns.
   virtual Answer Ask(const std::wstring& question, Choices choices) = 0;
+  // A modal dialog for the attributes of a reference; drawings may close until it returns. False:
+  // cancelled, and the values are unchanged.
+  virtual bool EditAttributes(const std::wstring& /*block*/, std::vector<AttributeValue>&) {
+    return false;
+  }
 
   // Processes messages while a command waits for input. False: the program ends and the command
   // must be cancelled.
