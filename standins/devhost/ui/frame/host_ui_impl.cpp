@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "devhost/core/host/host.h"
+#include "devhost/ui/frame/attribute_dialog.h"
 #include "devhost/ui/frame/main_frame.h"
 #include "devhost/ui/messages/message_pump.h"
 
@@ -154,6 +155,13 @@ Answer HostUiImpl::Ask(const std::wstring& question, Choices choices) {
     default:
       return Answer::Cancel;
   }
+}
+
+bool HostUiImpl::EditAttributes(const std::wstring& block, std::vector<AttributeValue>& values) {
+  AttributeDialog dialog(block, values, TheFrame());
+  if (dialog.DoModal() != IDOK) return false;
+  values = dialog.Values();
+  return true;
 }
 
 bool HostUiImpl::PumpWhileWaiting() { return ThePump().RunOnce(); }

@@ -36,6 +36,7 @@ class HostUiImpl : public HostUi {
   void VariableChanged(const std::wstring& name) override;
   void Alert(const std::wstring& text) override;
   Answer Ask(const std::wstring& question, Choices choices) override;
+  bool EditAttributes(const std::wstring& block, std::vector<AttributeValue>& values) override;
   bool PumpWhileWaiting() override;
   void EndProgram() override;
 
