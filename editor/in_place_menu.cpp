@@ -68,12 +68,11 @@ void InPlaceEditor::Close(const ClosingCommand& command) {
 }
 
 void InPlaceEditor::ChangeText(const TextChange& change) {
+  const TextRange caret{change.caret, change.caret};
   const EditWatch watch(m_state);
   watch.Run([&] { m_control.SetText(change.text); }, [&] { m_control.SetModified(true); },
-            [&] {
-              m_control.Select({change.caret, change.caret});
-            },
-            [&] { m_control.ScrollToCaret(); }, [&] { AdjustEditSize(); });
+            [&] { m_control.Select(caret); }, [&] { m_control.ScrollToCaret(); },
+            [&] { AdjustEditSize(); });
 }
 
 void InPlaceEditor::InsertByDialog(bool isWord) {

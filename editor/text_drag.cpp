@@ -44,12 +44,12 @@ TextRange TextDrag::AfterMove(TextRange selection) {
 bool TextDrag::Drop(const std::wstring& text, bool copies, DropResult& result) {
   const int length = static_cast<int>(text.size());
   if (m_nSelStart < 0 || m_nSelEnd > length || m_nSelStart > m_nSelEnd) return false;
+  m_nDropPos = std::min(m_nDropPos, length);  // of a box before, it may be beyond this text
   if (m_nDropPos >= m_nSelStart && m_nDropPos <= m_nSelEnd) return false;
   const auto at = [](int position) { return static_cast<size_t>(position); };
   const std::wstring dragged = text.substr(at(m_nSelStart), at(m_nSelEnd - m_nSelStart));
   const int count = m_nSelEnd - m_nSelStart;
   const bool isBefore = m_nDropPos < m_nSelStart;
-  m_nDropPos = std::min(m_nDropPos, length);
   std::wstring changed = text;
   changed.insert(at(m_nDropPos), dragged);
   if (!copies) {

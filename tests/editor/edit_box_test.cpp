@@ -48,8 +48,8 @@ TEST_F(EditBox, PixelsBeyondAnyViewDoNotOverflow) {
   const LONG least = std::numeric_limits<LONG>::min(), most = std::numeric_limits<LONG>::max();
   const TextPlace place = PlaceOfText({least, least}, {most, most});
   EXPECT_EQ(place.centre.x, 0);
-  const TextPlace far = PlaceOfText({most, most}, {most, most});
-  const RECT inside = ShiftedInside(FirstBox(far.centre, 20), {0, 0, 800, 600});
+  const TextPlace distant = PlaceOfText({most, most}, {most, most});
+  const RECT inside = ShiftedInside(FirstBox(distant.centre, 20), {0, 0, 800, 600});
   EXPECT_EQ(inside.right, 795);
   EXPECT_EQ(inside.bottom, 595);
 }

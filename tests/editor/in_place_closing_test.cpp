@@ -296,9 +296,9 @@ TEST_F(InPlaceClosing, AnExceptionInTheWriteLeavesTheEditOpen) {
 
 // Each operation of an opening after the highlight ends the edit, as a command that starts does.
 TEST_F(InPlaceClosing, ACommandThatStartsDuringAnOpeningEndsIt) {
-  const std::string during[] = {"highlight 1",          "create in view", "font -16",
-                                "move 127,332,152,348", "text Kitchen",   "focus",
-                                "move 96,328,184,353"};
+  const std::string during[] = {
+      "highlight 1",          "to top",       "create in view", "font -16",
+      "move 127,332,152,348", "text Kitchen", "focus",          "move 96,328,184,353"};
   for (const std::string& entry : during) {
     During(entry, [this] { editor->EndEdit(true); });
     editor->BeginEdit(Piece(room), AcGeMatrix3d());
@@ -311,8 +311,9 @@ TEST_F(InPlaceClosing, ACommandThatStartsDuringAnOpeningEndsIt) {
 }
 
 TEST_F(InPlaceClosing, AfterAnUnloadDuringAnOpeningNothingIsUsed) {
-  const std::string during[] = {"highlight 1",  "create in view", "move 127,332,152,348",
-                                "text Kitchen", "focus",          "move 96,328,184,353"};
+  const std::string during[] = {"highlight 1",          "to top",       "create in view",
+                                "move 127,332,152,348", "text Kitchen", "focus",
+                                "move 96,328,184,353"};
   for (const std::string& entry : during) {
     editor = std::make_unique<qvx::InPlaceEditor>(host, control, blocks);
     During(entry, [this] { Unload(); });
@@ -321,6 +322,14 @@ TEST_F(InPlaceClosing, AfterAnUnloadDuringAnOpeningNothingIsUsed) {
     EXPECT_EQ(room.live, 0) << entry;
     control.exists = false;
   }
+}
+
+TEST_F(InPlaceClosing, AnEditThatEndsWhileItsNeighbourIsFoundOpensNothing) {
+  Open(table);
+  During("next of 2.0", [this] { editor->EndEdit(true); });
+  editor->GotoNextText(false, false);
+  EXPECT_FALSE(editor->IsEditing());
+  EXPECT_EQ(table.live, 0);
 }
 
 TEST_F(InPlaceClosing, ADrawingThatGoesDuringTheCommitBeforeDropsTheNewFragment) {

@@ -165,6 +165,14 @@ TEST_F(TextDragging, ADropPositionBeyondTheTextAppends) {
   EXPECT_EQ(drop.selection, (TextRange{2, 3}));
 }
 
+TEST_F(TextDragging, ADropPositionBeyondTheTextIsInsideARangeThatEndsThere) {
+  drag.m_nSelStart = 1;
+  drag.m_nSelEnd = 3;
+  drag.m_nDropPos = 50;
+  drag.m_bDragging = true;
+  EXPECT_FALSE(drag.OnRelease(L"abc", false).text);
+}
+
 TEST_F(TextDragging, AnOpeningClearsAllButTheDropPosition) {
   drag.OnPress({1, 3});
   drag.AfterPress({2, 2});
