@@ -1,8 +1,6 @@
 #include "tests/fuzz/filter_fuzz_checks.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <string_view>
 
 namespace filterfuzz {
@@ -165,12 +163,6 @@ void CheckToggle(const Filtered& f) {
 }
 
 }  // namespace
-
-void Require(bool holds, const char* invariant) {
-  if (holds) return;
-  std::fprintf(stderr, "violated: %s\n", invariant);
-  std::abort();
-}
 
 void Memory::Note(const MSG& message, const Before& before) {
   if (IsIgnored(before) || before.isOrbit) return;

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "tests/fuzz/filter_fuzz_host.h"
+#include "tests/fuzz/require.h"
 
 namespace filterfuzz {
 
-// Ends the process with the text unless the invariant holds.
-void Require(bool holds, const char* invariant);
+using fuzz::Require;
 
 // What decides on a message, as it was when the message came.
 struct Before {

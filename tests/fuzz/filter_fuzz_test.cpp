@@ -2,13 +2,11 @@
 // random files that map commands to help keywords.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
-#include <vector>
 
+#include "tests/fuzz/corpus.h"
 #include "tests/fuzz/filter_fuzz.h"
 
 namespace {
@@ -35,24 +33,15 @@ TEST(FilterFuzz, RandomStreamsKeepTheInvariantsAndReachEveryOperation) {
   EXPECT_GT(all.previewTurnOffs, 0);
 }
 
-// The corpus of tools/fuzz merge: the smallest inputs with the same coverage as all inputs.
-std::vector<std::string> Corpus(const char* target) {
-  std::vector<std::string> inputs;
-  for (const auto& entry : std::filesystem::directory_iterator(
-           std::filesystem::path(QVX_SOURCE_DIR) / "tests/fuzz/corpus" / target)) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    inputs.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-  }
-  return inputs;
-}
-
 TEST(FilterFuzz, TheCorpusKeepsTheInvariants) {
   FilterFuzzRun all;
-  for (const std::string& bytes : Corpus("message_filter")) all.Add(FuzzMessageFilter(bytes));
+  for (const std::string& bytes : fuzz::ReadCorpus(QVX_SOURCE_DIR, "message_filter"))
+    all.Add(FuzzMessageFilter(bytes));
   EXPECT_GT(all.messages, 50);
   EXPECT_GT(all.swallowed, 0);
   int found = 0;
-  for (const std::string& bytes : Corpus("help_map")) found += FuzzHelpMap(bytes);
+  for (const std::string& bytes : fuzz::ReadCorpus(QVX_SOURCE_DIR, "help_map"))
+    found += FuzzHelpMap(bytes);
   EXPECT_GT(found, 0);
 }
 
