@@ -1,77 +1,20 @@
-#include "tests/fuzz/edit_fuzz.h"
-
+// The records of the in-place editor's fuzzer.
 #include <algorithm>
-#include <memory>
-#include <set>
 
-#include "editor/in_place_editor.h"
 #include "kernel/globals.h"
-#include "tests/editor/edit_double.h"
-#include "tests/fuzz/edit_fuzz_model.h"
-#include "tests/fuzz/filter_fuzz_host.h"
+#include "tests/fuzz/edit_fuzz_session.h"
 
+namespace editfuzz {
 namespace {
-
-using namespace editfuzz;
-using filterfuzz::Input;
-using fuzz::Require;
 
 constexpr int kMostDepth = 3;  // of records within operations
 constexpr int kMostNestedRecords = 4;
 constexpr double kReleases[] = {17.2, 18.11, 21, 24.1};
 constexpr WPARAM kArrows[] = {0x25, 0x26, 0x27, 0x28};  // left, up, right, down
 
-class Session {
- public:
-  explicit Session(const std::string& bytes);
-  ~Session();
-  EditFuzzRun Run();
+}  // namespace
 
- private:
-  // Records of the stream.
-  void Record();
-  void Change();
-  void Begin();
-  void Type();
-  void Select();
-  void Key();
-  void Arrow();
-  void Drag();
-  void Command();
-  void Notify();
-  void View();
-  void Arm();
-
-  // After an operation: the model has the expected result, unless records ran inside.
-  void Check(const char* kind);
-  void CheckAlways();
-  void CheckOpened(const std::wstring& whole);
-  void Guess();  // a box for records inside an operation; nothing is compared with it
-  void Follow();
-  void OnNote(const std::string& entry);
-  bool Send(UINT number, WPARAM wParam = 0);
-  std::unique_ptr<qvx::EditFragment> Piece(size_t object, size_t piece);
-  int Position() { return m_control.text.empty() ? 0 : Below(m_control.text.size() + 1); }
-  int Below(size_t count) { return static_cast<int>(m_input.Byte() % count); }
-  void Close(bool commits);
-  void ExpectNext(bool vertical, bool backward);
-
-  Input m_input;
-  edittest::EditDiary m_diary;
-  std::vector<edittest::TextObject> m_objects;
-  edittest::EditHostDouble m_host{m_diary};
-  edittest::ControlDouble m_control{m_diary};
-  edittest::ReferenceHostDouble m_references{m_diary};
-  qvx::BlockReferences m_blocks{m_references};
-  std::unique_ptr<qvx::InPlaceEditor> m_editor;
-  Model m_model;
-  std::set<std::string> m_highlighted;
-  int m_depth = 0, m_countdown = -1;
-  bool m_isDisturbed = false;  // records ran inside the present operation
-  bool m_isWindowLost = false, m_isComposing = false;
-  int m_dropPos = 0, m_locks = 0;
-  EditFuzzRun m_run;
-};
+using fuzz::Require;
 
 Session::Session(const std::string& bytes) : m_input(bytes) {
   m_objects.resize(4);
@@ -171,28 +114,6 @@ void Session::Change() {
 
 std::unique_ptr<qvx::EditFragment> Session::Piece(size_t object, size_t piece) {
   return std::make_unique<edittest::FragmentDouble>(m_diary, m_objects[object], piece);
-}
-
-// Takes the expected whole text of an opened box over from what it shows, after a check.
-void Session::CheckOpened(const std::wstring& whole) {
-  const std::wstring& shown = m_control.text;
-  const auto returns = std::ranges::count(whole, L'\r');
-  const long width = 8 * (static_cast<long>(whole.size()) - returns) + 4 * returns;
-  const double screen = m_host.screenWidth >= 1 && m_host.screenWidth < 4801
-                            ? static_cast<int>(m_host.screenWidth)
-                            : 1920;
-  const bool wraps = m_model.IsOneLine() && width > static_cast<int>(0.75 * screen);
-  Require(m_editor->IsWrapped() == wraps, "one-line text wider than the limit is wrapped");
-  if (!wraps) Require(shown == whole, "a text that is not wrapped is shown as it is");
-  if (wraps && m_control.letterWidth <= 0.75 * screen && returns == 0 &&
-      std::ranges::count(whole, L'\n') == 0) {
-    const std::wstring joined = WithoutBreaks(shown);
-    Require(joined == whole || joined == whole.substr(0, whole.size() - 1),
-            "at most the last character is missing");
-  }
-  m_model.box.text = shown;
-  m_model.box.isWrapped = wraps;
-  m_model.box.end = static_cast<int>(shown.size());
 }
 
 void Session::Begin() {
@@ -449,57 +370,7 @@ void Session::View() {
   Check("view");
 }
 
-void Session::Check(const char* kind) {
-  if (m_isDisturbed || m_isWindowLost || m_depth > 0 || !m_editor) return;
-  ++m_run.checked[kind];
-  Require(m_editor->IsEditing() == m_model.isEditing, "an edit runs when the model says so");
-  for (size_t i = 0; i < m_objects.size(); ++i)
-    Require(m_objects[i].texts == m_model.objects[i].texts, "the objects have the model's texts");
-  if (!m_model.isEditing) return;
-  Require(m_control.text == m_model.box.text, "the box has the model's text");
-  Require(m_control.isModified == m_model.box.isModified, "and its modified flag");
-  Require(m_control.selection == qvx::TextRange{m_model.box.start, m_model.box.end},
-          "and its selection");
-}
-
-void Session::CheckAlways() {
-  m_countdown = m_isDisturbed ? -1 : m_countdown;
-  Require(m_locks == 0, "every lock is released");
-  int live = 0;
-  for (const edittest::TextObject& object : m_objects) live += object.live;
-  if (!m_editor) {
-    Require(live == 0, "an unloaded module holds no fragment");
-    m_control.exists = false;
-    m_highlighted.clear();
-    return;
-  }
-  const bool isEditing = m_editor->IsEditing();
-  Require(live == isEditing, "an edit holds one fragment, an idle editor none");
-  if (m_isWindowLost) return;
-  Require(m_control.exists == isEditing, "the box exists as long as the edit");
-  if (!m_isDisturbed)
-    Require(m_highlighted.size() == (isEditing ? 1u : 0u), "only the edited object is highlighted");
-}
-
-void Session::Guess() {
-  m_model.isEditing = m_editor->IsEditing();
-  m_model.box.text = m_control.text;
-  m_model.box.start = m_control.selection.start;
-  m_model.box.end = m_control.selection.end;
-}
-
-// Foreign code has run, and what it did is not predicted: the next record starts from an idle
-// editor and the texts as they are.
-void Session::Follow() {
-  m_countdown = -1;
-  for (size_t i = 0; i < m_objects.size(); ++i) m_model.objects[i].texts = m_objects[i].texts;
-  if (m_editor) m_editor->CancelEdit();
-  m_model.isEditing = m_isComposing = m_isWindowLost = false;
-  m_highlighted.clear();
-  m_dropPos = m_editor ? m_editor->Drag().m_nDropPos : 0;
-}
-
-}  // namespace
+}  // namespace editfuzz
 
 void EditFuzzRun::Add(const EditFuzzRun& other) {
   for (const auto& [name, count] : other.operations) operations[name] += count;
@@ -509,4 +380,4 @@ void EditFuzzRun::Add(const EditFuzzRun& other) {
   unloads += other.unloads;
 }
 
-EditFuzzRun FuzzInPlaceEdit(const std::string& bytes) { return Session(bytes).Run(); }
+EditFuzzRun FuzzInPlaceEdit(const std::string& bytes) { return editfuzz::Session(bytes).Run(); }
