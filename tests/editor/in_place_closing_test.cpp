@@ -186,6 +186,14 @@ TEST_F(InPlaceClosing, ADrawingThatIsDestroyedCancels) {
   EXPECT_EQ(diary.Take(), (Entries{"unhighlight 1", "delete 1.0", "destroy"}));
 }
 
+TEST_F(InPlaceClosing, ADrawingThatIsDestroyedAfterItsEditChangesNothing) {
+  Open(room);
+  editor->EndEdit(true);
+  diary.Take();
+  editor->OnDrawingDestroyed(Document(1));
+  EXPECT_EQ(diary.Take(), Entries{});
+}
+
 // ---- calls inside these calls
 
 TEST_F(InPlaceClosing, ACommandThatStartsDuringTheWriteDoesNotCloseTheBoxTwice) {
