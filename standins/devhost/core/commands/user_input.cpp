@@ -9,6 +9,7 @@
 #include "devhost/core/commands/typed_input.h"
 #include "devhost/core/host/host.h"
 #include "devhost/core/host/user_points.h"
+#include "devhost/core/selection/nested_pick.h"
 #include "devhost/core/view/scene.h"
 
 using namespace devhost;
@@ -182,7 +183,7 @@ int acedEntSel(const ACHAR* prompt, ads_name entity, ads_point point) {
   AcDbEntity* hit = document ? EntityAt(*document->database(), WorldOfUser(at),
                                         6 / document->view.PixelsPerUnit())
                              : nullptr;
-  if (!hit) return RTERROR;
+  if (!hit) return FailPick(PickError::kMissed);
   if (point) ToAds(FromAds(at), point);
   return acdbGetAdsName(entity, hit->objectId()) == Acad::eOk ? RTNORM : RTERROR;
 }

@@ -32,6 +32,7 @@ constexpr VariableInfo kVariables[] = {
     {L"DWGNAME", VarType::Text, true, true, 1, 0, L""},
     {L"DWGPREFIX", VarType::Text, true, true, 1, 0, L""},
     {L"DWGTITLED", VarType::Short, true, true, 1, 0, L"0"},
+    {L"ERRNO", VarType::Short, false, true, 1, 0, L"0"},
     {L"EXTMAX", VarType::Point, true, true, 1, 0, L""},
     {L"EXTMIN", VarType::Point, true, true, 1, 0, L""},
     {L"FILEDIA", VarType::Short, false, false, 0, 1, L"1"},
