@@ -3,64 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <memory>
 
 #include "devhost/core/dxf/drawing_file.h"
-#include "kernel/current_drawing.h"
 #include "kernel/drawing_data.h"
 #include "kernel/globals.h"
 #include "kernel/model_number.h"
 #include "kernel/tdbconfig.h"
 #include "kernel/tdbfloorrect.h"
-#include "kernel/tsubtext.h"
-#include "standins/samples/design/annotation_entities.h"
-#include "tests/hostcore/host_fixture.h"
+#include "kernel_objects_fixture.h"
 
 namespace {
 
-class Objects : public hosttest::HostTest {
+class Objects : public kerneltest::ObjectsTest {
  protected:
-  void SetUp() override {
-    HostTest::SetUp();
-    BeginQvxEntities();
-    BeginAnnotationEntities();
-    BeginCurrentDrawing();
-    NewDrawing();
-  }
-  void TearDown() override {
-    EndCurrentDrawing();
-    HostTest::TearDown();
-    EndAnnotationEntities();
-    EndQvxEntities();
-  }
-
-  template <class Entity>
-  Entity* Add(const AcGePoint3d& start, const AcGePoint3d& end) {
-    auto* entity = new Entity;
-    Prepare(entity, start, end);
-    return entity;
-  }
-  void Prepare(QvxDbEntity* entity, const AcGePoint3d& start, const AcGePoint3d& end) {
-    entity->start = start;
-    entity->end = end;
-    Append(entity);
-  }
-  AcDbObjectId Append(AcDbEntity* entity) {
-    AcDbBlockTableRecord::cast(host.documents.Current()->database()->currentSpaceId().object())
-        ->appendAcDbEntity(entity);
-    return entity->objectId();
-  }
-
-  static std::unique_ptr<TSubText> TextAt(const TPickEntSet& set, double x, double y) {
-    return std::unique_ptr<TSubText>(HitTestOnText(set, {x, y, 0}));
-  }
-  // A set of all objects, in drawing order.
-  void PickAll(TPickEntSet& set) {
-    host.documents.Current()->pickFirst.clear();
-    for (AcDbEntity* entity : Entities())
-      host.documents.Current()->pickFirst.push_back(entity->objectId());
-    set.Get(L"I");
-  }
   // As the host opens objects for modules: for reading, from its message loop.
   static void Toggle(QvxDbEntity* entity) {
     AcDbObject* open = nullptr;
@@ -174,23 +129,6 @@ TEST_F(Objects, AFragmentOutlivesItsObject) {
   EXPECT_STREQ(L"房间", hit->GetText().GetString());
 }
 
-TEST_F(Objects, ASheetHasATextInEachRowOfItsTitleBlock) {
-  auto* sheet = new QvxDbSheet;
-  sheet->label = L"一层平面图";
-  sheet->cells = {L"设计", L""};
-  Prepare(sheet, {0, 0, 0}, {42000, 29700, 0});
-  TPickEntSet set;
-  PickAll(set);
-  for (const auto& [y, text] : {std::pair{500, L"一层平面图"}, {1500, L"设计"}, {2500, L""}}) {
-    const auto hit = TextAt(set, 40000, y);
-    ASSERT_NE(nullptr, hit) << y;
-    EXPECT_STREQ(text, hit->GetText().GetString());
-    EXPECT_EQ(y / 1000, hit->GetIndex());
-  }
-  EXPECT_EQ(nullptr, TextAt(set, 40000, 3500));
-  EXPECT_EQ(nullptr, TextAt(set, 1000, 500)) << "left of the block";
-}
-
 TEST_F(Objects, TextsOfAnAxisLabelStandBeyondItsEnds) {
   auto* axis = new QvxDbAxisLabel;
   axis->label = L"A";
@@ -268,6 +206,7 @@ TEST_F(Objects, GroupControlStateAndCellsGoThroughAFile) {
   auto* sheet = new QvxDbSheet;
   sheet->label = L"总图";
   sheet->cells = {L"甲", L"", L"丙"};
+  sheet->kind = 3;
   Prepare(sheet, {0, 0, 0}, {42000, 29700, 0});
   const std::wstring path = (folder / "saved.dxf").wstring();
   std::wstring why;

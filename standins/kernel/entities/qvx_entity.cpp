@@ -1,10 +1,13 @@
 // The record that all drawing objects of the family share; see the header.
 #include "kernel/entities/qvx_entity.h"
 
+#include "kernel/entities/block_inserts.h"
 #include "kernel/entities/class_registration.h"
 #include "kernel/entities/tdbdimension2.h"
+#include "kernel/entities/tdbinsight.h"
 #include "kernel/tdbconfig.h"
 #include "kernel/tdbfloorrect.h"
+#include "kernel/text_lines.h"
 
 #include <cmath>
 #include <numbers>
@@ -19,6 +22,7 @@ ACRX_DXF_DEFINE_MEMBERS(QvxDbOpening, QvxDbEntity, 0, 0, 0, QVX_OPENING, qvx_ker
 ACRX_DXF_DEFINE_MEMBERS(QvxDbColumn, QvxDbEntity, 0, 0, 0, QVX_COLUMN, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbAxisNumber, QvxDbEntity, 0, 0, 0, QVX_AXNO, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbText, QvxDbEntity, 0, 0, 0, QVX_TEXT, qvx_kernal)
+ACRX_DXF_DEFINE_MEMBERS(QvxDbMText, QvxDbText, 0, 0, 0, QVX_MTEXT, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbStair, QvxDbEntity, 0, 0, 0, QVX_STAIR, qvx_kernal)
 ACRX_DXF_DEFINE_MEMBERS(QvxDbSpace, QvxDbEntity, 0, 0, 0, QVX_SPACE, qvx_kernal)
 
@@ -44,7 +48,7 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
     const AcGePoint3d point(item.resval.rpoint[0], item.resval.rpoint[1], item.resval.rpoint[2]);
     switch (item.restype) {
       case 1:
-        label = item.resval.rstring;
+        label = TextFromFile(item.resval.rstring);
         break;
       case 10:
         if (HasOutline()) outline.push_back(point);
@@ -79,7 +83,7 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
         control = item.resval.rint;
         break;
       case 302:
-        cells.emplace_back(item.resval.rstring);
+        cells.push_back(TextFromFile(item.resval.rstring));
         break;
       default:
         break;
@@ -92,11 +96,11 @@ Acad::ErrorStatus QvxDbEntity::dxfInFields(AcDbDxfFiler* filer) {
 Acad::ErrorStatus QvxDbEntity::dxfOutFields(AcDbDxfFiler* filer) const {
   AcDbEntity::dxfOutFields(filer);
   filer->writeString(100, isA()->name());
-  if (!label.empty()) filer->writeString(1, label.c_str());
+  if (!label.empty()) filer->writeString(1, TextToFile(label).c_str());
   filer->writeDouble(42, m_pscale);
   if (group) filer->writeInt(72, group);
   if (control) filer->writeInt(73, control);
-  for (const std::wstring& cell : cells) filer->writeString(302, cell.c_str());
+  for (const std::wstring& cell : cells) filer->writeString(302, TextToFile(cell).c_str());
   if (HasOutline()) {
     filer->writeInt(90, static_cast<int>(outline.size()));
     for (const AcGePoint3d& corner : outline) filer->writePoint(10, corner);
@@ -128,11 +132,13 @@ AcGePoint3d QvxDbSpace::Middle() const {
 
 void BeginQvxEntities() {
   RegisterClasses<QvxDbEntity, QvxDbWall, QvxDbOpening, QvxDbColumn, QvxDbAxisNumber, QvxDbText,
-                  QvxDbStair, TDbDimension2, QvxDbSpace, TDbFloorRect>();
+                  QvxDbMText, QvxDbStair, TDbDimension2, QvxDbSpace, TDbFloorRect, TDbInSight,
+                  TDbBlockInsert, TDbMvInsert>();
   acrxBuildClassHierarchy();
 }
 
 void EndQvxEntities() {
-  RemoveClasses<TDbConfig, TDbFloorRect, QvxDbSpace, TDbDimension2, QvxDbStair, QvxDbText,
-                QvxDbAxisNumber, QvxDbColumn, QvxDbOpening, QvxDbWall, QvxDbEntity>();
+  RemoveClasses<TDbConfig, TDbMvInsert, TDbBlockInsert, TDbInSight, TDbFloorRect, QvxDbSpace,
+                TDbDimension2, QvxDbStair, QvxDbMText, QvxDbText, QvxDbAxisNumber, QvxDbColumn,
+                QvxDbOpening, QvxDbWall, QvxDbEntity>();
 }

@@ -1,5 +1,6 @@
 // The drawing objects of the family: walls, openings, columns, axis numbers, rooms, texts and
-// stairs, as far as the sample modules need them; dimensions are in tdbdimension2.h. They share one
+// stairs, as far as the sample modules need them; dimensions are in tdbdimension2.h, symbols of
+// interior views in tdbinsight.h, block references in block_inserts.h. They share one
 // record of plain values, which is stored in drawing files; each class draws itself from it.
 // Lengths are millimetres; angles are degrees in files and radians here. Editing rules (joining
 // walls, moving openings) are not implemented.
@@ -7,8 +8,6 @@
 
 #include <string>
 #include <vector>
-
-#include <type_traits>
 
 #include "dbents.h"
 #include "kernel/entities/tentitybase.h"
@@ -32,8 +31,9 @@ class QVX_KERNEL QvxDbEntity : public AcDbEntity, public TEntityBase {
 
   // The texts that can be edited, in the order of their indices.
   virtual std::vector<QvxTextPlace> TextPlaces() const { return {}; }
-  virtual TDbEntity* AsEntity() { return nullptr; }
-  virtual TDbCurveEntity* AsCurveEntity() { return nullptr; }
+  // Stores a text in the slot of its place.
+  virtual void ChangeText(int index, const std::wstring& text);
+  const std::wstring& Stored(int slot) const;  // empty where there is none
 
   long GroupKey() const override;
   void ToggleCtrl() override;
@@ -44,8 +44,7 @@ class QVX_KERNEL QvxDbEntity : public AcDbEntity, public TEntityBase {
  protected:
   virtual bool HasOutline() const { return false; }
   bool IsOnLockedLayer() const;
-  TSubText* MakeSubText(int index) const;
-  TSubText* MakeSubTextAt(const AcGePoint3d& at) const;
+  bool ShowsModelNumbers() const;               // whether the drawing shows the numbers of openings
   void DrawControl(AcGiWorldDraw* draw) const;  // a cross at each control point, while it is on
 };
 
@@ -53,18 +52,13 @@ class QVX_KERNEL QvxDbEntity : public AcDbEntity, public TEntityBase {
 template <class Interface>
 class QvxEditable : public QvxDbEntity, public Interface {
  public:
-  TDbEntity* AsEntity() override { return As<TDbEntity>(); }
-  TDbCurveEntity* AsCurveEntity() override { return As<TDbCurveEntity>(); }
   Adesk::Boolean IsEditable() const override { return !IsOnLockedLayer(); }
-  TSubText* GetSubText(int index) const override { return MakeSubText(index); }
-  TSubText* GetSubTextAt(const AcGePoint3d& at) const override { return MakeSubTextAt(at); }
-
- private:
-  template <class Asked>
-  Asked* As() {
-    if constexpr (std::is_same_v<Asked, Interface>) return this;
-    return nullptr;
+  TSubText* GetSubText(int index) const override { return Interface::MakeSubText(*this, index); }
+  TSubText* GetSubTextAt(const AcGePoint3d& at) const override {
+    return Interface::MakeSubTextAt(*this, at);
   }
+  std::vector<QvxTextPlace> SubTexts() const override { return TextPlaces(); }
+  void ChangeSubText(int index, const std::wstring& text) override { ChangeText(index, text); }
 };
 
 #define QVX_ENTITY(CLASS, INTERFACE, ...)                  \
@@ -82,10 +76,27 @@ QVX_ENTITY(QvxDbOpening, TDbEntity,
                         // flags: 1 opens downwards, 2 hinge on the other side
 QVX_ENTITY(QvxDbColumn, TDbEntity);                 // start the middle; width by size
 QVX_ENTITY(QvxDbAxisNumber, TDbEntity, QVX_TEXTS);  // start the middle; width the radius; label
-QVX_ENTITY(QvxDbText, TDbEntity, QVX_TEXTS);        // start; width the height; angle; label
 QVX_ENTITY(QvxDbStair, TDbEntity);  // start the lower left; width by size; kind the number of steps
 #undef QVX_TEXTS
 #undef QVX_ENTITY
+
+// start; width the height; angle; label; size the width at which the lines of a text of several
+// lines are broken, 0 for never.
+class QVX_KERNEL QvxDbText : public QvxEditable<TDbEntity> {
+ public:
+  ACRX_DECLARE_MEMBERS(QvxDbText);
+  enum Kind { kLine = 0, kLines = 1 };
+  virtual bool IsMultiLine() const { return kind == kLines; }
+  std::vector<QvxTextPlace> TextPlaces() const override;
+  EditFunction GetEditFunction() const override;
+  bool subWorldDraw(AcGiWorldDraw* draw) const override;
+};
+
+class QVX_KERNEL QvxDbMText : public QvxDbText {
+ public:
+  ACRX_DECLARE_MEMBERS(QvxDbMText);
+  bool IsMultiLine() const override { return true; }
+};
 
 class QVX_KERNEL QvxDbSpace : public QvxEditable<TDbEntity> {  // outline; label
  public:

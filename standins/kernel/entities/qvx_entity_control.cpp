@@ -6,7 +6,7 @@
 #include "dbsymtb.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/tacdbobjectptr.h"
-#include "kernel/tsubtext.h"
+#include "kernel/tdbconfig.h"
 
 // Groups are numbered from 1. Without one the key comes from the handle, below 0.
 long QvxDbEntity::GroupKey() const {
@@ -43,14 +43,24 @@ bool QvxDbEntity::IsOnLockedLayer() const {
   return record && record->isLocked();
 }
 
-TSubText* QvxDbEntity::MakeSubText(int index) const {
-  if (index < 0 || index >= static_cast<int>(TextPlaces().size())) return nullptr;
-  return new TSubText(objectId(), const_cast<QvxDbEntity*>(this), index, false, false);
+bool QvxDbEntity::ShowsModelNumbers() const {
+  TDbConfig* config = GetDwgGlobal(AcDb::kForRead, database());
+  if (!config) return false;
+  const bool shown = (config->Flags() & TDbConfig::kModelNumbers) != 0;
+  config->close();
+  return shown;
 }
 
-TSubText* QvxDbEntity::MakeSubTextAt(const AcGePoint3d& at) const {
+const std::wstring& QvxDbEntity::Stored(int slot) const {
+  static const std::wstring none;
+  if (slot == 0) return label;
+  return slot > 0 && slot <= static_cast<int>(cells.size()) ? cells[slot - 1] : none;
+}
+
+void QvxDbEntity::ChangeText(int index, const std::wstring& text) {
   const std::vector<QvxTextPlace> places = TextPlaces();
-  for (std::size_t i = 0; i < places.size(); ++i)
-    if (places[i].Contains(at)) return MakeSubText(static_cast<int>(i));
-  return nullptr;
+  if (index < 0 || index >= static_cast<int>(places.size())) return;
+  const std::size_t slot = static_cast<std::size_t>(places[index].slot);
+  if (cells.size() < slot) cells.resize(slot);
+  (slot == 0 ? label : cells[slot - 1]) = text;
 }

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "dbsymtb.h"
+#include "kernel/entities/edit_routines.h"
 #include "kernel/entities/qvx_entity.h"
 #include "kernel/tdbconfig.h"
 #include "kernel/tdbfloorrect.h"
@@ -37,17 +38,6 @@ void Segment(AcGiWorldDraw* draw, const AcGePoint3d& a, const AcGePoint3d& b) {
   draw->geometry().polyline(2, ends);
 }
 
-void Write(AcGiWorldDraw* draw, const QvxTextPlace& place) {
-  draw->geometry().text(place.at, AcGeVector3d::kZAxis,
-                        {std::cos(place.angle), std::sin(place.angle), 0}, place.height, 1, 0,
-                        place.text.c_str());
-}
-
-void WriteAll(AcGiWorldDraw* draw, const std::vector<QvxTextPlace>& places) {
-  for (const QvxTextPlace& place : places)
-    if (!place.text.empty()) Write(draw, place);
-}
-
 struct Gap {
   double from, to;  // along the wall's axis
 };
@@ -74,12 +64,9 @@ std::vector<Gap> GapsIn(const QvxDbWall& wall, const AcGeVector3d& along, double
 
 namespace {
 
-bool ShowsModelNumbers(AcDbDatabase* database) {
-  TDbConfig* config = GetDwgGlobal(AcDb::kForRead, database);
-  if (!config) return false;
-  const bool shown = (config->Flags() & TDbConfig::kModelNumbers) != 0;
-  config->close();
-  return shown;
+QvxTextPlace OfMenu(QvxTextMenu menu, QvxTextPlace place) {
+  place.menu = menu;
+  return place;
 }
 
 // The current display switches of walls and columns.
@@ -145,7 +132,7 @@ bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
   const double half = size / 2, deep = width / 2;
   for (double x : {-half, half})
     Segment(draw, At(start, along, x, -deep), At(start, along, x, deep));
-  WriteAll(draw, TextPlaces());
+  DrawTexts(draw, TextPlaces());
   DrawControl(draw);
   if (kind == 1) {
     draw->subEntityTraits().setColor(kGlass);
@@ -167,10 +154,11 @@ bool QvxDbOpening::subWorldDraw(AcGiWorldDraw* draw) const {
 
 // The model number is one of the texts while the drawing shows it.
 std::vector<QvxTextPlace> QvxDbOpening::TextPlaces() const {
-  if (!ShowsModelNumbers(database())) return {};
+  if (!ShowsModelNumbers()) return {};
   const AcGeVector3d up(-std::sin(angle), std::cos(angle), 0);
   const double height = 250 * ScaleFactor();
-  return {QvxTextPlace::Around(start + up * (width / 2 + height), height, label)};
+  return {OfMenu(kOpeningNumber,
+                 QvxTextPlace::Around(start + up * (width / 2 + height), height, label))};
 }
 
 bool QvxDbColumn::subWorldDraw(AcGiWorldDraw* draw) const {
@@ -183,22 +171,28 @@ bool QvxDbColumn::subWorldDraw(AcGiWorldDraw* draw) const {
 bool QvxDbAxisNumber::subWorldDraw(AcGiWorldDraw* draw) const {
   const double radius = width * ScaleFactor();
   draw->geometry().circle(start, radius, AcGeVector3d::kZAxis);
-  WriteAll(draw, TextPlaces());
+  DrawTexts(draw, TextPlaces());
   return true;
 }
 
 std::vector<QvxTextPlace> QvxDbAxisNumber::TextPlaces() const {
-  return {QvxTextPlace::Around(start, width * ScaleFactor(), label)};
+  return {OfMenu(kAxisName, QvxTextPlace::Around(start, width * ScaleFactor(), label))};
 }
 
 bool QvxDbText::subWorldDraw(AcGiWorldDraw* draw) const {
-  Write(draw, TextPlaces()[0]);
+  DrawTexts(draw, TextPlaces());
   return true;
 }
 
 std::vector<QvxTextPlace> QvxDbText::TextPlaces() const {
-  return {{label, start, width * ScaleFactor(), angle, 0}};
+  QvxTextPlace place = {label, start, width * ScaleFactor(), angle};
+  place.menu = kAnnotation;
+  place.multiLine = IsMultiLine();
+  place.wrap = size * ScaleFactor();
+  return {place};
 }
+
+QvxDbText::EditFunction QvxDbText::GetEditFunction() const { return EditTexts; }
 
 bool QvxDbStair::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
@@ -217,10 +211,10 @@ bool QvxDbSpace::subWorldDraw(AcGiWorldDraw* draw) const {
   const AcGePoint3d middle = Middle();
   const double f = ScaleFactor();
   draw->subEntityTraits().setColor(3);
-  Write(draw, TextPlaces()[0]);
+  DrawTexts(draw, TextPlaces());
   wchar_t area[40];
   std::swprintf(area, 40, L"%.2f m²", Area() / 1e6);
-  Write(draw, QvxTextPlace::Around({middle.x, middle.y - 220 * f, 0}, 240 * f, area));
+  QvxTextPlace::Around({middle.x, middle.y - 220 * f, 0}, 240 * f, area).Draw(draw);
   return true;
 }
 
@@ -239,7 +233,7 @@ std::vector<QvxTextPlace> TDbFloorRect::TextPlaces() const {
 
 bool TDbFloorRect::subWorldDraw(AcGiWorldDraw* draw) const {
   Rectangle(draw, start, AcGeVector3d::kXAxis, 0, 0, end.x - start.x, end.y - start.y, false);
-  WriteAll(draw, TextPlaces());
+  DrawTexts(draw, TextPlaces());
   return true;
 }
 

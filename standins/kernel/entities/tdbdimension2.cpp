@@ -4,6 +4,8 @@
 #include <cwchar>
 #include <numbers>
 
+#include "kernel/entities/measured_text.h"
+
 ACRX_DXF_DEFINE_MEMBERS(TDbDimension2, QvxDbEntity, 0, 0, 0, QVX_DIMENSION2, qvx_kernal)
 
 namespace {
@@ -22,7 +24,7 @@ void Segment(AcGiWorldDraw* draw, const AcGePoint3d& a, const AcGePoint3d& b) {
 
 }  // namespace
 
-std::wstring TDbDimension2::Text() const {
+std::wstring TDbDimension2::MeasuredText() const {
   wchar_t text[400];
   std::swprintf(text, 400, L"%.0f",
                 IsAngular() ? std::fabs(angle) / kDegree : start.distanceTo(end));
@@ -30,7 +32,10 @@ std::wstring TDbDimension2::Text() const {
 }
 
 double TDbDimension2::TextWidth() const {
-  return 0.6 * TextHeight() * static_cast<double>(Text().size());
+  QvxTextPlace place;
+  place.text = Text();
+  place.height = TextHeight();
+  return place.TextWidth();
 }
 
 double TDbDimension2::MeasuredLength() const {
@@ -49,16 +54,45 @@ void TDbDimension2::AdjustDim(bool aside, int rows, int gap) {
 bool TDbDimension2::subWorldDraw(AcGiWorldDraw* draw) const {
   if (!(start.distanceTo(end) > 0)) return false;
   IsAngular() ? DrawAngular(draw) : DrawLinear(draw);
+  DrawTexts(draw, TextPlaces());
   return true;
 }
 
-void TDbDimension2::DrawText(AcGiWorldDraw* draw, const AcGePoint3d& middle,
-                             const AcGePoint3d& beyond, const AcGeVector3d& along) const {
+std::vector<QvxTextPlace> TDbDimension2::TextPlaces() const {
+  if (!(start.distanceTo(end) > 0)) return {};
+  return {IsAngular() ? AngularText() : LinearText()};
+}
+
+void TDbDimension2::ChangeText(int index, const std::wstring& text) {
+  if (index == 0) label = OwnTextOf(text, MeasuredText());
+}
+
+QvxTextPlace TDbDimension2::PlaceText(const AcGePoint3d& middle, const AcGePoint3d& beyond,
+                                      const AcGeVector3d& along) const {
   const double f = ScaleFactor();
   const double up = kTextGap * f + (flags & kTextAbove ? TextHeight() * 1.4 : 0);
-  const AcGePoint3d at = flags & kTextAside ? At(beyond, along, kTextGap * f, up)
-                                            : At(middle, along, -TextWidth() / 2, up);
-  draw->geometry().text(at, AcGeVector3d::kZAxis, along, TextHeight(), 1, 0, Text().c_str());
+  QvxTextPlace place;
+  place.text = Text();
+  place.at = flags & kTextAside ? At(beyond, along, kTextGap * f, up)
+                                : At(middle, along, -TextWidth() / 2, up);
+  place.height = TextHeight();
+  place.angle = std::atan2(along.y, along.x);
+  place.menu = kMeasuredText;
+  return place;
+}
+
+QvxTextPlace TDbDimension2::LinearText() const {
+  const double length = start.distanceTo(end);
+  const AcGeVector3d along = (end - start).normal();
+  return PlaceText(At(start, along, length / 2, width), At(start, along, length, width), along);
+}
+
+QvxTextPlace TDbDimension2::AngularText() const {
+  const AcGeVector3d first = (end - start).normal();
+  const double from = std::atan2(first.y, first.x), half = from + angle / 2, last = from + angle;
+  const AcGeVector3d along(std::sin(half), -std::cos(half), 0);
+  return PlaceText(At(start, {std::cos(half), std::sin(half), 0}, width, 0),
+                   At(start, {std::cos(last), std::sin(last), 0}, width, 0), along);
 }
 
 void TDbDimension2::DrawLinear(AcGiWorldDraw* draw) const {
@@ -70,7 +104,6 @@ void TDbDimension2::DrawLinear(AcGiWorldDraw* draw) const {
   Segment(draw, At(start, along, 0, y), At(start, along, length, y));
   for (double x : {0.0, length})
     Segment(draw, At(start, along, x - tick, y - tick), At(start, along, x + tick, y + tick));
-  DrawText(draw, At(start, along, length / 2, y), At(start, along, length, y), along);
 }
 
 // A negative radius, which a large change of scale can give, is on the other side.
@@ -86,8 +119,4 @@ void TDbDimension2::DrawAngular(AcGiWorldDraw* draw) const {
   const double begin = width < 0 ? from + std::numbers::pi : from;
   draw->geometry().circularArc(start, std::fabs(width), AcGeVector3d::kZAxis,
                                {std::cos(begin), std::sin(begin), 0}, angle);
-  const double half = from + angle / 2, last = from + angle;
-  const AcGeVector3d along(std::sin(half), -std::cos(half), 0);
-  DrawText(draw, At(start, {std::cos(half), std::sin(half), 0}, width, 0),
-           At(start, {std::cos(last), std::sin(last), 0}, width, 0), along);
 }

@@ -29,15 +29,21 @@ class QVX_KERNEL TDbDimension2 : public QvxEditable<TDbEntity> {
   // height.
   void AdjustDim(bool aside, int rows, int gap);
 
+  // One text: the label, or the measured value without one.
+  std::vector<QvxTextPlace> TextPlaces() const override;
+  void ChangeText(int index, const std::wstring& text) override;
   bool subWorldDraw(AcGiWorldDraw* draw) const override;
 
  private:
-  std::wstring Text() const;
+  std::wstring MeasuredText() const;
+  std::wstring Text() const { return label.empty() ? MeasuredText() : label; }
   double TextHeight() const { return 250 * ScaleFactor(); }
   double TextWidth() const;
   double MeasuredLength() const;
   void DrawLinear(AcGiWorldDraw* draw) const;
   void DrawAngular(AcGiWorldDraw* draw) const;
-  void DrawText(AcGiWorldDraw* draw, const AcGePoint3d& middle, const AcGePoint3d& beyond,
-                const AcGeVector3d& along) const;
+  QvxTextPlace LinearText() const;
+  QvxTextPlace AngularText() const;
+  QvxTextPlace PlaceText(const AcGePoint3d& middle, const AcGePoint3d& beyond,
+                         const AcGeVector3d& along) const;
 };

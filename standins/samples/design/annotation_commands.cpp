@@ -2,6 +2,7 @@
 #include "annotation_commands.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cwchar>
 #include <memory>
 
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr double kAxisTextOff = 1200, kIndexRow = 800, kIndexWidth = 8000, kPointerRadius = 400;
+constexpr double kCellWidth = 3000, kCellHeight = 800, kNoteSize = 500;
 constexpr int kDelay = 80;  // ms
 
 bool TwoCorners(ads_point a, ads_point b) {
@@ -40,13 +42,44 @@ std::unique_ptr<Entity> Between(const ads_point a, const ads_point b) {
   return entity;
 }
 
+bool AskCount(const wchar_t* prompt, int& count) {
+  acedInitGet(6, nullptr);
+  return acedGetInt(prompt, &count) != RTCAN;
+}
+
 void DrawSheet() {
-  ads_point a{}, b{};
-  if (!TwoCorners(a, b)) return;
-  auto sheet = Between<QvxDbSheet>(a, b);
-  sheet->label = AskText(L"\n图名: ");
-  sheet->cells = {L"工程名称", L"设计", L"审核"};
+  ads_point at{};
+  int columns = 4, rows = 6;
+  if (acedGetPoint(nullptr, L"\n表格左上角: ", at) != RTNORM) return;
+  if (!AskCount(L"\n列数 <4>: ", columns) || !AskCount(L"\n行数 <6>: ", rows)) return;
+  auto sheet = Between<QvxDbSheet>(at, at);
+  sheet->width = kCellWidth;
+  sheet->size = kCellHeight;
+  sheet->kind = columns;
+  sheet->flags = rows;
   AddEntity(std::move(sheet), L"SHEET", 7);
+}
+
+// Any class of the family that has texts, by its name in drawing files.
+void DrawNote() {
+  ads_point a{}, b{};
+  const AcRxClass* cls = acrxClassOfDxfName(AskText(L"\n类型: ").c_str());
+  std::unique_ptr<AcRxObject> made(cls ? cls->create() : nullptr);
+  if (!QvxDbEntity::cast(made.get())) {
+    acutPrintf(L"\n没有这种类型。\n");
+    return;
+  }
+  if (!TwoPoints(a, b)) return;
+  std::unique_ptr<QvxDbEntity> note(QvxDbEntity::cast(made.release()));
+  note->start = WorldPoint(a);
+  note->end = WorldPoint(b);
+  note->outline = {note->start, {note->end.x, note->start.y, 0}, note->end};
+  note->width = kNoteSize;
+  note->size = std::max(kNoteSize, std::fabs(note->end.x - note->start.x));
+  note->label = AskText(L"\n文字: ");
+  for (std::wstring cell; !(cell = AskText(L"\n下一段文字 <结束>: ")).empty();)
+    note->cells.push_back(cell);
+  AddEntity(std::move(note), L"DIM", 3);
 }
 
 void DrawFloorRect() {
@@ -130,6 +163,7 @@ void GroupObjects() {
 
 const DesignCommand kAnnotationCommands[] = {
     {L"TSheet", DrawSheet},
+    {L"TNote", DrawNote},
     {L"TFloorRect", DrawFloorRect},
     {L"TDrawingIndex", DrawIndex},
     {L"TIndexPointer", DrawPointer},
