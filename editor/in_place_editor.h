@@ -69,6 +69,7 @@ class InPlaceEditor {
   void OnDrawingDestroyed(const AcApDocument* document);
 
   const TextDrag& Drag() const { return m_drag; }
+  bool IsMultiLine() const { return m_pSubText && m_pSubText->IsMultiLine(); }
   bool IsWrapped() const { return m_bWrapped; }
   bool IsInSubDialog() const { return m_bInSubDialog; }
 

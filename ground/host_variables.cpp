@@ -24,6 +24,7 @@ class VariableValue {
   bool Is(int type) const { return m_isRead && m_value.restype == type; }
   int Short() const { return m_value.resval.rint; }
   double Real() const { return m_value.resval.rreal; }
+  double X() const { return m_value.resval.rpoint[0]; }
   const wchar_t* Text() const { return m_value.resval.rstring; }  // may be null
 
  private:
@@ -37,6 +38,12 @@ std::optional<int> ShortVariable(const wchar_t* name) {
   const VariableValue value(name);
   if (!value.Is(RTSHORT)) return {};
   return value.Short();
+}
+
+std::optional<double> PointVariableX(const wchar_t* name) {
+  const VariableValue value(name);
+  if (!value.Is(RTPOINT) && !value.Is(RT3DPOINT)) return {};
+  return value.X();
 }
 
 TWCString TextVariable(const wchar_t* name) {

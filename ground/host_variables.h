@@ -10,6 +10,7 @@
 namespace qvx {
 
 std::optional<int> ShortVariable(const wchar_t* name);
+std::optional<double> PointVariableX(const wchar_t* name);  // of a point with two or three values
 TWCString TextVariable(const wchar_t* name);
 bool TextVariableContains(const wchar_t* name, const wchar_t* part);
 // A number or text as text; a value of another type leaves `text` unchanged. False when the

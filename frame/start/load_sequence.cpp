@@ -14,7 +14,6 @@
 #include "frame/start/win/host_window.h"
 #include "frame/start/win/icon_library.h"
 #include "ground/message_box.h"
-#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "popup/popup_door.h"
 #include "screenmenu/screen_menu_door.h"
@@ -93,6 +92,7 @@ void RunLoadSequence(void* packet) {
 }
 
 void RunUnloadSequence() {
+  CommitInPlaceEdit();
   SaveGlobalToReg();
   SaveRecentCommands();
   InitScreenMenuReactor(false);

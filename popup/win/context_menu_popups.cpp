@@ -7,6 +7,7 @@
 #include "ground/command_line.h"
 #include "kernel/globals.h"
 #include "kernel/tadsprintf.h"
+#include "popup/win/block_popup_door.h"
 #include "popup/win/context_menu_wnd.h"
 #include "popup/host_selection.h"
 #include "popup/menu_line_run.h"
@@ -41,12 +42,7 @@ class LiveLineHost : public MenuLineHost {
 
 }  // namespace
 
-CBitmapMenu* CContextMenuWnd::AddPopup() {
-  auto* menu = new CBitmapMenu;
-  m_popups.Append(menu);
-  menu->CreatePopupMenu();
-  return menu;
-}
+CBitmapMenu* CContextMenuWnd::AddPopup() { return AppendPopup(m_popups); }
 
 void CContextMenuWnd::ResetPopups() {
   if (m_isShowing) return;
@@ -57,16 +53,14 @@ void CContextMenuWnd::ResetPopups() {
 }
 
 int CContextMenuWnd::IsOurMenu(const CMenu* menu) const {
-  for (const CBitmapMenu* ours : m_popups)
-    if (menu && ours->m_hMenu == menu->m_hMenu) return 1;
-  return 0;
+  return FindPopup(m_popups, menu) ? 1 : 0;
 }
 
 void CContextMenuWnd::ForgetLines() {
   m_menuLife.Renew();
   m_pBar = nullptr;
-  for (CBitmapMenu* menu : m_popups)
-    for (CBitmapMenuItemData* row : menu->m_items) row->Forget();
+  BlockPopup::ForgetLines();
+  ForgetPopupLines(m_popups);
   if (m_isShowing)
     ::EndMenu();
   else
@@ -120,14 +114,8 @@ BOOL CContextMenuWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
   return CWnd::OnCommand(wParam, lParam);
 }
 
-// For a row with a sub-menu `itemID` is a menu handle, by which the base class cannot find the
-// menu; the row's record is enough to measure it.
 void CContextMenuWnd::OnMeasureItem(int control, LPMEASUREITEMSTRUCT item) {
-  if (item->CtlType == ODT_MENU && m_pMenu &&
-      ::IsMenu(reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item->itemID))))
-    m_pMenu->MeasureItem(item);
-  else
-    CWnd::OnMeasureItem(control, item);
+  if (!m_pMenu || !MeasureSubMenuRow(*m_pMenu, *item)) CWnd::OnMeasureItem(control, item);
 }
 
 LRESULT CContextMenuWnd::OnMenuChar(UINT character, UINT flags, CMenu* menu) {

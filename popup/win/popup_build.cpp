@@ -24,6 +24,32 @@ void AppendRow(CBitmapMenu& menu, const PopupRow& row, const std::vector<CBitmap
 
 }  // namespace
 
+CBitmapMenu* AppendPopup(TDPtrList<CBitmapMenu>& popups) {
+  auto* menu = new CBitmapMenu;
+  popups.Append(menu);
+  menu->CreatePopupMenu();
+  return menu;
+}
+
+CBitmapMenu* FindPopup(const TDPtrList<CBitmapMenu>& popups, const CMenu* menu) {
+  for (CBitmapMenu* ours : popups)
+    if (menu && ours->m_hMenu == menu->m_hMenu) return ours;
+  return nullptr;
+}
+
+void ForgetPopupLines(const TDPtrList<CBitmapMenu>& popups) {
+  for (CBitmapMenu* menu : popups)
+    for (CBitmapMenuItemData* row : menu->m_items) row->Forget();
+}
+
+bool MeasureSubMenuRow(CBitmapMenu& top, MEASUREITEMSTRUCT& item) {
+  if (item.CtlType != ODT_MENU ||
+      !::IsMenu(reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item.itemID))))
+    return false;
+  top.MeasureItem(&item);
+  return true;
+}
+
 void BuildPopup(const PopupPlan& plan, CBitmapMenu& top, PopupOwner& owner) {
   std::vector<CBitmapMenu*> menus{&top};
   while (menus.size() < plan.menus.size()) menus.push_back(owner.AddPopup());

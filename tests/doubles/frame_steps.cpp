@@ -17,7 +17,6 @@
 #include "ground/command_line.h"
 #include "ground/message_box.h"
 #include "ground/support_files.h"
-#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "popup/popup_door.h"
 #include "screenmenu/screen_menu_door.h"
@@ -65,6 +64,7 @@ void InitContextWindow(bool create, void (*onReadiness)()) {
   Note(create, create && !onReadiness ? L"window without readiness" : L"window");
 }
 void InitMessageFilter(bool add) { Note(add, L"filter"); }
+void CommitInPlaceEdit() { Note(L"commit edit"); }
 void RegisterCommands() { Note(L"+commands"); }
 void RemoveCommands() { Note(L"-commands"); }
 void InitScreenMenuReactor(bool add) { Note(add, L"reactor"); }

@@ -99,8 +99,8 @@ TEST_F(LoadSequence, EachCustomFlagLeavesOutItsOwnStepsOnly) {
 
 TEST_F(UnloadSequence, RunsEveryStepInItsOrder) {
   EXPECT_EQ(Unloaded(0),
-            (Diary{L"save settings", L"save recent", L"-reactor", L"palette gone", L"-window",
-                   L"-filter", L"-commands", L"free icons", L"destroy tabs", L"-group",
+            (Diary{L"commit edit", L"save settings", L"save recent", L"-reactor", L"palette gone",
+                   L"-window", L"-filter", L"-commands", L"free icons", L"destroy tabs", L"-group",
                    L"-baseline", L"-fill", L"-bold", L"-dyndim", L"-scale", L"unload kernel"}));
 }
 

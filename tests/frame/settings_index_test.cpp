@@ -16,7 +16,6 @@
 
 #include "frame/start/first_start.h"
 #include "frame/start/host_release.h"
-#include "ground/unbuilt_rooms.h"
 #include "kernel/globals.h"
 #include "kernel/settings.h"
 #include "kernel/tregproperty.h"
@@ -129,15 +128,6 @@ NamesByRoom NamesInSources() {
   return found;
 }
 
-// Rooms that are not built yet, whose use of settings is unknown.
-bool IsUnbuilt(const std::string& room) {
-  int count = 0;
-  const UnbuiltStep* steps = UnbuiltSteps(&count);
-  for (int i = 0; i < count; ++i)
-    if (room == steps[i].room) return true;
-  return false;
-}
-
 const IndexRow& RowOf(const std::wstring& name) {
   int count = 0;
   const IndexRow* all = SettingsIndex(&count);
@@ -199,7 +189,6 @@ TEST(SettingsIndex, EveryRowIsUsedByEachOfItsRooms) {
   const NamesByRoom sources = NamesInSources();
   for (const IndexRow& row : Rows()) {
     for (const std::string& room : Words(row.rooms)) {
-      if (IsUnbuilt(room)) continue;
       const auto names = sources.find(room);
       EXPECT_TRUE(names != sources.end() && names->second.count(Bytes(row.name)))
           << room << " doesn't use " << Bytes(row.name);

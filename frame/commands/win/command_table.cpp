@@ -4,12 +4,12 @@
 
 #include "accmd.h"
 #include "dialogs/win/information_commands.h"
+#include "editor/editor_door.h"
 #include "ground/guard.h"
 #include "ground/host_registry.h"
 #include "frame/commands/win/live_menu_commands.h"
 #include "frame/start/shell.h"
 #include "frame/commands/win/show_bar.h"
-#include "ground/unbuilt_rooms.h"
 #include "screenmenu/screen_menu_door.h"
 
 namespace {
@@ -33,8 +33,8 @@ const CommandRow kCommands[] = {
     {L"TSetAviMode", qvx::GuardedHandler<ToggleAviMode>, ACRX_CMD_MODAL},
     {L"TFloatMenuBar", qvx::GuardedHandler<DockFloatingScreenMenu>, ACRX_CMD_MODAL},
     {L"TLoadMenu", qvx::GuardedHandler<LoadMenu>, ACRX_CMD_MODAL},
-    {L"TInPlaceEdit", qvx::GuardedHandler<unbuilt::InPlaceEdit>, ACRX_CMD_USEPICKSET},
-    {L"TTextEditInBlock", qvx::GuardedHandler<unbuilt::TextEditInBlock>, ACRX_CMD_TRANSPARENT},
+    {L"TInPlaceEdit", qvx::GuardedHandler<RunInPlaceEdit>, ACRX_CMD_USEPICKSET},
+    {L"TTextEditInBlock", qvx::GuardedHandler<RunTextEditInBlock>, ACRX_CMD_TRANSPARENT},
     {L"TCurTips", qvx::GuardedHandler<ShowCurrentTips>, ACRX_CMD_TRANSPARENT},
     {L"TAbout", qvx::GuardedHandler<ShowAbout>, ACRX_CMD_TRANSPARENT},
     {L"TReportBug", qvx::GuardedHandler<ReportBug>, ACRX_CMD_TRANSPARENT},

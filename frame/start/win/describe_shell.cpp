@@ -1,14 +1,13 @@
 // The module's diagnostic exports: the state of its windows as JSON, and its settings as text.
-// Sections of rooms that are not built are null; the steps that wait for a room are listed with the
-// number of calls. "handles" is the number of owned handles; those left without a screen menu and a
-// dialog are leaks.
+// "handles" is the number of owned handles; those left without a screen menu and a dialog are
+// leaks.
 #include <string>
 
 #include "doctabs/doc_tab_bar_door.h"
+#include "editor/editor_door.h"
 #include "frame/settings/settings_report.h"
 #include "ground/guard.h"
 #include "ground/json_text.h"
-#include "ground/unbuilt_rooms.h"
 #include "ground/win/owned_handle.h"
 #include "menu/menu_in_force.h"
 #include "popup/win/context_menu_wnd.h"
@@ -41,18 +40,6 @@ std::string PanesSection() {
   return json + "]";
 }
 
-std::string UnbuiltSection() {
-  std::string json = "[";
-  int count = 0;
-  const UnbuiltStep* steps = UnbuiltSteps(&count);
-  for (int i = 0; i < count; ++i) {
-    if (i) json += ",";
-    json += std::string("{\"name\":\"") + steps[i].name + "\",\"room\":\"" + steps[i].room +
-            "\",\"calls\":" + std::to_string(steps[i].calls) + "}";
-  }
-  return json + "]";
-}
-
 }  // namespace
 
 // UTF-8, valid until the next call; main thread only.
@@ -61,10 +48,9 @@ extern "C" __declspec(dllexport) const char* QvxDescribeShell() {
     static std::string json;
     json = "{\"screenmenu\":" + DescribeScreenMenu() + ",\"popup\":" + DescribePopup() +
            ",\"tabs\":" + DescribeDocTabs() + ",\"panes\":" + PanesSection() +
-           ",\"editor\":null,\"recent\":" + RecentSection() +
+           ",\"editor\":" + DescribeInPlaceEdit() + ",\"recent\":" + RecentSection() +
            ",\"handles\":" + std::to_string(qvx::LiveHandles::Count()) +
-           ",\"faults\":" + std::to_string(qvx::FaultCount()) + ",\"unbuilt\":" + UnbuiltSection() +
-           "}";
+           ",\"faults\":" + std::to_string(qvx::FaultCount()) + "}";
     return json.c_str();
   });
 }
