@@ -101,8 +101,8 @@ bool HasWord(const std::string& text, const std::string& word) {
 void CollectFile(const std::string& text, std::set<std::string>& names) {
   for (const char* call :
        {"GetValue(", "SetValue(", "ScreenMenuSetting(", "acedGetVar(", "acedPutSym(",
-        "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "ShortVariable(", "TextVariable(",
-        "SetRealVariable(", "TextOf(product, ", "TPushAcadVar<int, 0> "})
+        "GetIniBuferValueByKey(", "ValueOf(", "product.Value(", "ShortVariable(", "PointVariableX(",
+        "TextVariable(", "SetRealVariable(", "TextOf(product, ", "TPushAcadVar<int, 0> "})
     CollectCall(text, call, names);
   const std::string flag = "L\"InitStart";  // the release selects the name
   for (size_t at = text.find(flag); at != text.npos; at = text.find(flag, at + 1))

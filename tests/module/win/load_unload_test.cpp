@@ -221,13 +221,6 @@ TEST_F(Module, StartsWithoutTheTipThatTheUserTurnedOffAndAdvancesByOne) {
   HostProcess::Get().Remove(L"qvxtips.txt");
 }
 
-TEST_F(Module, ListsWhatIsNotBuiltYetAndCountsItsCalls) {
-  ASSERT_TRUE(LoadModule());
-  EXPECT_TRUE(Contains(Shell(), "{\"name\":\"TInPlaceEdit\",\"room\":\"editor\",\"calls\":0}"))
-      << Shell();
-  EXPECT_FALSE(Contains(Shell(), "doctabs")) << "a room that is built";
-}
-
 TEST_F(Module, TheContextWindowIsAChildOfTheFrameOfOnePixel) {
   ASSERT_TRUE(LoadModule());
   const HWND window = HostProcess::Get().ContextWindow();
