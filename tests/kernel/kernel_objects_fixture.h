@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "devhost/core/undo/undo.h"
 #include "acedads.h"
 #include "kernel/current_drawing.h"
 #include "kernel/tsubtext.h"
@@ -72,6 +73,7 @@ class ObjectsTest : public hosttest::HostTest {
   }
   // As the editor commits: one lock for one update.
   void Commit(TSubText& fragment, const wchar_t* text) {
+    devhost::EndLockSteps();  // as at idle time: the lock is a step of its own
     AcApDocument* document = acDocManager->curDocument();
     acDocManager->lockDocument(document);
     fragment.Update(text);
