@@ -14,7 +14,7 @@ bool IsOpen(DrawingHost& host, AcApDocument* document) {
 }
 
 // A drawing without a path is new, not opened from a file. Deliberate: a network path has no colon
-// either, so the start drawing stays open behind a drawing from there.
+// either, so a drawing from there leaves the start drawing open.
 bool IsFromFile(const CString& fileName) { return fileName.Find(L':') >= 0; }
 
 void CloseStartDrawing(DrawingStrip tabs, AcApDocument* document) {

@@ -1,6 +1,6 @@
 // The strip over the host's drawings: what it does when drawings come, go and become active, and
-// the steps of its commands. The host is behind DrawingHost (host_drawings.h implements it), so
-// that each order of steps is tested without one.
+// the steps of its commands. The host is reached through DrawingHost (host_drawings.h implements
+// it), so that each order of steps is tested without one.
 #pragma once
 
 #include <optional>

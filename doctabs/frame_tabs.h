@@ -1,4 +1,4 @@
-// Which child frame each tab stands for, and the frames of outside keys (drawings). Frames are not
+// The child frame of each tab, and the frames of outside keys (drawings). Frames are not
 // owned and may be deleted objects: only FrameWindows looks at them. It learns of frames by the
 // operations below only. CMDITabBar owns one.
 #pragma once

@@ -64,7 +64,7 @@ class TabStrip {
   int ActiveTab() const;  // -1: none
   int Find(const CString& name) const { return m_names.Find(name); }
   int Origin() const { return OriginOf(m_offsets.Values(), m_nFirstTab); }
-  // The point is on the arrows, behind which a tab may continue.
+  // The point is on the arrows, which may cover a part of a tab.
   bool IsOnArrows(int clientX) const;
 
   // In display order; a text at most once.

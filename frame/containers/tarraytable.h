@@ -1,5 +1,5 @@
 // TArrayTable: the cursor list as an array, for lists of thousands that are read by index. Any
-// index is reached at once; inserting and deleting move the elements behind. Values that are plain
+// index is reached at once; inserting and deleting move the later elements. Values that are plain
 // bytes are side by side (Values()), others are held by pointer, so that only pointers move.
 #pragma once
 

@@ -31,7 +31,7 @@ class DrawingTabsTest : public testing::Test {
     window.Take();
     OpenAndNotify(2, path);
   }
-  // Only what the host was told.
+  // Only what the host was given.
   Diary HostCalls() {
     Diary calls;
     for (const std::wstring& line : window.Take())

@@ -70,7 +70,7 @@ class DiaryWindow : public TabStripWindow {
   void Note(const std::wstring& text) { diary.push_back(text); }
 };
 
-// Stands for an object that nobody looks at.
+// In place of an object that is not examined.
 template <class T>
 T* Thing(int number) {
   static char places[1000];

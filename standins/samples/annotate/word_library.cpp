@@ -7,7 +7,7 @@ namespace {
 
 struct Line {
   std::wstring_view text;  // without blanks around it
-  std::size_t end;         // of the line in the whole text, behind its line break
+  std::size_t end;         // of the line in the whole text, after its line break
 };
 
 std::wstring_view Trimmed(std::wstring_view text) {
@@ -47,7 +47,7 @@ bool Holds(const WordGroup& group, std::wstring_view word) {
   return std::ranges::find(group.words, word) != group.words.end();
 }
 
-// Behind the group's last word, or behind its heading when it has none.
+// After the group's last word, or after its heading when it has none.
 std::optional<std::size_t> EndOfGroup(std::wstring_view text, std::wstring_view group) {
   std::optional<std::size_t> end;
   bool inside = false;

@@ -341,7 +341,7 @@ void Writer::Vertices(const AcDbEntity& entity, const ClassText& now, const Clas
 }
 
 // A proxy without subclass marks, from a file of R12: with the marks of other releases its groups
-// could not be told from the shared ones.
+// could not be distinguished from the shared ones.
 void Writer::UnmarkedEntity(const AcDbProxyEntity& proxy) {
   const auto* space = AcDbBlockTableRecord::cast(proxy.ownerId().object());
   if (space && SameName(space->getName(), ACDB_PAPER_SPACE)) m_filer.writeInt(67, 1);
