@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "ground/utf8_text.h"
+
 namespace edittest {
 namespace {
 
@@ -17,22 +19,13 @@ std::string RangeText(qvx::TextRange range) {
 
 std::string Narrow(const std::wstring& text) {
   std::string out;
-  for (const wchar_t unit : text) {
-    const auto c = static_cast<unsigned>(unit);
-    if (c == '\r') {
+  for (const char unit : qvx::ToUtf8(text)) {
+    if (unit == '\r')
       out += "\\r";
-    } else if (c == '\n') {
+    else if (unit == '\n')
       out += "\\n";
-    } else if (c < 0x80) {
-      out += static_cast<char>(c);
-    } else if (c < 0x800) {
-      out += static_cast<char>(0xC0 | c >> 6);
-      out += static_cast<char>(0x80 | (c & 63));
-    } else {
-      out += static_cast<char>(0xE0 | (c >> 12 & 15));
-      out += static_cast<char>(0x80 | (c >> 6 & 63));
-      out += static_cast<char>(0x80 | (c & 63));
-    }
+    else
+      out += unit;
   }
   return out;
 }

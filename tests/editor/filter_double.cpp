@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "ground/utf8_text.h"
+
 namespace editortest {
 namespace {
 
@@ -42,23 +44,7 @@ class ToggleDouble : public qvx::ToggleObjects {
 
 }  // namespace
 
-std::string Utf8(const wchar_t* text) {
-  std::string out;
-  for (; *text; ++text) {
-    const unsigned c = static_cast<unsigned>(*text);
-    if (c < 0x80) {
-      out += static_cast<char>(c);
-    } else if (c < 0x800) {
-      out += static_cast<char>(0xC0 | c >> 6);
-      out += static_cast<char>(0x80 | (c & 63));
-    } else {
-      out += static_cast<char>(0xE0 | (c >> 12 & 15));
-      out += static_cast<char>(0x80 | (c >> 6 & 63));
-      out += static_cast<char>(0x80 | (c & 63));
-    }
-  }
-  return out;
-}
+std::string Utf8(const wchar_t* text) { return qvx::ToUtf8(text); }
 
 int FilterDouble::Found(const std::string& entry) {
   m_diary.Note(entry);
