@@ -95,9 +95,25 @@ run_windows_programs() {
 # copies tests/plays/products/NAME over a copy of the product; `# without: FILE...` removes files
 # from that copy; `# exit: N` the expected exit code (0); `# output: TEXT` text that the output must
 # contain; `# tips: shown` keeps the tip of the day, which is otherwise disabled. A play also fails
-# when the host leaves a message waiting for more than half a second.
+# when the host leaves a message waiting for more than half a second. Load on the machine can delay a
+# message too; then the play is run once more, and its second result counts.
 run_play() {
-  local script=$1 name rc=0 want args overlay without output
+  local name waited
+  name=$(basename "$1" .script)
+  play_once "$1"
+  waited=$(sed -n 's/.*longest wait \(.*\), which is longer than the play allows.*/\1/p' "build/plays/$name/output.txt")
+  if [ "$play_met" = 0 ] && [ -n "$waited" ]; then
+    printf 'play     %-28s again: waited %s\n' "$name" "$waited"
+    play_once "$1"
+  fi
+  if [ "$play_met" = 1 ]; then pass; printf 'play     %-28s ok\n' "$name"; return; fi
+  fail "play $name ended with $play_rc"; tail -n 15 "build/plays/$name/output.txt"
+  tail -n 5 "build/plays/$name/journal.jsonl" 2>/dev/null
+}
+
+# Sets play_rc to the exit code, or to `crash`, and play_met to 1 if the play did what its head says.
+play_once() {
+  local script=$1 name want args overlay without output
   name=$(basename "$script" .script)
   head_value() { sed -n "s/^# $1: *//p" "$script" | head -n 1; }
   want=$(head_value exit); args=$(head_value args); overlay=$(head_value product)
@@ -113,16 +129,15 @@ run_play() {
   [ "$(head_value tips)" = shown ] || qvx_leave_out_tips
   # Without the browser control, whose start asks another process and can take ten seconds, the help
   # viewer opens no window; its calls are recorded all the same.
+  play_rc=0
   # shellcheck disable=SC2086
   (cd "$work" && WINEDLLOVERRIDES="$WINEDLLOVERRIDES;ieframe=" LC_ALL=zh_CN.UTF-8 timeout 90 wine ../../windows/bin/devhost.exe --product product \
-     --play play.script --journal journal.jsonl --longest-wait 0.5 $args) >"$work/output.txt" 2>&1 || rc=$?
+     --play play.script --journal journal.jsonl --longest-wait 0.5 $args) >"$work/output.txt" 2>&1 || play_rc=$?
   # A host that crashed ends with 0 after the debugger's report.
-  if grep -qa '^wine: Unhandled' "$work/output.txt"; then rc=crash; fi
-  if [ "$rc" = "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
-    pass; printf 'play     %-28s ok\n' "$name"
-  else
-    fail "play $name ended with $rc"; tail -n 15 "$work/output.txt"
-    tail -n 5 "$work/journal.jsonl" 2>/dev/null
+  if grep -qa '^wine: Unhandled' "$work/output.txt"; then play_rc=crash; fi
+  play_met=0
+  if [ "$play_rc" = "${want:-0}" ] && { [ -z "$output" ] || grep -qF -- "$output" "$work/output.txt"; }; then
+    play_met=1
   fi
 }
 
