@@ -1,5 +1,6 @@
 // Tiled viewports: tiling, the current one, the command -VPORTS, CVPORT, the published records; the
 // direction of view; grid dots.
+#include <algorithm>
 #include <memory>
 #include <numbers>
 
@@ -97,6 +98,28 @@ TEST_F(Viewports, EachKeepsItsOwnView) {
   EXPECT_EQ(Drawing().view.PixelsPerUnit(), scale);
   EXPECT_DOUBLE_EQ(Set().ViewOf(3)->PixelsPerUnit(), 4 * scale);
   EXPECT_EQ(Set().ViewOf(4), nullptr);
+}
+
+TEST_F(Viewports, ZoomTakesAWindowByItsCornersOrByItsKeyword) {
+  for (const wchar_t* typed : {L"ZOOM 100,200 900,600\n", L"ZOOM W 900,600 100,200\n"}) {
+    Send(L"ZOOM 7X\n");
+    Send(typed);
+    const ViewTransform& view = Drawing().view;
+    EXPECT_DOUBLE_EQ(view.Center().x, 500) << typed;
+    EXPECT_DOUBLE_EQ(view.Center().y, 400) << typed;
+    EXPECT_DOUBLE_EQ(view.PixelsPerUnit(), std::min(view.Width() / 800.0, view.Height() / 400.0))
+        << typed;
+  }
+}
+
+TEST_F(Viewports, ZoomRefusesWhatIsNoPointNoKeywordAndNoFactor) {
+  for (const wchar_t* typed : {L"ZOOM -2\n", L"ZOOM 0\n", L"ZOOM 2Y\n"}) {
+    const double scale = Drawing().view.PixelsPerUnit();
+    ui.printed.clear();
+    Send(typed);
+    EXPECT_EQ(Drawing().view.PixelsPerUnit(), scale) << typed;
+    EXPECT_NE(ui.printed.find(L"需要点或选项关键字。"), std::wstring::npos) << typed;
+  }
 }
 
 TEST_F(Viewports, PixelsAreThoseOfTheWindow) {

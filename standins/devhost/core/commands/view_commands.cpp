@@ -15,26 +15,43 @@ namespace {
 
 Document* CurrentDocument() { return TheHost().documents.Current(); }
 
+bool ZoomToWindow(ViewTransform& view, const ads_point first) {
+  ads_point second{};
+  if (acedGetCorner(first, L"指定对角点: ", second) != RTNORM) return false;
+  AcDbExtents window;
+  window.addPoint(WorldOfUser(first));
+  window.addPoint(WorldOfUser(second));
+  view.ZoomTo(window, 1);
+  return true;
+}
+
+// "2", "2X", "2XP"
+bool ZoomByFactor(ViewTransform& view, const wchar_t* word) {
+  wchar_t* end = nullptr;
+  const double factor = std::wcstod(word, &end);
+  if (!(factor > 0) || (*end && UpperCase(end) != L"X" && UpperCase(end) != L"XP")) {
+    TheHost().Print(L"\n需要点或选项关键字。\n");
+    return false;
+  }
+  view.ZoomAt(view.Middle(), factor);
+  return true;
+}
+
 void Zoom() {
   Document* document = CurrentDocument();
+  ViewTransform& view = document->view;
+  ads_point corner{};
+  acedInitGet(128, L"All Extents Window");
+  int status = acedGetPoint(nullptr, L"指定窗口或 [全部(A)/范围(E)/窗口(W)/比例(nX)]: ", corner);
   ACHAR word[40] = L"";
-  ads_real factor = 0;
-  acedInitGet(128, L"All Extents");
-  const int status = acedGetReal(L"指定窗口或 [全部(A)/范围(E)/比例(nX)]: ", &factor);
-  if (status == RTKWORD)
-    acedGetInput(word);
-  else if (status != RTNORM)
+  if (status == RTKWORD) acedGetInput(word);
+  if (word[0] == L'W') status = acedGetPoint(nullptr, L"指定第一个角点: ", corner);
+  if (status == RTNORM) {
+    if (!ZoomToWindow(view, corner)) return;
+  } else if (word[0] == L'A' || word[0] == L'E') {
+    view.ZoomTo(ExtentsOf(*document->database()));
+  } else if (status != RTKWORD || !ZoomByFactor(view, word)) {
     return;
-  wchar_t* end = nullptr;
-  if (status == RTKWORD && (word[0] == L'A' || word[0] == L'E')) {
-    document->view.ZoomTo(ExtentsOf(*document->database()));
-  } else {
-    if (status == RTKWORD) factor = std::wcstod(word, &end);  // "2X"
-    if (!(factor > 0) || (end && *end && UpperCase(end) != L"X" && UpperCase(end) != L"XP")) {
-      TheHost().Print(L"\n需要点或选项关键字。\n");
-      return;
-    }
-    document->view.ZoomAt(document->view.Middle(), factor);
   }
   TheHost().Ui().ViewChanged(*document);
 }

@@ -58,7 +58,7 @@ void ViewTransform::ZoomAt(POINT pixel, double factor) {
   m_center = {m_center.x + kept.x - now.x, m_center.y + kept.y - now.y};
 }
 
-void ViewTransform::ZoomTo(const AcDbExtents& extents) {
+void ViewTransform::ZoomTo(const AcDbExtents& extents, double share) {
   if (!extents.isValid()) return;
   AcDbExtents seen;
   const AcGePoint3d ends[] = {extents.minPoint(), extents.maxPoint()};
@@ -70,7 +70,7 @@ void ViewTransform::ZoomTo(const AcDbExtents& extents) {
   const AcGePoint3d lo = seen.minPoint(), hi = seen.maxPoint();
   const double w = std::max(hi.x - lo.x, 1e-6), h = std::max(hi.y - lo.y, 1e-6);
   m_center = {(lo.x + hi.x) / 2, (lo.y + hi.y) / 2};
-  m_scale = std::clamp(std::min(m_width / w, m_height / h) * 0.95, kMinScale, kMaxScale);
+  m_scale = std::clamp(std::min(m_width / w, m_height / h) * share, kMinScale, kMaxScale);
 }
 
 void ViewTransform::ShowAt(double x, double y, double height) {

@@ -22,8 +22,9 @@ class ViewTransform {
   double PixelsPerUnit() const { return m_scale; }
 
   void ZoomAt(POINT pixel, double factor);  // keeps the world point under the pixel
-  void ZoomTo(const AcDbExtents& extents);  // with a margin of a twentieth; ignores invalid extents
-  void PanBy(int dx, int dy);               // pixels
+  // Fits the extents into this share of the viewport. Invalid extents are ignored.
+  void ZoomTo(const AcDbExtents& extents, double share = 0.95);
+  void PanBy(int dx, int dy);  // pixels
   // The middle in display coordinates, and the units from the lower to the upper edge.
   void ShowAt(double x, double y, double height);
 
