@@ -39,6 +39,11 @@ class DiaryWorld : public PlayWorld {
   std::vector<std::string> HighlightedHandles() override { return highlighted; }
   std::string TypedText() override { return typed; }
   std::string TipText() override { return tip; }
+  bool DrawnTexts(const std::string& handle, std::vector<std::string>* texts) override {
+    if (!drawn.contains(handle)) return false;
+    *texts = drawn[handle];
+    return true;
+  }
   std::string PointerAway(const Target& target) override {
     return target.x == pointerX ? "" : "it is elsewhere";
   }
@@ -66,6 +71,7 @@ class DiaryWorld : public PlayWorld {
   std::map<std::string, std::string> problems, variables, settings;
   std::vector<std::string> highlighted;
   std::string typed, tip;
+  std::map<std::string, std::vector<std::string>> drawn;
   double pointerX = 0;
   std::multimap<Milliseconds, std::function<void()>> later;
   Milliseconds idleFrom{0}, menuFrom{1h}, popupFrom{1h};
@@ -105,6 +111,26 @@ TEST_F(PlayTest, HighlightedObjectsAreComparedAsASetAndWaitedFor) {
   EXPECT_NE(world.printed.find("expected to be highlighted: none"), std::string::npos);
   world.later.emplace(world.Now() + 300ms, [this] { world.highlighted.clear(); });
   EXPECT_EQ(Play("expect highlighted none\n"), 0);
+}
+
+TEST_F(PlayTest, OneOfTheTextsOfAnObjectIsTheExpectedOne) {
+  world.drawn["2A"] = {"客厅", "12.5"};
+  world.drawn["2B"] = {};
+  EXPECT_EQ(Play("expect text 2a \"12.5\"\nexpect text 2A \"客厅\"\nexpect text 2B \"\"\n"), 0);
+  EXPECT_EQ(Play("expect text 2A \"12\"\n"), 1);
+  EXPECT_EQ(world.printed,
+            "t.script:1: expect text 2A \"12\"\n"
+            "  expected 2A to draw the text: \"12\"; it draws \"客厅\", \"12.5\"");
+  world.printed.clear();
+  EXPECT_EQ(Play("expect text 2A \"\"\n"), 1);
+  world.printed.clear();
+  EXPECT_EQ(Play("expect text 2B \"a\"\n"), 1);
+  EXPECT_NE(world.printed.find("it draws no text"), std::string::npos) << world.printed;
+  world.printed.clear();
+  EXPECT_EQ(Play("expect text 3F \"\"\n"), 1);
+  EXPECT_NE(world.printed.find("the active drawing has no such object"), std::string::npos);
+  world.later.emplace(world.Now() + 300ms, [this] { world.drawn["3F"] = {"a"}; });
+  EXPECT_EQ(Play("expect text 3F \"a\"\n"), 0);
 }
 
 TEST_F(PlayTest, SettingsAreComparedLikeVariables) {

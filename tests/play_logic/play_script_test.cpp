@@ -75,6 +75,7 @@ TEST(PlayScript, EveryVerbHasItsKind) {
       {"expect nothing sent", StepKind::ExpectNothingSent},
       {"expect printed \"a\"", StepKind::ExpectPrinted},
       {"expect typed \"a\"", StepKind::ExpectTyped},
+      {"expect text 1A \"a\"", StepKind::ExpectText},
       {"expect help \"a.chm\" topic", StepKind::ExpectHelp},
       {"expect highlighted 1A", StepKind::ExpectHighlighted},
       {"expect pointer world 1 2", StepKind::ExpectPointer},
@@ -116,6 +117,8 @@ TEST(PlayScript, TargetsHaveLabelsHandlesAndPoints) {
   EXPECT_EQ(OneStep("click popup \"删除\"").target.kind, TargetKind::Popup);
   EXPECT_EQ(OneStep("click button \"确定\"").target.kind, TargetKind::Button);
   EXPECT_EQ(OneStep("click entity 2AF").target.text, "2AF");
+  EXPECT_EQ(OneStep("click character 12").target.kind, TargetKind::Character);
+  EXPECT_EQ(OneStep("click character 12").target.position, 12);
   const Step both = OneStep("click row \"a\" then view 3 4 Ctrl");
   EXPECT_EQ(both.target.text, "a");
   EXPECT_EQ(both.target2.kind, TargetKind::View);
@@ -165,10 +168,13 @@ TEST(PlayScript, ButtonsHelpCallsAndHighlightedObjectsHaveTheirParts) {
   EXPECT_EQ(help.number, 13);
   EXPECT_EQ(help.value.text, "墙体");
   EXPECT_TRUE(OneStep("expect highlighted none").handles.empty());
+  const Step text = OneStep("expect text 2a \"A1\"");
+  EXPECT_EQ(text.handles, (std::vector<std::string>{"2A"}));
+  EXPECT_EQ(text.text, "A1");
   EXPECT_EQ(OneStep("expect highlighted 21 a0").handles, (std::vector<std::string>{"21", "A0"}));
   for (const char* text :
        {"expect help \"a\" index", "expect highlighted 21", "expect pointer view 1 2",
-        "expect typed \"\"", "expect setting a 1", "expect tip \"a\""})
+        "expect typed \"\"", "expect setting a 1", "expect tip \"a\"", "expect text 1 \"\""})
     EXPECT_TRUE(IsExpectation(OneStep(text).kind)) << text;
   EXPECT_FALSE(IsExpectation(OneStep("buttonup right view 1 2").kind));
 }
@@ -216,6 +222,11 @@ TEST(PlayScript, ErrorsHaveAPlaceAndNameWhatWasExpected) {
       {"click strip", "t.script:1:12: error: left, right or empty is missing"},
       {"click strip \"left\"", "t.script:1:13: error: left, right or empty is missing"},
       {"click strip end", "t.script:1:13: error: the part of the strip is left, right or empty"},
+      {"click character", "t.script:1:16: error: the position is missing"},
+      {"click character -1",
+       "t.script:1:17: error: the position must be a whole number from 0 to 1000000"},
+      {"expect text \"a\"", "t.script:1:13: error: the handle is missing"},
+      {"expect text 2A", "t.script:1:15: error: the text in quotes is missing"},
       {"expect tip", "t.script:1:11: error: the text in quotes is missing"},
       {"expect pointer", "t.script:1:15: error: the target is missing"},
       {"wait long",

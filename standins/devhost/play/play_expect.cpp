@@ -102,6 +102,8 @@ std::string PlayExpectations::Check(const Step& step) {
       return Typed(step.text);
     case StepKind::ExpectTip:
       return Tip(step.text);
+    case StepKind::ExpectText:
+      return Text(step);
     case StepKind::ExpectState:
       return State(step);
     default:
@@ -235,6 +237,24 @@ std::string PlayExpectations::Tip(const std::string& text) {
   if (met) return {};
   return "expected the tip: " + QuotedForScript(text) + "; " +
          (tip.empty() ? "no tip is shown" : "it is " + Shown(tip));
+}
+
+std::string PlayExpectations::Text(const Step& step) {
+  const std::string& handle = step.handles[0];
+  std::vector<std::string> texts;
+  bool known = false;
+  const bool met = WaitFor(m_world, [&] {
+    texts.clear();
+    known = m_world.DrawnTexts(handle, &texts);
+    if (step.text.empty()) return known && texts.empty();
+    return std::find(texts.begin(), texts.end(), step.text) != texts.end();
+  });
+  if (met) return {};
+  std::string drawn;
+  for (const std::string& text : texts) drawn += (drawn.empty() ? "" : ", ") + Shown(text);
+  if (drawn.empty()) drawn = "no text";
+  return "expected " + handle + " to draw the text: " + QuotedForScript(step.text) + "; " +
+         (known ? "it draws " + drawn : "the active drawing has no such object");
 }
 
 std::string PlayExpectations::State(const Step& step) {

@@ -1,6 +1,6 @@
 // Checks the expectations of a script against journal, variables, settings, highlighted objects,
-// pointer, typed text, tool tip and shell state. An expectation
-// waits for events that are still to come; a failure names the actual value.
+// texts of objects, pointer, typed text, tool tip and shell state. An expectation waits for events
+// that are still to come; a failure names the actual value.
 //
 // Consecutive expectations examine the journal from the first acting step after the previous group.
 // Each match advances its own kind (sent, printed, help), so two expectations never match one
@@ -36,6 +36,7 @@ class PlayExpectations {
   std::string Pointer(const Step& step);
   std::string Typed(const std::string& text);
   std::string Tip(const std::string& text);
+  std::string Text(const Step& step);
   std::string State(const Step& step);
   bool WaitUntilIdle();
 

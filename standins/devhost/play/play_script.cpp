@@ -11,8 +11,9 @@
 namespace devhost {
 namespace {
 
-constexpr int kMaxWait = 600000;  // ms; longer waits are assumed to be mistakes
-constexpr int kMaxWheel = 32767;  // the delta has 16 bits
+constexpr int kMaxWait = 600000;       // ms; longer waits are assumed to be mistakes
+constexpr int kMaxPosition = 1000000;  // of a character
+constexpr int kMaxWheel = 32767;       // the delta has 16 bits
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 class StepReader {
@@ -101,6 +102,7 @@ class StepReader {
   bool Drag();
   bool Handles();
   bool ExpectHelp();
+  bool ExpectText();
   bool Pointer(StepKind kind) { return Is(kind) && ReadTarget(&m_step->target) && Held(); }
   bool Text(StepKind kind, const char* what) { return Is(kind) && Quoted(&m_step->text, what); }
   bool Assign(StepKind kind) {
@@ -199,12 +201,14 @@ bool StepReader::Part(std::string* part) {
 }
 
 // target: row "path" | tab "name" | strip part | pane "name" | popup "label" | button "label"
-//       | entity HANDLE | world X Y | view X Y
+//       | entity HANDLE | world X Y | view X Y | character N
 bool StepReader::ReadTarget(Target* target) {
   static const std::map<std::string_view, TargetKind> kinds = {
-      {"row", TargetKind::Row},     {"tab", TargetKind::Tab},       {"pane", TargetKind::Pane},
-      {"popup", TargetKind::Popup}, {"button", TargetKind::Button}, {"entity", TargetKind::Entity},
-      {"world", TargetKind::World}, {"view", TargetKind::View},     {"strip", TargetKind::Strip},
+      {"row", TargetKind::Row},       {"tab", TargetKind::Tab},
+      {"pane", TargetKind::Pane},     {"popup", TargetKind::Popup},
+      {"button", TargetKind::Button}, {"entity", TargetKind::Entity},
+      {"world", TargetKind::World},   {"view", TargetKind::View},
+      {"strip", TargetKind::Strip},   {"character", TargetKind::Character},
   };
   std::string word;
   if (!Bare(&word, "the target")) return false;
@@ -219,6 +223,8 @@ bool StepReader::ReadTarget(Target* target) {
     case TargetKind::World:
     case TargetKind::View:
       return Points(target);
+    case TargetKind::Character:
+      return Integer(&target->position, 0, kMaxPosition, "the position");
     default:
       return Quoted(&target->text, "the label");
   }
@@ -327,7 +333,14 @@ bool StepReader::ExpectHelp() {
   return AtEnd() || Quoted(&m_step->value.text, "the keyword");
 }
 
-// expect: sent "text" | nothing sent | printed "text" | typed "text" | tip "text" | help
+// text: HANDLE "text"
+bool StepReader::ExpectText() {
+  m_step->handles.emplace_back();
+  return Is(StepKind::ExpectText) && Handle(&m_step->handles[0]) &&
+         Quoted(&m_step->text, "the text");
+}
+
+// expect: sent "text" | nothing sent | printed "text" | typed "text" | tip "text" | help | text
 //       | var NAME value | setting NAME value | highlighted handles | pointer target | state PATH
 //       value
 bool StepReader::Expect() {
@@ -338,6 +351,7 @@ bool StepReader::Expect() {
   if (what == "typed") return Text(StepKind::ExpectTyped, "the text");
   if (what == "tip") return Text(StepKind::ExpectTip, "the text");
   if (what == "help") return ExpectHelp();
+  if (what == "text") return ExpectText();
   if (what == "var") return Assign(StepKind::ExpectVar);
   if (what == "setting") return Assign(StepKind::ExpectSetting);
   if (what == "highlighted") return Is(StepKind::ExpectHighlighted) && Handles();

@@ -48,6 +48,7 @@ enum class StepKind {
   ExpectPointer,
   ExpectTyped,
   ExpectTip,
+  ExpectText,
   ExpectState,
   DumpShell,
   DumpWindows,
@@ -59,12 +60,25 @@ enum class StepKind {
 
 enum class MouseButton { Left, Right, Middle };
 
-enum class TargetKind { None, Row, Tab, Strip, Pane, Popup, Button, Entity, World, View };
+enum class TargetKind {
+  None,
+  Row,
+  Tab,
+  Strip,
+  Pane,
+  Popup,
+  Button,
+  Entity,
+  World,
+  View,
+  Character
+};
 
 struct Target {
   TargetKind kind = TargetKind::None;
   std::string text;  // label, name, part or handle
   double x = 0, y = 0;
+  int position = 0;  // of a character
 };
 
 // An expected value. Quoted text is a string; unquoted text has the type of the value that it is

@@ -28,6 +28,8 @@ class PlayWorld {
   virtual std::vector<std::string> HighlightedHandles() = 0;  // of the active drawing
   virtual std::string TypedText() = 0;                        // in the command line's input row
   virtual std::string TipText() = 0;  // of the tool tip shown; empty without
+  // The texts that an object of the active drawing draws, in their order. False: no such object.
+  virtual bool DrawnTexts(const std::string& handle, std::vector<std::string>* texts) = 0;
   // Empty if the pointer is on the target, to one pixel; otherwise where it is, or why not.
   virtual std::string PointerAway(const Target& target) = 0;
 

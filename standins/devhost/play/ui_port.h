@@ -33,6 +33,8 @@ class UiPort {
   virtual bool ViewToScreen(int x, int y, POINT* out) = 0;
   virtual bool EntityToScreen(const std::string& handle, POINT* out) = 0;
   virtual bool ButtonToScreen(const std::wstring& label, POINT* out) = 0;  // in any visible window
+  // In the focused edit control: the left end of a character, or the end of the text.
+  virtual std::string CharacterToScreen(int position, POINT* out) = 0;        // returns the error
   virtual std::string PaneToScreen(const std::string& name, POINT* out) = 0;  // returns the error
 
   // Operations of the host. Paths are as in the script.
@@ -46,6 +48,8 @@ class UiPort {
   virtual bool SetSetting(const std::wstring& name, const std::wstring& value) = 0;
   virtual bool GetSetting(const std::wstring& name, std::wstring* value) = 0;
   virtual std::vector<std::string> HighlightedHandles() = 0;
+  // The texts that an object draws. False: the active drawing has no such object.
+  virtual bool DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) = 0;
   virtual std::wstring TypedText() = 0;  // in the input row of the command line
 
   virtual std::string DescribeShell() = 0;     // JSON of the module's windows; "{}" without module

@@ -103,6 +103,8 @@ std::string DriverWorld::PointOnMainThread(const Target& target, POINT* point) {
           PlaceOfStripPart(Json::parse(m_port.DescribeShell(), nullptr, false), target.text));
     case TargetKind::Pane:
       return m_port.PaneToScreen(target.text, point);
+    case TargetKind::Character:
+      return m_port.CharacterToScreen(target.position, point);
     case TargetKind::Button:
       return problem(m_port.ButtonToScreen(Wide(target.text), point),
                      "there is no visible button " + QuotedForScript(target.text));
@@ -284,6 +286,15 @@ std::string DriverWorld::TypedText() {
 
 std::string DriverWorld::TipText() {
   return Ask<std::string>([] { return Utf8(ShownTipText()); });
+}
+
+bool DriverWorld::DrawnTexts(const std::string& handle, std::vector<std::string>* texts) {
+  return Ask<bool>([&] {
+    std::vector<std::wstring> drawn;
+    if (!m_port.DrawnTexts(handle, &drawn)) return false;
+    for (const std::wstring& text : drawn) texts->push_back(Utf8(text));
+    return true;
+  });
 }
 
 std::string DriverWorld::PointerAway(const Target& target) {

@@ -25,6 +25,7 @@ class DriverWorld : public PlayWorld {
   std::vector<std::string> HighlightedHandles() override;
   std::string TypedText() override;
   std::string TipText() override;
+  bool DrawnTexts(const std::string& handle, std::vector<std::string>* texts) override;
   std::string PointerAway(const Target& target) override;
   Milliseconds Now() override;
   void Pause(Milliseconds time) override;

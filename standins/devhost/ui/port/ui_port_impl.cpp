@@ -6,6 +6,7 @@
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_frame.h"
 #include "devhost/ui/messages/message_pump.h"
+#include "devhost/ui/port/character_place.h"
 #include "devhost/ui/port/live_menus.h"
 #include "devhost/ui/port/window_tree.h"
 #include "devhost/ui/view/drawing_child.h"
@@ -98,6 +99,10 @@ bool UiPortImpl::ButtonToScreen(const std::wstring& label, POINT* out) {
   return true;
 }
 
+std::string UiPortImpl::CharacterToScreen(int position, POINT* out) {
+  return FindCharacterPoint(m_thread.Id(), position, out);
+}
+
 std::string UiPortImpl::PaneToScreen(const std::string& name, POINT* out) {
   return FindPanePoint(name, out);
 }
@@ -135,6 +140,10 @@ bool UiPortImpl::GetSetting(const std::wstring& name, std::wstring* value) {
 }
 
 std::vector<std::string> UiPortImpl::HighlightedHandles() { return devhost::HighlightedHandles(); }
+
+bool UiPortImpl::DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) {
+  return devhost::DrawnTexts(handle, texts);
+}
 
 std::wstring UiPortImpl::TypedText() {
   return TheFrame() ? TheFrame()->Commands().InputText() : std::wstring();

@@ -29,6 +29,7 @@ class UiPortImpl : public UiPort {
   bool ViewToScreen(int x, int y, POINT* out) override;
   bool EntityToScreen(const std::string& handle, POINT* out) override;
   bool ButtonToScreen(const std::wstring& label, POINT* out) override;
+  std::string CharacterToScreen(int position, POINT* out) override;
   std::string PaneToScreen(const std::string& name, POINT* out) override;
 
   bool OpenDrawing(const std::wstring& path) override;
@@ -41,6 +42,7 @@ class UiPortImpl : public UiPort {
   bool SetSetting(const std::wstring& name, const std::wstring& value) override;
   bool GetSetting(const std::wstring& name, std::wstring* value) override;
   std::vector<std::string> HighlightedHandles() override;
+  bool DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) override;
   std::wstring TypedText() override;
 
   std::string DescribeShell() override;
