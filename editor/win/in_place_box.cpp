@@ -111,7 +111,13 @@ POINT InPlaceBox::ScreenToParent(POINT screen) {
   return screen;
 }
 
-void InPlaceBox::Move(const RECT& box) { m_edit.MoveWindow(&box, TRUE); }
+void InPlaceBox::Move(const RECT& box) {
+  m_edit.MoveWindow(&box, TRUE);
+  // The control keeps what it scrolled while it was smaller. Now more of the text fits.
+  m_edit.SendMessage(WM_HSCROLL, SB_LEFT);
+  m_edit.SendMessage(WM_VSCROLL, SB_TOP);
+  ScrollToCaret();
+}
 
 void InPlaceBox::Show(bool show) { m_edit.ShowWindow(show ? SW_SHOW : SW_HIDE); }
 
