@@ -4,6 +4,10 @@
 class TMenuBar;
 class TWCStringList;
 
+// Ends the use of the block that was shown last, so that its lines may be freed. False while a
+// pop-up is shown, and where none can be shown: its lines must live on.
+bool PrepareBlockMenu();
+
 // Shows a block as a pop-up at a screen point and runs the chosen line; `flags` are added to the
 // flags of TrackPopupMenu. The block must live until the next pop-up. Returns the result of
 // TrackPopupMenu; 0 without a context window.

@@ -83,9 +83,14 @@ int CContextMenuWnd::ShowContextMenu(CPoint point, int force) {
   return Track(bar, kFirstContextId, point, 0);
 }
 
-int CContextMenuWnd::ShowMenuAt(TMenuBar& bar, CPoint point, UINT flags) {
-  if (m_isShowing || !acedGetAcadDwgView()) return 0;
+bool CContextMenuWnd::PrepareMenu() {
+  if (m_isShowing || !acedGetAcadDwgView()) return false;
   ResetPopups();
+  return true;
+}
+
+int CContextMenuWnd::ShowMenuAt(TMenuBar& bar, CPoint point, UINT flags) {
+  if (!PrepareMenu()) return 0;
   return Track(bar, kFirstBlockId, point, flags);
 }
 
@@ -146,6 +151,11 @@ void CContextMenuWnd::OnExitMenuLoop(BOOL isShortcut) {
 int ShowContextMenu(int x, int y, int force) {
   CContextMenuWnd* window = TheContextWindow();
   return window ? window->ShowContextMenu(CPoint(x, y), force) : 0;
+}
+
+bool PrepareBlockMenu() {
+  CContextMenuWnd* window = TheContextWindow();
+  return window && window->PrepareMenu();
 }
 
 int ShowBlockMenu(TMenuBar& block, int x, int y, unsigned flags) {

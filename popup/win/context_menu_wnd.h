@@ -35,6 +35,8 @@ class CContextMenuWnd : public qvx::GuardedWindow<CWnd>,
   // Shows the menu for the selection at a screen point; with `force` also when nothing is selected.
   // Returns the result of TrackPopupMenu, or 0 when no menu is shown.
   int ShowContextMenu(CPoint point, int force);
+  // Lets go of the block shown last. False while one is shown or without a drawing view.
+  bool PrepareMenu();
   // Shows a block, which must live until the next pop-up. `flags` are added to TPM_RIGHTBUTTON.
   int ShowMenuAt(TMenuBar& bar, CPoint point, UINT flags);
 

@@ -83,7 +83,7 @@ class CScreenMenu : public qvx::GuardedWindow<CAdUiPaletteSet>, private GroupOwn
   CSMenuItem* FindDirectItem(UINT ctrlId) const;
   void OpenDirectly(TMenuItem& line);
   void FlipDirectly(CSMenuItem& item);
-  TMenuBar& BuildTail(bool withHelp);
+  void ShowTail(TMenuItem* clicked, bool withHelp, CPoint at);
   void ShowHelpFor(const TMenuItem& line);
 
   static LRESULT CALLBACK DockBarProc(HWND bar, UINT message, WPARAM wParam, LPARAM lParam);

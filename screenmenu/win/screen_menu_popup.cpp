@@ -24,16 +24,17 @@ TWCString& HelpFile() {
 
 void SetScreenMenuHelpFile(const wchar_t* name) { HelpFile() = name; }
 
-TMenuBar& CScreenMenu::BuildTail(bool withHelp) {
+// The lines of the last tail menu are freed only when no pop-up refers to them: a pop-up that is
+// shown, or whose command is still posted, uses them.
+void CScreenMenu::ShowTail(TMenuItem* clicked, bool withHelp, CPoint at) {
+  if (!PrepareBlockMenu()) return;
+  if (clicked) m_pClickedItem = clicked;
   m_pTailMenu = qvx::BuildTailMenu({withHelp, g_bLimitHeight != 0, RootBar(), LoadedMenu(),
                                     QvxExport::GetFullCmdName(L"TCustomize")});
-  return *m_pTailMenu;
+  ShowBlockMenu(*m_pTailMenu, at.x, at.y, 0);
 }
 
-void CScreenMenu::ShowLineMenu(TMenuItem& line, CPoint at) {
-  m_pClickedItem = &line;
-  ShowBlockMenu(BuildTail(g_nRunMode == 0), at.x, at.y, 0);
-}
+void CScreenMenu::ShowLineMenu(TMenuItem& line, CPoint at) { ShowTail(&line, g_nRunMode == 0, at); }
 
 // Shows a header's lines as a pop-up, without unfolding, on the side farther from the frame's edge.
 void CScreenMenu::ShowHeaderMenu(TMenuBar& bar, const CRect& button, CPoint at) {
@@ -49,7 +50,7 @@ void CScreenMenu::RestoreStatusBar() { acedRestoreStatusBar(); }
 void CScreenMenu::OnContextMenu(CWnd*, CPoint point) {
   if (!LoadedMenu()) return;
   RestoreStatusBar();
-  ShowBlockMenu(BuildTail(false), point.x, point.y, 0);
+  ShowTail(nullptr, false, point);
 }
 
 void TailCommand(const wchar_t* text) {

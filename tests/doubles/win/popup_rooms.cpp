@@ -5,6 +5,8 @@
 #include "popup/popup_door.h"
 #include "tests/doubles/win/rooms.h"
 
+bool PrepareBlockMenu() { return !TheRooms().popupShown; }
+
 int ShowBlockMenu(TMenuBar& block, int, int, unsigned) {
   TheRooms().shownLines = block.Length();
   return 0;

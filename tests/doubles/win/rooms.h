@@ -9,6 +9,7 @@
 #include "menu/menu_in_force.h"
 
 struct RoomsDouble {
+  bool popupShown = false;        // refuses another pop-up
   int shownLines = 0;             // of the last block that was shown as a pop-up
   int panesUpdated = 0;           // calls of UpdateStatusPanes
   std::string order;              // of the calls for another drawing: scale a, panes b, text c,

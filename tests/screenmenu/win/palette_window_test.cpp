@@ -376,6 +376,25 @@ TEST_F(Palette, ARightClickOnALeafOffersHelpUnlessTheRunModeIsOn) {
   g_bLimitHeight = 0;
 }
 
+TEST_F(Palette, WhileAPopupIsShownARightClickShowsNothingAndChangesNoHelp) {
+  ComeUp();
+  Attach();
+  const auto rightClick = [this](int row) {
+    Root().Row(row)->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Root().Row(row)->m_hWnd),
+                                 MAKELPARAM(60, 60));
+  };
+  rightClick(2);
+  rooms.shownLines = -1;
+  rooms.popupShown = true;
+  rightClick(2);
+  g_pScreenMenu->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(g_pScreenMenu->m_hWnd),
+                             MAKELPARAM(60, 60));
+  EXPECT_EQ(rooms.shownLines, -1);
+  rooms.popupShown = false;
+  rightClick(2);
+  EXPECT_EQ(rooms.shownLines, 2 + 2 + 1 + 1);
+}
+
 TEST_F(Palette, SettingsOutOfRangeDoNotPreventIt) {
   for (int odd : {0, -1, -100000, 1, 77, 65536, 0x7FFFFFFF, static_cast<int>(0x80000000)}) {
     qvx::SavePaletteState({odd, odd, {odd, odd}, odd, odd, odd});
