@@ -119,8 +119,16 @@ void CDayTipDlg::OnNext() {
 // is undone on the screen.
 void CDayTipDlg::OnPrevious() {
   if (!Previous()) return;
-  if (!CanGoBack()) GetDlgItem(IDC_TIP_PREVIOUS)->EnableWindow(FALSE);
+  if (!CanGoBack()) DisablePrevious();
   UpdateData(FALSE);
+}
+
+// A disabled button that keeps the focus takes the keyboard from the whole dialog.
+void CDayTipDlg::DisablePrevious() {
+  CWnd* previous = GetDlgItem(IDC_TIP_PREVIOUS);
+  if (::GetFocus() == previous->m_hWnd)
+    SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(IDC_TIP_NEXT)->m_hWnd), TRUE);
+  previous->EnableWindow(FALSE);
 }
 
 // The close button: saves the check box. The system menu and Esc call OnCancel, which does not.

@@ -24,6 +24,7 @@ class CDayTipDlg : public qvx::GuardedWindow<GlwCAcUiDialog>, public qvx::TipOfT
 
  private:
   void EnlargeText();
+  void DisablePrevious();
   void LoadPictures();
   void ShowPicture(CStatic& control, int family, int dotsPerInch, qvx::OwnedBitmap& shown);
 

@@ -114,6 +114,26 @@ TEST_F(TipDialog, NextAndPreviousShowTheirTipsAndThePreviousButtonIsUpdated) {
   EXPECT_FALSE(dialog.Enabled(1003));
 }
 
+TEST_F(TipDialog, TheFocusMovesToNextBeforePreviousIsDisabled) {
+  TipWindow dialog;
+  dialog.ShowWindow(SW_SHOW);
+  dialog.Press(1002);
+  dialog.Press(1002);
+  dialog.GetDlgItem(1003)->SetFocus();
+  ASSERT_EQ(::GetFocus(), dialog.GetDlgItem(1003)->m_hWnd);
+  dialog.Press(1003);
+  EXPECT_TRUE(dialog.Enabled(1003));
+  EXPECT_EQ(::GetFocus(), dialog.GetDlgItem(1003)->m_hWnd) << "there is an earlier tip";
+  dialog.Press(1003);
+  EXPECT_FALSE(dialog.Enabled(1003));
+  EXPECT_EQ(::GetFocus(), dialog.GetDlgItem(1002)->m_hWnd);
+  dialog.Press(1002);
+  dialog.GetDlgItem(1)->SetFocus();
+  dialog.Press(1003);
+  EXPECT_FALSE(dialog.Enabled(1003));
+  EXPECT_EQ(::GetFocus(), dialog.GetDlgItem(1)->m_hWnd) << "another control keeps the focus";
+}
+
 TEST_F(TipDialog, WithoutAFileSaysSoAndHasNoNextTip) {
   fs::remove(s_folder / "qvxtips.txt");
   TipWindow dialog;
