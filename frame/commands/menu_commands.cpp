@@ -51,7 +51,8 @@ void MenuCommands::Reload() {
 void MenuCommands::ReloadBySearch() {
   TWCString base, path;
   if (!FindMenuBase(base)) base = L"qvx";
-  if (!qvx::FindFile(With(base, L".qmn"), path)) {
+  // The base may be that of a compiled file without its source.
+  if (!qvx::FindFile(With(base, L".qmn"), path) && !qvx::FindFile(With(base, L".qmc"), path)) {
     qvx::ShowMessageBox(L"未找到菜单文件!");
     return;
   }

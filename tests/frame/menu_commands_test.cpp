@@ -62,6 +62,21 @@ TEST_F(MenuCommandsTest, ReloadBySearchFallsBackToTheDefaultName) {
   EXPECT_EQ(steps.diary.back(), L"compile C:\\s\\qvx.qmn");
 }
 
+TEST_F(MenuCommandsTest, ReloadBySearchLoadsACompiledFileWithoutASource) {
+  steps.base = L"D:\\m\\own";
+  steps.files = {L"D:\\m\\own.qmc"};
+  commands.ReloadBySearch();
+  EXPECT_EQ(steps.diary, (Diary{L"icons D:\\m\\own.dll", L"palette gone", L"palette shown",
+                                L"compiled D:\\m\\own.qmc"}));
+}
+
+TEST_F(MenuCommandsTest, ReloadBySearchPrefersTheSource) {
+  steps.base = L"D:\\m\\own";
+  steps.files = {L"D:\\m\\own.qmc", L"D:\\m\\own.qmn"};
+  commands.ReloadBySearch();
+  EXPECT_EQ(steps.diary.back(), L"compile D:\\m\\own.qmn");
+}
+
 TEST_F(MenuCommandsTest, ReloadBySearchSaysWhenThereIsNone) {
   commands.ReloadBySearch();
   EXPECT_EQ(steps.diary, Diary{L"box 未找到菜单文件!"});

@@ -114,6 +114,16 @@ TEST_F(MenuChange, ReloadBySearchFallsBackToTheStandardMenu) {
   EXPECT_EQ(TextOf(L"Settings", L"Menu"), L"C:\\gone\\menu") << "only TSetMenu writes it";
 }
 
+TEST_F(MenuChange, ReloadBySearchTakesACompiledFileWhoseSourceIsGone) {
+  Run(L"(TSetMenu \"own.qmn\")\n");
+  fs::remove(Folder() / "own.qmn");
+  Run(L"(TSetMenu \"qvx.qmn\")\n");
+  SetText(L"Settings", L"Menu", (Folder() / "own").wstring());
+  StartAnew();
+  Run(L"QmnLoad1\n");
+  EXPECT_TRUE(Shows("own")) << Shell();
+}
+
 // The palette is created again before the menu is read, so nothing of the old one can remain.
 TEST_F(MenuChange, AMenuWithoutAScreenBlockLeavesTheNewPaletteEmpty) {
   Write(L"noscreen.qmn",
