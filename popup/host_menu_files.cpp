@@ -21,15 +21,14 @@ bool HasShortcutMenu(int productId) {
   }
 }
 
-// Deliberate: if the first call finds no group, it loads it, and the second call takes that group
-// for a leftover and reloads it once. The host's menus are the same afterwards.
+// A group of an earlier run is refreshed once; one that was just loaded is fresh.
 void LoadShortcutMenu(HostMenus& menus, const wchar_t* path, bool& isRefreshed) {
   if (menus.IsGroupLoaded(kShortcutGroup)) {
     if (isRefreshed) return;
     menus.Run(L".MENUUNLOAD", kShortcutGroup);
-    isRefreshed = true;
   }
   menus.Run(L".MENULOAD", path);
+  isRefreshed = true;
 }
 
 void LoadUnlessLoaded(HostMenus& menus, const wchar_t* file, const wchar_t* group) {
