@@ -1,5 +1,7 @@
 #include "statusbar/scale_rules.h"
 
+#include <cwchar>
+
 #include "resources/resource_ids.h"
 
 namespace qvx {
@@ -29,6 +31,16 @@ TWCString ScalePaneText(double drawingScale, const ScaleWalk& selection) {
   TWCString text(L"比例 1:");
   if (selection.IsMixed()) return text += L"***";
   return text << (selection.Common() > 0 ? selection.Common() : drawingScale);
+}
+
+bool IsScaleText(const wchar_t* text) {
+  constexpr wchar_t kBlanks[] = L" \t";
+  constexpr wchar_t kOfNumbers[] = L"+-.0123456789eE";
+  text += std::wcsspn(text, kBlanks);
+  wchar_t* end = nullptr;
+  const double value = std::wcstod(text, &end);
+  return end != text && text + std::wcsspn(text, kOfNumbers) >= end && std::isfinite(value) &&
+         end[std::wcsspn(end, kBlanks)] == 0;
 }
 
 }  // namespace qvx

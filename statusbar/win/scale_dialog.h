@@ -13,6 +13,8 @@ class CPScaleDlg : public qvx::GuardedWindow<GlwCAcUiDialog> {
   void OnOK() override;
 
  private:
+  static void RefuseOddScale(CDataExchange* exchange);
+
   double m_dScale;
 };
 

@@ -19,6 +19,14 @@ TWCString TextFor(double drawing, std::initializer_list<double> scales) {
 
 }  // namespace
 
+TEST(ScaleRules, AScaleIsAFiniteDecimalNumber) {
+  for (const wchar_t* text : {L"100", L" 0.5\t", L"-5", L"0", L"1e3", L"+2.5E-1", L".5", L"5."})
+    EXPECT_TRUE(qvx::IsScaleText(text)) << text;
+  for (const wchar_t* text : {L"", L" ", L"1e999", L"-1e999", L"inf", L"-INF", L"infinity", L"nan",
+                              L"NAN(1)", L"0x10", L"-0X1p3", L"1 2", L"1x", L"e5", L"一百", L"1,5"})
+    EXPECT_FALSE(qvx::IsScaleText(text)) << text;
+}
+
 TEST(ScaleMenu, EveryLineHasItsScale) {
   const struct {
     unsigned command;

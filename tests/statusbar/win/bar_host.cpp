@@ -83,8 +83,10 @@ void BarTest::SetUp() {
   g_bDynamicCoord = g_bMakeGroup = 1;
   QvxGeLib::g_bDynInput = 1;
   QvxGeLib::g_iMaxDynDimNum = 2;
-  m_journalStart = devhost::TheJournal().Count();
+  StartJournal();
 }
+
+void BarTest::StartJournal() { m_journalStart = devhost::TheJournal().Count(); }
 
 void BarTest::TearDown() {
   Bar().RemoveAllPanes(TRUE);

@@ -56,6 +56,7 @@ class BarTest : public ::testing::Test {
   static void Select(const std::vector<AcDbEntity*>& entities);
   static void AddToDrawing(AcDbEntity* entity);
   static double ScaleOfDrawing();
+  void StartJournal();  // forgets the entries so far
   // Journal entries of this test.
   std::vector<std::string> Journal(const char* event) const;
   static bool ViewWaitsForPaint();  // validates the view too

@@ -37,6 +37,28 @@ class PaneDialogs : public BarTest {
     });
     return ShowScaleDialog();
   }
+  // Types a scale that is refused; true if the dialog is open after the message. Then it is
+  // cancelled.
+  bool StaysAfter(const wchar_t* text) {
+    HWND scaleDialog = nullptr;
+    bool stayed = false;
+    const ModalGuest guest([&] {
+      const HWND dialog = VisibleDialog(scaleDialog);
+      if (!scaleDialog && dialog) {
+        scaleDialog = dialog;
+        ::SetDlgItemTextW(dialog, IDC_SCALE, text);
+        ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+      } else if (dialog) {  // the message box
+        ::PostMessageW(::FindWindowExW(dialog, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
+      } else if (scaleDialog && !Journal("messagebox").empty()) {
+        stayed = ::IsWindowVisible(scaleDialog) != FALSE;
+        Press(scaleDialog, IDCANCEL);
+        return true;
+      }
+      return false;
+    });
+    return !ShowScaleDialog() && stayed;
+  }
   // Opens the other dialog, reads the choice, makes another unless -1, and presses the button.
   static int EnterFields(int choice, int button) {
     int shown = -1;
@@ -95,27 +117,19 @@ TEST_F(PaneDialogs, ZeroAndLessAreIgnoredByTheDrawingAndKeptByPaperSpace) {
 }
 
 TEST_F(PaneDialogs, InvalidInputShowsAMessageAndKeepsTheDialogOpen) {
-  HWND scaleDialog = nullptr;
-  bool stayed = false;
-  const ModalGuest guest([&] {
-    const HWND dialog = VisibleDialog(scaleDialog);
-    if (!scaleDialog && dialog) {
-      scaleDialog = dialog;
-      ::SetDlgItemTextW(dialog, IDC_SCALE, L"一百");
-      ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
-    } else if (dialog) {  // the message box
-      ::PostMessageW(::FindWindowExW(dialog, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
-    } else if (scaleDialog && !Journal("messagebox").empty()) {
-      stayed = ::IsWindowVisible(scaleDialog) != FALSE;
-      Press(scaleDialog, IDCANCEL);
-      return true;
-    }
-    return false;
-  });
-  EXPECT_FALSE(ShowScaleDialog());
-  EXPECT_TRUE(stayed);
-  EXPECT_EQ(Journal("messagebox").size(), 1u);
-  EXPECT_EQ(ScaleOfDrawing(), 100);
+  for (const wchar_t* text : {L"一百", L"1e999", L"nan", L"inf", L"0x10"}) {
+    StartJournal();
+    EXPECT_TRUE(StaysAfter(text)) << text;
+    EXPECT_EQ(Journal("messagebox").size(), 1u) << text;
+    EXPECT_EQ(ScaleOfDrawing(), 100) << text;
+  }
+}
+
+TEST_F(PaneDialogs, PaperSpaceRefusesInfinityToo) {
+  SetVariable(L"TILEMODE", L"0");
+  const double before = DocGetPScale();
+  EXPECT_TRUE(StaysAfter(L"1e999"));
+  EXPECT_EQ(DocGetPScale(), before);
 }
 
 TEST_F(PaneDialogs, TheLastLineOfTheScaleMenuOpensTheScaleDialog) {

@@ -115,7 +115,10 @@ void ExchangeReal(CDataExchange* pDX, int nIDC, Number& value, int digits) {
     return SetTextOf(control, text);
   }
   double number = 0;
-  if (!ParseReal(TextOf(control), number)) Refuse(pDX, L"请输入一个数。");
+  if (!ParseReal(TextOf(control), number)) {
+    AfxMessageBox(AFX_IDP_PARSE_REAL);
+    pDX->Fail();
+  }
   value = static_cast<Number>(number);
 }
 }  // namespace

@@ -132,7 +132,9 @@ int AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf) {
   lpszBuf[0] = 0;
   // Strings are stored in blocks of sixteen; the block number is the resource's name.
   HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE((nIDS >> 4) + 1), RT_STRING);
-  return ::LoadString(module, nIDS, lpszBuf, int(nMaxBuf));
+  if (const int length = ::LoadString(module, nIDS, lpszBuf, int(nMaxBuf))) return length;
+  if (nIDS == AFX_IDP_PARSE_REAL) ::lstrcpyn(lpszBuf, _T("请输入一个数。"), int(nMaxBuf));
+  return ::lstrlen(lpszBuf);
 }
 
 // ---- extension modules
