@@ -3,6 +3,8 @@
 // CSMenuItem create what is planned here.
 #pragma once
 
+#include <algorithm>
+
 #include "menu/line_state.h"
 
 namespace qvx {
@@ -22,9 +24,16 @@ struct RowPlan {
   const wchar_t* bitmap = L"";  // for kFromLibrary; never null
 };
 
+// The setting of the row height without values that would overflow sums over the rows of a menu.
+// Those below 1 are kept: such rows are not seen.
+constexpr int RowHeightInRange(int setting) {
+  constexpr int kMost = 10000;  // pixels, higher than any screen
+  return std::clamp(setting, -kMost, kMost);
+}
+
 struct RowSources {
   LineSources lines;
-  int rowHeight;  // the setting
+  int rowHeight;  // of RowHeightInRange
 };
 
 // Runs the line's functions and, for a switch line, copies the state's label and icon into the

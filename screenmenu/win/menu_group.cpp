@@ -15,7 +15,7 @@ constexpr int kEdgeReach = 2;      // the sunken edge around an open group
 
 qvx::TreeRequest RequestTree(GroupOwner& owner, bool limitHeight, int clientHeight) {
   qvx::TreeRequest request{};
-  request.sources = {owner.Lines(), g_iMenuRowHeight};
+  request.sources = {owner.Lines(), qvx::RowHeightInRange(g_iMenuRowHeight)};
   request.limitHeight = limitHeight;
   request.openFirst = g_bDefaultOpenFirst != 0;
   request.rememberedOpen = request.openFirst ? qvx::kNothingOpen : qvx::LoadActiveSubMenu();
@@ -125,7 +125,7 @@ void CMenuGroup::ToggleSubMenu(unsigned index) {
   if (!opened || !opened->GetSafeHwnd()) return;
   CRect shown;
   opened->GetWindowRect(&shown);
-  shown.top -= g_iMenuRowHeight + qvx::kHeaderReach;
+  shown.top -= qvx::RowHeightInRange(g_iMenuRowHeight) + qvx::kHeaderReach;
   host->ScreenToClient(&shown);
   host->RevealRect(shown);
 }

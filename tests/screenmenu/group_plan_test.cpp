@@ -1,6 +1,8 @@
 // The tree of groups before its windows are built: heights, nesting, the open index, scrolling.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "menu_fixture.h"
 #include "screenmenu/group_plan.h"
 #include "screenmenu/group_rules.h"
@@ -28,6 +30,32 @@ TEST_F(GroupPlans, AnEmptyBarHasContentHeightFourAndNoRows) {
   EXPECT_TRUE(tree->rows.empty());
   EXPECT_EQ(tree->cursor, -1);
   EXPECT_EQ(qvx::ContentHeight(tree.get()), 4);
+}
+
+TEST_F(GroupPlans, NoRowHeightOverflowsTheSumsOverALongMenu) {
+  for (int i = 0; i < 3000; ++i) AddLine(bar, L"a");
+  for (const int setting : {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+    const int height = qvx::RowHeightInRange(setting);
+    EXPECT_EQ(height, setting > 0 ? 10000 : -10000);
+    const auto tree =
+        qvx::PlanTree(bar, {{{&lisp, nullptr, false}, height}, limit, openFirst, remembered, 500});
+    EXPECT_EQ(tree->rowsHeight, 4 + 3000 * (height - 1));
+    const std::vector<int> heights = tree->RowHeights();
+    const qvx::LayoutPlan layout = qvx::PlanLayout({{0, 0, 100, 500},
+                                                    false,
+                                                    true,
+                                                    qvx::ContentHeight(tree.get()),
+                                                    tree->rowsHeight,
+                                                    8,
+                                                    false,
+                                                    0,
+                                                    &heights,
+                                                    -1,
+                                                    0});
+    EXPECT_EQ(layout.rows.back().top, 2 + 2999 * (height - 1));
+  }
+  for (const int setting : {0, 1, -1, 25, 10000})
+    EXPECT_EQ(qvx::RowHeightInRange(setting), setting);
 }
 
 TEST_F(GroupPlans, TwoAdjacentSeparatorsMakeTwoThinRows) {
