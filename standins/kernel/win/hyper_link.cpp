@@ -93,7 +93,8 @@ void CHyperLink::OnPaint() {
 
 void CHyperLink::OnLButtonUp(UINT flags, CPoint point) {
   CStatic::OnLButtonUp(flags, point);
-  if (!IsOverText(point)) return;
+  constexpr int kLongestAddress = 2083;  // longer ones crash the shell library
+  if (!IsOverText(point) || GetURL().GetLength() > kLongestAddress) return;
   ::ShellExecuteW(m_hWnd, L"open", GetURL(), nullptr, nullptr, SW_SHOWNORMAL);
 }
 

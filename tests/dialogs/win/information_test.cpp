@@ -176,6 +176,26 @@ TEST_F(Information, TheShellsResultsUpTo32AreErrors) {
   }
 }
 
+TEST_F(Information, AnAddressThatIsTooLongForTheShellIsPrintedAndNotOpened) {
+  const std::string scheme = "mailto:";
+  for (const std::size_t length : {2083u - 7u, 2084u - 7u}) {
+    const std::string address = std::string(length - 2, 'a') + "@b";
+    Product("[Product]\nEmail=" + address + "\n");
+    g_shell.file.clear();
+    s_ui.printed.clear();
+    ReportBug();
+    const bool opened = length + scheme.size() <= 2083;
+    EXPECT_EQ(g_shell.file.size(), opened ? 2083u : 0u) << length;
+    const std::wstring wide(address.begin(), address.end());
+    EXPECT_EQ(
+        s_ui.printed,
+        opened ? L""
+               : L"\n需要安装配置一个发送邮件软件（如Microsoft Outlook)!您可以将问题报告发送到:" +
+                     wide)
+        << length;
+  }
+}
+
 TEST_F(Information, AReportIsAMailToTheContactAddress) {
   ReportBug();
   EXPECT_EQ(g_shell.verb, L"open");
