@@ -53,6 +53,12 @@ RECT FirstRootGroup(const RECT& used, bool floating) {
           used.bottom - kPaletteBottom};
 }
 
+bool RowsOverlap(const LayoutPlan& plan) {
+  for (std::size_t i = 1; i < plan.rows.size(); ++i)
+    if (plan.rows[i].top < plan.rows[i - 1].bottom) return true;
+  return false;
+}
+
 RECT FitRootGroup(const RECT& used, bool floating, int windowBottom) {
   RECT fit = used;
   if (!floating) {

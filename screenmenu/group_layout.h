@@ -44,6 +44,9 @@ struct LayoutPlan {
 
 LayoutPlan PlanLayout(const LayoutRequest& request);
 
+// Whether a row begins above the end of the one before it: the open group's height is negative.
+bool RowsOverlap(const LayoutPlan& plan);
+
 // The rectangle of a root group in the palette: 3 pixels from the top while docked, 2 from the
 // bottom. `bottom` is that of the used rectangle while floating and of the window while docked.
 RECT FitRootGroup(const RECT& used, bool floating, int windowBottom);

@@ -33,6 +33,9 @@ void WheelScreenMenu(int delta, int x, int y);
 
 // Reads the state of every switch row again.
 void RefreshScreenMenu();
+// To be called after switch states were copied into lines outside of the palette: shows them in the
+// rows. Without it a later refresh finds no difference and leaves the rows as they are.
+void ShowLineStates();
 // Docks the palette, despite the name of its command, TFloatMenuBar.
 void DockFloatingScreenMenu();
 

@@ -102,6 +102,7 @@ int CContextMenuWnd::Track(TMenuBar& bar, int firstId, CPoint point, UINT flags)
   {
     const ShowingScope showing(m_isShowing);
     const PopupPlan plan = PlanPopup(bar, PopupIds::kRunning, firstId, Lines());
+    ShowLineStates();
     isShown = !plan.menus.empty();
     if (isShown) {
       BuildPopup(plan, *m_pMenu, *this);

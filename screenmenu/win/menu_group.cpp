@@ -84,6 +84,7 @@ void CMenuGroup::BuildRows(const qvx::GroupPlan& plan, const CRect& rect) {
     child.release();
   }
   m_children.GoTo(plan.cursor);
+  ClipCoveredRows(layout);
 }
 
 CMenuGroup* CMenuGroup::ParentGroup() const {
@@ -137,6 +138,19 @@ void CMenuGroup::ShowOpenChild(bool show) {
 
 // The list's cursor is the open index, so children are visited by node, which does not move it.
 void CMenuGroup::RefreshSwitches() { RefreshWatched(m_pOwner->Lines()); }
+
+void CMenuGroup::ShowLineStates() {
+  for (CSMenuItem* row : m_items)
+    if (row->Line()->m_pSwitch) row->ShowState();
+  for (auto* node = m_children.FirstNode(); node; node = m_children.NextNode(node))
+    if (node->value) node->value->ShowLineStates();
+}
+
+void CMenuGroup::ReloadImages() {
+  for (CSMenuItem* row : m_items) row->ReloadImage();
+  for (auto* node = m_children.FirstNode(); node; node = m_children.NextNode(node))
+    if (node->value) node->value->ReloadImages();
+}
 
 // Returns at once when the menu is gone: this group is destroyed then.
 void CMenuGroup::RefreshWatched(const qvx::LineSources& lines) {

@@ -25,6 +25,10 @@ class CMenuGroup : public qvx::GuardedWindow<CWnd>, public RowHolder {
   void ToggleSubMenu(unsigned index);
   // Reads the state of every switch line, in hidden groups too. Never enables or disables a row.
   void RefreshSwitches();
+  // Shows captions and icons that a pop-up copied into switch lines, in hidden groups too.
+  void ShowLineStates();
+  // Loads the bitmaps of all rows again.
+  void ReloadImages();
 
   void LayoutGroup();
   void ScrollGroup(UINT code, int position);
@@ -63,6 +67,7 @@ class CMenuGroup : public qvx::GuardedWindow<CWnd>, public RowHolder {
              GroupOwner* owner);
   void Build(const qvx::GroupPlan& plan, const CRect& rect, CWnd* parent, UINT id);
   void BuildRows(const qvx::GroupPlan& plan, const CRect& rect);
+  void ClipCoveredRows(const qvx::LayoutPlan& plan);
 
   qvx::LayoutRequest RequestLayout(const CRect& client, const std::vector<int>& heights);
   void CarryScroll(const qvx::ScrollPlan& plan);

@@ -45,6 +45,7 @@ void CMenuGroup::LayoutGroup() {
   const qvx::LayoutPlan plan = PlanNow(client);
   CarryScroll(plan.scroll);
   m_isScrolledPast = false;
+  ClipCoveredRows(plan);
   CMenuGroup* open = OpenChild();
   CRect changed(0, 0, 0, 0);
   for (int i = 0; i < m_items.Length(); ++i) {
@@ -56,6 +57,16 @@ void CMenuGroup::LayoutGroup() {
   Invalidate();
   if (!changed.IsRectEmpty())
     RedrawWindow(&changed, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// Where the rows exceed a limited height, those behind the open header lie over those ahead of it.
+// Clipped by its siblings, a row paints only where it also receives clicks: the earlier row is on
+// top.
+void CMenuGroup::ClipCoveredRows(const qvx::LayoutPlan& plan) {
+  if (!qvx::RowsOverlap(plan) || m_items.Length() == 0 ||
+      (m_items.At(0)->GetStyle() & WS_CLIPSIBLINGS))
+    return;
+  for (CSMenuItem* row : m_items) row->ModifyStyle(0, WS_CLIPSIBLINGS);
 }
 
 void CMenuGroup::CarryScroll(const qvx::ScrollPlan& plan) {

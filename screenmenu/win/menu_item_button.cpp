@@ -8,7 +8,6 @@
 namespace {
 
 constexpr BYTE kImageSize = 16;
-const CPoint kPlaceOfKeyboard(-1, -1);
 
 // WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | BS_OWNERDRAW
 constexpr DWORD kRowStyle = 0x5001400B;
@@ -75,8 +74,22 @@ void CSMenuItem::ShowIcon(const wchar_t* bitmap) {
   ShareBitmap(*bitmap ? m_pOwner->Icon(bitmap) : nullptr, kImageSize, kImageSize);
 }
 
+void CSMenuItem::ReloadImage() {
+  SetDefaultActiveBg(FALSE);
+  SetDefaultActiveFg(FALSE);
+  if (m_pMenuItem->m_pSubMenu)
+    ShowArrow(m_bOpen);
+  else if (m_bChecked)
+    ShowCheckMark();
+  else if (const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, m_pOwner->Lines()))
+    ShowIcon(bitmap);
+}
+
 void CSMenuItem::ShowState() {
-  SetWindowTextW(m_pMenuItem->m_strLabel);
+  CString shown;
+  GetWindowText(shown);
+  if (shown != static_cast<const wchar_t*>(m_pMenuItem->m_strLabel))
+    SetWindowTextW(m_pMenuItem->m_strLabel);
   const wchar_t* bitmap = qvx::IconOfLine(*m_pMenuItem, m_pOwner->Lines());
   if (bitmap) ShowIcon(bitmap);
 }
@@ -106,8 +119,7 @@ void CSMenuItem::OnContextMenu(CWnd*, CPoint point) {
   ClearHover();
   CRect button;
   GetWindowRect(&button);
-  if (point.x == kPlaceOfKeyboard.x && point.y == kPlaceOfKeyboard.y)
-    point = CPoint(button.left, button.bottom);
+  if (IsFromKeyboard(point)) point = CPoint(button.left, button.bottom);
   if (!m_pMenuItem->m_pSubMenu) {
     m_pOwner->ShowLineMenu(*m_pMenuItem, point);
     return;

@@ -8,6 +8,9 @@
 #include "screenmenu/row_look.h"
 #include "screenmenu/row_plan.h"
 
+// Whether WM_CONTEXTMENU came from the keyboard, which gives no position.
+inline bool IsFromKeyboard(CPoint point) { return point.x == -1 && point.y == -1; }
+
 class CSMenuItem : public CButtonST, public AccessibleRow {
   DECLARE_DYNAMIC(CSMenuItem)
  public:
@@ -30,6 +33,8 @@ class CSMenuItem : public CButtonST, public AccessibleRow {
   void ShowIcon(const wchar_t* bitmap);
   // Shows caption and icon of a switch line after its state changed.
   void ShowState();
+  // Loads the shown bitmap again and takes the system's colours, after they changed.
+  void ReloadImage();
   void ReleaseMouse();
 
   // For screen readers.

@@ -3,6 +3,8 @@
 
 #include "afxwin.h"
 
+#include <utility>
+
 #include "aced.h"
 #include "adslib.h"
 #include "ground/command_line.h"
@@ -23,6 +25,7 @@ BEGIN_MESSAGE_MAP(CScreenMenu, CAdUiPaletteSet)
 ON_WM_WINDOWPOSCHANGED()
 ON_WM_TIMER()
 ON_WM_DESTROY()
+ON_WM_SYSCOLORCHANGE()
 ON_WM_CONTEXTMENU()
 ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
@@ -105,6 +108,18 @@ HBITMAP CScreenMenu::Icon(const wchar_t* name) {
     icon->second.Reset(static_cast<HBITMAP>(
         ::LoadImageW(g_hQvxDll, name, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
   return icon->second.Get();
+}
+
+// The bitmaps were loaded with the face colour in place of their grey, which is drawn as
+// transparent. The rows show the old ones until all are replaced.
+void CScreenMenu::OnSysColorChange() {
+  CAdUiPaletteSet::OnSysColorChange();
+  qvx::OwnedBitmap arrows[qvx::kArrowKinds][2];
+  std::swap(arrows, m_arrows);
+  const auto icons = std::exchange(m_icons, {});
+  if (!m_pRootGroup || !m_pRootGroup->GetSafeHwnd()) return;
+  m_pRootGroup->ReloadImages();
+  m_pRootGroup->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void CScreenMenu::OnWindowPosChanged(WINDOWPOS* position) {

@@ -64,6 +64,7 @@ class CScreenMenu : public qvx::GuardedWindow<CAdUiPaletteSet>, private GroupOwn
   afx_msg void OnWindowPosChanged(WINDOWPOS* position);
   afx_msg void OnTimer(UINT_PTR timer);
   afx_msg void OnDestroy();
+  afx_msg void OnSysColorChange();
   afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
   DECLARE_MESSAGE_MAP()
 

@@ -50,6 +50,13 @@ void CScreenMenu::RestoreStatusBar() { acedRestoreStatusBar(); }
 void CScreenMenu::OnContextMenu(CWnd*, CPoint point) {
   if (!LoadedMenu()) return;
   RestoreStatusBar();
+  // The keyboard gives no position: the pop-up then opens below the caption, as below a row.
+  if (IsFromKeyboard(point)) {
+    CRect used;
+    GetUsedRect(used);
+    ClientToScreen(&used);
+    point = used.TopLeft();
+  }
   ShowTail(nullptr, false, point);
 }
 

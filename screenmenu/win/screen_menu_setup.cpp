@@ -123,6 +123,11 @@ void RefreshScreenMenu() {
   if (root) root->RefreshSwitches();
 }
 
+void ShowLineStates() {
+  CMenuGroup* root = g_pScreenMenu ? g_pScreenMenu->RootGroup() : nullptr;
+  if (root) root->ShowLineStates();
+}
+
 void DockFloatingScreenMenu() {
   if (!qvx::HasWorkingDatabase() || !g_pScreenMenu || !g_pScreenMenu->IsFloating()) return;
   acedGetAcadFrame()->DockControlBar(g_pScreenMenu, AFX_IDW_DOCKBAR_LEFT, nullptr);

@@ -119,6 +119,15 @@ TEST_F(GroupLayout, RowsThatFillALimitedRootLeaveItsOpenGroupNoHeight) {
   EXPECT_EQ(plan.child.bottom - plan.child.top, 60 - 76 - 4);
 }
 
+TEST_F(GroupLayout, RowsOverlapOnlyBelowAnOpenGroupOfNegativeHeight) {
+  qvx::LayoutPlan plan;
+  EXPECT_FALSE(qvx::RowsOverlap(plan));
+  plan.rows = {{0, 2, 9, 26}, {0, 26, 9, 50}, {0, 70, 9, 94}};
+  EXPECT_FALSE(qvx::RowsOverlap(plan));
+  plan.rows.push_back({0, 93, 9, 117});
+  EXPECT_TRUE(qvx::RowsOverlap(plan));
+}
+
 TEST_F(GroupLayout, AnEmptyGroupHasNothingToPlace) {
   heights.clear();
   request.total = request.rowsHeight = 4;

@@ -7,7 +7,8 @@
 
 bool PrepareBlockMenu() { return !TheRooms().popupShown; }
 
-int ShowBlockMenu(TMenuBar& block, int, int, unsigned) {
+int ShowBlockMenu(TMenuBar& block, int x, int y, unsigned) {
+  TheRooms().shownAt = {x, y};
   TheRooms().shownLines = block.Length();
   return 0;
 }

@@ -10,6 +10,7 @@
 
 struct RoomsDouble {
   bool popupShown = false;        // refuses another pop-up
+  POINT shownAt{};                // of that block, on the screen
   int shownLines = 0;             // of the last block that was shown as a pop-up
   int panesUpdated = 0;           // calls of UpdateStatusPanes
   std::string order;              // of the calls for another drawing: scale a, panes b, text c,

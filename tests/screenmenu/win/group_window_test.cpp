@@ -302,6 +302,72 @@ TEST_F(GroupWindows, RowsThatFillALimitedRootLeaveItsOpenGroupNoHeight) {
   EXPECT_EQ(PlaceOf(group.Child(0)).Height(), 0);
 }
 
+// Forty headers of 24 pixels in a window of 300: the open group's height is negative, so the rows
+// behind it lie over those ahead of it.
+TEST_F(GroupWindows, ARowThatIsCoveredInALimitedRootPaintsNothingAndGetsNoClick) {
+  for (int i = 0; i < 40; ++i) AddLine(*AddHeader(bar, L"组"), L"行", L"x");
+  CMenuGroup& group = Build(300, true);
+  for (int i = 0; i < 40; ++i) {
+    EXPECT_EQ(PlaceOf(group.Row(i)).top, 2 + 24 * i) << i;
+    EXPECT_FALSE(group.Row(i)->GetStyle() & WS_CLIPSIBLINGS) << i;
+  }
+  Click(group, 30);
+  const int rest = 300 - (40 * 24 + 4) - 4;
+  ASSERT_LT(rest, 0);
+  for (int i = 0; i < 40; ++i) {
+    const CRect place = PlaceOf(group.Row(i));
+    EXPECT_EQ(place.top, i <= 30 ? 2 + 24 * i : 2 + 24 * i + 4 + rest) << i;
+    EXPECT_EQ(place.Height(), 24) << i;
+    // The earlier row is on top, for the pointer and for the eye.
+    const CPoint middle = place.CenterPoint();
+    int top = i;
+    for (int j = i - 1; j >= 0; --j)
+      if (PlaceOf(group.Row(j)).PtInRect(middle)) top = j;
+    const bool seen = middle.y >= 0 && middle.y < 300;
+    if (seen) {
+      EXPECT_EQ(group.ChildWindowFromPoint(middle), static_cast<CWnd*>(group.Row(top))) << i;
+    }
+    const HDC dc = ::GetDC(group.Row(i)->m_hWnd);
+    EXPECT_EQ(::PtVisible(dc, middle.x - place.left, middle.y - place.top) != FALSE,
+              top == i && seen)
+        << i;
+    ::ReleaseDC(group.Row(i)->m_hWnd, dc);
+  }
+  Click(group, 30);
+  for (int i = 0; i < 40; ++i) EXPECT_EQ(PlaceOf(group.Row(i)).top, 2 + 24 * i) << i;
+}
+
+TEST_F(GroupWindows, AStateThatAPopupCopiedIntoALineIsShownByItsRow) {
+  const auto shown = MakeSwitch(L"get", L"set", {L"开", L"关"});
+  TMenuBar* nested = AddHeader(bar, L"组");
+  AddSwitchLine(*nested, *shown);
+  owner.lisp.Number(L"get", 1);
+  CMenuGroup& group = Build();
+  CSMenuItem* row = group.Child(0)->Row(0);
+  CString text;
+  row->GetWindowText(text);
+  ASSERT_EQ(text, L"开");
+  owner.lisp.Number(L"get", 2);
+  qvx::RefreshSwitchLine(*nested->At(0), owner.Lines());  // as a pop-up does
+  group.ShowLineStates();
+  row->GetWindowText(text);
+  EXPECT_EQ(text, L"关");
+}
+
+TEST_F(GroupWindows, ImagesOfAllRowsAreLoadedAgainAfterAChangeOfTheColours) {
+  TMenuBar* nested = AddHeader(bar, L"组");
+  AddLine(*nested, L"行", L"x");
+  CMenuGroup& group = Build();
+  Click(group, 0);
+  owner.arrowsAsked.clear();
+  group.ReloadImages();
+  EXPECT_EQ(owner.arrowsAsked, (std::vector<std::pair<int, bool>>{{0, true}}));
+  Click(group, 0);
+  owner.arrowsAsked.clear();
+  group.ReloadImages();
+  EXPECT_EQ(owner.arrowsAsked, (std::vector<std::pair<int, bool>>{{0, false}}));
+}
+
 TEST_F(GroupWindows, AClickOnACommandStartsItsWaitAndOneOnASeparatorDoesNothing) {
   AddLine(bar, L"轴网", L"TAxis\n");
   AddLine(bar, L"--");

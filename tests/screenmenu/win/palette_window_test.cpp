@@ -8,6 +8,7 @@
 
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
+#include "tests/module/win/import_slot.h"
 #include "tests/screenmenu/win/palette_fixture.h"
 #include "refused_windows.h"
 #include "screenmenu/win/describe_screen_menu.h"
@@ -374,6 +375,49 @@ TEST_F(Palette, ARightClickOnALeafOffersHelpUnlessTheRunModeIsOn) {
   g_bLimitHeight = 1;
   EXPECT_EQ(linesOffered(Root(), 2), 2 + 1) << "no jumps";
   g_bLimitHeight = 0;
+}
+
+TEST_F(Palette, TheKeyboardsMenuOfThePaletteOpensBelowItsCaption) {
+  ComeUp();
+  Attach();
+  g_pScreenMenu->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(g_pScreenMenu->m_hWnd),
+                             MAKELPARAM(-1, -1));
+  CRect used;
+  g_pScreenMenu->GetUsedRect(used);
+  g_pScreenMenu->ClientToScreen(&used);
+  EXPECT_EQ(rooms.shownLines, 2 + 1 + 1);
+  EXPECT_EQ(rooms.shownAt.x, used.left);
+  EXPECT_EQ(rooms.shownAt.y, used.top);
+  g_pScreenMenu->SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(g_pScreenMenu->m_hWnd),
+                             MAKELPARAM(-1, 60));
+  EXPECT_EQ(rooms.shownAt.x, -1) << "a position on a screen to the left";
+}
+
+// In place of LoadImageW: this program has no bitmaps.
+HANDLE WINAPI MakeBitmap(HINSTANCE, LPCWSTR, UINT, int, int, UINT) {
+  return ::CreateBitmap(16, 16, 1, 1, nullptr);
+}
+
+TEST_F(Palette, AChangeOfTheSystemsColoursLoadsArrowsAgain) {
+  void** slot = ImportSlot(::GetModuleHandleW(nullptr), "LoadImageW");
+  ASSERT_NE(slot, nullptr);
+  void* const before = *slot;
+  StoreSlot(slot, reinterpret_cast<void*>(&MakeBitmap));
+  ComeUp();
+  Attach();
+  Root().ToggleSubMenu(0);
+  const HBITMAP open = Root().Row(0)->ShownBitmap(), folded = Root().Row(1)->ShownBitmap();
+  ASSERT_TRUE(open);
+  g_pScreenMenu->SendMessage(WM_SYSCOLORCHANGE);
+  const HBITMAP newOpen = Root().Row(0)->ShownBitmap(), newFolded = Root().Row(1)->ShownBitmap();
+  StoreSlot(slot, before);
+  EXPECT_NE(newOpen, open);
+  EXPECT_NE(newFolded, folded);
+  EXPECT_NE(newOpen, newFolded);
+  EXPECT_EQ(::GetObjectType(newOpen), static_cast<DWORD>(OBJ_BITMAP));
+  EXPECT_EQ(::GetObjectType(newFolded), static_cast<DWORD>(OBJ_BITMAP));
+  EXPECT_EQ(::GetObjectType(open), 0u) << "the old ones are freed";
+  EXPECT_EQ(::GetObjectType(folded), 0u);
 }
 
 TEST_F(Palette, WhileAPopupIsShownARightClickShowsNothingAndChangesNoHelp) {

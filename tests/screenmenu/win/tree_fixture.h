@@ -18,6 +18,7 @@ class Diary : public GroupOwner {
  public:
   qvx::LineSources Lines() override { return {&lisp, &system, g_hQvxDll != nullptr, life.Watch()}; }
   HBITMAP Arrow(int depth, bool open) override {
+    arrowsAsked.emplace_back(depth, open);
     return reinterpret_cast<HBITMAP>(
         static_cast<UINT_PTR>(qvx::ArrowBitmap(depth, open)));  // compared, not drawn
   }
@@ -47,6 +48,7 @@ class Diary : public GroupOwner {
   bool busy = false;
   CPoint menuAt;
   std::vector<std::wstring> notes;
+  std::vector<std::pair<int, bool>> arrowsAsked;
 };
 
 class TreeWindows : public testing::Test {
