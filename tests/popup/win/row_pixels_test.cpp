@@ -190,6 +190,16 @@ TEST_F(RowPixels, ALabelOf255CharactersStaysInItsRow) {
   EXPECT_EQ(ColorsIn(canvas, {0, 20, kWidth, 40}), Colors{RowCanvas::kUntouched});
 }
 
+TEST_F(RowPixels, TheDataOfARowBeginsWithItsLabelForScreenReaders) {
+  TMenuItem line(L"改层", L"a\n");
+  CBitmapMenuItemData record;
+  record.Show(&line, 0);
+  const auto* read = reinterpret_cast<const MSAAMENUINFO*>(&record);
+  EXPECT_EQ(read->dwMSAASignature, static_cast<DWORD>(MSAA_MENU_SIG));
+  EXPECT_EQ(read->cchWText, 2u);
+  EXPECT_STREQ(read->pszWText, L"改层");
+}
+
 TEST_F(RowPixels, ARowWhoseLineWasDestroyedDrawsNothing) {
   TMenuItem line(L"A", L"a\n");
   CBitmapMenuItemData record;
