@@ -51,6 +51,15 @@ TEST(TipLine, IsTextOfTheAnsiCodePage) {
   EXPECT_EQ(Line(file.get()), L"plain\n");
 }
 
+TEST(TipLine, ATrailByteIsAtLeastHex40) {
+  const TipFileOnDisk disk("\x81\x3F\n\x81\x40\n\xFE\x3F\n\xFE\x40\n");
+  const FileOwner file = disk.Open();
+  EXPECT_EQ(Line(file.get()), L"\xFFFD?\n") << "the byte below is a character of its own";
+  EXPECT_EQ(Line(file.get()), L"\x4E02\n");
+  EXPECT_EQ(Line(file.get()), L"\xFFFD?\n");
+  EXPECT_EQ(Line(file.get()).back(), L'\n') << "the second byte belongs to the first";
+}
+
 TEST(TipLine, EndsAtTheEndMarkOfTextFiles) {
   const TipFileOnDisk disk("one\n\x1Atwo\n");
   const FileOwner file = disk.Open();

@@ -57,6 +57,11 @@ TEST(ScaleText, ADifferenceWithinTheToleranceCountsAsOneScale) {
   EXPECT_STREQ(TextFor(50, {0.5, 0.5009}), L"比例 1:0.5") << "on the scale itself, not its share";
 }
 
+TEST(ScaleText, ADifferenceOfExactlyTheToleranceCountsAsOneScale) {
+  EXPECT_STREQ(TextFor(50, {0, 0.001}), L"比例 1:50");
+  EXPECT_STREQ(TextFor(50, {0, 0.0010000001}), L"比例 1:***");
+}
+
 TEST(ScaleText, ObjectsOfDifferentScalesShowAsterisks) {
   EXPECT_STREQ(TextFor(50, {100, 100.01}), L"比例 1:***");
   EXPECT_STREQ(TextFor(50, {100, 100, 50}), L"比例 1:***");
