@@ -2,10 +2,6 @@
 // every call then fails.
 #include "doctabs/win/strip_accessible.h"
 
-#include <oleacc.h>
-
-#include <atomic>
-
 #include "doctabs/tab_access.h"
 #include "ground/guard.h"
 
@@ -13,27 +9,8 @@ namespace {
 
 constexpr wchar_t kListName[] = L"文档标签";
 
-HRESULT GiveText(const wchar_t* text, BSTR* out) {
-  if (!out) return E_POINTER;
-  *out = nullptr;
-  if (!*text) return S_FALSE;
-  *out = ::SysAllocString(text);
-  return *out ? S_OK : E_OUTOFMEMORY;
-}
-
-HRESULT GiveNumber(long number, VARIANT* out) {
-  if (!out) return E_POINTER;
-  out->vt = VT_I4;
-  out->lVal = number;
-  return S_OK;
-}
-
-VARIANT Self() {
-  VARIANT child;
-  child.vt = VT_I4;
-  child.lVal = CHILDID_SELF;
-  return child;
-}
+using qvx::GiveNumber;
+using qvx::GiveText;
 
 HRESULT GiveNothing(VARIANT* out) {
   if (!out) return E_POINTER;
@@ -41,50 +18,15 @@ HRESULT GiveNothing(VARIANT* out) {
   return S_FALSE;
 }
 
-}  // namespace
-
-class StripAccessible final : public IAccessible {
+class StripAccessible final : public qvx::AccessibleObject {
  public:
   StripAccessible(HWND window, const TabStrip& strip, IAccessible* standard)
-      : m_window(window), m_strip(&strip), m_standard(standard) {}
+      : AccessibleObject(standard), m_window(window), m_strip(&strip) {}
 
-  void Leave() { m_strip = nullptr; }
+  void OnDisconnect() override { m_strip = nullptr; }
 
-  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (!out) return E_POINTER;
-    *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != __uuidof(IAccessible))
-      return E_NOINTERFACE;
-    *out = static_cast<IAccessible*>(this);
-    AddRef();
-    return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --m_references;
-    if (!left) delete this;
-    return left;
-  }
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    return m_standard->GetTypeInfoCount(count);
-  }
-  STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override {
-    return m_standard->GetTypeInfo(index, locale, info);
-  }
-  STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
-                             DISPID* ids) override {
-    return m_standard->GetIDsOfNames(iid, names, count, locale, ids);
-  }
-  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                      UINT*) override {
-    return E_NOTIMPL;  // the standard object's data is not the strip's
-  }
-
-  STDMETHODIMP get_accParent(IDispatch** parent) override {
-    return m_standard->get_accParent(parent);
-  }
   STDMETHODIMP get_accChildCount(long* count) override {
-    const VARIANT child = Self();
+    const VARIANT child = qvx::SelfChild();
     return Ask(child, [&](const TabStrip& strip, int) -> HRESULT {
       if (!count) return E_POINTER;
       *count = strip.Count();
@@ -130,7 +72,7 @@ class StripAccessible final : public IAccessible {
     });
   }
   STDMETHODIMP get_accSelection(VARIANT* selected) override {
-    const VARIANT child = Self();
+    const VARIANT child = qvx::SelfChild();
     return Ask(child, [&](const TabStrip& strip, int) {
       return strip.ActiveTab() < 0 ? GiveNothing(selected)
                                    : GiveNumber(strip.ActiveTab() + 1, selected);
@@ -138,7 +80,7 @@ class StripAccessible final : public IAccessible {
   }
   STDMETHODIMP accLocation(long* x, long* y, long* width, long* height, VARIANT child) override {
     return Ask(child, [&](const TabStrip& strip, int tab) -> HRESULT {
-      if (tab < 0) return m_standard->accLocation(x, y, width, height, child);
+      if (tab < 0) return Standard().accLocation(x, y, width, height, child);
       if (!x || !y || !width || !height) return E_POINTER;
       const RECT box = TabAccessBox(strip, tab, Client());
       POINT corner{box.left, box.top};
@@ -151,7 +93,7 @@ class StripAccessible final : public IAccessible {
     });
   }
   STDMETHODIMP accHitTest(long x, long y, VARIANT* hit) override {
-    const VARIANT child = Self();
+    const VARIANT child = qvx::SelfChild();
     return Ask(child, [&](const TabStrip& strip, int) {
       RECT window{};
       ::GetWindowRect(m_window, &window);
@@ -167,25 +109,21 @@ class StripAccessible final : public IAccessible {
       int next = -1;
       if (tab < 0 && way == NAVDIR_FIRSTCHILD) next = 0;
       if (tab < 0 && way == NAVDIR_LASTCHILD) next = strip.Count() - 1;
-      if (tab < 0 && next < 0) return m_standard->accNavigate(way, child, to);
+      if (tab < 0 && next < 0) return Standard().accNavigate(way, child, to);
       if (tab >= 0 && (way == NAVDIR_NEXT || way == NAVDIR_RIGHT)) next = tab + 1;
       if (tab >= 0 && (way == NAVDIR_PREVIOUS || way == NAVDIR_LEFT)) next = tab - 1;
       return strip.m_names.IsValidIndex(next) ? GiveNumber(next + 1, to) : GiveNothing(to);
     });
   }
-  STDMETHODIMP get_accFocus(VARIANT* focus) override { return m_standard->get_accFocus(focus); }
   STDMETHODIMP accSelect(long, VARIANT) override { return DISP_E_MEMBERNOTFOUND; }
   STDMETHODIMP get_accValue(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
   STDMETHODIMP get_accDescription(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
   STDMETHODIMP get_accHelp(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
   STDMETHODIMP get_accHelpTopic(BSTR*, VARIANT, long*) override { return DISP_E_MEMBERNOTFOUND; }
   STDMETHODIMP get_accKeyboardShortcut(VARIANT, BSTR*) override { return DISP_E_MEMBERNOTFOUND; }
-  STDMETHODIMP put_accName(VARIANT, BSTR) override { return E_ACCESSDENIED; }
   STDMETHODIMP put_accValue(VARIANT, BSTR) override { return E_ACCESSDENIED; }
 
  private:
-  ~StripAccessible() { m_standard->Release(); }
-
   SIZE Client() const {
     RECT client{};
     ::GetClientRect(m_window, &client);
@@ -202,27 +140,14 @@ class StripAccessible final : public IAccessible {
     });
   }
 
-  std::atomic<ULONG> m_references{1};
   HWND m_window;
   const TabStrip* m_strip;  // null when the window is gone
-  IAccessible* m_standard;  // owned by reference
 };
 
-void StripAccess::Disconnect() {
-  if (!m_object) return;
-  m_object->Leave();
-  ::CoDisconnectObject(m_object, 0);
-  m_object->Release();
-  m_object = nullptr;
-}
+}  // namespace
 
 LRESULT StripAccess::Answer(HWND window, const TabStrip& strip, WPARAM wParam) {
-  if (!m_object) {
-    IAccessible* standard = nullptr;
-    if (FAILED(::CreateStdAccessibleObject(window, OBJID_CLIENT, __uuidof(IAccessible),
-                                           reinterpret_cast<void**>(&standard))))
-      return 0;
-    m_object = new StripAccessible(window, strip, standard);
-  }
-  return ::LresultFromObject(__uuidof(IAccessible), wParam, m_object);
+  return m_holder.Answer(window, wParam, [&](IAccessible* standard) {
+    return new StripAccessible(window, strip, standard);
+  });
 }

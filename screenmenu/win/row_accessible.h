@@ -5,10 +5,8 @@
 
 #include <string>
 
-#include "afxwin.h"
+#include "ground/win/accessible_object.h"
 #include "screenmenu/row_access.h"
-
-struct IAccessible;
 
 // The interface of the accessible object to its row, which is a window.
 class AccessibleRow {
@@ -22,18 +20,11 @@ class AccessibleRow {
   ~AccessibleRow() = default;
 };
 
-// One row's accessible object, created at the first request. Clients in other processes are
-// disconnected when the row is destroyed: the object's code may be unloaded after that.
 class RowAccess {
  public:
-  RowAccess() = default;
-  ~RowAccess();
-  RowAccess(const RowAccess&) = delete;
-  RowAccess& operator=(const RowAccess&) = delete;
-
   // The result of WM_GETOBJECT for the client object of the row's window.
   LRESULT Answer(HWND row, WPARAM wParam);
 
  private:
-  IAccessible* m_object = nullptr;  // owned by reference
+  qvx::AccessibleHolder m_holder;
 };
