@@ -37,6 +37,10 @@ class InPlaceEditor {
   InPlaceEditor& operator=(const InPlaceEditor&) = delete;
 
   bool IsEditing() const { return m_pSubText != nullptr; }
+  // The object whose text is edited; null when the editor is idle.
+  AcDbObjectId EditedObject() const {
+    return m_pSubText ? m_pSubText->GetObjectId() : AcDbObjectId();
+  }
 
   // `toWorld` carries the corners of the text from their own space to the world.
   void BeginEdit(std::unique_ptr<EditFragment> text, const AcGeMatrix3d& toWorld);

@@ -3,6 +3,7 @@
 
 #include <imm.h>
 
+#include "editor/edited_kind.h"
 #include "editor/editor_door.h"
 #include "editor/in_place_edit.h"
 #include "editor/kernel_fragment.h"
@@ -26,7 +27,10 @@ ON_WM_MENUSELECT()
 ON_WM_EXITMENULOOP()
 ON_COMMAND_RANGE(qvx::kFirstEditCommand, qvx::kLastEditCommand, OnMenuCommand)
 ON_MESSAGE(WM_IME_STARTCOMPOSITION, OnStartComposition)
+ON_MESSAGE(WM_IME_COMPOSITION, OnComposition)
 ON_MESSAGE(WM_IME_ENDCOMPOSITION, OnEndComposition)
+ON_MESSAGE(WM_GETOBJECT, OnGetObject)
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 namespace {
@@ -45,6 +49,24 @@ void MoveCompositionToCaret(HWND window) {
   if (::GetCaretPos(&form.ptCurrentPos)) ::ImmSetCompositionWindow(context, &form);
   ::ImmReleaseContext(window, context);
 }
+
+// The control with the name of what is edited.
+class NamedBox final : public qvx::AccessibleObject {
+ public:
+  NamedBox(IAccessible* standard, std::wstring name)
+      : AccessibleObject(standard), m_name(std::move(name)) {}
+
+  void OnDisconnect() override { m_name.clear(); }
+  STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
+    return qvx::GuardedOr(HRESULT{E_OUTOFMEMORY}, [&]() -> HRESULT {
+      if (m_name.empty() || !qvx::IsSelf(child)) return Standard().get_accName(child, name);
+      return qvx::GiveText(m_name, name);
+    });
+  }
+
+ private:
+  std::wstring m_name;  // empty when the box is gone
+};
 
 }  // namespace
 
@@ -157,9 +179,32 @@ LRESULT CInPlaceEdit::OnStartComposition(WPARAM, LPARAM) {
   return Default();
 }
 
+// A part of the text may be done, which moves the caret.
+LRESULT CInPlaceEdit::OnComposition(WPARAM, LPARAM) {
+  const LRESULT result = Default();
+  if (m_hWnd) MoveCompositionToCaret(m_hWnd);
+  return result;
+}
+
 LRESULT CInPlaceEdit::OnEndComposition(WPARAM, LPARAM) {
   m_editor.OnComposition(false);
   return Default();
+}
+
+// The window system's own object has everything but the name.
+LRESULT CInPlaceEdit::OnGetObject(WPARAM wParam, LPARAM lParam) {
+  if (static_cast<LONG>(lParam) != OBJID_CLIENT) return Default();
+  return m_access.Answer(m_hWnd, wParam, [this](IAccessible* standard) {
+    return new NamedBox(standard, qvx::KindOfText(LiveEditHost::TypeOf(m_editor.EditedObject())));
+  });
+}
+
+// The menu of the box closes with it.
+void CInPlaceEdit::OnDestroy() {
+  m_access.Disconnect();
+  m_host.CloseMenu();
+  m_editor.OnExitMenuLoop();
+  CEdit::OnDestroy();
 }
 
 // ---- the reactor of drawings

@@ -10,6 +10,7 @@
 #include "editor/in_place_editor.h"
 #include "editor/live_text_objects.h"
 #include "editor/win/live_edit_host.h"
+#include "ground/win/accessible_object.h"
 #include "ground/win/guarded_window.h"
 
 class CInPlaceEdit;
@@ -105,7 +106,10 @@ class CInPlaceEdit : public qvx::GuardedWindow<CEdit>, public AcEditorReactor {
   afx_msg void OnExitMenuLoop(BOOL isShortcut);
   afx_msg void OnMenuCommand(UINT id);
   afx_msg LRESULT OnStartComposition(WPARAM wParam, LPARAM lParam);
+  afx_msg LRESULT OnComposition(WPARAM wParam, LPARAM lParam);
   afx_msg LRESULT OnEndComposition(WPARAM wParam, LPARAM lParam);
+  afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+  afx_msg void OnDestroy();
   DECLARE_MESSAGE_MAP()
 
  private:
@@ -113,6 +117,7 @@ class CInPlaceEdit : public qvx::GuardedWindow<CEdit>, public AcEditorReactor {
 
   CFont m_font;
   CBrush m_brush;
+  qvx::AccessibleHolder m_access;
   EditedDrawings m_reactor{*this};
   qvx::LiveReferenceHost m_referenceHost;
   qvx::BlockReferences m_blocks{m_referenceHost};

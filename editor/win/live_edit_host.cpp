@@ -99,7 +99,9 @@ void LiveEditHost::TrackMenu(TMenuBar& menu, POINT screen) {
 std::wstring LiveEditHost::TipOf(TMenuBar& menu, int id) const {
   if (IsMenuGone()) return {};
   const TMenuItem* line = menu.FindItemById(id);
-  const wchar_t* tip = line ? qvx::HelpOfLine(*line, MenuLines()) : nullptr;
+  qvx::LineSources sources = MenuLines();
+  sources.hasIcons = true;  // unlike other pop-ups, this one has tips without the icon library
+  const wchar_t* tip = line ? qvx::HelpOfLine(*line, sources) : nullptr;
   return tip ? tip : L"";
 }
 
@@ -137,6 +139,14 @@ void LiveEditHost::SelectOnly(AcDbObjectId object) {
 std::wstring LiveEditHost::FullCommandName(const wchar_t* name) const {
   const TWCString full = QvxExport::GetFullCmdName(name);
   return static_cast<const wchar_t*>(full);
+}
+
+std::wstring LiveEditHost::TypeOf(AcDbObjectId object) {
+  ads_name name;
+  wchar_t type[TEntitySet::kDataUnits] = {};
+  if (!object.isErased() && acdbGetAdsName(name, object) == Acad::eOk)
+    TEntitySet(name).GetData(0, type);
+  return type;
 }
 
 void LiveEditHost::Post(const std::wstring& text) { qvx::SendToHost(text.c_str()); }

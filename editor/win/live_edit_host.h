@@ -39,7 +39,10 @@ class LiveEditHost final : public qvx::EditHost {
   std::wstring FullCommandName(const wchar_t* name) const override;
   void Post(const std::wstring& text) override;
 
+  // The name that drawing files have for the object's class; empty when it is erased.
+  static std::wstring TypeOf(AcDbObjectId object);
   const BlockPopup& Popup() const { return m_popup; }
+  void CloseMenu() { m_popup.Close(); }
   bool IsMenuGone() const { return m_menu.IsGone(); }  // the lines of the menu last tracked
 
  private:

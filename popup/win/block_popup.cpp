@@ -31,6 +31,10 @@ bool BlockPopup::Measure(MEASUREITEMSTRUCT& item) const {
 
 CBitmapMenu* BlockPopup::Find(const CMenu* menu) const { return FindPopup(m_popups, menu); }
 
+void BlockPopup::Close() {
+  if (s_shown == this) ::EndMenu();
+}
+
 void BlockPopup::ForgetLines() {
   if (!s_shown) return;
   ForgetPopupLines(s_shown->m_popups);

@@ -16,6 +16,10 @@ class BlockPopup : private PopupOwner {
   bool Measure(MEASUREITEMSTRUCT& item) const;  // false: no row of this pop-up
   CBitmapMenu* Find(const CMenu* menu) const;   // null: no menu of this pop-up
 
+  // Closes the pop-up if it is shown. For an owner whose window is destroyed: the menu loop ends
+  // without a message to it.
+  void Close();
+
   // The lines of the menu in force are about to be destroyed: closes the pop-up that is shown.
   static void ForgetLines();
 

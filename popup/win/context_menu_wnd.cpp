@@ -8,6 +8,7 @@
 #include "aced.h"
 #include "editor/editor_door.h"
 #include "kernel/globals.h"
+#include "popup/win/block_popup_door.h"
 #include "rxmfcapi.h"
 #include "screenmenu/screen_menu_door.h"
 
@@ -36,6 +37,7 @@ CContextMenuWnd::CContextMenuWnd(void (*onReadiness)()) : m_onReadiness(onReadin
 // destruction would destroy before the line.
 CContextMenuWnd::~CContextMenuWnd() {
   SetMenuInForce(nullptr);
+  BlockPopup::ForgetLines();
   m_isShowing = false;
   ResetPopups();
   m_menuSystem.EmptyLists();

@@ -3,7 +3,8 @@
 // role, state and default action, separated by tabs; with the second argument "places" the name and
 // the four numbers of its rectangle. With "children" the same window's own line and that of each of
 // its parts that have no window, name to action and the rectangle; with "press N" it also performs
-// the default action of the part N. Run by the accessibility tests.
+// the default action of the part N. With "value" only the value of the same window. Run by the
+// accessibility tests.
 #include <windows.h>
 // after windows.h
 #include <oleacc.h>
@@ -73,6 +74,17 @@ void PrintParts(HWND window, const char* press) {
   object->Release();
 }
 
+void PrintValue(HWND window) {
+  IAccessible* object = ObjectOf(window);
+  if (!object) return;
+  VARIANT self{};
+  self.vt = VT_I4;
+  BSTR value = nullptr;
+  object->get_accValue(self, &value);
+  std::printf("%s\n", Utf8(value).c_str());
+  object->Release();
+}
+
 void PrintButton(HWND button, bool place) {
   IAccessible* object = ObjectOf(button);
   if (!object) return;
@@ -103,6 +115,8 @@ int main(int argc, char** argv) {
   const std::string what = argc > 2 ? argv[2] : "";
   if (what == "children" || what == "press")
     PrintParts(window, argc > 3 ? argv[3] : nullptr);
+  else if (what == "value")
+    PrintValue(window);
   else
     ::EnumChildWindows(window, Visit, what == "places");
   ::CoUninitialize();
