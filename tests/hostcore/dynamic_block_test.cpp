@@ -144,10 +144,26 @@ TEST_F(DynamicBlock, FlippingIsOneStepOfUndoAndRedo) {
   AcDbObjectIdArray ids;
   AcDbDynBlockTableRecord(BlockNamed(L"DESK")).getAnonymousBlockIds(ids);
   EXPECT_TRUE(ids.isEmpty());
+  EXPECT_TRUE(BlockNamed(L"*U1").isNull());
+  EXPECT_EQ(DrawingText(*document->database()).find("*U1"), std::string::npos);
   Send(L"REDO\n");
   const AcDbObjectId copy = AcDbDynBlockReference(&reference).anonymousBlockTableRecord();
   ASSERT_FALSE(copy.isNull());
+  EXPECT_EQ(BlockNamed(L"*U1"), copy);
   EXPECT_EQ(2u, PartsOf(copy).size());
+}
+
+TEST_F(DynamicBlock, TheNameOfACopyThatUndoRemovedIsFreeAgain) {
+  AcDbBlockReference& reference = Insert({100, 0, 0});
+  Send(L"BDYNFLIP 120,0\n");
+  const AcDbObjectId first = reference.blockTableRecord();
+  Send(L"U\nBDYNSTRETCH 120,0 25\n");
+  EXPECT_NE(reference.blockTableRecord(), first);
+  EXPECT_EQ(BlockNamed(L"*U1"), reference.blockTableRecord());
+  AcDbDatabase read;
+  ASSERT_EQ(L"", ReadDrawingText(DrawingText(*document->database()), L"a.dxf", read).message);
+  EXPECT_FALSE(BlockNamed(L"*U1", &read).isNull());
+  EXPECT_TRUE(BlockNamed(L"*U2", &read).isNull());
 }
 
 TEST_F(DynamicBlock, AttributesKeepTheirValuesAndFollowTheState) {

@@ -161,7 +161,7 @@ BlockState StateOf(const AcDbBlockTableRecord& copy) {
 std::vector<AcDbBlockTableRecord*> CopiesOf(const AcDbBlockTableRecord& definition) {
   std::vector<AcDbBlockTableRecord*> copies;
   for (AcDbObjectId id : BlocksOf(definition).records()) {
-    auto* block = AcDbBlockTableRecord::cast(id.object());
+    auto* block = id.isErased() ? nullptr : AcDbBlockTableRecord::cast(id.object());
     if (block && block != &definition && DynamicDefinitionOf(*block) == &definition)
       copies.push_back(block);
   }

@@ -55,7 +55,7 @@ Acad::ErrorStatus AcDbLayerTableRecord::dxfOutFields(AcDbDxfFiler* filer) const 
 
 Acad::ErrorStatus AcDbSymbolTable::getAt(const ACHAR* name, AcDbObjectId& id) const {
   const auto at = m_byName.find(devhost::UpperCase(name ? name : L""));
-  if (at == m_byName.end()) return Acad::eKeyNotFound;
+  if (at == m_byName.end() || at->second.isErased()) return Acad::eKeyNotFound;
   id = at->second;
   return Acad::eOk;
 }
@@ -66,14 +66,14 @@ bool AcDbSymbolTable::has(const ACHAR* name) const {
 }
 
 Acad::ErrorStatus AcDbSymbolTable::add(AcDbSymbolTableRecord* record) {
-  const std::wstring key = devhost::UpperCase(record->getName());
-  if (m_byName.count(key)) return Acad::eDuplicateKey;
+  if (has(record->getName())) return Acad::eDuplicateKey;
   AcDbObjectId id;
   if (!record->database() && database()->addAcDbObject(id, record) != Acad::eOk)
     return Acad::eInvalidInput;
   record->setOwnerId(objectId());
-  m_byName[key] = record->objectId();
+  m_byName[devhost::UpperCase(record->getName())] = record->objectId();
   m_records.push_back(record->objectId());
+  if (database()->body().onAdded) database()->body().onAdded(record);
   return Acad::eOk;
 }
 

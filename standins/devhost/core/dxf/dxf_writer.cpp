@@ -238,7 +238,9 @@ void Writer::OwnTable(const wchar_t* name, const std::vector<KeptGroup>& head) {
   const std::uint64_t handle = table.handle().value();
   const auto isHandle = [](const KeptGroup& group) { return group.code == 5; };
   const bool hasHandle = std::any_of(head.begin(), head.end(), isHandle);
-  if (head.empty()) BeginTable(name, table.records().size(), handle);
+  const auto live = static_cast<std::size_t>(
+      std::ranges::count_if(table.records(), [](AcDbObjectId id) { return !id.isErased(); }));
+  if (head.empty()) BeginTable(name, live, handle);
   for (const KeptGroup& group : head) {
     if (isHandle(group))
       m_filer.WriteHandle(5, handle);

@@ -10,7 +10,7 @@ LayerStyles LayerStylesOf(AcDbDatabase& database) {
   LayerStyles looks;
   const auto* table = AcDbLayerTable::cast(database.layerTableId().object());
   for (AcDbObjectId id : table->records()) {
-    const auto* layer = AcDbLayerTableRecord::cast(id.object());
+    const auto* layer = id.isErased() ? nullptr : AcDbLayerTableRecord::cast(id.object());
     if (!layer) continue;
     const std::wstring type = UpperCase(layer->linetype());
     looks[UpperCase(layer->getName())] = {layer->colorIndex(),
