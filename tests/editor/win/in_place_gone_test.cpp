@@ -117,7 +117,7 @@ TEST_F(InPlaceGone, AMovedObjectIsWrittenWhereItIs) {
   EXPECT_EQ(RoomText(), L"hall");
 }
 
-TEST_F(InPlaceGone, TiledDrawingsLeaveTheBoxOpenAndInside) {
+TEST_F(InPlaceGone, TilingTheDrawingsLeavesTheBoxOpenWithWhatWasTyped) {
   AcApDocument* other = NewDrawing();
   acDocManager->activateDocument(m_document);
   Open();
@@ -125,7 +125,10 @@ TEST_F(InPlaceGone, TiledDrawingsLeaveTheBoxOpenAndInside) {
   const HWND client = ::GetParent(::GetParent(View()));
   ::SendMessageW(client, WM_MDITILE, MDITILE_VERTICAL, 0);
   Pump();
-  if (IsOpen()) Key(VK_RETURN);
+  ASSERT_TRUE(IsOpen());
+  EXPECT_EQ(BoxText(), L"hall");
+  EXPECT_EQ(RoomText(), m_before) << "not written yet";
+  Key(VK_RETURN);
   EXPECT_EQ(RoomText(), L"hall");
   EXPECT_EQ(Faults(), 0);
   acDocManager->closeDocument(other);
