@@ -8,7 +8,6 @@
 #include "devhost/core/host/host.h"
 #include "devhost/core/selection/highlight.h"
 #include "devhost/core/selection/selection.h"
-#include "devhost/core/view/scene.h"
 
 namespace devhost {
 namespace {
@@ -120,16 +119,6 @@ std::vector<std::string> HighlightedHandles() {
     handles.push_back(Utf8(handle));
   }
   return handles;
-}
-
-bool DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) {
-  Document* document = TheHost().documents.Current();
-  AcDbEntity* entity = document ? EntityOf(*document, handle) : nullptr;
-  if (!entity) return false;
-  for (Shape& shape : ShapesOf(*entity, 1))
-    if (shape.kind == Shape::Kind::Text && !shape.text.empty())
-      texts->push_back(std::move(shape.text));
-  return true;
 }
 
 void ShowHostHelp() {

@@ -26,8 +26,6 @@ bool SetVariableText(const std::wstring& name, const std::wstring& value);
 bool GetVariableText(const std::wstring& name, std::wstring* value);
 
 std::vector<std::string> HighlightedHandles();  // of the active drawing
-// The texts that an object draws, in their order. False: the active drawing has no such object.
-bool DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts);
 void ShowHostHelp();  // F1: prints and records which command help was asked for
 
 std::string DescribeActiveDatabase();  // JSON

@@ -142,7 +142,7 @@ bool UiPortImpl::GetSetting(const std::wstring& name, std::wstring* value) {
 std::vector<std::string> UiPortImpl::HighlightedHandles() { return devhost::HighlightedHandles(); }
 
 bool UiPortImpl::DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) {
-  return devhost::DrawnTexts(handle, texts);
+  return View() && View()->Model().DrawnTexts(handle, texts);
 }
 
 std::wstring UiPortImpl::TypedText() {

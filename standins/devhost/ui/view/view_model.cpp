@@ -148,6 +148,15 @@ std::optional<POINT> ViewModel::PixelOnEntity(const std::string& handle) const {
   return m_document.view.ToPixel(at);
 }
 
+bool ViewModel::DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) const {
+  AcDbEntity* entity = EntityOfHandle(m_document, handle);
+  if (!entity) return false;
+  for (Shape& shape : ShapesOf(*entity, 1))
+    if (shape.kind == Shape::Kind::Text && !shape.text.empty())
+      texts->push_back(std::move(shape.text));
+  return true;
+}
+
 std::wstring ViewModel::CoordinatesAt(POINT pixel) const {
   const AcGePoint3d at = System().ToUser(m_document.view.ToWorld(pixel));
   wchar_t text[96];

@@ -31,6 +31,8 @@ class ViewModel {
 
   std::optional<POINT> PixelOf(double x, double y) const;
   std::optional<POINT> PixelOnEntity(const std::string& handle) const;  // where a click picks it
+  // The texts that an object draws, in their order. False: there is no such object.
+  bool DrawnTexts(const std::string& handle, std::vector<std::wstring>* texts) const;
   AcGePoint3d WorldAt(POINT pixel) const { return m_document.view.ToWorld(pixel); }
   std::wstring CoordinatesAt(POINT pixel) const;  // in the user's system
   AxisMark Axes() const;                          // of the user's system
