@@ -2,52 +2,17 @@
 #include "kernel/pick_object.h"
 
 #include <cmath>
-#include <functional>
 #include <numbers>
 
-#include "accmd.h"
 #include "kernel/entities/block_inserts.h"
-#include "kernel_objects_fixture.h"
+#include "pick_fixture.h"
 
 namespace {
 
 constexpr double kQuarter = std::numbers::pi / 2;
 
-std::function<void()>& Running() {
-  static std::function<void()> body;
-  return body;
-}
-
-class NestedPick : public kerneltest::ObjectsTest {
+class NestedPick : public kerneltest::PickTest {
  protected:
-  void SetUp() override {
-    ObjectsTest::SetUp();
-    AcEdCommandStack::cast(acrxSysRegistry()->at(ACRX_CMDS))
-        ->addCommand(L"TEST", L"RUNBODY", L"RUNBODY", ACRX_CMD_MODAL, [] { Running()(); });
-    ShowPlan();
-  }
-  void TearDown() override {
-    AcEdCommandStack::cast(acrxSysRegistry()->at(ACRX_CMDS))->removeGroup(L"TEST");
-    ObjectsTest::TearDown();
-  }
-
-  // A unit is a tenth of a pixel; a pick reaches 60 units.
-  void ShowPlan(double height = 10000) {
-    host.documents.Current()->view.Resize(1000, 1000);
-    host.documents.Current()->view.ShowAt(5000, 5000, height);
-  }
-
-  // Inside a command, where picks are possible; the input follows the command.
-  void Run(const std::wstring& input, std::function<void()> body) {
-    bool ran = false;
-    Running() = [&] {
-      ran = true;
-      body();
-    };
-    Send(L"RUNBODY\n" + input);
-    EXPECT_TRUE(ran);
-  }
-
   struct Answer {
     int status = 0;
     TEntitySet entity;
@@ -65,23 +30,6 @@ class NestedPick : public kerneltest::ObjectsTest {
     return answer;
   }
 
-  // A text of 100 at 100,0 of its block.
-  AcDbText* TextIn(AcDbBlockTableRecord* block, const wchar_t* text = L"图") {
-    auto* made = new AcDbText({100, 0, 0}, text, 100);
-    block->appendAcDbEntity(made);
-    return made;
-  }
-  AcDbBlockReference* Insert(AcDbBlockTableRecord* into, AcDbBlockTableRecord* block,
-                             const AcGePoint3d& at, double turn = 0, double scale = 1) {
-    auto* reference = new AcDbBlockReference(at, block->objectId());
-    if (into)
-      into->appendAcDbEntity(reference);
-    else
-      Append(reference);
-    AcGeMatrix3d placed = AcGeMatrix3d::insertion(at, turn, scale, scale, at);
-    reference->transformBy(placed);
-    return reference;
-  }
   static void ExpectMaps(const AcGeMatrix3d& matrix, const AcGePoint3d& from,
                          const AcGePoint3d& to) {
     const AcGePoint3d mapped = matrix * from;
