@@ -33,6 +33,7 @@ class ScriptedUi : public devhost::HostUi {
   std::vector<std::wstring> questions;
   std::function<void()> onQuestion;  // what happens while a question is shown
   bool ended = false;
+  int pictures = 0;  // requests to repaint a drawing
   // What the user does in the dialog for attributes; none: cancels it.
   std::function<bool(const std::wstring&, std::vector<devhost::AttributeValue>&)> editAttributes;
 
@@ -42,7 +43,7 @@ class ScriptedUi : public devhost::HostUi {
   }
   void DocumentDestroyed(devhost::Document& d) override { log.push_back(L"destroyed " + d.Name()); }
   void DocumentTitled(devhost::Document& d) override { log.push_back(L"titled " + d.Name()); }
-  void PictureChanged(devhost::Document&) override {}
+  void PictureChanged(devhost::Document&) override { ++pictures; }
   void SelectionChanged(devhost::Document&) override { log.push_back(L"selection"); }
   void Print(const std::wstring& text) override { printed += text; }
   void PromptChanged(const std::wstring&) override {}
