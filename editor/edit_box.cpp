@@ -26,21 +26,23 @@ void MoveBy(RECT& box, LONG dx, LONG dy) {
   box.bottom += dy;
 }
 
-// Height of a line without characters.
-LONG LetterHeight(TextMeasure& measure) { return measure.Measure(L"a", MeasureFont::kBox).cy; }
-
-SIZE SizeOfLines(const std::wstring& text, TextMeasure& measure) {
-  const LONG letter = LetterHeight(measure);
-  LONG width = 0;
-  long long height = 0;
+// Split at line feeds. A line feed at the end begins another line, which has the height of a
+// letter.
+SIZE SizeOfLines(std::wstring_view text, TextMeasure& measure) {
+  std::vector<std::wstring_view> lines{L"a"};
   for (size_t start = 0; start < text.size();) {
     const size_t end = std::min(text.find(L'\n', start), text.size());
-    const SIZE line = measure.Measure(text.substr(start, end - start), MeasureFont::kBox);
-    width = std::max(width, line.cx);
-    height += line.cy < 1 ? letter : line.cy;
+    lines.push_back(text.substr(start, end - start));
     start = end + 1;
   }
-  if (text.back() == L'\n') height += letter;
+  const std::vector<SIZE> sizes = measure.MeasureAll(lines, MeasureFont::kBox);
+  const LONG letter = sizes[0].cy;
+  LONG width = 0;
+  long long height = text.back() == L'\n' ? letter : 0;
+  for (size_t i = 1; i < sizes.size(); ++i) {
+    width = std::max(width, sizes[i].cx);
+    height += sizes[i].cy < 1 ? letter : sizes[i].cy;
+  }
   return {width, static_cast<LONG>(std::min<long long>(height, kFarthestPixel))};
 }
 

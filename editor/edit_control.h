@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ground/plain_types.h"
@@ -25,7 +26,10 @@ enum class MeasureFont {
 class TextMeasure {
  public:
   virtual ~TextMeasure() = default;
-  virtual SIZE Measure(const std::wstring& text, MeasureFont font) = 0;
+  SIZE Measure(std::wstring_view text, MeasureFont font) { return MeasureAll({text}, font)[0]; }
+  // Each text by itself, all in one context: a context of its own would cost more than the text.
+  virtual std::vector<SIZE> MeasureAll(const std::vector<std::wstring_view>& texts,
+                                       MeasureFont font) = 0;
   // In the font of the box: element i is the width of the first i + 1 characters. Takes time linear
   // in the text's length.
   virtual std::vector<int> PrefixWidths(const std::wstring& text) = 0;

@@ -17,14 +17,16 @@ CWnd* WindowOf(qvx::BoxParent parent) {
 
 }  // namespace
 
-SIZE InPlaceBox::Measure(const std::wstring& text, qvx::MeasureFont font) {
+std::vector<SIZE> InPlaceBox::MeasureAll(const std::vector<std::wstring_view>& texts,
+                                         qvx::MeasureFont font) {
+  std::vector<SIZE> sizes(texts.size());
   CClientDC dc(&m_edit);
   const HGDIOBJ used = font == qvx::MeasureFont::kBox ? static_cast<HGDIOBJ>(m_edit.m_font)
                                                       : ::GetCurrentObject(dc, OBJ_FONT);
   const qvx::SelectedObject selected(dc, used);
-  SIZE size{};
-  ::GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-  return size;
+  for (size_t i = 0; i < texts.size(); ++i)
+    ::GetTextExtentPoint32W(dc, texts[i].data(), static_cast<int>(texts[i].size()), &sizes[i]);
+  return sizes;
 }
 
 std::vector<int> InPlaceBox::PrefixWidths(const std::wstring& text) {

@@ -20,7 +20,8 @@ class InPlaceBox final : public qvx::EditControl {
  public:
   explicit InPlaceBox(CInPlaceEdit& edit) : m_edit(edit) {}
 
-  SIZE Measure(const std::wstring& text, qvx::MeasureFont font) override;
+  std::vector<SIZE> MeasureAll(const std::vector<std::wstring_view>& texts,
+                               qvx::MeasureFont font) override;
   std::vector<int> PrefixWidths(const std::wstring& text) override;
   bool Create(qvx::BoxParent parent) override;
   bool Exists() override;

@@ -96,13 +96,18 @@ void FragmentDouble::Highlight(bool on) const {
   m_diary.Note((on ? "highlight " : "unhighlight ") + std::to_string(m_object.number));
 }
 
-SIZE ControlDouble::Measure(const std::wstring& of, qvx::MeasureFont font) {
+std::vector<SIZE> ControlDouble::MeasureAll(const std::vector<std::wstring_view>& texts,
+                                            qvx::MeasureFont font) {
   const bool isBox = font == qvx::MeasureFont::kBox;
-  const auto returns = static_cast<LONG>(std::ranges::count(of, L'\r'));
-  const LONG letters = static_cast<LONG>(of.size()) - returns;
   const LONG width = isBox ? letterWidth : kContextWidth;
   const LONG height = isBox ? letterHeight : kContextHeight;
-  return {letters * width + returns * kReturnWidth, of.empty() ? 0 : height};
+  std::vector<SIZE> sizes;
+  for (const std::wstring_view of : texts) {
+    const auto returns = static_cast<LONG>(std::ranges::count(of, L'\r'));
+    const LONG letters = static_cast<LONG>(of.size()) - returns;
+    sizes.push_back({letters * width + returns * kReturnWidth, of.empty() ? 0 : height});
+  }
+  return sizes;
 }
 std::vector<int> ControlDouble::PrefixWidths(const std::wstring& of) {
   std::vector<int> widths;

@@ -93,7 +93,8 @@ class ControlDouble : public qvx::EditControl {
   LONG letterWidth = 10, letterHeight = 20;
   int caretHides = 0;
 
-  SIZE Measure(const std::wstring& text, qvx::MeasureFont font) override;
+  std::vector<SIZE> MeasureAll(const std::vector<std::wstring_view>& texts,
+                               qvx::MeasureFont font) override;
   std::vector<int> PrefixWidths(const std::wstring& text) override;
   bool Create(qvx::BoxParent parent) override;
   bool Exists() override { return exists; }
