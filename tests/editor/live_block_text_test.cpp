@@ -380,6 +380,22 @@ TEST_F(LiveBlockText, ARoomInABlockIsHitAtItsTextOnly) {
   EXPECT_EQ(opener.fragment->GetText(), L"客厅");
 }
 
+TEST_F(LiveBlockText, ATextObjectRunsItsOwnRoutineAndTheReportFollowsAtOnce) {
+  auto* mark = new QvxDbText;
+  mark->label = L"客厅";
+  mark->width = 100;
+  mark->start = {100, 1000, 0};
+  room->appendAcDbEntity(mark);
+  Place(5000, 5000);
+  Place(1000, 1000);
+  RunCommand(L"5150,6050\n卧室\n");
+  EXPECT_EQ(mark->label, L"卧室");
+  EXPECT_FALSE(opener.fragment);
+  EXPECT_FALSE(IsLit(mark));
+  EXPECT_NE(Printed(L"\n有1个同名的图块同时参与了修改\n"), std::wstring::npos);
+  EXPECT_FALSE(blocks.HasSameName());
+}
+
 TEST_F(LiveBlockText, TextOfAReferenceWithoutABlockAroundItIsNotEdited) {
   Append(new AcDbText({1000, 1000, 0}, L"图", 100));
   RunCommand(L"1050,1050\n\n");

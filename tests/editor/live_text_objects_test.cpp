@@ -123,15 +123,19 @@ TEST_F(LiveTextObjects, ALockIsOfTheCurrentDrawingUntilItIsReleased) {
 }
 
 TEST_F(LiveTextObjects, ALockOfADrawingThatHasClosedReleasesNothing) {
+  AcApDocument* first = acDocManager->curDocument();
   auto lock = qvx::LockCurrentForWrite();
-  AcApDocument* document = acDocManager->curDocument();
-  acDocManager->unlockDocument(document);  // the host closes a locked drawing later
-  acDocManager->closeDocument(document);
-  EXPECT_EQ(qvx::LockCurrentForWrite(), nullptr) << "no drawing";
   NewDrawing();
   const auto other = qvx::LockCurrentForWrite();
+  acDocManager->unlockDocument(first);  // the host closes a locked drawing later
+  acDocManager->closeDocument(first);
   lock.reset();
   EXPECT_TRUE(IsLocked());
+}
+
+TEST_F(LiveTextObjects, WithoutADrawingNothingIsLocked) {
+  acDocManager->closeDocument(acDocManager->curDocument());
+  EXPECT_EQ(qvx::LockCurrentForWrite(), nullptr);
 }
 
 // ---- carriers
