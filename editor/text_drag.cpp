@@ -40,12 +40,12 @@ TextRange TextDrag::AfterMove(TextRange selection) {
   return Saved();
 }
 
-// False when the text stays as it is.
-bool TextDrag::Drop(const std::wstring& text, bool copies, DropResult& result) {
+// Leaves the result empty when the text stays as it is.
+void TextDrag::Drop(const std::wstring& text, bool copies, DropResult& result) {
   const int length = static_cast<int>(text.size());
-  if (m_nSelStart < 0 || m_nSelEnd > length || m_nSelStart > m_nSelEnd) return false;
+  if (m_nSelStart < 0 || m_nSelEnd > length || m_nSelStart > m_nSelEnd) return;
   m_nDropPos = std::min(m_nDropPos, length);  // of a box before, it may be beyond this text
-  if (m_nDropPos >= m_nSelStart && m_nDropPos <= m_nSelEnd) return false;
+  if (m_nDropPos >= m_nSelStart && m_nDropPos <= m_nSelEnd) return;
   const auto at = [](int position) { return static_cast<size_t>(position); };
   const std::wstring dragged = text.substr(at(m_nSelStart), at(m_nSelEnd - m_nSelStart));
   const int count = m_nSelEnd - m_nSelStart;
@@ -58,7 +58,6 @@ bool TextDrag::Drop(const std::wstring& text, bool copies, DropResult& result) {
   }
   result.text = std::move(changed);
   result.selection = {m_nDropPos, m_nDropPos + count};
-  return true;
 }
 
 DropResult TextDrag::OnRelease(const std::wstring& text, bool copies) {

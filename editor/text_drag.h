@@ -43,7 +43,7 @@ class TextDrag {
 
  private:
   TextRange Saved() const { return {m_nSelStart, m_nSelEnd}; }
-  bool Drop(const std::wstring& text, bool copies, DropResult& result);
+  void Drop(const std::wstring& text, bool copies, DropResult& result);
 };
 
 }  // namespace qvx

@@ -24,7 +24,7 @@ std::wstring UnwrapText(const std::wstring& text) {
   std::wstring line;
   line.reserve(text.size());
   for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == L'\r' && i + 1 < text.size() && text[i + 1] == L'\n')
+    if (text[i] == L'\r' && text[i + 1] == L'\n')  // the text ends with a null
       ++i;
     else
       line += text[i];

@@ -77,6 +77,8 @@ TEST_F(BlockText, WithAZeroApertureThePromptComesBackAtOnce) {
     host.aperture = aperture;
     EXPECT_EQ(Run(), (Entries{kPick, kPick}));
   }
+  host.aperture = 1e-6;
+  EXPECT_EQ(Run().size(), 5u) << "the smallest that selects";
 }
 
 TEST_F(BlockText, ATransformWithoutAnInverseLeadsBackToThePrompt) {

@@ -6,6 +6,22 @@ namespace {
 
 using InPlaceClosing = EditTest;
 
+TEST_F(InPlaceClosing, ANewEditorIsIdleAndHasNothingNoted) {
+  EXPECT_FALSE(editor->IsEditing());
+  EXPECT_FALSE(editor->IsMultiLine());
+  EXPECT_FALSE(editor->IsWrapped());
+  EXPECT_FALSE(editor->IsInSubDialog());
+  const qvx::TextDrag& drag = editor->Drag();
+  EXPECT_EQ(drag.m_nDropPos, 0);
+  EXPECT_EQ(drag.m_nSelStart, 0);
+  EXPECT_EQ(drag.m_nSelEnd, 0);
+  EXPECT_EQ(drag.m_nCaretHides, 0);
+  EXPECT_FALSE(drag.m_bDragging || drag.m_bButtonDown || drag.m_bFreshClick);
+  editor->OnMenuSelect(5007, 0);
+  editor->OnExitMenuLoop();
+  EXPECT_EQ(diary.Take(), Entries{});
+}
+
 // ---- commit
 
 TEST_F(InPlaceClosing, AnIdleEditorHasNothingToClose) {

@@ -24,6 +24,7 @@ TEST_F(InPlaceInput, AnIdleEditorLetsEveryMessagePass) {
 TEST_F(InPlaceInput, ABoxWhoseWindowIsGoneLetsEveryMessagePass) {
   Open(room);
   control.exists = false;
+  control.text = L"a text that needs a larger box";
   EXPECT_FALSE(Key(VK_ESCAPE));
   editor->AfterButtonDown();
   editor->AfterMouseMove();

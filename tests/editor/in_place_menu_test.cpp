@@ -8,7 +8,7 @@ class InPlaceMenu : public EditTest {
  protected:
   void SetUp() override {
     EditTest::SetUp();
-    host.menus[L"INPLACE"] = {{5007, L"degree"}};
+    host.menus[L"INPLACE"] = {{5001, L"commit"}, {5007, L"degree"}};
     room.texts[0] = L"abcdef";
     Open(room);
     control.selection = {2, 4};
@@ -48,7 +48,9 @@ TEST_F(InPlaceMenu, ShowsTheTipsOfItsLinesOnTheStatusLine) {
     diary.Take();
     editor->OnMenuSelect(5007, 0);
     editor->OnMenuSelect(5008, 0);
-    EXPECT_EQ(diary.Take(), (Entries{"status degree", "status "})) << "an empty text without a tip";
+    editor->OnMenuSelect(5001, 0);
+    EXPECT_EQ(diary.Take(), (Entries{"status degree", "status ", "status commit"}))
+        << "an empty text without a tip";
     editor->OnMenuSelect(5000, 0);
     for (const UINT flag : {kPopup, kSeparator, kSystem}) editor->OnMenuSelect(5007, flag);
     EXPECT_EQ(diary.Take(), Entries{});
