@@ -102,27 +102,19 @@ SIZE NeededSize(const std::wstring& text, bool byLines, SIZE parent, TextMeasure
 }
 
 RECT GrownBox(const RECT& box, SIZE needed, bool centre) {
-  RECT grown = box;
-  if (const LONG more = needed.cx - Width(box); more > 0) {
-    const LONG before = centre ? more / 2 : 0;
-    grown.left -= before;
-    grown.right += more - before;
-  }
-  if (const LONG more = needed.cy - Height(box); more > 0) {
-    const LONG before = centre ? more / 2 : 0;
-    grown.top -= before;
-    grown.bottom += more - before;
-  }
-  return grown;
+  const LONG wider = std::max<LONG>(needed.cx - Width(box), 0);
+  const LONG higher = std::max<LONG>(needed.cy - Height(box), 0);
+  const LONG before = centre ? wider / 2 : 0, above = centre ? higher / 2 : 0;
+  return {box.left - before, box.top - above, box.right + wider - before,
+          box.bottom + higher - above};
 }
 
 RECT ShiftedInside(const RECT& box, const RECT& parent) {
   RECT inside = box;
-  if (const LONG over = parent.left + kMargin - inside.left; over > 0) MoveBy(inside, over, 0);
-  if (const LONG over = inside.right - (parent.right - kMargin); over > 0) MoveBy(inside, -over, 0);
-  if (const LONG over = parent.top + kMargin - inside.top; over > 0) MoveBy(inside, 0, over);
-  if (const LONG over = inside.bottom - (parent.bottom - kMargin); over > 0)
-    MoveBy(inside, 0, -over);
+  MoveBy(inside, std::max<LONG>(parent.left + kMargin - inside.left, 0), 0);
+  MoveBy(inside, -std::max<LONG>(inside.right - (parent.right - kMargin), 0), 0);
+  MoveBy(inside, 0, std::max<LONG>(parent.top + kMargin - inside.top, 0));
+  MoveBy(inside, 0, -std::max<LONG>(inside.bottom - (parent.bottom - kMargin), 0));
   return inside;
 }
 

@@ -69,6 +69,17 @@ TEST(EditCommands, EveryCommandIsOfOneKindAndAllOthersAreOfNone) {
   }
 }
 
+TEST(EditCommands, OnlyCommandsThatSendAHostCommandPickTheObject) {
+  for (const int command : {5001, 5002, 5018, 5023}) {
+    EXPECT_EQ(FindClosingCommand(command)->hostCommand, nullptr) << command;
+    EXPECT_FALSE(FindClosingCommand(command)->picksObject) << command;
+    EXPECT_FALSE(FindClosingCommand(command)->byFullName) << command;
+  }
+  for (const int command : {5003, 5019, 5020, 5021})
+    EXPECT_TRUE(FindClosingCommand(command)->picksObject) << command;
+  EXPECT_FALSE(FindClosingCommand(5022)->picksObject);
+}
+
 TEST(EditCommands, MenusAreNumberedFromOneToSeven) {
   EXPECT_EQ(MenuNameOf(1), L"INPLACE1");
   EXPECT_EQ(MenuNameOf(7), L"INPLACE7");
