@@ -4,7 +4,6 @@ namespace qvx {
 
 std::wstring WrapText(const std::wstring& text, const std::vector<int>& prefixWidths, int width) {
   std::wstring wrapped;
-  wrapped.reserve(text.size() + text.size() / 16);
   // Both run along the unbroken text: `limit` is the end of the present line, and `offset` the room
   // that all breaks so far left unused.
   long long limit = width, offset = 0;
@@ -22,7 +21,6 @@ std::wstring WrapText(const std::wstring& text, const std::vector<int>& prefixWi
 
 std::wstring UnwrapText(const std::wstring& text) {
   std::wstring line;
-  line.reserve(text.size());
   for (size_t i = 0; i < text.size(); ++i) {
     if (text[i] == L'\r' && text[i + 1] == L'\n')  // the text ends with a null
       ++i;

@@ -129,6 +129,25 @@ TEST_F(EditBox, ALineWithoutCharactersIsAsHighAsALetter) {
   EXPECT_EQ(SizeText(Needed(L"", true)), SizeText({28, 25}));
 }
 
+// Each line is as high as its number says, "a" is 20.
+class NumberedHeights : public TextMeasure {
+ public:
+  std::vector<SIZE> MeasureAll(const std::vector<std::wstring_view>& texts, MeasureFont) override {
+    std::vector<SIZE> sizes;
+    for (const std::wstring_view text : texts)
+      sizes.push_back({0, text == L"a" ? 20 : std::stoi(std::wstring(text))});
+    return sizes;
+  }
+  std::vector<int> PrefixWidths(const std::wstring&) override { return {}; }
+};
+
+TEST_F(EditBox, OnlyALineOfAHeightBelowOneIsAsHighAsALetter) {
+  NumberedHeights heights;
+  EXPECT_EQ(NeededSize(L"1\n2", true, {800, 600}, heights).cy, 3 + 5);
+  EXPECT_EQ(NeededSize(L"0\n2", true, {800, 600}, heights).cy, 22 + 5);
+  EXPECT_EQ(NeededSize(L"-4\n2\n", true, {800, 600}, heights).cy, 42 + 5);
+}
+
 TEST_F(EditBox, FontsOfAnyHeightGiveASize) {
   for (const LONG height : {0L, 1L, 1000L, -1L}) {
     control.letterHeight = static_cast<LONG>(height);
@@ -154,6 +173,7 @@ TEST_F(EditBox, TheBoxIsShiftedFivePixelsInsideAndTheLastShiftWins) {
   EXPECT_EQ(RectText(ShiftedInside({5, 5, 195, 95}, parent)), "5,5,195,95");
   EXPECT_EQ(RectText(ShiftedInside({4, 50, 14, 60}, parent)), "5,50,15,60");
   EXPECT_EQ(RectText(ShiftedInside({190, 50, 196, 60}, parent)), "189,50,195,60");
+  EXPECT_EQ(RectText(ShiftedInside({50, 4, 60, 14}, parent)), "50,5,60,15");
   EXPECT_EQ(RectText(ShiftedInside({50, -20, 60, -10}, parent)), "50,5,60,15");
   EXPECT_EQ(RectText(ShiftedInside({50, 90, 60, 96}, parent)), "50,89,60,95");
   EXPECT_EQ(RectText(ShiftedInside({0, 0, 300, 200}, parent)), "-105,-105,195,95")
