@@ -94,6 +94,7 @@ class InPlaceEditor {
   void ReleaseFragment();
   // Input.
   bool OnKey(WPARAM key);
+  bool LeavesBox(WPARAM key);
   bool OnArrow(WPARAM key);
   bool OnEnter();
   void OnButtonUp();

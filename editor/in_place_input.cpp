@@ -62,27 +62,26 @@ bool InPlaceEditor::OnKey(WPARAM key) {
 
 // An arrow at the edge of the text leaves the box. Deliberate: the text of a fresh box is all
 // selected, so Right leaves it at once.
-bool InPlaceEditor::OnArrow(WPARAM key) {
-  bool leaves = false;
+bool InPlaceEditor::LeavesBox(WPARAM key) {
   switch (key) {
     case kKeyRight:
-      leaves = m_control.Selection().end == m_control.TextLength();
-      break;
+      return m_control.Selection().end == m_control.TextLength();
     case kKeyLeft:
-      leaves = m_control.Selection().end == 0;
-      break;
+      return m_control.Selection().end == 0;
     case kKeyUp:
-      leaves = IsOneLine() || m_control.LineOf(m_control.Selection().start) == 0;
-      break;
+      return IsOneLine() || m_control.LineOf(m_control.Selection().start) == 0;
     case kKeyDown:
-      leaves =
-          IsOneLine() || m_control.LineOf(m_control.Selection().end) == m_control.LineCount() - 1;
-      break;
+      return IsOneLine() ||
+             m_control.LineOf(m_control.Selection().end) == m_control.LineCount() - 1;
     default:
-      break;
+      return false;
   }
-  if (leaves) GotoNextText(key == kKeyUp || key == kKeyDown, key == kKeyLeft || key == kKeyUp);
-  return leaves;
+}
+
+bool InPlaceEditor::OnArrow(WPARAM key) {
+  if (!LeavesBox(key)) return false;
+  GotoNextText(key == kKeyUp || key == kKeyDown, key == kKeyLeft || key == kKeyUp);
+  return true;
 }
 
 bool InPlaceEditor::OnEnter() {

@@ -96,6 +96,14 @@ TEST_F(InPlaceInput, TabOpensTheNeighbourWithoutCondition) {
   EXPECT_EQ(control.text, L"b");
 }
 
+TEST_F(InPlaceInput, TheFragmentIsDeletedBeforeItsNeighbourOpens) {
+  Open(table, 0);
+  Key(VK_TAB);
+  const Entries entries = diary.Take();
+  EXPECT_EQ(Entries(entries.begin(), entries.begin() + 6),
+            (Entries{"next of 2.0", "delete 2.0", "destroy", "lock", "unlock", "create in view"}));
+}
+
 TEST_F(InPlaceInput, TabAtTheLastFragmentLeavesTheBoxOpenAndUnchanged) {
   Open(table, 5);
   Type(L"typed");

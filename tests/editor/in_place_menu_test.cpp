@@ -63,6 +63,15 @@ TEST_F(InPlaceMenu, ShowsTheTipsOfItsLinesOnTheStatusLine) {
   EXPECT_EQ(diary.Take(), Entries{}) << "after its menu has closed";
 }
 
+TEST_F(InPlaceMenu, ShowsTheTipOfALineInEveryStateOfIt) {
+  During("track 3,4", [this] {
+    diary.Take();
+    editor->OnMenuSelect(5007, 0xFFFF & ~(kPopup | kSeparator | kSystem));
+    EXPECT_EQ(diary.Take(), Entries{"status degree"}) << "greyed, checked, under the pointer";
+  });
+  EXPECT_TRUE(editor->ShowInPlaceMenu({3, 4}));
+}
+
 TEST_F(InPlaceMenu, IsLetGoWhenAMenuIsLoadedMeanwhile) {
   During("track 3,4", [this] {
     editor->OnMenuSelect(5007, 0);

@@ -60,6 +60,13 @@ TEST_F(TextDragging, APressRestoresTheSelectionAndNotesTheCaret) {
   EXPECT_EQ(drag.m_nDropPos, 2);
 }
 
+TEST_F(TextDragging, APressWithoutASelectionNotesWhereTheCaretWas) {
+  drag.m_nDropPos = 9;
+  drag.OnPress({4, 4});
+  EXPECT_FALSE(drag.AfterPress({1, 1}));
+  EXPECT_EQ(drag.m_nDropPos, 4);
+}
+
 TEST_F(TextDragging, APressAtPositionZeroKeepsTheDropPosition) {
   drag.m_nDropPos = 4;
   drag.OnPress({0, 5});
