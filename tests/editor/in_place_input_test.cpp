@@ -304,6 +304,14 @@ TEST_F(InPlaceInput, AChangeOfTheTextGrowsTheBoxAndNeverShrinksIt) {
   EXPECT_EQ(diary.Take(), Entries{"text cursor"});
 }
 
+TEST_F(InPlaceInput, TheBoxGrowsToTheSizeOfItsParentLessTen) {
+  Open(note);
+  control.parent = {100, 200, 500, 400};
+  control.text = std::wstring(100, L'x') + std::wstring(100, L'\n');
+  editor->OnChange();
+  EXPECT_EQ(diary.Take().front(), "move 105,205,495,395");
+}
+
 TEST_F(InPlaceInput, AChangeDuringTheOpeningDoesNotSizeTheBox) {
   During("text Kitchen", [this] { editor->OnChange(); });
   editor->BeginEdit(Piece(room), AcGeMatrix3d());
