@@ -15,6 +15,12 @@ CWnd* WindowOf(qvx::BoxParent parent) {
   return acedGetAcadDwgView();
 }
 
+// Whether the start of the text is out of sight.
+bool IsScrolled(CWnd& edit) {
+  const LRESULT start = edit.SendMessage(EM_POSFROMCHAR, 0);
+  return static_cast<short>(LOWORD(start)) < 0 || static_cast<short>(HIWORD(start)) < 0;
+}
+
 }  // namespace
 
 std::vector<SIZE> InPlaceBox::MeasureAll(const std::vector<std::wstring_view>& texts,
@@ -115,6 +121,7 @@ POINT InPlaceBox::ScreenToParent(POINT screen) {
 
 void InPlaceBox::Move(const RECT& box) {
   m_edit.MoveWindow(&box, TRUE);
+  if (!IsScrolled(m_edit)) return;
   // The control keeps what it scrolled while it was smaller. Now more of the text fits.
   m_edit.SendMessage(WM_HSCROLL, SB_LEFT);
   m_edit.SendMessage(WM_VSCROLL, SB_TOP);
