@@ -38,8 +38,8 @@ class ScaleWalk {
 // common one is not above 0.
 TWCString ScalePaneText(double drawingScale, const ScaleWalk& selection);
 
-// Whether a typed text is a finite decimal number, blanks around it allowed. The class library takes
-// infinity, "nan" and hexadecimal digits too.
+// Whether a typed text is a finite decimal number, blanks around it allowed. The class library
+// takes infinity, "nan" and hexadecimal digits too.
 bool IsScaleText(const wchar_t* text);
 
 // A drawing ignores a scale that is not above this value. Paper space takes any.
