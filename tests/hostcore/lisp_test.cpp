@@ -1,4 +1,5 @@
 // LISP: functions of modules, symbols, and expressions on the command line.
+#include "devhost/core/host/command_list.h"
 #include "host_fixture.h"
 
 using namespace devhost;
@@ -177,4 +178,16 @@ TEST_F(Lisp, UndefiningRemovesTheFunction) {
   EXPECT_EQ(acedUndef(L"ECHO", 7), RTERROR);
   EXPECT_EQ(acedUndef(L"ECHO", 0), RTNORM);
   EXPECT_EQ(Shown(L"(echo 1)"), L"; 错误: 没有函数定义: ECHO");
+}
+
+TEST_F(Lisp, TheListOfCommandsHasCommandsAndInParenthesesFunctions) {
+  const devhost::Document* document =
+      TheHost().documents.FindDocument(TheHost().documents.curDocument());
+  const std::string list = "\n" + ListOfCommands(TheHost().commands, *document);
+  for (const char* line : {"\nLINE\n", "\nERASE\n", "\nTGO\n", "\n(ECHO)\n", "\n(C:TGO)\n",
+                           "\n(SETQ)\n", "\n(COMMAND)\n"})
+    EXPECT_NE(list.find(line), std::string::npos) << line << list;
+  EXPECT_EQ(list.find("\nECHO\n"), std::string::npos);
+  EXPECT_LT(list.find("\nERASE\n"), list.find("\nLINE\n"));
+  EXPECT_EQ(list.find("\nERASE\n"), list.rfind("\nERASE\n"));
 }

@@ -88,3 +88,11 @@ TEST(LaunchOptions, TheDoctorTakesTheSameOptions) {
   EXPECT_TRUE(options.doctor);
   EXPECT_EQ(options.productFolder, L"p");
 }
+
+TEST(LaunchOptions, ListingTheCommandsTakesModules) {
+  LaunchOptions options;
+  std::wstring error;
+  ASSERT_TRUE(ParseLaunchOptions({L"--list-commands", L"--arx", L"m.arx"}, &options, &error));
+  EXPECT_TRUE(options.listCommands);
+  EXPECT_EQ(options.modules, std::vector<std::wstring>{L"m.arx"});
+}

@@ -1,6 +1,7 @@
 // Calls of the LISP functions of modules, and evaluation of expressions typed on the command line.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "devhost/core/lisp/lisp_value.h"
@@ -15,5 +16,8 @@ bool CallLispFunction(Document& document, const std::wstring& name,
 
 // Evaluates one expression such as (setq a 1) or (tcmdavi "x"). `error` is empty on success.
 LispValue Evaluate(Document& document, const std::wstring& expression, std::wstring* error);
+
+// The names that Evaluate knows by itself.
+std::span<const wchar_t* const> EvaluatorForms();
 
 }  // namespace devhost

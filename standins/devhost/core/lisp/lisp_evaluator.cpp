@@ -108,7 +108,12 @@ class Evaluator {
   std::wstring* m_error;
 };
 
+constexpr const wchar_t* kForms[] = {L"QUOTE", L"SETQ",  L"LIST",   L"PROGN",  L"+",
+                                     L"-",     L"PRINC", L"GETVAR", L"SETVAR", L"COMMAND"};
+
 }  // namespace
+
+std::span<const wchar_t* const> EvaluatorForms() { return kForms; }
 
 LispValue Evaluate(Document& document, const std::wstring& expression, std::wstring* error) {
   LispReader reader(expression);

@@ -13,12 +13,14 @@
 
 #include "dbapserv.h"
 #include "devhost/core/base/journal.h"
+#include "devhost/core/host/command_list.h"
 #include "devhost/core/host/host.h"
 #include "devhost/play/play_driver.h"
 #include "devhost/ui/frame/host_actions.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_frame.h"
 #include "devhost/ui/launch/host_app.h"
+#include "devhost/ui/launch/dialog_closer.h"
 #include "devhost/ui/launch/host_title.h"
 #include "devhost/ui/launch/restart.h"
 #include "devhost/ui/messages/start_watch.h"
@@ -123,6 +125,13 @@ void StopDriver(UiPortImpl& port, std::unique_ptr<PlayDriver> driver) {
   waiting.join();
 }
 
+void PrintCommands() {
+  ::_setmode(::_fileno(stdout), _O_BINARY);
+  const Document* document = TheHost().documents.FindDocument(TheHost().documents.curDocument());
+  if (document) std::fputs(ListOfCommands(TheHost().commands, *document).c_str(), stdout);
+  std::fflush(stdout);
+}
+
 int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDriver> driver,
              bool* again) {
   auto* frame = new MainFrame;  // deleted with its window
@@ -135,10 +144,14 @@ int RunFrame(const LaunchOptions& options, HostApp& app, std::unique_ptr<PlayDri
     if (driver) driver->Start(port);
     // One drawing is open when modules are loaded, and they are notified of the others.
     const std::size_t opened = OpenFirstDrawing(options.drawings);
+    const DialogCloser closer(options.listCommands);
     LoadModules(options);
     for (std::size_t i = opened; i < options.drawings.size(); ++i)
       OpenDrawingFile(options.drawings[i]);
-    exitCode = app.Run();
+    if (options.listCommands)
+      PrintCommands();
+    else
+      exitCode = app.Run();
     *again = driver && driver->WantsRestart();
     StopDriver(port, std::move(driver));
   }

@@ -53,6 +53,7 @@ class Reader {
     if (word == L"--") return m_onlyDrawings = true;
     if (word == L"--help" || word == L"-h") return m_out->help = true;
     if (word == L"--doctor") return m_out->doctor = true;
+    if (word == L"--list-commands") return m_out->listCommands = true;
     const size_t equals = word.find(L'=');
     const std::wstring name = word.substr(0, equals);
     if (!IsKnown(name)) return Fail(L"unknown option " + name);
@@ -118,7 +119,10 @@ const wchar_t* LaunchUsage() {
          L"               [--longest-wait SECONDS] [DRAWING.dxf ...]\n"
          L"       devhost --doctor [--product DIR] [--host-version 24.0] [--profile NAME] [--arx "
          L"FILE]\n"
-         L"               every setting, where it comes from and what it does; starts nothing\n";
+         L"               every setting, where it comes from and what it does; starts nothing\n"
+         L"       devhost --list-commands [--product DIR] [--arx FILE]...\n"
+         L"               the commands and LISP functions of host and modules, for 'qmn check "
+         L"--commands'\n";
 }
 
 }  // namespace devhost

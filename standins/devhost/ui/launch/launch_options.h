@@ -20,7 +20,8 @@ struct LaunchOptions {
   std::wstring startTrace;            // --trace-start: written at the end; empty: none
   std::vector<std::wstring> drawings;
   bool help = false;
-  bool doctor = false;  // prints the settings and starts nothing
+  bool listCommands = false;  // prints the commands of host and modules, and ends
+  bool doctor = false;        // prints the settings and starts nothing
 };
 
 // Parses the words after the program's name. False with one line of `error`.
