@@ -14,6 +14,7 @@
 #include "bench/peers/peer.h"
 #include "menu/menu_compiler.h"
 #include "tools/qmn/dump_forms.h"
+#include "tools/qmn/encoding.h"
 #include "tools/qmn/model_io.h"
 
 namespace {
@@ -141,6 +142,7 @@ void CheckPeer(const std::string& folder) {
   for (const char* name : {"qvx.qmn", "qvx2d.qmn", "simple.qmn"}) {
     std::ifstream file(folder + "/" + name, std::ios::binary);
     if (!file) FailLoudly("no file " + folder + "/" + name);
-    CheckedBytes({std::istreambuf_iterator<char>(file), {}}, BenchFile("check.qmc"));
+    const std::string utf8(std::istreambuf_iterator<char>(file), {});
+    CheckedBytes(FromUtf8(utf8, kUsualPage).bytes, BenchFile("check.qmc"));
   }
 }

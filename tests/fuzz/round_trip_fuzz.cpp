@@ -36,7 +36,7 @@ void WayBack(TMenuSystem& system, const std::string& bytes, bool fromSource) {
   Refusals refusals;
   const std::string source = Decompile(bytes, system, kPage, refusals);
   Promise(source.empty() == refusals.Any());
-  if (refusals.Any()) return Promise(!fromSource && refusals.Shown()[0].text != kNoWay);
+  if (refusals.Any()) return Promise(!fromSource && refusals.Shown()[0].text.English() != kNoWay);
   Promise(Recompiled(source) == bytes);
 }
 

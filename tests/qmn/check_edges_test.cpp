@@ -48,8 +48,55 @@ TEST(CheckEdges, OneLineMayHaveAMnemonicTwiceAndTwoMenusMayShareOne) {
   EXPECT_EQ(Lines("[Pen & ink]^C^CX;\n[Ink & pen]^C^CY;\n"), Codes{});
 }
 
-TEST(CheckEdges, TheScreenMenuHasNoMnemonicsAndNoTabs) {
-  EXPECT_EQ(Blocks("***SCREEN\n[&a\tb\tc]^C^CX;\n[&a]*x\n"), Codes{});
+TEST(CheckEdges, TheScreenMenuHasNoMnemonicsAndDoesNotAlignTabs) {
+  EXPECT_EQ(Blocks("***SCREEN\n[&a b]^C^CX;\n[&a]*x\n"), Codes{});
+  EXPECT_EQ(Blocks("***SCREEN\n[a\tb\tc]^C^CX;\n"), Codes{"QMN070"});
+  EXPECT_EQ(Blocks("***LAYOUT\n[a\tb]^C^CX;\n"), Codes{});
+}
+
+TEST(CheckEdges, ASeparatorMayEndAMenuAndBeginTheToolBar) {
+  EXPECT_EQ(Blocks("***LAYOUT\n[a]x;\n[--]\n"), Codes{});
+  EXPECT_EQ(Blocks("***ToolBar\n[--]\n[a]x;\n"), Codes{});
+  EXPECT_EQ(Blocks("***ToolBar\n[--]\n[--]\n[a]x;\n"), Codes{"QMN065"});
+  EXPECT_EQ(Blocks("***LAYOUT\n[->a]\n[--]\n[<-b]x;\n"), Codes{"QMN065"});
+  EXPECT_EQ(Blocks("***LAYOUT\n[a]x;\n[--]\n[->b]\n[<-c]x;\n[--]\n[d]x;\n"), Codes{});
+}
+
+TEST(CheckEdges, DashesOfAnyKindAreALabelUnlessThereAreTwo) {
+  for (const char* label : {"-", "---", "- -", "\xA1\xAA"})
+    EXPECT_EQ(Lines(std::string("[a]x;\n[") + label + "]\n[b]x;\n"), Codes{"QMN064"}) << label;
+  EXPECT_EQ(Lines("[-a-]x;\n"), Codes{});
+}
+
+TEST(CheckEdges, OnlyALineThatCouldSendACommandMissesIt) {
+  EXPECT_EQ(Lines("[->a]\n[<-b]x;\n[--]\n[c];\n"), Codes{});
+  EXPECT_EQ(Lines("[->a]\n[<-b]  \n"), Codes{"QMN066"});
+  EXPECT_EQ(Lines("[{~=F}a]\n"), Codes{"QMN066"});
+}
+
+TEST(CheckEdges, AConditionWithoutItsFirstBraceIsFoundBehindOthersAndArrows) {
+  EXPECT_EQ(Lines("[{~=A}!=B}c]x;\n"), Codes{"QMN067"});
+  EXPECT_EQ(Lines("[->a]\n[<-~=B}c]x;\n"), Codes{"QMN067"});
+  EXPECT_EQ(Lines("[a ~= b]x;\n[b != c]x;\n"), Codes{});
+}
+
+TEST(CheckEdges, QuotesAreCountedOverTheWholeCommand) {
+  EXPECT_EQ(Lines("[a](f \"x;\" \"y\");\n"), Codes{});
+  EXPECT_EQ(Lines("[a](f \"x\" \"y);\n"), Codes{"QMN068"});
+}
+
+TEST(CheckEdges, ALineIsThereTwiceOnlyInOneMenuAndWithTheSameConditions) {
+  EXPECT_EQ(Lines("[a]x;\n[a]y;\n[{~=F}a]x;\n[->b]\n[<-a]x;\n[->c]\n[<-a]x;\n"), Codes{});
+  EXPECT_EQ(Lines("[->b]\n[<-a]x;\n[->b]\n[<-c]x;\n"), Codes{"QMN069"});
+  EXPECT_EQ(Lines("[->b]\n[a]x;\n[<-a]x\n"), Codes{"QMN069"});
+}
+
+TEST(CheckEdges, UnusedNamesAreReportedOnlyInAFileWithoutErrors) {
+  EXPECT_EQ(CodesOf(Framed("lines", "[a]x;\n"), {}), Codes{"QMN073"});
+  EXPECT_EQ(CodesOf(Framed("blocks", "***LAYOUT\n"), {}), Codes{"QMN003"});
+  EXPECT_EQ(CodesOf(Framed("icons", "ID_ItemHelp = \"B\",\"\"\nid_customize = \"B\",\"\"\n")),
+            Codes{});
+  EXPECT_EQ(CodesOf(Framed("lines", "a [a]x;\n"), {}), Codes{});
 }
 
 TEST(CheckEdges, OnlyBlanksAndZerosAfterAZeroAreNotReported) {
@@ -106,9 +153,9 @@ TEST(CheckEdges, WideCharactersTakeTwoColumnsAndCombiningOnesNone) {
 TEST(CheckEdges, AWorkflowCommandEscapesTheColonOfADrive) {
   FileReport report;
   report.file = "C:\\a,b\n.qmn";
-  report.findings.push_back({Rule::kMinus, {2, 3}, {2, 5}, "a: b,\r\n100%", {}});
+  report.findings.push_back({Rule::kMinus, {2, 3}, {2, 5}, std::string("a: b,\r\n100%"), {}});
   std::ostringstream out;
-  ReportAsGitHub(report, out);
+  ReportAsGitHub(report, out, Language::kEnglish);
   EXPECT_EQ(out.str(),
             "::warning file=C%3A\\a%2Cb%0A.qmn,line=2,endLine=2,col=3,endColumn=5,title=QMN021 "
             "minus::a: b,%0D%0A100%25\n");

@@ -52,10 +52,18 @@ std::string Framed(const std::string& part, const std::string& text) {
          "A = \"BMP_A\",\"help of A\"\n";
 }
 
-std::set<std::string> CodesOf(const std::string& source) {
-  SourceText text(source);
+CheckSettings ExampleSettings() {
+  CheckSettings settings;
+  AddRules("QMN073", settings.hidden);
+  AddRules("QMN074", settings.hidden);
+  return settings;
+}
+
+std::set<std::string> CodesOf(const std::string& source, const CheckSettings& settings,
+                              unsigned page) {
+  SourceText text(source, page);
   std::set<std::string> codes;
-  for (const Finding& finding : CheckSource(text).InOrder())
+  for (const Finding& finding : CheckSource(text, settings).InOrder())
     codes.insert(InfoOf(finding.rule).code);
   return codes;
 }

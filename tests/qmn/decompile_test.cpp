@@ -97,11 +97,22 @@ TEST_F(QmnDecompile, WritesACompleteOutputAndNothingAfterARefusal) {
   EXPECT_EQ(FileCount(), 3);
 }
 
+TEST_F(QmnDecompile, AnExistingFileIsOverwrittenOnlyByForce) {
+  const std::string out = Write(u8"a.qmn", "work of a week");
+  const QmnRun run = Qmn({"decompile", "-", "-o", out}, GoodBytes());
+  EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(run.err, out + ": error: is there already; --force overwrites it\n");
+  EXPECT_EQ(Read(u8"a.qmn"), "work of a week");
+  EXPECT_EQ(Qmn({"decompile", "-", "--force", "--output", out}, GoodBytes()).code, 0);
+  EXPECT_EQ(Qmn({"compile", out, "-o", "-"}).out, GoodBytes());
+}
+
 TEST_F(QmnDecompile, UnreadableAndUnwritableFilesAreReported) {
   EXPECT_EQ(Qmn({"decompile", Name(u8"none.qmc")}).code, 3);
   const QmnRun run = Qmn({"decompile", "-", "-o", Name(u8"no/such.qmn")}, GoodBytes());
   EXPECT_EQ(run.code, 3);
-  EXPECT_EQ(run.err, Name(u8"no/such.qmn") + ": error: can't be written\n");
+  EXPECT_EQ(run.err, Name(u8"no/such.qmn") + ": error: can't be written: there is no folder " +
+                         Name(u8"no") + "\n");
   EXPECT_EQ(Qmn({"decompile", "-"}, "x").code, 1);
 }
 
@@ -331,7 +342,8 @@ TEST_F(QmnDecompile, EveryMutatedSourceThatCompilesRoundTrips) {
     Refusals refusals;
     const std::string bytes = SaveBytes(system);
     const std::string written = Decompile(bytes, system, kPage, refusals);
-    ASSERT_FALSE(refusals.Any()) << refusals.Shown()[0].place << refusals.Shown()[0].text << "\n"
+    ASSERT_FALSE(refusals.Any()) << refusals.Shown()[0].place.English()
+                                 << refusals.Shown()[0].text.English() << "\n"
                                  << source;
     TMenuSystem again;
     ASSERT_TRUE(CompileSource(written, messages, again).accepted);
@@ -435,7 +447,7 @@ TEST_F(QmnDecompile, RandomModelsRoundTripOrAreRefusedWithTheirPlace) {
     const std::string source = Decompile(bytes, system, kPage, refusals);
     ASSERT_EQ(source.empty(), refusals.Any());
     if (refusals.Any()) {
-      ASSERT_NE(refusals.Shown()[0].text, "no source gives these bytes") << seed;
+      ASSERT_NE(refusals.Shown()[0].text.English(), "no source gives these bytes") << seed;
       ++refused;
       continue;
     }

@@ -1,12 +1,15 @@
 // qmn fmt: one layout, reached in one pass, without loss of comments or change of compiled bytes.
 #include <algorithm>
 #include <random>
+#include <sstream>
 
 #include "tests/qmn/qmn_testing.h"
 #include "tests/qmn/source_mutation.h"
 #include "tools/qmn/fmt_source.h"
 #include "tools/qmn/fmt_tokens.h"
 #include "tools/qmn/model_io.h"
+#include "tools/qmn/silent_messages.h"
+#include "tools/qmn/text_diff.h"
 
 namespace {
 
@@ -139,6 +142,52 @@ TEST_F(QmnFmt, CheckNamesEachFileThatIsNotCanonicalAndWritesNothing) {
   EXPECT_EQ(Qmn({"fmt", "--check", "-"}, Block("[a]\n")).out, "");
 }
 
+TEST_F(QmnFmt, DiffShowsTheChangesAndWritesNothing) {
+  const std::string path =
+      Write(u8"a.qmn", "MENU_TITLE=\"T\"\n***B\n[a]x;\n***SWITCH\n***RESOURCE\n");
+  const std::string before = Read(u8"a.qmn");
+  const QmnRun run = Qmn({"fmt", "--diff", path});
+  EXPECT_EQ(run.code, 1);
+  EXPECT_EQ(run.out, "--- " + path + "\n+++ " + path +
+                         "\n@@ -1,5 +1,8 @@\n-MENU_TITLE=\"T\"\n+MENU_TITLE = \"T\"\n+\n ***B\n"
+                         " [a]x;\n+\n ***SWITCH\n+\n ***RESOURCE\n");
+  EXPECT_EQ(Read(u8"a.qmn"), before);
+  EXPECT_EQ(Qmn({"fmt", path}).code, 0);
+  const QmnRun again = Qmn({"fmt", "--diff", path});
+  EXPECT_EQ(again.code, 0);
+  EXPECT_EQ(again.out, "");
+}
+
+TEST_F(QmnFmt, ADiffHasThreeLinesAroundEachChangeAndPatchesTheText) {
+  std::string before, after;
+  for (int i = 0; i < 40; ++i) {
+    before += std::to_string(i) + "\n";
+    after += i == 5 ? "five\n" : i == 30 ? "30\nnew\n" : std::to_string(i) + "\n";
+  }
+  std::ostringstream out;
+  WriteDiff("a", before, after, out, false);
+  EXPECT_EQ(out.str(),
+            "--- a\n+++ a\n@@ -3,7 +3,7 @@\n 2\n 3\n 4\n-5\n+five\n 6\n 7\n 8\n"
+            "@@ -29,6 +29,7 @@\n 28\n 29\n 30\n+new\n 31\n 32\n 33\n");
+}
+
+TEST_F(QmnFmt, AFolderMeansAllSourcesInIt) {
+  std::filesystem::create_directories(m_folder / "menus" / "more");
+  Write(u8"menus/b.qmn", "\n" + Block("[a]\n"));
+  Write(u8"menus/more/a.qmn", "\n" + Block("[a]\n"));
+  const std::string one = Utf8Name(m_folder / "menus" / "b.qmn");
+  const std::string two = Utf8Name(m_folder / "menus" / "more" / "a.qmn");
+  Write(u8"menus/a.txt", "\n");
+  Write(u8"menus/.hidden.qmn", "\n");
+  const QmnRun run = Qmn({"fmt", "--check", Name(u8"menus")});
+  EXPECT_EQ(run.out, one + "\n" + two + "\n");
+  std::filesystem::create_directories(m_folder / "empty");
+  const QmnRun empty = Qmn({"fmt", "--check", Name(u8"empty")});
+  EXPECT_EQ(empty.code, 3);
+  EXPECT_EQ(empty.err,
+            Name(u8"empty") + ": error: there is no menu source (*.qmn) in this folder\n");
+}
+
 TEST_F(QmnFmt, ASourceWithErrorsIsNotChangedAndTheOthersAre) {
   const std::string bad = Write(u8"a.qmn", "MENU_TITLE\n\"T\"\n");
   const std::string wrongGroup =
@@ -147,16 +196,16 @@ TEST_F(QmnFmt, ASourceWithErrorsIsNotChangedAndTheOthersAre) {
   const std::string fine = Write(u8"d.qmn", "\n" + Block("[a]\n"));
   const QmnRun run = Qmn({"fmt", bad, wrongGroup, open, fine});
   EXPECT_EQ(run.code, 1);
-  EXPECT_EQ(run.err, bad + ":2: error: syntax error\n" + wrongGroup +
-                         ":1: error: Dxf code 62 is not integer code\n" + open +
-                         ":9: error: the comment that begins here never ends\n");
+  for (const std::string& place : {bad + ":2:1: error: ", wrongGroup + ":1:22: error: ",
+                                   open + ":9:1: error: the comment that begins here never ends"})
+    EXPECT_NE(run.err.find(place), std::string::npos) << place << "\n" << run.err;
   EXPECT_EQ(Read(u8"a.qmn"), "MENU_TITLE\n\"T\"\n");
   EXPECT_EQ(Read(u8"d.qmn"), Block("[a]\n"));
 }
 
 TEST_F(QmnFmt, BytesThatTheLanguageSkipsAreKept) {
   const std::string zero("\0x", 2);
-  for (const std::string& stray : {std::string("-"), std::string("\xEF\xBB\xBF"), std::string("\f"),
+  for (const std::string& stray : {std::string("-"), std::string("\xC7\xBD"), std::string("\f"),
                                    std::string("*"), std::string("/ "), zero, std::string("\r ")}) {
     const std::string source = Block("[a]\n") + "\n" + stray;
     const QmnRun run = Qmn({"fmt", "-"}, source);
@@ -164,7 +213,7 @@ TEST_F(QmnFmt, BytesThatTheLanguageSkipsAreKept) {
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err,
               "-:10: error: bytes that the language skips stand here, which a new layout would "
-              "lose; qmn check shows them\n")
+              "lose; 'qmn check' shows them\n")
         << stray;
   }
 }
@@ -173,7 +222,7 @@ TEST_F(QmnFmt, UnreadableFilesExitWithThreeAndTheOthersAreFormatted) {
   const std::string fine = Write(u8"d.qmn", "\n" + Block("[a]\n"));
   const QmnRun run = Qmn({"fmt", Name(u8"none.qmn"), fine});
   EXPECT_EQ(run.code, 3);
-  EXPECT_EQ(run.err, Name(u8"none.qmn") + ": error: can't be read\n");
+  EXPECT_EQ(run.err, Name(u8"none.qmn") + ": error: can't be read: there is no such file\n");
   EXPECT_EQ(Read(u8"d.qmn"), Block("[a]\n"));
 }
 

@@ -98,7 +98,15 @@ TEST_F(QmnCompile, AnErrorKeepsAnOldOutput) {
   Write(u8"a.qmc", "old");
   const QmnRun run = Qmn({"compile", Write(u8"a.qmn", "MENU_TITLE\n\"T\"\n")});
   EXPECT_EQ(run.code, 1);
-  EXPECT_EQ(run.err, Name(u8"a.qmn") + ":2: error: syntax error\n");
+  const std::string in = Name(u8"a.qmn");
+  EXPECT_EQ(run.err,
+            in +
+                ":2:1: error: expected '=' behind MENU_TITLE, found the text \"T\" [QMN001]\n"
+                "\"T\"\n^~~\n" +
+                in +
+                ":2:4: error: the file ends without a block, ***SWITCH and ***RESOURCE "
+                "[QMN002]\n\"T\"\n   ^\n"
+                "1 file checked: 2 errors\n");
   EXPECT_EQ(Read(u8"a.qmc"), "old");
 }
 
@@ -129,12 +137,16 @@ TEST_F(QmnCompile, AsHostReportsAFileItCannotOpenOrCreateInTheModulesWords) {
 TEST_F(QmnCompile, UnreadableAndUnwritableFilesAreReported) {
   QmnRun run = Qmn({"compile", Name(u8"none.qmn")});
   EXPECT_EQ(run.code, 3);
-  EXPECT_EQ(run.err, Name(u8"none.qmn") + ": error: can't be read\n");
+  EXPECT_EQ(run.err, Name(u8"none.qmn") + ": error: can't be read: there is no such file\n");
   run = Qmn({"compile", Utf8Name(m_folder)});
   EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(run.err, Utf8Name(m_folder) + ": error: can't be read: it is a folder\n");
   run = Qmn({"compile", "-", "-o", Utf8Name(m_folder)}, kGoodSource);
   EXPECT_EQ(run.code, 3);
-  EXPECT_EQ(run.err, Utf8Name(m_folder) + ": error: can't be written\n");
+  EXPECT_EQ(run.err, Utf8Name(m_folder) + ": error: can't be written: it is a folder\n");
+  run = Qmn({"compile", "-", "-o", Name(u8"no/a.qmc")}, kGoodSource);
+  EXPECT_EQ(run.err, Name(u8"no/a.qmc") + ": error: can't be written: there is no folder " +
+                         Name(u8"no") + "\n");
 }
 
 TEST_F(QmnCompile, ACommentWithoutEndIsRefusedWithTheLineWhereItBegins) {
@@ -145,7 +157,11 @@ TEST_F(QmnCompile, ACommentWithoutEndIsRefusedWithTheLineWhereItBegins) {
     const QmnRun run = Qmn(args);
     EXPECT_EQ(run.code, 1);
     const std::string expected =
-        Name(u8"a.qmn") + ":14: error: the comment that begins here never ends\n";
+        asHost
+            ? "\n" + Name(u8"a.qmn") + ":14: error: the comment that begins here never ends\n"
+            : Name(u8"a.qmn") +
+                  ":14:1: error: the comment that begins here never ends: expected '*/' [QMN010]\n"
+                  "/* open\n^~\n1 file checked: 1 error\n";
     EXPECT_TRUE(run.err.ends_with(expected)) << run.err;
     EXPECT_EQ(Read(u8"a.qmc"), "<missing>");
   }
@@ -154,8 +170,32 @@ TEST_F(QmnCompile, ACommentWithoutEndIsRefusedWithTheLineWhereItBegins) {
 TEST_F(QmnCompile, AGroupOfTheWrongKindIsAnErrorThoughTheParserContinues) {
   const QmnRun run = Qmn({"compile", "-"}, "MENU_TITLE = \"T\"\n***A B = 62,\"x\"\n[a]\n");
   EXPECT_EQ(run.code, 1);
-  EXPECT_NE(run.err.find("-:2: error: Dxf code 62"), std::string::npos) << run.err;
+  EXPECT_NE(run.err.find("-:2:10: error: group code 62 takes a whole number, found \"x\""),
+            std::string::npos)
+      << run.err;
   EXPECT_EQ(run.out, "");
+}
+
+TEST_F(QmnCompile, WarningsAreShownOnRequestAndDoNotPreventTheOutput) {
+  const std::string source =
+      "MENU_TITLE = \"T\"\n***COMMON\n[Wall]^C^PWALL;\n***SWITCH\n***RESOURCE\n";
+  const QmnRun silent = Qmn({"compile", "-"}, source);
+  EXPECT_EQ(silent.code, 0);
+  EXPECT_EQ(silent.err, "");
+  for (const char* option : {"-W", "--warnings"}) {
+    const QmnRun run = Qmn({"compile", option, "-"}, source);
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.out, silent.out);
+    EXPECT_EQ(
+        run.err,
+        "-:3:9: warning: the '^' vanishes together with the character behind it; only ^C means "
+        "something [QMN047]\n[Wall]^C^PWALL;\n        ^~\n1 file checked: 1 warning\n");
+  }
+}
+
+TEST_F(QmnCompile, OutputMayBeNamedByTheLongOption) {
+  EXPECT_EQ(Qmn({"compile", "-", "--output", Name(u8"a.qmc")}, kGoodSource).code, 0);
+  EXPECT_EQ(Read(u8"a.qmc"), GoodBytes());
 }
 
 TEST_F(QmnCompile, DoesNotOverwriteItsOwnInput) {

@@ -54,7 +54,7 @@ TEST_F(QmnLoad, UnreadableAndUnwritableFilesExitWithThree) {
   const std::string out = Name(u8"no/such.qmc");
   QmnRun run = Qmn({"load", "-", "-o", out}, GoodBytes());
   EXPECT_EQ(run.code, 3);
-  EXPECT_EQ(run.err, out + ": error: can't be written\n");
+  EXPECT_EQ(run.err, out + ": error: can't be written: there is no folder " + Name(u8"no") + "\n");
   run = Qmn({"load", "--as-host", "-", "-o", out}, GoodBytes());
   EXPECT_EQ(run.code, 3);
   EXPECT_EQ(run.err, "无法创建文件" + out + "\n");

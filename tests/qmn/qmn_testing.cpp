@@ -5,6 +5,8 @@
 #include <random>
 #include <sstream>
 
+#include "tools/qmn/code_page.h"
+#include "tools/qmn/encoding.h"
 #include "tools/qmn/qmn_tool.h"
 
 namespace fs = std::filesystem;
@@ -47,6 +49,9 @@ std::string Utf8Name(const fs::path& path) {
 }
 
 fs::path GoldenFolder() { return fs::path(QVX_SOURCE_DIR) / "tests" / "menu" / "golden"; }
+std::string ProductMenu(const fs::path& path) {
+  return FromUtf8(ReadBytes(path), kUsualPage).bytes;
+}
 fs::path ProductFolder() { return fs::path(QVX_SOURCE_DIR) / "product"; }
 
 QmnTest::QmnTest()

@@ -18,6 +18,8 @@ void WriteBytes(const std::filesystem::path& path, const std::string& bytes);
 std::string Utf8Name(const std::filesystem::path& path);
 std::filesystem::path GoldenFolder();  // of the menu engine
 std::filesystem::path ProductFolder();
+// A product menu as the product has it, in code page 936; the tree has it in UTF-8.
+std::string ProductMenu(const std::filesystem::path& path);
 
 class QmnTest : public testing::Test {
  protected:

@@ -56,7 +56,8 @@ std::vector<std::string> SeedSources() {
       if (entry.path().extension() == ".qmn") paths.push_back(entry.path());
   std::sort(paths.begin(), paths.end());
   std::vector<std::string> sources;
-  for (const fs::path& path : paths) sources.push_back(ReadBytes(path));
+  for (const fs::path& path : paths)
+    sources.push_back(path.parent_path() == ProductFolder() ? ProductMenu(path) : ReadBytes(path));
   return sources;
 }
 

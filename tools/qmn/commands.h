@@ -7,13 +7,15 @@
 
 #include "tools/qmn/code_page.h"
 #include "tools/qmn/qmn_tool.h"
+#include "tools/qmn/source_settings.h"
 
 struct CompileOptions {
   std::string in;
   // Empty: the input's name with .qmc; standard output for standard input.
   std::string out;
   bool asHost = false;
-  unsigned page = kUsualPage;
+  bool warnings = false;  // print them too
+  SourceOptions source;
 };
 int RunCompile(const CompileOptions& options, const QmnStreams& streams);
 
@@ -30,7 +32,7 @@ enum class DumpForm { kJson, kTree, kBytes };
 struct DumpOptions {
   std::string in;
   DumpForm form = DumpForm::kJson;
-  unsigned page = kUsualPage;
+  SourceOptions source;
 };
 int RunDump(const DumpOptions& options, const QmnStreams& streams);
 
@@ -39,22 +41,24 @@ enum class CheckFormat { kText, kJson, kSarif, kGitHub };
 struct CheckOptions {
   std::vector<std::string> files;
   CheckFormat format = CheckFormat::kText;
-  bool failOnWarning = false;
   bool listRules = false;  // list the rules and check nothing
-  unsigned page = kUsualPage;
+  SourceOptions source;
 };
 int RunCheck(const CheckOptions& options, const QmnStreams& streams);
 
 struct FmtOptions {
   std::vector<std::string> in;
   bool check = false;  // list the files that aren't in canonical layout, write nothing
-  unsigned page = kUsualPage;
+  bool diff = false;   // show what would change, write nothing
+  unsigned to = 0;     // the page to convert to; 0: none
+  SourceOptions source;
 };
 int RunFmt(const FmtOptions& options, const QmnStreams& streams);
 
 struct DecompileOptions {
   std::string in;
-  std::string out;  // empty: standard output
+  std::string out;     // empty: standard output
+  bool force = false;  // overwrite OUT
   unsigned page = kUsualPage;
 };
 int RunDecompile(const DecompileOptions& options, const QmnStreams& streams);
@@ -68,9 +72,15 @@ struct WhyOptions {
   std::vector<std::string> groups;     // CODE=VALUE, for all objects
   bool paper = false;
   bool json = false;
-  unsigned page = kUsualPage;
+  SourceOptions source;
 };
 int RunWhy(const WhyOptions& options, const QmnStreams& streams);
+
+// Codes, their beginnings, or names of rules.
+struct ExplainOptions {
+  std::vector<std::string> rules;
+};
+int RunExplain(const ExplainOptions& options, const QmnStreams& streams);
 
 struct WhichOptions {
   std::vector<std::string> product;  // folders of the support path, in search order

@@ -19,9 +19,9 @@ void CheckForm(const std::string& bytes, TMenuSystem& system, Refusals& refusals
   if (written == bytes) return;
   size_t at = 0;
   while (at < written.size() && at < bytes.size() && written[at] == bytes[at]) ++at;
-  refusals.Add("file", "byte " + std::to_string(at) +
-                           ": not as the compiler writes it; qmn load IN -o OUT gives a file that "
-                           "is");
+  refusals.Add("file"_say,
+               "byte {0}: not as the compiler writes it; qmn load IN -o OUT gives a file that "
+               "is"_say(at));
 }
 
 // True when the source compiles to the expected bytes.
@@ -38,11 +38,11 @@ bool CheckSource(const std::string& source, unsigned page, const std::string& by
 
 void ReportRefusals(const std::string& file, const Refusals& refusals, const QmnStreams& streams) {
   for (const Refusal& refusal : refusals.Shown())
-    ReportError(streams, file, refusal.place + ": " + refusal.text);
+    ReportError(streams, file, "{0}: {1}"_say(refusal.place, refusal.text));
   if (refusals.Count() > refusals.Shown().size())
     ReportError(streams, file,
-                "and " + std::to_string(refusals.Count() - refusals.Shown().size()) +
-                    " more places that no source can say");
+                "and {0} more places that no source can say"_say(refusals.Count() -
+                                                                 refusals.Shown().size()));
 }
 
 }  // namespace
@@ -54,14 +54,19 @@ std::string Decompile(const std::string& bytes, TMenuSystem& system, unsigned pa
   if (refusals.Any()) return {};
   source = FormatSource(Unfolded(source, LineEnds::kCrLf), page).text;
   if (CheckSource(source, page, bytes, system, refusals)) return source;
-  if (!refusals.Any()) refusals.Add("file", "no source gives these bytes");
+  if (!refusals.Any()) refusals.Add("file"_say, "no source gives these bytes"_say);
   return {};
 }
 
 int RunDecompile(const DecompileOptions& options, const QmnStreams& streams) {
   std::string bytes;
-  if (!ReadInput(options.in, streams, bytes)) {
-    ReportError(streams, options.in, "can't be read");
+  const std::string out = options.out.empty() ? "-" : options.out;
+  if (!options.force && !IsStandardStream(out) && IsFile(out)) {
+    ReportError(streams, out, "is there already; --force overwrites it"_say);
+    return kFileTrouble;
+  }
+  if (const auto trouble = ReadInput(options.in, streams, bytes)) {
+    ReportError(streams, options.in, *trouble);
     return kFileTrouble;
   }
   TMenuSystem system;
@@ -75,8 +80,8 @@ int RunDecompile(const DecompileOptions& options, const QmnStreams& streams) {
     ReportRefusals(options.in, refusals, streams);
     return kFindings;
   }
-  const std::string out = options.out.empty() ? "-" : options.out;
-  if (WriteOutput(out, streams, source)) return kFine;
-  ReportError(streams, out, "can't be written");
+  const auto trouble = WriteOutput(out, streams, source);
+  if (!trouble) return kFine;
+  ReportError(streams, out, *trouble);
   return kFileTrouble;
 }

@@ -1,5 +1,6 @@
 // Compares the model of a decompiled source with the model it was made from. They differ where the
 // passes change a field, a name resolves to something else, or a line cannot express a text.
+#include <optional>
 #include <sstream>
 #include <string_view>
 #include <unordered_map>
@@ -37,7 +38,7 @@ class Comparison {
     for (int i = 0; i < wanted.Length(); ++i)
       if (const int to = made.At(i)->m_nIconIndex; wanted.At(i)->m_nIconIndex != to)
         m_refusals.Add(PlaceOfState(m_wanted, index, i),
-                       Index("icon index", wanted.At(i)->m_nIconIndex, to));
+                       Index("icon index"_say, wanted.At(i)->m_nIconIndex, to));
   }
 
   void Lines(int block) {
@@ -47,26 +48,27 @@ class Comparison {
       const TMenuItem* a = wanted.Next();
       const TMenuItem* b = made.Next();
       if (!a || !b) return;
-      if (!(m_text = Difference(*a, *b)).empty())
-        m_refusals.Add(PlaceOfLine(m_wanted, block, number), m_text);
+      if (const auto difference = Difference(*a, *b))
+        m_refusals.Add(PlaceOfLine(m_wanted, block, number), *difference);
     }
   }
 
-  std::string Difference(const TMenuItem& wanted, const TMenuItem& made) const {
+  std::optional<Message> Difference(const TMenuItem& wanted, const TMenuItem& made) const {
     if (wanted.m_strLabel != made.m_strLabel)
-      return Text("label", wanted.m_strLabel, made.m_strLabel);
+      return Text("label"_say, wanted.m_strLabel, made.m_strLabel);
     if (wanted.m_strCommand != made.m_strCommand)
-      return Text("command", wanted.m_strCommand, made.m_strCommand);
+      return Text("command"_say, wanted.m_strCommand, made.m_strCommand);
     if (wanted.m_strCheckFn != made.m_strCheckFn)
-      return Text("check function", wanted.m_strCheckFn, made.m_strCheckFn);
+      return Text("check function"_say, wanted.m_strCheckFn, made.m_strCheckFn);
     if (wanted.m_strGrayFn != made.m_strGrayFn)
-      return Text("grey function", wanted.m_strGrayFn, made.m_strGrayFn);
-    if (wanted.m_nFlags != made.m_nFlags) return Index("flags", wanted.m_nFlags, made.m_nFlags);
+      return Text("grey function"_say, wanted.m_strGrayFn, made.m_strGrayFn);
+    if (wanted.m_nFlags != made.m_nFlags) return Index("flags"_say, wanted.m_nFlags, made.m_nFlags);
     if (wanted.m_nIconIndex != made.m_nIconIndex)
-      return Index("icon index", wanted.m_nIconIndex, made.m_nIconIndex);
+      return Index("icon index"_say, wanted.m_nIconIndex, made.m_nIconIndex);
     const int from = m_wantedSwitches.at(wanted.m_pSwitch);
     const int to = m_madeSwitches.at(made.m_pSwitch);
-    return from == to ? "" : Index("switch index", from, to);
+    if (from == to) return std::nullopt;
+    return Index("switch index"_say, from, to);
   }
 
   using SwitchIndex = std::unordered_map<const TMenuSwitchItem*, int>;
@@ -76,19 +78,17 @@ class Comparison {
     return index;
   }
 
-  static std::string Text(const char* field, const TWCString& wanted, const TWCString& made) {
-    return std::string(field) + ": " + Quoted(wanted) + "; a source gives " + Quoted(made);
+  static Message Text(Phrase field, const TWCString& wanted, const TWCString& made) {
+    return "{0}: {1}; a source gives {2}"_say(field, Quoted(wanted), Quoted(made));
   }
-  static std::string Index(const char* field, long long wanted, long long made) {
-    return std::string(field) + ": " + std::to_string(wanted) + "; a source gives " +
-           std::to_string(made);
+  static Message Index(Phrase field, long long wanted, long long made) {
+    return "{0}: {1}; a source gives {2}"_say(field, std::to_string(wanted), std::to_string(made));
   }
 
   TMenuSystem& m_wanted;
   TMenuSystem& m_made;
   const SwitchIndex m_wantedSwitches, m_madeSwitches;
   Refusals& m_refusals;
-  std::string m_text;
 };
 
 }  // namespace

@@ -37,7 +37,7 @@ class SourceWriter {
 
   std::string Run() {
     Head();
-    if (m_system.Length() == 0) Refuse("file", "blocks: none; a source has at least one");
+    if (m_system.Length() == 0) Refuse("file"_say, "blocks: none; a source has at least one"_say);
     for (int i = 0; i < m_system.Length(); ++i) Block(i);
     m_out += "***SWITCH\n";
     for (int i = 0; i < m_system.m_switches.Length(); ++i) Switch(i);
@@ -53,30 +53,29 @@ class SourceWriter {
     int closes;  // sub-menus that end with the last line of this bar, including its own
   };
 
-  void Refuse(const std::string& place, std::string text) {
-    m_refusals.Add(place, std::move(text));
-  }
+  void Refuse(const Message& place, Message text) { m_refusals.Add(place, std::move(text)); }
 
   // --- Tokens
 
-  bool Encode(const std::string& place, const char* field, std::wstring_view text,
+  bool Encode(const Message& place, const Message& field, std::wstring_view text,
               std::string& bytes) {
     if (m_encoder.Append(text, bytes)) return true;
     RefuseLacking(place, field);
     return false;
   }
-  void RefuseLacking(const std::string& place, const char* field) {
-    Refuse(place, std::string(field) + ": " + m_encoder.Lacking() + " is not in code page " +
-                      std::to_string(m_encoder.Page()));
+  void RefuseLacking(const Message& place, const Message& field) {
+    Refuse(place, "{0}: {1} is not in code page {2}"_say(field, m_encoder.Lacking(),
+                                                         static_cast<int>(m_encoder.Page())));
   }
 
-  void Name(const std::string& place, const char* field, const TWCString& text) {
+  void Name(const Message& place, const Message& field, const TWCString& text) {
     std::string bytes;
     if (!Encode(place, field, View(text), bytes)) return;
     m_out += bytes;
     if (IsToken(QMN_IDENTIFIER, bytes, bytes)) return;
-    Refuse(place, std::string(field) + ": \"" + Utf8(View(text)) +
-                      (IsReserved(bytes) ? "\" is a reserved word" : "\" is no name"));
+    const std::string shown = Utf8(View(text));
+    Refuse(place, IsReserved(bytes) ? "{0}: \"{1}\" is a reserved word"_say(field, shown)
+                                    : "{0}: \"{1}\" is no name"_say(field, shown));
   }
 
   static bool IsReserved(const std::string& bytes) {
@@ -86,55 +85,56 @@ class SourceWriter {
     return scanner.Next(token) >= QMN_TITLE && token.text == bytes;
   }
 
-  void String(const std::string& place, const char* field, std::wstring_view text) {
+  void String(const Message& place, const Message& field, std::wstring_view text) {
     std::string inside;
     if (!Encode(place, field, text, inside)) return;
     const std::string bytes = '"' + inside + '"';
     m_out += bytes;
     if (IsToken(QMN_STRING, bytes, inside)) return;
     if (inside.size() > kLongestString)
-      return Refuse(place, std::string(field) + ": " + std::to_string(inside.size()) +
-                               " bytes; a string holds " + std::to_string(kLongestString));
-    Refuse(place, std::string(field) +
-                      ": holds a quote, a line end, a zero or a backslash that can't stand so in "
-                      "a string");
+      return Refuse(place,
+                    "{0}: {1} bytes; a string holds {2}"_say(field, inside.size(), kLongestString));
+    Refuse(
+        place,
+        "{0}: holds a quote, a line end, a zero or a backslash that can't stand so in a string"_say(
+            field));
   }
 
   // --- Sections
 
   void Head() {
     if (m_system.m_nReserved1 || m_system.m_nReserved2)
-      Refuse("file", "reserved numbers: " + std::to_string(m_system.m_nReserved1) + " and " +
-                         std::to_string(m_system.m_nReserved2) + "; a source makes them 0");
+      Refuse("file"_say,
+             "reserved numbers: {0} and {1}; a source makes them 0"_say(
+                 std::to_string(m_system.m_nReserved1), std::to_string(m_system.m_nReserved2)));
     m_out += "MENU_TITLE = ";
-    String("file", "title", View(m_system.m_strTitle));
+    String("file"_say, "title"_say, View(m_system.m_strTitle));
     m_out += "\n";
   }
 
   void Block(int index) {
     TMenuBar& bar = *m_system.At(index);
-    const std::string place = PlaceOfBlock(m_system, index);
+    const Message place = PlaceOfBlock(m_system, index);
     m_out += "***";
-    Name(place, "name", bar.m_strName);
+    Name(place, "name"_say, bar.m_strName);
     if (!bar.m_strKind.IsEmpty()) {
       m_out += " ";
-      Name(place, "kind", bar.m_strKind);
+      Name(place, "kind"_say, bar.m_strKind);
     }
     Mask(place, bar);
     m_out += "\n";
-    if (bar.Length() == 0) Refuse(place, "lines: none; a block has at least one");
+    if (bar.Length() == 0) Refuse(place, "lines: none; a block has at least one"_say);
     Lines(index);
   }
 
-  void Mask(const std::string& place, const TMenuBar& bar) {
+  void Mask(const Message& place, const TMenuBar& bar) {
     int count = 0;
     for (const TGroups* group = bar.m_objectMask.Head(); group; group = group->Next()) ++count;
     if (bar.m_strKind.IsEmpty() != (count == 0))
-      Refuse(place, count ? "mask: stands in a source only behind a kind"
-                          : "kind: stands in a source only in front of a mask");
+      Refuse(place, count ? "mask: stands in a source only behind a kind"_say
+                          : "kind: stands in a source only in front of a mask"_say);
     if (count > kMostGroups)
-      return Refuse(place,
-                    "mask: " + std::to_string(count) + " groups; a source keeps no more than two");
+      return Refuse(place, "mask: {0} groups; a source keeps no more than two"_say(count));
     const char* before = " = ";
     for (const TGroups* group = bar.m_objectMask.Head(); group; group = group->Next()) {
       m_out += before + std::to_string(CodeOf(*group)) + ",";
@@ -143,8 +143,8 @@ class SourceWriter {
     }
   }
 
-  void Value(const std::string& place, const TGroups& group) {
-    const std::string field = "mask group " + std::to_string(CodeOf(group));
+  void Value(const Message& place, const TGroups& group) {
+    const Message field = "mask group {0}"_say(std::to_string(CodeOf(group)));
     switch (KindOf(group)) {
       case RTSHORT:
         // The engine truncates numbers to 16 bits, so a negative one is written
@@ -154,15 +154,15 @@ class SourceWriter {
       case RTREAL:
         return Real(place, field, group.resval.rreal);
       case RTSTR:
-        return String(place, field.c_str(), group.resval.rstring ? group.resval.rstring : L"");
+        return String(place, field, group.resval.rstring ? group.resval.rstring : L"");
       default:
-        Refuse(place, field + ": a code of a kind that a source has no value for");
+        Refuse(place, "{0}: a code of a kind that a source has no value for"_say(field));
     }
   }
 
-  void Real(const std::string& place, const std::string& field, double value) {
+  void Real(const Message& place, const Message& field, double value) {
     if (std::isnan(value) || std::signbit(value))
-      return Refuse(place, field + ": a source has no negative numbers and only numbers");
+      return Refuse(place, "{0}: a source has no negative numbers and only numbers"_say(field));
     if (std::isinf(value)) {
       m_out += "1.0e999";
       return;
@@ -178,38 +178,37 @@ class SourceWriter {
 
   void Switch(int index) {
     const TMenuSwitchItem& item = *m_system.m_switches.At(index);
-    const std::string place = PlaceOfSwitch(m_system, index);
+    const Message place = PlaceOfSwitch(m_system, index);
     m_out += "**";
-    Name(place, "name", item.m_strName);
+    Name(place, "name"_say, item.m_strName);
     m_out += " GET=";
-    Name(place, "get", item.m_strGetFn);
+    Name(place, "get"_say, item.m_strGetFn);
     m_out += " SET=";
-    Name(place, "set", item.m_strSetFn);
+    Name(place, "set"_say, item.m_strSetFn);
     m_out += "\n";
-    if (item.m_states.Length() == 0) Refuse(place, "states: none; a switch has at least one");
+    if (item.m_states.Length() == 0) Refuse(place, "states: none; a switch has at least one"_say);
     for (int i = 0; i < item.m_states.Length(); ++i) State(index, i, *item.m_states.At(i));
   }
 
   void State(int index, int number, const TSwitchStateItem& state) {
-    const std::string place = PlaceOfState(m_system, index, number);
+    const Message place = PlaceOfState(m_system, index, number);
     if (state.m_nValue < 0)
-      Refuse(place,
-             "value: " + std::to_string(state.m_nValue) + "; a source has no negative numbers");
+      Refuse(place, "value: {0}; a source has no negative numbers"_say(int{state.m_nValue}));
     m_out += std::to_string(state.m_nValue) + " = ";
-    Name(place, "icon", state.m_strIconName);
+    Name(place, "icon"_say, state.m_strIconName);
     m_out += ", ";
-    String(place, "label", View(state.m_strLabel));
+    String(place, "label"_say, View(state.m_strLabel));
     m_out += "\n";
   }
 
   void Resource(int index) {
     const TMenuResItem& item = *m_system.m_resources.At(index);
-    const std::string place = PlaceOfResource(m_system, index);
-    Name(place, "name", item.m_strName);
+    const Message place = PlaceOfResource(m_system, index);
+    Name(place, "name"_say, item.m_strName);
     m_out += " = ";
-    String(place, "image", View(item.m_strImage));
+    String(place, "image"_say, View(item.m_strImage));
     m_out += ",";
-    String(place, "image2", View(item.m_strImage2));
+    String(place, "image2"_say, View(item.m_strImage2));
     m_out += "\n";
   }
 
@@ -237,22 +236,23 @@ class SourceWriter {
 
   void CheckSubMenu(int block, int line, const TMenuBar& bar) {
     if (bar.Length() == 0)
-      Refuse(PlaceOfLine(m_system, block, line), "sub-menu: without lines; a source has no such");
+      Refuse(PlaceOfLine(m_system, block, line),
+             "sub-menu: without lines; a source has no such"_say);
     if (!bar.m_strName.IsEmpty() || !bar.m_strKind.IsEmpty() || !bar.m_objectMask.IsEmpty())
       Refuse(PlaceOfLine(m_system, block, line),
-             "sub-menu: with a name, kind or mask, which a source has for blocks only");
+             "sub-menu: with a name, kind or mask, which a source has for blocks only"_say);
   }
 
   void Line(int block, int number, const TMenuItem& item, int closes) {
     if (!item.m_strIconName.IsEmpty()) {
-      Name(PlaceIfNeeded(block, number, item.m_strIconName), "icon name", item.m_strIconName);
+      Name(PlaceIfNeeded(block, number, item.m_strIconName), "icon name"_say, item.m_strIconName);
       m_out += " ";
     }
     std::string bytes;
     for (const LineForm form : {LineForm::kPlain, LineForm::kTight, LineForm::kUnsheltered}) {
       bytes.clear();
       if (!WriteLine(item, closes, form, bytes))
-        return RefuseLacking(PlaceOfLine(m_system, block, number), "text");
+        return RefuseLacking(PlaceOfLine(m_system, block, number), "text"_say);
       if (bytes.size() <= size_t{kLongestToken}) break;
     }
     PutLine(block, number, bytes);
@@ -271,11 +271,10 @@ class SourceWriter {
     m_out += bytes;
     m_out += '\n';
     if (IsLine(bytes)) return;
-    const std::string place = PlaceOfLine(m_system, block, number);
+    const Message place = PlaceOfLine(m_system, block, number);
     if (bytes.size() > size_t{kLongestToken})
-      return Refuse(place, "text: " + std::to_string(bytes.size()) + " bytes; a line holds " +
-                               std::to_string(kLongestToken));
-    Refuse(place, "text: holds a zero or, in the label, a line end");
+      return Refuse(place, "text: {0} bytes; a line holds {1}"_say(bytes.size(), kLongestToken));
+    Refuse(place, "text: holds a zero or, in the label, a line end"_say);
   }
 
   static bool IsLine(const std::string& bytes) {
@@ -284,9 +283,10 @@ class SourceWriter {
   }
 
   // Place names are expensive to build, and most lines need none.
-  std::string PlaceIfNeeded(int block, int line, const TWCString& name) {
+  Message PlaceIfNeeded(int block, int line, const TWCString& name) {
     std::string bytes;
-    if (m_encoder.Append(View(name), bytes) && IsToken(QMN_IDENTIFIER, bytes, bytes)) return {};
+    if (m_encoder.Append(View(name), bytes) && IsToken(QMN_IDENTIFIER, bytes, bytes))
+      return std::string();
     return PlaceOfLine(m_system, block, line);
   }
 
@@ -296,28 +296,27 @@ class SourceWriter {
   std::string m_out;
 };
 
-std::string Named(const char* what, const TWCString& name, int index) {
-  std::string bytes = Utf8(View(name));
-  if (IsToken(QMN_IDENTIFIER, bytes, bytes)) return std::string(what) + " " + bytes;
-  return std::string(what) + " #" + std::to_string(index + 1);
+Message Named(Phrase what, const TWCString& name, int index) {
+  const std::string bytes = Utf8(View(name));
+  return what(IsToken(QMN_IDENTIFIER, bytes, bytes) ? bytes : "#" + std::to_string(index + 1));
 }
 
 }  // namespace
 
-std::string PlaceOfBlock(const TMenuSystem& system, int block) {
-  return Named("block", system.At(block)->m_strName, block);
+Message PlaceOfBlock(const TMenuSystem& system, int block) {
+  return Named("block {0}"_say, system.At(block)->m_strName, block);
 }
-std::string PlaceOfLine(const TMenuSystem& system, int block, int line) {
-  return PlaceOfBlock(system, block) + ", line " + std::to_string(line + 1);
+Message PlaceOfLine(const TMenuSystem& system, int block, int line) {
+  return "{0}, line {1}"_say(PlaceOfBlock(system, block), line + 1);
 }
-std::string PlaceOfSwitch(const TMenuSystem& system, int index) {
-  return Named("switch", system.m_switches.At(index)->m_strName, index);
+Message PlaceOfSwitch(const TMenuSystem& system, int index) {
+  return Named("switch {0}"_say, system.m_switches.At(index)->m_strName, index);
 }
-std::string PlaceOfState(const TMenuSystem& system, int index, int state) {
-  return PlaceOfSwitch(system, index) + ", state " + std::to_string(state + 1);
+Message PlaceOfState(const TMenuSystem& system, int index, int state) {
+  return "{0}, state {1}"_say(PlaceOfSwitch(system, index), state + 1);
 }
-std::string PlaceOfResource(const TMenuSystem& system, int index) {
-  return Named("resource", system.m_resources.At(index)->m_strName, index);
+Message PlaceOfResource(const TMenuSystem& system, int index) {
+  return Named("resource {0}"_say, system.m_resources.At(index)->m_strName, index);
 }
 
 std::string WriteSource(TMenuSystem& system, unsigned page, Refusals& refusals) {

@@ -5,17 +5,19 @@
 #include <string>
 #include <vector>
 
+#include "tools/qmn/message.h"
+
 class TMenuSystem;
 
 struct Refusal {
-  std::string place;  // "block WALL, line 3"; lines numbered as in the source
-  std::string text;   // begins with the name of the field
+  Message place;  // "block WALL, line 3"; lines numbered as in the source
+  Message text;   // begins with the name of the field
 };
 
 class Refusals {
  public:
   static constexpr size_t kShown = 20;
-  void Add(const std::string& place, std::string text) {
+  void Add(const Message& place, Message text) {
     if (m_shown.size() < kShown) m_shown.push_back({place, std::move(text)});
     ++m_count;
   }
@@ -35,8 +37,8 @@ std::string WriteSource(TMenuSystem& system, unsigned page, Refusals& refusals);
 void DifferencesOf(TMenuSystem& wanted, TMenuSystem& made, Refusals& refusals);
 
 // Place names, used by both functions above. Indexes count from 0.
-std::string PlaceOfBlock(const TMenuSystem& system, int block);
-std::string PlaceOfLine(const TMenuSystem& system, int block, int line);
-std::string PlaceOfSwitch(const TMenuSystem& system, int index);
-std::string PlaceOfState(const TMenuSystem& system, int index, int state);
-std::string PlaceOfResource(const TMenuSystem& system, int index);
+Message PlaceOfBlock(const TMenuSystem& system, int block);
+Message PlaceOfLine(const TMenuSystem& system, int block, int line);
+Message PlaceOfSwitch(const TMenuSystem& system, int index);
+Message PlaceOfState(const TMenuSystem& system, int index, int state);
+Message PlaceOfResource(const TMenuSystem& system, int index);

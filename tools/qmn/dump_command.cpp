@@ -24,20 +24,21 @@ void DumpModel(TMenuSystem& system, DumpForm form, std::ostream& out) {
 
 int RunDump(const DumpOptions& options, const QmnStreams& streams) {
   std::string bytes;
-  if (!ReadInput(options.in, streams, bytes)) {
-    ReportError(streams, options.in, "can't be read");
+  if (const auto trouble = ReadInput(options.in, streams, bytes)) {
+    ReportError(streams, options.in, *trouble);
     return kFileTrouble;
   }
   TMenuSystem system;
-  const bool good = ModelOfBytes(options.in, bytes, options.page, streams, system);
+  const int code = ModelOfBytes(options.in, bytes, options.source, streams, system);
+  if (code > kFindings) return code;
   if (IsCompiledMenu(options.in, bytes) && options.form == DumpForm::kBytes)
-    DumpFields(bytes, options.page, streams.out);
+    DumpFields(bytes, options.source.page.value_or(kUsualPage), streams.out);
   else
     DumpModel(system, options.form, streams.out);
   streams.out.flush();
   if (!streams.out) {
-    ReportError(streams, "standard output", "can't be written");
+    ReportError(streams, "-", "can't be written: {0}"_say("standard output failed"_say));
     return kFileTrouble;
   }
-  return good ? kFine : kFindings;
+  return code;
 }

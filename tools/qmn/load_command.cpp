@@ -9,20 +9,20 @@
 
 namespace {
 
-int RefuseInput(const LoadOptions& options, const QmnStreams& streams) {
+int RefuseInput(const LoadOptions& options, const Message& why, const QmnStreams& streams) {
   if (!options.asHost) {
-    ReportError(streams, options.in, "can't be read");
+    ReportError(streams, options.in, why);
     return kFileTrouble;
   }
   streams.err << Utf8(L"无法读取文件") << options.in << "\n";
   return kFindings;
 }
 
-int RefuseOutput(const LoadOptions& options, const QmnStreams& streams) {
+int RefuseOutput(const LoadOptions& options, const Message& why, const QmnStreams& streams) {
   if (options.asHost)
     streams.err << Utf8(L"无法创建文件") << options.out << "\n";
   else
-    ReportError(streams, options.out, "can't be written");
+    ReportError(streams, options.out, why);
   return kFileTrouble;
 }
 
@@ -37,12 +37,14 @@ void ReportDamage(const LoadOptions& options, const wchar_t* exception, const Qm
 
 int RunLoad(const LoadOptions& options, const QmnStreams& streams) {
   std::string bytes;
-  if (!ReadInput(options.in, streams, bytes)) return RefuseInput(options, streams);
+  if (const auto why = ReadInput(options.in, streams, bytes))
+    return RefuseInput(options, *why, streams);
   TMenuSystem system;
   const wchar_t* exception = LoadBytes(bytes, system, options.page);
   if (exception) ReportDamage(options, exception, streams);
   const bool writes = !options.out.empty() && (!exception || options.asHost);
-  if (writes && !WriteOutput(options.out, streams, SaveBytes(system)))
-    return RefuseOutput(options, streams);
+  if (!writes) return exception ? kFindings : kFine;
+  if (const auto why = WriteOutput(options.out, streams, SaveBytes(system)))
+    return RefuseOutput(options, *why, streams);
   return exception ? kFindings : kFine;
 }

@@ -1,25 +1,25 @@
 #include "tools/qmn/model_aloud.h"
 
+#include <utility>
+
 #include "tools/qmn/model_io.h"
+#include "tools/qmn/silent_messages.h"
 #include "tools/qmn/tool_files.h"
-#include "tools/qmn/tool_messages.h"
+#include "tools/qmn/tool_text.h"
 
 namespace {
 
-bool CompileAloud(const std::string& name, std::string source, unsigned page,
+int ModelOfSource(const std::string& name, std::string bytes, const SourceOptions& options,
                   const QmnStreams& streams, TMenuSystem& system) {
-  ToolMessages messages(name, streams);
-  const CompileResult result = CompileSource(std::move(source), messages, system, page);
-  if (result.openCommentLine)
-    ReportError(streams, name + ":" + std::to_string(result.openCommentLine), kOpenCommentText);
-  return result.accepted && !messages.Count();
-}
-
-bool LoadAloud(const std::string& name, const std::string& bytes, unsigned page,
-               const QmnStreams& streams, TMenuSystem& system) {
-  const wchar_t* exception = LoadBytes(bytes, system, page);
-  if (exception) ReportError(streams, name, Explain(exception));
-  return !exception;
+  SettingsOfFolders folders(options, streams);
+  MenuSource source;
+  const int code = UseMenuSource(name, std::move(bytes), folders, streams, source);
+  if (code != kFine) return code;
+  const bool isFine = ReportErrorsOf(source, false, streams);
+  SilentMessages messages;
+  if (isFine) return CompileAloud(source, streams, system) ? kFine : kFindings;
+  CompileSource(source.bytes, messages, system, source.settings.page);
+  return kFindings;
 }
 
 }  // namespace
@@ -30,18 +30,31 @@ bool IsCompiledMenu(const std::string& name, const std::string& bytes) {
   return bytes.starts_with("\xFF\xFE\xFF") || bytes.starts_with("\x1AQuivera");
 }
 
-bool ModelOfBytes(const std::string& name, std::string bytes, unsigned page,
-                  const QmnStreams& streams, TMenuSystem& system) {
-  return IsCompiledMenu(name, bytes) ? LoadAloud(name, bytes, page, streams, system)
-                                     : CompileAloud(name, std::move(bytes), page, streams, system);
+bool CompileAloud(const MenuSource& source, const QmnStreams& streams, TMenuSystem& system) {
+  SilentMessages messages;
+  const CompileResult result = CompileSource(source.bytes, messages, system, source.settings.page);
+  if (result.accepted && !messages.Count()) return true;
+  ReportError(streams, source.name,
+              "the shell refuses this source; 'qmn compile --as-host' shows its messages"_say);
+  return false;
 }
 
-int ReadModelAloud(const std::string& name, unsigned page, const QmnStreams& streams,
+int ModelOfBytes(const std::string& name, std::string bytes, const SourceOptions& options,
+                 const QmnStreams& streams, TMenuSystem& system) {
+  if (!IsCompiledMenu(name, bytes))
+    return ModelOfSource(name, std::move(bytes), options, streams, system);
+  const wchar_t* exception = LoadBytes(bytes, system, options.page.value_or(kUsualPage));
+  if (!exception) return kFine;
+  ReportError(streams, name, Explain(exception));
+  return kFindings;
+}
+
+int ReadModelAloud(const std::string& name, const SourceOptions& options, const QmnStreams& streams,
                    TMenuSystem& system) {
   std::string bytes;
-  if (!ReadInput(name, streams, bytes)) {
-    ReportError(streams, name, "can't be read");
+  if (const auto trouble = ReadInput(name, streams, bytes)) {
+    ReportError(streams, name, *trouble);
     return kFileTrouble;
   }
-  return ModelOfBytes(name, std::move(bytes), page, streams, system) ? kFine : kFindings;
+  return ModelOfBytes(name, std::move(bytes), options, streams, system);
 }

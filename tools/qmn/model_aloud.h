@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "tools/qmn/menu_source.h"
 #include "tools/qmn/qmn_tool.h"
 
 class TMenuSystem;
@@ -12,11 +13,14 @@ class TMenuSystem;
 // length of the magic.
 bool IsCompiledMenu(const std::string& name, const std::string& bytes);
 
-// False after an error. The system is then what the module would have: empty for a source, the part
-// read before the error for a compiled file.
-bool ModelOfBytes(const std::string& name, std::string bytes, unsigned page,
-                  const QmnStreams& streams, TMenuSystem& system);
+// Compiles a source whose findings have been reported. False when the engine refuses it all the
+// same.
+bool CompileAloud(const MenuSource& source, const QmnStreams& streams, TMenuSystem& system);
 
-// Returns an exit code.
-int ReadModelAloud(const std::string& name, unsigned page, const QmnStreams& streams,
+// Returns an exit code. After an error the system is what the module would have: empty for a
+// source, the part read before the error for a compiled file.
+int ModelOfBytes(const std::string& name, std::string bytes, const SourceOptions& options,
+                 const QmnStreams& streams, TMenuSystem& system);
+
+int ReadModelAloud(const std::string& name, const SourceOptions& options, const QmnStreams& streams,
                    TMenuSystem& system);

@@ -8,8 +8,6 @@
 #include "afx.h"
 #include "menu/menu_compiler.h"
 
-const char kOpenCommentText[] = "the comment that begins here never ends";
-
 CompileResult CompileSource(std::string source, SourceMessages& messages, TMenuSystem& system,
                             unsigned page) {
   PageDecoder decoder(page);
@@ -63,10 +61,10 @@ std::string SaveBytes(TMenuSystem& system) {
           static_cast<size_t>(file.GetLength())};
 }
 
-const char* Explain(const wchar_t* exception) {
+Message Explain(const wchar_t* exception) {
   const std::wstring_view name(exception);
-  if (name == L"CFileException") return "not a compiled menu file";
+  if (name == L"CFileException") return "not a compiled menu file"_say;
   if (name == L"CArchiveException")
-    return "damaged: the file ends too early, or a length or switch index in it can't be true";
-  return "too large for the memory";
+    return "damaged: the file ends too early, or a length or switch index in it can't be true"_say;
+  return "too large for the memory"_say;
 }

@@ -7,6 +7,7 @@
 #include "menu/menu_model.h"
 #include "menu/source_messages.h"
 #include "tools/qmn/code_page.h"
+#include "tools/qmn/message.h"
 
 struct CompileResult {
   bool accepted = false;
@@ -21,5 +22,4 @@ const wchar_t* LoadBytes(const std::string& bytes, TMenuSystem& system, unsigned
 std::string SaveBytes(TMenuSystem& system);
 
 // What an exception of that name means for the file.
-const char* Explain(const wchar_t* exception);
-extern const char kOpenCommentText[];
+Message Explain(const wchar_t* exception);

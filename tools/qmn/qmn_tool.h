@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "tools/qmn/message.h"
+
+constexpr char kToolVersion[] = "1.0";
+
 enum ExitCode {
   kFine = 0,
   kFindings = 1,  // the input has problems
@@ -16,10 +20,11 @@ enum ExitCode {
 
 struct QmnStreams {
   std::istream& in;
-  std::ostream& out;       // data only; binary for compiled files
-  std::ostream& err;       // messages, in UTF-8
-  bool colour = false;     // of messages
-  bool colourOut = false;  // of data for reading
+  std::ostream& out;                       // data only; binary for compiled files
+  std::ostream& err;                       // messages, in UTF-8
+  bool colour = false;                     // of messages
+  bool colourOut = false;                  // of data for reading
+  Language language = Language::kEnglish;  // of messages, unless --lang says otherwise
 };
 
 // `args` are UTF-8 and start after the program's name.

@@ -14,12 +14,16 @@ bool WantsColour() {
 
 }  // namespace
 
-int RunProcess(const std::vector<std::string>& args, StandardStreams streams) {
+Language LanguageOfLocale(std::string_view name) {
+  return name.starts_with("zh") ? Language::kChinese : Language::kEnglish;
+}
+
+int RunProcess(const std::vector<std::string>& args, StandardStreams streams, Language language) {
   std::ios::sync_with_stdio(false);
   const bool colour = WantsColour();
   const int code =
       RunQmn(args, {std::cin, std::cout, std::cerr, streams.isErrorOnTerminal && colour,
-                    streams.isOutputOnTerminal && colour});
+                    streams.isOutputOnTerminal && colour, language});
   std::cout.flush();
   return std::cout.good() || code != kFine ? code : kFileTrouble;
 }

@@ -13,4 +13,4 @@ inline std::string Utf8(std::wstring_view units) { return qvx::ToUtf8(units); }
 std::wstring Wide(std::string_view utf8);
 
 // "where: error: text" and a newline.
-void ReportError(const QmnStreams& streams, const std::string& where, const std::string& text);
+void ReportError(const QmnStreams& streams, const std::string& where, const Message& text);

@@ -114,7 +114,7 @@ void TellDefault(MenuLoading& loading, std::ostream& out) {
 bool ChooseSettings(const WhichOptions& options, const QmnStreams& streams) {
 #ifdef _WIN32
   if (!options.registry.empty()) {
-    ReportError(streams, "qmn which", "--registry is for systems without a registry");
+    ReportError(streams, "qmn which", "--registry is for systems without a registry"_say);
     return false;
   }
 #else
@@ -131,7 +131,7 @@ bool ChooseSettings(const WhichOptions& options, const QmnStreams& streams) {
 int RunWhich(const WhichOptions& options, const QmnStreams& streams) {
   std::error_code error;
   if (!options.registry.empty() && !fs::is_regular_file(PathOf(options.registry), error)) {
-    ReportError(streams, options.registry, "can't be read");
+    ReportError(streams, options.registry, "can't be read: {0}"_say("there is no such file"_say));
     return kFileTrouble;
   }
   if (!ChooseSettings(options, streams)) return kWrongUsage;

@@ -64,15 +64,15 @@ int RunWhy(const WhyOptions& options, const QmnStreams& streams) {
   question.paper = options.paper;
   if (!ReadParts(options, question)) {
     ReportError(streams, "qmn",
-                "--type, --layer and --count: one of each object, or one for all of them");
+                "--type, --layer and --count: one of each object, or one for all of them"_say);
     return kWrongUsage;
   }
   if (!ReadPairs(options, question)) {
-    ReportError(streams, "qmn", "--layer-key is KEY=LAYER and --group is CODE=VALUE");
+    ReportError(streams, "qmn", "--layer-key is KEY=LAYER and --group is CODE=VALUE"_say);
     return kWrongUsage;
   }
   TMenuSystem system;
-  if (const int code = ReadModelAloud(options.in, options.page, streams, system); code != kFine)
+  if (const int code = ReadModelAloud(options.in, options.source, streams, system); code != kFine)
     return code;
   options.json ? AnswerInJson(system, question, streams.out)
                : AnswerInWords(system, question, streams.out);

@@ -27,23 +27,28 @@ class ArrowRules {
 
   void End() {
     for (const LineView* line : m_open)
-      line->AddInLabel(Rule::kArrowOpen, 0, 2,
-                       "the sub-menu opened here is never closed; the arrow stays in the label");
+      line->AddInLabel(
+          Rule::kArrowOpen, 0, 2,
+          "the sub-menu opened here is never closed; the arrow stays in the label"_say);
   }
 
  private:
+  static Message TooMany(int pairs, int open) {
+    if (open == 0) return "there is no open sub-menu to close; the arrow stays in the label"_say;
+    if (open == 1)
+      return "this closes {0} sub-menus, but only 1 is open; the arrow stays in the label"_say(
+          pairs);
+    return "this closes {0} sub-menus, but only {1} are open; the arrow stays in the label"_say(
+        pairs, open);
+  }
+
   void Close(const LineView& line, int pairs) {
     const auto open = static_cast<int>(m_open.size());
     if (pairs <= open) {
       m_open.resize(m_open.size() - static_cast<size_t>(pairs));
       return;
     }
-    const std::string text = open == 0 ? "there is no open sub-menu to close"
-                                       : "this closes " + std::to_string(pairs) +
-                                             " sub-menus, but only " + std::to_string(open) +
-                                             (open == 1 ? " is open" : " are open");
-    line.AddInLabel(Rule::kArrowClose, 0, 2 * static_cast<size_t>(pairs),
-                    text + "; the arrow stays in the label");
+    line.AddInLabel(Rule::kArrowClose, 0, 2 * static_cast<size_t>(pairs), TooMany(pairs, open));
     // The openings around it are lost too, but are not errors of their own.
     m_open.clear();
   }
@@ -64,10 +69,11 @@ void CheckBehind(const LineView& line) {
     rest = Trim(rest.substr(rest.find(U'}') + 1));
   if (ArrowOf(rest) == Arrow::kNone) return;
   const size_t at = label.size() - rest.size();
-  line.AddInLabel(Rule::kArrowBehind, at, at + 2,
-                  first == Arrow::kNone
-                      ? "an arrow counts only right behind the '['; this one stays in the label"
-                      : "a line begins with arrows of one kind only; this one stays in the label");
+  line.AddInLabel(
+      Rule::kArrowBehind, at, at + 2,
+      first == Arrow::kNone
+          ? "an arrow counts only right behind the '['; this one stays in the label"_say
+          : "a line begins with arrows of one kind only; this one stays in the label"_say);
 }
 
 }  // namespace

@@ -16,16 +16,16 @@ bool IsInPlace(const std::string& name) {
   return name.size() == 7 || (name.size() == 8 && name[7] >= '1' && name[7] <= '7');
 }
 
-const char* KindWord(int kind) {
+Phrase KindWord(int kind) {
   switch (kind) {
     case RTSHORT:
-      return "a whole number";
+      return "a whole number"_say;
     case RTREAL:
-      return "a number with a point";
+      return "a number with a point"_say;
     case RTSTR:
-      return "a text in quotes";
+      return "a text in quotes"_say;
     default:
-      return "a value that a source can't write";
+      return "a value that a source can't write"_say;
   }
 }
 
@@ -67,19 +67,20 @@ class BlockRules {
 
   bool Group(const LintGroup& group) {
     const int kind = QvxExport::TypeOfCode(group.code.number);
-    const std::string code = "group code " + std::to_string(group.code.number);
+    const int code = group.code.number;
     const size_t begin = group.code.begin, end = group.value.end;
     if (kind != RTSHORT && kind != RTREAL && kind != RTSTR) {
       m_context.findings.Add(
           Rule::kGroupCode, begin, end,
-          code + " takes " + KindWord(kind) + "; this group loses every block of the file");
+          "group code {0} takes {1}; this group loses every block of the file"_say(code,
+                                                                                   KindWord(kind)));
       return false;
     }
     if (kind != KindOfValue(group.value)) {
-      m_context.findings.Add(Rule::kGroupKind, begin, end,
-                             code + " takes " + KindWord(kind) + ", found " +
-                                 m_context.Text(group.value) +
-                                 "; this group loses every block of the file");
+      m_context.findings.Add(
+          Rule::kGroupKind, begin, end,
+          "group code {0} takes {1}, found {2}; this group loses every block of the file"_say(
+              code, KindWord(kind), m_context.Text(group.value)));
       return false;
     }
     Cut(kind, group.value);
@@ -90,17 +91,16 @@ class BlockRules {
     const auto cut = static_cast<int16_t>(value.number);
     if (kind != RTSHORT || cut == value.number) return;
     m_context.Add(Rule::kNumberRange, value,
-                  "the number is cut to 16 bits and becomes " + std::to_string(cut));
+                  "the number is cut to 16 bits and becomes {0}"_say(int{cut}));
   }
 
   void Middle(const LintBlock& block) {
     const LintGroup& first = block.mask[1];
     const LintGroup& last = block.mask[block.mask.size() - 2];
-    m_context.findings.Add(Rule::kMaskMiddle, first.code.begin, last.value.end,
-                           "only the first and the last of the " +
-                               std::to_string(block.mask.size()) + " groups count; " +
-                               m_context.source.Shown(first.code.begin, last.value.end) +
-                               " is lost");
+    m_context.findings.Add(
+        Rule::kMaskMiddle, first.code.begin, last.value.end,
+        "only the first and the last of the {0} groups count; {1} is lost"_say(
+            block.mask.size(), m_context.source.Shown(first.code.begin, last.value.end)));
   }
 
   // True when it is the first block of its name.
@@ -114,8 +114,8 @@ class BlockRules {
         m_names.try_emplace(name, m_context.source.LineOf(block.name->begin));
     if (!isNew)
       m_context.Add(Rule::kBlockTwice, *block.name,
-                    "block '" + m_context.Text(*block.name) + "' is there already, on line " +
-                        std::to_string(first->second) + "; that one is found");
+                    "block '{0}' is there already, on line {1}; that one is found"_say(
+                        m_context.Text(*block.name), first->second));
     return isNew;
   }
 
@@ -124,7 +124,7 @@ class BlockRules {
     m_context.findings.Add(Rule::kMaskUnused, block.mask.front().code.begin,
                            block.mask.back().value.end,
                            "SCREEN is the screen menu and is chosen by no selection; its mask has "
-                           "no effect");
+                           "no effect"_say);
   }
 
   void Unreachable(const LintBlock& block) {
@@ -132,11 +132,13 @@ class BlockRules {
     std::string capitals = name;
     for (char& c : capitals)
       if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
-    const std::string hint = IsInPlace(capitals)
-                                 ? "; " + capitals + " is looked for in capitals"
-                                 : "; it has no mask, and nothing looks for this name";
-    m_context.Add(Rule::kBlockUnreachable, *block.name,
-                  "nothing can choose block '" + m_context.Text(*block.name) + "'" + hint);
+    const std::string shown = m_context.Text(*block.name);
+    m_context.Add(
+        Rule::kBlockUnreachable, *block.name,
+        IsInPlace(capitals)
+            ? "nothing can choose block '{0}'; {1} is looked for in capitals"_say(shown, capitals)
+            : "nothing can choose block '{0}'; it has no mask, and nothing looks for this name"_say(
+                  shown));
   }
 
   void Hidden(const LintBlock& block, bool isFoundByName) {
@@ -147,13 +149,13 @@ class BlockRules {
       return;
     }
     if (isFoundByName || !block.name) return;
-    const std::string by =
-        earlier->name ? "block '" + m_context.Text(*earlier->name) + "'" : std::string("a block");
+    const Message by =
+        earlier->name ? "block '{0}'"_say(m_context.Text(*earlier->name)) : Message("a block"_say);
     const size_t place = earlier->mask.front().code.begin;
-    m_context.Add(Rule::kBlockHidden, *block.name,
-                  "block '" + m_context.Text(*block.name) + "' is never chosen: " + by +
-                      " on line " + std::to_string(m_context.source.LineOf(place)) +
-                      " takes every selection that fits it");
+    m_context.Add(
+        Rule::kBlockHidden, *block.name,
+        "block '{0}' is never chosen: {1} on line {2} takes every selection that fits it"_say(
+            m_context.Text(*block.name), by, m_context.source.LineOf(place)));
   }
 
   const CheckContext& m_context;

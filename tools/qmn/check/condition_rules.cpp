@@ -1,5 +1,6 @@
 // Condition prefixes that are dropped, and those that remain in the label.
 #include "tools/qmn/check/line_rules.h"
+#include "tools/qmn/check/names.h"
 
 namespace {
 
@@ -39,24 +40,33 @@ class ConditionWalk {
   void Condition(std::u32string_view text) {
     const size_t equal = text.find(U'=');
     if (equal == text.npos)
-      return Report("the prefix has no '=' and is dropped; expected {~=Function} or {!=Function}");
+      return Report(
+          "the prefix has no '=' and is dropped; expected {~=Function} or {!=Function}"_say);
     // Only the first word on the left is used.
     const std::u32string_view left = TrimFront(text.substr(0, equal));
     const std::u32string_view word = left.substr(0, left.find(U' '));
     if (word != U"~" && word != U"!")
-      return Report("the prefix is dropped; expected '~' or '!' in front of '='");
+      return Report("the prefix is dropped; expected '~' or '!' in front of '='"_say);
     const std::u32string_view name = TrimBack(TrimFront(text.substr(equal + 1)));
-    if (name.empty()) return Report("the prefix names no function");
+    if (name.empty()) return Report("the prefix names no function"_say);
+    CheckFunction(name.substr(0, name.find(U' ')));
     if (!IsOneWord(TrimBack(left)) || !IsOneWord(name))
-      return Report("only the first word on each side of the '=' counts");
+      return Report("only the first word on each side of the '=' counts"_say);
     bool& seen = word == U"~" ? m_hasGray : m_hasCheck;
-    if (seen) Report("the prefix takes the place of the one before it of the same kind");
+    if (seen) Report("the prefix takes the place of the one before it of the same kind"_say);
     seen = true;
   }
 
-  void Report(const char* text) {
-    m_line.AddInLabel(Rule::kConditionDropped, m_begin, m_end, text);
+  void CheckFunction(std::u32string_view name) {
+    const CheckSettings& settings = m_line.Context().settings;
+    if (!settings.known) return;
+    const std::string narrow = Utf8Of(name);
+    if (settings.known->functions.count(FoldedName(narrow))) return;
+    m_line.AddInLabel(Rule::kFunctionUnknown, m_begin, m_end,
+                      "the list of commands does not name the function '{0}'"_say(narrow));
   }
+
+  void Report(Phrase text) { m_line.AddInLabel(Rule::kConditionDropped, m_begin, m_end, text); }
 
   const LineView& m_line;
   std::u32string_view m_label, m_rest;
@@ -81,21 +91,37 @@ size_t KeptAt(const LineView& line) {
   return open == label.npos ? line.Label().find(U'{') : open;
 }
 
-const char* WhyKept(const LineView& line) {
+Phrase WhyKept(const LineView& line) {
   if (ArrowOf(line.Label()) == Arrow::kOpening)
-    return "a line that opens a sub-menu takes no condition";
-  if (line.Label().find(U'}') == LineView::kNone) return "the condition has no '}'";
-  return "a condition counts only at the very beginning of a label";
+    return "a line that opens a sub-menu takes no condition; it stays in the label"_say;
+  if (line.Label().find(U'}') == LineView::kNone)
+    return "the condition has no '}'; it stays in the label"_say;
+  return "a condition counts only at the very beginning of a label; it stays in the label"_say;
+}
+
+// A condition that lost its '{'.
+void CheckBrace(const LineView& line) {
+  const std::u32string_view label = line.Label();
+  const auto skip =
+      ArrowOf(label) == Arrow::kOpening ? size_t{2} : 2 * static_cast<size_t>(PairsOf(label));
+  std::u32string_view rest = TrimFront(label.substr(skip));
+  while (!rest.empty() && rest.front() == U'{' && rest.find(U'}') != rest.npos)
+    rest = TrimFront(rest.substr(rest.find(U'}') + 1));
+  if (!rest.starts_with(U"~=") && !rest.starts_with(U"!=")) return;
+  const size_t begin = label.size() - rest.size();
+  const size_t close = rest.find(U'}');
+  line.AddInLabel(Rule::kConditionBrace, begin, close == rest.npos ? begin + 2 : begin + close + 1,
+                  "the condition has no '{'; it stays in the label"_say);
 }
 
 }  // namespace
 
 void CheckConditions(const LineView& line) {
+  CheckBrace(line);
   const std::u32string_view label = line.Label();
   if (label.find(U'{') == label.npos) return;
   if (KeepsPrefix(line.Item()))
-    line.AddInLabel(Rule::kConditionKept, KeptAt(line), KeptAt(line) + 1,
-                    std::string(WhyKept(line)) + "; it stays in the label");
+    line.AddInLabel(Rule::kConditionKept, KeptAt(line), KeptAt(line) + 1, WhyKept(line));
   if (line.Item().m_pSubMenu || line.Item().m_pSwitch) return;
   const auto pairs = static_cast<size_t>(PairsOf(label));
   if (label.size() - 2 * pairs < kShortestLabel) return;

@@ -55,12 +55,13 @@ const char* AsciiOfWide(unsigned code) {
 }
 
 void ReportStray(const GapContext& context, Run run) {
-  std::string text = "'";
-  text += context.source.Shown(run.begin, run.end);
-  text += "' means nothing here and is skipped";
+  const std::string shown = context.source.Shown(run.begin, run.end);
   const unsigned code = context.source.Decoder().Next(context.bytes, run.begin).code;
-  if (const char* ascii = AsciiOfWide(code)) text += std::string("; did you mean '") + ascii + "'?";
-  context.findings.Add(Rule::kStrayBytes, run.begin, run.end, text);
+  const char* ascii = AsciiOfWide(code);
+  context.findings.Add(Rule::kStrayBytes, run.begin, run.end,
+                       ascii ? "'{0}' means nothing here and is skipped; did you mean '{1}'?"_say(
+                                   shown, std::string(ascii))
+                             : "'{0}' means nothing here and is skipped"_say(shown));
 }
 
 bool IsMinusBefore(const GapContext& context, Run run, const LintToken& next) {
@@ -70,31 +71,17 @@ bool IsMinusBefore(const GapContext& context, Run run, const LintToken& next) {
                      context.bytes.begin() + static_cast<std::ptrdiff_t>(next.begin), IsBlank);
 }
 
-// The size in bytes of a byte order mark at the start of the file; 0 for none.
-size_t CheckMark(const GapContext& context) {
-  const std::string& bytes = context.bytes;
-  if (bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) {
-    context.findings.Add(Rule::kByteOrderMark, 0, 3,
-                         "the file begins with the byte order mark of UTF-8");
-    return 3;
-  }
-  if (bytes.compare(0, 2, "\xFF\xFE") != 0 && bytes.compare(0, 2, "\xFE\xFF") != 0) return 0;
-  context.findings.Add(Rule::kByteOrderMark, 0, 2,
-                       "the file begins with the byte order mark of UTF-16");
-  return 2;
-}
-
 }  // namespace
 
 void CheckGap(const GapContext& context, size_t begin, const LintToken& next) {
-  if (begin == 0) begin = std::min(CheckMark(context), next.begin);
+  if (begin == 0 && context.bytes.starts_with("\xEF\xBB\xBF")) begin = 3;  // CheckEncoding
   for (;;) {
     const Run run = NextRun(context.bytes, begin, next.begin);
     if (run.begin == run.end) return;
     if (IsMinusBefore(context, run, next))
       context.findings.Add(Rule::kMinus, run.begin, next.end,
-                           "the minus is skipped; the number is read as " +
-                               context.source.Shown(next.begin, next.end));
+                           "the minus is skipped; the number is read as {0}"_say(
+                               context.source.Shown(next.begin, next.end)));
     else
       ReportStray(context, run);
     begin = run.end;
@@ -107,7 +94,6 @@ void CheckBehindZero(const GapContext& context, size_t zero) {
   while (rest < bytes.size() && (IsBlank(bytes[rest]) || bytes[rest] == 0)) ++rest;
   if (rest == bytes.size()) return;
   context.findings.Add(Rule::kZeroByte, zero, zero + 1,
-                       "the file ends at this byte 0; the " +
-                           std::to_string(bytes.size() - zero - 1) +
-                           " bytes behind it are not read");
+                       "the file ends at this byte 0; the {0} bytes behind it are not read"_say(
+                           bytes.size() - zero - 1));
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "tools/qmn/check/names.h"
+#include "tools/qmn/check/use_rules.h"
 
 namespace {
 
@@ -40,10 +41,10 @@ class Mnemonics {
     const size_t place = line.Source().line.begin;
     const auto [first, isNew] = m_first.try_emplace({line.Model().bar, key}, place);
     if (isNew || first->second == place) return;
-    line.AddInLabel(Rule::kMnemonicTwice, at, at + 2,
-                    "this mnemonic belongs to line " +
-                        std::to_string(line.Context().source.LineOf(first->second)) +
-                        " of the same pop-up already; the key picks that one");
+    line.AddInLabel(
+        Rule::kMnemonicTwice, at, at + 2,
+        "this mnemonic belongs to line {0} of the same pop-up already; the key picks that one"_say(
+            line.Context().source.LineOf(first->second)));
   }
 
   std::map<std::pair<int, char32_t>, size_t> m_first;
@@ -53,7 +54,7 @@ void CheckLine(const LineView& line) {
   if (!line.HasBracket()) {
     if (line.IsWhole())
       line.AddLabel(Rule::kNoBracket,
-                    "the line has no ']'; its label and its command are both empty");
+                    "the line has no ']'; its label and its command are both empty"_say);
     return;
   }
   CheckLabel(line);
@@ -66,7 +67,7 @@ void CheckToolBarEnd(const std::vector<LineView>& lines) {
   for (const LineView& line : lines)
     if (line.Model().bar == 0 && line.Model().isLast && line.Item().IsSeparator())
       line.AddLabel(Rule::kToolBarSeparator,
-                    "a separator at the end of ToolBar has no line to change places with");
+                    "a separator at the end of ToolBar has no line to change places with"_say);
 }
 
 }  // namespace
@@ -74,6 +75,7 @@ void CheckToolBarEnd(const std::vector<LineView>& lines) {
 void CheckMenuLines(const CheckContext& context) {
   const ModelView view(context.source, context.tree);
   FirstBlocks first;
+  UsedNames used;
   for (size_t i = 0; i < context.tree.blocks.size(); ++i) {
     const LintBlock& block = context.tree.blocks[i];
     const BlockRole role = RoleOf(context, block);
@@ -87,8 +89,12 @@ void CheckMenuLines(const CheckContext& context) {
     Mnemonics mnemonics;
     for (const LineView& line : lines) {
       CheckLine(line);
+      used.Add(line);
       if (!isScreen) mnemonics.Check(line);
     }
-    if (role == BlockRole::kToolBar && first.IsFirst(role)) CheckToolBarEnd(lines);
+    const bool isToolBar = role == BlockRole::kToolBar && first.IsFirst(role);
+    CheckMenus(lines, isToolBar);
+    if (isToolBar) CheckToolBarEnd(lines);
   }
+  used.ReportUnused(context);
 }

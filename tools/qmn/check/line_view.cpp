@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "tools/qmn/tool_text.h"
+
 LineView::LineView(const CheckContext& context, const ModelLine& model, bool isPopUp,
                    bool isInPlace)
     : m_context(context), m_model(model), m_isPopUp(isPopUp), m_isInPlace(isInPlace) {
@@ -30,18 +32,29 @@ bool LineView::SendsCommand() const {
   return !Item().IsSeparator() && !Item().m_pSubMenu && !Item().m_pSwitch && !Command().empty();
 }
 
-void LineView::AddInLabel(Rule rule, size_t first, size_t last, std::string text) const {
+void LineView::AddInLabel(Rule rule, size_t first, size_t last, Message text) const {
   m_context.findings.Add(rule, m_offsets[1 + first], m_offsets[1 + last], std::move(text));
 }
 
-void LineView::AddInCommand(Rule rule, size_t first, size_t last, std::string text) const {
+void LineView::AddInCommand(Rule rule, size_t first, size_t last, Message text) const {
   m_context.findings.Add(rule, m_offsets[m_command + first], m_offsets[m_command + last],
                          std::move(text));
 }
 
-void LineView::AddLabel(Rule rule, std::string text) const {
+void LineView::AddLabel(Rule rule, Message text) const {
   m_context.findings.Add(rule, m_offsets[0], m_offsets[HasBracket() ? m_close + 1 : 1],
                          std::move(text));
+}
+
+bool KeepsArrow(const TMenuItem& item) {
+  const std::wstring_view start = TextOf(item.m_strLabel).substr(0, 2);
+  return start == L"->" || start == L"<-";
+}
+
+std::string Utf8Of(std::u32string_view text) {
+  std::wstring units;
+  for (const char32_t c : text) units += static_cast<wchar_t>(c);
+  return Utf8(units);
 }
 
 Arrow ArrowOf(std::u32string_view label) {

@@ -29,10 +29,10 @@ class LineView {
   bool SendsCommand() const;
 
   // Positions in the label and in the command.
-  void AddInLabel(Rule rule, size_t first, size_t last, std::string text) const;
-  void AddInCommand(Rule rule, size_t first, size_t last, std::string text) const;
-  void AddLabel(Rule rule, std::string text) const;  // the whole label with its brackets
-  void AddIcon(Rule rule, std::string text) const { m_context.Add(rule, *Source().icon, text); }
+  void AddInLabel(Rule rule, size_t first, size_t last, Message text) const;
+  void AddInCommand(Rule rule, size_t first, size_t last, Message text) const;
+  void AddLabel(Rule rule, Message text) const;  // the whole label with its brackets
+  void AddIcon(Rule rule, Message text) const { m_context.Add(rule, *Source().icon, text); }
 
   const CheckContext& Context() const { return m_context; }
 
@@ -55,6 +55,11 @@ class LineView {
 inline std::wstring_view TextOf(const TWCString& text) {
   return {text, static_cast<size_t>(text.Length())};
 }
+
+// True when the compiled label begins with an arrow, which is reported as such.
+bool KeepsArrow(const TMenuItem& item);
+
+std::string Utf8Of(std::u32string_view text);
 
 enum class Arrow { kNone, kOpening, kClosing };
 Arrow ArrowOf(std::u32string_view label);

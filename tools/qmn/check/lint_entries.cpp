@@ -23,9 +23,9 @@ void LintParser::Block(const LintToken& prefix) {
   if (block.lines.empty() && m_unexpected == before) {
     ++m_unexpected;
     if (!Is(QMN_END) || !m_list.endedInComment)
-      m_findings.Add(
-          Rule::kEmptyBlock, prefix.begin, name.end,
-          "block '" + TextOf(name) + "' has no menu line: expected '[', found " + Describe(At()));
+      m_findings.Add(Rule::kEmptyBlock, prefix.begin, name.end,
+                     "block '{0}' has no menu line: expected '[', found {1}"_say(TextOf(name),
+                                                                                 Describe(At())));
   }
   m_tree.blocks.push_back(std::move(block));
 }
@@ -40,8 +40,8 @@ bool LintParser::IsMisspelt(const LintToken& name, const char* word, int next) c
 void LintParser::Misspelt(const LintToken& name, const char* word) {
   ++m_unexpected;
   m_findings.Add(Rule::kSection, name.begin, name.end,
-                 "section words are written in capitals: expected " + std::string(word) +
-                     ", found '" + TextOf(name) + "'");
+                 "section words are written in capitals: expected {0}, found '{1}'"_say(
+                     std::string(word), TextOf(name)));
   LintToken meant = name;
   meant.kind = *word == 'S' ? QMN_MENU_SWITCH : QMN_MENU_RES;
   Order(meant);
@@ -51,7 +51,7 @@ void LintParser::Misspelt(const LintToken& name, const char* word) {
 
 // The lines are checked all the same.
 void LintParser::NamelessBlock() {
-  Unexpected("the name of a block, SWITCH or RESOURCE behind '***'");
+  Unexpected("the name of a block, SWITCH or RESOURCE behind '***'"_say);
   LintBlock block;
   if (!IsSectionEnd() && !At().IsLine()) Take();
   SkipToLine();
@@ -77,10 +77,10 @@ void LintParser::Mask(LintBlock& block) {
 // dxf_group : QMN_ICON QMN_COMA QMN_STRING
 bool LintParser::Group(LintBlock& block) {
   LintGroup group;
-  if (!ExpectToken(QMN_ICON, "a group code, which is a whole number", group.code)) return false;
-  if (!Expect(QMN_COMA, "',' behind the group code")) return false;
+  if (!ExpectToken(QMN_ICON, "a group code, which is a whole number"_say, group.code)) return false;
+  if (!Expect(QMN_COMA, "',' behind the group code"_say)) return false;
   if (!Is(QMN_ICON) && !Is(QMN_FCON) && !At().IsText())
-    return Unexpected("the value of the group, a number or a text in quotes"), false;
+    return Unexpected("the value of the group, a number or a text in quotes"_say), false;
   group.value = Take();
   block.mask.push_back(group);
   return true;
@@ -100,7 +100,7 @@ void LintParser::LineOrError(LintBlock& block) {
     return;
   }
   if (!At().IsName()) {
-    Unexpected("a menu line or '***'");
+    Unexpected("a menu line or '***'"_say);
     Take();
     return SkipToLine();
   }
@@ -109,7 +109,7 @@ void LintParser::LineOrError(LintBlock& block) {
     block.lines.push_back({icon, Take()});
     return;
   }
-  Unexpected("a menu line behind the icon name '" + TextOf(icon) + "'");
+  Unexpected("a menu line behind the icon name '{0}'"_say(TextOf(icon)));
   SkipToLine();
 }
 
@@ -126,7 +126,7 @@ void LintParser::Switches() {
       Switch();
       continue;
     }
-    Unexpected("'**' and a switch, or '***RESOURCE'");
+    Unexpected("'**' and a switch, or '***RESOURCE'"_say);
     while (!IsSectionEnd() && !Is(QMN_SUB_PREFIX)) Take();
   }
 }
@@ -143,19 +143,23 @@ void LintParser::Switch() {
     ++m_unexpected;
     if (!Is(QMN_END) || !m_list.endedInComment)
       m_findings.Add(Rule::kEmptySwitch, prefix.begin, owner.name.end,
-                     "switch '" + TextOf(owner.name) + "' has no state: expected a number, found " +
-                         Describe(At()));
+                     "switch '{0}' has no state: expected a number, found {1}"_say(
+                         TextOf(owner.name), Describe(At())));
   }
   if (owner.name.IsName()) m_tree.switches.push_back(std::move(owner));
 }
 
 bool LintParser::SwitchHead(LintSwitch& owner) {
-  LintToken function;
-  return ExpectToken(QMN_IDENTIFIER, "the name of a switch behind '**'", owner.name) &&
-         Expect(QMN_GET_STATE, "GET") && Expect(QMN_EQUAL, "'=' behind GET") &&
-         ExpectToken(QMN_IDENTIFIER, "the name of the get function", function) &&
-         Expect(QMN_SET_STATE, "SET") && Expect(QMN_EQUAL, "'=' behind SET") &&
-         ExpectToken(QMN_IDENTIFIER, "the name of the set function", function);
+  LintToken get, set;
+  const bool isWhole =
+      ExpectToken(QMN_IDENTIFIER, "the name of a switch behind '**'"_say, owner.name) &&
+      Expect(QMN_GET_STATE, "GET"_say) && Expect(QMN_EQUAL, "'=' behind GET"_say) &&
+      ExpectToken(QMN_IDENTIFIER, "the name of the get function"_say, get) &&
+      Expect(QMN_SET_STATE, "SET"_say) && Expect(QMN_EQUAL, "'=' behind SET"_say) &&
+      ExpectToken(QMN_IDENTIFIER, "the name of the set function"_say, set);
+  if (get.IsName()) owner.functions.push_back(get);
+  if (set.IsName()) owner.functions.push_back(set);
+  return isWhole;
 }
 
 // switch_state_list : switch_state_list switch_state_item
@@ -166,7 +170,7 @@ void LintParser::States(LintSwitch& owner) {
       if (!State(owner)) SkipToState();
       continue;
     }
-    Unexpected("a state such as 0=ICON,\"label\", '**' or '***'");
+    Unexpected("a state such as 0=ICON,\"label\", '**' or '***'"_say);
     SkipToState();
   }
 }
@@ -175,10 +179,10 @@ void LintParser::States(LintSwitch& owner) {
 bool LintParser::State(LintSwitch& owner) {
   LintState state;
   state.value = Take();
-  if (!Expect(QMN_EQUAL, "'=' behind the value of a state") ||
-      !ExpectToken(QMN_IDENTIFIER, "the icon name of the state", state.icon) ||
-      !Expect(QMN_COMA, "',' behind the icon name") ||
-      !ExpectText("the label of the state in quotes", state.label))
+  if (!Expect(QMN_EQUAL, "'=' behind the value of a state"_say) ||
+      !ExpectToken(QMN_IDENTIFIER, "the icon name of the state"_say, state.icon) ||
+      !Expect(QMN_COMA, "',' behind the icon name"_say) ||
+      !ExpectText("the label of the state in quotes"_say, state.label))
     return false;
   owner.states.push_back(state);
   return true;
@@ -198,7 +202,7 @@ void LintParser::Resources() {
       if (!Resource()) SkipToResource();
       continue;
     }
-    Unexpected("an icon such as NAME = \"image\",\"help\" or the end of the file");
+    Unexpected("an icon such as NAME = \"image\",\"help\" or the end of the file"_say);
     Take();
     SkipToResource();
   }
@@ -206,12 +210,14 @@ void LintParser::Resources() {
 
 // menu_res_item : QMN_IDENTIFIER QMN_EQUAL QMN_STRING QMN_COMA QMN_STRING
 bool LintParser::Resource() {
-  LintToken text;
-  m_tree.resources.push_back({Take()});
-  return Expect(QMN_EQUAL, "'=' behind the icon name") &&
-         ExpectText("the name of the image in quotes", text) &&
-         Expect(QMN_COMA, "',' behind the name of the image") &&
-         ExpectText("the help text in quotes", text);
+  LintToken image, text;
+  m_tree.resources.push_back({Take(), {}});
+  if (!Expect(QMN_EQUAL, "'=' behind the icon name"_say) ||
+      !ExpectText("the name of the image in quotes"_say, image))
+    return false;
+  m_tree.resources.back().image = image;
+  return Expect(QMN_COMA, "',' behind the name of the image"_say) &&
+         ExpectText("the help text in quotes"_say, text);
 }
 
 void LintParser::SkipToResource() {

@@ -41,58 +41,58 @@ LintToken LintParser::Take() {
   return token;
 }
 
-bool LintParser::Expect(int kind, const char* what) {
+bool LintParser::Expect(int kind, Phrase what) {
   LintToken ignored;
   return ExpectToken(kind, what, ignored);
 }
 
-bool LintParser::ExpectToken(int kind, const char* what, LintToken& out) {
+bool LintParser::ExpectToken(int kind, Phrase what, LintToken& out) {
   if (!Is(kind)) return Unexpected(what), false;
   out = Take();
   return true;
 }
 
 // An unterminated text was reported when it was read, and counts as a valid one here.
-bool LintParser::ExpectText(const char* what, LintToken& out) {
+bool LintParser::ExpectText(Phrase what, LintToken& out) {
   if (!At().IsText()) return Unexpected(what), false;
   out = Take();
   return true;
 }
 
 // Unterminated texts and lines and an open comment have been reported already.
-void LintParser::Unexpected(const std::string& what) {
+void LintParser::Unexpected(const Message& what) {
   ++m_unexpected;
   const LintToken& token = At();
   if (token.kind == QMN_ERR_STRING || token.kind == QMN_ERR_MENU_ITEM) return;
   if (token.kind == QMN_END && m_list.endedInComment) return;
   m_findings.Add(Rule::kSyntax, token.begin, token.end,
-                 "expected " + what + ", found " + Describe(token));
+                 "expected {0}, found {1}"_say(what, Describe(token)));
 }
 
 std::string LintParser::TextOf(const LintToken& token) {
   return m_source.Shown(token.begin, token.end);
 }
 
-std::string LintParser::Describe(const LintToken& token) {
-  if (const char* sign = SignOf(token.kind)) return sign;
+Message LintParser::Describe(const LintToken& token) {
+  if (const char* sign = SignOf(token.kind)) return std::string(sign);
   switch (token.kind) {
     case QMN_END:
-      return m_list.endedByZero ? "a byte 0, which ends the file" : "the end of the file";
+      return m_list.endedByZero ? "a byte 0, which ends the file"_say : "the end of the file"_say;
     case QMN_STRING:
-      return "the text " + TextOf(token);
+      return "the text {0}"_say(TextOf(token));
     case QMN_ICON:
     case QMN_FCON:
-      return "the number " + TextOf(token);
+      return "the number {0}"_say(TextOf(token));
     case QMN_IDENTIFIER:
-      return "the name '" + TextOf(token) + "'";
+      return "the name '{0}'"_say(TextOf(token));
     case QMN_MENU_ITEM:
-      return "a menu line";
+      return "a menu line"_say;
     default:
-      return "the reserved word '" + TextOf(token) + "'";
+      return "the reserved word '{0}'"_say(TextOf(token));
   }
 }
 
-void LintParser::Missing(const std::string& text) {
+void LintParser::Missing(const Message& text) {
   ++m_unexpected;
   if (m_list.endedInComment) return;
   m_findings.Add(Rule::kSection, At().begin, At().end, text);
@@ -101,16 +101,16 @@ void LintParser::Missing(const std::string& text) {
 // menu_title : QMN_TITLE QMN_EQUAL QMN_STRING
 void LintParser::Title() {
   if (!Is(QMN_TITLE))
-    Missing("the file must begin with MENU_TITLE = \"...\", found " + Describe(At()));
+    Missing("the file must begin with MENU_TITLE = \"...\", found {0}"_say(Describe(At())));
   while (!Is(QMN_TITLE) && !IsSectionEnd()) Take();
   LintToken ignored;
   bool isWhole = true;
   if (Is(QMN_TITLE)) {
     Take();
-    isWhole =
-        Expect(QMN_EQUAL, "'=' behind MENU_TITLE") && ExpectText("the title in quotes", ignored);
+    isWhole = Expect(QMN_EQUAL, "'=' behind MENU_TITLE"_say) &&
+              ExpectText("the title in quotes"_say, ignored);
   }
-  if (isWhole && !IsSectionEnd()) Unexpected("'***' and a block");
+  if (isWhole && !IsSectionEnd()) Unexpected("'***' and a block"_say);
   while (!IsSectionEnd()) Take();
 }
 
@@ -132,21 +132,22 @@ void LintParser::Order(const LintToken& word) {
   if (isSwitches) m_phase = std::max(m_phase, Phase::kSwitches);
   if (isResources) m_phase = Phase::kResources;
   if (isSwitches && before == Phase::kBlocks && m_tree.blocks.empty())
-    return Missing("a file needs a block in front of ***SWITCH");
-  if (isSwitches && before == Phase::kSwitches) return Missing("a second ***SWITCH");
+    return Missing("a file needs a block in front of ***SWITCH"_say);
+  if (isSwitches && before == Phase::kSwitches) return Missing("a second ***SWITCH"_say);
   if (isSwitches && before == Phase::kResources)
-    return Missing("***SWITCH must stand in front of ***RESOURCE");
+    return Missing("***SWITCH must stand in front of ***RESOURCE"_say);
   if (isResources && before == Phase::kBlocks)
-    return Missing("***SWITCH is missing in front of ***RESOURCE; it may be empty");
-  if (isResources && before == Phase::kResources) return Missing("a second ***RESOURCE");
+    return Missing("***SWITCH is missing in front of ***RESOURCE; it may be empty"_say);
+  if (isResources && before == Phase::kResources) return Missing("a second ***RESOURCE"_say);
   if (!isSwitches && !isResources && before != Phase::kBlocks)
-    Missing("block '" + TextOf(word) + "' must stand in front of ***SWITCH");
+    Missing("block '{0}' must stand in front of ***SWITCH"_say(TextOf(word)));
 }
 
 void LintParser::Finish() {
   if (m_phase == Phase::kBlocks)
     Missing(m_tree.blocks.empty()
-                ? "the file ends without a block, ***SWITCH and ***RESOURCE"
-                : "the file ends without ***SWITCH and ***RESOURCE; both may be empty");
-  if (m_phase == Phase::kSwitches) Missing("the file ends without ***RESOURCE; it may be empty");
+                ? "the file ends without a block, ***SWITCH and ***RESOURCE"_say
+                : "the file ends without ***SWITCH and ***RESOURCE; both may be empty"_say);
+  if (m_phase == Phase::kSwitches)
+    Missing("the file ends without ***RESOURCE; it may be empty"_say);
 }

@@ -22,7 +22,7 @@ class LintParser {
   void Section();
   void Finish();
   void Order(const LintToken& word);
-  void Missing(const std::string& text);
+  void Missing(const Message& text);
 
   void Block(const LintToken& prefix);
   void NamelessBlock();
@@ -49,11 +49,11 @@ class LintParser {
   bool Is(int kind) const { return At().kind == kind; }
   bool IsSectionEnd() const { return Is(QMN_PREFIX) || Is(QMN_END); }
   LintToken Take();
-  bool Expect(int kind, const char* what);
-  bool ExpectToken(int kind, const char* what, LintToken& out);
-  bool ExpectText(const char* what, LintToken& out);
-  void Unexpected(const std::string& what);
-  std::string Describe(const LintToken& token);
+  bool Expect(int kind, Phrase what);
+  bool ExpectToken(int kind, Phrase what, LintToken& out);
+  bool ExpectText(Phrase what, LintToken& out);
+  void Unexpected(const Message& what);
+  Message Describe(const LintToken& token);
   std::string TextOf(const LintToken& token);
 
   SourceText& m_source;

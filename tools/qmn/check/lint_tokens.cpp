@@ -86,14 +86,14 @@ class TokenReader {
     token.end = isZero ? position - 1 : position;
     if (isZero) SkipTo(m_source.EndOfLineAt(position - 1));
     m_findings.Add(Rule::kStringAtEnd, token.begin, token.end,
-                   isZero ? "a byte 0 ends the file inside the text that begins here"
-                          : "the file ends inside the text that begins here: expected '\"'");
+                   isZero ? "a byte 0 ends the file inside the text that begins here"_say
+                          : "the file ends inside the text that begins here: expected '\"'"_say);
   }
 
   void TextOverLines(LintToken& token, size_t position) {
     token.end = position;
     m_findings.Add(Rule::kStringOpen, token.begin, token.end,
-                   "the text that begins here does not end in its line: expected '\"'");
+                   "the text that begins here does not end in its line: expected '\"'"_say);
     const size_t quote = QuoteOfNextLine(position + 1);
     if (quote != kNone) SkipTo(quote + 1);
   }
@@ -119,7 +119,7 @@ class TokenReader {
     const size_t bytes = last - token.begin - 1;
     token.end = std::min(last + 1, line);
     m_findings.Add(Rule::kStringTooLong, token.begin, token.end,
-                   "the text holds " + std::to_string(bytes) + " bytes, at most 197 fit");
+                   "the text holds {0} bytes, at most 197 fit"_say(bytes));
     SkipTo(token.end);
   }
 
@@ -130,16 +130,16 @@ class TokenReader {
     const size_t zero = Find('\0', token.begin, position);
     if (zero < position) {
       m_findings.Add(Rule::kLineAtEnd, token.begin, zero,
-                     "a byte 0 ends the file inside this menu line");
+                     "a byte 0 ends the file inside this menu line"_say);
       SkipTo(end);
     } else if (bytes > static_cast<size_t>(kLongestToken)) {
-      m_findings.Add(Rule::kLineTooLong, token.begin, end,
-                     "the menu line holds " + std::to_string(bytes) + " bytes, at most " +
-                         std::to_string(kLongestToken) + " fit with its '['");
+      m_findings.Add(
+          Rule::kLineTooLong, token.begin, end,
+          "the menu line holds {0} bytes, at most {1} fit with its '['"_say(bytes, kLongestToken));
       SkipTo(end);
     } else {
       m_findings.Add(Rule::kLineAtEnd, token.begin, end,
-                     "the file ends inside this menu line: expected a newline behind it");
+                     "the file ends inside this menu line: expected a newline behind it"_say);
     }
   }
 
@@ -147,8 +147,8 @@ class TokenReader {
     const bool isBlock = m_bytes[open + 1] == '*';
     m_list.endedInComment = isBlock;
     m_findings.Add(Rule::kCommentOpen, open, open + 2,
-                   isBlock ? "the comment that begins here never ends: expected '*/'"
-                           : "the comment on the last line never ends: expected a newline");
+                   isBlock ? "the comment that begins here never ends: expected '*/'"_say
+                           : "the comment on the last line never ends: expected a newline"_say);
   }
 
   SourceText& m_source;

@@ -29,11 +29,13 @@ struct LintState {
 
 struct LintSwitch {
   LintToken name;
+  std::vector<LintToken> functions;  // get and set
   std::vector<LintState> states;
 };
 
 struct LintResource {
   LintToken name;
+  std::optional<LintToken> image;
 };
 
 struct LintTree {

@@ -12,7 +12,7 @@ using Json = nlohmann::ordered_json;
 constexpr char kSchema[] =
     "https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/sarif-schema-2.1.0.json";
 
-Json JsonFinding(const ReportedFinding& finding) {
+Json JsonFinding(const ReportedFinding& finding, Language language) {
   const RuleInfo& info = InfoOf(finding.rule);
   return {{"line", finding.begin.line},
           {"column", finding.begin.column},
@@ -21,7 +21,7 @@ Json JsonFinding(const ReportedFinding& finding) {
           {"severity", WordOf(info.severity)},
           {"code", info.code},
           {"rule", info.name},
-          {"text", finding.text},
+          {"text", finding.text.In(language)},
           {"source", finding.snippet.line}};
 }
 
@@ -48,14 +48,14 @@ std::string UriOf(const std::string& file) {
   return uri;
 }
 
-Json SarifRule(const RuleInfo& info) {
+Json SarifRule(const RuleInfo& info, Language language) {
   return {{"id", info.code},
           {"name", info.name},
-          {"shortDescription", {{"text", info.summary}}},
+          {"shortDescription", {{"text", SummaryOf(info).In(language)}}},
           {"defaultConfiguration", {{"level", WordOf(info.severity)}}}};
 }
 
-Json SarifResult(const FileReport& report, const ReportedFinding& finding) {
+Json SarifResult(const FileReport& report, const ReportedFinding& finding, Language language) {
   const RuleInfo& info = InfoOf(finding.rule);
   const Json region{{"startLine", finding.begin.line},
                     {"startColumn", finding.begin.column},
@@ -66,7 +66,7 @@ Json SarifResult(const FileReport& report, const ReportedFinding& finding) {
   return {{"ruleId", info.code},
           {"ruleIndex", static_cast<int>(finding.rule)},
           {"level", WordOf(info.severity)},
-          {"message", {{"text", finding.text}}},
+          {"message", {{"text", finding.text.In(language)}}},
           {"locations", Json::array({location})}};
 }
 
@@ -75,12 +75,14 @@ Json Notification(const char* level, const FileReport& report, const std::string
   return {{"level", level}, {"message", {{"text", text}}}, {"locations", Json::array({location})}};
 }
 
-Json Invocation(const std::vector<FileReport>& reports) {
+Json Invocation(const std::vector<FileReport>& reports, Language language) {
   bool isWhole = true;
   Json notifications = Json::array();
   for (const FileReport& report : reports) {
-    if (!report.isRead) notifications.push_back(Notification("error", report, "can't be read"));
-    if (report.omitted) notifications.push_back(Notification("note", report, OmittedText(report)));
+    if (!report.isRead)
+      notifications.push_back(Notification("error", report, report.trouble.In(language)));
+    if (report.omitted)
+      notifications.push_back(Notification("note", report, OmittedText(report).In(language)));
     isWhole = isWhole && report.isRead;
   }
   return {{"executionSuccessful", isWhole}, {"toolExecutionNotifications", notifications}};
@@ -92,11 +94,12 @@ void Put(const Json& document, std::ostream& out) {
 
 }  // namespace
 
-void ReportAsJson(const std::vector<FileReport>& reports, std::ostream& out) {
+void ReportAsJson(const std::vector<FileReport>& reports, std::ostream& out, Language language) {
   Json files = Json::array();
   for (const FileReport& report : reports) {
     Json findings = Json::array();
-    for (const ReportedFinding& finding : report.findings) findings.push_back(JsonFinding(finding));
+    for (const ReportedFinding& finding : report.findings)
+      findings.push_back(JsonFinding(finding, language));
     files.push_back({{"file", report.file},
                      {"read", report.isRead},
                      {"errors", report.errors},
@@ -107,16 +110,16 @@ void ReportAsJson(const std::vector<FileReport>& reports, std::ostream& out) {
   Put({{"version", 1}, {"files", files}}, out);
 }
 
-void ReportAsSarif(const std::vector<FileReport>& reports, std::ostream& out) {
+void ReportAsSarif(const std::vector<FileReport>& reports, std::ostream& out, Language language) {
   Json rules = Json::array();
-  for (const RuleInfo& info : AllRules()) rules.push_back(SarifRule(info));
+  for (const RuleInfo& info : AllRules()) rules.push_back(SarifRule(info, language));
   Json results = Json::array();
   for (const FileReport& report : reports)
     for (const ReportedFinding& finding : report.findings)
-      results.push_back(SarifResult(report, finding));
-  const Json driver{{"name", "qmn"}, {"version", "1.0"}, {"rules", rules}};
+      results.push_back(SarifResult(report, finding, language));
+  const Json driver{{"name", "qmn"}, {"version", kToolVersion}, {"rules", rules}};
   const Json run{{"tool", {{"driver", driver}}},
-                 {"invocations", Json::array({Invocation(reports)})},
+                 {"invocations", Json::array({Invocation(reports, language)})},
                  {"columnKind", "unicodeCodePoints"},
                  {"results", results}};
   Put({{"$schema", kSchema}, {"version", "2.1.0"}, {"runs", Json::array({run})}}, out);

@@ -14,6 +14,17 @@ std::string Positioned(const FileReport& report, const ReportedFinding& finding)
          std::to_string(finding.begin.column);
 }
 
+// Filled with blanks to that many columns of a terminal.
+std::string Padded(const std::string& text, size_t columns) {
+  size_t used = 0;
+  for (size_t at = 0; at < text.size();) {
+    const TextChar next = NextUtf8(text, at);
+    used += static_cast<size_t>(DisplayWidth(next.code));
+    at += next.size;
+  }
+  return used < columns ? text + std::string(columns - used, ' ') : text;
+}
+
 // Escapes the data of a workflow command.
 std::string EscapedData(const std::string& text) {
   std::string out;
@@ -47,7 +58,14 @@ std::string EscapedProperty(const std::string& text) {
 }  // namespace
 
 FileReport MakeReport(const std::string& file, SourceText& source, const Findings& findings) {
-  FileReport report{file, true, {}, findings.Errors(), findings.Warnings(), findings.Omitted()};
+  FileReport report{file,
+                    true,
+                    std::string(),
+                    {},
+                    findings.Errors(),
+                    findings.Warnings(),
+                    findings.Silenced(),
+                    findings.Omitted()};
   for (const Finding& finding : findings.InOrder())
     report.findings.push_back({finding.rule, source.PlaceOf(finding.begin),
                                source.PlaceOf(finding.end), finding.text,
@@ -55,24 +73,25 @@ FileReport MakeReport(const std::string& file, SourceText& source, const Finding
   return report;
 }
 
-std::string OmittedText(const FileReport& report) {
-  return std::to_string(report.omitted) + " more findings are not shown";
+Message OmittedText(const FileReport& report) {
+  return "{0} more findings are not shown"_say(report.omitted);
 }
 
-void ReportAsText(const FileReport& report, std::ostream& out, bool colour) {
+void ReportAsText(const FileReport& report, std::ostream& out, ReportForm form) {
   for (const ReportedFinding& finding : report.findings) {
     const RuleInfo& info = InfoOf(finding.rule);
-    const char* on = colour ? ColourOf(info.severity) : "";
-    const char* off = colour ? "\x1b[0m" : "";
-    out << Positioned(report, finding) << ": " << on << WordOf(info.severity) << ":" << off << " "
-        << finding.text << " [" << info.code << "]\n"
+    const char* on = form.colour ? ColourOf(info.severity) : "";
+    const char* off = form.colour ? "\x1b[0m" : "";
+    out << Positioned(report, finding) << ": " << on
+        << SeverityText(info.severity).In(form.language) << ":" << off << " "
+        << finding.text.In(form.language) << " [" << info.code << "]\n"
         << finding.snippet.line << "\n"
         << on << finding.snippet.caret << off << "\n";
   }
-  if (report.omitted) out << report.file << ": " << OmittedText(report) << "\n";
+  if (report.omitted) out << report.file << ": " << OmittedText(report).In(form.language) << "\n";
 }
 
-void ReportAsGitHub(const FileReport& report, std::ostream& out) {
+void ReportAsGitHub(const FileReport& report, std::ostream& out, Language language) {
   const std::string file = EscapedProperty(report.file);
   for (const ReportedFinding& finding : report.findings) {
     const RuleInfo& info = InfoOf(finding.rule);
@@ -81,17 +100,17 @@ void ReportAsGitHub(const FileReport& report, std::ostream& out) {
     // The end column is interpreted on the line where the finding begins.
     if (finding.begin.line == finding.end.line) out << ",endColumn=" << finding.end.column;
     out << ",title=" << EscapedProperty(std::string(info.code) + " " + info.name)
-        << "::" << EscapedData(finding.text) << "\n";
+        << "::" << EscapedData(finding.text.In(language)) << "\n";
   }
-  if (report.omitted) out << "::notice file=" << file << "::" << OmittedText(report) << "\n";
+  if (report.omitted)
+    out << "::notice file=" << file << "::" << OmittedText(report).In(language) << "\n";
 }
 
-void ListRules(std::ostream& out) {
+void ListRules(std::ostream& out, Language language) {
   for (const RuleInfo& info : AllRules()) {
-    std::string line = std::string(info.code) + "  " + WordOf(info.severity);
-    line.resize(17, ' ');
-    line += info.name;
-    line.resize(40, ' ');
-    out << line << info.summary << "\n";
+    std::string name = info.name;
+    name.resize(23, ' ');
+    out << info.code << "  " << Padded(SeverityText(info.severity).In(language), 9) << name
+        << SummaryOf(info).In(language) << "\n";
   }
 }

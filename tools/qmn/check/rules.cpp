@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "tools/qmn/check/names.h"
+
 namespace {
 
 constexpr Severity kErr = Severity::kError;
@@ -28,6 +30,9 @@ constexpr RuleInfo kRules[] = {
      "A mask group whose value is of the wrong kind loses every block of the file."},
     {Rule::kGroupCode, "QMN012", kErr, "group-code",
      "A group code whose value a source can't write loses every block of the file."},
+    {Rule::kUtf16, "QMN013", kErr, "utf-16", "The file is UTF-16, which the shell does not read."},
+    {Rule::kNotUtf8, "QMN014", kErr, "not-utf-8",
+     "The file is not UTF-8, though the code page 65001 says so."},
     {Rule::kStrayBytes, "QMN020", kWarn, "stray-bytes",
      "Bytes that mean nothing where they stand are skipped in silence."},
     {Rule::kMinus, "QMN021", kWarn, "minus",
@@ -40,9 +45,9 @@ constexpr RuleInfo kRules[] = {
      "A number that does not fit becomes another one."},
     {Rule::kUndecodable, "QMN025", kWarn, "undecodable",
      "Bytes that are no text of the code page show as replacement characters."},
-    {Rule::kByteOrderMark, "QMN026", kWarn, "byte-order-mark",
+    {Rule::kByteOrderMark, "QMN026", kErr, "byte-order-mark",
      "A byte order mark means that the file is not in the code page."},
-    {Rule::kUtf8, "QMN027", kWarn, "utf-8",
+    {Rule::kUtf8, "QMN027", kErr, "utf-8",
      "The file is UTF-8, while menus are read in the code page."},
     {Rule::kBackslash, "QMN028", kWarn, "backslash",
      "Escapes are not decoded: the backslash stays in the text."},
@@ -105,6 +110,32 @@ constexpr RuleInfo kRules[] = {
      "Of two states with one value the first is shown."},
     {Rule::kStateValueRange, "QMN063", kWarn, "state-value-range",
      "A state above 32767 is never reached, since the get function answers a short integer."},
+    {Rule::kDashes, "QMN064", kWarn, "dashes",
+     "Only [--] is a separator; other dashes are a label."},
+    {Rule::kSeparatorPlace, "QMN065", kWarn, "separator-place",
+     "A separator stands between two lines, not first in its menu and not twice."},
+    {Rule::kCommandMissing, "QMN066", kWarn, "command-missing",
+     "A line without a command is always greyed."},
+    {Rule::kConditionBrace, "QMN067", kWarn, "condition-brace",
+     "A condition without its '{' stays in the label."},
+    {Rule::kCommandQuote, "QMN068", kWarn, "command-quote",
+     "Behind a quote that is never closed a ';' is no Enter."},
+    {Rule::kLineTwice, "QMN069", kWarn, "line-twice",
+     "Two lines of one menu have the same label and the same command."},
+    {Rule::kAcceleratorScreen, "QMN070", kWarn, "accelerator-screen",
+     "In the screen menu an accelerator text touches its label."},
+    {Rule::kImageEmpty, "QMN071", kWarn, "image-empty",
+     "An icon whose image has no name shows nothing."},
+    {Rule::kImageUnknown, "QMN072", kWarn, "image-unknown",
+     "An image that the icon library lacks shows nothing."},
+    {Rule::kIconUnused, "QMN073", kWarn, "icon-unused", "No line and no state uses this icon."},
+    {Rule::kSwitchUnused, "QMN074", kWarn, "switch-unused", "No line shows this switch."},
+    {Rule::kCommandUnknown, "QMN075", kWarn, "command-unknown",
+     "The list of commands does not name this command."},
+    {Rule::kFunctionUnknown, "QMN076", kWarn, "function-unknown",
+     "The list of commands does not name this LISP function."},
+    {Rule::kIgnoreUnused, "QMN077", kWarn, "ignore-unused",
+     "A qmn-ignore comment that silences nothing hides a later mistake."},
 };
 static_assert(std::size(kRules) == static_cast<size_t>(Rule::kCount));
 
@@ -112,3 +143,34 @@ static_assert(std::size(kRules) == static_cast<size_t>(Rule::kCount));
 
 const RuleInfo& InfoOf(Rule rule) { return kRules[static_cast<size_t>(rule)]; }
 std::span<const RuleInfo> AllRules() { return kRules; }
+
+Message SummaryOf(const RuleInfo& info) { return Phrase(info.summary); }
+
+Message SeverityText(Severity severity) {
+  return severity == Severity::kError ? "error"_say : "warning"_say;
+}
+
+bool IsIgnorable(Rule rule) {
+  switch (rule) {
+    case Rule::kUtf16:
+    case Rule::kNotUtf8:
+    case Rule::kByteOrderMark:
+    case Rule::kUtf8:
+      return true;
+    default:
+      return InfoOf(rule).severity == Severity::kWarning;
+  }
+}
+
+bool AddRules(std::string_view word, RuleSet& rules) {
+  constexpr size_t kShortest = 4;  // "QMN0"
+  const std::string wanted = FoldedName(word);
+  bool isAny = false;
+  for (const RuleInfo& info : kRules) {
+    const bool isCode = wanted.size() >= kShortest && FoldedName(info.code).starts_with(wanted);
+    if (!isCode && wanted != info.name) continue;
+    rules.set(static_cast<size_t>(info.rule));
+    isAny = true;
+  }
+  return isAny;
+}

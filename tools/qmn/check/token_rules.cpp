@@ -23,7 +23,7 @@ bool IsCut(const GapContext& context, const LintToken& token) {
 void CheckWord(const GapContext& context, const LintToken& token) {
   if (IsCut(context, token))
     context.findings.Add(Rule::kTokenCut, token.begin, token.end,
-                         "only 199 bytes of this are read in one; the rest stands on its own");
+                         "only 199 bytes of this are read in one; the rest stands on its own"_say);
 }
 
 void CheckNumber(const GapContext& context, const LintToken& token, double real) {
@@ -31,14 +31,14 @@ void CheckNumber(const GapContext& context, const LintToken& token, double real)
   if (token.kind == QMN_FCON) {
     if (std::isinf(real))
       context.findings.Add(Rule::kNumberRange, token.begin, token.end,
-                           "this number is too large and becomes infinite");
+                           "this number is too large and becomes infinite"_say);
     return;
   }
   if (token.number != std::numeric_limits<int>::max()) return;
   const size_t digits = context.bytes.find_first_not_of('0', token.begin);
   if (context.bytes.compare(digits, token.end - digits, "2147483647") == 0) return;
   context.findings.Add(Rule::kNumberRange, token.begin, token.end,
-                       "this number is too large and becomes 2147483647");
+                       "this number is too large and becomes 2147483647"_say);
 }
 
 // The engine searches quotes and backslashes by byte, also within double-byte characters.
@@ -47,16 +47,17 @@ void CheckDoubleByte(const GapContext& context, size_t at) {
   if (context.bytes[at + 2] != '"') return;
   context.findings.Add(
       Rule::kDoubleByteBackslash, at, at + 3,
-      "the second byte of '" + context.source.Shown(at, at + 2) +
-          "' is that of a backslash, so the quote behind it does not end the text");
+      "the second byte of '{0}' is that of a backslash, so the quote behind it does not end the text"_say(
+          context.source.Shown(at, at + 2)));
 }
 
 void CheckBackslash(const GapContext& context, size_t at) {
   const char next = context.bytes[at + 1];
   if (next != '"' && next != '\\' && next != '\n') return;
-  const std::string what = next == '\n' ? "the newline" : std::string("the '") + next + "'";
+  const Message what =
+      next == '\n' ? Message("the newline"_say) : "the '{0}'"_say(std::string(1, next));
   context.findings.Add(Rule::kBackslash, at, at + 2,
-                       "the backslash stays in the text together with " + what + " behind it");
+                       "the backslash stays in the text together with {0} behind it"_say(what));
 }
 
 void CheckCharacters(const GapContext& context, const LintToken& token) {
@@ -67,9 +68,10 @@ void CheckCharacters(const GapContext& context, const LintToken& token) {
     const TextChar next = context.source.PageDecoder().Next(bytes, at);
     if (!next.isValid && !isReported) {
       isReported = true;
-      context.findings.Add(Rule::kUndecodable, at, at + 1,
-                           "the byte " + HexOf(bytes[at]) +
-                               " is no character of the code page and shows as a replacement");
+      context.findings.Add(
+          Rule::kUndecodable, at, at + 1,
+          "the byte {0} is no character of the code page and shows as a replacement"_say(
+              HexOf(bytes[at])));
     }
     if (token.IsText()) {
       if (next.size == 2) CheckDoubleByte(context, at);

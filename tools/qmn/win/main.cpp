@@ -29,6 +29,11 @@ bool IsOnTerminal(DWORD stream) {
          SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
+Language LanguageOfUser() {
+  const bool isChinese = PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_CHINESE;
+  return isChinese ? Language::kChinese : Language::kEnglish;
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** texts) {
@@ -36,5 +41,6 @@ int wmain(int count, wchar_t** texts) {
   const ConsolePage page;
   std::vector<std::string> args;
   for (int i = 1; i < count; ++i) args.push_back(Utf8(texts[i]));
-  return RunProcess(args, {IsOnTerminal(STD_ERROR_HANDLE), IsOnTerminal(STD_OUTPUT_HANDLE)});
+  return RunProcess(args, {IsOnTerminal(STD_ERROR_HANDLE), IsOnTerminal(STD_OUTPUT_HANDLE)},
+                    LanguageOfUser());
 }
