@@ -1,5 +1,7 @@
 #include "frame/settings/settings_index.h"
 
+#include "qvx_version.h"
+
 const wchar_t kProfileFolder[] = L"<CPROFILE>";
 
 namespace {
@@ -129,7 +131,7 @@ const IndexRow kRows[] = {
      L"adjusting of dimensions after a scale change: 0 not at all"},
     {kGlobal, L"", L"g_nProductId", kInt, L"1", L"frame screenmenu editor",
      L"which product of the family runs"},
-    {kGlobal, L"", L"g_nVersion", kReal, L"7", L"frame", L"product version"},
+    {kGlobal, L"", L"g_nVersion", kReal, QVX_VERSION_NUMBER, L"frame", L"product version"},
     {kGlobal, L"", L"g_dHostVersion", kReal, L"24", L"frame statusbar editor",
      L"the host's release number"},
     {kGlobal, L"", L"g_pCurrentDb", kHandle, L"", L"statusbar", L"database of the current drawing"},

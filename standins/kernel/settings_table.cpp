@@ -1,5 +1,6 @@
 #include "kernel/globals.h"
 #include "kernel/settings.h"
+#include "qvx_version.h"
 
 namespace {
 
@@ -71,7 +72,7 @@ const Setting kSettings[] = {
     {L"g_nDimAdjust", kInt, kUser, &g_nDimAdjust, 1, L"2",
      L"adjusting of dimensions after a scale change: 0 not at all"},
     {L"g_nProductId", kInt, kRelease, &g_nProductId, 1, L"1", L"which product of the family runs"},
-    {L"g_nVersion", kReal, kRelease, &g_nVersion, 1, L"7", L"product version"},
+    {L"g_nVersion", kReal, kRelease, &g_nVersion, 1, QVX_VERSION_NUMBER, L"product version"},
     {L"g_dHostVersion", kReal, kSession, &g_dHostVersion, 1, L"24", L"the host's release number"},
     {L"g_pCurrentDb", kHandle, kSession, &QvxGeLib::g_pCurrentDb, 1, L"",
      L"database of the current drawing"},

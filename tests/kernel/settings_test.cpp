@@ -9,6 +9,7 @@
 
 #include "kernel/globals.h"
 #include "kernel/tregproperty.h"
+#include "qvx_version.h"
 #ifndef _WIN32
 #include "kernel/native/file_store.h"
 #include <cstdio>
@@ -61,7 +62,7 @@ TEST_F(KernelSettings, DefaultsAreTheOnesAUserStartsWith) {
   EXPECT_EQ(g_nSpeedMenu, 3);
   EXPECT_EQ(g_nRBtnMenuTime, 250);
   EXPECT_EQ(g_nProductId, 1);
-  EXPECT_EQ(g_nVersion, 7.0);
+  EXPECT_EQ(g_nVersion, std::stod(QVX_VERSION));
   EXPECT_EQ(g_iMenuRowHeight, 25);
   EXPECT_EQ(g_menuColors[0], 0xF7F3EEu);
   EXPECT_EQ(g_menuColors[3], 0xDCC6ACu);

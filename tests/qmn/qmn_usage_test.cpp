@@ -1,4 +1,5 @@
 // The command line itself: help, version, usage errors, colour.
+#include "qvx_version.h"
 #include "tests/qmn/qmn_testing.h"
 
 namespace {
@@ -34,7 +35,7 @@ TEST(QmnUsage, HelpHasAnExampleOfEachCommand) {
 TEST(QmnUsage, VersionGoesToStandardOutput) {
   const QmnRun run = Qmn({"--version"});
   EXPECT_EQ(run.code, 0);
-  EXPECT_EQ(run.out, "qmn 1.0\n");
+  EXPECT_EQ(run.out, "qmn " QVX_VERSION "\n");
 }
 
 TEST(QmnUsage, WrongUsageGivesTwoAndAReasonOnStandardError) {

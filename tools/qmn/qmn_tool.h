@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "qvx_version.h"
+
 #include "tools/qmn/message.h"
 
-constexpr char kToolVersion[] = "1.0";
+constexpr char kToolVersion[] = QVX_VERSION;
 
 enum ExitCode {
   kFine = 0,
