@@ -2,6 +2,7 @@
 
 #include "adslib.h"
 #include "dbapserv.h"
+#include "dbents.h"
 #include "kernel/drawing_scale.h"
 #include "kernel/entities/tentitybase.h"
 
@@ -10,10 +11,10 @@ AcDbBlockTableRecord* CurrentSpace() {
   return database ? AcDbBlockTableRecord::cast(database->currentSpaceId().object()) : nullptr;
 }
 
-void AddEntity(std::unique_ptr<AcDbEntity> entity, const wchar_t* layer, int color) {
+bool EnsureLayer(const wchar_t* layer, int color) {
   AcDbDatabase* database = acdbHostApplicationServices()->workingDatabase();
   AcDbLayerTable* layers = nullptr;
-  if (!database || database->getLayerTable(layers, AcDb::kForWrite) != Acad::eOk) return;
+  if (!database || database->getLayerTable(layers, AcDb::kForWrite) != Acad::eOk) return false;
   if (!layers->has(layer)) {
     auto* record = new AcDbLayerTableRecord;
     record->setName(layer);
@@ -21,10 +22,41 @@ void AddEntity(std::unique_ptr<AcDbEntity> entity, const wchar_t* layer, int col
     layers->add(record);
   }
   layers->close();
+  return true;
+}
+
+void AddEntity(std::unique_ptr<AcDbEntity> entity, const wchar_t* layer, int color) {
+  if (!EnsureLayer(layer, color)) return;
   entity->setLayer(layer);
   if (TEntityBase* base = TEntityBase::Cast(entity.get())) base->SetPScale(DocGetPScale());
   if (CurrentSpace()->appendAcDbEntity(entity.get()) == Acad::eOk) entity.release();
   acedRedraw(nullptr, 0);
+}
+
+void AddLine(const AcGePoint3d& from, const AcGePoint3d& to, const wchar_t* layer, int color) {
+  AddEntity(std::make_unique<AcDbLine>(from, to), layer, color);
+}
+
+void AddPolyline(const std::vector<AcGePoint3d>& corners, bool closed, const wchar_t* layer,
+                 int color) {
+  auto line = std::make_unique<AcDbPolyline>();
+  for (unsigned i = 0; i < corners.size(); ++i) line->addVertexAt(i, corners[i]);
+  line->setClosed(closed);
+  AddEntity(std::move(line), layer, color);
+}
+
+void AddBox(const AcGePoint3d& a, const AcGePoint3d& b, const wchar_t* layer, int color) {
+  AddPolyline({a, {b.x, a.y, 0}, b, {a.x, b.y, 0}}, true, layer, color);
+}
+
+AcDbObjectId FindBlock(const wchar_t* name) {
+  AcDbDatabase* database = acdbHostApplicationServices()->workingDatabase();
+  AcDbBlockTable* blocks = nullptr;
+  AcDbObjectId block;
+  if (!database || database->getBlockTable(blocks, AcDb::kForRead) != Acad::eOk) return block;
+  if (blocks->getAt(name, block) != Acad::eOk) acutPrintf(L"\n没有块 %ls。\n", name);
+  blocks->close();
+  return block;
 }
 
 AcGePoint3d WorldPoint(const ads_point user) {

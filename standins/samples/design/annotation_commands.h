@@ -1,7 +1,12 @@
-// Commands that draw the annotations, edit an object and put objects into groups.
+// Commands that draw tables and annotations, edit an object and put objects into groups.
 #pragma once
 
-#include "design_commands.h"
-
-extern const DesignCommand kAnnotationCommands[];
-extern const int kAnnotationCommandCount;
+void DrawSheet();
+void DrawNote();
+void DrawFloorRect();
+void DrawIndex();
+void DrawPointer();
+void DrawAxisLabel();
+void DrawSlow();
+void EditObject();
+void GroupObjects();

@@ -1,11 +1,9 @@
 // The entry point of the sample design module.
 #include "aced.h"
 #include "adslib.h"
-#include "annotation_commands.h"
 #include "annotation_entities.h"
-#include "design_commands.h"
+#include "command_table.h"
 #include "design_lisp.h"
-#include "document_commands.h"
 #include "symbol_entity.h"
 
 namespace {
@@ -14,18 +12,13 @@ constexpr wchar_t kGroup[] = L"QVX_DESIGN";
 
 AcEdCommandStack* Commands() { return AcEdCommandStack::cast(acrxSysRegistry()->at(ACRX_CMDS)); }
 
-void RegisterAll(AcEdCommandStack& stack, const DesignCommand* commands, int count) {
-  for (int i = 0; i < count; ++i)
-    stack.addCommand(kGroup, commands[i].name, commands[i].name, commands[i].flags,
-                     commands[i].run);
-}
-
 void Register() {
   AcEdCommandStack* stack = Commands();
   if (!stack) return;
-  RegisterAll(*stack, kDesignCommands, kDesignCommandCount);
-  RegisterAll(*stack, kAnnotationCommands, kAnnotationCommandCount);
-  RegisterAll(*stack, kDocumentCommands, kDocumentCommandCount);
+  for (int i = 0; i < kDesignCommandCount; ++i) {
+    const DesignCommand& command = kDesignCommands[i];
+    stack->addCommand(kGroup, command.name, command.name, command.flags, command.run);
+  }
 }
 
 void InvokeFunction() {

@@ -1,7 +1,6 @@
-// Commands for drawings and symbols: TSymbol, TDocSwitch.
+// Commands for tests of the shell: an object of a class that is derived from the host's, and
+// whether other drawings may be activated.
 #pragma once
 
-#include "design_commands.h"
-
-extern const DesignCommand kDocumentCommands[];
-extern const int kDocumentCommandCount;
+void DrawSymbol();
+void SwitchActivation();

@@ -1,7 +1,9 @@
 // The command; see the header. The host's WBLOCK writes the file and prints why it can't.
 #include "export_drawing.h"
 
+#include <algorithm>
 #include <cwchar>
+#include <cwctype>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -27,16 +29,21 @@ fs::path FullPathOf(const wchar_t* typed) {
   return error ? path : full.lexically_normal();
 }
 
+bool SameName(const std::wstring& a, const std::wstring& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](wchar_t x, wchar_t y) { return std::towlower(x) == std::towlower(y); });
+}
+
 bool IsFileOfOpenDrawing(const fs::path& path) {
   const std::unique_ptr<AcApDocumentIterator> at(acDocManagerPtr()->newAcApDocumentIterator());
   for (; at && !at->done(); at->step())
-    if (_wcsicmp(at->document()->fileName(), path.c_str()) == 0) return true;
+    if (SameName(at->document()->fileName(), path.wstring())) return true;
   return false;
 }
 
 bool MayReplace(const fs::path& path) {
   ACHAR answer[140] = L"";
-  acutPrintf(L"\n%ls 已存在。", path.c_str());
+  acutPrintf(L"\n%ls 已存在。", path.wstring().c_str());
   acedInitGet(0, L"Yes No");
   return acedGetKword(L"\n是否替换? [是(Y)/否(N)] <N>: ", answer) == RTNORM &&
          std::wcscmp(answer, L"Yes") == 0;
@@ -58,7 +65,7 @@ fs::path AskTarget() {
   }
   const fs::path path = FullPathOf(typed);
   if (IsFileOfOpenDrawing(path)) {
-    acutPrintf(L"\n%ls 是打开的图形，请用另一个文件名。\n", path.c_str());
+    acutPrintf(L"\n%ls 是打开的图形，请用另一个文件名。\n", path.wstring().c_str());
     return {};
   }
   return TimeOf(path) && !MayReplace(path) ? fs::path() : path;
@@ -71,10 +78,11 @@ void ExportDrawing() {
   const fs::path path = AskTarget();
   if (path.empty()) return;
   const auto before = TimeOf(path);
-  const int status = acedCommandS(RTSTR, L"_WBLOCK", RTSTR, path.c_str(), RTSTR, L"*", RTNONE);
+  const int status =
+      acedCommandS(RTSTR, L"_WBLOCK", RTSTR, path.wstring().c_str(), RTSTR, L"*", RTNONE);
   const auto after = TimeOf(path);
   if (status == RTNORM && after && after != before)
-    acutPrintf(L"\n整图已导出: %ls\n", path.c_str());
+    acutPrintf(L"\n整图已导出: %ls\n", path.wstring().c_str());
   else
-    acutPrintf(L"\n整图导出失败: %ls\n", path.c_str());
+    acutPrintf(L"\n整图导出失败: %ls\n", path.wstring().c_str());
 }

@@ -1,5 +1,4 @@
-// The commands that the sample module registers. Other commands of the menu are unknown to the
-// host, which reports them.
+// All commands of the product menu that no other module defines, and further commands of this one.
 #pragma once
 
 #include "accmd.h"
@@ -12,3 +11,6 @@ struct DesignCommand {
 
 extern const DesignCommand kDesignCommands[];
 extern const int kDesignCommandCount;
+
+// Prints that the running command belongs to a module that is not part of this package.
+void TellNotInPackage();
