@@ -1,7 +1,5 @@
 #include "frame/settings/settings_index.h"
 
-#include "qvx_version.h"
-
 const wchar_t kProfileFolder[] = L"<CPROFILE>";
 
 namespace {
