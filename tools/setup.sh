@@ -12,7 +12,7 @@ qvx_install_missing() {
   local packages=(g++ cmake ninja-build libgtest-dev wine wine64 g++-mingw-w64-x86-64-posix xvfb
                   xdotool x11-utils fonts-wqy-microhei fonts-wine imagemagick nlohmann-json3-dev
                   libcli11-dev zlib1g-dev libz-mingw-w64-dev python3 ccache clang clang-format
-                  python3-clang-14 locales universal-ctags "$@")
+                  python3-clang-14 locales universal-ctags fp-utils "$@")
   local missing=() p
   for p in "${packages[@]}"; do
     [ "$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null)" = "install ok installed" ] || missing+=("$p")
