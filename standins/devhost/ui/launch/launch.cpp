@@ -19,6 +19,7 @@
 #include "devhost/ui/frame/host_actions.h"
 #include "devhost/ui/frame/host_ui_impl.h"
 #include "devhost/ui/frame/main_frame.h"
+#include "devhost/ui/launch/first_width.h"
 #include "devhost/ui/launch/host_app.h"
 #include "devhost/ui/launch/dialog_closer.h"
 #include "devhost/ui/launch/host_title.h"
@@ -187,6 +188,8 @@ int RunOnce(const LaunchOptions& options, bool* again) {
     driver = std::make_unique<PlayDriver>();
     if (!driver->Load({options.script, RestartCount(), options.longestWait})) return 2;
   }
+  // A play begins with the module's own default.
+  if (options.script.empty()) StoreFirstPaletteWidth(options);
   const OleScope ole;
   HostApp app(L"DevHost");
   AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL);
