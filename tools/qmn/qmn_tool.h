@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "qvx_version.h"
-
 #include "tools/qmn/message.h"
 
 constexpr char kToolVersion[] = QVX_VERSION;
