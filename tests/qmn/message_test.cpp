@@ -1,6 +1,5 @@
 // The two languages of the tool: every phrase of the sources has a translation with the same
 // places, and a run uses one language.
-#include <regex>
 #include <set>
 
 #include "tests/qmn/qmn_testing.h"
@@ -12,26 +11,42 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Reads the string literal at `at` and moves behind it; false if none begins or ends in its line.
+bool ReadLiteral(const std::string& source, std::size_t& at, std::string& text) {
+  if (at >= source.size() || source[at] != '"') return false;
+  std::string read;
+  for (std::size_t next = at + 1; next < source.size() && source[next] != '\n'; ++next) {
+    if (source[next] == '"') {
+      at = next + 1;
+      text += read;
+      return true;
+    }
+    if (source[next] == '\\') ++next;
+    if (next < source.size()) read += source[next];
+  }
+  return false;
+}
+
 // The phrases of a source: adjacent string literals that end in _say.
 std::vector<std::string> PhrasesIn(const std::string& source) {
-  static const std::regex phrase(R"re(((?:"(?:[^"\\\n]|\\.)*"\s*)+)_say)re");
-  static const std::regex literal(R"re("((?:[^"\\\n]|\\.)*)")re");
   std::vector<std::string> phrases;
-  for (std::sregex_iterator at(source.begin(), source.end(), phrase), end; at != end; ++at) {
-    const std::string literals = (*at)[1];
+  for (std::size_t start = 0; (start = source.find('"', start)) != source.npos; ++start) {
+    std::size_t at = start;
     std::string text;
-    for (std::sregex_iterator one(literals.begin(), literals.end(), literal); one != end; ++one)
-      text += (*one)[1];
-    phrases.push_back(std::regex_replace(text, std::regex(R"re(\\(.))re"), "$1"));
+    while (ReadLiteral(source, at, text))
+      if (source.compare(at, 4, "_say") != 0) at = source.find_first_not_of(" \t\r\n", at);
+    if (at >= source.size() || source.compare(at, 4, "_say") != 0) continue;
+    phrases.push_back(text);
+    start = at;
   }
   return phrases;
 }
 
 std::multiset<std::string> PlacesOf(const std::string& text) {
-  static const std::regex place(R"re(\{[0-9]\})re");
   std::multiset<std::string> places;
-  for (std::sregex_iterator at(text.begin(), text.end(), place), end; at != end; ++at)
-    places.insert(at->str());
+  for (std::size_t at = 0; at + 2 < text.size(); ++at)
+    if (text[at] == '{' && text[at + 1] >= '0' && text[at + 1] <= '9' && text[at + 2] == '}')
+      places.insert(text.substr(at, 3));
   return places;
 }
 
