@@ -59,7 +59,7 @@ void CMenuGroup::LayoutGroup() {
     RedrawWindow(&changed, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-// Where the rows exceed a limited height, those behind the open header lie over those ahead of it.
+// Where the rows exceed a limited height, those after the open header overlap those before it.
 // Clipped by its siblings, a row paints only where it also receives clicks: the earlier row is on
 // top.
 void CMenuGroup::ClipCoveredRows(const qvx::LayoutPlan& plan) {

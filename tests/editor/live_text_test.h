@@ -37,17 +37,6 @@ class LiveTextTest : public kerneltest::PickTest {
     Prepare(made, at, {});
     return made;
   }
-  // Cells of 3000 by 800 with the texts "0", "1" and so on.
-  QvxDbSheet* AddTable(int columns, int rows) {
-    auto* table = new QvxDbSheet;
-    table->width = 3000;
-    table->size = 800;
-    table->kind = columns;
-    table->flags = rows;
-    for (int i = 0; i < columns * rows; ++i) table->cells.push_back(std::to_wstring(i));
-    Prepare(table, {0, 10000, 0}, {});
-    return table;
-  }
   bool IsLit(const AcDbEntity* entity) {
     return devhost::IsHighlighted(*host.documents.Current(), entity->objectId());
   }

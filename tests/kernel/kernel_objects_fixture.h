@@ -52,6 +52,17 @@ class ObjectsTest : public hosttest::HostTest {
     if (entity) Append(entity);
     return entity;
   }
+  // Cells of 3000 by 800 with the texts "0", "1" and so on.
+  QvxDbSheet* AddTable(int columns, int rows) {
+    auto* table = new QvxDbSheet;
+    table->width = 3000;
+    table->size = 800;
+    table->kind = columns;
+    table->flags = rows;
+    for (int i = 0; i < columns * rows; ++i) table->cells.push_back(std::to_wstring(i));
+    Prepare(table, {0, 10000, 0}, {});
+    return table;
+  }
   AcDbBlockTableRecord* AddBlock(const wchar_t* name) {
     auto* record = new AcDbBlockTableRecord;
     record->setName(name);

@@ -72,16 +72,6 @@ class SubTexts : public kerneltest::ObjectsTest {
     if (!m_shows) ToggleModelNumber();
     m_shows = true;
   }
-  QvxDbSheet* AddTable(int columns, int rows) {
-    auto* table = new QvxDbSheet;
-    table->width = 3000;
-    table->size = 800;
-    table->kind = columns;
-    table->flags = rows;
-    for (int i = 0; i < columns * rows; ++i) table->cells.push_back(std::to_wstring(i));
-    Prepare(table, {0, 10000, 0}, {});
-    return table;
-  }
   // The indices of a walk from a fragment to the end of the chain.
   static std::vector<long> Walk(std::unique_ptr<TSubText> from, bool vertical, bool backward) {
     std::vector<long> indices;

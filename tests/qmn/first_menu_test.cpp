@@ -7,7 +7,7 @@
 namespace {
 
 struct Example {
-  std::string kind;  // the words behind ```
+  std::string kind;  // the words after ```
   std::string text;
 };
 

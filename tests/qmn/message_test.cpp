@@ -11,7 +11,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Reads the string literal at `at` and moves behind it; false if none begins or ends in its line.
+// Reads the string literal at `at` and sets `at` to its end. False if none begins there or it does
+// not end in its line.
 bool ReadLiteral(const std::string& source, std::size_t& at, std::string& text) {
   if (at >= source.size() || source[at] != '"') return false;
   std::string read;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The lines behind the heading "## CODE name", up to the next heading.
+// The lines below the heading "## CODE name", up to the next heading.
 std::string SectionOf(const char* document, const char* code) {
   std::istringstream lines(document);
   const std::string heading = std::string("## ") + code;

@@ -303,7 +303,7 @@ TEST_F(GroupWindows, RowsThatFillALimitedRootLeaveItsOpenGroupNoHeight) {
 }
 
 // Forty headers of 24 pixels in a window of 300: the open group's height is negative, so the rows
-// behind it lie over those ahead of it.
+// after it overlap those before it.
 TEST_F(GroupWindows, ARowThatIsCoveredInALimitedRootPaintsNothingAndGetsNoClick) {
   for (int i = 0; i < 40; ++i) AddLine(*AddHeader(bar, L"组"), L"行", L"x");
   CMenuGroup& group = Build(300, true);

@@ -8,7 +8,7 @@ namespace {
 
 bool IsOneOf(char32_t c, std::u32string_view set) { return set.find(c) != set.npos; }
 
-// The words at which a command begins: the first one, and the first one behind each run of ^C.
+// The words at which a command begins: the first one, and the first one after each run of ^C.
 class CommandWords {
  public:
   explicit CommandWords(const LineView& line) : m_line(line), m_text(line.Command()) {}
@@ -22,7 +22,7 @@ class CommandWords {
   }
 
  private:
-  // A '^' and the character behind it are never part of the text that is sent.
+  // A '^' and the character after it are never part of the text that is sent.
   bool IsPair(size_t at) const { return m_text[at] == U'^' && at + 1 < m_text.size(); }
   bool IsCancel(size_t at) const { return IsPair(at) && IsOneOf(m_text[at + 1], U"Cc"); }
   size_t BehindCancel(size_t at) const {

@@ -10,7 +10,7 @@ namespace devhost {
 struct LaunchOptions;
 
 // The labels of the rows of a menu source: of its block SCREEN and of its switches. An accelerator
-// behind a tab is part of its label, at a distance.
+// after a tab is part of its label, at a distance.
 std::vector<std::wstring> PaletteLabels(const std::wstring& source);
 
 // In pixels, for the menu of a product folder in the system's menu font; 0 without a menu source.
